@@ -1,0 +1,69 @@
+// Memory of one call: a bump allocator whose first chunk lies on the caller's stack, so that a small reply costs no
+// heap allocation. Everything is released at once when the call ends.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <new>
+
+namespace orrery {
+
+class Arena {
+  public:
+    // Starts in `first`, which must be aligned for any type and outlive the arena.
+    Arena(void* first, std::size_t size) noexcept : next_(static_cast<std::byte*>(first)), end_(next_ + size) {}
+    Arena(const Arena&) = delete;
+    Arena& operator=(const Arena&) = delete;
+    ~Arena() { Release(); }
+
+    // `bytes` bytes aligned to 8, or null when the heap has none left; the failure sticks to `failed()`.
+    void* Allocate(std::size_t bytes) noexcept {
+        const std::size_t rounded = (bytes + 7) & ~std::size_t{7};
+        if (rounded >= bytes && rounded <= static_cast<std::size_t>(end_ - next_)) {
+            void* const result = next_;
+            next_ += rounded;
+            return result;
+        }
+        return AllocateSlow(bytes);
+    }
+
+    template <class T>
+    T* Array(std::size_t count) noexcept {
+        if (count > static_cast<std::size_t>(-1) / 2 / sizeof(T)) return Fail<T>();
+        return static_cast<T*>(Allocate(count * sizeof(T)));
+    }
+
+    // True once an allocation has failed: the call that owns the arena then fails as a whole.
+    bool failed() const noexcept { return failed_; }
+
+  private:
+    struct Chunk {
+        Chunk* previous;
+    };
+
+    template <class T>
+    T* Fail() noexcept {
+        failed_ = true;
+        return nullptr;
+    }
+    void* AllocateSlow(std::size_t bytes) noexcept;
+    void Release() noexcept;
+
+    std::byte* next_;
+    std::byte* end_;
+    Chunk* chunks_ = nullptr;
+    std::size_t chunkSize_ = std::size_t{32} << 10;
+    bool failed_ = false;
+};
+
+// An arena with its first chunk inside itself, for a function's own frame.
+template <std::size_t Size>
+class StackArena : public Arena {
+  public:
+    StackArena() noexcept : Arena(storage_, Size) {}
+
+  private:
+    alignas(16) std::byte storage_[Size]; // left uninitialised on purpose: clearing it would cost every call
+};
+
+} // namespace orrery
