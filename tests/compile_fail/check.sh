@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# check.sh FILE COMPILER [FLAG...]: see CMakeLists.txt.
+set -euo pipefail
+file=$1
+shift
+phrase=$(sed -n 's|^.*must not compile: \(.*[^ */]\)[ */]*$|\1|p' "$file")
+[ -n "$phrase" ] || { echo "$file has no line 'must not compile: phrase'" >&2; exit 1; }
+
+if ! "$@" -DGOOD -fsyntax-only "$file"; then
+    echo "the correct form does not compile" >&2
+    exit 1
+fi
+if messages=$("$@" -fsyntax-only "$file" 2>&1); then
+    echo "the wrong form compiles" >&2
+    exit 1
+fi
+# The compiler quotes the source; the phrase must come from a message, not from that quotation.
+if ! grep -E '(error|note):' <<<"$messages" | grep -qF -- "$phrase"; then
+    printf '%s\n' "$messages" "the wrong form is refused, but not for: $phrase" >&2
+    exit 1
+fi
