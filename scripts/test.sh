@@ -1,0 +1,162 @@
+#!/usr/bin/env bash
+# Every test there is. Stages, in order: format, release, gcc, asan, fuzz, tsan; name some to run only those.
+# A stage that fails does not stop the others. The last line is "N passed, M failed": one for each test that ctest ran,
+# each fuzz target and each stage that could not run its tests. What failed stands above it.
+# Results stay in build/results: JUnit files, a log a stage, fuzz findings.
+# FUZZ_SECONDS (30) is the time for each fuzz target.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+root=$PWD
+results=$root/build/results
+fuzz_seconds=${FUZZ_SECONDS:-30}
+jobs=$(nproc)
+
+all_stages=(format release gcc asan fuzz tsan)
+stages=("$@")
+if [ ${#stages[@]} -eq 0 ]; then stages=("${all_stages[@]}"); fi
+for stage in "${stages[@]}"; do
+    case " ${all_stages[*]} " in
+    *" $stage "*) ;;
+    *)
+        echo "test: no stage '$stage'; stages are: ${all_stages[*]}" >&2
+        exit 2
+        ;;
+    esac
+done
+
+passed=0
+failed=0
+failures=()
+times=()
+
+build() { # build PRESET BUILD_DIR
+    cmake --preset "$1"
+    cmake --build "$2" -j "$jobs"
+}
+
+# Which tests failed is read from the JUnit file, so ctest's own complaint stands only where that file explains nothing.
+tests() { # tests STAGE BUILD_DIR [CTEST_ARGUMENT...]
+    local stage=$1 dir=$2
+    shift 2
+    ctest --test-dir "$dir" -j "$jobs" --output-on-failure --no-tests=error --output-junit "$results/$stage.xml" "$@" ||
+        grep -Eq '<testcase .* status="(fail|notrun|disabled)"' "$results/$stage.xml"
+}
+
+stage_format() { scripts/format.sh --check; }
+
+stage_release() {
+    build release build
+    [ -e build/liborrery.so ]
+    [ -x build/orrery ]
+}
+
+stage_gcc() {
+    build test build/test
+    tests gcc build/test
+}
+
+# Leaks count as failures; a report names source lines.
+export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
+export UBSAN_OPTIONS=print_stacktrace=1
+ASAN_SYMBOLIZER_PATH=$(command -v llvm-symbolizer-14 || true)
+export ASAN_SYMBOLIZER_PATH
+
+stage_asan() {
+    build asan build/asan
+    tests asan build/asan
+}
+
+# Each target starts from its checked-in corpus and collects what it finds outside the tree.
+stage_fuzz() {
+    build asan build/asan
+    local target name found=0
+    : >"$results/fuzz.txt"
+    for target in build/asan/fuzz/fuzz_*; do
+        [ -f "$target" ] && [ -x "$target" ] || continue
+        found=1
+        name=${target##*/fuzz_}
+        [ -d "fuzz/corpus/$name" ] || {
+            echo "fuzz: no corpus fuzz/corpus/$name" >&2
+            echo "failed fuzz_$name" >>"$results/fuzz.txt"
+            continue
+        }
+        mkdir -p "$results/fuzz/$name"
+        echo "fuzz: $name, $fuzz_seconds s"
+        if "$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+            -artifact_prefix="$results/fuzz/$name-" "$results/fuzz/$name" "fuzz/corpus/$name"; then
+            echo "passed fuzz_$name" >>"$results/fuzz.txt"
+        else
+            echo "fuzz: $name failed; the input is $results/fuzz/$name-*" >&2
+            echo "failed fuzz_$name" >>"$results/fuzz.txt"
+        fi
+    done
+    [ $found -eq 1 ] || { echo "fuzz: no target was built" >&2; return 1; }
+}
+
+stage_tsan() {
+    build tsan build/tsan
+    tests tsan build/tsan -R Thread
+}
+
+# Adds up what a stage left behind. A stage without results of its own counts as one.
+collect() { # collect STAGE STATUS
+    local stage=$1 status=$2 ran=0 name
+    if [ -s "$results/$stage.xml" ]; then
+        while read -r state name; do
+            ran=1
+            case $state in
+            run) passed=$((passed + 1)) ;;
+            disabled | notrun) failures+=("$stage: $name was not run") failed=$((failed + 1)) ;;
+            *) failures+=("$stage: $name") failed=$((failed + 1)) ;;
+            esac
+        done < <(sed -n 's/.*<testcase name="\([^"]*\)".* status="\([a-z]*\)".*/\2 \1/p' "$results/$stage.xml")
+    elif [ -s "$results/$stage.txt" ]; then
+        while read -r state name; do
+            ran=1
+            if [ "$state" = passed ]; then
+                passed=$((passed + 1))
+            else
+                failures+=("$stage: $name") failed=$((failed + 1))
+            fi
+        done <"$results/$stage.txt"
+    fi
+    if [ "$status" -ne 0 ]; then
+        failures+=("$stage: the stage itself; see build/results/$stage.log") failed=$((failed + 1))
+    elif [ $ran -eq 0 ]; then
+        passed=$((passed + 1))
+    fi
+}
+
+run_stage() {
+    local stage=$1 status=0 start=$SECONDS
+    echo
+    echo "=== $stage"
+    rm -rf "${results:?}/$stage" "${results:?}/$stage".*
+    # Not in a condition: there the stage would run on after its first failing command.
+    set +e
+    (set -euo pipefail; "stage_$stage") 2>&1 | tee "$results/$stage.log"
+    status=${PIPESTATUS[0]}
+    set -e
+    collect "$stage" "$status"
+    times+=("$(printf '%-8s %4d s' "$stage" $((SECONDS - start)))")
+    echo "=== $stage: $((SECONDS - start)) s"
+}
+
+SECONDS=0
+scripts/install-deps.sh all
+times+=("$(printf '%-8s %4d s' install "$SECONDS")")
+if command -v ccache >/dev/null; then export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+mkdir -p "$results"
+for stage in "${stages[@]}"; do
+    run_stage "$stage"
+done
+
+echo
+echo "=== times"
+printf '%s\n' "${times[@]}" "$(printf '%-8s %4d s' total "$SECONDS")"
+if [ $failed -gt 0 ]; then
+    echo "=== failed"
+    printf '%s\n' "${failures[@]}"
+fi
+echo "$passed passed, $failed failed"
+[ $failed -eq 0 ]
