@@ -4,7 +4,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config libcli11-dev)
-test=(binutils ccache clang-14 clang-format-14 llvm-14 libclang-rt-14-dev git libgmock-dev libgtest-dev libjsoncpp-dev
+test=(binutils ccache clang-14 clang-format-14 llvm-14 libclang-rt-14-dev libgmock-dev libgtest-dev libjsoncpp-dev
     locales)
 bench=(libbenchmark-dev libsimdjson-dev nlohmann-json3-dev rapidjson-dev)
 
