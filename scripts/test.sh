@@ -66,31 +66,28 @@ stage_asan() {
     tests asan build/asan
 }
 
-# Each target starts from its checked-in corpus and collects what it finds outside the tree.
+# Each fuzz/NAME_fuzz.cpp is a target. It starts from fuzz/corpus/NAME and collects what it finds outside the tree.
 stage_fuzz() {
     build asan build/asan
-    local target name found=0
+    local source target name found=0
     : >"$results/fuzz.txt"
-    for target in build/asan/fuzz/fuzz_*; do
-        [ -f "$target" ] && [ -x "$target" ] || continue
+    for source in fuzz/*.cpp; do
+        [ -e "$source" ] || continue
         found=1
-        name=${target##*/fuzz_}
-        [ -d "fuzz/corpus/$name" ] || {
-            echo "fuzz: no corpus fuzz/corpus/$name" >&2
-            echo "failed fuzz_$name" >>"$results/fuzz.txt"
-            continue
-        }
-        mkdir -p "$results/fuzz/$name"
+        target=$(basename "$source" .cpp)
+        name=${target%_fuzz}
         echo "fuzz: $name, $fuzz_seconds s"
-        if "$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
-            -artifact_prefix="$results/fuzz/$name-" "$results/fuzz/$name" "fuzz/corpus/$name"; then
-            echo "passed fuzz_$name" >>"$results/fuzz.txt"
+        mkdir -p "$results/fuzz/$name"
+        if [ -d "fuzz/corpus/$name" ] && "build/asan/fuzz/$target" -max_total_time="$fuzz_seconds" -timeout=10 \
+            -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$results/fuzz/$name-" \
+            "$results/fuzz/$name" "fuzz/corpus/$name"; then
+            echo "passed $target" >>"$results/fuzz.txt"
         else
-            echo "fuzz: $name failed; the input is $results/fuzz/$name-*" >&2
-            echo "failed fuzz_$name" >>"$results/fuzz.txt"
+            echo "fuzz: $target failed: no fuzz/corpus/$name, no such executable, or an input build/results/fuzz/$name-*" >&2
+            echo "failed $target" >>"$results/fuzz.txt"
         fi
     done
-    [ $found -eq 1 ] || { echo "fuzz: no target was built" >&2; return 1; }
+    [ $found -eq 1 ] || { echo "fuzz: no target in fuzz/" >&2; return 1; }
 }
 
 stage_tsan() {
