@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs a build into an empty prefix and looks at what is there.
-# install.sh BUILD_DIR PREFIX SOURCE_DIR
+# install.sh BUILD_DIR PREFIX SOURCE_DIR [COMPANION]
 set -euo pipefail
-build=$1 prefix=$2 source=$3
+build=$1 prefix=$2 source=$3 companion=${4:-}
 rm -rf "$prefix"
 cmake --install "$build" --prefix "$prefix"
 
@@ -20,7 +20,7 @@ want "lib*/liborrery.so"
 want "lib*/liborrery.so.[0-9]"
 want "lib*/cmake/orrery/orreryConfig.cmake"
 want "lib*/pkgconfig/orrery.pc"
-[ ! -e "$build/orrery" ] || want "bin/orrery"
+[ -z "$companion" ] || want "bin/$companion"
 # A package must not know the folder that it was built in.
 if grep -rIlF -e "$build" -e "$source" "$prefix" >&2; then
     echo "the files above name the build's own folders" >&2
