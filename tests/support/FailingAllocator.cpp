@@ -60,7 +60,9 @@ HeapWatch::HeapWatch() {
     watch = Watch{};
     watch.active = true;
 }
-HeapWatch::~HeapWatch() { watch = Watch{}; }
+HeapWatch::~HeapWatch() {
+    watch = Watch{};
+}
 
 void HeapWatch::FailOnly(std::size_t n) {
     watch.failAt = n;
@@ -71,11 +73,21 @@ void HeapWatch::FailFrom(std::size_t n) {
     FailOnly(n);
     watch.onwards = true;
 }
-void HeapWatch::FailNone() { FailOnly(0); }
+void HeapWatch::FailNone() {
+    FailOnly(0);
+}
 
-std::size_t HeapWatch::allocations() const { return watch.allocations; }
-std::size_t HeapWatch::failures() const { return watch.failures; }
-std::ptrdiff_t HeapWatch::liveBlocks() const { return watch.liveBlocks; }
-std::ptrdiff_t HeapWatch::liveBytes() const { return watch.liveBytes; }
+std::size_t HeapWatch::allocations() const {
+    return watch.allocations;
+}
+std::size_t HeapWatch::failures() const {
+    return watch.failures;
+}
+std::ptrdiff_t HeapWatch::liveBlocks() const {
+    return watch.liveBlocks;
+}
+std::ptrdiff_t HeapWatch::liveBytes() const {
+    return watch.liveBytes;
+}
 
 } // namespace orrery::test
