@@ -43,6 +43,8 @@ class Arena {
 
     // True once an allocation has failed: the call that owns the arena then fails as a whole.
     bool failed() const noexcept { return failed_; }
+    // For whoever could not get another resource that the call cannot go on without.
+    void MarkFailed() noexcept { failed_ = true; }
 
   private:
     struct Chunk {
