@@ -33,8 +33,18 @@ class Arena {
         return static_cast<T*>(Allocate(count * sizeof(T)));
     }
 
+    // The allocation that nobody could have granted: a size beyond all counting.
+    void Exhaust() noexcept { failed_ = true; }
+
+    // A few bytes that are always there, aligned to 16: what a caller who can't be refused writes into when the arena
+    // is exhausted. Nobody reads them.
+    static constexpr std::size_t kSpareSize = 16;
+    void* Spare() noexcept { return spare_; }
+
     // True once an allocation has failed: the call that owns the arena then fails as a whole.
     bool failed() const noexcept { return failed_; }
+    // For whoever could not get another resource that the call cannot go on without.
+    void MarkFailed() noexcept { failed_ = true; }
 
   private:
     struct Chunk {
@@ -54,6 +64,7 @@ class Arena {
     Chunk* chunks_ = nullptr;
     std::size_t chunkSize_ = std::size_t{32} << 10;
     bool failed_ = false;
+    alignas(16) std::byte spare_[kSpareSize];
 };
 
 // An arena with its first chunk inside itself, for a function's own frame.

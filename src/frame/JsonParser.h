@@ -32,10 +32,12 @@ class JsonParser {
     bool GetJsonString(const json::Value& value, char* destination, std::size_t capacity, bool convert) noexcept;
     // Nothing at all when the destination is null or the value is null.
     bool GetJsonStringIfPresent(const json::Value& value, char* destination, std::size_t capacity) noexcept;
-    // At most `limit` bytes of the string, converted. `room` is what really stands behind `destination`.
+    // At most `limit` bytes of the string, converted and terminated; an empty string or no string at all leaves the
+    // destination as it is. `room` is what really stands behind `destination`. True when the value was a string.
     bool GetJsonStringBounded(const json::Value& value, char* destination, std::size_t limit,
                               std::size_t room) noexcept;
     // False and nothing written when the source is null. A source without a terminator ends at `capacity` bytes.
+    // Converted text is cut at one and a half times the source's bytes.
     bool SetJsonString(json::TextWriter& out, const char* source, std::size_t capacity, bool convert) noexcept;
 
     // ---- Times ---------------------------------------------------------------------------------------------------
@@ -56,14 +58,14 @@ class JsonParser {
     static bool GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* sections, int limit) noexcept;
     static bool SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept;
 
-    static bool GetNetTime(const json::Value& value, NET_TIME* time) noexcept;     // "%04d-%02d-%02d %02d:%02d:%02d"
+    static bool GetNetTime(const json::Value& value, NET_TIME* time) noexcept; // "%04d-%02d-%02d %02d:%02d:%02d"
     static void SetNetTime(json::TextWriter& out, const NET_TIME* time) noexcept;
     static bool GetNetTimeEx(const json::Value& value, NET_TIME_EX* time) noexcept; // ... and ".%d"
     static void SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) noexcept;
     static bool GetClockTime(const json::Value& value, NET_TIME* time) noexcept; // "%02d:%02d:%02d", the date stays
     static void SetClockTime(json::TextWriter& out, const NET_TIME* time) noexcept;
     static bool GetDate(const json::Value& value, NET_TIME* time) noexcept; // "%04d-%02d-%02d", the time stays
-    // Seconds since 1970 in UTC; all fields 0 when the year does not fit the record.
+    // Seconds since 1970 in UTC; all fields 0 when the record, or the C library's own calendar, cannot hold the year.
     static NET_TIME UtcSecondsToNetTime(std::int64_t seconds) noexcept;
 
     // ---- Fixed arrays of numbers -----------------------------------------------------------------------------------
@@ -104,6 +106,7 @@ class JsonParser {
 
     // [ degrees, minutes, seconds, ... ] in millionths of a degree; 0 when shorter than three.
     static double GpsDegreesToMicro(const json::Value& value) noexcept;
+    // Truncated toward zero; what does not fit becomes the nearest number that does, and 0 if it is no number.
     static std::int32_t GpsDegreesToMicroInt(const json::Value& value) noexcept;
 
   private:

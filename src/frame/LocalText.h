@@ -1,6 +1,10 @@
 // Text between UTF-8, which documents carry, and the multibyte encoding of the process's locale (LC_CTYPE), which
 // records carry. Under UTF-8 and the plain C locale both directions are a bounded copy; any other codeset goes through
 // iconv. One object a call: it keeps the conversion descriptors that it needed open until the call ends.
+//
+// What cannot be converted becomes '?', as a code page conversion would have it: one for a character that the other
+// encoding lacks, one for the longest well-begun part of a broken UTF-8 sequence, one for each byte that is no
+// character of the local encoding. A codeset that iconv does not know fails the arena, as a lack of memory does.
 #pragma once
 
 #include "frame/Arena.h"
@@ -12,7 +16,7 @@ namespace orrery {
 
 class LocalText {
   public:
-    // Looks at the locale of the calling thread; `arena` holds the intermediate text of a conversion.
+    // Looks at the locale of the calling thread; `arena` learns of a conversion that cannot be had.
     explicit LocalText(Arena& arena) noexcept;
     LocalText(const LocalText&) = delete;
     LocalText& operator=(const LocalText&) = delete;
@@ -21,6 +25,8 @@ class LocalText {
     Arena& arena() const noexcept { return arena_; }
     // True when both directions are a bounded copy.
     bool isCopy() const noexcept { return isCopy_; }
+    // True when both directions leave this very text as it is.
+    bool isCopyOf(std::string_view text) const noexcept { return isCopy_ || (keepsAscii_ && IsAscii(text)); }
 
     // Converts `length` bytes at `source` into `destination` and terminates the result. Returns the count of bytes
     // written without the terminator; 0, with nothing touched, when a pointer is null or a size is below 1.
@@ -31,10 +37,16 @@ class LocalText {
     int ConvertLocalToUtf8(const char* source, int length, char* destination, int capacity) noexcept;
 
   private:
+    static bool IsAscii(std::string_view text) noexcept;
+    // The descriptor in `slot`, opened at first use; null, with the arena failed, when it cannot be.
+    void* Open(void*& slot, const char* to, const char* from) noexcept;
+
     Arena& arena_;
     bool isCopy_;
-    void* toLocal_; // iconv descriptors, opened at first use
-    void* toUtf8_;
+    bool keepsAscii_ = false; // the codeset is not UTF-8, yet has ASCII at its place
+    char codeset_[48];
+    void* toLocal_ = nullptr; // iconv descriptors
+    void* toUtf8_ = nullptr;
 };
 
 } // namespace orrery

@@ -8,6 +8,7 @@
 
 #include "frame/json/Value.h"
 
+#include <charconv>
 #include <cstring>
 
 namespace orrery::json {
@@ -16,36 +17,96 @@ class TextWriter {
   public:
     // Never writes past `capacity` bytes; counts on when the room is used up, so that `length()` tells what the text
     // would have needed. `buffer` may be null when `capacity` is 0.
-    TextWriter(char* buffer, std::size_t capacity) noexcept
-        : begin_(buffer), next_(buffer), end_(buffer + capacity) {}
+    TextWriter(char* buffer, std::size_t capacity) noexcept : begin_(buffer), next_(buffer), end_(buffer + capacity) {}
 
-    void Null() noexcept;
-    void Bool(bool flag) noexcept;
-    void Int(std::int32_t number) noexcept;
-    void UInt(std::uint32_t number) noexcept;
+    void Null() noexcept { Scalar("null", 4); }
+    void Bool(bool flag) noexcept { flag ? Scalar("true", 4) : Scalar("false", 5); }
+    void Int(std::int32_t number) noexcept { Integer(number); }
+    void UInt(std::uint32_t number) noexcept { Integer(number); }
     // The digits of printf's "%#.16g", whatever the locale.
     void Real(double number) noexcept;
     // Quoted, with `"`, `\`, `/` and the bytes 8, 9, 10, 12, 13 escaped; every other byte as it stands.
-    void String(std::string_view text) noexcept;
+    void String(std::string_view text) noexcept {
+        Separate();
+        Quote(text);
+    }
 
-    void BeginArray() noexcept;
-    void EndArray() noexcept;
-    void BeginObject() noexcept;
-    void EndObject() noexcept;
-    void Key(std::string_view key) noexcept;
+    void BeginArray() noexcept {
+        Separate();
+        Append("[ ", 2);
+        first_ = true;
+    }
+    void EndArray() noexcept {
+        Append(" ]", 2);
+        first_ = false;
+    }
+    void BeginObject() noexcept {
+        Separate();
+        Append("{ ", 2);
+        first_ = true;
+    }
+    void EndObject() noexcept {
+        Append(" }", 2);
+        first_ = false;
+    }
+    void Key(std::string_view key) noexcept {
+        Separate();
+        Quote(key);
+        Append(" : ", 3);
+        first_ = true;
+    }
+    // A key that is written already, as in `"Enable" : ` with its quotes, its colon and both blanks.
+    void RawKey(std::string_view quoted) noexcept {
+        Separate();
+        Append(quoted.data(), quoted.size());
+        first_ = true;
+    }
 
     // A whole value, of any depth and without recursion. False when `arena`, which holds the writer's place on the way
     // down, is exhausted.
     bool Write(const Value& value, Arena& arena) noexcept;
 
     // The newline that every text ends in.
-    void EndText() noexcept;
+    void EndText() noexcept { Append("\n", 1); }
 
-    // Length of the text so far, whether it fitted or not.
+    // Length of the text so far, whether it fitted or not. What did not fit is missing at its end only.
     std::size_t length() const noexcept { return static_cast<std::size_t>(next_ - begin_) + lost_; }
     bool fits() const noexcept { return lost_ == 0; }
 
   private:
+    // Longer than any 32-bit number.
+    static constexpr std::ptrdiff_t kIntegerRoom = 12;
+
+    void Append(const char* text, std::size_t size) noexcept {
+        if (size <= static_cast<std::size_t>(end_ - next_) && size > 0) [[likely]] {
+            std::memcpy(next_, text, size);
+            next_ += size;
+        } else {
+            AppendPart(text, size);
+        }
+    }
+    void Separate() noexcept {
+        if (!first_) Append(", ", 2);
+        first_ = false;
+    }
+    void Scalar(const char* text, std::size_t size) noexcept {
+        Separate();
+        Append(text, size);
+    }
+    template <class Number>
+    void Integer(Number number) noexcept {
+        Separate();
+        if (end_ - next_ >= kIntegerRoom) [[likely]] {
+            next_ = std::to_chars(next_, end_, number).ptr;
+        } else {
+            char digits[kIntegerRoom];
+            Append(digits, static_cast<std::size_t>(std::to_chars(digits, digits + kIntegerRoom, number).ptr - digits));
+        }
+    }
+    void AppendPart(const char* text, std::size_t size) noexcept;
+    void Quote(std::string_view text) noexcept;
+    void Escaped(const char* p, const char* end) noexcept;
+
     char* begin_;
     char* next_;
     char* end_;

@@ -1,5 +1,6 @@
 // One value of a JSON document. Values are plain 16-byte words over an arena: they own nothing, copy freely and stay
-// valid as long as the arena and, for texts without escapes, the parsed text itself.
+// valid as long as the arena and, for texts without escapes, the parsed text itself. A copy shares its elements and
+// members with the original, so only one of the two may grow afterwards.
 //
 // Devices send whatever they like, so nothing here ever fails: a look-up that misses yields null, a conversion of an
 // unfitting type yields zero, false or empty.
@@ -9,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string_view>
 
@@ -20,16 +22,44 @@ struct Member;
 
 class Value {
   public:
-    constexpr Value() noexcept : type_(Type::Null), size_(0), payload_{} {}
-    static Value OfInt(std::int32_t number) noexcept;
-    static Value OfUInt(std::uint32_t number) noexcept;
-    static Value OfReal(double number) noexcept;
-    static Value OfBool(bool flag) noexcept;
+    constexpr Value() noexcept : type_(Type::Null), growth_(0), size_(0), payload_{} {}
+    static Value OfInt(std::int32_t number) noexcept {
+        Value value(Type::Int);
+        value.payload_.number = number;
+        return value;
+    }
+    static Value OfUInt(std::uint32_t number) noexcept {
+        Value value(Type::UInt);
+        value.payload_.unsignedNumber = number;
+        return value;
+    }
+    static Value OfReal(double number) noexcept {
+        Value value(Type::Real);
+        value.payload_.real = number;
+        return value;
+    }
+    static Value OfBool(bool flag) noexcept {
+        Value value(Type::Bool);
+        value.payload_.flag = flag;
+        return value;
+    }
     // The text must outlive the value.
-    static Value OfString(std::string_view text) noexcept;
+    static Value OfString(std::string_view text) noexcept {
+        Value value(Type::String, static_cast<std::uint32_t>(text.size()));
+        value.payload_.text = text.data();
+        return value;
+    }
     // Elements and members must outlive the value; members are in ascending key order without duplicates.
-    static Value OfArray(Value* elements, std::uint32_t count) noexcept;
-    static Value OfObject(Member* members, std::uint32_t count) noexcept;
+    static Value OfArray(Value* elements, std::uint32_t count) noexcept {
+        Value value(Type::Array, count);
+        value.payload_.elements = elements;
+        return value;
+    }
+    static Value OfObject(Member* members, std::uint32_t count) noexcept {
+        Value value(Type::Object, count);
+        value.payload_.members = members;
+        return value;
+    }
 
     Type type() const noexcept { return type_; }
     bool isNull() const noexcept { return type_ == Type::Null; }
@@ -45,12 +75,16 @@ class Value {
     // Elements of an array or members of an object; 0 for anything else.
     std::uint32_t size() const noexcept { return type_ >= Type::Array ? size_ : 0; }
 
-    bool asBool() const noexcept;
-    std::int32_t asInt() const noexcept;
-    std::uint32_t asUInt() const noexcept;
-    double asDouble() const noexcept;
+    bool asBool() const noexcept { return type_ == Type::Bool ? payload_.flag : ConvertToBool(); }
+    std::int32_t asInt() const noexcept { return type_ == Type::Int ? payload_.number : ConvertToInt(); }
+    std::uint32_t asUInt() const noexcept { return type_ == Type::UInt ? payload_.unsignedNumber : ConvertToUInt(); }
+    double asDouble() const noexcept { return type_ == Type::Real ? payload_.real : ConvertToDouble(); }
     // A string's text, "true" or "false" for a bool, empty for everything else: digits of a number never come back.
-    std::string_view asString() const noexcept;
+    std::string_view asString() const noexcept {
+        if (type_ == Type::String) return {payload_.text, size_};
+        if (type_ == Type::Bool) return payload_.flag ? "true" : "false";
+        return {};
+    }
 
     // The member of that name, or a null value.
     const Value& operator[](std::string_view key) const noexcept;
@@ -58,12 +92,15 @@ class Value {
     const Value& operator[](std::uint32_t index) const noexcept;
 
     // Empty for anything that is not an array or not an object.
-    std::span<const Value> elements() const noexcept;
+    std::span<const Value> elements() const noexcept {
+        return type_ == Type::Array ? std::span<const Value>{payload_.elements, size_} : std::span<const Value>{};
+    }
     std::span<const Member> members() const noexcept;
 
     // For texts whose keys are known only at run time. Each turns the value into an empty object (array) first when it
-    // is none, inserts a null member (elements up to `index`) when there is none yet, and returns it. When the arena is
-    // exhausted the result is a value that nobody reads, and the arena has failed.
+    // is none, inserts a null member (elements up to `index`) when there is none yet, and returns it; the key's text is
+    // copied. When the arena is exhausted the result is a value that nobody reads, and the arena has failed. The result
+    // is good until the next call of At on the same value. Members cost least when they come in ascending key order.
     Value& At(Arena& arena, std::string_view key) noexcept;
     Value& At(Arena& arena, std::uint32_t index) noexcept;
 
@@ -78,7 +115,16 @@ class Value {
         Member* members;
     };
 
+    explicit Value(Type type, std::uint32_t size = 0) noexcept : type_(type), growth_(0), size_(size), payload_{} {}
+
+    bool ConvertToBool() const noexcept;
+    std::int32_t ConvertToInt() const noexcept;
+    std::uint32_t ConvertToUInt() const noexcept;
+    double ConvertToDouble() const noexcept;
+    std::uint32_t Capacity() const noexcept;
+
     Type type_;
+    std::uint8_t growth_; // 0: no room beyond size_; otherwise there is room for 2^growth_ elements or members
     std::uint32_t size_;
     Payload payload_;
 };
@@ -93,11 +139,31 @@ struct Member {
     std::string_view key() const noexcept { return {keyText, keySize}; }
 };
 
+static_assert(sizeof(Member) == 32);
+
+// Keys are ordered by their bytes, taken as unsigned: below zero, zero or above zero as memcmp tells it.
+inline int CompareKeys(std::string_view left, std::string_view right) noexcept {
+    const std::size_t common = left.size() < right.size() ? left.size() : right.size();
+    const int order = common == 0 ? 0 : std::memcmp(left.data(), right.data(), common);
+    if (order != 0) return order;
+    return left.size() < right.size() ? -1 : left.size() > right.size() ? 1 : 0;
+}
+
 // The shared null value that misses yield.
 extern const Value kNull;
 
-// The number of array levels of a value: 0 for a scalar or an object, -1 for null. A long array is sampled at every
-// ((size >> sampleShift) + 1)-th element rather than walked, so a scalar between two samples goes unnoticed.
-int ArrayDepth(const Value& value, unsigned sampleShift) noexcept;
+inline const Value& Value::operator[](std::uint32_t index) const noexcept {
+    return type_ == Type::Array && index < size_ ? payload_.elements[index] : kNull;
+}
+
+inline std::span<const Member> Value::members() const noexcept {
+    return type_ == Type::Object ? std::span<const Member>{payload_.members, size_} : std::span<const Member>{};
+}
+
+// The number of array levels of a value: 0 for a scalar or an object, -1 for null, for an array one more than the least
+// of its elements, where the first scalar after the leading element settles it. A long array is sampled at every
+// ((size >> sampleShift) + 1)-th element rather than walked, so a scalar between two samples goes unnoticed. The arena
+// holds the way back up from great depths; 0 when it is exhausted.
+int ArrayDepth(const Value& value, unsigned sampleShift, Arena& arena) noexcept;
 
 } // namespace orrery::json

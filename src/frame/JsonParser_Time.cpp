@@ -1,0 +1,239 @@
+// Periods of a day and calendar texts.
+#include "frame/JsonParser.h"
+#include "frame/JsonParser_Scan.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+
+namespace orrery {
+
+namespace {
+
+using scan::Scanner;
+
+constexpr int kSectionFields = 7;
+constexpr char kSectionSeparators[] = " ::-::";
+constexpr unsigned char kSectionWidths[kSectionFields] = {0, 2, 2, 2, 2, 2, 2};
+constexpr unsigned char kAnyWidths[kSectionFields] = {};
+
+constexpr char kDateTimeSeparators[] = "-- ::.";
+constexpr unsigned char kDateTimeWidths[] = {4, 2, 2, 2, 2, 2, 0};
+constexpr char kClockSeparators[] = "::";
+constexpr unsigned char kClockWidths[] = {2, 2, 2};
+
+// Records are reached by offset: a member of a record at an odd address must not be named.
+constexpr std::size_t kScheduleHoliday = offsetof(CFG_TIME_SCHEDULE, bEnableHoliday);
+constexpr std::size_t kScheduleSections = offsetof(CFG_TIME_SCHEDULE, stuTimeSection);
+
+constexpr std::size_t kTextRoom = 96; // seven numbers of 11 characters and what separates them
+
+// As many fields as were read into the first words of `record`, which may lie at any address.
+void Store(void* record, const std::int32_t* fields, int count) noexcept {
+    std::memcpy(record, fields, static_cast<std::size_t>(count) * sizeof *fields);
+}
+
+// Nearly every device writes sections with two digits a field and a flag of one.
+bool ReadUsualSection(std::string_view text, CFG_TIME_SECTION* section) noexcept {
+    if (text.size() != 19 || !scan::HasShape(text.data(), "0 00:00:00-00:00:00")) return false;
+    const char* const t = text.data();
+    const std::int32_t fields[kSectionFields] = {t[0] - '0',
+                                                 scan::TwoDigits(t + 2),
+                                                 scan::TwoDigits(t + 5),
+                                                 scan::TwoDigits(t + 8),
+                                                 scan::TwoDigits(t + 11),
+                                                 scan::TwoDigits(t + 14),
+                                                 scan::TwoDigits(t + 17)};
+    Store(section, fields, kSectionFields);
+    return true;
+}
+
+bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SECTION* section) noexcept {
+    if (ReadUsualSection(text, section)) return true;
+    std::int32_t fields[kSectionFields];
+    Scanner scanner(text);
+    const int count = scan::Fields(scanner, kSectionFields, kSectionSeparators, widths, fields);
+    if (count != 0) Store(section, fields, count);
+    return count == kSectionFields;
+}
+
+// The first `want` of "2026-11-20 09:30:00.250" into the first words of `record`.
+bool ReadDateTime(std::string_view text, int want, void* record) noexcept {
+    std::int32_t fields[kSectionFields];
+    int count = 0;
+    if (text.size() >= 19 && want >= 6 && scan::HasShape(text.data(), "0000-00-00 00:00:00")) {
+        const char* const t = text.data();
+        fields[0] = scan::TwoDigits(t) * 100 + scan::TwoDigits(t + 2);
+        for (int i = 1; i < 6; ++i)
+            fields[i] = scan::TwoDigits(t + 2 + 3 * i);
+        count = 6;
+        Scanner rest(text.substr(19));
+        if (want == 7 && rest.Literal('.') && rest.Number(fields[6], 0)) count = 7;
+    } else {
+        Scanner scanner(text);
+        count = scan::Fields(scanner, want, kDateTimeSeparators, kDateTimeWidths, fields);
+    }
+    if (count != 0) Store(record, fields, count);
+    return count == want;
+}
+
+void WriteFields(json::TextWriter& out, const void* record, int count, const char* separators,
+                 const unsigned char* widths) noexcept {
+    if (record == nullptr) return out.Null();
+    std::int32_t fields[kSectionFields];
+    std::memcpy(fields, record, static_cast<std::size_t>(count) * sizeof *fields);
+    char text[kTextRoom];
+    const char* const end = scan::PrintFields(text, count, separators, widths, fields);
+    out.String({text, static_cast<std::size_t>(end - text)});
+}
+
+// The least of a caller's bound and what the document has; the bound is at least 1 here.
+int Limit(int bound, std::uint32_t size) noexcept {
+    return static_cast<int>(std::min(static_cast<std::uint32_t>(bound), size));
+}
+
+} // namespace
+
+bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* section) noexcept {
+    return section != nullptr && ReadSection(value.asString(), kSectionWidths, section);
+}
+
+void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
+    WriteFields(out, section, kSectionFields, kSectionSeparators, kSectionWidths);
+}
+
+bool JsonParser::GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sections, int rows, int columns,
+                                 int* rowsRead) noexcept {
+    if (sections == nullptr || rows < 1 || columns < 1 || !value.isArray() || value.size() == 0) return false;
+    const auto days = value.elements().first(static_cast<std::size_t>(Limit(rows, value.size())));
+    const auto count = static_cast<int>(days.size());
+    if (rowsRead != nullptr) std::memcpy(rowsRead, &count, sizeof count);
+    for (const json::Value& day : days) {
+        if (day.isArray() && day.size() != 0) {
+            CFG_TIME_SECTION* section = sections;
+            for (const json::Value& cell : day.elements().first(static_cast<std::size_t>(Limit(columns, day.size())))) {
+                if (!ReadSection(cell.asString(), kAnyWidths, section++)) return false;
+            }
+        }
+        sections += columns;
+    }
+    return true;
+}
+
+bool JsonParser::SetTimeSchedule(json::TextWriter& out, const CFG_TIME_SECTION* sections, int rows,
+                                 int columns) noexcept {
+    if (sections == nullptr || rows < 1 || columns < 1) return false;
+    out.BeginArray();
+    for (int row = 0; row < rows; ++row)
+        SetTimeSectionList(out, sections + std::ptrdiff_t{row} * columns, columns);
+    out.EndArray();
+    return true;
+}
+
+bool JsonParser::GetHolidaySchedule(const json::Value& value, CFG_TIME_SCHEDULE* schedule) noexcept {
+    if (schedule == nullptr) return false;
+    auto* const bytes = reinterpret_cast<char*>(schedule);
+    std::memset(bytes, 0, sizeof *schedule);
+    auto* const sections = reinterpret_cast<CFG_TIME_SECTION*>(bytes + kScheduleSections);
+    int rows = 0;
+    if (!GetTimeSchedule(value, sections, ORRERY_SCHEDULE_DAYS, ORRERY_DAY_SECTIONS, &rows)) return false;
+    if (rows < ORRERY_WEEK_DAYS) return false;
+    const std::int32_t holiday = rows == ORRERY_SCHEDULE_DAYS;
+    std::memcpy(bytes + kScheduleHoliday, &holiday, sizeof holiday);
+    return true;
+}
+
+void JsonParser::SetHolidaySchedule(json::TextWriter& out, const CFG_TIME_SCHEDULE* schedule) noexcept {
+    if (schedule == nullptr) return out.Null();
+    const auto* const bytes = reinterpret_cast<const char*>(schedule);
+    std::int32_t holiday;
+    std::memcpy(&holiday, bytes + kScheduleHoliday, sizeof holiday);
+    const int rows = holiday != 0 ? ORRERY_SCHEDULE_DAYS : ORRERY_WEEK_DAYS;
+    const auto* const sections = reinterpret_cast<const CFG_TIME_SECTION*>(bytes + kScheduleSections);
+    SetTimeSchedule(out, sections, rows, ORRERY_DAY_SECTIONS);
+}
+
+bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* sections, int limit) noexcept {
+    if (sections == nullptr || limit < 1) return false;
+    for (const json::Value& element : value.elements()) {
+        if (limit-- == 0) break;
+        ReadSection(element.asString(), kAnyWidths, sections++);
+    }
+    return true;
+}
+
+bool JsonParser::SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
+    if (sections == nullptr || count < 1) return false;
+    out.BeginArray();
+    for (int i = 0; i < count; ++i)
+        SetTimeSection(out, sections + i);
+    out.EndArray();
+    return true;
+}
+
+bool JsonParser::GetNetTime(const json::Value& value, NET_TIME* time) noexcept {
+    return time != nullptr && ReadDateTime(value.asString(), 6, time);
+}
+
+void JsonParser::SetNetTime(json::TextWriter& out, const NET_TIME* time) noexcept {
+    WriteFields(out, time, 6, kDateTimeSeparators, kDateTimeWidths);
+}
+
+bool JsonParser::GetNetTimeEx(const json::Value& value, NET_TIME_EX* time) noexcept {
+    return time != nullptr && ReadDateTime(value.asString(), 7, time);
+}
+
+void JsonParser::SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) noexcept {
+    WriteFields(out, time, 7, kDateTimeSeparators, kDateTimeWidths);
+}
+
+bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept {
+    if (time == nullptr) return false;
+    std::int32_t fields[3];
+    Scanner scanner(value.asString());
+    const int count = scan::Fields(scanner, 3, kClockSeparators, kClockWidths, fields);
+    if (count != 0) Store(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, count);
+    return count == 3;
+}
+
+void JsonParser::SetClockTime(json::TextWriter& out, const NET_TIME* time) noexcept {
+    const auto* const bytes = reinterpret_cast<const char*>(time);
+    WriteFields(out, bytes == nullptr ? nullptr : bytes + offsetof(NET_TIME, dwHour), 3, kClockSeparators,
+                kClockWidths);
+}
+
+bool JsonParser::GetDate(const json::Value& value, NET_TIME* time) noexcept {
+    return time != nullptr && ReadDateTime(value.asString(), 3, time);
+}
+
+NET_TIME JsonParser::UtcSecondsToNetTime(std::int64_t seconds) noexcept {
+    constexpr std::int64_t kDay = 86400;
+    std::int64_t days = seconds / kDay;
+    std::int64_t second = seconds % kDay;
+    if (second < 0) {
+        second += kDay;
+        --days;
+    }
+    // Years that begin in March have their leap day last; 400 of them are always 146097 days. Day 0 is 0000-03-01.
+    days += 719468;
+    const std::int64_t era = (days >= 0 ? days : days - 146096) / 146097;
+    const std::int64_t dayOfEra = days - era * 146097;
+    const std::int64_t yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const std::int64_t fromMarch = (5 * dayOfYear + 2) / 153;
+    const std::int64_t month = fromMarch < 10 ? fromMarch + 3 : fromMarch - 9;
+    const std::int64_t year = era * 400 + yearOfEra + (month <= 2);
+    // The C library counts years from 1900 in 32 bits, the record from 0: both have to hold it.
+    constexpr std::int64_t kFirstYear = std::int64_t{std::numeric_limits<std::int32_t>::min()} + 1900;
+    if (year < kFirstYear || year > std::numeric_limits<std::int32_t>::max()) return {};
+    NET_TIME time;
+    time.dwYear = static_cast<std::int32_t>(year);
+    time.dwMonth = static_cast<std::int32_t>(month);
+    time.dwDay = static_cast<std::int32_t>(dayOfYear - (153 * fromMarch + 2) / 5 + 1);
+    time.dwHour = static_cast<std::int32_t>(second / 3600);
+    time.dwMinute = static_cast<std::int32_t>(second / 60 % 60);
+    time.dwSecond = static_cast<std::int32_t>(second % 60);
+    return time;
+}
+
+} // namespace orrery

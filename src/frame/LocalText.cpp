@@ -1,0 +1,154 @@
+#include "frame/LocalText.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+
+#include <iconv.h>
+#include <langinfo.h>
+
+namespace orrery {
+
+namespace {
+
+// Codesets whose bytes below 128 are ASCII wherever they stand alone: pure ASCII texts, most of what devices send,
+// need no conversion there. Shift_JIS and the national ISO 646 sets are not among them.
+constexpr std::string_view kAsciiFamilies[] = {"GB", "BIG5", "EUC-", "ISO-8859-", "KOI8-", "CP125"};
+
+// Bytes of the character that `text` begins with, or, if it is broken, of its longest well-begun part. At least 1.
+std::size_t Utf8Step(const char* text, std::size_t size) noexcept {
+    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned lead = byte(0);
+    std::size_t length = 1;
+    unsigned low = 0x80,
+             high = 0xBF; // bounds of the second byte: no overlong form, no surrogate, nothing past U+10FFFF
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        length = 2;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        length = 3;
+        if (lead == 0xE0) low = 0xA0;
+        if (lead == 0xED) high = 0x9F;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+        if (lead == 0xF0) low = 0x90;
+        if (lead == 0xF4) high = 0x8F;
+    }
+    length = std::min(length, size);
+    for (std::size_t i = 1; i < length; ++i) {
+        if (byte(i) < low || byte(i) > high) return i;
+        low = 0x80;
+        high = 0xBF;
+    }
+    return length;
+}
+
+// Fills at most `room` bytes at `destination`; returns how many. What does not fit is cut in mid-character.
+std::size_t Convert(iconv_t descriptor, bool fromUtf8, const char* source, std::size_t length, char* destination,
+                    std::size_t room) noexcept {
+    iconv(descriptor, nullptr, nullptr, nullptr, nullptr); // a text before this one may have ended in any state
+    char* in = const_cast<char*>(source);                  // iconv takes it so, and leaves it alone
+    char* out = destination;
+    std::size_t outLeft = room;
+    while (length > 0) {
+        if (iconv(descriptor, &in, &length, &out, &outLeft) != static_cast<std::size_t>(-1)) break;
+        if (errno == E2BIG) {
+            // The next character is wider than the room left: its leading bytes fill the room.
+            char wide[32];
+            char* wideEnd = wide;
+            std::size_t wideLeft = sizeof wide;
+            iconv(descriptor, &in, &length, &wideEnd, &wideLeft);
+            const std::size_t part = std::min(outLeft, static_cast<std::size_t>(wideEnd - wide));
+            std::memcpy(out, wide, part);
+            return room - outLeft + part;
+        }
+        if (outLeft == 0) return room;
+        *out++ = '?';
+        --outLeft;
+        const std::size_t step = fromUtf8 ? Utf8Step(in, length) : 1;
+        in += step;
+        length -= step;
+    }
+    iconv(descriptor, nullptr, nullptr, &out, &outLeft); // what a converter held back to see what follows
+    return room - outLeft;
+}
+
+int CopyBounded(const char* source, int length, char* destination, int capacity) noexcept {
+    const int count = std::min(length, capacity - 1);
+    std::memcpy(destination, source, static_cast<std::size_t>(count));
+    destination[count] = '\0';
+    return count;
+}
+
+bool IsNothing(const char* source, int length, const char* destination, int capacity) noexcept {
+    return source == nullptr || destination == nullptr || length < 1 || capacity < 1;
+}
+
+} // namespace
+
+LocalText::LocalText(Arena& arena) noexcept : arena_(arena) {
+    // Kept as a copy: the text that nl_langinfo points to goes with its locale.
+    const std::string_view name = nl_langinfo(CODESET);
+    isCopy_ = name == "UTF-8" || name == "ANSI_X3.4-1968" || name == "US-ASCII";
+    const std::size_t size = std::min(name.size(), sizeof codeset_ - 1);
+    std::memcpy(codeset_, name.data(), size);
+    codeset_[size] = '\0';
+    if (isCopy_) return;
+    for (const std::string_view family : kAsciiFamilies)
+        keepsAscii_ |= name.substr(0, family.size()) == family;
+}
+
+LocalText::~LocalText() {
+    if (toLocal_ != nullptr) iconv_close(toLocal_);
+    if (toUtf8_ != nullptr) iconv_close(toUtf8_);
+}
+
+bool LocalText::IsAscii(std::string_view text) noexcept {
+    const char* next = text.data();
+    std::size_t left = text.size();
+    std::uint64_t bits = 0;
+    for (; left >= 8; left -= 8, next += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, next, 8);
+        bits |= word;
+    }
+    for (; left > 0; --left)
+        bits |= static_cast<unsigned char>(*next++);
+    return (bits & 0x8080808080808080u) == 0;
+}
+
+void* LocalText::Open(void*& slot, const char* to, const char* from) noexcept {
+    if (slot != nullptr) return slot;
+    const iconv_t descriptor = iconv_open(to, from);
+    if (descriptor == reinterpret_cast<iconv_t>(-1)) {
+        arena_.MarkFailed();
+        return nullptr;
+    }
+    return slot = descriptor;
+}
+
+int LocalText::ConvertUtf8ToLocal(const char* source, int length, char* destination, int capacity) noexcept {
+    if (IsNothing(source, length, destination, capacity)) return 0;
+    const auto size = static_cast<std::size_t>(length);
+    if (isCopyOf({source, size})) return CopyBounded(source, length, destination, capacity);
+    std::size_t count = 0;
+    if (void* const descriptor = Open(toLocal_, codeset_, "UTF-8"); descriptor != nullptr) {
+        count = Convert(descriptor, true, source, size, destination, static_cast<std::size_t>(capacity - 1));
+    }
+    destination[count] = '\0';
+    return static_cast<int>(count);
+}
+
+int LocalText::ConvertLocalToUtf8(const char* source, int length, char* destination, int capacity) noexcept {
+    if (IsNothing(source, length, destination, capacity)) return 0;
+    const auto size = static_cast<std::size_t>(length);
+    if (isCopyOf({source, size})) return CopyBounded(source, length, destination, capacity);
+    std::size_t count = 0;
+    if (void* const descriptor = Open(toUtf8_, "UTF-8", codeset_); descriptor != nullptr) {
+        count = Convert(descriptor, false, source, size, destination, static_cast<std::size_t>(capacity - 1));
+    }
+    destination[count] = '\0';
+    return static_cast<int>(count);
+}
+
+} // namespace orrery

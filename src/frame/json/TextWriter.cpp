@@ -1,0 +1,227 @@
+#include "frame/json/TextWriter.h"
+
+#include "frame/json/Scan.h"
+#include "frame/json/WalkStack.h"
+
+#include <array>
+#include <cmath>
+
+namespace orrery::json {
+
+namespace {
+
+// The letter behind the backslash for a byte that must be escaped, 0 for all others.
+constexpr std::array<char, 256> kEscapes = [] {
+    std::array<char, 256> table{};
+    table['"'] = '"';
+    table['\\'] = '\\';
+    table['/'] = '/';
+    table[8] = 'b';
+    table[9] = 't';
+    table[10] = 'n';
+    table[12] = 'f';
+    table[13] = 'r';
+    return table;
+}();
+
+char EscapeOf(char byte) noexcept {
+    return kEscapes[static_cast<unsigned char>(byte)];
+}
+
+#if ORRERY_SSE2
+// A bit for every byte that may need an escape. Byte 11 is among them, being in the midst of those that do.
+unsigned Suspects(__m128i bytes) noexcept {
+    const __m128i quote = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"'));
+    const __m128i backslash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'));
+    const __m128i slash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('/'));
+    const __m128i fromEight = _mm_sub_epi8(bytes, _mm_set1_epi8(8));
+    const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(fromEight, _mm_set1_epi8(5)), fromEight);
+    const __m128i any = _mm_or_si128(_mm_or_si128(quote, backslash), _mm_or_si128(slash, control));
+    return static_cast<unsigned>(_mm_movemask_epi8(any));
+}
+#endif
+
+// Digits of a real: `digits` holds the 16 significant ones, of which the first stands in front of the decimal point
+// when the decimal exponent is 0.
+constexpr int kPrecision = 16;
+constexpr std::size_t kRealRoom = 32;
+
+// Lays the digits out as "%#.16g" does: plainly for exponents from -4 to 15, otherwise with an exponent.
+char* LayOut(const char* digits, int exponent, char* out) noexcept {
+    if (exponent < 0) {
+        *out++ = '0';
+        *out++ = '.';
+        for (int zeros = -1 - exponent; zeros > 0; --zeros)
+            *out++ = '0';
+        std::memcpy(out, digits, kPrecision);
+        return out + kPrecision;
+    }
+    const int whole = exponent + 1;
+    std::memcpy(out, digits, static_cast<std::size_t>(whole));
+    out[whole] = '.';
+    std::memcpy(out + whole + 1, digits + whole, static_cast<std::size_t>(kPrecision - whole));
+    return out + kPrecision + 1;
+}
+
+} // namespace
+
+void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {
+    if (size == 0) return;
+    const auto room = static_cast<std::size_t>(end_ - next_);
+    const std::size_t part = size < room ? size : room;
+    if (part > 0) {
+        std::memcpy(next_, text, part);
+        next_ += part;
+    }
+    lost_ += size - part;
+}
+
+void TextWriter::Real(double number) noexcept {
+    char text[kRealRoom];
+    char* out = text;
+    if (std::signbit(number)) *out++ = '-';
+    const double magnitude = std::fabs(number);
+    if (!std::isfinite(number)) {
+        Separate();
+        std::memcpy(out, std::isnan(number) ? "nan" : "inf", 3);
+        Append(text, static_cast<std::size_t>(out + 3 - text));
+        return;
+    }
+    // d.ddddddddddddddde+dd, rounded right
+    char* const end =
+        std::to_chars(out, text + kRealRoom, magnitude, std::chars_format::scientific, kPrecision - 1).ptr;
+    constexpr int kMark = kPrecision + 1; // of the letter e
+    int exponent = 0;
+    std::from_chars(out + kMark + 2, end, exponent);
+    if (out[kMark + 1] == '-') exponent = -exponent;
+    char* last = end;
+    if (exponent >= -4 && exponent < kPrecision) {
+        char digits[kPrecision];
+        digits[0] = out[0];
+        std::memcpy(digits + 1, out + 2, kPrecision - 1);
+        last = LayOut(digits, exponent, out);
+    }
+    Separate();
+    Append(text, static_cast<std::size_t>(last - text));
+}
+
+void TextWriter::Quote(std::string_view text) noexcept {
+    Append("\"", 1);
+    const char* p = text.data();
+    const char* const end = p + text.size();
+#if ORRERY_SSE2
+    // Whole blocks are stored before it is known how much of them is good: what is not gets overwritten.
+    while (end - p >= 16 && end_ - next_ >= 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(next_), bytes);
+        const unsigned suspects = Suspects(bytes);
+        if (suspects == 0) {
+            p += 16;
+            next_ += 16;
+            continue;
+        }
+        const int good = std::countr_zero(suspects);
+        p += good;
+        next_ += good;
+        Escaped(p, p + 1);
+        ++p;
+    }
+    // Two halves that overlap cover what is left when it is clean.
+    const auto left = end - p;
+    if (left >= 8 && left < 16 && end_ - next_ >= left) {
+        const __m128i low = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+        const __m128i high = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(end - 8));
+        if (Suspects(_mm_unpacklo_epi64(low, high)) == 0) {
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(next_), low);
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(next_ + left - 8), high);
+            next_ += left;
+            p = end;
+        }
+    }
+#endif
+    Escaped(p, end);
+    Append("\"", 1);
+}
+
+void TextWriter::Escaped(const char* p, const char* end) noexcept {
+    const auto size = static_cast<std::size_t>(end - p);
+    if (size <= static_cast<std::size_t>(end_ - next_) / 2) [[likely]] {
+        char* out = next_;
+        for (; p != end; ++p) {
+            if (const char letter = EscapeOf(*p)) {
+                *out++ = '\\';
+                *out++ = letter;
+            } else {
+                *out++ = *p;
+            }
+        }
+        next_ = out;
+        return;
+    }
+    for (; p != end; ++p) {
+        const char escape[2] = {'\\', EscapeOf(*p)};
+        if (escape[1] != 0) {
+            Append(escape, 2);
+        } else {
+            Append(p, 1);
+        }
+    }
+}
+
+bool TextWriter::Write(const Value& value, Arena& arena) noexcept {
+    struct Level {
+        const Value* container;
+        std::uint32_t next;
+    };
+    WalkStack<Level, 16> levels(arena);
+    const Value* current = &value;
+    for (;;) {
+        switch (current->type()) {
+        case Type::Null:
+            Null();
+            break;
+        case Type::Int:
+            Int(current->asInt());
+            break;
+        case Type::UInt:
+            UInt(current->asUInt());
+            break;
+        case Type::Real:
+            Real(current->asDouble());
+            break;
+        case Type::String:
+            String(current->asString());
+            break;
+        case Type::Bool:
+            Bool(current->asBool());
+            break;
+        case Type::Array:
+            BeginArray();
+            if (!levels.Push({current, 0})) return false;
+            break;
+        case Type::Object:
+            BeginObject();
+            if (!levels.Push({current, 0})) return false;
+            break;
+        }
+        for (;;) {
+            if (levels.empty()) return true;
+            Level& level = levels.top();
+            const bool object = level.container->type() == Type::Object;
+            if (level.next < level.container->size()) {
+                if (object) {
+                    const Member& member = level.container->members()[level.next++];
+                    Key(member.key());
+                    current = &member.value;
+                } else {
+                    current = &level.container->elements()[level.next++];
+                }
+                break;
+            }
+            object ? EndObject() : EndArray();
+            levels.Pop();
+        }
+    }
+}
+
+} // namespace orrery::json

@@ -1,0 +1,93 @@
+#include "support/FailingAllocator.h"
+
+#include <cstdlib>
+#include <malloc.h>
+
+namespace {
+
+struct Watch {
+    bool active = false;
+    bool onwards = false;
+    std::size_t failAt = 0; // 0: nothing fails
+    std::size_t seen = 0;   // since failAt was set
+    std::size_t allocations = 0;
+    std::size_t failures = 0;
+    std::ptrdiff_t liveBlocks = 0;
+    std::ptrdiff_t liveBytes = 0;
+};
+
+thread_local Watch watch;
+
+bool FailsNow() {
+    ++watch.allocations;
+    ++watch.seen;
+    const bool fails = watch.failAt != 0 && (watch.onwards ? watch.seen >= watch.failAt : watch.seen == watch.failAt);
+    if (fails) ++watch.failures;
+    return fails;
+}
+
+} // namespace
+
+extern "C" {
+void* __real_malloc(std::size_t size);
+void __real_free(void* block);
+void* __wrap_malloc(std::size_t size);
+void __wrap_free(void* block);
+
+void* __wrap_malloc(std::size_t size) {
+    if (!watch.active) return __real_malloc(size);
+    if (FailsNow()) return nullptr;
+    void* const block = __real_malloc(size);
+    if (block != nullptr) {
+        ++watch.liveBlocks;
+        watch.liveBytes += static_cast<std::ptrdiff_t>(malloc_usable_size(block));
+    }
+    return block;
+}
+
+void __wrap_free(void* block) {
+    if (watch.active && block != nullptr) {
+        --watch.liveBlocks;
+        watch.liveBytes -= static_cast<std::ptrdiff_t>(malloc_usable_size(block));
+    }
+    __real_free(block);
+}
+}
+
+namespace orrery::test {
+
+HeapWatch::HeapWatch() {
+    watch = Watch{};
+    watch.active = true;
+}
+HeapWatch::~HeapWatch() {
+    watch = Watch{};
+}
+
+void HeapWatch::FailOnly(std::size_t n) {
+    watch.failAt = n;
+    watch.seen = 0;
+    watch.onwards = false;
+}
+void HeapWatch::FailFrom(std::size_t n) {
+    FailOnly(n);
+    watch.onwards = true;
+}
+void HeapWatch::FailNone() {
+    FailOnly(0);
+}
+
+std::size_t HeapWatch::allocations() const {
+    return watch.allocations;
+}
+std::size_t HeapWatch::failures() const {
+    return watch.failures;
+}
+std::ptrdiff_t HeapWatch::liveBlocks() const {
+    return watch.liveBlocks;
+}
+std::ptrdiff_t HeapWatch::liveBytes() const {
+    return watch.liveBytes;
+}
+
+} // namespace orrery::test
