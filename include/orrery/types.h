@@ -87,52 +87,52 @@ typedef struct NET_TIME_EX {
 /* Kinds of sensor behind an alarm input ("SenseMethod"). */
 typedef enum EM_SENSE_METHOD {
     EM_SENSE_UNKNOWN = -1,
-    EM_SENSE_DOOR_MAGNETISM = 0,   /* "DoorMagnetism" */
-    EM_SENSE_PASSIVE_INFRARED,     /* "PassiveInfrared" */
-    EM_SENSE_GAS_SENSOR,           /* "GasSensor" */
-    EM_SENSE_SMOKING_SENSOR,       /* "SmokingSensor" */
-    EM_SENSE_WATER_SENSOR,         /* "WaterSensor" */
-    EM_SENSE_ACTIVE_INFRARED,      /* "ActiveInfrared" */
-    EM_SENSE_GLASS_SENSOR,         /* "GlassSensor" */
-    EM_SENSE_EMERGENCY_SWITCH,     /* "EmergencySwitch" */
-    EM_SENSE_SHOCK_SENSOR,         /* "ShockSensor" */
-    EM_SENSE_DOUBLE_METHOD,        /* "DoubleMethod": infrared and microwave */
-    EM_SENSE_THREE_METHOD,         /* "ThreeMethod" */
-    EM_SENSE_TEMP_SENSOR,          /* "TempSensor" */
-    EM_SENSE_HUMIDITY_SENSOR,      /* "HumiditySensor" */
-    EM_SENSE_WIND_SENSOR,          /* "WindSensor" */
-    EM_SENSE_CALL_BUTTON,          /* "CallButton" */
-    EM_SENSE_GAS_PRESSURE,         /* "GasPressure" */
-    EM_SENSE_GAS_CONCENTRATION,    /* "GasConcentration" */
-    EM_SENSE_GAS_FLOW,             /* "GasFlow" */
-    EM_SENSE_OIL,                  /* "Oil": oil level */
-    EM_SENSE_MILEAGE_SENSOR,       /* "MileageSensor" */
-    EM_SENSE_OTHER_SENSOR,         /* "OtherSensor" */
-    EM_SENSE_CO2,                  /* "CO2" */
-    EM_SENSE_SOUND,                /* "Sound" */
-    EM_SENSE_PM25,                 /* "PM25" */
-    EM_SENSE_SF6,                  /* "SF6" */
-    EM_SENSE_O3,                   /* "O3" */
-    EM_SENSE_AMBIENT_LIGHT,        /* "AmbientLight" */
-    EM_SENSE_INFRARED,             /* "Infrared" */
-    EM_SENSE_TEMP1500,             /* "Temp1500" */
-    EM_SENSE_TEMPDS18B20,          /* "TempDS18B20" */
-    EM_SENSE_HUMIDITY1500,         /* "Humidity1500" */
-    EM_SENSE_URGENCY_BUTTON,       /* "UrgencyButton" */
-    EM_SENSE_STEAL,                /* "Steal" */
-    EM_SENSE_PERIMETER,            /* "Perimeter" */
-    EM_SENSE_PREVENT_REMOVE,       /* "PreventRemove": tamper contact */
-    EM_SENSE_DOOR_BELL,            /* "DoorBell" */
-    EM_SENSE_ALTER_VOLT,           /* "AlterVolt": alternating voltage */
-    EM_SENSE_DIRECT_VOLT,          /* "DirectVolt": direct voltage */
-    EM_SENSE_ALTER_CUR,            /* "AlterCur": alternating current */
-    EM_SENSE_DIRECT_CUR,           /* "DirectCur": direct current */
-    EM_SENSE_RSU_GENERAL,          /* "RSUGeneral": remote signal unit, analog or 4 to 20 mA */
-    EM_SENSE_RSU_DOOR,             /* "RSUDoor" */
-    EM_SENSE_RSU_POWER_OFF,        /* "RSUPowerOff" */
-    EM_SENSE_CURTAIN_SENSOR,       /* "CurtainSensor" */
-    EM_SENSE_MOBILE_SENSOR,        /* "MobileSensor" */
-    EM_SENSE_FIRE_ALARM,           /* "FireAlarm" */
+    EM_SENSE_DOOR_MAGNETISM = 0, /* "DoorMagnetism" */
+    EM_SENSE_PASSIVE_INFRARED,   /* "PassiveInfrared" */
+    EM_SENSE_GAS_SENSOR,         /* "GasSensor" */
+    EM_SENSE_SMOKING_SENSOR,     /* "SmokingSensor" */
+    EM_SENSE_WATER_SENSOR,       /* "WaterSensor" */
+    EM_SENSE_ACTIVE_INFRARED,    /* "ActiveInfrared" */
+    EM_SENSE_GLASS_SENSOR,       /* "GlassSensor" */
+    EM_SENSE_EMERGENCY_SWITCH,   /* "EmergencySwitch" */
+    EM_SENSE_SHOCK_SENSOR,       /* "ShockSensor" */
+    EM_SENSE_DOUBLE_METHOD,      /* "DoubleMethod": infrared and microwave */
+    EM_SENSE_THREE_METHOD,       /* "ThreeMethod" */
+    EM_SENSE_TEMP_SENSOR,        /* "TempSensor" */
+    EM_SENSE_HUMIDITY_SENSOR,    /* "HumiditySensor" */
+    EM_SENSE_WIND_SENSOR,        /* "WindSensor" */
+    EM_SENSE_CALL_BUTTON,        /* "CallButton" */
+    EM_SENSE_GAS_PRESSURE,       /* "GasPressure" */
+    EM_SENSE_GAS_CONCENTRATION,  /* "GasConcentration" */
+    EM_SENSE_GAS_FLOW,           /* "GasFlow" */
+    EM_SENSE_OIL,                /* "Oil": oil level */
+    EM_SENSE_MILEAGE_SENSOR,     /* "MileageSensor" */
+    EM_SENSE_OTHER_SENSOR,       /* "OtherSensor" */
+    EM_SENSE_CO2,                /* "CO2" */
+    EM_SENSE_SOUND,              /* "Sound" */
+    EM_SENSE_PM25,               /* "PM25" */
+    EM_SENSE_SF6,                /* "SF6" */
+    EM_SENSE_O3,                 /* "O3" */
+    EM_SENSE_AMBIENT_LIGHT,      /* "AmbientLight" */
+    EM_SENSE_INFRARED,           /* "Infrared" */
+    EM_SENSE_TEMP1500,           /* "Temp1500" */
+    EM_SENSE_TEMPDS18B20,        /* "TempDS18B20" */
+    EM_SENSE_HUMIDITY1500,       /* "Humidity1500" */
+    EM_SENSE_URGENCY_BUTTON,     /* "UrgencyButton" */
+    EM_SENSE_STEAL,              /* "Steal" */
+    EM_SENSE_PERIMETER,          /* "Perimeter" */
+    EM_SENSE_PREVENT_REMOVE,     /* "PreventRemove": tamper contact */
+    EM_SENSE_DOOR_BELL,          /* "DoorBell" */
+    EM_SENSE_ALTER_VOLT,         /* "AlterVolt": alternating voltage */
+    EM_SENSE_DIRECT_VOLT,        /* "DirectVolt": direct voltage */
+    EM_SENSE_ALTER_CUR,          /* "AlterCur": alternating current */
+    EM_SENSE_DIRECT_CUR,         /* "DirectCur": direct current */
+    EM_SENSE_RSU_GENERAL,        /* "RSUGeneral": remote signal unit, analog or 4 to 20 mA */
+    EM_SENSE_RSU_DOOR,           /* "RSUDoor" */
+    EM_SENSE_RSU_POWER_OFF,      /* "RSUPowerOff" */
+    EM_SENSE_CURTAIN_SENSOR,     /* "CurtainSensor" */
+    EM_SENSE_MOBILE_SENSOR,      /* "MobileSensor" */
+    EM_SENSE_FIRE_ALARM,         /* "FireAlarm" */
     EM_SENSE_COUNT
 } EM_SENSE_METHOD;
 

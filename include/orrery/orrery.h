@@ -1,0 +1,79 @@
+/* Orrery turns the JSON text of cameras, recorders, intelligent-video servers and door stations into plain fixed-layout
+ * records, and records back into the exact text that devices expect. It opens no socket, keeps no state and starts no
+ * thread: any number of threads may call at once, each on buffers of its own.
+ *
+ * Every function answers non-zero for success and 0 for failure, and says nothing more. */
+#ifndef ORRERY_ORRERY_H
+#define ORRERY_ORRERY_H
+
+#include "orrery/alarm_caps.h"
+#include "orrery/alarm_input.h"
+#include "orrery/general.h"
+#include "orrery/linkage.h"
+#include "orrery/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Reads a device's reply into the record, or the array of records, of a command.
+ *
+ * command         Name of a configuration ("Alarm") or of a remote method whose reply it is ("alarm.getAlarmCaps").
+ *                 ASCII letters compare with case folded; nothing is trimmed. Must not be null.
+ * text            The reply, { "result" : true, "params" : { "table" : ... } }, terminated, UTF-8. Must not be null.
+ *                 What follows the first complete JSON value is ignored.
+ * buffer          Takes the record. Need not be aligned. Must not be null. Unless the command's record says otherwise,
+ *                 all of it is cleared first and stays so on failure, and what the text leaves out is zero.
+ * bufferSize      Bytes at `buffer`, at least one record. Records that do not fit whole are left out.
+ * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule" and "PwdReset" add to
+ *                 what it holds: set it to 0 first.
+ *
+ * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8 and
+ * the C locale they are the device's bytes. A text that is too long is cut, in the middle of a character if need be.
+ *
+ * 0 for a null argument, an unknown command, a buffer below one record, text that is no JSON, a call that the device
+ * refused, a missing table, or when memory ran out. */
+int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, uint32_t bufferSize,
+                         uint32_t* returnedLength);
+
+/* Writes a record as the text that a device expects: what a client puts under "params"."table" of its own request.
+ *
+ * command       As above. Must not be null.
+ * record        The record, or the array of records. Need not be aligned. Must not be null. Counts above the room of
+ *               their array end at the array.
+ * recordSize    Bytes at `record`. What is below one record is refused, but for the commands named under
+ *               returnedLength above, where missing bytes read as zero.
+ * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. Cleared whole, also on
+ *               failure, but for "MotionDetect", which leaves it alone on failure and behind the terminator.
+ * textCapacity  Bytes at `textBuffer`. For most commands the text must be shorter. For the alarm input commands other
+ *               than "MotionDetect" a text of exactly that length is taken too and loses its newline.
+ *
+ * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
+int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
+                          uint32_t textCapacity);
+
+/* Takes one decoded event. The record lives only during the call; `reserved` and `sequence` are 0. The result is
+ * ignored. */
+typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record, uint32_t recordSize, void* reserved,
+                                         int32_t sequence, void* user);
+
+/* Decodes the text of analyzer events and hands each to the callback, on the calling thread. 0 when `data` or
+ * `callback` is null. `data` must be terminated; `length` is not looked at. This version decodes no event yet and
+ * answers 0 for every text. */
+int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
+
+/* Decodes a text whose top-level keys name what it carries. Arguments and refusals as above; nor does this version
+ * decode any of it yet: it answers 0 for every text. */
+int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
+
+/* Reads a reply with a template of analysis settings into `output`. 0 when an argument other than `classType` is null
+ * or zero; `reserved` must not be null and is not used. This version knows no template yet and answers 0 for every
+ * command. */
+int32_t CLIENT_ParseVideoInAnalyse(const char* command, int32_t classType, const char* text, const void* reserved,
+                                   void* output, uint32_t outputSize);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,103 @@
+#include "alarm/EventHandler.h"
+
+#include "frame/record/Engine.h"
+
+#include <algorithm>
+
+namespace orrery::linkage {
+
+namespace {
+
+// ---- Door actions: [ { "Operation" : "Open" }, ... ] into one number a door ----
+
+void ReadDoorActions(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
+    if (!value.isArray()) return;
+    StoreSlot(field.flag, record, 1);
+    const std::uint32_t count = std::min(value.size(), field.dims[0]);
+    StoreSlot(field.count, record, count);
+    for (std::uint32_t door = 0; door < count; ++door) {
+        if (const auto action = kDoorActions.CodeOf(value[door]["Operation"].asString())) {
+            Store(record + field.offset + door * sizeof(std::int32_t), *action);
+        }
+    }
+}
+
+void WriteDoorActions(const Field& field, const std::byte* record, WriteCall& call) {
+    const auto count = std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, field.dims[0]);
+    call.Key();
+    call.out.BeginArray();
+    for (std::int64_t door = 0; door < count; ++door) {
+        const auto action = Load<std::int32_t>(record + field.offset + door * std::int64_t{sizeof(std::int32_t)});
+        const Name* const row = kDoorActions.RowOf(action);
+        if (row == nullptr && action != CFG_ACCESS_CONTROL_NONE) {
+            call.out.Null();
+            continue;
+        }
+        call.out.BeginObject();
+        call.out.Key("Operation");
+        if (row != nullptr)
+            call.out.String(row->text);
+        else
+            call.out.Null();
+        call.out.EndObject();
+    }
+    call.out.EndArray();
+}
+
+// ---- The week over the schedule: seven rows from the one, a holiday row from the other ----
+
+void WriteWeek(const Field&, const std::byte* record, WriteCall& call) {
+    const auto writeDay = [&](const std::byte* day) {
+        call.out.BeginArray();
+        for (int i = 0; i < ORRERY_DAY_SECTIONS; ++i, day += sizeof(CFG_TIME_SECTION)) {
+            JsonParser::SetTimeSection(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(day));
+        }
+        call.out.EndArray();
+    };
+    constexpr std::size_t kDay = sizeof(CFG_TIME_SECTION[ORRERY_DAY_SECTIONS]);
+    call.Key();
+    call.out.BeginArray();
+    for (std::size_t day = 0; day < ORRERY_WEEK_DAYS; ++day) {
+        writeDay(record + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSection) + day * kDay);
+    }
+    const std::byte* const schedule = record + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSectionEx);
+    if (MEMBER(schedule, CFG_TIME_SCHEDULE, bEnableHoliday) != 0) {
+        writeDay(schedule + offsetof(CFG_TIME_SCHEDULE, stuTimeSection) + ORRERY_WEEK_DAYS * kDay);
+    }
+    call.out.EndArray();
+}
+
+// ---- "DB" of the form with size words: the count comes from a number that stands where the list should ----
+
+void ReadCountedKeys(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
+    StoreSlot(field.count, record, std::min(value.asInt(), static_cast<std::int32_t>(field.dims[0])));
+}
+
+void WriteCountedKeys(const Field& field, const std::byte* record, WriteCall& call) {
+    const auto count = std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, field.dims[0]);
+    if (count == 0) return;
+    call.Key();
+    call.out.BeginArray();
+    for (std::int64_t i = 0; i < count; ++i) {
+        const std::byte* const key = record + field.offset + i * field.elementSize;
+        call.parser.SetJsonString(call.out, reinterpret_cast<const char*>(key), field.elementSize, true);
+    }
+    call.out.EndArray();
+}
+
+} // namespace
+
+constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions};
+constexpr CustomCodec kWeekOverSchedule{nullptr, WriteWeek};
+constexpr CustomCodec kCountedKeys{ReadCountedKeys, WriteCountedKeys};
+
+bool IsPtzLink(const std::byte* record) {
+    return kPtzLinks.RowOf(MEMBER(record, CFG_PTZ_LINK, emType)) != nullptr;
+}
+
+bool IsPtzLinkV2(const std::byte* record) {
+    const auto type = MEMBER(record, CFG_PTZ_LINK_V2, emType);
+    return type != CFG_PTZ_LINK_NONE && kPtzLinks.RowOf(type) != nullptr;
+}
+
+} // namespace orrery::linkage

@@ -1,0 +1,286 @@
+// The linkage record in both forms, as tables that every alarm, detector and rule embeds.
+#pragma once
+
+#include "frame/record/Table.h"
+
+#include "orrery/linkage.h"
+
+namespace orrery {
+
+namespace linkage {
+
+using namespace record;
+
+inline constexpr Name kPtzLinkRows[] = {
+    {CFG_PTZ_LINK_NONE, "None"},
+    {CFG_PTZ_LINK_PRESET, "Preset"},
+    {CFG_PTZ_LINK_TOUR, "Tour"},
+    {CFG_PTZ_LINK_PATTERN, "Pattern"},
+};
+inline constexpr NameTable kPtzLinks = FoldedNames(kPtzLinkRows).Unknown(CFG_PTZ_LINK_NONE);
+
+inline constexpr Name kAttachmentRows[] = {{CFG_ATTACHMENT_PICTURE, "picture"}, {CFG_ATTACHMENT_VIDEO, "video"}};
+inline constexpr NameTable kAttachments = FoldedNames(kAttachmentRows).UnknownLeaves();
+
+inline constexpr Name kTourSplitRows[] = {{0, "Split1"}, {1, "Split8"}};
+inline constexpr NameTable kTourSplits = FoldedNames(kTourSplitRows).UnknownLeaves();
+
+inline constexpr Name kTalkbackCallerRows[] = {{0, "Device"}};
+inline constexpr NameTable kTalkbackCallers = ExactNames(kTalkbackCallerRows).UnknownLeaves().OutsideWritesNull();
+
+inline constexpr Name kTalkbackProtocolRows[] = {{0, "Cellular"}};
+inline constexpr NameTable kTalkbackProtocols = ExactNames(kTalkbackProtocolRows).UnknownLeaves().OutsideWritesNull();
+
+inline constexpr Name kDoorActionRows[] = {
+    {CFG_ACCESS_CONTROL_AUTO, "Auto"},
+    {CFG_ACCESS_CONTROL_OPEN, "Open"},
+    {CFG_ACCESS_CONTROL_CLOSE, "Close"},
+    {CFG_ACCESS_CONTROL_OPEN_ALWAYS, "OpenAlways"},
+    {CFG_ACCESS_CONTROL_CLOSE_ALWAYS, "CloseAlways"},
+};
+inline constexpr NameTable kDoorActions = ExactNames(kDoorActionRows).UnknownLeaves();
+
+// Door actions: [ { "Operation" : "Open" }, ... ] into one number a door.
+extern const CustomCodec kDoorActionList;
+// Seven rows from the week, a holiday row from the schedule; written only.
+extern const CustomCodec kWeekOverSchedule;
+// A count that comes from a number standing where the list should.
+extern const CustomCodec kCountedKeys;
+
+bool IsPtzLink(const std::byte* record);
+bool IsPtzLinkV2(const std::byte* record);
+
+// ---- Parts that both forms share ----
+
+PART(kPtzLink, CFG_PTZ_LINK, FIELD(emType, "", Names(kPtzLinks)), FIELD(nValue, "", Int), FIELD(nParam1, "", Int),
+     FIELD(nParam2, "", Int), FIELD(nParam3, "", Int))
+    .As(Shape::Tuple)
+    .Writes(IsPtzLink);
+
+PART(kEventTitle, CFG_EVENT_TITLE, FIELD(szText, "Text", Text), FIELD(stuPoint, "Point", Record(kPoint)),
+     FIELD(stuSize, "Size", Record(kSize)), FIELD(stuFrontColor, "FrontColor", Record(kColor)),
+     FIELD(stuBackColor, "BackColor", Record(kColor)));
+
+PART(kMailDetail, CFG_MAIL_DETAIL, FIELD(emAttachmentType, "AttachmentType", Names(kAttachments)),
+     FIELD(nMaxSize, "MaxSize", Int), FIELD(nMaxTimeLength, "MaxTimeLength", Int));
+
+PART(kMonitorTour, CFG_MONITOR_TOUR, FIELD(bEnable, "Enable", Bool), FIELD(nSplit, "Split", SplitMode),
+     FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)), FIELD(nChannelCount));
+
+// ---- The current form ----
+
+template <bool Week>
+struct EventHandlerRows {
+    using R = CFG_EVENT_HANDLER_INFO;
+    static constexpr Field rows[] = {
+        FIELD(abRecordMask),
+        FIELD(abRecordEnable),
+        FIELD(abRecordLatch),
+        FIELD(abAlarmOutMask),
+        FIELD(abAlarmOutEn),
+        FIELD(abAlarmOutLatch),
+        FIELD(abExAlarmOutMask),
+        FIELD(abExAlarmOutEn),
+        FIELD(abPtzLinkEn),
+        FIELD(abTourMask),
+        FIELD(abTourEnable),
+        FIELD(abSnapshot),
+        FIELD(abSnapshotEn),
+        FIELD(abSnapshotPeriod),
+        FIELD(abSnapshotTimes),
+        FIELD(abTipEnable),
+        FIELD(abMailEnable),
+        FIELD(abMessageEnable),
+        FIELD(abBeepEnable),
+        FIELD(abVoiceEnable),
+        FIELD(abMatrixMask),
+        FIELD(abMatrixEnable),
+        FIELD(abDejitter),
+        FIELD(abLogEnable),
+        FIELD(abDelay),
+        FIELD(abVideoMessageEn),
+        FIELD(abMMSEnable),
+        FIELD(abMessageToNetEn),
+        FIELD(abTourSplit),
+        FIELD(abSnapshotTitleEn),
+        FIELD(abPtzLink),
+        FIELD(abSnapshotTitle),
+        FIELD(abMailDetail),
+        FIELD(abVideoTitleEn),
+        FIELD(abVideoTitle),
+        FIELD(abTour),
+        FIELD(abDBKeys),
+        FIELD(abJpegSummary),
+        FIELD(abFlashEnable),
+        FIELD(abFlashLatch),
+        FIELD(nRecordChannelNum, "SDK_RecordChannel", Int).ReadOnly(),
+        FIELD(nAlarmOutChannelNum, "SDK_AlarmOutChannel", Int).ReadOnly(),
+        FIELD(dwRecordMask, "RecordChannels", BitMask).Flag(AT(abRecordMask)),
+        FIELD(bRecordEnable, "RecordEnable", Bool).Flag(AT(abRecordEnable)).Always(),
+        FIELD(nRecordLatch, "RecordLatch", Int).Flag(AT(abRecordLatch)),
+        FIELD(dwAlarmOutMask, "AlarmOutChannels", BitMask).Flag(AT(abAlarmOutMask)).WhenEmpty(Empty::Null),
+        FIELD(bAlarmOutEn, "AlarmOutEnable", Bool).Flag(AT(abAlarmOutEn)).Always(),
+        FIELD(nAlarmOutLatch, "AlarmOutLatch", Int).Flag(AT(abAlarmOutLatch)),
+        FIELD(dwExAlarmOutMask, "ExAlarmOutChannels", BitMask).Flag(AT(abExAlarmOutMask)).WhenEmpty(Empty::Null),
+        FIELD(bExAlarmOutEn, "ExAlarmOutEnable", Bool).Flag(AT(abExAlarmOutEn)),
+        FIELD(bPtzLinkEn, "PtzLinkEnable", Bool).Flag(AT(abPtzLinkEn)),
+        FIELD(dwTourMask, "TourChannels", BitMaskLoose).Flag(AT(abTourMask)).AnyShape(),
+        FIELD(bTourEnable, "TourEnable", Bool).Flag(AT(abTourEnable)).TrueAtOne(),
+        FIELD(dwSnapshot, "SnapshotChannels", BitMask).Flag(AT(abSnapshot)),
+        FIELD(bSnapshotEn, "SnapshotEnable", Bool).Flag(AT(abSnapshotEn)),
+        FIELD(nSnapshotPeriod, "SnapshotPeriod", Int).Flag(AT(abSnapshotPeriod)),
+        FIELD(nSnapshotTimes, "SnapshotTimes", Int).Flag(AT(abSnapshotTimes)),
+        FIELD(bTipEnable, "TipEnable", Bool).Flag(AT(abTipEnable)),
+        FIELD(bMailEnable, "MailEnable", Bool).Flag(AT(abMailEnable)),
+        FIELD(bMessageEnable, "MessageEnable", Bool).Flag(AT(abMessageEnable)),
+        FIELD(bBeepEnable, "BeepEnable", Bool).Flag(AT(abBeepEnable)),
+        FIELD(bVoiceEnable, "VoiceEnable", Bool).Flag(AT(abVoiceEnable)),
+        FIELD(dwMatrixMask, "MatrixChannels", BitMaskLoose).Flag(AT(abMatrixMask)).AnyShape(),
+        FIELD(nMatrixEnable, "MatrixEnable", Int).WrittenAs(Bool).TrueAtOne().Flag(AT(abMatrixEnable)),
+        FIELD(nDejitter, "Dejitter", Int).Flag(AT(abDejitter)),
+        FIELD(bLogEnable, "LogEnable", Bool).Flag(AT(abLogEnable)),
+        FIELD(nDelay, "Delay", Int).Flag(AT(abDelay)),
+        FIELD(bVideoMessageEn, "OnVideoMessageEn", Bool).WriteOnly().TrueAtOne().Flag(AT(abVideoMessageEn)),
+        FIELD(bMMSEnable, "MMSEnable", Bool).Flag(AT(abMMSEnable)),
+        FIELD(nMessageToNetEn, "MessageToNetEnable", Int).WrittenAs(Bool).TrueAtOne().Flag(AT(abMessageToNetEn)),
+        FIELD(nTourSplit, "TourSplit", Names(kTourSplits)).ReadOnly().Flag(AT(abTourSplit)),
+        FIELD(bSnapshotTitleEn, "SnapshotTitleEnable", Bool).Flag(AT(abSnapshotTitleEn)),
+        FIELD(nPtzLinkNum),
+        FIELD(stuPtzLink, "PtzLink", Record(kPtzLink)).Flag(AT(abPtzLink)).Count(AT(nPtzLinkNum)),
+        FIELD(nSnapshotTitleNum),
+        FIELD(stuSnapshotTitle, "SnapshotTitle", Record(kEventTitle))
+            .Flag(AT(abSnapshotTitle))
+            .Count(AT(nSnapshotTitleNum)),
+        FIELD(stuMailDetail, "MailDetail", Record(kMailDetail)).Flag(AT(abMailDetail)),
+        FIELD(bVideoTitleEn, "VideoTitleEnable", Bool).Flag(AT(abVideoTitleEn)),
+        FIELD(nVideoTitleNum),
+        FIELD(stuVideoTitle, "VideoTitle", Record(kEventTitle)).Flag(AT(abVideoTitle)).Count(AT(nVideoTitleNum)),
+        FIELD(nTourNum),
+        FIELD(stuTour, "MonitorTour", Record(kMonitorTour)).Flag(AT(abTour)).Count(AT(nTourNum)),
+        FIELD(nDBKeysNum),
+        FIELD(szDBKeys, "DB", Text).Flag(AT(abDBKeys)).Count(AT(nDBKeysNum)).AnyShape(),
+        FIELD(szJpegSummary, "JpegSummary", RawText).Flag(AT(abJpegSummary)),
+        FIELD(bFlashEnable, "FlashEnable", Bool).Flag(AT(abFlashEnable)).TrueAtOne(),
+        FIELD(nFlashLatch, "FlashLatch", Int).Flag(AT(abFlashLatch)),
+        FIELD(abAudioFileName),
+        FIELD(abAlarmBellEn),
+        FIELD(abAccessControlEn),
+        FIELD(abAccessControl),
+        FIELD(szAudioFileName, "Voice/AudioFileName", Text).Flag(AT(abAudioFileName)),
+        FIELD(bAlarmBellEn, "AlarmBellEnable", Bool).Flag(AT(abAlarmBellEn)),
+        FIELD(bAccessControlEn, "AccessControlEnable", Bool).Flag(AT(abAccessControlEn)),
+        FIELD(nAccessControlNum),
+        FIELD(emAccessControl, "AccessControls", Custom(kDoorActionList))
+            .Flag(AT(abAccessControl))
+            .Count(AT(nAccessControlNum)),
+        FIELD(abTalkback, "Talkback", Presence),
+        FIELD(bTalkbackCallEn, "Talkback/CallEnable", Bool).WhenSet(AT(abTalkback)),
+        FIELD(emTalkbackCaller, "Talkback/Caller", Names(kTalkbackCallers)).WhenSet(AT(abTalkback)),
+        FIELD(emTalkbackProtocol, "Talkback/CallProtocol", Names(kTalkbackProtocols)).WhenSet(AT(abTalkback)),
+        FIELD(abPSTNAlarmServer, "PSTNAlarmServer", Presence),
+        FIELD(bNeedReport, "PSTNAlarmServer/NeedReport", Bool).WhenSet(AT(abPSTNAlarmServer)),
+        FIELD(nDestinationNum),
+        FIELD(byDestination, "PSTNAlarmServer/Destination", UInt)
+            .Count(AT(nDestinationNum))
+            .WhenSet(AT(abPSTNAlarmServer)),
+        FIELD(stuTimeSectionEx, "TimeSection", HolidaySchedule).Writable(!Week),
+        FIELD(abAlarmBellLatch),
+        FIELD(nAlarmBellLatch, "AlarmBellLatch", Int).Flag(AT(abAlarmBellLatch)),
+        Week ? FIELD(stuTimeSection, "TimeSection", TimeSection).ReadOnly() : FIELD(stuTimeSection),
+        MakeVirtual("TimeSection", Custom(kWeekOverSchedule)).Writable(Week),
+    };
+};
+
+// ---- The form with size words ----
+
+PART(kTimeSectionV2, CFG_TIME_SECTION_V2, FIELD(dwSize, nullptr, Size), FIELD(stuSection, "", TimeSection)).Guarded();
+PART(kPointV2, CFG_POINT_V2, FIELD(dwSize, nullptr, Size), FIELD(nX, "", Int), FIELD(nY, "", Int))
+    .As(Shape::Tuple)
+    .Guarded();
+PART(kSizeV2, CFG_SIZE_V2, FIELD(dwSize, nullptr, Size), FIELD(nWidth, "", Int), FIELD(nHeight, "", Int))
+    .As(Shape::Tuple)
+    .Guarded();
+PART(kColorV2, CFG_COLOR_V2, FIELD(dwSize, nullptr, Size), FIELD(nRed, "", Int), FIELD(nGreen, "", Int),
+     FIELD(nBlue, "", Int), FIELD(nAlpha, "", Int))
+    .As(Shape::Tuple)
+    .Guarded();
+
+PART(kPtzLinkV2, CFG_PTZ_LINK_V2, FIELD(dwSize, nullptr, Size), FIELD(emType, "", Names(kPtzLinks)),
+     FIELD(nValue, "", Int), FIELD(nParam1, "", Int), FIELD(nParam2, "", Int), FIELD(nParam3, "", Int))
+    .As(Shape::Tuple)
+    .Writes(IsPtzLinkV2);
+
+PART(kEventTitleV2, CFG_EVENT_TITLE_V2, FIELD(dwSize, nullptr, Size), FIELD(szText, "Text", Text),
+     FIELD(stuPoint, "Point", Record(kPointV2)), FIELD(stuSize, "Size", Record(kSizeV2)),
+     FIELD(stuFrontColor, "FrontColor", Record(kColorV2)), FIELD(stuBackColor, "BackColor", Record(kColorV2)));
+
+PART(kMonitorTourV2, CFG_MONITOR_TOUR_V2, FIELD(dwSize, nullptr, Size), FIELD(bEnable, "Enable", Bool),
+     FIELD(nSplit, "Split", SplitMode), FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)),
+     FIELD(nChannelCount));
+
+static_assert(sizeof(CFG_TIME_SECTION_V2) == 32 && sizeof(CFG_POINT_V2) == 12 && sizeof(CFG_SIZE_V2) == 12);
+static_assert(sizeof(CFG_COLOR_V2) == 20 && sizeof(CFG_PTZ_LINK_V2) == 24);
+static_assert(sizeof(CFG_EVENT_TITLE_V2) == 132 && sizeof(CFG_MONITOR_TOUR_V2) == 4112);
+
+struct EventHandlerV2Rows {
+    using R = CFG_EVENT_HANDLER_V2_INFO;
+    static constexpr Field rows[] = {
+        FIELD(dwSize, nullptr, Size),
+        FIELD(stuTimeSection, "TimeSection", Record(kTimeSectionV2)),
+        FIELD(bRecordEnable, "RecordEnable", Bool).Always(),
+        FIELD(nRecordChannels, "RecordChannels", Switches),
+        FIELD(abRecordLatch),
+        FIELD(nRecordLatch, "RecordLatch", Int).Flag(AT(abRecordLatch)),
+        FIELD(bAlarmOutEnable, "AlarmOutEnable", Bool).Always(),
+        FIELD(nAlarmOutChannels, "AlarmOutChannels", Switches),
+        FIELD(abAlarmOutLatch),
+        FIELD(nAlarmOutLatch, "AlarmOutLatch", Int).Flag(AT(abAlarmOutLatch)),
+        FIELD(bExAlarmOutEnable, "ExAlarmOutEnable", Bool).Always(),
+        FIELD(nExAlarmOutChannels, "ExAlarmOutChannels", Switches),
+        FIELD(bPtzLinkEnable, "PtzLinkEnable", Bool).Always(),
+        FIELD(nPtzLinkNum),
+        FIELD(stuPtzLink, "PtzLink", Record(kPtzLinkV2)).Count(AT(nPtzLinkNum)).OnSkipped(Skipped::ClosesUp),
+        FIELD(bSnapshotEnable, "SnapshotEnable", Bool).Always(),
+        FIELD(nSnapshotChannels, "SnapshotChannels", Switches),
+        FIELD(abSnapshotPeriod),
+        FIELD(nSnapshotPeriod, "SnapshotPeriod", Int).Flag(AT(abSnapshotPeriod)),
+        FIELD(abSnapshotTimes),
+        FIELD(nSnapshotTimes),
+        FIELD(bSnapshotTitleEnable, "SnapshotTitleEnable", Bool).Always(),
+        FIELD(nSnapshotTitleNum),
+        FIELD(stuSnapshotTitle, "SnapshotTitle", Record(kEventTitleV2)).Count(AT(nSnapshotTitleNum)),
+        FIELD(bTipEnable, "TipEnable", Bool).Always(),
+        FIELD(bMailEnable, "MailEnable", Bool).Always(),
+        FIELD(bMessageEnable, "MessageEnable", Bool).Always(),
+        FIELD(bBeepEnable, "BeepEnable", Bool).Always(),
+        FIELD(bVoiceEnable, "VoiceEnable", Bool).Always(),
+        FIELD(abDejitter),
+        FIELD(nDejitter, "Dejitter", Int).Flag(AT(abDejitter)),
+        FIELD(bLogEnable, "LogEnable", Bool).Always(),
+        FIELD(abDelay),
+        FIELD(nDelay, "Delay", Int).Flag(AT(abDelay)),
+        FIELD(bVideoTitleEnable, "VideoTitleEnable", Bool).Always(),
+        FIELD(nVideoTitleNum),
+        FIELD(stuVideoTitle, "VideoTitle", Record(kEventTitleV2)).Count(AT(nVideoTitleNum)),
+        FIELD(bMMSEnable, "MMSEnable", Bool).Always(),
+        FIELD(nTourNum),
+        FIELD(stuTour, "MonitorTour", Record(kMonitorTourV2)).Count(AT(nTourNum)),
+        FIELD(nDBKeysNum),
+        FIELD(szDBKeys, "DB", Custom(kCountedKeys)).Count(AT(nDBKeysNum)),
+        FIELD(szJpegSummary, "JpegSummary", RawText),
+    };
+};
+
+} // namespace linkage
+
+// Without the week: the schedule travels in stuTimeSectionEx alone.
+inline constexpr record::TypedTable<CFG_EVENT_HANDLER_INFO> kEventHandler =
+    record::MakeTable<linkage::EventHandlerRows<false>>("CFG_EVENT_HANDLER_INFO");
+// With the week in stuTimeSection as well.
+inline constexpr record::TypedTable<CFG_EVENT_HANDLER_INFO> kEventHandlerWeek =
+    record::MakeTable<linkage::EventHandlerRows<true>>("CFG_EVENT_HANDLER_INFO");
+// With size words.
+inline constexpr record::TypedTable<CFG_EVENT_HANDLER_V2_INFO> kEventHandlerV2 =
+    record::MakeTable<linkage::EventHandlerV2Rows>("CFG_EVENT_HANDLER_V2_INFO");
+
+} // namespace orrery

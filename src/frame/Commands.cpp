@@ -1,0 +1,180 @@
+#include "frame/Commands.h"
+
+#include "alarm/AlarmCaps.h"
+#include "alarm/AlarmInput.h"
+#include "frame/GeneralSwitch.h"
+
+#include <array>
+
+namespace orrery {
+
+namespace {
+
+// Words of the rows below.
+constexpr ParseFrame kParse;
+constexpr PackFrame kPack;
+
+constexpr Command Generic(std::string_view name, const record::Table& table, TableFrame frame) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = command.pack = Command::Frame::Table;
+    command.tableFrame = frame;
+    return command;
+}
+
+constexpr Command Both(std::string_view name, const record::Table& table, ParseFrame parse, PackFrame pack) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = command.pack = Command::Frame::Family;
+    command.parseFrame = parse;
+    command.packFrame = pack;
+    return command;
+}
+
+constexpr Command Reply(std::string_view name, const record::Table& table, ParseFrame parse) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = Command::Frame::Family;
+    command.parseFrame = parse;
+    return command;
+}
+
+// Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
+constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
+constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
+
+constexpr ParseFrame kCaps = kParse.From(Source::Caps);
+constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
+
+constexpr TableFrame kOneCleared{.zeroBuffer = true};
+
+constexpr Command kCommands[] = {
+    // Switches
+    Generic("G3G4AutoChange", kEnable, kOneCleared),
+    Generic("CabinLedTimeSchedule", kEnable, kOneCleared),
+    Generic("PwdReset", kEnable, kOneCleared),
+
+    // Alarm inputs
+    Both("Alarm", kAlarmInput, kUntested, kLoose),
+    Both("NetAlarm", kNetAlarm, kUntested, kLoose),
+    Both("MotionDetect", kMotionDetect, kParse.Null(OnNull::OneRecord).OnceParsed(MarkMotionDetectRead),
+         kPack.KeepsText()),
+    Both("LossDetect", kLossDetect, kUntested, kLoose),
+    Both("BlindDetect", kBlindDetect, kUntested, kLoose),
+    Both("StorageNotExist", kStorageAlarm, kUntested, kLoose),
+    Both("StorageFailure", kStorageAlarm, kUntested, kLoose),
+    Both("StorageLowSpace", kStorageLowSpace, kUntested, kLoose),
+    Both("NetAbort", kStorageAlarm, kUntested, kLoose),
+    Both("IPConflict", kStorageAlarm, kUntested, kLoose),
+    Both("MacConflict", kStorageAlarm, kUntested, kLoose),
+    Both("PSTNBreakLine", kStorageAlarm, kUntested, kLoose),
+
+    // Alarm capabilities
+    Reply("alarm.getAlarmCaps", kAlarmCaps, kCapsTextTrue),
+    Reply("alarm.getExAlarmCaps", kExAlarmCaps, kCapsTextTrue),
+    Reply("alarm.getExAlarmBoxCaps", kExAlarmBoxCaps, kCapsTextTrue),
+    Reply("AnalogAlarm.getCaps", kAnalogAlarmCaps, kCaps),
+};
+
+// ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----
+
+constexpr std::size_t kCommandCount = sizeof kCommands / sizeof kCommands[0];
+
+constexpr char Folded(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+constexpr bool SameFolded(std::string_view left, std::string_view right) {
+    if (left.size() != right.size()) return false;
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        if (Folded(left[i]) != Folded(right[i])) return false;
+    }
+    return true;
+}
+
+constexpr std::uint32_t Hash(std::string_view name) {
+    std::uint32_t hash = 2166136261u; // FNV-1a
+    for (char c : name)
+        hash = (hash ^ static_cast<unsigned char>(Folded(c))) * 16777619u;
+    return hash ^ (hash >> 15);
+}
+
+constexpr std::size_t SlotCount() {
+    std::size_t slots = 1;
+    while (slots < 2 * kCommandCount)
+        slots *= 2;
+    return slots;
+}
+
+constexpr std::uint16_t kFree = 0xffff;
+
+constexpr auto kIndex = [] {
+    std::array<std::uint16_t, SlotCount()> index{};
+    index.fill(kFree);
+    for (std::uint16_t i = 0; i < kCommandCount; ++i) {
+        std::size_t slot = Hash(kCommands[i].name) % index.size();
+        while (index[slot] != kFree)
+            slot = (slot + 1) % index.size();
+        index[slot] = i;
+    }
+    return index;
+}();
+
+constexpr bool NamesDiffer() {
+    for (std::size_t i = 0; i < kCommandCount; ++i) {
+        for (std::size_t k = i + 1; k < kCommandCount; ++k) {
+            if (SameFolded(kCommands[i].name, kCommands[k].name)) return false;
+        }
+    }
+    return true;
+}
+static_assert(NamesDiffer(), "a command stands in the table once");
+
+} // namespace
+
+std::span<const Command> Commands() noexcept {
+    return kCommands;
+}
+
+const Command* FindCommand(std::string_view name) noexcept {
+    for (std::size_t slot = Hash(name) % kIndex.size(); kIndex[slot] != kFree; slot = (slot + 1) % kIndex.size()) {
+        const Command& command = kCommands[kIndex[slot]];
+        if (SameFolded(command.name, name)) return &command;
+    }
+    return nullptr;
+}
+
+Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
+    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
+    switch (command.parse) {
+    case Command::Frame::None:
+        break;
+    case Command::Frame::Table:
+        return ParseTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Family:
+        return ParseFamily(*command.table, command.parseFrame, request);
+    case Command::Frame::Own:
+        return command.ownParse(request);
+    }
+    return Outcome::UnknownCommand;
+}
+
+Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
+    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
+    switch (command.pack) {
+    case Command::Frame::None:
+        break;
+    case Command::Frame::Table:
+        return PacketTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Family:
+        return PacketFamily(*command.table, command.packFrame, request);
+    case Command::Frame::Own:
+        return command.ownPack(request);
+    }
+    return Outcome::UnknownCommand;
+}
+
+} // namespace orrery

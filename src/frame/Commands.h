@@ -1,0 +1,36 @@
+// The command table, the map of the system: every command's name, its record and the frames that serve it.
+#pragma once
+
+#include "frame/Frames.h"
+
+#include <span>
+#include <string_view>
+
+namespace orrery {
+
+struct Command {
+    enum class Frame : std::uint8_t { None, Table, Family, Own };
+
+    std::string_view name;
+    const record::Table* table = nullptr; // also the tools' view of a buffer that functions of its own serve
+    Frame parse = Frame::None;
+    Frame pack = Frame::None;
+    TableFrame tableFrame;
+    ParseFrame parseFrame;
+    PackFrame packFrame;
+    Outcome (*ownParse)(const ParseRequest& request) = nullptr;
+    Outcome (*ownPack)(const PackRequest& request) = nullptr;
+
+    bool parses() const { return parse != Frame::None; }
+    bool packs() const { return pack != Frame::None; }
+};
+
+// All commands, in the order of the table.
+std::span<const Command> Commands() noexcept;
+// The command of that name, ASCII case folded and nothing else; null when there is none.
+const Command* FindCommand(std::string_view name) noexcept;
+
+Outcome RunParse(const Command& command, const ParseRequest& request) noexcept;
+Outcome RunPack(const Command& command, const PackRequest& request) noexcept;
+
+} // namespace orrery

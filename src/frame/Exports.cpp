@@ -1,0 +1,37 @@
+// The exported translation functions: argument tests, and on to the command table.
+#include "frame/Commands.h"
+
+#include "orrery/orrery.h"
+
+#define ORRERY_EXPORT extern "C" __attribute__((visibility("default")))
+
+using orrery::Command;
+using orrery::Outcome;
+
+ORRERY_EXPORT int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, uint32_t bufferSize,
+                                       uint32_t* returnedLength) {
+    if (command == nullptr || text == nullptr || buffer == nullptr || bufferSize == 0) return 0;
+    const Command* const found = orrery::FindCommand(command);
+    if (found == nullptr) return 0;
+    return orrery::RunParse(*found, {text, buffer, bufferSize, returnedLength}) == Outcome::Done;
+}
+
+ORRERY_EXPORT int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
+                                        uint32_t textCapacity) {
+    if (command == nullptr || record == nullptr || textBuffer == nullptr) return 0;
+    const Command* const found = orrery::FindCommand(command);
+    if (found == nullptr) return 0;
+    return orrery::RunPack(*found, {record, recordSize, textBuffer, textCapacity}) == Outcome::Done;
+}
+
+ORRERY_EXPORT int32_t CLIENT_ParseAnalyzerEventData(const char*, uint32_t, ORRERY_EVENT_CALLBACK, void*) {
+    return 0;
+}
+
+ORRERY_EXPORT int32_t CLIENT_ParseDataByCallback(const char*, uint32_t, ORRERY_EVENT_CALLBACK, void*) {
+    return 0;
+}
+
+ORRERY_EXPORT int32_t CLIENT_ParseVideoInAnalyse(const char*, int32_t, const char*, const void*, void*, uint32_t) {
+    return 0;
+}

@@ -1,0 +1,248 @@
+// The frames: what many commands share between their export and their record table. A command chooses words; no family
+// repeats a frame's steps.
+#pragma once
+
+#include "frame/record/Table.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace orrery {
+
+// ---- The words of a command's reply ------------------------------------------------------------------------------
+
+// Where the value stands in the reply.
+enum class Source : std::uint8_t {
+    Table,        // params.table
+    Caps,         // params.caps
+    CapsOrParams, // params.caps, or params itself when there is no caps
+    Params,       // params.<name>
+    Top,          // <name> at the document's top level
+    Result,       // result is itself the value
+};
+
+// What "result" must say.
+enum class ResultTest : std::uint8_t {
+    MustBeTrue,     // converts to true; absent refuses
+    FalseRefuses,   // converts to true, or absent
+    NotTested,      // the table of a refused call is read all the same
+    ExactBool,      // the JSON value true
+    IntegerNonZero, // reads as an integer other than 0
+    TextTrue,       // reads as the text "true", case folded: JSON true and "true"
+};
+
+// Which shapes of the value are taken.
+enum class Take : std::uint8_t {
+    One,           // one record, whatever the type
+    OneOrMany,     // array: a record an element; object: one record; other types fail
+    AnyOrMany,     // array: a record an element; any other type: one record
+    Many,          // array: a record an element; other types fail
+    ManyOrNone,    // array: a record an element; other types succeed with no record
+    List,          // one record that is itself a list: other types than an array fail
+    ByMember,      // object: a record a member, in key order, null members skipped; other types fail
+    ByMemberOrNone // the same; other types have no members
+};
+
+// What a null or absent value does.
+enum class OnNull : std::uint8_t {
+    Fails,
+    LengthZero,      // succeeds, reply length 0
+    LengthUntouched, // succeeds, reply length not assigned
+    OneRecord,       // succeeds with one record: what reading nothing gives
+};
+
+enum class Clearing : std::uint8_t {
+    Buffer, // the whole buffer
+    Record, // the first record
+    Kept,   // the caller's own input: descriptors, values that absent keys keep
+};
+
+enum class ReplyLength : std::uint8_t { OneRecord, PerRecord, None };
+
+// How far apart a caller's records are.
+enum class Stride : std::uint8_t {
+    Record,          // the record's own size
+    SizeWord,        // the caller's first size word; each record passes through a local one, as a block
+    SizeWordByField, // the same, moved field by field
+};
+
+struct ParseFrame {
+    Source source = Source::Table;
+    const char* name = ""; // of the member, for Params and Top
+    ResultTest result = ResultTest::MustBeTrue;
+    Take take = Take::One;
+    OnNull onNull = OnNull::Fails;
+    Clearing clearing = Clearing::Buffer;
+    ReplyLength length = ReplyLength::OneRecord;
+    Stride stride = Stride::Record;
+    bool exactSize = false; // the buffer must have exactly the record's size
+    // Tests the caller's own input before anything else; false fails the call with nothing touched.
+    bool (*accepts)(const std::byte* buffer, std::uint32_t size) = nullptr;
+    // Runs once the text has parsed, before "result" is looked at.
+    void (*parsed)(std::byte* buffer) = nullptr;
+
+    constexpr ParseFrame From(Source where, const char* member = "") const {
+        auto f = *this;
+        f.source = where;
+        f.name = member;
+        return f;
+    }
+    constexpr ParseFrame Result(ResultTest test) const {
+        auto f = *this;
+        f.result = test;
+        return f;
+    }
+    constexpr ParseFrame Takes(Take what) const {
+        auto f = *this;
+        f.take = what;
+        return f;
+    }
+    constexpr ParseFrame Null(OnNull what) const {
+        auto f = *this;
+        f.onNull = what;
+        return f;
+    }
+    constexpr ParseFrame Clears(Clearing what) const {
+        auto f = *this;
+        f.clearing = what;
+        return f;
+    }
+    constexpr ParseFrame Length(ReplyLength what) const {
+        auto f = *this;
+        f.length = what;
+        return f;
+    }
+    constexpr ParseFrame Strides(Stride what) const {
+        auto f = *this;
+        f.stride = what;
+        return f;
+    }
+    constexpr ParseFrame ExactSize() const {
+        auto f = *this;
+        f.exactSize = true;
+        return f;
+    }
+    constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
+        auto f = *this;
+        f.accepts = test;
+        return f;
+    }
+    constexpr ParseFrame OnceParsed(void (*function)(std::byte*)) const {
+        auto f = *this;
+        f.parsed = function;
+        return f;
+    }
+};
+
+// ---- The words of a command's text -------------------------------------------------------------------------------
+
+enum class Form : std::uint8_t {
+    One,         // one record, bare
+    Array,       // as many records as fit the size, always an array
+    BareIfOne,   // bare when exactly one whole record fits the size, else an array
+    BareIfExact, // bare when the size is exactly one record, else an array of those that fit
+    ByMember,    // as many records as fit the size, each under its member name
+};
+
+// How long a text may be, and how it is ended.
+enum class Capacity : std::uint8_t {
+    Strict,    // shorter than the capacity
+    Loose,     // up to the capacity; at exactly the capacity the last character gives way to the terminator
+    Raw,       // up to the capacity; at exactly the capacity there is no terminator
+    OneBefore, // shorter than the capacity less one
+};
+
+struct PackFrame {
+    Form form = Form::One;
+    Capacity capacity = Capacity::Strict;
+    Stride stride = Stride::Record;
+    const char* quotedKey = ""; // `"Key" : ` under which the value stands at the top; empty: the value is the text
+    bool exactSize = false;     // the record must have exactly the table's size
+    bool keepsText = false;     // a failed call leaves the text buffer as it was
+    bool (*accepts)(const std::byte* record, std::uint32_t size) = nullptr;
+
+    constexpr PackFrame As(Form what) const {
+        auto f = *this;
+        f.form = what;
+        return f;
+    }
+    constexpr PackFrame Fits(Capacity what) const {
+        auto f = *this;
+        f.capacity = what;
+        return f;
+    }
+    constexpr PackFrame Strides(Stride what) const {
+        auto f = *this;
+        f.stride = what;
+        return f;
+    }
+    constexpr PackFrame Under(const char* quoted) const {
+        auto f = *this;
+        f.quotedKey = quoted;
+        return f;
+    }
+    constexpr PackFrame ExactSize() const {
+        auto f = *this;
+        f.exactSize = true;
+        return f;
+    }
+    constexpr PackFrame KeepsText() const {
+        auto f = *this;
+        f.keepsText = true;
+        return f;
+    }
+    constexpr PackFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
+        auto f = *this;
+        f.accepts = test;
+        return f;
+    }
+};
+
+// ---- The generic table frame -------------------------------------------------------------------------------------
+
+struct TableFrame {
+    bool arrayForm = false;     // the table may be an array of records
+    std::uint8_t dimension = 0; // array levels that one record itself has
+    bool zeroBuffer = false;    // parse: the whole buffer is cleared first
+    bool alwaysArray = false;   // pack: an array also for one record
+};
+
+// Why a call answered 0. The exports keep it to themselves; tools tell their user.
+enum class Outcome : std::uint8_t {
+    Done,
+    BadArguments,
+    UnknownCommand,
+    BufferTooSmall, // parse: below one record
+    RecordTooSmall, // pack: below one record
+    NotAccepted,    // the caller's own input is refused
+    NoJson,
+    Refused, // "result"
+    NoValue,
+    WrongShape,
+    RowRefused, // a row's function ended the call
+    TextTooLong,
+    OutOfMemory,
+};
+
+struct ParseRequest {
+    const char* text;
+    void* buffer;
+    std::uint32_t bufferSize;
+    std::uint32_t* returnedLength; // may be null
+};
+
+struct PackRequest {
+    const void* record;
+    std::uint32_t recordSize;
+    char* textBuffer;
+    std::uint32_t textCapacity;
+};
+
+Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const ParseRequest& request) noexcept;
+Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const PackRequest& request) noexcept;
+
+// Adds each record that it reads to `*returnedLength`; a null element leaves a gap that is not counted.
+Outcome ParseTableFrame(const record::Table& table, const TableFrame& frame, const ParseRequest& request) noexcept;
+Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept;
+
+} // namespace orrery

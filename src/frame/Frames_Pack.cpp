@@ -1,0 +1,168 @@
+#include "frame/Frames.h"
+
+#include "frame/Arena.h"
+#include "frame/JsonParser.h"
+#include "frame/LocalText.h"
+#include "frame/Platform/ParamConvert.h"
+#include "frame/record/Engine.h"
+
+#include <cstring>
+
+namespace orrery {
+
+namespace {
+
+using record::OpenObject;
+using record::WriteCall;
+
+// What is written: records at a stride, in one of the forms.
+struct Content {
+    const record::Table& table;
+    const std::byte* first;
+    std::uint32_t stride;
+    std::uint32_t count;
+    Form form; // One, Array or ByMember
+    std::string_view quotedKey;
+};
+
+// Records that their table holds back are null in their place; behind the last one written there is no place, and a
+// list that nothing was put in is null itself.
+void WriteArray(const Content& content, WriteCall& call) noexcept {
+    const auto record = [&](std::uint32_t i) { return content.first + std::size_t{i} * content.stride; };
+    std::uint32_t end = content.count;
+    while (end > 0 && !record::IsWritten(content.table, record(end - 1)))
+        --end;
+    if (end == 0) return call.out.Null();
+    call.out.BeginArray();
+    for (std::uint32_t i = 0; i < end; ++i) {
+        if (record::IsWritten(content.table, record(i)))
+            record::WriteRecord(content.table, record(i), call);
+        else
+            call.out.Null();
+    }
+    call.out.EndArray();
+}
+
+// Writes the whole text; fails when memory ran out or a row's function refused.
+Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
+    StackArena<std::size_t{4} << 10> arena;
+    LocalText text(arena);
+    JsonParser parser(text);
+    WriteCall call{parser, out, nullptr, false, {}};
+    OpenObject root;
+    if (!content.quotedKey.empty()) {
+        call.object = &root;
+        call.Quoted(content.quotedKey);
+    }
+    switch (content.form) {
+    case Form::ByMember:
+        record::WriteByName(content.table, content.first, content.count, content.stride, call);
+        break;
+    case Form::Array:
+        WriteArray(content, call);
+        break;
+    default:
+        record::WriteRecord(content.table, content.first, call);
+        break;
+    }
+    if (root.opened) out.EndObject();
+    out.EndText();
+    if (arena.failed()) return Outcome::OutOfMemory;
+    return call.refused ? Outcome::RowRefused : Outcome::Done;
+}
+
+bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexcept {
+    switch (capacity) {
+    case Capacity::Strict:
+        return length < room;
+    case Capacity::Loose:
+    case Capacity::Raw:
+        return length <= room;
+    case Capacity::OneBefore:
+        return length + 1 < room;
+    }
+    return false;
+}
+
+// Writes straight into the caller's buffer and clears what the text leaves of it; a text that does not fit leaves
+// zeros, or with `keeps` nothing at all.
+Outcome Deliver(const Content& content, Capacity capacity, bool keeps, const PackRequest& request) noexcept {
+    const std::size_t room = request.textCapacity;
+    char* const buffer = request.textBuffer;
+    if (keeps) {
+        json::TextWriter measure(nullptr, 0);
+        if (const Outcome outcome = WriteText(content, measure); outcome != Outcome::Done) return outcome;
+        if (!Fits(capacity, measure.length(), room)) return Outcome::TextTooLong;
+    }
+    json::TextWriter out(buffer, room);
+    Outcome outcome = WriteText(content, out);
+    if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
+    if (outcome != Outcome::Done) {
+        std::memset(buffer, 0, room);
+        return outcome;
+    }
+    if (out.length() < room)
+        std::memset(buffer + out.length(), 0, keeps ? 1 : room - out.length());
+    else if (capacity == Capacity::Loose)
+        buffer[room - 1] = '\0';
+    return Outcome::Done;
+}
+
+} // namespace
+
+Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const PackRequest& request) noexcept {
+    const auto* const first = static_cast<const std::byte*>(request.record);
+    std::uint32_t stride = table.size;
+    if (frame.stride != Stride::Record) {
+        if (request.recordSize < sizeof stride) return Outcome::RecordTooSmall;
+        stride = record::Load<std::uint32_t>(first);
+        if (stride == 0 || stride > request.recordSize) return Outcome::RecordTooSmall;
+    }
+    if (frame.exactSize ? request.recordSize != stride : request.recordSize < stride) return Outcome::RecordTooSmall;
+    if (frame.accepts != nullptr && !frame.accepts(first, request.recordSize)) return Outcome::NotAccepted;
+
+    Content content{table, first, stride, request.recordSize / stride, frame.form, frame.quotedKey};
+    if (frame.form == Form::BareIfOne) content.form = content.count == 1 ? Form::One : Form::Array;
+    if (frame.form == Form::BareIfExact) content.form = request.recordSize == stride ? Form::One : Form::Array;
+    if (content.form == Form::One) content.count = 1;
+    if (frame.stride == Stride::Record) return Deliver(content, frame.capacity, frame.keepsText, request);
+
+    // Callers' records of another layout pass through local ones of this library's.
+    StackArena<std::size_t{4} << 10> arena;
+    auto* const locals = arena.Array<std::byte>(std::size_t{content.count} * table.size);
+    if (locals == nullptr) return Outcome::OutOfMemory;
+    std::memset(locals, 0, std::size_t{content.count} * table.size);
+    for (std::uint32_t i = 0; i < content.count; ++i) {
+        std::byte* const local = locals + std::size_t{i} * table.size;
+        const std::byte* const source = first + std::size_t{i} * stride;
+        record::SetSizeWords(table, local);
+        if (frame.stride == Stride::SizeWord)
+            ParamConvert(source, stride, local, table.size);
+        else
+            ConvertFields(table, source, stride, local, table.size);
+    }
+    content.first = locals;
+    content.stride = table.size;
+    return Deliver(content, frame.capacity, frame.keepsText, request);
+}
+
+Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept {
+    const auto* const first = static_cast<const std::byte*>(request.record);
+    Content content{table, first, table.size, 1, Form::One, {}};
+    if (frame.arrayForm) content.count = request.recordSize / table.size;
+    if (frame.alwaysArray || content.count >= 2) content.form = Form::Array;
+    if (content.count == 0) content.form = Form::Array; // no record: the text of a list that nothing was put in
+
+    StackArena<std::size_t{4} << 10> arena;
+    if (!frame.arrayForm && request.recordSize < table.size) {
+        // One record is written in any event; what the caller did not hand over reads as zero.
+        auto* const whole = arena.Array<std::byte>(table.size);
+        if (whole == nullptr) return Outcome::OutOfMemory;
+        std::memset(whole, 0, table.size);
+        std::memcpy(whole, first, request.recordSize);
+        content.first = whole;
+    }
+    return Deliver(content, Capacity::Strict, false, request);
+}
+
+} // namespace orrery

@@ -1,0 +1,265 @@
+#include "frame/Frames.h"
+
+#include "frame/Arena.h"
+#include "frame/JsonParser.h"
+#include "frame/LocalText.h"
+#include "frame/Platform/ParamConvert.h"
+#include "frame/json/Reader.h"
+#include "frame/record/Engine.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orrery {
+
+namespace {
+
+using json::Value;
+using record::ReadCall;
+
+// Everything that one call needs besides the caller's buffers. A reply of a few kilobytes fits the first chunk.
+struct Document {
+    StackArena<std::size_t{16} << 10> arena;
+    LocalText text{arena};
+    JsonParser parser{text};
+    Value root;
+
+    Outcome Parse(const char* source) noexcept {
+        if (json::Parse(std::string_view(source), arena, root)) return Outcome::Done;
+        return arena.failed() ? Outcome::OutOfMemory : Outcome::NoJson;
+    }
+};
+
+bool Passes(ResultTest test, const Value& result) noexcept {
+    switch (test) {
+    case ResultTest::MustBeTrue:
+        return result.asBool();
+    case ResultTest::FalseRefuses:
+        return result.isNull() || result.asBool();
+    case ResultTest::NotTested:
+        return true;
+    case ResultTest::ExactBool:
+        return result.isBool() && result.asBool();
+    case ResultTest::IntegerNonZero:
+        return result.asInt() != 0;
+    case ResultTest::TextTrue:
+        return EqualsFolded(result.asString(), "true");
+    }
+    return false;
+}
+
+const Value& Find(const ParseFrame& frame, const Value& root) noexcept {
+    const Value& params = root["params"];
+    switch (frame.source) {
+    case Source::Table:
+        return params["table"];
+    case Source::Caps:
+        return params["caps"];
+    case Source::CapsOrParams:
+        return params["caps"].isNull() ? params : params["caps"];
+    case Source::Params:
+        return params[frame.name];
+    case Source::Top:
+        return root[frame.name];
+    case Source::Result:
+        return root["result"];
+    }
+    return json::kNull;
+}
+
+// What a value of the right shape holds.
+enum class Holds : std::uint8_t { Nothing, OneRecord, Elements, Members, WrongShape };
+
+Holds ShapeOf(Take take, const Value& value) noexcept {
+    const bool isArray = value.type() == json::Type::Array;
+    const bool isObject = value.type() == json::Type::Object;
+    switch (take) {
+    case Take::One:
+        return Holds::OneRecord;
+    case Take::OneOrMany:
+        return isArray ? Holds::Elements : isObject ? Holds::OneRecord : Holds::WrongShape;
+    case Take::AnyOrMany:
+        return isArray ? Holds::Elements : Holds::OneRecord;
+    case Take::Many:
+        return isArray ? Holds::Elements : Holds::WrongShape;
+    case Take::ManyOrNone:
+        return isArray ? Holds::Elements : Holds::Nothing;
+    case Take::List:
+        return isArray ? Holds::OneRecord : Holds::WrongShape;
+    case Take::ByMember:
+        return isObject ? Holds::Members : Holds::WrongShape;
+    case Take::ByMemberOrNone:
+        return isObject ? Holds::Members : Holds::Nothing;
+    }
+    return Holds::WrongShape;
+}
+
+// The caller's records, one behind the other.
+class Records {
+  public:
+    Records(const record::Table& table, const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride,
+            ReadCall& call) noexcept
+        : table_(table), frame_(frame), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
+          room_(request.bufferSize / stride), call_(call) {
+        if (frame.stride != Stride::Record) local_ = call.parser.text().arena().Array<std::byte>(table.size);
+    }
+
+    bool isFull() const noexcept { return used_ == room_; }
+    // Records walked, whether something was read into them or not.
+    std::uint32_t used() const noexcept { return used_; }
+
+    // Nothing is written for a null: its record stays as the buffer was cleared.
+    void Skip() noexcept { ++used_; }
+
+    void Read(const Value& value, std::string_view memberName) noexcept {
+        std::byte* const at = first_ + std::size_t{used_++} * stride_;
+        if (frame_.stride == Stride::Record) return record::ReadRecord(table_, value, at, call_, memberName);
+        if (local_ == nullptr) return;
+        // The local record picks up what the caller set, pointers and capacities above all.
+        std::memset(local_, 0, table_.size);
+        record::SetSizeWords(table_, local_);
+        Convert(at, stride_, local_, table_.size);
+        record::ReadRecord(table_, value, local_, call_, memberName);
+        Convert(local_, table_.size, at, stride_);
+    }
+
+  private:
+    void Convert(const std::byte* source, std::uint32_t sourceSize, std::byte* destination,
+                 std::uint32_t destinationSize) const noexcept {
+        // A size that cannot be converted has been logged; the call goes on with what there is.
+        if (frame_.stride == Stride::SizeWord)
+            ParamConvert(source, sourceSize, destination, destinationSize);
+        else
+            ConvertFields(table_, source, sourceSize, destination, destinationSize);
+    }
+
+    const record::Table& table_;
+    const ParseFrame& frame_;
+    std::byte* first_;
+    std::uint32_t stride_;
+    std::uint32_t room_;
+    std::uint32_t used_ = 0;
+    std::byte* local_ = nullptr;
+    ReadCall& call_;
+};
+
+void ReadAll(Holds holds, const Value& value, Records& records) noexcept {
+    switch (holds) {
+    case Holds::OneRecord:
+        records.Read(value, {});
+        break;
+    case Holds::Elements:
+        for (const Value& element : value.elements()) {
+            if (records.isFull()) break;
+            if (element.isNull())
+                records.Skip();
+            else
+                records.Read(element, {});
+        }
+        break;
+    case Holds::Members:
+        for (const json::Member& member : value.members()) {
+            if (records.isFull()) break;
+            if (!member.value.isNull()) records.Read(member.value, member.key());
+        }
+        break;
+    case Holds::Nothing:
+    case Holds::WrongShape:
+        break;
+    }
+}
+
+} // namespace
+
+Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const ParseRequest& request) noexcept {
+    auto* const buffer = static_cast<std::byte*>(request.buffer);
+    std::uint32_t stride = table.size;
+    if (frame.stride != Stride::Record) {
+        if (request.bufferSize < sizeof stride) return Outcome::BufferTooSmall;
+        stride = record::Load<std::uint32_t>(buffer);
+        if (stride == 0 || stride > request.bufferSize) return Outcome::BufferTooSmall;
+    }
+    if (frame.exactSize ? request.bufferSize != stride : request.bufferSize < stride) return Outcome::BufferTooSmall;
+    if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
+    if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+    if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
+
+    Document document;
+    if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
+    if (frame.parsed != nullptr) frame.parsed(buffer);
+    if (!Passes(frame.result, document.root["result"])) return Outcome::Refused;
+
+    const auto setLength = [&](std::uint32_t length) {
+        if (request.returnedLength != nullptr) *request.returnedLength = length;
+    };
+    const Value& value = Find(frame, document.root);
+    Holds holds = ShapeOf(frame.take, value);
+    // An empty array of records says as much as no array at all.
+    if (value.isNull() || (holds == Holds::Elements && value.size() == 0)) {
+        switch (frame.onNull) {
+        case OnNull::Fails:
+            return Outcome::NoValue;
+        case OnNull::LengthZero:
+            setLength(0);
+            return Outcome::Done;
+        case OnNull::LengthUntouched:
+            return Outcome::Done;
+        case OnNull::OneRecord:
+            holds = Holds::OneRecord;
+            break;
+        }
+    }
+    if (holds == Holds::WrongShape) return Outcome::WrongShape;
+
+    ReadCall call{document.parser, document.root};
+    Records records(table, frame, request, stride, call);
+    ReadAll(holds, value, records);
+    if (document.arena.failed()) {
+        if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+        return Outcome::OutOfMemory;
+    }
+    switch (frame.length) {
+    case ReplyLength::OneRecord:
+        setLength(stride);
+        break;
+    case ReplyLength::PerRecord:
+        setLength(records.used() * stride);
+        break;
+    case ReplyLength::None:
+        break;
+    }
+    return call.refused ? Outcome::RowRefused : Outcome::Done;
+}
+
+Outcome ParseTableFrame(const record::Table& table, const TableFrame& frame, const ParseRequest& request) noexcept {
+    if (request.bufferSize < table.size) return Outcome::BufferTooSmall;
+    auto* element = static_cast<std::byte*>(request.buffer);
+    if (frame.zeroBuffer) std::memset(element, 0, request.bufferSize);
+
+    Document document;
+    if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
+    if (!Passes(ResultTest::MustBeTrue, document.root["result"])) return Outcome::Refused;
+
+    constexpr unsigned kSampleShift = 4;
+    const Value& value = document.root["params"]["table"];
+    const bool isArray =
+        frame.arrayForm && json::ArrayDepth(value, kSampleShift, document.arena) == frame.dimension + 1;
+    const std::uint32_t count = std::min(isArray ? value.size() : 1, request.bufferSize / table.size);
+
+    ReadCall call{document.parser, document.root};
+    std::uint32_t read = 0;
+    for (std::uint32_t i = 0; i < count; ++i, element += table.size) {
+        const Value& one = isArray ? value[i] : value;
+        if (one.isNull()) continue;
+        record::ReadRecord(table, one, element, call);
+        read += table.size;
+    }
+    if (document.arena.failed()) {
+        if (frame.zeroBuffer) std::memset(request.buffer, 0, request.bufferSize);
+        return Outcome::OutOfMemory;
+    }
+    if (request.returnedLength != nullptr) *request.returnedLength += read;
+    return Outcome::Done;
+}
+
+} // namespace orrery

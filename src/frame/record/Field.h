@@ -1,0 +1,468 @@
+// One row of a record table: a field of a record, its place, its JSON key and the rules of its way in and out.
+//
+// Rows are constants made from the record's own members, so that places, sizes and capacities are never typed, and a
+// codec that does not fit a member's type does not compile. The same row reads, writes, prints, fills and checks.
+#pragma once
+
+#include "frame/json/Value.h"
+#include "frame/record/Names.h"
+
+#include "orrery/types.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+namespace orrery::record {
+
+struct Field;
+struct Table;
+struct ReadCall;
+struct WriteCall;
+
+// The C type of a field's innermost element.
+enum class Cell : std::uint8_t { I8, U8, I16, U16, I32, U32, I64, U64, F32, F64, Char, Pointer, Record };
+
+// How a value becomes a field and back.
+enum class Kind : std::uint8_t {
+    None,            // not in the text: counts, presence flags, reserved words
+    Size,            // the record's size word: set before reading, tested by the table
+    Presence,        // read only: 1 when the key is present
+    MemberName,      // the name under which the record itself stands in its parent object
+    Bool,            // asBool as 0 or 1; non-zero writes true
+    Int,             // asInt, cut to the field's width
+    UInt,            // asUInt, cut to the field's width
+    Real,            // asDouble
+    Text,            // string, converted between UTF-8 and the local encoding
+    RawText,         // string, bytes as they stand
+    Names,           // string through a name table
+    Record,          // object (or tuple) through another table
+    TimeSection,     // "1 08:00:00-17:30:00", two digits a part at the most on reading
+    Schedule,        // the whole matrix of sections at once, ended by its first bad cell
+    HolidaySchedule, // CFG_TIME_SCHEDULE
+    SectionList,     // a flat array of sections, bad ones passed over
+    NetTime,         // "2026-11-20 09:30:00"
+    NetTimeEx,       // "2026-11-20 09:30:00.250"
+    ClockTime,       // "09:30:00"
+    Date,            // "2026-11-20"
+    SplitMode,       // "Split9"
+    BitMask,         // list of numbers <-> bits of an array of words; numbers out of range are ignored
+    BitMaskLoose,    // as BitMask, but -1 to -31 fall into word 0 by their remainder, as old devices count on
+    Switches,        // list of numbers <-> elements set to 1
+    Custom,          // functions of the row's own
+};
+
+// Only values of exactly this JSON type are read.
+enum class OnlyType : std::uint8_t { Any, String, Bool, Integer };
+
+// What a null element of a list does on reading.
+enum class Nulls : std::uint8_t {
+    Count,     // keeps its slot and counts
+    LeaveHole, // keeps its slot, does not count
+    CloseUp,   // is passed over: the next element takes its slot
+    Stop,      // ends the list
+};
+
+// What an element that its table does not let out does on writing.
+enum class Skipped : std::uint8_t {
+    StaysNull, // a null in its place
+    Hole,      // a null in its place, but none behind the last element written
+    ClosesUp,  // no place at all
+};
+
+// What a list of count 0 writes.
+enum class Empty : std::uint8_t { NoKey, Array, Null };
+
+// A neighbouring member that a row depends on: a count, a capacity, a presence flag.
+struct Slot {
+    static constexpr std::uint32_t kNone = ~std::uint32_t{0};
+    std::uint32_t offset = kNone;
+    Cell cell = Cell::I32;
+
+    constexpr bool exists() const { return offset != kNone; }
+};
+
+// Functions of a row that no word can say. `record` is the record that holds the field, aligned for nothing.
+struct CustomCodec {
+    // Runs when the key is present (with Always: in every case, with a null value when it is not).
+    void (*read)(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
+    // Writes `call.Key(...)` and a value, or nothing.
+    void (*write)(const Field& field, const std::byte* record, WriteCall& call) = nullptr;
+};
+
+struct Field {
+    static constexpr int kMaxRank = 3;
+
+    const char* name = "";
+    // Member names from the table's object down, separated by '/'; null: not in the text; "": the value itself.
+    const char* key = nullptr;
+    std::uint32_t offset = 0;
+    std::uint32_t size = 0;        // of the whole member; 0 for a row that stores nothing
+    std::uint32_t elementSize = 0; // of one element; a text's is its capacity
+    std::uint32_t dims[kMaxRank] = {};
+    std::uint8_t rank = 0; // array levels of the member, a text's own characters not among them
+    Cell cell = Cell::I32;
+    Kind kind = Kind::None;
+    Kind writtenAs = Kind::None;
+    const Table* table = nullptr; // of a nested record, whatever its codec
+    const NameTable* names = nullptr;
+    const CustomCodec* custom = nullptr;
+
+    // Reading
+    bool always = false;   // read also when absent
+    bool fromRoot = false; // the key starts at the document, not at the record's object
+    bool readable = true;
+    OnlyType only = OnlyType::Any;
+    bool hasDefault = false;
+    std::int32_t defaultValue = 0;
+    Slot flag;  // set when the key is present; the key is written only when it is set
+    Slot count; // elements in use
+    Slot capacity;
+    bool countUncapped = false;
+    bool anyShape = false; // a list is read, as empty, also when the value is no array
+    bool exactly = false;  // a list is read only when it has as many elements as the member
+    bool keyed = false;    // a list stands as an object whose members are the elements
+    bool zeroed = false;   // elements of a caller's array are cleared before they are read
+    Nulls nulls = Nulls::Count;
+
+    // Writing
+    bool writable = true;
+    bool trueAtOne = false; // a bool is true at exactly 1
+    bool hasUnless = false;
+    std::int32_t unless = 0; // the key is left out at this value
+    bool notNegative = false;
+    std::int32_t atMost = INT32_MAX; // a larger number is written as this one
+    Slot condition;                  // the key is written only when this member is set
+    bool (*when)(const std::byte* record) = nullptr;
+    Empty empty = Empty::NoKey;
+    Skipped skipped = Skipped::StaysNull;
+
+    bool alias = false; // another key of a field that has a row already
+
+    // ---- Words of the vocabulary ---------------------------------------------------------------------------------
+
+    // Read also when absent: null then reads as 0, false or empty. A flag is raised in every case.
+    constexpr Field Always() const {
+        auto f = *this;
+        f.always = true;
+        return f;
+    }
+    // What the field holds when the key is absent (0 without this word).
+    constexpr Field Absent(std::int32_t value) const {
+        auto f = *this;
+        f.hasDefault = true;
+        f.defaultValue = value;
+        return f;
+    }
+    constexpr Field Flag(Slot slot) const {
+        auto f = *this;
+        f.flag = slot;
+        return f;
+    }
+    constexpr Field Count(Slot slot) const {
+        auto f = *this;
+        f.count = slot;
+        return f;
+    }
+    // The count is stored as the text has it; slots end at the member's end all the same.
+    constexpr Field CountUncapped(Slot slot) const {
+        auto f = *this;
+        f.count = slot;
+        f.countUncapped = true;
+        return f;
+    }
+    // Room of the caller's array behind a pointer.
+    constexpr Field Capacity(Slot slot) const {
+        auto f = *this;
+        f.capacity = slot;
+        return f;
+    }
+    constexpr Field Zeroed() const {
+        auto f = *this;
+        f.zeroed = true;
+        return f;
+    }
+    constexpr Field AnyShape() const {
+        auto f = *this;
+        f.anyShape = true;
+        return f;
+    }
+    constexpr Field Exactly() const {
+        auto f = *this;
+        f.exactly = true;
+        return f;
+    }
+    constexpr Field Keyed() const {
+        auto f = *this;
+        f.keyed = true;
+        return f;
+    }
+    constexpr Field OnNull(Nulls rule) const {
+        auto f = *this;
+        f.nulls = rule;
+        return f;
+    }
+    constexpr Field Only(OnlyType type) const {
+        auto f = *this;
+        f.only = type;
+        return f;
+    }
+    constexpr Field FromRoot() const {
+        auto f = *this;
+        f.fromRoot = true;
+        f.writable = false;
+        return f;
+    }
+    constexpr Field ReadOnly() const { return Writable(false); }
+    constexpr Field Writable(bool does) const {
+        auto f = *this;
+        f.writable = does;
+        return f;
+    }
+    constexpr Field WriteOnly() const {
+        auto f = *this;
+        f.readable = false;
+        return f;
+    }
+    constexpr Field TrueAtOne() const {
+        auto f = *this;
+        f.trueAtOne = true;
+        return f;
+    }
+    constexpr Field Unless(std::int32_t value) const {
+        auto f = *this;
+        f.hasUnless = true;
+        f.unless = value;
+        return f;
+    }
+    constexpr Field UnlessNegative() const {
+        auto f = *this;
+        f.notNegative = true;
+        return f;
+    }
+    constexpr Field AtMost(std::int32_t value) const {
+        auto f = *this;
+        f.atMost = value;
+        return f;
+    }
+    // Written only when the member is set (reading neither looks at it nor sets it).
+    constexpr Field WhenSet(Slot slot) const {
+        auto f = *this;
+        f.condition = slot;
+        return f;
+    }
+    // Written only when the function says so.
+    constexpr Field When(bool (*test)(const std::byte* record)) const {
+        auto f = *this;
+        f.when = test;
+        return f;
+    }
+    constexpr Field WhenEmpty(Empty rule) const {
+        auto f = *this;
+        f.empty = rule;
+        return f;
+    }
+    constexpr Field OnSkipped(Skipped rule) const {
+        auto f = *this;
+        f.skipped = rule;
+        return f;
+    }
+    // A second key of a field that has a row of its own.
+    constexpr Field Alias() const {
+        auto f = *this;
+        f.alias = true;
+        return f;
+    }
+    template <class Codec>
+    constexpr Field WrittenAs(Codec) const {
+        auto f = *this;
+        f.writtenAs = Codec::kind;
+        return f;
+    }
+};
+
+// ---- Codecs, by the member types that they take ------------------------------------------------------------------
+
+template <class T>
+inline constexpr bool kIsNumber = std::is_arithmetic_v<T> && !std::is_same_v<T, char> && !std::is_same_v<T, bool>;
+template <class T>
+inline constexpr bool kIsInteger = kIsNumber<T>&& std::is_integral_v<T>;
+
+template <Kind K>
+struct Codec {
+    static constexpr Kind kind = K;
+    // `T` is the member's type without the array levels that the codec takes element by element.
+    template <class T>
+    static constexpr bool accepts = false;
+    static constexpr bool wholeMember = false; // takes the member's arrays at once
+};
+
+#define ORRERY_CODEC(name, condition, whole)                                                                           \
+    struct name##Codec : Codec<Kind::name> {                                                                           \
+        template <class T>                                                                                             \
+        static constexpr bool accepts = condition;                                                                     \
+        static constexpr bool wholeMember = whole;                                                                     \
+    };                                                                                                                 \
+    inline constexpr name##Codec name {}
+
+template <class T>
+inline constexpr bool kIsText = std::rank_v<T> == 1 && std::is_same_v<std::remove_extent_t<T>, char>;
+template <class T, class Element>
+inline constexpr bool kIsArrayOf = std::rank_v<T> >= 1 && std::is_same_v<std::remove_all_extents_t<T>, Element>;
+
+ORRERY_CODEC(Size, (std::is_same_v<T, std::uint32_t>), false);
+ORRERY_CODEC(Presence, kIsInteger<T>, false);
+ORRERY_CODEC(MemberName, kIsText<T>, false);
+ORRERY_CODEC(Bool, kIsInteger<T>, false);
+ORRERY_CODEC(Int, kIsNumber<T>, false);
+ORRERY_CODEC(UInt, kIsNumber<T>, false);
+ORRERY_CODEC(Real, std::is_floating_point_v<T>, false);
+ORRERY_CODEC(Text, kIsText<T>, false);
+ORRERY_CODEC(RawText, kIsText<T>, false);
+ORRERY_CODEC(TimeSection, (std::is_same_v<T, CFG_TIME_SECTION>), false);
+ORRERY_CODEC(Schedule, (std::rank_v<T> == 2 && kIsArrayOf<T, CFG_TIME_SECTION>), true);
+ORRERY_CODEC(HolidaySchedule, (std::is_same_v<T, CFG_TIME_SCHEDULE>), false);
+ORRERY_CODEC(SectionList, (std::rank_v<T> == 1 && kIsArrayOf<T, CFG_TIME_SECTION>), true);
+ORRERY_CODEC(NetTime, (std::is_same_v<T, NET_TIME>), false);
+ORRERY_CODEC(NetTimeEx, (std::is_same_v<T, NET_TIME_EX>), false);
+ORRERY_CODEC(ClockTime, (std::is_same_v<T, NET_TIME>), false);
+ORRERY_CODEC(Date, (std::is_same_v<T, NET_TIME>), false);
+ORRERY_CODEC(SplitMode, (std::is_same_v<T, std::int32_t>), false);
+ORRERY_CODEC(BitMask, (std::rank_v<T> == 1 && kIsArrayOf<T, std::uint32_t>), true);
+ORRERY_CODEC(BitMaskLoose, (std::rank_v<T> == 1 && kIsArrayOf<T, std::uint32_t>), true);
+ORRERY_CODEC(Switches, (std::rank_v<T> == 1 && kIsArrayOf<T, std::int32_t>), true);
+#undef ORRERY_CODEC
+
+// String through a name table.
+struct Names {
+    static constexpr Kind kind = Kind::Names;
+    static constexpr bool wholeMember = false;
+    template <class T>
+    static constexpr bool accepts = kIsInteger<T>;
+    const NameTable* table;
+    constexpr explicit Names(const NameTable& itsTable) : table(&itsTable) {}
+};
+
+// Object or tuple through another table. The table's record must be the member's type (or what it points to).
+template <class R>
+struct Nested {
+    static constexpr Kind kind = Kind::Record;
+    static constexpr bool wholeMember = false;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, R> || std::is_same_v<T, R*>;
+    const Table* table;
+};
+
+// Functions of the row's own.
+struct Custom {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = true;
+    const CustomCodec* codec;
+    constexpr explicit Custom(const CustomCodec& itsCodec) : codec(&itsCodec) {}
+};
+
+// The table that lays out a shared record whose codec takes it whole, such as CFG_TIME_SECTION.
+template <class R>
+inline constexpr const Table* kLayoutOf = nullptr;
+
+// ---- Rows from members -------------------------------------------------------------------------------------------
+
+template <class T>
+constexpr Cell CellOf() {
+    if constexpr (std::is_pointer_v<T>)
+        return Cell::Pointer;
+    else if constexpr (std::is_same_v<T, char>)
+        return Cell::Char;
+    else if constexpr (std::is_same_v<T, float>)
+        return Cell::F32;
+    else if constexpr (std::is_same_v<T, double>)
+        return Cell::F64;
+    else if constexpr (std::is_integral_v<T> || std::is_enum_v<T>) {
+        constexpr bool isSigned = std::is_signed_v<T>;
+        switch (sizeof(T)) {
+        case 1:
+            return isSigned ? Cell::I8 : Cell::U8;
+        case 2:
+            return isSigned ? Cell::I16 : Cell::U16;
+        case 4:
+            return isSigned ? Cell::I32 : Cell::U32;
+        default:
+            return isSigned ? Cell::I64 : Cell::U64;
+        }
+    } else
+        return Cell::Record;
+}
+
+template <class T>
+constexpr Field MakePlace(const char* name, std::size_t offset) {
+    Field field;
+    field.name = name;
+    field.offset = static_cast<std::uint32_t>(offset);
+    field.size = sizeof(T);
+    using Innermost = std::remove_all_extents_t<T>;
+    constexpr bool isText = std::is_same_v<Innermost, char>;
+    field.cell = CellOf<Innermost>();
+    if constexpr (std::is_class_v<Innermost>) field.table = kLayoutOf<Innermost>;
+    constexpr std::size_t levels = std::rank_v<T> - (isText && std::rank_v < T >> 0 ? 1 : 0);
+    static_assert(levels <= Field::kMaxRank);
+    field.rank = static_cast<std::uint8_t>(levels);
+    std::uint32_t elements = 1;
+    [&]<std::size_t... I>(std::index_sequence<I...>) {
+        ((I < levels ? (field.dims[I] = static_cast<std::uint32_t>(std::extent_v<T, I>), elements *= field.dims[I], 0)
+                     : 0),
+         ...);
+    }
+    (std::make_index_sequence<Field::kMaxRank>());
+    field.elementSize = field.size / elements;
+    return field;
+}
+
+// The member's type without the levels that a codec takes element by element.
+template <class T, bool WholeMember>
+struct Unit {
+    using Innermost = std::remove_all_extents_t<T>;
+    using type =
+        std::conditional_t<std::is_same_v<Innermost, char> && !WholeMember,
+                           char[std::rank_v<T> ? std::extent_v < T, std::rank_v<T> ? std::rank_v<T> - 1 : 0 > : 1],
+                           std::conditional_t<WholeMember, T, Innermost>>;
+};
+
+// A member without a key.
+template <class T>
+constexpr Field MakeField(const char* name, std::size_t offset) {
+    return MakePlace<T>(name, offset);
+}
+
+template <class T, class C>
+constexpr Field MakeField(const char* name, std::size_t offset, const char* key, C codec) {
+    static_assert(C::template accepts<typename Unit<T, C::wholeMember>::type>,
+                  "this codec does not fit the member's type");
+    Field field = MakePlace<T>(name, offset);
+    field.key = key;
+    field.kind = field.writtenAs = C::kind;
+    if constexpr (C::kind == Kind::Names) field.names = codec.table;
+    if constexpr (C::kind == Kind::Record) field.table = codec.table;
+    if constexpr (C::kind == Kind::Custom) field.custom = codec.codec;
+    (void)codec;
+    return field;
+}
+
+template <class T>
+constexpr Slot MakeSlot(std::size_t offset) {
+    static_assert(std::is_integral_v<T>, "a count, capacity or flag is an integer");
+    return {static_cast<std::uint32_t>(offset), CellOf<T>()};
+}
+
+// A row that writes a key but stores nothing.
+constexpr Field MakeVirtual(const char* key, const Custom& codec) {
+    Field field;
+    field.key = key;
+    field.kind = field.writtenAs = Kind::Custom;
+    field.custom = codec.codec;
+    return field;
+}
+
+} // namespace orrery::record

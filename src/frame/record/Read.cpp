@@ -1,0 +1,296 @@
+#include "frame/record/Engine.h"
+
+#include <algorithm>
+
+namespace orrery::record {
+
+namespace {
+
+using json::Value;
+
+// Where the elements of a list are: inside the record, or behind the record's pointer.
+struct Elements {
+    std::byte* first;
+    std::uint32_t room;
+};
+
+Elements ElementsOf(const Field& field, std::byte* record) noexcept {
+    if (field.cell != Cell::Pointer) return {record + field.offset, field.dims[0]};
+    auto* const first = Load<std::byte*>(record + field.offset);
+    const std::int64_t room = LoadSlot(field.capacity, record);
+    if (first == nullptr || room <= 0) return {nullptr, 0};
+    return {first, static_cast<std::uint32_t>(std::min<std::int64_t>(room, UINT32_MAX))};
+}
+
+std::uint32_t StrideOf(const Field& field, int level) noexcept {
+    if (field.cell == Cell::Pointer) return field.table->size;
+    std::uint32_t stride = field.elementSize;
+    for (int i = field.rank - 1; i > level; --i)
+        stride *= field.dims[i];
+    return stride;
+}
+
+bool IsOfType(OnlyType only, const Value& value) noexcept {
+    switch (only) {
+    case OnlyType::Any:
+        return true;
+    case OnlyType::String:
+        return value.isString();
+    case OnlyType::Bool:
+        return value.isBool();
+    case OnlyType::Integer:
+        return value.isInt() || value.isUInt();
+    }
+    return true;
+}
+
+void StoreReal(const Field& field, std::byte* at, double number) noexcept {
+    if (field.cell == Cell::F32)
+        Store(at, static_cast<float>(number));
+    else
+        Store(at, number);
+}
+
+void StoreNumber(const Field& field, std::byte* at, std::int64_t number) noexcept {
+    if (field.cell == Cell::F32 || field.cell == Cell::F64)
+        StoreReal(field, at, static_cast<double>(number));
+    else
+        StoreInteger(field.cell, at, number);
+}
+
+void ReadBitMask(const Field& field, const Value& value, std::byte* at) noexcept {
+    const std::int32_t bits = static_cast<std::int32_t>(field.dims[0]) * 32;
+    const auto elements = value.elements();
+    const auto count = std::min<std::size_t>(elements.size(), static_cast<std::size_t>(bits));
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::int32_t number = elements[i].asInt();
+        if (number >= bits || number < (field.kind == Kind::BitMaskLoose ? -31 : 0)) continue;
+        std::byte* const word = at + static_cast<std::size_t>(number / 32) * 4; // -31 to -1 divide to word 0
+        Store(word, Load<std::uint32_t>(word) | std::uint32_t{1} << (static_cast<std::uint32_t>(number) & 31));
+    }
+}
+
+void ReadSwitches(const Field& field, const Value& value, std::byte* at) noexcept {
+    const auto elements = value.elements();
+    const auto count = std::min<std::size_t>(elements.size(), field.dims[0]);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto number = static_cast<std::uint32_t>(elements[i].asInt());
+        if (number < field.dims[0]) Store<std::int32_t>(at + number * std::size_t{4}, 1);
+    }
+}
+
+// One element of a field, or the whole member for the kinds that take it at once.
+void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
+                 std::string_view memberName) noexcept {
+    switch (field.kind) {
+    case Kind::None:
+    case Kind::Size:
+    case Kind::MemberName:
+    case Kind::Custom:
+        break;
+    case Kind::Presence:
+        StoreInteger(field.cell, at, 1);
+        break;
+    case Kind::Bool:
+        StoreInteger(field.cell, at, value.asBool() ? 1 : 0);
+        break;
+    case Kind::Int:
+        StoreNumber(field, at, value.asInt());
+        break;
+    case Kind::UInt:
+        StoreNumber(field, at, value.asUInt());
+        break;
+    case Kind::Real:
+        StoreReal(field, at, value.asDouble());
+        break;
+    case Kind::Text:
+    case Kind::RawText:
+        call.parser.GetJsonString(value, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
+        break;
+    case Kind::Names:
+        if (const auto code = field.names->CodeOf(value.asString())) StoreInteger(field.cell, at, *code);
+        break;
+    case Kind::Record: {
+        const Table& table = *field.table;
+        for (const Field& row : table) {
+            if (row.kind == Kind::MemberName) {
+                call.parser.GetJsonString(Value::OfString(memberName), reinterpret_cast<char*>(at + row.offset),
+                                          row.elementSize, true);
+            }
+        }
+        ReadFields(table, value, at, call);
+        break;
+    }
+    case Kind::TimeSection:
+        JsonParser::GetTimeSection(value, reinterpret_cast<CFG_TIME_SECTION*>(at));
+        break;
+    case Kind::Schedule:
+        JsonParser::GetTimeSchedule(value, reinterpret_cast<CFG_TIME_SECTION*>(at), static_cast<int>(field.dims[0]),
+                                    static_cast<int>(field.dims[1]), nullptr);
+        break;
+    case Kind::HolidaySchedule:
+        if (value.isArray()) JsonParser::GetHolidaySchedule(value, reinterpret_cast<CFG_TIME_SCHEDULE*>(at));
+        break;
+    case Kind::SectionList:
+        JsonParser::GetTimeSectionList(value, reinterpret_cast<CFG_TIME_SECTION*>(at), static_cast<int>(field.dims[0]));
+        break;
+    case Kind::NetTime:
+        JsonParser::GetNetTime(value, reinterpret_cast<NET_TIME*>(at));
+        break;
+    case Kind::NetTimeEx:
+        JsonParser::GetNetTimeEx(value, reinterpret_cast<NET_TIME_EX*>(at));
+        break;
+    case Kind::ClockTime:
+        JsonParser::GetClockTime(value, reinterpret_cast<NET_TIME*>(at));
+        break;
+    case Kind::Date:
+        JsonParser::GetDate(value, reinterpret_cast<NET_TIME*>(at));
+        break;
+    case Kind::SplitMode:
+        if (value.isString()) Store(at, JsonParser::GetSplitMode(value.asString()));
+        break;
+    case Kind::BitMask:
+    case Kind::BitMaskLoose:
+        ReadBitMask(field, value, at);
+        break;
+    case Kind::Switches:
+        ReadSwitches(field, value, at);
+        break;
+    }
+}
+
+// A level of a list: `level` 0 is the member's first dimension. Returns the count that the rules give it.
+std::int64_t ReadList(const Field& field, int level, const Value& value, Elements room, ReadCall& call) noexcept {
+    const bool innermost = field.cell == Cell::Pointer || level + 1 == field.rank;
+    const std::uint32_t stride = StrideOf(field, level);
+    std::uint32_t used = 0;    // slots taken
+    std::uint32_t counted = 0; // slots that count
+    const auto readSlot = [&](const Value& element, std::string_view memberName) {
+        std::byte* const at = room.first + std::size_t{used} * stride;
+        ++used;
+        if (!innermost) {
+            if (element.isArray()) ReadList(field, level + 1, element, {at, field.dims[level + 1]}, call);
+            return;
+        }
+        if (field.cell == Cell::Pointer) {
+            if (field.zeroed) std::memset(at, 0, stride);
+            if (field.table->hasDefaults && field.zeroed) SetDefaults(*field.table, at);
+        }
+        ReadElement(field, element, at, call, memberName);
+    };
+    if (field.keyed) {
+        for (const json::Member& member : value.members()) {
+            if (used == room.room) break;
+            if (member.value.isNull()) continue;
+            readSlot(member.value, member.key());
+            ++counted;
+        }
+    } else {
+        for (const Value& element : value.elements()) {
+            if (used == room.room) break;
+            if (element.isNull()) {
+                if (field.nulls == Nulls::Stop) break;
+                if (field.nulls == Nulls::CloseUp) continue;
+            }
+            readSlot(element, {});
+            if (!element.isNull() || field.nulls == Nulls::Count) ++counted;
+        }
+    }
+    return field.countUncapped ? std::int64_t{value.size()} : std::int64_t{counted};
+}
+
+bool TakesList(const Field& field, const Value& value, std::uint32_t extent) noexcept {
+    if (field.keyed) return value.type() == json::Type::Object || field.anyShape;
+    if (field.exactly) return value.type() == json::Type::Array && value.size() == extent;
+    return value.isArray() || field.anyShape;
+}
+
+bool TakesWholeMember(Kind kind) noexcept {
+    switch (kind) {
+    case Kind::Schedule:
+    case Kind::SectionList:
+    case Kind::BitMask:
+    case Kind::BitMaskLoose:
+    case Kind::Switches:
+    case Kind::Custom:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
+    const auto members = object.members();
+    auto member = members.begin();
+    const Node* const end = table.nodes + range.first + range.count;
+    for (const Node* node = table.nodes + range.first; node != end; ++node) {
+        const std::string_view key = table.keyOf(*node);
+        int order = -1;
+        while (member != members.end() && (order = key.compare(member->key())) > 0)
+            ++member;
+        const bool found = member != members.end() && order == 0 && !member->value.isNull();
+        if (!found && !node->needsAbsent) continue;
+        const Value& value = found ? member->value : json::kNull;
+        if (node->childCount > 0)
+            ReadNodes(table, {node->firstChild, node->childCount}, value, record, call);
+        else
+            ReadField(table.rows[node->row], value, record, call);
+    }
+}
+
+} // namespace
+
+void ReadField(const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (!field.readable || (value.isNull() && !field.always)) return;
+    if (!IsOfType(field.only, value)) return;
+    if (field.kind == Kind::Custom) {
+        if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
+        return;
+    }
+    if (TakesWholeMember(field.kind)) {
+        if (!value.isArray() && !field.anyShape) return;
+        StoreSlot(field.flag, record, 1);
+        ReadElement(field, value, record + field.offset, call, {});
+    } else if (field.rank > 0 || field.cell == Cell::Pointer) {
+        const Elements room = ElementsOf(field, record);
+        if (!TakesList(field, value, room.room)) return;
+        StoreSlot(field.flag, record, 1);
+        const std::int64_t count = ReadList(field, 0, value, room, call);
+        StoreSlot(field.count, record, count);
+    } else {
+        StoreSlot(field.flag, record, 1);
+        ReadElement(field, value, record + field.offset, call, {});
+    }
+}
+
+bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
+    if (table.shape != Shape::Object) {
+        const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
+        if (table.shape == Shape::Tuple && !hasAll) return false;
+        for (std::uint16_t i = 0; i < table.self.count; ++i) {
+            const Field& field = table.rows[table.nodes[table.self.first + i].row];
+            // A null among the numbers reads as 0, as every other element of the wrong type does.
+            ReadElement(field, value[i], record + field.offset, call, {});
+        }
+    } else {
+        for (std::uint16_t i = 0; i < table.self.count; ++i) {
+            ReadField(table.rows[table.nodes[table.self.first + i].row], value, record, call);
+        }
+        ReadNodes(table, table.members, value, record, call);
+    }
+    if (table.fromRoot.count > 0) ReadNodes(table, table.fromRoot, call.root, record, call);
+    if (table.afterRead != nullptr) table.afterRead(value, record, call);
+    return true;
+}
+
+void ReadRecord(const Table& table, const Value& value, std::byte* record, ReadCall& call,
+                std::string_view memberName) noexcept {
+    if (table.hasDefaults) SetDefaults(table, record);
+    Field place;
+    place.kind = Kind::Record;
+    place.table = &table;
+    ReadElement(place, value, record, call, memberName);
+}
+
+} // namespace orrery::record

@@ -1,0 +1,321 @@
+// A record table: all fields of one record, in record order, made when the library is compiled.
+//
+//     TABLE(kAlarmInput, CFG_ALARM_INPUT_INFO,
+//           FIELD(nChannel, "params/channel", Int).FromRoot(),
+//           FIELD(bEnable, "Enable", Bool),
+//           FIELD(szName, "Name", Text),
+//           FIELD(nSlot, "Slot", Int).Absent(-1).Unless(-1));
+//
+// The rows must tile the record from its first byte to its last: a forgotten field does not compile.
+#pragma once
+
+#include "frame/record/Field.h"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace orrery::record {
+
+// One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
+// nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
+struct Node {
+    std::uint16_t quotedAt = 0; // the text `"Key" : ` in the table's key texts
+    std::uint16_t keySize = 0;
+    std::uint16_t row = 0;
+    std::uint16_t firstChild = 0;
+    std::uint16_t childCount = 0; // above 0: an object inside the object
+    bool needsAbsent = false;     // looked at also when the key is absent
+};
+
+struct NodeRange {
+    std::uint16_t first = 0;
+    std::uint16_t count = 0;
+};
+
+enum class Shape : std::uint8_t {
+    Object,
+    Tuple,      // an array of exactly as many elements as the record has rows with the key ""
+    LooseTuple, // the same without the test of its length: missing elements read as null
+};
+
+struct Table {
+    const char* record = ""; // the C name of the record
+    std::uint32_t size = 0;
+    const Field* rows = nullptr;
+    std::uint16_t rowCount = 0;
+
+    const Node* nodes = nullptr;
+    const char* keyTexts = nullptr;
+    NodeRange members;  // keys of the record's object
+    NodeRange fromRoot; // keys that start at the document
+    NodeRange self;     // fields that are the value itself; a tuple's elements
+
+    Shape shape = Shape::Object;
+    bool hasDefaults = false;  // some field, nested ones included, starts at something other than zero
+    bool hasSizeWords = false; // some field, nested ones included, is a size word
+    bool guarded = false;      // neither read nor written unless the size word holds exactly the record's size
+    bool (*writes)(const std::byte* record) = nullptr;
+    void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
+
+    std::string_view keyOf(const Node& node) const { return {keyTexts + node.quotedAt + 1, node.keySize}; }
+    std::string_view quotedKeyOf(const Node& node) const {
+        return {keyTexts + node.quotedAt, node.keySize + std::size_t{5}}; // the quotes and the colon
+    }
+    const Field* begin() const { return rows; }
+    const Field* end() const { return rows + rowCount; }
+};
+
+template <class R>
+struct TypedTable : Table {
+    // The record stands as an array whose elements are the rows with the key "", in row order.
+    constexpr TypedTable As(Shape what) const {
+        TypedTable table = *this;
+        table.shape = what;
+        return table;
+    }
+    // The record's size word is tested: with another value the record is neither read nor written.
+    constexpr TypedTable Guarded() const {
+        TypedTable table = *this;
+        table.guarded = true;
+        return table;
+    }
+    // Only records that pass are written.
+    constexpr TypedTable Writes(bool (*test)(const std::byte* record)) const {
+        TypedTable table = *this;
+        table.writes = test;
+        return table;
+    }
+    // Runs once the rows have been read, for what depends on several of them.
+    constexpr TypedTable AfterRead(void (*function)(const json::Value&, std::byte*, ReadCall&)) const {
+        TypedTable table = *this;
+        table.afterRead = function;
+        return table;
+    }
+};
+
+template <class R>
+constexpr Nested<R> Record(const TypedTable<R>& table) {
+    return {&table};
+}
+
+namespace build {
+
+// Declared only: a table that reaches one of these at compile time does not compile, and the name tells why.
+void rows_do_not_tile_the_record();
+void a_nested_record_needs_its_table();
+void a_key_must_not_be_escaped();
+
+constexpr int Parts(std::string_view key) {
+    int parts = 1;
+    for (char c : key)
+        parts += c == '/';
+    return parts;
+}
+
+constexpr std::string_view Part(std::string_view key, int index) {
+    while (index-- > 0)
+        key.remove_prefix(key.find('/') + 1);
+    return key.substr(0, key.find('/'));
+}
+
+// Ascending by the bytes of each part; an object's own key before what is inside it.
+constexpr bool Before(std::string_view left, std::string_view right) {
+    const int leftParts = Parts(left);
+    const int rightParts = Parts(right);
+    for (int i = 0; i < leftParts && i < rightParts; ++i) {
+        const auto a = Part(left, i);
+        const auto b = Part(right, i);
+        if (a != b) return a < b; // char_traits<char> compares as unsigned bytes
+    }
+    return leftParts < rightParts;
+}
+
+struct Limits {
+    std::size_t nodes = 1;
+    std::size_t text = 1;
+};
+
+template <class Rows>
+consteval Limits LimitsOf() {
+    Limits limits;
+    for (const Field& row : Rows::rows) {
+        if (row.key == nullptr) continue;
+        const auto parts = static_cast<std::size_t>(Parts(row.key));
+        limits.nodes += parts;
+        limits.text += std::string_view(row.key).size() + 6 * parts;
+    }
+    return limits;
+}
+
+template <std::size_t MaxNodes, std::size_t MaxText>
+struct Tree {
+    std::array<Node, MaxNodes> nodes{};
+    std::array<char, MaxText> texts{};
+    std::uint16_t nodeCount = 0;
+    std::uint16_t textSize = 0;
+    NodeRange members;
+    NodeRange fromRoot;
+    NodeRange self;
+
+    constexpr Node& Add(std::string_view key) {
+        Node& node = nodes[nodeCount++];
+        node.quotedAt = textSize;
+        node.keySize = static_cast<std::uint16_t>(key.size());
+        texts[textSize++] = '"';
+        for (char c : key) {
+            if (c == '"' || c == '\\' || c == '/' || (c >= 0 && c < 32)) a_key_must_not_be_escaped();
+            texts[textSize++] = c;
+        }
+        for (char c : std::string_view("\" : "))
+            texts[textSize++] = c;
+        return node;
+    }
+
+    // The nodes of one object and, behind them, of the objects inside it. `order` are the rows of the object, sorted.
+    constexpr NodeRange AddObject(const Field* rows, const std::uint16_t* order, std::size_t count, int depth) {
+        const NodeRange range{nodeCount, CountKeys(rows, order, count, depth)};
+        for (std::size_t i = 0; i < count;) {
+            const std::size_t end = EndOfKey(rows, order, count, depth, i);
+            Node& node = Add(Part(rows[order[i]].key, depth));
+            node.row = order[i];
+            for (std::size_t k = i; k < end; ++k) {
+                if (rows[order[k]].always && rows[order[k]].readable) node.needsAbsent = true;
+            }
+            i = end;
+        }
+        std::uint16_t index = range.first;
+        for (std::size_t i = 0; i < count; ++index) {
+            const std::size_t end = EndOfKey(rows, order, count, depth, i);
+            if (Parts(rows[order[i]].key) > depth + 1) {
+                const NodeRange inside = AddObject(rows, order + i, end - i, depth + 1);
+                nodes[index].firstChild = inside.first;
+                nodes[index].childCount = inside.count;
+            }
+            i = end;
+        }
+        return range;
+    }
+
+  private:
+    // A row of its own ends its node; rows inside the same inner object share one.
+    static constexpr std::size_t EndOfKey(const Field* rows, const std::uint16_t* order, std::size_t count, int depth,
+                                          std::size_t i) {
+        if (Parts(rows[order[i]].key) == depth + 1) return i + 1;
+        std::size_t end = i + 1;
+        while (end < count && Part(rows[order[end]].key, depth) == Part(rows[order[i]].key, depth))
+            ++end;
+        return end;
+    }
+    static constexpr std::uint16_t CountKeys(const Field* rows, const std::uint16_t* order, std::size_t count,
+                                             int depth) {
+        std::uint16_t keys = 0;
+        for (std::size_t i = 0; i < count; ++keys)
+            i = EndOfKey(rows, order, count, depth, i);
+        return keys;
+    }
+};
+
+template <class Rows>
+consteval auto BuildTree() {
+    constexpr Limits limits = LimitsOf<Rows>();
+    constexpr std::size_t count = sizeof(Rows::rows) / sizeof(Rows::rows[0]);
+    const Field* const rows = Rows::rows;
+    Tree<limits.nodes, limits.text> tree;
+    std::array<std::uint16_t, count> order{};
+    for (const bool fromRoot : {false, true}) {
+        std::size_t used = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            if (rows[i].key == nullptr || rows[i].key[0] == '\0' || rows[i].fromRoot != fromRoot) continue;
+            std::size_t at = used++;
+            for (; at > 0 && Before(rows[i].key, rows[order[at - 1]].key); --at)
+                order[at] = order[at - 1];
+            order[at] = static_cast<std::uint16_t>(i);
+        }
+        (fromRoot ? tree.fromRoot : tree.members) = tree.AddObject(rows, order.data(), used, 0);
+    }
+    tree.self.first = tree.nodeCount;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (rows[i].key == nullptr || rows[i].key[0] != '\0') continue;
+        Node& node = tree.Add("");
+        node.row = static_cast<std::uint16_t>(i);
+        node.needsAbsent = true;
+        ++tree.self.count;
+    }
+    return tree;
+}
+
+template <class Rows>
+consteval bool Tile(std::size_t recordSize) {
+    std::size_t end = 0;
+    for (const Field& row : Rows::rows) {
+        if (row.alias || row.size == 0) continue;
+        const std::size_t gap = row.offset - end;
+        if (row.offset < end || gap >= 8 || (gap > 0 && row.offset % (gap >= 4 ? 8 : gap >= 2 ? 4 : 2) != 0)) {
+            rows_do_not_tile_the_record();
+        }
+        end = row.offset + row.size;
+    }
+    if (end > recordSize || recordSize - end >= 8) rows_do_not_tile_the_record();
+    return true;
+}
+
+template <class Rows>
+inline constexpr auto kTree = BuildTree<Rows>();
+
+} // namespace build
+
+template <class Rows>
+consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
+    using R = typename Rows::R;
+    static_assert(std::is_standard_layout_v<R> && std::is_trivial_v<R>, "records are plain C structures");
+    static_assert(build::Tile<Rows>(sizeof(R)));
+    constexpr auto& tree = build::kTree<Rows>;
+    TypedTable<R> table;
+    table.record = name;
+    table.size = sizeof(R);
+    table.rows = Rows::rows;
+    table.rowCount = sizeof(Rows::rows) / sizeof(Rows::rows[0]);
+    table.nodes = tree.nodes.data();
+    table.keyTexts = tree.texts.data();
+    table.members = tree.members;
+    table.fromRoot = tree.fromRoot;
+    table.self = tree.self;
+    for (const Field& row : Rows::rows) {
+        if (row.hasDefault || row.kind == Kind::Size) table.hasDefaults = true;
+        if (row.kind == Kind::Size) table.hasSizeWords = true;
+        if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr) {
+            build::a_nested_record_needs_its_table();
+        }
+        if (row.kind == Kind::Record && row.cell != Cell::Pointer) {
+            if (row.table->hasDefaults) table.hasDefaults = true;
+            if (row.table->hasSizeWords) table.hasSizeWords = true;
+        }
+    }
+    return table;
+}
+
+} // namespace orrery::record
+
+#define FIELD(member, ...)                                                                                             \
+    ::orrery::record::MakeField<decltype(R::member)>(#member, offsetof(R, member) __VA_OPT__(, ) __VA_ARGS__)
+#define AT(member) ::orrery::record::MakeSlot<decltype(R::member)>(offsetof(R, member))
+
+// The table of a record that a command uses, declared `extern const` in the family's header.
+#define TABLE(name, recordType, ...)                                                                                   \
+    ORRERY_ROWS_OF(name, recordType, __VA_ARGS__);                                                                     \
+    constexpr ::orrery::record::TypedTable<recordType> name = ::orrery::record::MakeTable<RowsOf_##name>(#recordType)
+
+// The table of a record that stands inside others: whole in a header, or in the one file that needs it.
+#define PART(name, recordType, ...)                                                                                    \
+    ORRERY_ROWS_OF(name, recordType, __VA_ARGS__);                                                                     \
+    inline constexpr ::orrery::record::TypedTable<recordType> name =                                                   \
+        ::orrery::record::MakeTable<RowsOf_##name>(#recordType)
+
+#define ORRERY_ROWS_OF(name, recordType, ...)                                                                          \
+    struct RowsOf_##name {                                                                                             \
+        using R = recordType;                                                                                          \
+        static constexpr ::orrery::record::Field rows[] = {__VA_ARGS__};                                               \
+    }
+
+#include "frame/record/SharedRecords.h"

@@ -1,0 +1,405 @@
+#include "frame/record/Engine.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace orrery::record {
+
+namespace {
+
+double LoadReal(const Field& field, const std::byte* at) noexcept {
+    switch (field.cell) {
+    case Cell::F32:
+        return double{Load<float>(at)};
+    case Cell::F64:
+        return Load<double>(at);
+    default:
+        return static_cast<double>(LoadInteger(field.cell, at));
+    }
+}
+
+// A real field written as an integer is truncated, and 0 where it does not fit.
+std::int64_t LoadWhole(const Field& field, const std::byte* at) noexcept {
+    if (field.cell != Cell::F32 && field.cell != Cell::F64) return LoadInteger(field.cell, at);
+    const double number = LoadReal(field, at);
+    return number > -2147483649.0 && number < 4294967296.0 ? static_cast<std::int64_t>(number) : 0;
+}
+
+struct Elements {
+    const std::byte* first;
+    std::uint32_t count;
+};
+
+Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
+    const std::byte* first = record + field.offset;
+    std::int64_t room = field.dims[0];
+    if (field.cell == Cell::Pointer) {
+        first = Load<const std::byte*>(first);
+        room = field.capacity.exists() ? LoadSlot(field.capacity, record) : INT32_MAX;
+        if (first == nullptr) room = 0;
+    }
+    std::int64_t count = field.count.exists() ? LoadSlot(field.count, record) : room;
+    // A count beyond the room ends at the room, whoever wrote it.
+    count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
+    return {first, static_cast<std::uint32_t>(count)};
+}
+
+bool IsMaskEmpty(const Field& field, const std::byte* at) noexcept {
+    return std::all_of(at, at + field.size, [](std::byte b) { return b == std::byte{0}; });
+}
+
+void WriteBitMask(const Field& field, const std::byte* at, WriteCall& call) noexcept {
+    call.out.BeginArray();
+    for (std::uint32_t word = 0; word < field.dims[0]; ++word) {
+        for (auto bits = Load<std::uint32_t>(at + word * std::size_t{4}); bits != 0; bits &= bits - 1) {
+            call.out.UInt(word * 32 + static_cast<std::uint32_t>(std::countr_zero(bits)));
+        }
+    }
+    call.out.EndArray();
+}
+
+void WriteSwitches(const Field& field, const std::byte* at, WriteCall& call) noexcept {
+    call.out.BeginArray();
+    for (std::uint32_t i = 0; i < field.dims[0]; ++i) {
+        if (Load<std::int32_t>(at + i * std::size_t{4}) != 0) call.out.UInt(i);
+    }
+    call.out.EndArray();
+}
+
+// One element as a value. What has no text of its own is null in its place.
+void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noexcept {
+    json::TextWriter& out = call.out;
+    switch (field.writtenAs) {
+    case Kind::None:
+    case Kind::Size:
+    case Kind::Presence:
+    case Kind::MemberName:
+    case Kind::Date: // read only
+    case Kind::Custom:
+        out.Null();
+        break;
+    case Kind::Bool: {
+        const std::int64_t flag = LoadWhole(field, at);
+        out.Bool(field.trueAtOne ? flag == 1 : flag != 0);
+        break;
+    }
+    case Kind::Int:
+        out.Int(static_cast<std::int32_t>(LoadWhole(field, at)));
+        break;
+    case Kind::UInt:
+        out.UInt(static_cast<std::uint32_t>(LoadWhole(field, at)));
+        break;
+    case Kind::Real:
+        out.Real(LoadReal(field, at));
+        break;
+    case Kind::Text:
+    case Kind::RawText:
+        call.parser.SetJsonString(out, reinterpret_cast<const char*>(at), field.elementSize,
+                                  field.writtenAs == Kind::Text);
+        break;
+    case Kind::Names: {
+        const auto code = LoadInteger(field.cell, at);
+        const Name* const row = field.names->RowOf(static_cast<std::int32_t>(code));
+        if (row != nullptr)
+            out.String(row->text);
+        else if (field.names->outside == NameTable::Outside::Text)
+            out.String(field.names->outsideText);
+        else
+            out.Null();
+        break;
+    }
+    case Kind::Record:
+        WriteRecord(*field.table, at, call);
+        break;
+    case Kind::TimeSection:
+        JsonParser::SetTimeSection(out, reinterpret_cast<const CFG_TIME_SECTION*>(at));
+        break;
+    case Kind::Schedule:
+        JsonParser::SetTimeSchedule(out, reinterpret_cast<const CFG_TIME_SECTION*>(at), static_cast<int>(field.dims[0]),
+                                    static_cast<int>(field.dims[1]));
+        break;
+    case Kind::HolidaySchedule:
+        JsonParser::SetHolidaySchedule(out, reinterpret_cast<const CFG_TIME_SCHEDULE*>(at));
+        break;
+    case Kind::SectionList:
+        JsonParser::SetTimeSectionList(out, reinterpret_cast<const CFG_TIME_SECTION*>(at),
+                                       static_cast<int>(field.dims[0]));
+        break;
+    case Kind::NetTime:
+        JsonParser::SetNetTime(out, reinterpret_cast<const NET_TIME*>(at));
+        break;
+    case Kind::NetTimeEx:
+        JsonParser::SetNetTimeEx(out, reinterpret_cast<const NET_TIME_EX*>(at));
+        break;
+    case Kind::ClockTime:
+        JsonParser::SetClockTime(out, reinterpret_cast<const NET_TIME*>(at));
+        break;
+    case Kind::SplitMode:
+        if (!JsonParser::SetSplitMode(out, Load<std::int32_t>(at))) out.Null();
+        break;
+    case Kind::BitMask:
+    case Kind::BitMaskLoose:
+        WriteBitMask(field, at, call);
+        break;
+    case Kind::Switches:
+        WriteSwitches(field, at, call);
+        break;
+    }
+}
+
+bool IsElementWritten(const Field& field, const std::byte* at) noexcept {
+    if (field.kind == Kind::Record) return IsWritten(*field.table, at);
+    if (field.writtenAs == Kind::Names && field.names->outside == NameTable::Outside::NoKey) {
+        return field.names->RowOf(static_cast<std::int32_t>(LoadInteger(field.cell, at))) != nullptr;
+    }
+    return true;
+}
+
+void WriteLevels(const Field& field, int level, const std::byte* at, WriteCall& call) noexcept {
+    if (level == field.rank) {
+        if (IsElementWritten(field, at))
+            WriteElement(field, at, call);
+        else
+            call.out.Null();
+        return;
+    }
+    std::uint32_t stride = field.elementSize;
+    for (int i = field.rank - 1; i > level; --i)
+        stride *= field.dims[i];
+    call.out.BeginArray();
+    for (std::uint32_t i = 0; i < field.dims[level]; ++i) {
+        WriteLevels(field, level + 1, at + std::size_t{i} * stride, call);
+    }
+    call.out.EndArray();
+}
+
+std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
+    if (text.isCopy() || local.empty()) return local;
+    const std::size_t capacity = local.size() * 3 / 2 + 1; // as for every other text on its way out
+    char* const room = text.arena().Array<char>(capacity);
+    if (room == nullptr) return {};
+    const int size =
+        text.ConvertLocalToUtf8(local.data(), static_cast<int>(local.size()), room, static_cast<int>(capacity));
+    return {room, static_cast<std::size_t>(size)};
+}
+
+// The elements of a list with a count of its own, or behind a pointer.
+void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {
+    const Elements elements = ElementsOf(field, record);
+    std::uint32_t stride = field.elementSize;
+    if (field.cell == Cell::Pointer)
+        stride = field.table->size;
+    else
+        for (int i = 1; i < field.rank; ++i)
+            stride *= field.dims[i];
+
+    if (elements.count == 0) {
+        if (field.empty == Empty::NoKey) return;
+        call.Key();
+        if (field.empty == Empty::Null) return call.out.Null();
+        if (field.keyed) {
+            call.out.BeginObject();
+            return call.out.EndObject();
+        }
+        call.out.BeginArray();
+        return call.out.EndArray();
+    }
+    if (field.keyed) {
+        call.Key();
+        return WriteByName(*field.table, elements.first, elements.count, stride, call);
+    }
+    const int inner = field.cell == Cell::Pointer ? field.rank : 1;
+    std::uint32_t end = elements.count;
+    if (field.skipped != Skipped::StaysNull) {
+        // No place behind the last element that is written, and no key when there is none.
+        while (end > 0 && !IsElementWritten(field, elements.first + std::size_t{end - 1} * stride))
+            --end;
+        if (end == 0) return;
+    }
+    call.Key();
+    call.out.BeginArray();
+    for (std::uint32_t i = 0; i < end; ++i) {
+        const std::byte* const at = elements.first + std::size_t{i} * stride;
+        if (inner == field.rank || field.cell == Cell::Pointer) {
+            if (IsElementWritten(field, at))
+                WriteElement(field, at, call);
+            else if (field.skipped != Skipped::ClosesUp)
+                call.out.Null();
+        } else {
+            WriteLevels(field, inner, at, call);
+        }
+    }
+    call.out.EndArray();
+}
+
+bool TakesWholeMember(Kind kind) noexcept {
+    switch (kind) {
+    case Kind::Schedule:
+    case Kind::SectionList:
+    case Kind::BitMask:
+    case Kind::BitMaskLoose:
+    case Kind::Switches:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
+    if (!field.writable) return;
+    if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
+    if (field.condition.exists() && LoadSlot(field.condition, record) == 0) return;
+    if (field.when != nullptr && !field.when(record)) return;
+    if (field.kind == Kind::Custom) {
+        if (field.custom->write != nullptr) field.custom->write(field, record, call);
+        return;
+    }
+    const std::byte* const at = record + field.offset;
+    if (TakesWholeMember(field.kind)) {
+        if (field.empty != Empty::Array && field.kind != Kind::Schedule && field.kind != Kind::SectionList
+            && IsMaskEmpty(field, at)) {
+            if (field.empty == Empty::NoKey) return;
+            call.Key();
+            return call.out.Null();
+        }
+        call.Key();
+        return WriteElement(field, at, call);
+    }
+    if (field.rank > 0 || field.cell == Cell::Pointer) return WriteList(field, record, call);
+    if (field.hasUnless && LoadWhole(field, at) == field.unless) return;
+    if (field.notNegative && LoadWhole(field, at) < 0) return;
+    switch (field.writtenAs) {
+    case Kind::Size:
+    case Kind::Presence:
+    case Kind::MemberName:
+        return;
+    case Kind::Names:
+        if (!IsElementWritten(field, at)) return;
+        break;
+    case Kind::SplitMode: {
+        std::array<char, 32> room;
+        const auto text = JsonParser::SplitModeText(Load<std::int32_t>(at), room);
+        if (text.empty()) return;
+        call.Key();
+        return call.out.String(text);
+    }
+    default:
+        break;
+    }
+    call.Key();
+    if (IsElementWritten(field, at))
+        WriteElement(field, at, call);
+    else
+        call.out.Null();
+}
+
+void WriteNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call) noexcept {
+    const Node* const end = table.nodes + range.first + range.count;
+    for (const Node* node = table.nodes + range.first; node != end; ++node) {
+        if (node->childCount == 0) {
+            call.quotedKey = table.quotedKeyOf(*node);
+            WriteField(table.rows[node->row], record, call);
+            continue;
+        }
+        OpenObject inner{call.object, table.quotedKeyOf(*node), false};
+        call.object = &inner;
+        WriteNodes(table, {node->firstChild, node->childCount}, record, call);
+        call.object = inner.parent;
+        if (inner.opened) call.out.EndObject();
+    }
+}
+
+void Open(OpenObject& object, json::TextWriter& out) noexcept {
+    if (object.opened) return;
+    if (object.parent != nullptr && !object.quotedKey.empty()) {
+        Open(*object.parent, out);
+        out.RawKey(object.quotedKey);
+    }
+    out.BeginObject();
+    object.opened = true;
+}
+
+} // namespace
+
+void WriteCall::Quoted(std::string_view quoted) noexcept {
+    // An empty key is that of a value that stands on its own: its place is open already.
+    if (quoted.size() == kQuotesAndColon) return;
+    Open(*object, out);
+    out.RawKey(quoted);
+}
+
+bool IsWritten(const Table& table, const std::byte* record) noexcept {
+    if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
+    return table.writes == nullptr || table.writes(record);
+}
+
+std::string_view MemberNameOf(const Table& table, const std::byte* record) noexcept {
+    for (const Field& field : table) {
+        if (field.kind == Kind::MemberName) return TextAt(record + field.offset, field.elementSize);
+    }
+    return {};
+}
+
+void WriteByName(const Table& table, const std::byte* first, std::uint32_t recordCount, std::uint32_t stride,
+                 WriteCall& call) noexcept {
+    struct Entry {
+        std::string_view name;
+        std::uint32_t index;
+    };
+    Arena& arena = call.parser.text().arena();
+    Entry* const entries = arena.Array<Entry>(recordCount);
+    if (entries == nullptr) return;
+    std::uint32_t count = 0;
+    for (std::uint32_t i = 0; i < recordCount; ++i) {
+        const std::byte* const at = first + std::size_t{i} * stride;
+        if (IsWritten(table, at)) entries[count++] = {ToUtf8(MemberNameOf(table, at), call.parser.text()), i};
+    }
+    std::sort(entries, entries + count, [](const Entry& left, const Entry& right) {
+        return left.name != right.name ? left.name < right.name : left.index < right.index;
+    });
+    call.out.BeginObject();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (i + 1 < count && entries[i].name == entries[i + 1].name) continue;
+        call.out.Key(entries[i].name);
+        WriteRecord(table, first + std::size_t{entries[i].index} * stride, call);
+    }
+    call.out.EndObject();
+}
+
+void WriteFields(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    WriteNodes(table, table.members, record, call);
+}
+
+void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    const auto outerKey = call.quotedKey;
+    if (table.shape != Shape::Object) {
+        call.out.BeginArray();
+        for (std::uint16_t i = 0; i < table.self.count; ++i) {
+            const Field& field = table.rows[table.nodes[table.self.first + i].row];
+            const std::byte* const at = record + field.offset;
+            if (IsElementWritten(field, at))
+                WriteElement(field, at, call);
+            else
+                call.out.Null();
+        }
+        call.out.EndArray();
+    } else {
+        OpenObject object{call.object, {}, false};
+        call.object = &object;
+        const std::size_t before = call.out.length();
+        for (std::uint16_t i = 0; i < table.self.count; ++i) {
+            const Node& node = table.nodes[table.self.first + i];
+            call.quotedKey = table.quotedKeyOf(node);
+            WriteField(table.rows[node.row], record, call);
+        }
+        WriteFields(table, record, call);
+        call.object = object.parent;
+        if (object.opened)
+            call.out.EndObject();
+        else if (call.out.length() == before)
+            call.out.Null();
+    }
+    call.quotedKey = outerKey;
+}
+
+} // namespace orrery::record
