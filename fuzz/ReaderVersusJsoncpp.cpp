@@ -62,19 +62,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const unsigned shift : {0U, 4U})
         json::ArrayDepth(ours, shift, arena);
     const std::string written = Written(ours, arena);
-    StackArena<512> again;
-    json::Value reread;
-    // Infinities are written as printf writes them, which is not JSON.
-    if (json::Parse(written, again, reread)) {
-        // A real's 16 digits need not lead back to the same double, so they may differ once, in their last place.
-        if (Written(reread, again).size() != written.size()) {
-            StackArena<512> third;
-            json::Value settled;
-            const std::string second = Written(reread, again);
-            if (!json::Parse(second, third, settled)) Report("not readable when written twice", text);
-        }
-    } else if (written.find("inf") == std::string::npos) {
-        Report("not readable when written", text);
+    // Sixteen digits need not lead back to the same real, and an infinity has no JSON; all else reads as it was.
+    if (written.find('.') == std::string::npos && written.find("inf") == std::string::npos) {
+        StackArena<512> again;
+        json::Value reread;
+        if (!json::Parse(written, again, reread)) Report("not readable when written", text);
+        if (Written(reread, again) != written) Report("other when written twice", text);
     }
 
     const auto theirs = test::JsoncppRead(text);
