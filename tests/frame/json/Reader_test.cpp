@@ -385,6 +385,8 @@ TEST(Reader, KeepsMembersInByteOrderAndTheLastOfDuplicates) {
     // Keys that agree in their first eight bytes, that are prefixes of one another, and that were decoded.
     EXPECT_EQ(Read(R"({"channel10":1,"channel1":2,"channel":3,"channel2":4,"channel01":5})"),
               R"({ "channel" : 3, "channel01" : 5, "channel1" : 2, "channel10" : 1, "channel2" : 4 })");
+    EXPECT_EQ(Read(R"({"abcdefgi":1,"abcdefgh":2})"), R"({ "abcdefgh" : 2, "abcdefgi" : 1 })");
+    EXPECT_EQ(Read(R"({"abcdefghj":1,"abcdefghi":2})"), R"({ "abcdefghi" : 2, "abcdefghj" : 1 })");
     EXPECT_EQ(Read(R"({"\u0063hannel10":1,"\u0063hannel1":2,"channel1":3})"), R"({ "channel1" : 3, "channel10" : 1 })");
 }
 
