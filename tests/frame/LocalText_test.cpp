@@ -1,6 +1,7 @@
 #include "frame/JsonParser.h"
 #include "frame/JsonParserSupport.h"
 #include "frame/LocalText.h"
+#include "support/FailingAllocator.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include <iconv.h>
 #include <langinfo.h>
@@ -26,7 +29,7 @@ using test::TextOf;
 // The calling thread's locale for as long as the object lives.
 class ThreadLocale {
   public:
-    explicit ThreadLocale(const char* name) : locale_(newlocale(LC_ALL_MASK, name, nullptr)) {
+    explicit ThreadLocale(const char* name) : locale_(newlocale(LC_CTYPE_MASK, name, nullptr)) {
         if (locale_ != nullptr) previous_ = uselocale(locale_);
     }
     ThreadLocale(const ThreadLocale&) = delete;
@@ -41,6 +44,20 @@ class ThreadLocale {
   private:
     locale_t locale_;
     locale_t previous_ = nullptr;
+};
+
+// The process's. The compiled locales come this way: newlocale never frees the LOCPATH that it took apart, and a leak
+// checker minds.
+class ProcessLocale {
+  public:
+    explicit ProcessLocale(const char* name) : isThere_(std::setlocale(LC_CTYPE, name) != nullptr) {}
+    ProcessLocale(const ProcessLocale&) = delete;
+    ProcessLocale& operator=(const ProcessLocale&) = delete;
+    ~ProcessLocale() { std::setlocale(LC_CTYPE, "C"); }
+    bool isThere() const { return isThere_; }
+
+  private:
+    bool isThere_;
 };
 
 // A folder of locales that this test compiles itself, since no machine can be counted on to have them.
@@ -139,7 +156,7 @@ TEST(LocalText, TouchesNothingWithoutTextOrRoom) {
 
 TEST_F(LocalTextIn, GbkConvertsBothWays) {
     Compile("GBK", "zh_CN.GBK");
-    const ThreadLocale locale("zh_CN.GBK");
+    const ProcessLocale locale("zh_CN.GBK");
     ASSERT_TRUE(locale.isThere());
     ASSERT_STREQ(nl_langinfo(CODESET), "GBK");
     StackArena<256> arena;
@@ -156,7 +173,7 @@ TEST_F(LocalTextIn, GbkConvertsBothWays) {
 
 TEST_F(LocalTextIn, GbkKeepsAsManyBytesAsFit) {
     Compile("GBK", "zh_CN.GBK");
-    const ThreadLocale locale("zh_CN.GBK");
+    const ProcessLocale locale("zh_CN.GBK");
     ASSERT_TRUE(locale.isThere());
     StackArena<256> arena;
     LocalText text(arena);
@@ -177,7 +194,7 @@ TEST_F(LocalTextIn, GbkKeepsAsManyBytesAsFit) {
 
 TEST_F(LocalTextIn, GbkReplacesWhatItCannotConvert) {
     Compile("GBK", "zh_CN.GBK");
-    const ThreadLocale locale("zh_CN.GBK");
+    const ProcessLocale locale("zh_CN.GBK");
     ASSERT_TRUE(locale.isThere());
     StackArena<256> arena;
     LocalText text(arena);
@@ -197,7 +214,7 @@ TEST_F(LocalTextIn, GbkReplacesWhatItCannotConvert) {
 
 TEST_F(LocalTextIn, Iso88591GrowsPastTheRoomThatTextOutHas) {
     Compile("ISO-8859-1", "xx_XX.ISO-8859-1");
-    const ThreadLocale locale("xx_XX.ISO-8859-1");
+    const ProcessLocale locale("xx_XX.ISO-8859-1");
     ASSERT_TRUE(locale.isThere());
     ASSERT_STREQ(nl_langinfo(CODESET), "ISO-8859-1");
     StackArena<256> arena;
@@ -222,7 +239,7 @@ TEST_F(LocalTextIn, Iso88591GrowsPastTheRoomThatTextOutHas) {
 
 TEST_F(LocalTextIn, GbkThroughTheFieldCodecs) {
     Compile("GBK", "zh_CN.GBK");
-    const ThreadLocale locale("zh_CN.GBK");
+    const ProcessLocale locale("zh_CN.GBK");
     ASSERT_TRUE(locale.isThere());
     StackArena<256> arena;
     LocalText text(arena);
@@ -270,7 +287,7 @@ TEST_F(LocalTextIn, AsciiIsKeptOnlyWhereTheCodesetAgrees) {
         }
     }
     Compile("SHIFT_JIS", "ja_JP.SJIS");
-    const ThreadLocale locale("ja_JP.SJIS");
+    const ProcessLocale locale("ja_JP.SJIS");
     ASSERT_TRUE(locale.isThere());
     StackArena<256> arena;
     LocalText text(arena);
@@ -287,7 +304,7 @@ TEST_F(LocalTextIn, ACodesetThatNobodyConvertsFailsTheCall) {
                               .c_str()),
               0);
     Compile(charmap, "xx_XX.NOWHERE-1");
-    const ThreadLocale locale("xx_XX.NOWHERE-1");
+    const ProcessLocale locale("xx_XX.NOWHERE-1");
     ASSERT_TRUE(locale.isThere());
     ASSERT_STREQ(nl_langinfo(CODESET), "NOWHERE-1");
     StackArena<256> arena;
@@ -302,16 +319,68 @@ TEST_F(LocalTextIn, ACodesetThatNobodyConvertsFailsTheCall) {
     EXPECT_TRUE(other.failed());
 }
 
-TEST_F(LocalTextIn, LooksAtTheThreadsLocaleEachTime) {
+TEST_F(LocalTextIn, TheThreadsLocaleGoesBeforeTheProcesss) {
     Compile("GBK", "zh_CN.GBK");
     StackArena<256> arena;
     {
-        const ThreadLocale locale("zh_CN.GBK");
-        ASSERT_TRUE(locale.isThere());
-        LocalText text(arena);
-        EXPECT_FALSE(text.isCopy());
+        const ProcessLocale process("zh_CN.GBK");
+        ASSERT_TRUE(process.isThere());
+        EXPECT_FALSE(LocalText(arena).isCopy());
+        unsetenv("LOCPATH");
+        const ThreadLocale thread("C.UTF-8");
+        ASSERT_TRUE(thread.isThere());
+        EXPECT_TRUE(LocalText(arena).isCopy());
     }
     EXPECT_TRUE(LocalText(arena).isCopy()) << "the test program itself runs in the C locale";
+}
+
+TEST_F(LocalTextIn, AConversionKeepsTheLocaleItBeganWith) {
+    Compile("GBK", "zh_CN.GBK");
+    StackArena<256> arena;
+    std::optional<LocalText> text;
+    {
+        const ProcessLocale process("zh_CN.GBK");
+        ASSERT_TRUE(process.isThere());
+        text.emplace(arena);
+    }
+    EXPECT_EQ(ToLocal(*text, "\xE4\xB8\xAD", 16), "\xD6\xD0");
+}
+
+// ---- When the heap is exhausted ----
+
+TEST_F(LocalTextIn, AFailingHeapFailsTheCallAndWritesNoHalfText) {
+    Compile("ISO-8859-1", "xx_XX.ISO-8859-1");
+    const ProcessLocale locale("xx_XX.ISO-8859-1");
+    ASSERT_TRUE(locale.isThere());
+    StackArena<256> arena;
+    LocalText text(arena);
+    JsonParser parser(text);
+    EXPECT_EQ(ToUtf8(text, "\xE9", 16), "\xC3\xA9"); // opens what it needs
+    const std::string large(5000, '\xE9');
+    std::vector<char> room(16384);
+    json::TextWriter out(room.data(), room.size());
+    {
+        test::HeapWatch heap;
+        heap.FailFrom(1);
+        parser.SetJsonString(out, large.c_str(), 8192, true);
+        EXPECT_EQ(heap.failures(), 1u);
+    }
+    EXPECT_TRUE(arena.failed());
+    EXPECT_EQ(std::string_view(room.data(), out.length()), "\"\"");
+}
+
+TEST(LocalText, ACopyNeedsNoHeap) {
+    StackArena<16> arena;
+    LocalText text(arena);
+    JsonParser parser(text);
+    const std::string large(5000, '\xE9');
+    std::vector<char> field(8192), room(16384);
+    json::TextWriter out(room.data(), room.size());
+    test::HeapWatch heap;
+    EXPECT_TRUE(parser.GetJsonString(StringValue(large), field.data(), field.size(), true));
+    EXPECT_TRUE(parser.SetJsonString(out, field.data(), field.size(), true));
+    EXPECT_EQ(heap.allocations(), 0u);
+    EXPECT_EQ(out.length(), 5002u);
 }
 
 } // namespace
