@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 #include <optional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -344,6 +345,58 @@ TEST_F(LocalTextIn, AConversionKeepsTheLocaleItBeganWith) {
         text.emplace(arena);
     }
     EXPECT_EQ(ToLocal(*text, "\xE4\xB8\xAD", 16), "\xD6\xD0");
+}
+
+// Two characters of one code there: U+00CA is 88 66, with U+0304 behind it 88 62. So a converter waits after U+00CA.
+TEST_F(LocalTextIn, ACodesetWhoseConverterLooksAhead) {
+    Compile("BIG5-HKSCS", "zh_HK.BIG5-HKSCS");
+    const ProcessLocale locale("zh_HK.BIG5-HKSCS");
+    ASSERT_TRUE(locale.isThere());
+    StackArena<256> arena;
+    LocalText text(arena);
+    EXPECT_EQ(ToLocal(text, "\xC3\x8A\xCC\x84", 16), "\x88\x62");
+    EXPECT_EQ(ToLocal(text, "\xC3\x8A", 16), "\x88\x66") << "held back to the end";
+    EXPECT_EQ(ToLocal(text, "\xC3\x8A", 2), "\x88");
+    EXPECT_EQ(ToLocal(text, "\xC3\x8A\xFFz", 16), "\x88\x66?z") << "held back before a broken character";
+    EXPECT_EQ(ToLocal(text, "\xC3\x8A\xC3\x8A", 2), "\x88");
+    EXPECT_EQ(ToLocal(text, "z\xC3\x8A", 16), "z\x88\x66") << "nothing is left of the text before";
+    EXPECT_EQ(ToUtf8(text, "\x88\x62", 16), "\xC3\x8A\xCC\x84");
+    EXPECT_EQ(ToUtf8(text, "\x88\x62", 4), "\xC3\x8A\xCC");
+    EXPECT_EQ(ToUtf8(text, "z\xC3\x8A", 2), "z");
+    EXPECT_EQ(ToUtf8(text, "\x88\x66", 16), "\xC3\x8A");
+}
+
+// Whatever the text, a small room holds the beginning of what a large one holds, filled to the last byte.
+TEST_F(LocalTextIn, ASmallRoomHoldsTheBeginning) {
+    std::mt19937 random(65001);
+    const auto below = [&random](std::size_t bound) { return random() % bound; };
+    for (const char* codeset : {"GBK", "GB18030", "BIG5-HKSCS", "ISO-8859-1", "SHIFT_JIS", "EUC-JP"}) {
+        const std::string name = std::string("xx_XX.") + codeset;
+        Compile(codeset, name);
+        const ProcessLocale locale(name.c_str());
+        ASSERT_TRUE(locale.isThere()) << name;
+        StackArena<256> arena;
+        LocalText text(arena);
+        for (int round = 0; round < 20000; ++round) {
+            std::string source;
+            for (std::size_t i = below(12) + 1; i > 0; --i) {
+                static const char* const kPieces[] = {"a",        "\xE4\xB8\xAD", "\xC3\x8A",
+                                                      "\xCC\x84", "\xC3\xA9",     "\xF0\x9F\x98\x80",
+                                                      "\xD6\xD0", "\x88\x62",     "\xE3\x82\xBD"};
+                if (below(3) != 0) {
+                    source += kPieces[below(std::size(kPieces))];
+                } else {
+                    source += static_cast<char>(below(256));
+                }
+            }
+            const auto room = static_cast<int>(below(20) + 1);
+            const std::string local = ToLocal(text, source, 256);
+            ASSERT_EQ(ToLocal(text, source, room), local.substr(0, static_cast<std::size_t>(room - 1)));
+            const std::string utf8 = ToUtf8(text, source, 256);
+            ASSERT_EQ(ToUtf8(text, source, room), utf8.substr(0, static_cast<std::size_t>(room - 1)));
+        }
+        EXPECT_FALSE(arena.failed());
+    }
 }
 
 // ---- When the heap is exhausted ----
