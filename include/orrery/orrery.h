@@ -8,6 +8,7 @@
 
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_input.h"
+#include "orrery/encode.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
 #include "orrery/types.h"
@@ -46,7 +47,8 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. Cleared whole, also on
  *               failure, but for "MotionDetect", which leaves it alone on failure and behind the terminator.
  * textCapacity  Bytes at `textBuffer`. For most commands the text must be shorter. For the alarm input commands other
- *               than "MotionDetect" a text of exactly that length is taken too and loses its newline.
+ *               than "MotionDetect", and where the command's header says so, a text of exactly that length is taken too
+ *               and loses its newline or its terminator.
  *
  * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
 int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,

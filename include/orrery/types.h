@@ -84,6 +84,13 @@ typedef struct NET_TIME_EX {
     int32_t dwMillisecond;
 } NET_TIME_EX;
 
+/* A moment that begins with its size. With another size word it is neither read nor written: null stands in its place.
+ */
+typedef struct NET_TIME_V2 {
+    uint32_t dwSize; /* 28 */
+    NET_TIME stuTime;
+} NET_TIME_V2;
+
 /* Kinds of sensor behind an alarm input ("SenseMethod"). */
 typedef enum EM_SENSE_METHOD {
     EM_SENSE_UNKNOWN = -1,

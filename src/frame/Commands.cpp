@@ -3,6 +3,9 @@
 #include "alarm/AlarmCaps.h"
 #include "alarm/AlarmInput.h"
 #include "frame/GeneralSwitch.h"
+#include "media/Encode.h"
+#include "media/EncodeEncrypt.h"
+#include "media/StroboscopicLamp.h"
 
 #include <array>
 
@@ -77,6 +80,38 @@ constexpr Command kCommands[] = {
     Reply("alarm.getExAlarmCaps", kExAlarmCaps, kCapsTextTrue),
     Reply("alarm.getExAlarmBoxCaps", kExAlarmBoxCaps, kCapsTextTrue),
     Reply("AnalogAlarm.getCaps", kAnalogAlarmCaps, kCaps),
+
+    // Encoding
+    Both("Encode", kEncode,
+         kParse.TakesBy(EncodeTakes)
+             .Null(OnNull::LengthZero)
+             .Clears(Clearing::Kept)
+             .ReadsNulls()
+             .Length(ReplyLength::PerRecord),
+         kLoose.As(Form::BareIfExact)),
+    Both("EncodePlan", kEncodePlan,
+         kUntested.Takes(Take::ManyOrNone).Null(OnNull::LengthZero).Length(ReplyLength::PerRecord),
+         kLoose.As(Form::Array)),
+    Both("EncodeAdapt", kEncodeAdapt, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord),
+         kPack.As(Form::BareIfExact)),
+    Both("SmartEncode", kSmartEncode,
+         kParse.Takes(Take::AnyOrMany).Null(OnNull::LengthZero).Length(ReplyLength::PerRecord),
+         kLoose.As(Form::BareIfExact)),
+    Both("EncodeEncrypt", kEncodeEncrypt, kUntested.Takes(Take::ListOrNone).Clears(Clearing::Kept).RootKeysFirst(),
+         kLoose),
+    Both("NvrEncrypt", kNvrEncrypt,
+         kParse.Takes(Take::ListOrLists)
+             .Null(OnNull::LengthUntouched)
+             .Clears(Clearing::Read)
+             .RootKeysFirst()
+             .ReadsNulls()
+             .AllMustFit()
+             .Length(ReplyLength::OneOfList),
+         kPack.FormBy(NvrEncryptForm).Fits(Capacity::Raw)),
+    Both("CompressPlay", kCompressPlay, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord),
+         kPack.As(Form::BareIfExact)),
+    Both("StroboscopicLamp", kStroboscopicLamp, kParse.Null(OnNull::LengthUntouched).LengthBy(StroboscopicLampLength),
+         kPack.Fits(Capacity::Raw)),
 };
 
 // ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----

@@ -21,7 +21,7 @@ struct Content {
     const std::byte* first;
     std::uint32_t stride;
     std::uint32_t count;
-    Form form; // One, Array or ByMember
+    Form form; // One, Array, ByMember or Nothing
     std::string_view quotedKey;
 };
 
@@ -60,6 +60,9 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
         break;
     case Form::Array:
         WriteArray(content, call);
+        break;
+    case Form::Nothing:
+        out.Null();
         break;
     default:
         record::WriteRecord(content.table, content.first, call);
@@ -123,6 +126,7 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
 
     Content content{table, first, stride, request.recordSize / stride, frame.form, frame.quotedKey};
     if (frame.form == Form::BareIfOne) content.form = content.count == 1 ? Form::One : Form::Array;
+    if (frame.formBy != nullptr) content.form = frame.formBy(first, content.count);
     if (frame.form == Form::BareIfExact) content.form = request.recordSize == stride ? Form::One : Form::Array;
     if (content.form == Form::One) content.count = 1;
     if (frame.stride == Stride::Record) return Deliver(content, frame.capacity, frame.keepsText, request);

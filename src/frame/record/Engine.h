@@ -15,6 +15,7 @@ struct ReadCall {
     JsonParser& parser;
     const json::Value& root; // the whole document, for keys outside the record's object
     bool refused = false;    // a row's function ends the call with 0
+    std::uint32_t index = 0; // of the caller's record that is being read
 };
 
 // An object on the way out. It is opened by its first key, so that an object without keys leaves no trace.
@@ -48,12 +49,17 @@ void SetDefaults(const Table& table, std::byte* record) noexcept;
 // Sets the size words only, nested ones included.
 void SetSizeWords(const Table& table, std::byte* record) noexcept;
 
+// Sets every presence flag to 0, nested ones included.
+void ClearFlags(const Table& table, std::byte* record) noexcept;
+
 // Reads a record from a value: defaults first, then every row. `memberName` is the name under which the value stands,
 // for records that keep it.
 void ReadRecord(const Table& table, const json::Value& value, std::byte* record, ReadCall& call,
                 std::string_view memberName = {}) noexcept;
 // The rows alone, over what the record already holds. False when the record's guard refused it.
 bool ReadFields(const Table& table, const json::Value& value, std::byte* record, ReadCall& call) noexcept;
+// The rows whose keys start at the document alone.
+void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexcept;
 // One row from the value at its key; null when there is none.
 void ReadField(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) noexcept;
 

@@ -137,6 +137,8 @@ struct Field {
     bool (*when)(const std::byte* record) = nullptr;
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;
+    bool unlessBare = false;   // an object without keys is left out
+    bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
 
     bool alias = false; // another key of a field that has a row already
 
@@ -266,6 +268,18 @@ struct Field {
     constexpr Field OnSkipped(Skipped rule) const {
         auto f = *this;
         f.skipped = rule;
+        return f;
+    }
+    // A nested record of which nothing is written leaves no key.
+    constexpr Field UnlessBare() const {
+        auto f = *this;
+        f.unlessBare = true;
+        return f;
+    }
+    // As many elements are written as the caller's array has room for; the count is only what reading found.
+    constexpr Field WritesCapacity() const {
+        auto f = *this;
+        f.fullCapacity = true;
         return f;
     }
     // A second key of a field that has a row of its own.

@@ -91,5 +91,15 @@ void SetDefaults(const Table& table, std::byte* record) noexcept {
 void SetSizeWords(const Table& table, std::byte* record) noexcept {
     Prepare(table, record, false);
 }
+void ClearFlags(const Table& table, std::byte* record) noexcept {
+    for (const Field& field : table) {
+        StoreSlot(field.flag, record, 0);
+        if (field.kind != Kind::Record || field.cell == Cell::Pointer) continue;
+        const std::uint32_t count = ElementCount(field);
+        for (std::uint32_t i = 0; i < count; ++i) {
+            ClearFlags(*field.table, record + field.offset + std::size_t{i} * field.elementSize);
+        }
+    }
+}
 
 } // namespace orrery::record

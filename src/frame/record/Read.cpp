@@ -265,6 +265,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
 
 bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
+    if (table.clearsFlags) ClearFlags(table, record);
     if (table.shape != Shape::Object) {
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;
@@ -279,9 +280,13 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
         }
         ReadNodes(table, table.members, value, record, call);
     }
-    if (table.fromRoot.count > 0) ReadNodes(table, table.fromRoot, call.root, record, call);
+    if (table.fromRoot.count > 0) ReadRootFields(table, record, call);
     if (table.afterRead != nullptr) table.afterRead(value, record, call);
     return true;
+}
+
+void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexcept {
+    ReadNodes(table, table.fromRoot, call.root, record, call);
 }
 
 void ReadRecord(const Table& table, const Value& value, std::byte* record, ReadCall& call,

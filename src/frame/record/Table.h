@@ -55,6 +55,7 @@ struct Table {
     bool hasDefaults = false;  // some field, nested ones included, starts at something other than zero
     bool hasSizeWords = false; // some field, nested ones included, is a size word
     bool guarded = false;      // neither read nor written unless the size word holds exactly the record's size
+    bool clearsFlags = false;  // presence flags, nested ones included, start at 0 in a record that keeps its values
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
@@ -78,6 +79,12 @@ struct TypedTable : Table {
     constexpr TypedTable Guarded() const {
         TypedTable table = *this;
         table.guarded = true;
+        return table;
+    }
+    // The record's presence flags tell of the text just read alone, though absent keys keep the caller's values.
+    constexpr TypedTable ClearsFlags() const {
+        TypedTable table = *this;
+        table.clearsFlags = true;
         return table;
     }
     // Only records that pass are written.

@@ -38,7 +38,7 @@ Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
         room = field.capacity.exists() ? LoadSlot(field.capacity, record) : INT32_MAX;
         if (first == nullptr) room = 0;
     }
-    std::int64_t count = field.count.exists() ? LoadSlot(field.count, record) : room;
+    std::int64_t count = field.count.exists() && !field.fullCapacity ? LoadSlot(field.count, record) : room;
     // A count beyond the room ends at the room, whoever wrote it.
     count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
     return {first, static_cast<std::uint32_t>(count)};
@@ -232,6 +232,16 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     call.out.EndArray();
 }
 
+// The key of an object is written with the first key inside it.
+void WriteUnlessBare(const Field& field, const std::byte* at, WriteCall& call) noexcept {
+    if (!IsWritten(*field.table, at)) return;
+    OpenObject inner{call.object, call.quotedKey, false};
+    call.object = &inner;
+    WriteFields(*field.table, at, call);
+    call.object = inner.parent;
+    if (inner.opened) call.out.EndObject();
+}
+
 bool TakesWholeMember(Kind kind) noexcept {
     switch (kind) {
     case Kind::Schedule:
@@ -283,6 +293,9 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         call.Key();
         return call.out.String(text);
     }
+    case Kind::Record:
+        if (field.unlessBare) return WriteUnlessBare(field, at, call);
+        break;
     default:
         break;
     }
