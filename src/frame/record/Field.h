@@ -344,6 +344,7 @@ struct Names {
     static constexpr bool accepts = kIsInteger<T>;
     const NameTable* table;
     constexpr explicit Names(const NameTable& itsTable) : table(&itsTable) {}
+    explicit Names(const NameTable&&) = delete; // the row points to the table
 };
 
 // Object or tuple through another table. The table's record must be the member's type (or what it points to).
