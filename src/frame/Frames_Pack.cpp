@@ -23,6 +23,7 @@ struct Content {
     std::uint32_t count;
     Form form; // One, Array or ByMember
     std::string_view quotedKey;
+    bool everyPlace = false; // of an array: also a null behind the last record that is written
 };
 
 // Records that their table holds back are null in their place; behind the last one written there is no place, and a
@@ -30,7 +31,7 @@ struct Content {
 void WriteArray(const Content& content, WriteCall& call) noexcept {
     const auto record = [&](std::uint32_t i) { return content.first + std::size_t{i} * content.stride; };
     std::uint32_t end = content.count;
-    while (end > 0 && !record::IsWritten(content.table, record(end - 1)))
+    while (!content.everyPlace && end > 0 && !record::IsWritten(content.table, record(end - 1)))
         --end;
     if (end == 0) return call.out.Null();
     call.out.BeginArray();
@@ -62,7 +63,10 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
         WriteArray(content, call);
         break;
     default:
-        record::WriteRecord(content.table, content.first, call);
+        if (record::IsWritten(content.table, content.first))
+            record::WriteRecord(content.table, content.first, call);
+        else
+            out.Null();
         break;
     }
     if (root.opened) out.EndObject();
@@ -148,7 +152,7 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
 
 Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept {
     const auto* const first = static_cast<const std::byte*>(request.record);
-    Content content{table, first, table.size, 1, Form::One, {}};
+    Content content{table, first, table.size, 1, Form::One, {}, true};
     if (frame.arrayForm) content.count = request.recordSize / table.size;
     if (frame.alwaysArray || content.count >= 2) content.form = Form::Array;
     if (content.count == 0) content.form = Form::Array; // no record: the text of a list that nothing was put in

@@ -85,12 +85,18 @@ void Store(std::byte* at, T value) noexcept {
 // An integer member of any width; 0 for a slot that does not exist.
 std::int64_t LoadInteger(Cell cell, const std::byte* at) noexcept;
 void StoreInteger(Cell cell, std::byte* at, std::int64_t value) noexcept;
+// A number into a member of any arithmetic type.
+void StoreReal(Cell cell, std::byte* at, double number) noexcept;
+void StoreNumber(Cell cell, std::byte* at, std::int64_t number) noexcept;
 inline std::int64_t LoadSlot(const Slot& slot, const std::byte* record) noexcept {
     return slot.exists() ? LoadInteger(slot.cell, record + slot.offset) : 0;
 }
 inline void StoreSlot(const Slot& slot, std::byte* record, std::int64_t value) noexcept {
     if (slot.exists()) StoreInteger(slot.cell, record + slot.offset, value);
 }
+
+// Bytes from one element of a list to the next, at a level of the member's dimensions.
+std::uint32_t StrideOf(const Field& field, int level) noexcept;
 
 // A field's text up to its terminator, or to its capacity when it has none.
 std::string_view TextAt(const std::byte* at, std::size_t capacity) noexcept;

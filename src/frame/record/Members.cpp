@@ -48,6 +48,28 @@ void StoreInteger(Cell cell, std::byte* at, std::int64_t value) noexcept {
     }
 }
 
+void StoreReal(Cell cell, std::byte* at, double number) noexcept {
+    if (cell == Cell::F32)
+        Store(at, static_cast<float>(number));
+    else
+        Store(at, number);
+}
+
+void StoreNumber(Cell cell, std::byte* at, std::int64_t number) noexcept {
+    if (cell == Cell::F32 || cell == Cell::F64)
+        StoreReal(cell, at, static_cast<double>(number));
+    else
+        StoreInteger(cell, at, number);
+}
+
+std::uint32_t StrideOf(const Field& field, int level) noexcept {
+    if (field.cell == Cell::Pointer) return field.table->size;
+    std::uint32_t stride = field.elementSize;
+    for (int i = field.rank - 1; i > level; --i)
+        stride *= field.dims[i];
+    return stride;
+}
+
 std::string_view TextAt(const std::byte* at, std::size_t capacity) noexcept {
     const auto* const text = reinterpret_cast<const char*>(at);
     return {text, strnlen(text, capacity)};
@@ -76,7 +98,7 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
         } else if (defaults && field.hasDefault) {
             const std::uint32_t count = ElementCount(field);
             for (std::uint32_t i = 0; i < count; ++i) {
-                StoreInteger(field.cell, at + std::size_t{i} * field.elementSize, field.defaultValue);
+                StoreNumber(field.cell, at + std::size_t{i} * field.elementSize, field.defaultValue);
             }
         }
     }

@@ -22,14 +22,6 @@ Elements ElementsOf(const Field& field, std::byte* record) noexcept {
     return {first, static_cast<std::uint32_t>(std::min<std::int64_t>(room, UINT32_MAX))};
 }
 
-std::uint32_t StrideOf(const Field& field, int level) noexcept {
-    if (field.cell == Cell::Pointer) return field.table->size;
-    std::uint32_t stride = field.elementSize;
-    for (int i = field.rank - 1; i > level; --i)
-        stride *= field.dims[i];
-    return stride;
-}
-
 bool IsOfType(OnlyType only, const Value& value) noexcept {
     switch (only) {
     case OnlyType::Any:
@@ -42,20 +34,6 @@ bool IsOfType(OnlyType only, const Value& value) noexcept {
         return value.isInt() || value.isUInt();
     }
     return true;
-}
-
-void StoreReal(const Field& field, std::byte* at, double number) noexcept {
-    if (field.cell == Cell::F32)
-        Store(at, static_cast<float>(number));
-    else
-        Store(at, number);
-}
-
-void StoreNumber(const Field& field, std::byte* at, std::int64_t number) noexcept {
-    if (field.cell == Cell::F32 || field.cell == Cell::F64)
-        StoreReal(field, at, static_cast<double>(number));
-    else
-        StoreInteger(field.cell, at, number);
 }
 
 void ReadBitMask(const Field& field, const Value& value, std::byte* at) noexcept {
@@ -95,13 +73,13 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         StoreInteger(field.cell, at, value.asBool() ? 1 : 0);
         break;
     case Kind::Int:
-        StoreNumber(field, at, value.asInt());
+        StoreNumber(field.cell, at, value.asInt());
         break;
     case Kind::UInt:
-        StoreNumber(field, at, value.asUInt());
+        StoreNumber(field.cell, at, value.asUInt());
         break;
     case Kind::Real:
-        StoreReal(field, at, value.asDouble());
+        StoreReal(field.cell, at, value.asDouble());
         break;
     case Kind::Text:
     case Kind::RawText:
@@ -185,6 +163,9 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             readSlot(member.value, member.key());
             ++counted;
         }
+    } else if (value.type() == json::Type::Object) {
+        // Its members have no place in a list, but each stands for an element that is not there.
+        used = counted = std::min(value.size(), room.room);
     } else {
         for (const Value& element : value.elements()) {
             if (used == room.room) break;
@@ -203,20 +184,6 @@ bool TakesList(const Field& field, const Value& value, std::uint32_t extent) noe
     if (field.keyed) return value.type() == json::Type::Object || field.anyShape;
     if (field.exactly) return value.type() == json::Type::Array && value.size() == extent;
     return value.isArray() || field.anyShape;
-}
-
-bool TakesWholeMember(Kind kind) noexcept {
-    switch (kind) {
-    case Kind::Schedule:
-    case Kind::SectionList:
-    case Kind::BitMask:
-    case Kind::BitMaskLoose:
-    case Kind::Switches:
-    case Kind::Custom:
-        return true;
-    default:
-        return false;
-    }
 }
 
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
@@ -247,7 +214,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
         return;
     }
-    if (TakesWholeMember(field.kind)) {
+    if (field.wholeMember) {
         if (!value.isArray() && !field.anyShape) return;
         StoreSlot(field.flag, record, 1);
         ReadElement(field, value, record + field.offset, call, {});

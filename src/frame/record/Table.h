@@ -105,6 +105,7 @@ namespace build {
 void rows_do_not_tile_the_record();
 void a_nested_record_needs_its_table();
 void a_key_must_not_be_escaped();
+void a_pointer_needs_its_capacity();
 
 constexpr int Parts(std::string_view key) {
     int parts = 1;
@@ -286,6 +287,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if (row.kind == Kind::Size) table.hasSizeWords = true;
         if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr) {
             build::a_nested_record_needs_its_table();
+        }
+        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists()) {
+            build::a_pointer_needs_its_capacity();
         }
         if (row.kind == Kind::Record && row.cell != Cell::Pointer) {
             if (row.table->hasDefaults) table.hasDefaults = true;

@@ -35,7 +35,7 @@ Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
     std::int64_t room = field.dims[0];
     if (field.cell == Cell::Pointer) {
         first = Load<const std::byte*>(first);
-        room = field.capacity.exists() ? LoadSlot(field.capacity, record) : INT32_MAX;
+        room = LoadSlot(field.capacity, record);
         if (first == nullptr) room = 0;
     }
     std::int64_t count = field.count.exists() ? LoadSlot(field.count, record) : room;
@@ -84,10 +84,10 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
         break;
     }
     case Kind::Int:
-        out.Int(static_cast<std::int32_t>(LoadWhole(field, at)));
+        out.Int(static_cast<std::int32_t>(std::min(LoadWhole(field, at), field.atMost)));
         break;
     case Kind::UInt:
-        out.UInt(static_cast<std::uint32_t>(LoadWhole(field, at)));
+        out.UInt(static_cast<std::uint32_t>(std::min(LoadWhole(field, at), field.atMost)));
         break;
     case Kind::Real:
         out.Real(LoadReal(field, at));
@@ -163,9 +163,7 @@ void WriteLevels(const Field& field, int level, const std::byte* at, WriteCall& 
             call.out.Null();
         return;
     }
-    std::uint32_t stride = field.elementSize;
-    for (int i = field.rank - 1; i > level; --i)
-        stride *= field.dims[i];
+    const std::uint32_t stride = StrideOf(field, level);
     call.out.BeginArray();
     for (std::uint32_t i = 0; i < field.dims[level]; ++i) {
         WriteLevels(field, level + 1, at + std::size_t{i} * stride, call);
@@ -186,13 +184,7 @@ std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
 // The elements of a list with a count of its own, or behind a pointer.
 void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     const Elements elements = ElementsOf(field, record);
-    std::uint32_t stride = field.elementSize;
-    if (field.cell == Cell::Pointer)
-        stride = field.table->size;
-    else
-        for (int i = 1; i < field.rank; ++i)
-            stride *= field.dims[i];
-
+    const std::uint32_t stride = StrideOf(field, 0);
     if (elements.count == 0) {
         if (field.empty == Empty::NoKey) return;
         call.Key();
@@ -232,19 +224,6 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     call.out.EndArray();
 }
 
-bool TakesWholeMember(Kind kind) noexcept {
-    switch (kind) {
-    case Kind::Schedule:
-    case Kind::SectionList:
-    case Kind::BitMask:
-    case Kind::BitMaskLoose:
-    case Kind::Switches:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     if (!field.writable) return;
     if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
@@ -255,7 +234,7 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         return;
     }
     const std::byte* const at = record + field.offset;
-    if (TakesWholeMember(field.kind)) {
+    if (field.wholeMember) {
         if (field.empty != Empty::Array && field.kind != Kind::Schedule && field.kind != Kind::SectionList
             && IsMaskEmpty(field, at)) {
             if (field.empty == Empty::NoKey) return;
@@ -266,8 +245,9 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         return WriteElement(field, at, call);
     }
     if (field.rank > 0 || field.cell == Cell::Pointer) return WriteList(field, record, call);
-    if (field.hasUnless && LoadWhole(field, at) == field.unless) return;
-    if (field.notNegative && LoadWhole(field, at) < 0) return;
+    // A double holds every 32-bit number exactly, and a fraction is neither 0 nor above it.
+    if (field.hasUnless && LoadReal(field, at) == field.unless) return;
+    if (field.notNegative && LoadReal(field, at) < 0) return;
     switch (field.writtenAs) {
     case Kind::Size:
     case Kind::Presence:
