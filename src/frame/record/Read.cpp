@@ -1,6 +1,7 @@
 #include "frame/record/Engine.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace orrery::record {
 
@@ -186,19 +187,47 @@ bool TakesList(const Field& field, const Value& value, std::uint32_t extent) noe
     return value.isArray() || field.anyShape;
 }
 
+std::uint64_t PrefixOf(const json::Member& member) noexcept {
+    if (member.keySize < 8) return KeyPrefix(member.key());
+    std::uint64_t bytes;
+    std::memcpy(&bytes, member.keyText, sizeof bytes);
+    if constexpr (std::endian::native == std::endian::little) bytes = __builtin_bswap64(bytes);
+    return bytes;
+}
+
+// Below zero, zero or above zero as the node's key orders before, with or behind the member's. The first eight bytes
+// tell as a rule, and eight that overlap them tell that keys of up to sixteen are the same.
+int CompareToMember(const Table& table, const Node& node, const json::Member& member) noexcept {
+    const std::uint64_t prefix = PrefixOf(member);
+    if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
+    const std::string_view key = table.keyOf(node);
+    if (key.size() == member.keySize && key.size() >= 8 && key.size() <= 16) {
+        const std::size_t last = key.size() - 8;
+        if (std::memcmp(key.data() + last, member.keyText + last, 8) == 0) return 0;
+    }
+    return json::CompareKeys(key, member.key());
+}
+
+void ReadPlainly(Plainly how, const Field& field, const Value& value, std::byte* record) noexcept {
+    StoreSlot(field.flag, record, 1);
+    Store(record + field.offset, how == Plainly::Switch ? std::int32_t{value.asBool()} : value.asInt());
+}
+
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
     const auto members = object.members();
-    auto member = members.begin();
+    const json::Member* member = members.data();
+    const json::Member* const membersEnd = member + members.size();
     const Node* const end = table.nodes + range.first + range.count;
     for (const Node* node = table.nodes + range.first; node != end; ++node) {
-        const std::string_view key = table.keyOf(*node);
         int order = -1;
-        while (member != members.end() && (order = key.compare(member->key())) > 0)
+        while (member != membersEnd && (order = CompareToMember(table, *node, *member)) > 0)
             ++member;
-        const bool found = member != members.end() && order == 0 && !member->value.isNull();
+        const bool found = member != membersEnd && order == 0 && !member->value.isNull();
         if (!found && !node->needsAbsent) continue;
         const Value& value = found ? member->value : json::kNull;
-        if (node->childCount > 0)
+        if (node->readPlainly != Plainly::No)
+            ReadPlainly(node->readPlainly, table.rows[node->row], value, record);
+        else if (node->childCount > 0)
             ReadNodes(table, {node->firstChild, node->childCount}, value, record, call);
         else
             ReadField(table.rows[node->row], value, record, call);

@@ -181,6 +181,10 @@ std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
     return {room, static_cast<std::size_t>(size)};
 }
 
+bool IsPlainNumber(const Field& field) noexcept {
+    return field.writtenAs == Kind::Int && field.cell == Cell::I32;
+}
+
 // The elements of a list with a count of its own, or behind a pointer.
 void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     const Elements elements = ElementsOf(field, record);
@@ -210,6 +214,12 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     }
     call.Key();
     call.out.BeginArray();
+    if (IsPlainNumber(field) && inner == field.rank) {
+        // Channels above all: the longest lists there are.
+        for (std::uint32_t i = 0; i < end; ++i)
+            call.out.Int(Load<std::int32_t>(elements.first + std::size_t{i} * stride));
+        return call.out.EndArray();
+    }
     for (std::uint32_t i = 0; i < end; ++i) {
         const std::byte* const at = elements.first + std::size_t{i} * stride;
         if (inner == field.rank || field.cell == Cell::Pointer) {
@@ -277,8 +287,16 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
     const Node* const end = table.nodes + range.first + range.count;
     for (const Node* node = table.nodes + range.first; node != end; ++node) {
         if (node->childCount == 0) {
+            const Field& field = table.rows[node->row];
+            if (node->writePlainly != Plainly::No) {
+                if (field.flag.exists() && LoadSlot(field.flag, record) == 0) continue;
+                call.Quoted(table.quotedKeyOf(*node));
+                const auto number = Load<std::int32_t>(record + field.offset);
+                node->writePlainly == Plainly::Switch ? call.out.Bool(number != 0) : call.out.Int(number);
+                continue;
+            }
             call.quotedKey = table.quotedKeyOf(*node);
-            WriteField(table.rows[node->row], record, call);
+            WriteField(field, record, call);
             continue;
         }
         OpenObject inner{call.object, table.quotedKeyOf(*node), false};
@@ -289,23 +307,15 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
     }
 }
 
-void Open(OpenObject& object, json::TextWriter& out) noexcept {
-    if (object.opened) return;
-    if (object.parent != nullptr && !object.quotedKey.empty()) {
-        Open(*object.parent, out);
-        out.RawKey(object.quotedKey);
-    }
-    out.BeginObject();
-    object.opened = true;
-}
-
 } // namespace
 
-void WriteCall::Quoted(std::string_view quoted) noexcept {
-    // An empty key is that of a value that stands on its own: its place is open already.
-    if (quoted.size() == kQuotesAndColon) return;
-    Open(*object, out);
-    out.RawKey(quoted);
+void WriteCall::Open(OpenObject& closed) noexcept {
+    if (closed.parent != nullptr && !closed.quotedKey.empty()) {
+        if (!closed.parent->opened) Open(*closed.parent);
+        out.RawKey(closed.quotedKey);
+    }
+    out.BeginObject();
+    closed.opened = true;
 }
 
 bool IsWritten(const Table& table, const std::byte* record) noexcept {
