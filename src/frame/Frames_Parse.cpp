@@ -216,6 +216,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     ReadAll(holds, value, records);
     if (document.arena.failed()) {
         if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+        if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
         return Outcome::OutOfMemory;
     }
     switch (frame.length) {

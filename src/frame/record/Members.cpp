@@ -62,6 +62,15 @@ std::uint32_t ElementCount(const Field& field) noexcept {
     return count;
 }
 
+void StoreDefault(const Field& field, std::byte* at) noexcept {
+    if (field.cell == Cell::F32)
+        Store(at, static_cast<float>(field.defaultValue));
+    else if (field.cell == Cell::F64)
+        Store(at, static_cast<double>(field.defaultValue));
+    else
+        StoreInteger(field.cell, at, field.defaultValue);
+}
+
 void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
     for (const Field& field : table) {
         std::byte* const at = record + field.offset;
@@ -76,7 +85,7 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
         } else if (defaults && field.hasDefault) {
             const std::uint32_t count = ElementCount(field);
             for (std::uint32_t i = 0; i < count; ++i) {
-                StoreInteger(field.cell, at + std::size_t{i} * field.elementSize, field.defaultValue);
+                StoreDefault(field, at + std::size_t{i} * field.elementSize);
             }
         }
     }
