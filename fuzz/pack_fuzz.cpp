@@ -36,8 +36,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     // A size word of the caller's own moves the records behind the first: their pointers are wherever it says.
     if (test::HasPointers(table) && command.packFrame.stride != Stride::Record) {
-        record::SetSizeWords(table, record.get());
         if (records < whole) return 0;
+        record::SetSizeWords(table, record.get());
     }
 
     const test::Packed packed = test::Pack(command, record.get(), records);

@@ -33,7 +33,8 @@ std::size_t SizeOf(const Command& command, std::uint32_t choice) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     test::FuzzInput input(data, size);
     const Command& command = test::FuzzCommand(input.Take<std::uint32_t>());
-    const std::size_t room = SizeOf(command, input.Take<std::uint32_t>());
+    const auto sizeChoice = input.Take<std::uint32_t>();
+    const std::size_t room = SizeOf(command, sizeChoice);
     const auto flavour = input.Take<std::uint8_t>();
     if (!command.parses()) return 0;
 
@@ -44,7 +45,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const test::FuzzBlock buffer(room, flavour % 8);
     std::memset(buffer.get(), flavour / 8, room);
     test::CallerMemory memory;
-    if (flavour % 2 == 0 || test::HasPointers(*command.table)) memory.PrepareBuffer(command, buffer.get(), room);
+    if (flavour % 2 == 0 || test::HasPointers(*command.table))
+        memory.PrepareBuffer(command, buffer.get(), room);
+    else if (room >= 4) // a size word of any value
+        record::Store(buffer.get(), sizeChoice / 4 % static_cast<std::uint32_t>(room + 2));
 
     std::uint32_t length = 0;
     const Outcome outcome = RunParse(command, {reinterpret_cast<const char*>(text.get()), buffer.get(),
