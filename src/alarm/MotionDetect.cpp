@@ -87,7 +87,7 @@ void WriteWindowGrid(const Field& field, const std::byte* record, WriteCall& cal
     WriteGrid(record + field.offset, rows, Clamped(MEMBER(record, CFG_MOTION_REGION_WINDOW, nCol), kCols), false, call);
 }
 
-constexpr CustomCodec kWindowGrid{ReadWindowGrid, WriteWindowGrid};
+constexpr CustomCodec kWindowGrid{ReadWindowGrid, WriteWindowGrid, "[4194303,5,0]"};
 
 PART(kMotionRegionWindow, CFG_MOTION_REGION_WINDOW, FIELD(nId, "Id", Int), FIELD(szName, "Name", Text),
      FIELD(nThreshold, "Threshold", Int), FIELD(nSensitive, "Sensitive", Int), FIELD(nRow), FIELD(nCol),
@@ -149,7 +149,9 @@ void WriteWindows(const Field&, const std::byte* record, WriteCall& call) {
     call.out.EndArray();
 }
 
-constexpr CustomCodec kWindows{ReadWindows, WriteWindows};
+constexpr CustomCodec kWindows{
+    ReadWindows, WriteWindows,
+    R"([{"Id":1,"Name":"Yard","Region":[7,4194303],"Sensitive":60,"Threshold":5,"Window":[0,0,21,17]}])"};
 
 // ---- The grid of the whole picture ----
 
@@ -176,7 +178,7 @@ void WriteWholeGrid(const Field& field, const std::byte* record, WriteCall& call
     WriteGrid(record + field.offset, rows, Clamped(MEMBER(record, CFG_MOTION_DETECT_INFO, nCol), kCols), true, call);
 }
 
-constexpr CustomCodec kGrid{ReadGrid, WriteWholeGrid};
+constexpr CustomCodec kGrid{ReadGrid, WriteWholeGrid, "[4194303,5,0]"};
 
 // "Row" and "Col" tell the grid's size; without them it is the list's length by 22.
 void FillGridSize(const json::Value& table, std::byte* record, ReadCall&) {

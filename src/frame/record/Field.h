@@ -89,6 +89,9 @@ struct CustomCodec {
     void (*read)(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
     // Writes `call.Key(...)` and a value, or nothing.
     void (*write)(const Field& field, const std::byte* record, WriteCall& call) = nullptr;
+    // A JSON value as devices send it that comes back the same when it is written; null when nothing comes back.
+    // Whoever fills records from tables alone, tests above all, has nothing else to go by.
+    const char* sample = nullptr;
 };
 
 struct Field {
