@@ -66,7 +66,7 @@ const char* KindSentence(Kind kind) {
 std::string NamesLine(const NameTable& names) {
     std::string text;
     for (const Name* row = names.rows; row != names.rows + names.count; ++row)
-        text += (text.empty() ? "" : ", ") + std::to_string(row->code) + " " + Quoted(row->text);
+        text += (text.empty() ? "" : ", ") + std::to_string(row->code) + "=" + Quoted(row->text);
     if (!names.unknownLeaves) text += "; other texts read as " + std::to_string(names.unknownCode);
     if (names.unknownLeaves) text += "; other texts leave the field";
     if (names.outside == NameTable::Outside::Text) text += "; other codes write " + Quoted(names.outsideText);

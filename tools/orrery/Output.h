@@ -24,22 +24,23 @@ class Node {
     // An object that reads as one value, such as a code with its name: never broken, and no obstacle to its parent
     // standing on one line.
     static Node Inline() { return Node(Kind::Inline); }
+    static Node InlineArray() { return Node(Kind::InlineArray); }
 
     Node& Add(Node element);
     Node& Add(std::string_view key, Node member);
 
-    bool isArray() const { return kind_ == Kind::Array; }
+    bool isArray() const { return kind_ == Kind::Array || kind_ == Kind::InlineArray; }
     std::size_t size() const { return children_.size(); }
 
     // Ends in a newline.
     std::string Print() const;
 
   private:
-    enum class Kind : std::uint8_t { Scalar, Array, Object, Inline };
+    enum class Kind : std::uint8_t { Scalar, Array, Object, Inline, InlineArray };
 
     explicit Node(Kind kind) : kind_(kind) {}
 
-    bool IsSimple() const { return kind_ == Kind::Scalar || kind_ == Kind::Inline; }
+    bool IsSimple() const { return kind_ != Kind::Array && kind_ != Kind::Object; }
     bool IsNumber() const;
     bool StandsOnOneLine() const;
     std::size_t Width() const;

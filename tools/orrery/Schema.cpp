@@ -25,7 +25,7 @@ Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
         node.Add("record", Node::Text(field.table->record));
     }
-    Node dims = Node::Array();
+    Node dims = Node::InlineArray();
     for (const std::uint32_t dim : DimsOf(field))
         dims.Add(Node::Unsigned(dim));
     node.Add("offset", Node::Unsigned(field.offset)).Add("dims", std::move(dims));
