@@ -224,11 +224,11 @@ void FillLevel(const Field& field, int level, const Value& value, std::byte* at,
 // Room for what the list, the count and the capacity promise, whichever promises most.
 void FillPointer(const Field& field, const Value& value, std::byte* record, Memory& memory, const std::string& path) {
     if (!value.isArray()) FailType(path, value, "a list");
+    if (value.isNull()) return;
     const std::int64_t given = value.size();
     if (field.capacity.exists() && LoadSlot(field.capacity, record) == 0) StoreSlot(field.capacity, record, given);
     const std::int64_t room = std::max({given, LoadSlot(field.count, record), LoadSlot(field.capacity, record)});
     if (room > kMostPointedTo) Fail(path, "a list of " + std::to_string(room) + " is more than this program makes");
-    if (value.isNull()) return;
     const Table& table = *field.table;
     std::byte* const first = memory.Allocate(static_cast<std::size_t>(std::max<std::int64_t>(room, 1)) * table.size);
     for (std::int64_t i = 0; i < room; ++i)

@@ -19,15 +19,15 @@ struct Result {
 };
 
 struct ParseOptions {
-    std::optional<std::uint32_t> records; // room for so many; else as many as the reply holds
-    std::optional<std::uint32_t> bytes;   // a buffer of exactly so many bytes
+    std::optional<std::uint32_t> records{}; // room for so many; else as many as the reply holds
+    std::optional<std::uint32_t> bytes{};   // a buffer of exactly so many bytes
     bool all = false;
     bool pack = false;
-    std::string_view start; // JSON of the record that the buffer holds before the call
+    std::string_view start{}; // JSON of the record that the buffer holds before the call
 };
 
 struct PackOptions {
-    std::optional<std::uint32_t> capacity; // of the text buffer; else as much as the text takes
+    std::optional<std::uint32_t> capacity{}; // of the text buffer; else as much as the text takes
 };
 
 Result ParseText(std::string_view command, std::string_view text, const ParseOptions& options = {});

@@ -34,7 +34,7 @@ std::size_t Distance(std::string_view left, std::string_view right) {
 std::vector<std::string_view> Nearest(std::string_view wanted, const std::vector<std::string_view>& names) {
     constexpr std::size_t kMost = 3;
     const std::string key = Folded(wanted.substr(0, 256));
-    const std::size_t farthest = std::max<std::size_t>(2, key.size() / 3);
+    const std::size_t farthest = std::max<std::size_t>(2, key.size() * 2 / 5);
     std::vector<std::pair<std::size_t, std::string_view>> near;
     for (const std::string_view name : names) {
         const std::string folded = Folded(name);
