@@ -3,10 +3,12 @@
 
 #include "frame/Commands.h"
 #include "frame/record/Engine.h"
+#include "support/JsonText.h"
 
 #include <cstring>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <random>
 #include <sstream>
 
 namespace orrery::tool {
@@ -61,6 +63,15 @@ TEST(Run, TellsOfMissingTablesThatTheLibraryTakes) {
     EXPECT_EQ(one.err, "orrery: note: the reply has no \"params.table\"; the record holds what absent keys give\n");
 }
 
+TEST(Run, TellsWhatHandWrittenRecordsLack) {
+    const Result result = PackText("StorageNotExist", R"({"stuEventHandler": {"nRecordLatch": 5, "bMailEnable": 1,
+        "abMailEnable": 1, "nTourNum": 1, "abTour": 1, "stuTour": [{"nChannels": [3]}], "stuVideoTitle": []}})");
+    EXPECT_EQ(result.exit, kDone);
+    EXPECT_EQ(result.err, "orrery: note: stuEventHandler.nRecordLatch is given without its flag abRecordLatch\n"
+                          "orrery: note: stuEventHandler.stuTour[0].nChannels is given without its count "
+                          "nChannelCount\n");
+}
+
 // ---- Every command that packs: what parse prints, pack takes ----
 
 // A record in which everything is in use, with numbers small enough for every count and code.
@@ -109,6 +120,57 @@ TEST(Run, WhatParsePrintsPackTakes) {
         ++tried;
     }
     EXPECT_GE(tried, 15U);
+}
+
+// ---- Hostile input ----
+
+bool IsJson(const std::string& text) {
+    return test::Document(text).ok;
+}
+
+// Whatever stands in the text, the answer is a whole document or a reason.
+void ExpectWhole(const Result& result, bool isRecord) {
+    if (result.exit == kDone) {
+        EXPECT_TRUE(IsJson(result.out)) << result.out.substr(0, 200);
+    } else {
+        EXPECT_EQ(result.exit, kRefused);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, StartsWith("orrery: "));
+    }
+    if (isRecord && result.exit == kDone) {
+        EXPECT_EQ(PackText("Alarm", result.out).exit, kDone);
+    }
+    for (const char c : result.err)
+        EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20) << "a control character for the terminal";
+}
+
+TEST(Hostile, DamagedTextsEndInADocumentOrAReason) {
+    const std::string reply = FileText("examples/alarm-reply.json");
+    const std::string record = ParseText("Alarm", reply).out;
+    std::mt19937 random(4711);
+    constexpr std::string_view kBytes = "{}[]\",:-0123456789.eEtfn \x00\x1b\xff\xc3\\/";
+    for (int round = 0; round < 60; ++round) {
+        for (const bool isRecord : {false, true}) {
+            std::string text = isRecord ? record : reply;
+            for (int i = 0; i < 1 + round % 3; ++i)
+                text[random() % text.size()] = kBytes[random() % kBytes.size()];
+            if (round % 4 == 0) text.resize(random() % text.size());
+            if (isRecord)
+                ExpectWhole(PackText("Alarm", text), false);
+            else
+                ExpectWhole(ParseText("Alarm", text), true);
+        }
+    }
+}
+
+TEST(Hostile, DepthIsNoDanger) {
+    const std::string deep(1000000, '[');
+    const std::string closed = deep + std::string(deep.size(), ']');
+    EXPECT_EQ(ParseText("Alarm", deep).exit, kRefused);
+    EXPECT_EQ(PackText("Alarm", closed).exit, kRefused);
+    ExpectWhole(ParseText("Alarm", R"({"result":true,"error":)" + closed + "}"), false);
+    ExpectWhole(ParseText("PwdReset", R"({"params":{"table":)" + closed + "},\"result\":true}"), false);
+    ExpectWhole(PackText("PwdReset", R"({"bEnable":)" + closed + "}"), false);
 }
 
 // ---- Refusals ----

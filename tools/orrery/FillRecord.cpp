@@ -21,8 +21,9 @@ using json::Value;
 
 namespace {
 
-// More than any client has behind one pointer.
+// More than any client has behind its pointers.
 constexpr std::int64_t kMostPointedTo = std::int64_t{1} << 20;
+constexpr std::size_t kMostBytes = std::size_t{1} << 30;
 
 [[noreturn]] void Fail(const std::string& path, const std::string& message) {
     throw FillError((path.empty() ? std::string() : path + ": ") + message);
@@ -274,6 +275,8 @@ void FillFields(const Table& table, const Value& value, std::byte* record, Memor
 } // namespace
 
 std::byte* Memory::Allocate(std::size_t size) {
+    if (size > kMostBytes - used_) throw FillError("the lists behind pointers take more memory than this program uses");
+    used_ += size;
     blocks_.push_back(std::make_unique<std::byte[]>(size)); // cleared, unlike make_unique_for_overwrite
     return blocks_.back().get();
 }
@@ -282,6 +285,31 @@ void FillRecord(const Table& table, const Value& value, std::byte* record, Memor
     std::memset(record, 0, table.size);
     SetSizeWords(table, record);
     FillFields(table, value, record, memory, path);
+}
+
+std::vector<std::string> PassedOver(const Table& table, const Value& value, const std::string& path) {
+    std::vector<std::string> notes;
+    const auto isGiven = [&](const Slot& slot) { return !value[SlotName(table, slot)].isNull(); };
+    for (const Field& field : table) {
+        const Value& given = value[field.name];
+        if (!IsStored(field) || given.isNull()) continue;
+        const std::string place = (path.empty() ? std::string() : path + ".") + field.name;
+        const bool isEmpty = given.type() == Type::Array && given.size() == 0;
+        if (field.count.exists() && !isGiven(field.count) && !isEmpty)
+            notes.push_back(place + " is given without its count " + SlotName(table, field.count));
+        if (field.writable && field.flag.exists() && !isGiven(field.flag) && !isEmpty)
+            notes.push_back(place + " is given without its flag " + SlotName(table, field.flag));
+        if (field.table == nullptr) continue;
+        const auto inside = [&](const Value& record, const std::string& where) {
+            const auto more = PassedOver(*field.table, record, where);
+            notes.insert(notes.end(), more.begin(), more.end());
+        };
+        if (field.rank == 0 && field.cell == Cell::Record) inside(given, place);
+        if (field.rank != 1 && field.cell != Cell::Pointer) continue;
+        for (std::uint32_t i = 0; i < given.size(); ++i)
+            inside(given[i], Element(place, i));
+    }
+    return notes;
 }
 
 void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory& memory) {

@@ -97,6 +97,23 @@ Packed PackRecords(const Command& command, const std::vector<std::byte>& records
 
 // ---- Filling ----
 
+// What a person who wrote the records should know.
+std::string Notes(const Table& table, const json::Value& value) {
+    constexpr std::size_t kMost = 8;
+    const bool isList = value.type() == json::Type::Array;
+    std::vector<std::string> notes;
+    for (std::uint32_t i = 0; i < (isList ? value.size() : 1) && notes.size() <= kMost; ++i) {
+        const auto more =
+            isList ? PassedOver(table, value[i], "[" + std::to_string(i) + "]") : PassedOver(table, value);
+        notes.insert(notes.end(), more.begin(), more.end());
+    }
+    std::string text;
+    for (std::size_t i = 0; i < std::min(notes.size(), kMost); ++i)
+        text += "orrery: note: " + notes[i] + "\n";
+    if (notes.size() > kMost) text += "orrery: note: and more of the kind\n";
+    return text;
+}
+
 // One record of an object, one each of an array's elements.
 std::vector<std::byte> FillAll(const Table& table, const json::Value& value, Memory& memory) {
     const bool isList = value.type() == json::Type::Array;
@@ -278,7 +295,9 @@ Result PackText(std::string_view name, std::string_view json, const PackOptions&
         Memory memory;
         const auto records = FillAll(*command->table, document.root, memory);
         const Packed packed = PackRecords(*command, records, options.capacity);
-        if (packed.outcome == Outcome::Done) return {kDone, packed.text, {}};
+        if (packed.outcome == Outcome::Done) {
+            return {kDone, packed.text, Notes(*command->table, document.root)};
+        }
         return Refuse(ExplainPack(*command, packed.outcome, static_cast<std::uint32_t>(records.size()), packed.capacity,
                                   packed.needed));
     } catch (const FillError& error) {

@@ -17,15 +17,6 @@ std::string Call(const char* word, const std::string& argument) {
     return std::string(word) + "(" + argument + ")";
 }
 
-// The name of the member that a slot is.
-std::string NameOf(const Table& table, const Slot& slot) {
-    for (const Field& field : table) {
-        if (IsStored(field) && field.rank == 0 && field.offset == slot.offset && field.cell == slot.cell)
-            return field.name;
-    }
-    return "offset " + std::to_string(slot.offset);
-}
-
 constexpr const char* kOnlyWords[] = {"Any", "String", "Bool", "Integer"};
 constexpr const char* kNullsWords[] = {"Count", "LeaveHole", "CloseUp", "Stop"};
 constexpr const char* kSkippedWords[] = {"StaysNull", "Hole", "ClosesUp"};
@@ -33,6 +24,14 @@ constexpr const char* kEmptyWords[] = {"NoKey", "Array", "Null"};
 constexpr const char* kStrideWords[] = {"Record", "SizeWord", "SizeWordByField"};
 
 } // namespace
+
+std::string SlotName(const Table& table, const Slot& slot) {
+    for (const Field& field : table) {
+        if (IsStored(field) && field.rank == 0 && field.offset == slot.offset && field.cell == slot.cell)
+            return field.name;
+    }
+    return "offset " + std::to_string(slot.offset);
+}
 
 const char* TypeWord(Cell cell) {
     return Word(cell, {"i8", "u8", "i16", "u16", "i32", "u32", "i64", "u64", "f32", "f64", "char", "ptr", "record"});
@@ -77,7 +76,7 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
         if (holds) words.push_back(word);
     };
     const auto slot = [&](const char* word, const Slot& where) {
-        if (where.exists()) words.push_back(Call(word, NameOf(table, where)));
+        if (where.exists()) words.push_back(Call(word, SlotName(table, where)));
     };
     add(field.writtenAs != field.kind, Call("WrittenAs", KindWord(field.writtenAs)));
     add(field.always, "Always");
@@ -132,14 +131,14 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.only == OnlyType::Bool, "read from true and false only");
     add(field.only == OnlyType::Integer, "read from whole numbers only");
     if (field.flag.exists()) {
-        const std::string flag = NameOf(table, field.flag);
+        const std::string flag = SlotName(table, field.flag);
         rules.push_back("sets " + flag + " when read; written only when " + flag + " is set");
     }
     if (field.count.exists()) {
-        rules.push_back("elements in use: " + NameOf(table, field.count)
+        rules.push_back("elements in use: " + SlotName(table, field.count)
                         + (field.countUncapped ? ", which may exceed the room" : ""));
     }
-    add(field.capacity.exists(), "room behind the pointer: " + NameOf(table, field.capacity));
+    add(field.capacity.exists(), "room behind the pointer: " + SlotName(table, field.capacity));
     add(field.zeroed, "each element is cleared before it is read");
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
@@ -151,7 +150,7 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.hasUnless, "not written at " + std::to_string(field.unless));
     add(field.notNegative, "not written when negative");
     add(field.atMost != INT32_MAX, "written as " + std::to_string(field.atMost) + " when larger");
-    add(field.condition.exists(), "written only when " + NameOf(table, field.condition) + " is set");
+    add(field.condition.exists(), "written only when " + SlotName(table, field.condition) + " is set");
     add(field.when != nullptr, "written only when a function of the record says so");
     add(field.empty == Empty::Array, "written as [ ] when empty");
     add(field.empty == Empty::Null, "written as null when empty");

@@ -17,6 +17,9 @@ std::vector<std::uint32_t> DimsOf(const record::Field& field);
 // "i32", "char[64]", "CFG_POINT[8][2]", "CFG_ITEM*".
 std::string TypeOf(const record::Field& field);
 
+// The name of the member that a slot is.
+std::string SlotName(const record::Table& table, const record::Slot& slot);
+
 // A row that stores something: rows without storage and second keys of a field are none.
 inline bool IsStored(const record::Field& field) {
     return field.size > 0 && !field.alias;
