@@ -217,8 +217,12 @@ std::string ExplainParse(const Command& command, Outcome outcome, const Document
     case Outcome::BadArguments:
         return "no buffer, or one of 0 bytes: " + name + " needs " + recordSize + " bytes";
     case Outcome::UnknownCommand:
-        return name + " reads no reply";
+        return name + " reads no reply: it can only be packed";
     case Outcome::BufferTooSmall:
+        if (command.parse == Command::Frame::Family && command.parseFrame.exactSize) {
+            return "the buffer of " + name + " must have exactly " + recordSize + " bytes, it has "
+                   + std::to_string(bufferSize);
+        }
         return "the buffer is too small: one record of " + name + " needs " + recordSize + " bytes, it has "
                + std::to_string(bufferSize);
     case Outcome::NotAccepted:
@@ -255,6 +259,9 @@ std::string ExplainPack(const Command& command, Outcome outcome, std::uint32_t r
     case Outcome::UnknownCommand:
         return name + " has no text of its own: it is a reply that can only be parsed";
     case Outcome::RecordTooSmall:
+        if (command.pack == Command::Frame::Family && command.packFrame.exactSize) {
+            return name + " takes exactly one record of " + one + " bytes, there are " + std::to_string(recordSize);
+        }
         return "the record is too small: one record of " + name + " has " + one + " bytes, there are "
                + std::to_string(recordSize);
     case Outcome::NotAccepted:

@@ -167,7 +167,8 @@ class Parse {
 
 std::uint64_t Parse::FirstSize(const Reply& reply) const {
     if (options_.bytes) return *options_.bytes;
-    const std::uint64_t records = options_.records ? *options_.records : std::max(reply.records, 1U);
+    const bool isExact = command_.parse == Command::Frame::Family && command_.parseFrame.exactSize;
+    const std::uint64_t records = options_.records ? *options_.records : isExact ? 1 : std::max(reply.records, 1U);
     return records * table_.size;
 }
 
@@ -180,7 +181,8 @@ void Parse::Call(std::size_t size) {
         const Document start(options_.start);
         if (!start.ok) throw FillError("--start: " + ExplainSyntax(start));
         const auto filled = FillAll(table_, start.root, memory_);
-        std::memcpy(buffer_.bytes.data(), filled.data(), std::min(filled.size(), records * table_.size));
+        if (filled.size() > size) throw FillError("--start: more records than the buffer holds; see --records");
+        if (!filled.empty()) std::memcpy(buffer_.bytes.data(), filled.data(), filled.size());
     } else {
         const std::uint32_t room = HasPointers(table_) ? LongestList(document_.root) : 0;
         for (std::size_t i = 0; i < records; ++i) {
@@ -270,13 +272,11 @@ Result Parse::Run() {
 
 } // namespace
 
-Result ParseText(std::string_view name, std::string_view text, const ParseOptions& options) {
-    const Command* const command = FindCommand(name);
-    if (command == nullptr) return Refuse(UnknownCommand(name));
-    if (!command->parses()) return Refuse(std::string(command->name) + " reads no reply: it can only be packed");
-    if (command->table == nullptr) return Refuse(std::string(command->name) + " has no record of fixed layout");
+Result ParseText(const Command& command, std::string_view text, const ParseOptions& options) {
+    if (!command.parses()) return Refuse(ExplainParse(command, Outcome::UnknownCommand, Document({}), 0));
+    if (command.table == nullptr) return Refuse(std::string(command.name) + " has no record of fixed layout");
     try {
-        return Parse(*command, text, options).Run();
+        return Parse(command, text, options).Run();
     } catch (const FillError& error) {
         return Refuse(error.what());
     } catch (const std::bad_alloc&) {
@@ -284,27 +284,33 @@ Result ParseText(std::string_view name, std::string_view text, const ParseOption
     }
 }
 
-Result PackText(std::string_view name, std::string_view json, const PackOptions& options) {
-    const Command* const command = FindCommand(name);
-    if (command == nullptr) return Refuse(UnknownCommand(name));
-    if (!command->packs()) return Refuse(ExplainPack(*command, Outcome::UnknownCommand, 0, 0, 0));
-    if (command->table == nullptr) return Refuse(std::string(command->name) + " has no record of fixed layout");
+Result PackText(const Command& command, std::string_view json, const PackOptions& options) {
+    if (!command.packs()) return Refuse(ExplainPack(command, Outcome::UnknownCommand, 0, 0, 0));
+    if (command.table == nullptr) return Refuse(std::string(command.name) + " has no record of fixed layout");
     try {
         const Document document(json);
         if (!document.ok) return Refuse(ExplainSyntax(document));
         Memory memory;
-        const auto records = FillAll(*command->table, document.root, memory);
-        const Packed packed = PackRecords(*command, records, options.capacity);
-        if (packed.outcome == Outcome::Done) {
-            return {kDone, packed.text, Notes(*command->table, document.root)};
-        }
-        return Refuse(ExplainPack(*command, packed.outcome, static_cast<std::uint32_t>(records.size()), packed.capacity,
+        const auto records = FillAll(*command.table, document.root, memory);
+        const Packed packed = PackRecords(command, records, options.capacity);
+        if (packed.outcome == Outcome::Done) return {kDone, packed.text, Notes(*command.table, document.root)};
+        return Refuse(ExplainPack(command, packed.outcome, static_cast<std::uint32_t>(records.size()), packed.capacity,
                                   packed.needed));
     } catch (const FillError& error) {
         return Refuse(error.what());
     } catch (const std::bad_alloc&) {
         return Refuse("out of memory");
     }
+}
+
+Result ParseText(std::string_view name, std::string_view text, const ParseOptions& options) {
+    const Command* const command = FindCommand(name);
+    return command != nullptr ? ParseText(*command, text, options) : Refuse(UnknownCommand(name));
+}
+
+Result PackText(std::string_view name, std::string_view json, const PackOptions& options) {
+    const Command* const command = FindCommand(name);
+    return command != nullptr ? PackText(*command, json, options) : Refuse(UnknownCommand(name));
 }
 
 } // namespace orrery::tool

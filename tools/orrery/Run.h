@@ -1,6 +1,8 @@
 // The two translations as the companion runs them: everything is done before anything is printed.
 #pragma once
 
+#include "frame/Commands.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -30,6 +32,9 @@ struct PackOptions {
     std::optional<std::uint32_t> capacity{}; // of the text buffer; else as much as the text takes
 };
 
+Result ParseText(const Command& command, std::string_view text, const ParseOptions& options = {});
+Result PackText(const Command& command, std::string_view json, const PackOptions& options = {});
+// By the command's name.
 Result ParseText(std::string_view command, std::string_view text, const ParseOptions& options = {});
 Result PackText(std::string_view command, std::string_view json, const PackOptions& options = {});
 
