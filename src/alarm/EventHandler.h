@@ -171,6 +171,7 @@ struct EventHandlerRows {
         FIELD(bAccessControlEn, "AccessControlEnable", Bool).Flag(AT(abAccessControlEn)),
         FIELD(nAccessControlNum),
         FIELD(emAccessControl, "AccessControls", Custom(kDoorActionList))
+            .Coded(kDoorActions)
             .Flag(AT(abAccessControl))
             .Count(AT(nAccessControlNum)),
         FIELD(abTalkback, "Talkback", Presence),

@@ -91,7 +91,7 @@ constexpr CustomCodec kWindowGrid{ReadWindowGrid, WriteWindowGrid, "[4194303,5,0
 
 PART(kMotionRegionWindow, CFG_MOTION_REGION_WINDOW, FIELD(nId, "Id", Int), FIELD(szName, "Name", Text),
      FIELD(nThreshold, "Threshold", Int), FIELD(nSensitive, "Sensitive", Int), FIELD(nRow), FIELD(nCol),
-     FIELD(byRegion, "Region", Custom(kWindowGrid)));
+     FIELD(byRegion, "Region", Custom(kWindowGrid)).Count(AT(nRow)));
 
 constexpr std::size_t kWindowsAt = offsetof(CFG_MOTION_DETECT_INFO, stuWindow);
 constexpr std::size_t kRegionWindowsAt = offsetof(CFG_MOTION_DETECT_INFO, stuRegionWindow);
@@ -207,12 +207,13 @@ TABLE(kMotionDetect, CFG_MOTION_DETECT_INFO, MakeVirtual("DetectVersion", Custom
       FIELD(bEnable, "Enable", Bool), FIELD(nLevel, "Level", Int).Flag(AT(abLevel)).When(IsWholePicture),
       FIELD(nRow, "Row", Int).AtMost(ORRERY_MOTION_ROWS).When(IsWholePicture),
       FIELD(nCol, "Col", Int).AtMost(ORRERY_MOTION_COLS).When(IsWholePicture),
-      FIELD(byRegion, "Region", Custom(kGrid)).When(IsWholePicture),
+      FIELD(byRegion, "Region", Custom(kGrid)).Count(AT(nRow)).When(IsWholePicture),
       FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)), FIELD(bRead), FIELD(abLevel),
       FIELD(abVolumeRatio), FIELD(nVolumeRatio, "VolumeRatio", Int).Flag(AT(abVolumeRatio)), FIELD(abSubRatio),
       FIELD(nSubRatio, "SubRatio", Int).Flag(AT(abSubRatio)), FIELD(abWindow), FIELD(nWindowNum),
-      FIELD(stuWindow, nullptr, Record(kMotionWindow)), FIELD(abRegionWindow), FIELD(nRegionWindowNum),
-      FIELD(stuRegionWindow, nullptr, Record(kMotionRegionWindow)), MakeVirtual("MotionDetectWindow", Custom(kWindows)))
+      FIELD(stuWindow, nullptr, Record(kMotionWindow)).Count(AT(nWindowNum)), FIELD(abRegionWindow),
+      FIELD(nRegionWindowNum), FIELD(stuRegionWindow, nullptr, Record(kMotionRegionWindow)).Count(AT(nRegionWindowNum)),
+      MakeVirtual("MotionDetectWindow", Custom(kWindows)))
     .AfterRead(FillGridSize);
 
 } // namespace orrery

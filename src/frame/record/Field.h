@@ -273,6 +273,12 @@ struct Field {
         f.skipped = rule;
         return f;
     }
+    // The codes that a row's own functions deal in, so that tools can show their names.
+    constexpr Field Coded(const NameTable& codes) const {
+        auto f = *this;
+        f.names = &codes;
+        return f;
+    }
     // A second key of a field that has a row of its own.
     constexpr Field Alias() const {
         auto f = *this;
