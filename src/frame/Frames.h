@@ -50,6 +50,11 @@ enum class Take : std::uint8_t {
     ByMemberOrNone // the same; other types have no members
 };
 
+// Whether a reply fills one record, whatever its value looks like (but for a list of lists).
+constexpr bool TakesOneRecord(Take take) {
+    return take == Take::One || take == Take::List || take == Take::ListOrNone || take == Take::ListOrLists;
+}
+
 // What a null or absent value does.
 enum class OnNull : std::uint8_t {
     Fails,
@@ -101,6 +106,8 @@ struct ParseFrame {
     Take (*takesBy)(const json::Value& root) = nullptr;
     // Tells the reply's length after one record has been read, where it is none of the usual ones.
     std::uint32_t (*lengthBy)(const std::byte* record) = nullptr;
+
+    bool operator==(const ParseFrame&) const = default;
 
     constexpr ParseFrame From(Source where, const char* member = "") const {
         auto f = *this;
@@ -214,6 +221,8 @@ struct PackFrame {
     // Chooses the form, where something else than the size settles it.
     Form (*formBy)(const std::byte* first, std::uint32_t count) = nullptr;
 
+    bool operator==(const PackFrame&) const = default;
+
     constexpr PackFrame As(Form what) const {
         auto f = *this;
         f.form = what;
@@ -263,6 +272,8 @@ struct TableFrame {
     std::uint8_t dimension = 0; // array levels that one record itself has
     bool zeroBuffer = false;    // parse: the whole buffer is cleared first
     bool alwaysArray = false;   // pack: an array also for one record
+
+    bool operator==(const TableFrame&) const = default;
 };
 
 // Why a call answered 0. The exports keep it to themselves; tools tell their user.
