@@ -272,6 +272,8 @@ consteval auto BuildTree() {
         if (rows[i].key == nullptr || rows[i].key[0] != '\0') continue;
         Node& node = tree.Add("");
         node.row = static_cast<std::uint16_t>(i);
+        node.readPlainly = ReadPlainly(rows[i]);
+        node.writePlainly = WritePlainly(rows[i]);
         node.needsAbsent = true;
         ++tree.self.count;
     }
