@@ -288,7 +288,8 @@ enum class Outcome : std::uint8_t {
     Refused, // "result"
     NoValue,
     WrongShape,
-    RowRefused, // a row's function ended the call
+    TooManyRecords, // of a command that takes all of them or none
+    RowRefused,     // a row's function ended the call
     TextTooLong,
     OutOfMemory,
 };

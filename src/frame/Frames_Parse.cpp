@@ -227,7 +227,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     if (holds == Holds::WrongShape) return Outcome::WrongShape;
     if (holds == Holds::NoList) return Outcome::Done;
     if (frame.allMustFit && holds == Holds::Elements && value.size() > request.bufferSize / stride) {
-        return Outcome::BufferTooSmall;
+        return Outcome::TooManyRecords;
     }
 
     Records records(table, frame, request, stride, call);

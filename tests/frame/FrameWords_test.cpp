@@ -79,7 +79,7 @@ TEST(FrameWords, AllMustFitRefusesBeforeAnythingIsRead) {
     const ParseFrame frame = kKept.Takes(Take::Many).AllMustFit();
     EXPECT_EQ(Call(frame, Reply(R"([{"Value":1},{"Value":2},{"Value":3}])")).records[2].nValue, 3);
     const Call call(frame, Reply(R"([{"Value":1},{},{},{}])"));
-    EXPECT_EQ(call.outcome, Outcome::BufferTooSmall);
+    EXPECT_EQ(call.outcome, Outcome::TooManyRecords);
     EXPECT_EQ(call.records[0].nValue, kHeld);
     EXPECT_EQ(call.length, kNoLength);
 }

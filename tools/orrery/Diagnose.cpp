@@ -243,6 +243,10 @@ std::string ExplainParse(const Command& command, Outcome outcome, const Document
         const Take take = frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take;
         return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes " + Wanted(take);
     }
+    case Outcome::TooManyRecords:
+        return name + " takes all records of the reply or none: it has "
+               + std::to_string(LookAt(command, document.root).records) + ", the buffer room for "
+               + std::to_string(bufferSize / std::max(command.table->size, 1U));
     case Outcome::RowRefused:
         return "a value of the reply cannot stand in the record of " + name;
     case Outcome::OutOfMemory:
