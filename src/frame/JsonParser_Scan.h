@@ -3,7 +3,10 @@
 // passed over, signs are taken, a width counts the sign but not the blanks, what was read before a mismatch stays.
 #pragma once
 
+#include <array>
+#include <bit>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -90,15 +93,44 @@ inline bool HasShape(const char* text, const char (&pattern)[20]) noexcept {
     return (bad & 0x8080808080808080u) == 0;
 }
 
+// The three numbers of "08:30:00" at eight bytes, two digits each; `bad` gains a bit in some byte's highest place when
+// the text is of another shape.
+struct ClockNumbers {
+    std::int32_t hour, minute, second;
+};
+inline ClockNumbers ReadClock(const char* text, std::uint64_t& bad) noexcept {
+    // Bytes from the lowest up: what is left of a digit is its value, of a colon nothing.
+    constexpr std::uint64_t kShape = 0x30303A30303A3030u;
+    constexpr std::uint64_t kSlack = 0x76767F76767F7676u; // carries a digit beyond 9, or anything of a colon, upward
+    std::uint64_t word;
+    std::memcpy(&word, text, sizeof word);
+    if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
+    word ^= kShape;
+    bad |= word | (word + kSlack);
+    const std::uint64_t pairs = word * 10 + (word >> 8);
+    return {static_cast<std::int32_t>(pairs & 0xFF), static_cast<std::int32_t>(pairs >> 24 & 0xFF),
+            static_cast<std::int32_t>(pairs >> 48 & 0xFF)};
+}
+constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+
 inline std::int32_t TwoDigits(const char* text) noexcept {
     return (text[0] - '0') * 10 + (text[1] - '0');
 }
 
+// "00" to "99", one after the other.
+inline constexpr std::array<char, 200> kPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char>('0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return pairs;
+}();
+
 // "%0<width>d" for widths up to 4, "%d" for 0: the width counts a minus sign, and zeros go behind it.
 inline char* Print(char* out, std::int32_t number, unsigned width) noexcept {
     if (width == 2 && static_cast<std::uint32_t>(number) < 100) {
-        out[0] = static_cast<char>('0' + number / 10);
-        out[1] = static_cast<char>('0' + number % 10);
+        std::memcpy(out, &kPairs[2 * static_cast<std::size_t>(number)], 2);
         return out + 2;
     }
     char digits[12];
