@@ -181,7 +181,7 @@ class Maker {
     // Of any size that the field holds.
     std::int64_t TypicalNumber(const Field& field) {
         // A bound is the size of something else in the record, which shows whole only at the bound.
-        if (field.atMost != INT64_MAX) return field.atMost;
+        if (field.atMost != Field::kNoLimit) return field.atMost;
         std::int64_t most = INT32_MAX;
         switch (field.cell) {
         case record::Cell::I8:

@@ -96,6 +96,7 @@ struct CustomCodec {
 
 struct Field {
     static constexpr int kMaxRank = 3;
+    static constexpr std::int64_t kNoLimit = INT64_MAX;
 
     const char* name = "";
     // Member names from the table's object down, separated by '/'; null: not in the text; "": the value itself.
@@ -137,8 +138,8 @@ struct Field {
     bool hasUnless = false;
     std::int32_t unless = 0; // the key is left out at this value
     bool notNegative = false;
-    std::int64_t atMost = INT64_MAX; // a larger number is written as this one
-    Slot condition;                  // the key is written only when this member is set
+    std::int64_t atMost = kNoLimit; // a larger number is written as this one
+    Slot condition;                 // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;

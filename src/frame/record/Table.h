@@ -163,7 +163,7 @@ constexpr Plainly ReadPlainly(const Field& row) {
 }
 constexpr Plainly WritePlainly(const Field& row) {
     const bool ruled = !row.writable || row.trueAtOne || row.hasUnless || row.notNegative || row.when != nullptr
-                       || row.condition.exists() || row.atMost != INT32_MAX || row.kind == Kind::Custom;
+                       || row.condition.exists() || row.atMost != Field::kNoLimit || row.kind == Kind::Custom;
     return ruled ? Plainly::No : PlainKind(row, row.writtenAs);
 }
 

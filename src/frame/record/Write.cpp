@@ -182,7 +182,7 @@ std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
 }
 
 bool IsPlainNumber(const Field& field) noexcept {
-    return field.writtenAs == Kind::Int && field.cell == Cell::I32;
+    return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
 }
 
 // The elements of a list with a count of its own, or behind a pointer.
