@@ -10,7 +10,10 @@
 #include "orrery/alarm_input.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
+#include "orrery/network.h"
+#include "orrery/network_services.h"
 #include "orrery/types.h"
+#include "orrery/wlan.h"
 
 #ifdef __cplusplus
 extern "C" {
