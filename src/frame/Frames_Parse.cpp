@@ -183,8 +183,11 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;
     if (frame.needsText && request.text[0] == '\0') return Outcome::NoJson;
     if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
-    if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
-    if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
+    const auto clear = [&] {
+        if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+        if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
+    };
+    clear();
 
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
@@ -224,7 +227,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     Records records(table, frame, whole, stride, call);
     ReadAll(holds, value, records);
     if (document.arena.failed()) {
-        if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+        clear();
         return Outcome::OutOfMemory;
     }
     if (isShort) std::memcpy(buffer, whole.buffer, request.bufferSize);

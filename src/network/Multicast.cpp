@@ -85,7 +85,9 @@ void WriteStream(const Field& field, const std::byte* record, WriteCall& call) {
     call.out.EndArray();
 }
 
-constexpr CustomCodec kStream{ReadStream, WriteStream};
+constexpr CustomCodec kStream{
+    ReadStream, WriteStream,
+    R"([{"Channel":3,"Enable":true,"LocalAddr":"10.1.1.1","MulticastAddr":"224.1.1.3","Port":33,"StreamType":"Extra2"}])"};
 
 } // namespace
 
