@@ -104,8 +104,9 @@ struct Field {
     std::uint32_t size = 0;        // of the whole member; 0 for a row that stores nothing
     std::uint32_t elementSize = 0; // of one element; a text's is its capacity
     std::uint32_t dims[kMaxRank] = {};
-    std::uint8_t rank = 0;    // array levels of the member, a text's own characters not among them
-    bool wholeMember = false; // the codec takes all of them at once
+    std::uint8_t alignment = 1; // of the member
+    std::uint8_t rank = 0;      // array levels of the member, a text's own characters not among them
+    bool wholeMember = false;   // the codec takes all of them at once
     Cell cell = Cell::I32;
     Kind kind = Kind::None;
     Kind writtenAs = Kind::None;
@@ -430,6 +431,7 @@ constexpr Field MakePlace(const char* name, std::size_t offset) {
     field.name = name;
     field.offset = static_cast<std::uint32_t>(offset);
     field.size = sizeof(T);
+    field.alignment = alignof(T);
     using Innermost = std::remove_all_extents_t<T>;
     constexpr bool isText = std::is_same_v<Innermost, char>;
     field.cell = CellOf<Innermost>();
