@@ -104,7 +104,7 @@ Outcome ParseMulticast(const ParseRequest& request) noexcept {
     config.nRequestType = CReqConfig::kTableReply;
     config.pPayload = request.buffer;
     config.pTable = &kMulticast;
-    if (config.deserialize(request.text, 0) == 0) return Outcome::NoJson;
+    if (config.deserialize(request.text, 0) == 0) return config.outOfMemory() ? Outcome::OutOfMemory : Outcome::NoJson;
     const bool hasResult = config.getError() == 0;
     if (hasResult && !config.hasRead()) return Outcome::NoValue;
     if (request.returnedLength != nullptr) *request.returnedLength = sizeof(CFG_MULTICAST_INFO);

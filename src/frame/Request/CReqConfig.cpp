@@ -109,11 +109,14 @@ const char* CReqConfig::serialize(std::size_t& length) noexcept {
 }
 
 std::int32_t CReqConfig::deserialize(const char* text, std::size_t) noexcept {
-    hasRead_ = false;
+    hasRead_ = outOfMemory_ = false;
     if (text == nullptr) return 0;
     StackArena<std::size_t{16} << 10> arena;
     Value root;
-    if (!json::Parse(std::string_view(text), arena, root)) return 0;
+    if (!json::Parse(std::string_view(text), arena, root)) {
+        outOfMemory_ = arena.failed();
+        return 0;
+    }
     const Value& result = root["result"];
     if (result.isNull()) return 1;
     nError = 0;
@@ -140,7 +143,8 @@ std::int32_t CReqConfig::deserialize(const char* text, std::size_t) noexcept {
     default:
         break;
     }
-    return arena.failed() ? 0 : 1; // a text that could not be converted
+    outOfMemory_ = arena.failed(); // a text that could not be converted
+    return outOfMemory_ ? 0 : 1;
 }
 
 } // namespace orrery

@@ -49,12 +49,15 @@ class CReqConfig final : public CRequest {
 
     // True when the last answer held what its payload is filled from: options, names or a table.
     bool hasRead() const noexcept { return hasRead_; }
+    // True when the last answer was given up for want of memory.
+    bool outOfMemory() const noexcept { return outOfMemory_; }
 
     void* pPayload = nullptr;
     const record::Table* pTable = nullptr; // how a table's record is read; what it holds and lacks stays
 
   private:
     bool hasRead_ = false;
+    bool outOfMemory_ = false;
 };
 
 } // namespace orrery
