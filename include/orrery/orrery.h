@@ -11,7 +11,10 @@
 #include "orrery/encode.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
+#include "orrery/network.h"
+#include "orrery/network_services.h"
 #include "orrery/types.h"
+#include "orrery/wlan.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -25,9 +28,10 @@ extern "C" {
  *                 What follows the first complete JSON value is ignored.
  * buffer          Takes the record. Need not be aligned. Must not be null. Unless the command's record says otherwise,
  *                 all of it is cleared first and stays so on failure, and what the text leaves out is zero.
- * bufferSize      Bytes at `buffer`, at least one record. Records that do not fit whole are left out.
- * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule" and "PwdReset" add to
- *                 what it holds: set it to 0 first.
+ * bufferSize      Bytes at `buffer`, at least one record, but for "Network". Records that do not fit whole are left
+ *                 out.
+ * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan" and
+ *                 "Https" add to what it holds: set it to 0 first. They take a missing table as nothing to read.
  *
  * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8 and
  * the C locale they are the device's bytes. A text that is too long is cut, in the middle of a character if need be.

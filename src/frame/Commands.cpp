@@ -7,6 +7,11 @@
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
+#include "network/Dvrip.h"
+#include "network/Multicast.h"
+#include "network/Network.h"
+#include "network/Services.h"
+#include "network/Wlan.h"
 
 #include <array>
 
@@ -46,7 +51,16 @@ constexpr Command Reply(std::string_view name, const record::Table& table, Parse
     return command;
 }
 
-// Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
+// A parse function of its own; the frame's words tell tools what it does.
+constexpr Command OwnParse(std::string_view name, const record::Table& table,
+                           Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
+    Command command = Both(name, table, like, pack);
+    command.parse = Command::Frame::Own;
+    command.ownParse = parse;
+    return command;
+}
+
+// Commands of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
 constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
 constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
 
@@ -113,6 +127,19 @@ constexpr Command kCommands[] = {
          kPack.As(Form::BareIfExact)),
     Both("StroboscopicLamp", kStroboscopicLamp, kParse.Null(OnNull::LengthUntouched).LengthBy(StroboscopicLampLength),
          kPack.Fits(Capacity::Raw)),
+
+    // Network
+    Both("Network", kNetwork, kParse.Null(OnNull::OneRecord).AnySize().NeedsText(), kPack),
+    Both("RTSP", kRtsp, kUntested, kLoose),
+    OwnParse("Multicast", kMulticast, ParseMulticast, kUntested.Clears(Clearing::Kept), kLoose),
+    Both("DVRIP", kDvrip, kParse, kPack),
+    Both("Mobile", kMobile, kParse, kPack),
+    Both("Email", kEmail, kParse, kPack),
+    Both("STP", kStp, kParse, kPack),
+    Both("AIOAppConfig", kAioApp, kParse, kPack),
+    Reply("LowRateWPAN.getCaps", kLowRateWpanCaps, kCaps),
+    Generic("WLan", kWlan, kOneCleared),
+    Generic("Https", kHttps, kOneCleared),
 };
 
 // ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----

@@ -98,6 +98,8 @@ struct ParseFrame {
     bool readsNulls = false;
     bool rootKeysFirst = false;
     bool allMustFit = false;
+    bool anySize = false;   // a buffer below one record takes as much of the record as it holds
+    bool needsText = false; // an empty text fails before anything is cleared
     // Tests the caller's own input before anything else; false fails the call with nothing touched.
     bool (*accepts)(const std::byte* buffer, std::uint32_t size) = nullptr;
     // Runs once the text has parsed, before "result" is looked at.
@@ -177,6 +179,16 @@ struct ParseFrame {
         auto f = *this;
         f.length = ReplyLength::Told;
         f.lengthBy = function;
+        return f;
+    }
+    constexpr ParseFrame AnySize() const {
+        auto f = *this;
+        f.anySize = true;
+        return f;
+    }
+    constexpr ParseFrame NeedsText() const {
+        auto f = *this;
+        f.needsText = true;
         return f;
     }
     constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {

@@ -189,7 +189,9 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         stride = record::Load<std::uint32_t>(buffer);
         if (stride == 0 || stride > request.bufferSize) return Outcome::BufferTooSmall;
     }
-    if (frame.exactSize ? request.bufferSize != stride : request.bufferSize < stride) return Outcome::BufferTooSmall;
+    const bool isShort = request.bufferSize < stride;
+    if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;
+    if (frame.needsText && request.text[0] == '\0') return Outcome::NoJson;
     if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
     const auto clear = [&] {
         if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
@@ -230,12 +232,20 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         return Outcome::TooManyRecords;
     }
 
-    Records records(table, frame, request, stride, call);
+    ParseRequest whole = request;
+    if (isShort) { // of a record of the call's own the caller takes what the buffer holds
+        whole.bufferSize = stride;
+        whole.buffer = document.arena.Array<std::byte>(stride);
+        if (whole.buffer == nullptr) return Outcome::OutOfMemory;
+        std::memset(whole.buffer, 0, stride);
+    }
+    Records records(table, frame, whole, stride, call);
     ReadAll(holds, value, frame.readsNulls, records);
     if (document.arena.failed()) {
         clear();
         return Outcome::OutOfMemory;
     }
+    if (isShort) std::memcpy(buffer, whole.buffer, request.bufferSize);
     switch (frame.length) {
     case ReplyLength::OneRecord:
         setLength(stride);

@@ -37,7 +37,9 @@ class Maker {
         for (const int turn : {0, 1, 2}) {
             for (const Field& field : table) {
                 if (field.key == nullptr || field.fromRoot || !field.readable || TurnOf(field) != turn) continue;
-                if (field.key[0] == '\0') {
+                if (field.amongKeys) {
+                    AddElements(value, field);
+                } else if (field.key[0] == '\0') {
                     if (value.isEmpty()) value = Member(field);
                 } else {
                     Put(value, field);
@@ -102,9 +104,17 @@ class Maker {
         if (options_.values != Values::Typical) count = Next() % 3 == 0 ? room + 2 : Next() % (count + 1);
         if (!field.keyed) return List(count, [&] { return innermost ? One(field) : Level(field, level + 1); });
         JsonTree object = JsonTree::Object();
+        AddElements(object, field, count);
+        return object;
+    }
+
+    void AddElements(JsonTree& object, const Field& field, std::uint32_t count) {
+        if (object.kind() != JsonTree::Kind::Object) return;
         for (std::uint32_t i = 0; i < count; ++i)
             object.Add("Item" + std::to_string(i), One(field));
-        return object;
+    }
+    void AddElements(JsonTree& object, const Field& field) {
+        AddElements(object, field, std::min(field.dims[0], options_.most));
     }
 
     template <class Make>

@@ -91,7 +91,9 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     slot("Capacity", field.capacity);
     add(field.anyShape, "AnyShape");
     add(field.exactly, "Exactly");
-    add(field.keyed, "Keyed");
+    add(field.keyed && !field.amongKeys, "Keyed");
+    add(field.amongKeys, "AmongKeys");
+    add(field.untilEmpty, "UntilEmpty");
     add(field.zeroed, "Zeroed");
     add(field.nulls != Nulls::Count, Call("OnNull", Word(field.nulls, kNullsWords)));
     add(field.trueAtOne, "TrueAtOne");
@@ -144,7 +146,9 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.zeroed, "each element is cleared before it is read");
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
-    add(field.keyed, "an object in the text, one member an element");
+    add(field.keyed && !field.amongKeys, "an object in the text, one member an element");
+    add(field.amongKeys, "each a member of the object beside its keys");
+    add(field.untilEmpty, "written up to the first empty one");
     add(field.nulls == Nulls::LeaveHole, "a null element keeps its place and does not count");
     add(field.nulls == Nulls::CloseUp, "null elements are passed over");
     add(field.nulls == Nulls::Stop, "a null element ends the list");
@@ -204,6 +208,8 @@ std::string ParseWords(const Command& command) {
     words += " " + Call("Length", Word(frame.length, {"OneRecord", "PerRecord", "OneOfList", "Told", "None"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.exactSize) words += " ExactSize";
+    if (frame.anySize) words += " AnySize";
+    if (frame.needsText) words += " NeedsText";
     if (frame.accepts != nullptr) words += " Accepts(function)";
     if (frame.readsNulls) words += " ReadsNulls";
     if (frame.rootKeysFirst) words += " RootKeysFirst";

@@ -46,6 +46,11 @@ struct WriteCall {
         if (!object->opened) Open(*object);
         out.RawKey(quoted);
     }
+    // Opens a member whose name is known only now.
+    void Member(std::string_view name) noexcept {
+        if (!object->opened) Open(*object);
+        out.Key(name);
+    }
 
   private:
     void Open(OpenObject& closed) noexcept;

@@ -126,10 +126,11 @@ struct Field {
     Slot count; // elements in use
     Slot capacity;
     bool countUncapped = false;
-    bool anyShape = false; // a list is read also when the value is no array
-    bool exactly = false;  // a list is read only when it has as many elements as the member
-    bool keyed = false;    // a list stands as an object whose members are the elements
-    bool zeroed = false;   // elements of a caller's array are cleared before they are read
+    bool anyShape = false;  // a list is read also when the value is no array
+    bool exactly = false;   // a list is read only when it has as many elements as the member
+    bool keyed = false;     // a list stands as an object whose members are the elements
+    bool amongKeys = false; // a keyed list whose members stand in the record's own object
+    bool zeroed = false;    // elements of a caller's array are cleared before they are read
     Nulls nulls = Nulls::Count;
 
     // Writing
@@ -141,6 +142,7 @@ struct Field {
     std::int64_t atMost = kNoLimit; // a larger number is written as this one
     Slot condition;                 // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
+    bool untilEmpty = false; // a list of texts ends at the first empty one
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;
     bool unlessBare = false;   // an object without keys is left out
@@ -207,6 +209,14 @@ struct Field {
         f.keyed = true;
         return f;
     }
+    // A list with the key "": its elements are those members of the record's own object that are objects with members
+    // of their own, whatever their names. An element's defaults are set when it is read, so that slots that no member
+    // took stay clear. On writing the names go in order among the record's keys; a name that is a key hides the key.
+    constexpr Field AmongKeys() const {
+        auto f = Keyed();
+        f.amongKeys = true;
+        return f;
+    }
     constexpr Field OnNull(Nulls rule) const {
         auto f = *this;
         f.nulls = rule;
@@ -265,6 +275,12 @@ struct Field {
     constexpr Field When(bool (*test)(const std::byte* record)) const {
         auto f = *this;
         f.when = test;
+        return f;
+    }
+    // A list of texts without a count of its own: the first empty one ends it on writing.
+    constexpr Field UntilEmpty() const {
+        auto f = *this;
+        f.untilEmpty = true;
         return f;
     }
     constexpr Field WhenEmpty(Empty rule) const {

@@ -155,12 +155,14 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             if (field.zeroed) std::memset(at, 0, stride);
             if (field.table->hasDefaults && field.zeroed) SetDefaults(*field.table, at);
         }
+        if (field.amongKeys && field.table->hasDefaults) SetDefaults(*field.table, at);
         ReadElement(field, element, at, call, memberName);
     };
     if (field.keyed) {
         for (const json::Member& member : value.members()) {
             if (used == room.room) break;
-            if (member.value.isNull()) continue;
+            const bool isElement = field.amongKeys ? member.value.members().size() > 0 : !member.value.isNull();
+            if (!isElement) continue;
             readSlot(member.value, member.key());
             ++counted;
         }

@@ -66,6 +66,8 @@ struct Table {
     NodeRange fromRoot; // keys that start at the document
     NodeRange self;     // fields that are the value itself; a tuple's elements
 
+    const Field* amongKeys = nullptr; // the list whose members stand among the record's keys, when it has one
+
     Shape shape = Shape::Object;
     bool hasDefaults = false;  // some field, nested ones included, starts at something other than zero
     bool hasSizeWords = false; // some field, nested ones included, is a size word
@@ -336,8 +338,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists()) {
             build::a_pointer_needs_its_capacity();
         }
-        if (row.kind == Kind::Record && row.cell != Cell::Pointer) {
-            if (row.table->hasDefaults) table.hasDefaults = true;
+        if (row.amongKeys) table.amongKeys = &row;
+        if (row.cell == Cell::Record) {
+            if (row.table->hasDefaults && !row.amongKeys) table.hasDefaults = true;
             if (row.table->hasSizeWords) table.hasSizeWords = true;
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <span>
 
 namespace orrery::record {
 
@@ -39,6 +40,12 @@ Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
         if (first == nullptr) room = 0;
     }
     std::int64_t count = field.count.exists() && !field.fullCapacity ? LoadSlot(field.count, record) : room;
+    if (field.untilEmpty) {
+        const auto isEmpty = [&](std::int64_t i) { return first[i * field.elementSize] == std::byte{0}; };
+        for (std::int64_t i = 0; i < count; ++i) {
+            if (isEmpty(i)) count = i;
+        }
+    }
     // A count beyond the room ends at the room, whoever wrote it.
     count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
     return {first, static_cast<std::uint32_t>(count)};
@@ -171,15 +178,47 @@ void WriteLevels(const Field& field, int level, const std::byte* at, WriteCall& 
     call.out.EndArray();
 }
 
-std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
+// `capacity` is how many bytes the text may become, its terminator included.
+std::string_view ToUtf8(std::string_view local, std::size_t capacity, LocalText& text) noexcept {
     if (text.isCopy() || local.empty()) return local;
-    const std::size_t capacity = local.size() * 3 / 2 + 1; // as for every other text on its way out
     char* const room = text.arena().Array<char>(capacity);
     if (room == nullptr) return {};
     const int size =
         text.ConvertLocalToUtf8(local.data(), static_cast<int>(local.size()), room, static_cast<int>(capacity));
     return {room, static_cast<std::size_t>(size)};
 }
+
+// Records that stand under their names.
+struct NamedRecord {
+    std::string_view name;
+    std::uint32_t index;
+};
+
+// What is written of an array of such records, in the order of their names; of equal names the last. A name becomes at
+// most `growth` halves of its length. Empty when memory ran out: the arena tells.
+std::span<const NamedRecord> SortedByName(const Table& table, const std::byte* first, std::uint32_t recordCount,
+                                          std::uint32_t stride, std::size_t growth, LocalText& text) noexcept {
+    NamedRecord* const entries = text.arena().Array<NamedRecord>(recordCount);
+    if (entries == nullptr) return {};
+    std::uint32_t count = 0;
+    for (std::uint32_t i = 0; i < recordCount; ++i) {
+        const std::byte* const at = first + std::size_t{i} * stride;
+        if (!IsWritten(table, at)) continue;
+        const std::string_view name = MemberNameOf(table, at);
+        entries[count++] = {ToUtf8(name, name.size() * growth / 2 + 1, text), i};
+    }
+    std::sort(entries, entries + count, [](const NamedRecord& left, const NamedRecord& right) {
+        return left.name != right.name ? left.name < right.name : left.index < right.index;
+    });
+    std::uint32_t unique = 0;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (i + 1 == count || entries[i].name != entries[i + 1].name) entries[unique++] = entries[i];
+    }
+    return {entries, unique};
+}
+
+constexpr std::size_t kGrowthOfTexts = 3;   // as for every other text on its way out
+constexpr std::size_t kGrowthAmongKeys = 4; // twice its length: a name must not lose its end
 
 bool IsPlainNumber(const Field& field) noexcept {
     return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
@@ -245,7 +284,7 @@ void WriteUnlessBare(const Field& field, const std::byte* at, WriteCall& call) n
 }
 
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
-    if (!field.writable) return;
+    if (!field.writable || field.amongKeys) return; // the latter come with the keys
     if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
     if (field.condition.exists() && LoadSlot(field.condition, record) == 0) return;
     if (field.when != nullptr && !field.when(record)) return;
@@ -320,6 +359,29 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
     }
 }
 
+// The record's keys and the names of its list in one order.
+void WriteAmongKeys(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    const Field& list = *table.amongKeys;
+    const Elements elements = ElementsOf(list, record);
+    const auto named = SortedByName(*list.table, elements.first, elements.count, list.elementSize, kGrowthAmongKeys,
+                                    call.parser.text());
+    auto next = named.begin();
+    const auto writeNext = [&] {
+        call.Member(next->name);
+        WriteRecord(*list.table, elements.first + std::size_t{next->index} * list.elementSize, call);
+        ++next;
+    };
+    for (std::uint16_t i = 0; i < table.members.count; ++i) {
+        const auto node = static_cast<std::uint16_t>(table.members.first + i);
+        const std::string_view key = table.keyOf(table.nodes[node]);
+        while (next != named.end() && next->name < key)
+            writeNext();
+        if (next == named.end() || next->name != key) WriteNodes(table, {node, 1}, record, call);
+    }
+    while (next != named.end())
+        writeNext();
+}
+
 } // namespace
 
 void WriteCall::Open(OpenObject& closed) noexcept {
@@ -345,31 +407,17 @@ std::string_view MemberNameOf(const Table& table, const std::byte* record) noexc
 
 void WriteByName(const Table& table, const std::byte* first, std::uint32_t recordCount, std::uint32_t stride,
                  WriteCall& call) noexcept {
-    struct Entry {
-        std::string_view name;
-        std::uint32_t index;
-    };
-    Arena& arena = call.parser.text().arena();
-    Entry* const entries = arena.Array<Entry>(recordCount);
-    if (entries == nullptr) return;
-    std::uint32_t count = 0;
-    for (std::uint32_t i = 0; i < recordCount; ++i) {
-        const std::byte* const at = first + std::size_t{i} * stride;
-        if (IsWritten(table, at)) entries[count++] = {ToUtf8(MemberNameOf(table, at), call.parser.text()), i};
-    }
-    std::sort(entries, entries + count, [](const Entry& left, const Entry& right) {
-        return left.name != right.name ? left.name < right.name : left.index < right.index;
-    });
     call.out.BeginObject();
-    for (std::uint32_t i = 0; i < count; ++i) {
-        if (i + 1 < count && entries[i].name == entries[i + 1].name) continue;
-        call.out.Key(entries[i].name);
-        WriteRecord(table, first + std::size_t{entries[i].index} * stride, call);
+    for (const NamedRecord& entry :
+         SortedByName(table, first, recordCount, stride, kGrowthOfTexts, call.parser.text())) {
+        call.out.Key(entry.name);
+        WriteRecord(table, first + std::size_t{entry.index} * stride, call);
     }
     call.out.EndObject();
 }
 
 void WriteFields(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    if (table.amongKeys != nullptr) return WriteAmongKeys(table, record, call);
     WriteNodes(table, table.members, record, call);
 }
 
