@@ -87,6 +87,22 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
     out.String({text, static_cast<std::size_t>(end - text)});
 }
 
+// The counterpart of ReadUsualSection: a week has 42 of them, most of them zero.
+bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
+    std::int32_t fields[kSectionFields];
+    std::memcpy(fields, section, sizeof fields);
+    bool usual = static_cast<std::uint32_t>(fields[0]) < 10;
+    for (int i = 1; i < kSectionFields; ++i)
+        usual &= static_cast<std::uint32_t>(fields[i]) < 100;
+    if (!usual) return false;
+    char text[] = "0 00:00:00-00:00:00";
+    text[0] = static_cast<char>('0' + fields[0]);
+    for (int i = 1; i < kSectionFields; ++i)
+        std::memcpy(text + 3 * i - 1, &scan::kPairs[2 * fields[i]], 2);
+    out.String({text, 19});
+    return true;
+}
+
 // The least of a caller's bound and what the document has; the bound is at least 1 here.
 int Limit(int bound, std::uint32_t size) noexcept {
     return static_cast<int>(std::min(static_cast<std::uint32_t>(bound), size));
@@ -99,6 +115,7 @@ bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* sect
 }
 
 void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
+    if (section != nullptr && WriteUsualSection(out, section)) return;
     WriteFields(out, section, kSectionFields, kSectionSeparators, kSectionWidths);
 }
 

@@ -43,34 +43,52 @@ std::size_t Utf8Step(const char* text, std::size_t size) noexcept {
     return length;
 }
 
-// Fills at most `room` bytes at `destination`; returns how many. What does not fit is cut in mid-character.
+// The room that a conversion fills, byte by byte if need be.
+struct Room {
+    char* next;
+    std::size_t left;
+
+    // False when not all of it fitted: then the text ends in mid-character.
+    bool Put(const char* bytes, std::size_t count) noexcept {
+        const std::size_t part = std::min(left, count);
+        std::memcpy(next, bytes, part);
+        next += part;
+        left -= part;
+        return part == count;
+    }
+};
+
+// Converts what comes next, or without `in` what the converter held back to see what follows, by way of a small buffer.
+bool PutThroughBuffer(iconv_t descriptor, char** in, std::size_t* length, Room& room) noexcept {
+    char buffer[32];
+    char* end = buffer;
+    std::size_t left = sizeof buffer;
+    iconv(descriptor, in, length, &end, &left);
+    return room.Put(buffer, sizeof buffer - left);
+}
+
+// Fills at most `size` bytes at `destination`; returns how many. What does not fit is cut in mid-character.
 std::size_t Convert(iconv_t descriptor, bool fromUtf8, const char* source, std::size_t length, char* destination,
-                    std::size_t room) noexcept {
-    iconv(descriptor, nullptr, nullptr, nullptr, nullptr); // a text before this one may have ended in any state
+                    std::size_t size) noexcept {
+    iconv(descriptor, nullptr, nullptr, nullptr, nullptr); // the text before this one may have ended in any state
     char* in = const_cast<char*>(source);                  // iconv takes it so, and leaves it alone
-    char* out = destination;
-    std::size_t outLeft = room;
+    Room room{destination, size};
     while (length > 0) {
-        if (iconv(descriptor, &in, &length, &out, &outLeft) != static_cast<std::size_t>(-1)) break;
+        if (iconv(descriptor, &in, &length, &room.next, &room.left) != static_cast<std::size_t>(-1)) break;
         if (errno == E2BIG) {
-            // The next character is wider than the room left: its leading bytes fill the room.
-            char wide[32];
-            char* wideEnd = wide;
-            std::size_t wideLeft = sizeof wide;
-            iconv(descriptor, &in, &length, &wideEnd, &wideLeft);
-            const std::size_t part = std::min(outLeft, static_cast<std::size_t>(wideEnd - wide));
-            std::memcpy(out, wide, part);
-            return room - outLeft + part;
+            // The next character is wider than the room left, which takes its leading bytes. With no room at all
+            // iconv says so without a look at the text, and over again.
+            const std::size_t before = length;
+            if (room.left == 0 || !PutThroughBuffer(descriptor, &in, &length, room)) return size;
+            if (length != before) continue;
         }
-        if (outLeft == 0) return room;
-        *out++ = '?';
-        --outLeft;
+        if (!PutThroughBuffer(descriptor, nullptr, nullptr, room) || !room.Put("?", 1)) return size;
         const std::size_t step = fromUtf8 ? Utf8Step(in, length) : 1;
         in += step;
         length -= step;
     }
-    iconv(descriptor, nullptr, nullptr, &out, &outLeft); // what a converter held back to see what follows
-    return room - outLeft;
+    PutThroughBuffer(descriptor, nullptr, nullptr, room);
+    return size - room.left;
 }
 
 int CopyBounded(const char* source, int length, char* destination, int capacity) noexcept {

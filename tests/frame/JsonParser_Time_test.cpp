@@ -1,0 +1,331 @@
+#include "frame/JsonParserSupport.h"
+
+#include <climits>
+#include <cstring>
+
+namespace orrery {
+namespace {
+
+using test::Document;
+using test::StringValue;
+using test::TextOf;
+
+constexpr std::int32_t kBefore = 77; // what stood in a field that must stay
+
+CFG_TIME_SECTION Filled(std::int32_t number) {
+    return {number, number, number, number, number, number, number};
+}
+
+bool operator==(const CFG_TIME_SECTION& a, const CFG_TIME_SECTION& b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+// A matrix of sections whose text is all the same.
+std::string Matrix(int rows, int columns, const std::string& cell = "\"1 08:00:00-17:30:00\"") {
+    std::string text = "[";
+    for (int r = 0; r < rows; ++r) {
+        text += r == 0 ? "[" : ",[";
+        for (int c = 0; c < columns; ++c)
+            text += (c == 0 ? "" : ",") + cell;
+        text += "]";
+    }
+    return text + "]";
+}
+
+constexpr CFG_TIME_SECTION kWorkday = {1, 8, 0, 0, 17, 30, 0};
+
+// ---- One section ----
+
+TEST(TimeSection, IsReadInFieldOrder) {
+    CFG_TIME_SECTION section = Filled(kBefore);
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("1 02:03:04-05:06:07"), &section));
+    EXPECT_EQ(section.dwMask, 1);
+    EXPECT_EQ(section.nBeginHour, 2);
+    EXPECT_EQ(section.nBeginMin, 3);
+    EXPECT_EQ(section.nBeginSec, 4);
+    EXPECT_EQ(section.nEndHour, 5);
+    EXPECT_EQ(section.nEndMin, 6);
+    EXPECT_EQ(section.nEndSec, 7);
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("4095 00:00:00-24:00:00"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{4095, 0, 0, 0, 24, 0, 0}));
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue(" 1 8:0:0-17:30:0"), &section));
+    EXPECT_TRUE(section == kWorkday);
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("1 08:00:00-17:30:00 and more"), &section));
+    EXPECT_TRUE(section == kWorkday);
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("1 08:00:00-17:30:009"), &section)) << "two digits are taken";
+    EXPECT_TRUE(section == kWorkday);
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("-2 -1:+2: 3--4:5:6"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{-2, -1, 2, 3, -4, 5, 6}));
+}
+
+TEST(TimeSection, AnEmptyTextLeavesTheSection) {
+    CFG_TIME_SECTION section = Filled(kBefore);
+    for (const char* text : {"\"\"", "null", "5", "[ \"1 08:00:00-17:30:00\" ]", "{ \"a\" : 1 }", "true", "\"bad\""}) {
+        EXPECT_FALSE(JsonParser::GetTimeSection(Document(text).root(), &section)) << text;
+        EXPECT_TRUE(section == Filled(kBefore)) << text;
+    }
+    EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("1 08:00:00-17:30:00"), nullptr));
+}
+
+TEST(TimeSection, FieldsBeforeAMismatchStayWritten) {
+    CFG_TIME_SECTION section = Filled(kBefore);
+    EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("1 08:15;00-17:30:00"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{1, 8, 15, kBefore, kBefore, kBefore, kBefore}));
+    section = Filled(kBefore);
+    EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("3 08:15:16-17:30:"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{3, 8, 15, 16, 17, 30, kBefore}));
+    section = Filled(kBefore);
+    EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("1 08 :15:16-17:30:00"), &section))
+        << "no blank before a colon";
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{1, 8, kBefore, kBefore, kBefore, kBefore, kBefore}));
+}
+
+TEST(TimeSection, TheNarrowFormatTakesTwoDigitsTheWideOneAll) {
+    CFG_TIME_SECTION section = Filled(kBefore);
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("1 08:00:00-9:00:00"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{1, 8, 0, 0, 9, 0, 0}));
+    CFG_TIME_SECTION wide = Filled(kBefore);
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document("[ [ \"1 08:00:00-9:00:00\" ] ]").root(), &wide, 1, 1, nullptr));
+    EXPECT_TRUE(wide == section);
+
+    section = Filled(kBefore);
+    EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("1 008:00:00-9:00:00"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{1, 0, kBefore, kBefore, kBefore, kBefore, kBefore}));
+    wide = Filled(kBefore);
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document("[ [ \"1 008:00:00-9:00:00\" ] ]").root(), &wide, 1, 1, nullptr));
+    EXPECT_TRUE(wide == (CFG_TIME_SECTION{1, 8, 0, 0, 9, 0, 0}));
+}
+
+TEST(TimeSection, IsWrittenWithTwoDigitsAField) {
+    const auto written = [](CFG_TIME_SECTION section) {
+        return TextOf([&](json::TextWriter& out) { JsonParser::SetTimeSection(out, &section); });
+    };
+    EXPECT_EQ(written(kWorkday), "\"1 08:00:00-17:30:00\"");
+    EXPECT_EQ(written(Filled(0)), "\"0 00:00:00-00:00:00\"");
+    EXPECT_EQ(written({4095, 100, 7, 59, 24, 0, 9}), "\"4095 100:07:59-24:00:09\"");
+    EXPECT_EQ(written({-1, -1, -12, 0, 0, 0, 0}), "\"-1 -1:-12:00-00:00:00\"");
+    EXPECT_EQ(written(Filled(INT_MIN)), "\"-2147483648 -2147483648:-2147483648:-2147483648"
+                                        "--2147483648:-2147483648:-2147483648\"");
+}
+
+// ---- Schedules ----
+
+TEST(TimeSchedule, ReadsAMatrixRowByRow) {
+    const Document document("[ [ \"1 8:0:0-17:30:0\", \"0 00:00:00-01:00:00\" ], [ \"2 1:2:3-4:5:6\" ] ]");
+    CFG_TIME_SECTION sections[2][3];
+    for (auto& row : sections) {
+        for (CFG_TIME_SECTION& section : row)
+            section = Filled(kBefore);
+    }
+    int rows = 99;
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(document.root(), &sections[0][0], 2, 3, &rows));
+    EXPECT_EQ(rows, 2);
+    EXPECT_TRUE(sections[0][0] == kWorkday);
+    EXPECT_TRUE(sections[0][1] == (CFG_TIME_SECTION{0, 0, 0, 0, 1, 0, 0}));
+    EXPECT_TRUE(sections[0][2] == Filled(kBefore));
+    EXPECT_TRUE(sections[1][0] == (CFG_TIME_SECTION{2, 1, 2, 3, 4, 5, 6})) << "the stride is the caller's";
+    EXPECT_TRUE(sections[1][1] == Filled(kBefore));
+}
+
+TEST(TimeSchedule, StopsAtTheCallersBounds) {
+    CFG_TIME_SECTION sections[2][2];
+    for (auto& row : sections) {
+        for (CFG_TIME_SECTION& section : row)
+            section = Filled(kBefore);
+    }
+    int rows = 99;
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document(Matrix(9, 9)).root(), &sections[0][0], 1, 2, &rows));
+    EXPECT_EQ(rows, 1);
+    EXPECT_TRUE(sections[0][0] == kWorkday);
+    EXPECT_TRUE(sections[0][1] == kWorkday);
+    EXPECT_TRUE(sections[1][0] == Filled(kBefore));
+    rows = 99;
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document(Matrix(1, 1)).root(), &sections[0][0], INT_MAX, INT_MAX, &rows));
+    EXPECT_EQ(rows, 1) << "the document is the bound";
+}
+
+TEST(TimeSchedule, RefusesWhatIsNoMatrixWithNothingTouched) {
+    CFG_TIME_SECTION section = Filled(kBefore);
+    int rows = 99;
+    for (const char* text :
+         {"null", "[  ]", "5", "\"1 08:00:00-17:30:00\"", "{ \"a\" : [ \"1 08:00:00-17:30:00\" ] }"}) {
+        EXPECT_FALSE(JsonParser::GetTimeSchedule(Document(text).root(), &section, 1, 1, &rows)) << text;
+    }
+    const Document good(Matrix(1, 1));
+    EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), nullptr, 1, 1, &rows));
+    EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), &section, 0, 1, &rows));
+    EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), &section, 1, 0, &rows));
+    EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), &section, INT_MIN, 1, &rows));
+    EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), &section, 1, -1, &rows));
+    EXPECT_EQ(rows, 99);
+    EXPECT_TRUE(section == Filled(kBefore));
+}
+
+TEST(TimeSchedule, SkipsRowsThatAreNone) {
+    const Document document("[ null, [  ], 5, \"text\", { \"a\" : \"b\" }, [ \"1 08:00:00-17:30:00\" ] ]");
+    CFG_TIME_SECTION sections[6];
+    for (CFG_TIME_SECTION& section : sections)
+        section = Filled(kBefore);
+    int rows = 0;
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(document.root(), sections, 6, 1, &rows));
+    EXPECT_EQ(rows, 6);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_TRUE(sections[i] == Filled(kBefore)) << i;
+    EXPECT_TRUE(sections[5] == kWorkday);
+}
+
+TEST(TimeSchedule, ABadCellEndsItWithWhatWasRead) {
+    const Document document("[ [ \"1 08:00:00-17:30:00\", \"2 03:04\", \"1 08:00:00-17:30:00\" ],"
+                            " [ \"1 08:00:00-17:30:00\" ] ]");
+    CFG_TIME_SECTION sections[2][3];
+    for (auto& row : sections) {
+        for (CFG_TIME_SECTION& section : row)
+            section = Filled(kBefore);
+    }
+    int rows = 99;
+    EXPECT_FALSE(JsonParser::GetTimeSchedule(document.root(), &sections[0][0], 2, 3, &rows));
+    EXPECT_EQ(rows, 2) << "told before the cells are looked at";
+    EXPECT_TRUE(sections[0][0] == kWorkday);
+    EXPECT_TRUE(sections[0][1] == (CFG_TIME_SECTION{2, 3, 4, kBefore, kBefore, kBefore, kBefore}));
+    EXPECT_TRUE(sections[0][2] == Filled(kBefore));
+    EXPECT_TRUE(sections[1][0] == Filled(kBefore));
+    for (const char* text : {"[ [ \"bad\" ] ]", "[ [ null ] ]", "[ [ 5 ] ]", "[ [ [ \"1 08:00:00-17:30:00\" ] ] ]"}) {
+        EXPECT_FALSE(JsonParser::GetTimeSchedule(Document(text).root(), &sections[0][0], 2, 3, nullptr)) << text;
+    }
+}
+
+TEST(TimeSchedule, WritesEveryCell) {
+    CFG_TIME_SECTION sections[6] = {};
+    sections[4] = kWorkday;
+    const auto written = [&](int rows, int columns, const CFG_TIME_SECTION* from) {
+        return TextOf([&](json::TextWriter& out) {
+            EXPECT_EQ(JsonParser::SetTimeSchedule(out, from, rows, columns),
+                      from != nullptr && rows > 0 && columns > 0);
+        });
+    };
+    EXPECT_EQ(written(2, 3, sections),
+              "[ [ \"0 00:00:00-00:00:00\", \"0 00:00:00-00:00:00\", \"0 00:00:00-00:00:00\" ], "
+              "[ \"0 00:00:00-00:00:00\", \"1 08:00:00-17:30:00\", \"0 00:00:00-00:00:00\" ] ]");
+    EXPECT_EQ(written(0, 3, sections), "");
+    EXPECT_EQ(written(2, 0, sections), "");
+    EXPECT_EQ(written(-1, -1, sections), "");
+    EXPECT_EQ(written(2, 3, nullptr), "");
+}
+
+// ---- The week with its holiday ----
+
+TEST(HolidaySchedule, NeedsAWeek) {
+    CFG_TIME_SCHEDULE schedule;
+    const CFG_TIME_SECTION(&sections)[8][6] = schedule.stuTimeSection;
+    const struct {
+        int rows;
+        bool read;
+        std::int32_t holiday;
+    } kCases[] = {{6, false, 0}, {7, true, 0}, {8, true, 1}, {9, true, 1}};
+    for (const auto& c : kCases) {
+        std::memset(&schedule, 0x55, sizeof schedule);
+        EXPECT_EQ(JsonParser::GetHolidaySchedule(Document(Matrix(c.rows, 6)).root(), &schedule), c.read) << c.rows;
+        EXPECT_EQ(schedule.bEnableHoliday, c.holiday) << c.rows;
+        for (int row = 0; row < 8; ++row) {
+            EXPECT_TRUE(sections[row][5] == (row < c.rows ? kWorkday : Filled(0))) << c.rows << ' ' << row;
+        }
+    }
+}
+
+TEST(HolidaySchedule, IsClearedEvenWhenNothingIsRead) {
+    const CFG_TIME_SCHEDULE cleared = {};
+    for (const char* text : {"null", "5", "[  ]", "[ [ \"bad\" ] ]"}) {
+        CFG_TIME_SCHEDULE schedule;
+        std::memset(&schedule, 0x55, sizeof schedule);
+        EXPECT_FALSE(JsonParser::GetHolidaySchedule(Document(text).root(), &schedule)) << text;
+        EXPECT_EQ(std::memcmp(&schedule, &cleared, sizeof schedule), 0) << text;
+    }
+    EXPECT_FALSE(JsonParser::GetHolidaySchedule(Document(Matrix(7, 6)).root(), nullptr));
+}
+
+TEST(HolidaySchedule, WritesTheEighthRowOnlyWhenInUse) {
+    CFG_TIME_SCHEDULE schedule = {};
+    const std::string cell = "\"0 00:00:00-00:00:00\"";
+    const std::string row = "[ " + cell + ", " + cell + ", " + cell + ", " + cell + ", " + cell + ", " + cell + " ]";
+    std::string week = "[ " + row;
+    for (int i = 1; i < 7; ++i)
+        week += ", " + row;
+    const auto written = [&] {
+        return TextOf([&](json::TextWriter& out) { JsonParser::SetHolidaySchedule(out, &schedule); });
+    };
+    EXPECT_EQ(written(), week + " ]");
+    for (const std::int32_t holiday : {1, -1, 2}) {
+        schedule.bEnableHoliday = holiday;
+        EXPECT_EQ(written(), week + ", " + row + " ]");
+    }
+}
+
+// ---- Flat lists ----
+
+TEST(TimeSectionList, PassesOverWhatIsNoSection) {
+    const Document document("[ \"1 08:00:00-17:30:00\", \"bad\", null, \"2 03:04\", \"1 008:0:0-17:30:0\" ]");
+    CFG_TIME_SECTION sections[6];
+    for (CFG_TIME_SECTION& section : sections)
+        section = Filled(kBefore);
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(document.root(), sections, 6));
+    EXPECT_TRUE(sections[0] == kWorkday);
+    EXPECT_TRUE(sections[1] == Filled(kBefore));
+    EXPECT_TRUE(sections[2] == Filled(kBefore));
+    EXPECT_TRUE(sections[3] == (CFG_TIME_SECTION{2, 3, 4, kBefore, kBefore, kBefore, kBefore}));
+    EXPECT_TRUE(sections[4] == kWorkday);
+    EXPECT_TRUE(sections[5] == Filled(kBefore));
+    // The same text that ends a schedule: a list of one list carries on.
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(Document("[ [ \"bad\" ] ]").root(), sections, 6));
+}
+
+TEST(TimeSectionList, StopsAtItsLimit) {
+    const Document document("[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\" ]");
+    CFG_TIME_SECTION sections[2] = {Filled(kBefore), Filled(kBefore)};
+    EXPECT_FALSE(JsonParser::GetTimeSectionList(document.root(), nullptr, 2));
+    EXPECT_FALSE(JsonParser::GetTimeSectionList(document.root(), sections, 0));
+    EXPECT_FALSE(JsonParser::GetTimeSectionList(document.root(), sections, INT_MIN));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(Document("null").root(), sections, 2));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(Document("7").root(), sections, 2));
+    EXPECT_TRUE(sections[0] == Filled(kBefore));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(document.root(), sections, 1));
+    EXPECT_TRUE(sections[0] == kWorkday);
+    EXPECT_TRUE(sections[1] == Filled(kBefore));
+}
+
+TEST(TimeSectionList, IsWrittenFlat) {
+    const CFG_TIME_SECTION sections[2] = {kWorkday, {}};
+    EXPECT_EQ(TextOf([&](json::TextWriter& out) { EXPECT_TRUE(JsonParser::SetTimeSectionList(out, sections, 2)); }),
+              "[ \"1 08:00:00-17:30:00\", \"0 00:00:00-00:00:00\" ]");
+    EXPECT_EQ(TextOf([&](json::TextWriter& out) {
+                  EXPECT_FALSE(JsonParser::SetTimeSectionList(out, sections, 0));
+                  EXPECT_FALSE(JsonParser::SetTimeSectionList(out, sections, -1));
+                  EXPECT_FALSE(JsonParser::SetTimeSectionList(out, nullptr, 2));
+              }),
+              "");
+}
+
+TEST(TimeSchedule, LiesAtAnyAddress) {
+    std::vector<char> room(sizeof(CFG_TIME_SCHEDULE) + 8, '#');
+    auto* const schedule = reinterpret_cast<CFG_TIME_SCHEDULE*>(room.data() + 1);
+    EXPECT_TRUE(JsonParser::GetHolidaySchedule(Document(Matrix(8, 6)).root(), schedule));
+    CFG_TIME_SCHEDULE copy;
+    std::memcpy(&copy, room.data() + 1, sizeof copy);
+    EXPECT_EQ(copy.bEnableHoliday, 1);
+    EXPECT_TRUE(copy.stuTimeSection[7][5] == kWorkday);
+    EXPECT_EQ(room[0], '#');
+    EXPECT_EQ(room[1 + sizeof copy], '#');
+    const auto written = [](const CFG_TIME_SCHEDULE* from) {
+        return TextOf([from](json::TextWriter& out) { JsonParser::SetHolidaySchedule(out, from); });
+    };
+    EXPECT_EQ(written(schedule), written(&copy));
+    char countRoom[8];
+    auto* const rows = reinterpret_cast<int*>(countRoom + 1);
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document(Matrix(3, 1)).root(),
+                                            reinterpret_cast<CFG_TIME_SECTION*>(room.data() + 3), 8, 6, rows));
+    int count = 0;
+    std::memcpy(&count, countRoom + 1, sizeof count);
+    EXPECT_EQ(count, 3);
+}
+
+} // namespace
+} // namespace orrery
