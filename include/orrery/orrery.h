@@ -8,9 +8,12 @@
 
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_input.h"
+#include "orrery/analyse_rules.h"
 #include "orrery/event_types.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
+#include "orrery/rule_bodies.h"
+#include "orrery/traffic_rules.h"
 #include "orrery/types.h"
 
 #ifdef __cplusplus

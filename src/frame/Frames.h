@@ -220,6 +220,7 @@ enum class Outcome : std::uint8_t {
     NoValue,
     WrongShape,
     RowRefused, // a row's function ended the call
+    BadItem,    // an item of a buffer, or an element that should become one, is of no type that is known
     TextTooLong,
     OutOfMemory,
 };

@@ -1,6 +1,7 @@
 #include "frame/Frames.h"
 
 #include "frame/Arena.h"
+#include "frame/Deliver.h"
 #include "frame/JsonParser.h"
 #include "frame/LocalText.h"
 #include "frame/Platform/ParamConvert.h"
@@ -71,41 +72,8 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
     return call.refused ? Outcome::RowRefused : Outcome::Done;
 }
 
-bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexcept {
-    switch (capacity) {
-    case Capacity::Strict:
-        return length < room;
-    case Capacity::Loose:
-    case Capacity::Raw:
-        return length <= room;
-    case Capacity::OneBefore:
-        return length + 1 < room;
-    }
-    return false;
-}
-
-// Writes straight into the caller's buffer and clears what the text leaves of it; a text that does not fit leaves
-// zeros, or with `keeps` nothing at all.
 Outcome Deliver(const Content& content, Capacity capacity, bool keeps, const PackRequest& request) noexcept {
-    const std::size_t room = request.textCapacity;
-    char* const buffer = request.textBuffer;
-    if (keeps) {
-        json::TextWriter measure(nullptr, 0);
-        if (const Outcome outcome = WriteText(content, measure); outcome != Outcome::Done) return outcome;
-        if (!Fits(capacity, measure.length(), room)) return Outcome::TextTooLong;
-    }
-    json::TextWriter out(buffer, room);
-    Outcome outcome = WriteText(content, out);
-    if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
-    if (outcome != Outcome::Done) {
-        std::memset(buffer, 0, room);
-        return outcome;
-    }
-    if (out.length() < room)
-        std::memset(buffer + out.length(), 0, keeps ? 1 : room - out.length());
-    else if (capacity == Capacity::Loose)
-        buffer[room - 1] = '\0';
-    return Outcome::Done;
+    return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, capacity, keeps, request);
 }
 
 } // namespace

@@ -66,6 +66,12 @@ void WriteSwitches(const Field& field, const std::byte* at, WriteCall& call) noe
     call.out.EndArray();
 }
 
+// The row of a name table that a field's code writes.
+const Name* NameAt(const Field& field, const std::byte* at) noexcept {
+    const auto code = std::min<std::int64_t>(LoadInteger(field.cell, at), field.atMost);
+    return field.names->RowOf(static_cast<std::int32_t>(code));
+}
+
 // One element as a value. What has no text of its own is null in its place.
 void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noexcept {
     json::TextWriter& out = call.out;
@@ -98,8 +104,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
                                   field.writtenAs == Kind::Text);
         break;
     case Kind::Names: {
-        const auto code = LoadInteger(field.cell, at);
-        const Name* const row = field.names->RowOf(static_cast<std::int32_t>(code));
+        const Name* const row = NameAt(field, at);
         if (row != nullptr)
             out.String(row->text);
         else if (field.names->outside == NameTable::Outside::Text)
@@ -150,7 +155,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
 bool IsElementWritten(const Field& field, const std::byte* at) noexcept {
     if (field.kind == Kind::Record) return IsWritten(*field.table, at);
     if (field.writtenAs == Kind::Names && field.names->outside == NameTable::Outside::NoKey) {
-        return field.names->RowOf(static_cast<std::int32_t>(LoadInteger(field.cell, at))) != nullptr;
+        return NameAt(field, at) != nullptr;
     }
     return true;
 }
@@ -246,7 +251,7 @@ bool TakesWholeMember(Kind kind) noexcept {
 }
 
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
-    if (!field.writable) return;
+    if (!field.writable || (field.linkage && !call.linked)) return;
     if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
     if (field.condition.exists() && LoadSlot(field.condition, record) == 0) return;
     if (field.when != nullptr && !field.when(record)) return;
