@@ -101,7 +101,8 @@ void WriteCountedKeys(const Field& field, const std::byte* record, WriteCall& ca
 
 } // namespace
 
-constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions};
+constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions,
+                                      R"([{"Operation":"Open"},{"Operation":"CloseAlways"}])"};
 constexpr CustomCodec kWeekOverSchedule{nullptr, WriteWeek};
 constexpr CustomCodec kRuleWeekOverSchedule{nullptr, WriteRuleWeek};
 constexpr CustomCodec kCountedKeys{ReadCountedKeys, WriteCountedKeys};

@@ -23,6 +23,39 @@ TABLE(kAnalyseRules, CFG_ANALYSERULES_INFO, FIELD(nRuleCount), FIELD(pRuleBuf).P
 
 namespace {
 
+ItemType TypeOf(const RuleBody& body) noexcept {
+    const auto code = static_cast<std::int32_t>(body.code);
+    const std::string_view name = RuleNameOf(code, false);
+    const bool isNamed = RuleCodeFromName(name) == code;
+    return {body.code, isNamed ? name : std::string_view(), body.table, body.isRead && isNamed};
+}
+ItemType TypeAt(std::uint32_t index) noexcept {
+    return TypeOf(RuleBodies()[index]);
+}
+ItemType TypeOfCode(std::uint32_t code) noexcept {
+    const RuleBody* const body = FindRuleBody(code);
+    return body == nullptr ? ItemType{} : TypeOf(*body);
+}
+
+using Rules = CFG_ANALYSERULES_INFO;
+
+} // namespace
+
+constexpr PackedItems kRuleItems{
+    .pointer = offsetof(Rules, pRuleBuf),
+    .count = MakeSlot<decltype(Rules::nRuleCount)>(offsetof(Rules, nRuleCount)),
+    .bytes = MakeSlot<decltype(Rules::nRuleLen)>(offsetof(Rules, nRuleLen)),
+    .head = &kRuleInfo,
+    .code = MakeSlot<decltype(CFG_RULE_INFO::dwRuleType)>(offsetof(CFG_RULE_INFO, dwRuleType)),
+    .size = MakeSlot<decltype(CFG_RULE_INFO::nRuleSize)>(offsetof(CFG_RULE_INFO, nRuleSize)),
+    .most = ORRERY_MOST_RULES,
+    .typeCount = 84,
+    .typeAt = TypeAt,
+    .typeOf = TypeOfCode,
+};
+
+namespace {
+
 constexpr std::uint32_t kHeadSize = sizeof(CFG_RULE_INFO);
 constexpr std::size_t kGeneralAt = offsetof(CFG_RULE_INFO, stuRuleGeneral);
 static_assert(kHeadSize == 528 && sizeof(CFG_RULE_GENERAL_INFO) == 520 && kGeneralAt == 8);
@@ -203,7 +236,7 @@ Outcome PackAnalyseRules(const PackRequest& request) noexcept {
         out.EndText();
         return outcome == Outcome::Done && arena.failed() ? Outcome::OutOfMemory : outcome;
     };
-    const Outcome outcome = DeliverText(write, Capacity::Loose, false, request);
+    const Outcome outcome = DeliverText(write, Capacity::Loose, request);
     if (outcome != Outcome::Done || rules.nRuleCount == 0) return outcome;
     // A device takes the empty list that stands there now as "no rules", but the caller had something else in mind.
     return rules.nRuleCount < 0 || rules.pRuleBuf == nullptr ? Outcome::NotAccepted : Outcome::Done;

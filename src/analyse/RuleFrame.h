@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/Frames.h"
+#include "frame/PackedItems.h"
 #include "frame/json/Value.h"
 #include "frame/record/Engine.h"
 
@@ -13,6 +14,9 @@ namespace orrery {
 extern const record::TypedTable<CFG_ANALYSERULES_INFO> kAnalyseRules;
 // The head of an item.
 extern const record::TypedTable<CFG_RULE_INFO> kRuleInfo;
+
+// The items behind the descriptor.
+extern const PackedItems kRuleItems;
 
 // "VideoAnalyseRule" and "AudioAnalyseRule": the rules stand in the reply's table.
 Outcome ParseAnalyseRules(const ParseRequest& request) noexcept;

@@ -166,6 +166,10 @@ const Command* FindCommand(std::string_view name) noexcept {
     return nullptr;
 }
 
+const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
+    return &descriptor == &kAnalyseRules ? &kRuleItems : nullptr;
+}
+
 Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
     if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
     switch (command.parse) {

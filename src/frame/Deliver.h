@@ -21,17 +21,20 @@ inline bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexce
     return false;
 }
 
+// Ends a text of `length` bytes that fits in `room`.
+inline void Terminate(Capacity capacity, std::size_t length, char* buffer, std::size_t room) noexcept {
+    if (length < room)
+        buffer[length] = '\0';
+    else if (capacity == Capacity::Loose)
+        buffer[room - 1] = '\0';
+}
+
 // Lets `write`, an Outcome(json::TextWriter&), write straight into the caller's buffer and clears what the text leaves
-// of it; a text that does not fit leaves zeros, or with `keeps` nothing at all.
+// of it; a text that does not fit leaves zeros.
 template <class Write>
-Outcome DeliverText(const Write& write, Capacity capacity, bool keeps, const PackRequest& request) noexcept {
+Outcome DeliverText(const Write& write, Capacity capacity, const PackRequest& request) noexcept {
     const std::size_t room = request.textCapacity;
     char* const buffer = request.textBuffer;
-    if (keeps) {
-        json::TextWriter measure(nullptr, 0);
-        if (const Outcome outcome = write(measure); outcome != Outcome::Done) return outcome;
-        if (!Fits(capacity, measure.length(), room)) return Outcome::TextTooLong;
-    }
     json::TextWriter out(buffer, room);
     Outcome outcome = write(out);
     if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
@@ -40,9 +43,9 @@ Outcome DeliverText(const Write& write, Capacity capacity, bool keeps, const Pac
         return outcome;
     }
     if (out.length() < room)
-        std::memset(buffer + out.length(), 0, keeps ? 1 : room - out.length());
-    else if (capacity == Capacity::Loose)
-        buffer[room - 1] = '\0';
+        std::memset(buffer + out.length(), 0, room - out.length());
+    else
+        Terminate(capacity, out.length(), buffer, room);
     return Outcome::Done;
 }
 

@@ -95,11 +95,11 @@ bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
     for (int i = 1; i < kSectionFields; ++i)
         usual &= static_cast<std::uint32_t>(fields[i]) < 100;
     if (!usual) return false;
-    char text[] = "0 00:00:00-00:00:00";
-    text[0] = static_cast<char>('0' + fields[0]);
+    char text[] = "\"0 00:00:00-00:00:00\"";
+    text[1] = static_cast<char>('0' + fields[0]);
     for (int i = 1; i < kSectionFields; ++i)
-        std::memcpy(text + 3 * i - 1, &scan::kPairs[2 * fields[i]], 2);
-    out.String({text, 19});
+        std::memcpy(text + 3 * i, &scan::kPairs[2 * fields[i]], 2);
+    out.RawString({text, 21});
     return true;
 }
 

@@ -89,6 +89,9 @@ struct CustomCodec {
     void (*read)(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
     // Writes `call.Key(...)` and a value, or nothing.
     void (*write)(const Field& field, const std::byte* record, WriteCall& call) = nullptr;
+    // A JSON value as devices send it that comes back the same when it is written; null when nothing comes back.
+    // Whoever fills records from tables alone, tests above all, has nothing else to go by.
+    const char* sample = nullptr;
 };
 
 struct Field {
@@ -101,7 +104,8 @@ struct Field {
     std::uint32_t size = 0;        // of the whole member; 0 for a row that stores nothing
     std::uint32_t elementSize = 0; // of one element; a text's is its capacity
     std::uint32_t dims[kMaxRank] = {};
-    std::uint8_t rank = 0; // array levels of the member, a text's own characters not among them
+    std::uint8_t rank = 0;    // array levels of the member, a text's own characters not among them
+    bool wholeMember = false; // the codec takes all of them at once
     Cell cell = Cell::I32;
     Kind kind = Kind::None;
     Kind writtenAs = Kind::None;
@@ -120,7 +124,7 @@ struct Field {
     Slot count; // elements in use
     Slot capacity;
     bool countUncapped = false;
-    bool anyShape = false; // a list is read, as empty, also when the value is no array
+    bool anyShape = false; // a list is read also when the value is no array
     bool exactly = false;  // a list is read only when it has as many elements as the member
     bool keyed = false;    // a list stands as an object whose members are the elements
     bool zeroed = false;   // elements of a caller's array are cleared before they are read
@@ -135,7 +139,7 @@ struct Field {
     bool hasUnless = false;
     std::int32_t unless = 0; // the key is left out at this value
     bool notNegative = false;
-    std::int32_t atMost = INT32_MAX; // a larger number is written as this one
+    std::int64_t atMost = INT64_MAX; // a larger number is written as this one
     Slot condition;                  // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
     bool linkage = false; // left out by calls that want no linkage
@@ -187,6 +191,7 @@ struct Field {
         f.zeroed = true;
         return f;
     }
+    // A list is read also when the value is no array: as empty, or as one empty element for each member of an object.
     constexpr Field AnyShape() const {
         auto f = *this;
         f.anyShape = true;
@@ -296,6 +301,12 @@ struct Field {
         f.skipped = rule;
         return f;
     }
+    // The codes that a row's own functions deal in, so that tools can show their names.
+    constexpr Field Coded(const NameTable& codes) const {
+        auto f = *this;
+        f.names = &codes;
+        return f;
+    }
     // A second key of a field that has a row of its own.
     constexpr Field Alias() const {
         auto f = *this;
@@ -376,6 +387,7 @@ struct Names {
     static constexpr bool accepts = kIsInteger<T>;
     const NameTable* table;
     constexpr explicit Names(const NameTable& itsTable) : table(&itsTable) {}
+    explicit Names(const NameTable&&) = delete; // the row points to the table
 };
 
 // Object or tuple through another table. The table's record must be the member's type (or what it points to).
@@ -477,6 +489,7 @@ constexpr Field MakeField(const char* name, std::size_t offset, const char* key,
     Field field = MakePlace<T>(name, offset);
     field.key = key;
     field.kind = field.writtenAs = C::kind;
+    field.wholeMember = C::wholeMember;
     if constexpr (C::kind == Kind::Names) field.names = codec.table;
     if constexpr (C::kind == Kind::Record) field.table = codec.table;
     if constexpr (C::kind == Kind::Custom) field.custom = codec.codec;

@@ -15,13 +15,9 @@ std::optional<std::int32_t> NameTable::CodeOf(std::string_view text) const noexc
 }
 
 const Name* NameTable::RowOf(std::int32_t code) const noexcept {
-    // Nearly every table counts its codes up from 0 or 1 without a gap.
-    for (std::int32_t first : {0, 1}) {
-        const std::int64_t index = std::int64_t{code} - first;
-        if (index >= 0 && index < count && rows[index].code == code) {
-            // An earlier row of the same code would have the text that is written.
-            if (index == 0 || rows[index - 1].code != code) return &rows[index];
-        }
+    if (countsUp) {
+        const std::int64_t index = std::int64_t{code} - rows->code;
+        return index >= 0 && index < count ? &rows[index] : nullptr;
     }
     for (const Name* row = rows; row != rows + count; ++row) {
         if (row->code == code) return row;

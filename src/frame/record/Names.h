@@ -22,6 +22,7 @@ struct NameTable {
     const Name* rows = nullptr;
     std::uint16_t count = 0;
     Compare compare = Compare::Folded;
+    bool countsUp = false; // the codes go up by one from row to row, as those of nearly every table do
     bool unknownLeaves = false;
     std::int32_t unknownCode = 0;
     Outside outside = Outside::NoKey;
@@ -63,6 +64,9 @@ constexpr NameTable FoldedNames(const Name (&rows)[N]) {
     NameTable table;
     table.rows = rows;
     table.count = N;
+    table.countsUp = true;
+    for (std::size_t i = 1; i < N; ++i)
+        table.countsUp = table.countsUp && rows[i].code == std::int64_t{rows[i - 1].code} + 1;
     return table;
 }
 

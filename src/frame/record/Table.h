@@ -17,15 +17,30 @@
 
 namespace orrery::record {
 
+// The rows that most are, a switch or a number in a 32-bit member with a presence flag at most, have a short way in and
+// out: nothing else of the row need be looked at.
+enum class Plainly : std::uint8_t { No, Switch, Number };
+
+// The first eight bytes of a key as a number that orders like the key, but for what follows them.
+constexpr std::uint64_t KeyPrefix(std::string_view key) {
+    std::uint64_t prefix = 0;
+    for (std::size_t i = 0; i < 8; ++i)
+        prefix = prefix << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0u);
+    return prefix;
+}
+
 // One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
 // nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
 struct Node {
+    std::uint64_t prefix = 0;
     std::uint16_t quotedAt = 0; // the text `"Key" : ` in the table's key texts
     std::uint16_t keySize = 0;
     std::uint16_t row = 0;
     std::uint16_t firstChild = 0;
     std::uint16_t childCount = 0; // above 0: an object inside the object
     bool needsAbsent = false;     // looked at also when the key is absent
+    Plainly readPlainly = Plainly::No;
+    Plainly writePlainly = Plainly::No;
 };
 
 struct NodeRange {
@@ -106,6 +121,7 @@ namespace build {
 void rows_do_not_tile_the_record();
 void a_nested_record_needs_its_table();
 void a_key_must_not_be_escaped();
+void a_pointer_needs_its_capacity();
 
 constexpr int Parts(std::string_view key) {
     int parts = 1;
@@ -130,6 +146,19 @@ constexpr bool Before(std::string_view left, std::string_view right) {
         if (a != b) return a < b; // char_traits<char> compares as unsigned bytes
     }
     return leftParts < rightParts;
+}
+
+constexpr Plainly PlainKind(const Field& row, Kind kind) {
+    if (row.rank > 0 || row.cell != Cell::I32) return Plainly::No;
+    return kind == Kind::Bool ? Plainly::Switch : kind == Kind::Int ? Plainly::Number : Plainly::No;
+}
+constexpr Plainly ReadPlainly(const Field& row) {
+    return row.readable && row.only == OnlyType::Any ? PlainKind(row, row.kind) : Plainly::No;
+}
+constexpr Plainly WritePlainly(const Field& row) {
+    const bool ruled = !row.writable || row.trueAtOne || row.hasUnless || row.notNegative || row.when != nullptr
+                       || row.condition.exists() || row.atMost != INT32_MAX || row.kind == Kind::Custom;
+    return ruled ? Plainly::No : PlainKind(row, row.writtenAs);
 }
 
 struct Limits {
@@ -163,6 +192,7 @@ struct Tree {
         Node& node = nodes[nodeCount++];
         node.quotedAt = textSize;
         node.keySize = static_cast<std::uint16_t>(key.size());
+        node.prefix = KeyPrefix(key);
         texts[textSize++] = '"';
         for (char c : key) {
             if (c == '"' || c == '\\' || c == '/' || (c >= 0 && c < 32)) a_key_must_not_be_escaped();
@@ -192,6 +222,9 @@ struct Tree {
                 const NodeRange inside = AddObject(rows, order + i, end - i, depth + 1);
                 nodes[index].firstChild = inside.first;
                 nodes[index].childCount = inside.count;
+            } else {
+                nodes[index].readPlainly = ReadPlainly(rows[order[i]]);
+                nodes[index].writePlainly = WritePlainly(rows[order[i]]);
             }
             i = end;
         }
@@ -287,6 +320,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if (row.kind == Kind::Size) table.hasSizeWords = true;
         if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr) {
             build::a_nested_record_needs_its_table();
+        }
+        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists()) {
+            build::a_pointer_needs_its_capacity();
         }
         if (row.kind == Kind::Record && row.cell != Cell::Pointer) {
             if (row.table->hasDefaults) table.hasDefaults = true;
