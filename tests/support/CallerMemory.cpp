@@ -38,12 +38,12 @@ std::byte* CallerMemory::Block(const Table& table, std::uint32_t count) {
 
 void CallerMemory::MakePointersSafe(const Table& table, std::byte* record) {
     constexpr std::uint32_t kRoom = 3;
-    constexpr std::uint32_t kItemRoom = 512 << 10;
+    constexpr std::uint32_t kItemRoom = 1200 << 10;
     for (const Field& field : table) {
         std::byte* const at = record + field.offset;
         const PackedItems* const items = field.cell == Cell::Pointer ? ItemsBehind(table) : nullptr;
         if (items != nullptr) {
-            // Room for one item of any type, in bytes.
+            // Room for three items of any type, in bytes.
             const std::uint32_t heads = kItemRoom / field.table->size;
             record::Store(at, Block(*field.table, heads));
             record::StoreSlot(items->bytes, record, heads * field.table->size);
