@@ -7,16 +7,22 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <thread>
 
 namespace orrery::bench {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+// What this thread has had of a processor, so that other programs' turns do not count.
+double ThreadSeconds() {
+    timespec now;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
 
-double Seconds(Clock::duration time) {
-    return std::chrono::duration<double>(time).count();
+double WallSeconds() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 double Median(std::vector<double> values) {
@@ -24,16 +30,16 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-// Runs `count` calls, text after text in rotation from `first`; returns the seconds a call took.
+// Runs `count` calls, text after text in rotation from `first`; returns the seconds that a call took.
 template <class Call>
 double Run(Call& call, std::size_t variants, std::size_t first, std::size_t count) {
     std::size_t i = first % variants;
-    const auto start = Clock::now();
+    const double start = ThreadSeconds();
     for (std::size_t k = 0; k < count; ++k) {
         benchmark::DoNotOptimize(call(i));
         if (++i == variants) i = 0;
     }
-    return Seconds(Clock::now() - start) / static_cast<double>(count);
+    return (ThreadSeconds() - start) / static_cast<double>(count);
 }
 
 struct Ratio {
@@ -44,7 +50,7 @@ struct Ratio {
 
 class Table {
   public:
-    explicit Table(bool quick) : pairs_(quick ? 3 : 61), time_(quick ? 0.0002 : 0.004) {}
+    explicit Table(bool quick) : pairs_(quick ? 3 : 101), time_(quick ? 0.0002 : 0.002) {}
 
     // Ours and theirs in turn, each pair over the same texts, so that a machine that slows down slows both; the ratio
     // is the median of the pairs' own. Before each sample one call goes untimed: what the other side left of the caches
@@ -173,15 +179,17 @@ void Threads(const Table& table, const std::string& name, Make make, Call call) 
         auto bound = [&](std::size_t i) { return call(bench, i); };
         return Run(bound, bench.records.size(), 0, count);
     };
-    const auto count = static_cast<std::size_t>(std::max(1.0, 5 * table.time() / run(one, 20)));
+    const auto count = static_cast<std::size_t>(std::max(1.0, 10 * table.time() / run(one, 20)));
     std::vector<double> ratios, alone, together;
-    for (std::size_t pair = 0; pair < table.pairs(); ++pair) {
-        alone.push_back(run(one, count));
-        const auto start = Clock::now();
+    for (std::size_t pair = 0; pair < table.pairs() / 4 + 1; ++pair) {
+        double start = WallSeconds();
+        run(one, count);
+        alone.push_back((WallSeconds() - start) / static_cast<double>(count));
+        start = WallSeconds();
         std::thread other([&] { run(two, count); });
         run(one, count);
         other.join();
-        together.push_back(Seconds(Clock::now() - start) / static_cast<double>(count));
+        together.push_back((WallSeconds() - start) / static_cast<double>(count));
         ratios.push_back(2 * alone.back() / together.back());
     }
     Table::Print(name, {Median(ratios), Median(together), Median(alone)}, 0);

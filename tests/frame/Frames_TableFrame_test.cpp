@@ -279,8 +279,8 @@ TEST(Switches, BothWays) {
         EXPECT_STREQ(text, "{ \"Enable\" : true }\n");
         ASSERT_NE(CLIENT_PacketData(command, &record, 0, text, sizeof text), 0);
         EXPECT_STREQ(text, "{ \"Enable\" : false }\n");
-        EXPECT_EQ(CLIENT_PacketData(command, &record, sizeof record, text, 19), 0); // the length without terminator
-        EXPECT_NE(CLIENT_PacketData(command, &record, sizeof record, text, 20), 0);
+        EXPECT_EQ(CLIENT_PacketData(command, &record, sizeof record, text, 20), 0); // no room for the terminator
+        EXPECT_NE(CLIENT_PacketData(command, &record, sizeof record, text, 21), 0);
     }
 }
 

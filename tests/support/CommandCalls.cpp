@@ -82,7 +82,8 @@ Packed Pack(const Command& command, const void* record, std::size_t size) {
     constexpr std::size_t kRoom = std::size_t{32} << 20;
     thread_local const std::unique_ptr<char[]> room(new char[kRoom]); // pages are taken as texts need them
     std::size_t capacity = std::size_t{64} << 10;
-    for (;; capacity = kRoom) {
+    // Packing clears the whole of its buffer, so a large one is for the few texts that need it.
+    for (;; capacity *= 8) {
         const PackRequest request{record, static_cast<std::uint32_t>(size), room.get(),
                                   static_cast<std::uint32_t>(capacity)};
         const Outcome outcome = RunPack(command, request);

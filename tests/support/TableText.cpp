@@ -130,6 +130,8 @@ class Maker {
         if (options_.values != Values::Typical) {
             for (int i = 0; i < 4; ++i)
                 list.Add(Number());
+            for (const std::uint32_t edge : {bound - 1, bound, bound + 1})
+                list.Add(JsonTree(std::to_string(edge)));
         }
         return list;
     }
@@ -147,10 +149,7 @@ class Maker {
         case Kind::UInt: {
             if (field.only == OnlyType::Bool || field.writtenAs == Kind::Bool) return JsonTree("true");
             if (!typical) return Number();
-            auto number = static_cast<std::int32_t>(1 + Next() % 99);
-            number = static_cast<int>(std::min<std::int64_t>(number, field.atMost));
-            if (field.hasUnless && number == field.unless) --number;
-            return JsonTree(std::to_string(number));
+            return JsonTree(std::to_string(TypicalNumber(field)));
         }
         case Kind::Real:
             return typical ? JsonTree(std::to_string(1 + Next() % 99) + ".25") : Number();
@@ -178,6 +177,37 @@ class Maker {
         default:
             return JsonTree("1");
         }
+    }
+
+    // Of any size that the field holds.
+    std::int64_t TypicalNumber(const Field& field) {
+        // A bound is the size of something else in the record, which shows whole only at the bound.
+        if (field.atMost != Field::kNoLimit) return field.atMost;
+        std::int64_t most = INT32_MAX;
+        switch (field.cell) {
+        case record::Cell::I8:
+            most = INT8_MAX;
+            break;
+        case record::Cell::U8:
+            most = UINT8_MAX;
+            break;
+        case record::Cell::I16:
+            most = INT16_MAX;
+            break;
+        case record::Cell::U16:
+            most = UINT16_MAX;
+            break;
+        case record::Cell::F32:
+            most = 1 << 24;
+            break;
+        default:
+            if (field.kind == Kind::UInt) most = UINT32_MAX;
+            break;
+        }
+        const bool isSmall = Next() % 2 == 0;
+        std::int64_t number = 1 + Next() % (isSmall ? std::min<std::int64_t>(most, 99) : most);
+        if (field.kind == Kind::Int && !field.notNegative && Next() % 4 == 0) number = -number;
+        return field.hasUnless && number == field.unless ? number - 1 : number;
     }
 
     JsonTree Words(const Field& field) {

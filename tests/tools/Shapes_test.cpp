@@ -135,6 +135,20 @@ TEST(Shapes, PointersGetRoomAndComeBack) {
     EXPECT_EQ(PackText(command, R"({"nItemCount": 5})").exit, kDone);
 }
 
+// The text has 20 characters and a newline; how much room that takes depends on the command.
+TEST(Shapes, TheRoomThatATextNeedsIsToldExactly) {
+    const std::pair<Capacity, std::uint32_t> needs[] = {
+        {Capacity::Strict, 22}, {Capacity::Loose, 21}, {Capacity::Raw, 21}, {Capacity::OneBefore, 23}};
+    for (const auto& [capacity, room] : needs) {
+        const Command command = Make(kPlace, {}, PackFrame().Fits(capacity));
+        EXPECT_EQ(PackText(command, "{}").out, "{ \"X\" : 0, \"Y\" : 0 }\n");
+        EXPECT_EQ(PackText(command, "{}", {.capacity = room}).exit, kDone);
+        EXPECT_EQ(PackText(command, "{}", {.capacity = room - 1}).err,
+                  "orrery: the text is too long: it needs room for " + std::to_string(room) + " bytes, there are "
+                      + std::to_string(room - 1) + "\n");
+    }
+}
+
 TEST(Shapes, TooManyRecordsForAnyMachine) {
     EXPECT_THAT(ParseText(Make(kPlace, kMany), Envelope("[{}]"), {.records = 1U << 31}).err,
                 HasSubstr("more than this program makes; see --records"));

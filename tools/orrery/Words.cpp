@@ -97,7 +97,7 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.trueAtOne, "TrueAtOne");
     add(field.hasUnless, Call("Unless", std::to_string(field.unless)));
     add(field.notNegative, "UnlessNegative");
-    add(field.atMost != INT32_MAX, Call("AtMost", std::to_string(field.atMost)));
+    add(field.atMost != Field::kNoLimit, Call("AtMost", std::to_string(field.atMost)));
     slot("WhenSet", field.condition);
     add(field.when != nullptr, "When(function)");
     add(field.empty != Empty::NoKey, Call("WhenEmpty", Word(field.empty, kEmptyWords)));
@@ -149,7 +149,7 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.trueAtOne, "true at exactly 1");
     add(field.hasUnless, "not written at " + std::to_string(field.unless));
     add(field.notNegative, "not written when negative");
-    add(field.atMost != INT32_MAX, "written as " + std::to_string(field.atMost) + " when larger");
+    add(field.atMost != Field::kNoLimit, "written as " + std::to_string(field.atMost) + " when larger");
     add(field.condition.exists(), "written only when " + SlotName(table, field.condition) + " is set");
     add(field.when != nullptr, "written only when a function of the record says so");
     add(field.empty == Empty::Array, "written as [ ] when empty");

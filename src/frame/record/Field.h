@@ -96,6 +96,7 @@ struct CustomCodec {
 
 struct Field {
     static constexpr int kMaxRank = 3;
+    static constexpr std::int64_t kNoLimit = INT64_MAX;
 
     const char* name = "";
     // Member names from the table's object down, separated by '/'; null: not in the text; "": the value itself.
@@ -104,8 +105,9 @@ struct Field {
     std::uint32_t size = 0;        // of the whole member; 0 for a row that stores nothing
     std::uint32_t elementSize = 0; // of one element; a text's is its capacity
     std::uint32_t dims[kMaxRank] = {};
-    std::uint8_t rank = 0;    // array levels of the member, a text's own characters not among them
-    bool wholeMember = false; // the codec takes all of them at once
+    std::uint8_t alignment = 1; // of the member
+    std::uint8_t rank = 0;      // array levels of the member, a text's own characters not among them
+    bool wholeMember = false;   // the codec takes all of them at once
     Cell cell = Cell::I32;
     Kind kind = Kind::None;
     Kind writtenAs = Kind::None;
@@ -139,8 +141,8 @@ struct Field {
     bool hasUnless = false;
     std::int32_t unless = 0; // the key is left out at this value
     bool notNegative = false;
-    std::int64_t atMost = INT64_MAX; // a larger number is written as this one
-    Slot condition;                  // the key is written only when this member is set
+    std::int64_t atMost = kNoLimit; // a larger number is written as this one
+    Slot condition;                 // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
     bool linkage = false; // left out by calls that want no linkage
     Empty empty = Empty::NoKey;
@@ -448,6 +450,7 @@ constexpr Field MakePlace(const char* name, std::size_t offset) {
     field.name = name;
     field.offset = static_cast<std::uint32_t>(offset);
     field.size = sizeof(T);
+    field.alignment = alignof(T);
     using Innermost = std::remove_all_extents_t<T>;
     constexpr bool isText = std::is_same_v<Innermost, char>;
     field.cell = CellOf<Innermost>();

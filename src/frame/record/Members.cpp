@@ -38,7 +38,6 @@ std::uint32_t ElementCount(const Field& field) noexcept {
     return count;
 }
 
-
 void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
     for (const Field& field : table) {
         std::byte* const at = record + field.offset;

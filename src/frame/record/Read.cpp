@@ -275,7 +275,12 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
         if (table.shape == Shape::Tuple && !hasAll) return false;
         if (table.shape == Shape::LongTuple && value.size() < table.self.count) return false;
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
-            const Field& field = table.rows[table.nodes[table.self.first + i].row];
+            const Node& node = table.nodes[table.self.first + i];
+            const Field& field = table.rows[node.row];
+            if (node.readPlainly == Plainly::Number) {
+                Store(record + field.offset, value[i].asInt());
+                continue;
+            }
             // A null among the numbers reads as 0, as every other element of the wrong type does.
             ReadElement(field, value[i], record + field.offset, call, {});
         }

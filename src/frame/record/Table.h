@@ -157,7 +157,7 @@ constexpr Plainly ReadPlainly(const Field& row) {
 }
 constexpr Plainly WritePlainly(const Field& row) {
     const bool ruled = !row.writable || row.trueAtOne || row.hasUnless || row.notNegative || row.when != nullptr
-                       || row.condition.exists() || row.atMost != INT32_MAX || row.kind == Kind::Custom;
+                       || row.condition.exists() || row.atMost != Field::kNoLimit || row.kind == Kind::Custom;
     return ruled ? Plainly::No : PlainKind(row, row.writtenAs);
 }
 
@@ -273,24 +273,30 @@ consteval auto BuildTree() {
         if (rows[i].key == nullptr || rows[i].key[0] != '\0') continue;
         Node& node = tree.Add("");
         node.row = static_cast<std::uint16_t>(i);
+        node.readPlainly = ReadPlainly(rows[i]);
+        node.writePlainly = WritePlainly(rows[i]);
         node.needsAbsent = true;
         ++tree.self.count;
     }
     return tree;
 }
 
+// Where the compiler puts the next member of this alignment.
+constexpr std::size_t Aligned(std::size_t end, std::size_t alignment) {
+    return (end + alignment - 1) / alignment * alignment;
+}
+
+// Every row begins where the compiler puts the next member, so that nothing but padding lies between two rows. Only a
+// field that fits into padding, such as a byte in front of a number, can be forgotten unseen.
 template <class Rows>
-consteval bool Tile(std::size_t recordSize) {
+consteval bool Tile() {
     std::size_t end = 0;
     for (const Field& row : Rows::rows) {
         if (row.alias || row.size == 0) continue;
-        const std::size_t gap = row.offset - end;
-        if (row.offset < end || gap >= 8 || (gap > 0 && row.offset % (gap >= 4 ? 8 : gap >= 2 ? 4 : 2) != 0)) {
-            rows_do_not_tile_the_record();
-        }
+        if (row.offset != Aligned(end, row.alignment)) rows_do_not_tile_the_record();
         end = row.offset + row.size;
     }
-    if (end > recordSize || recordSize - end >= 8) rows_do_not_tile_the_record();
+    if (sizeof(typename Rows::R) != Aligned(end, alignof(typename Rows::R))) rows_do_not_tile_the_record();
     return true;
 }
 
@@ -303,7 +309,7 @@ template <class Rows>
 consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     using R = typename Rows::R;
     static_assert(std::is_standard_layout_v<R> && std::is_trivial_v<R>, "records are plain C structures");
-    static_assert(build::Tile<Rows>(sizeof(R)));
+    static_assert(build::Tile<Rows>());
     constexpr auto& tree = build::kTree<Rows>;
     TypedTable<R> table;
     table.record = name;

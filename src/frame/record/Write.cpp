@@ -187,7 +187,7 @@ std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
 }
 
 bool IsPlainNumber(const Field& field) noexcept {
-    return field.writtenAs == Kind::Int && field.cell == Cell::I32;
+    return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
 }
 
 // The elements of a list with a count of its own, or behind a pointer.
@@ -370,8 +370,13 @@ void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) n
     if (table.shape != Shape::Object) {
         call.out.BeginArray();
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
-            const Field& field = table.rows[table.nodes[table.self.first + i].row];
+            const Node& node = table.nodes[table.self.first + i];
+            const Field& field = table.rows[node.row];
             const std::byte* const at = record + field.offset;
+            if (node.writePlainly == Plainly::Number) {
+                call.out.Int(Load<std::int32_t>(at));
+                continue;
+            }
             if (IsElementWritten(field, at))
                 WriteElement(field, at, call);
             else
