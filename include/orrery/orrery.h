@@ -8,11 +8,15 @@
 
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_input.h"
+#include "orrery/analyse_rules.h"
 #include "orrery/encode.h"
+#include "orrery/event_types.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
 #include "orrery/network.h"
 #include "orrery/network_services.h"
+#include "orrery/rule_bodies.h"
+#include "orrery/traffic_rules.h"
 #include "orrery/types.h"
 #include "orrery/wlan.h"
 

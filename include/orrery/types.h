@@ -19,9 +19,10 @@ typedef struct CFG_TIME_SECTION {
     int32_t nEndSec;
 } CFG_TIME_SECTION;
 
-#define ORRERY_WEEK_DAYS 7     /* rows of a week, Sunday first */
-#define ORRERY_DAY_SECTIONS 6  /* sections a day */
-#define ORRERY_SCHEDULE_DAYS 8 /* a week and a holiday row */
+#define ORRERY_WEEK_DAYS 7          /* rows of a week, Sunday first */
+#define ORRERY_DAY_SECTIONS 6       /* sections a day */
+#define ORRERY_SCHEDULE_DAYS 8      /* a week and a holiday row */
+#define ORRERY_RULE_DAY_SECTIONS 10 /* sections a day of an analysis rule's own week */
 
 /* A week of sections and a holiday row. Text form: an array of 7 or 8 arrays of sections. */
 typedef struct CFG_TIME_SCHEDULE {

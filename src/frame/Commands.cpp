@@ -2,6 +2,7 @@
 
 #include "alarm/AlarmCaps.h"
 #include "alarm/AlarmInput.h"
+#include "analyse/RuleFrame.h"
 #include "frame/GeneralSwitch.h"
 #include "frame/JsonParser.h"
 #include "media/Encode.h"
@@ -60,7 +61,20 @@ constexpr Command OwnParse(std::string_view name, const record::Table& table,
     return command;
 }
 
-// Commands of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
+// A buffer of items, described by the caller's record: read by a function of its own and, where there is one, written.
+constexpr Command Own(std::string_view name, const record::Table& table, Outcome (*parse)(const ParseRequest&),
+                      Outcome (*pack)(const PackRequest&)) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = Command::Frame::Own;
+    if (pack != nullptr) command.pack = Command::Frame::Own;
+    command.ownParse = parse;
+    command.ownPack = pack;
+    return command;
+}
+
+// Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
 constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
 constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
 
@@ -140,6 +154,11 @@ constexpr Command kCommands[] = {
     Reply("LowRateWPAN.getCaps", kLowRateWpanCaps, kCaps),
     Generic("WLan", kWlan, kOneCleared),
     Generic("Https", kHttps, kOneCleared),
+
+    // Analysis rules
+    Own("VideoAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
+    Own("AudioAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
+    Own("IVSFramRule", kAnalyseRules, ParseFrameRules, nullptr),
 };
 
 // ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----
@@ -216,6 +235,10 @@ const Command* FindCommand(std::string_view name) noexcept {
         if (EqualsFolded(command.name, name)) return &command;
     }
     return nullptr;
+}
+
+const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
+    return &descriptor == &kAnalyseRules ? &kRuleItems : nullptr;
 }
 
 Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {

@@ -302,6 +302,7 @@ enum class Outcome : std::uint8_t {
     WrongShape,
     TooManyRecords, // of a command that takes all of them or none
     RowRefused,     // a row's function ended the call
+    BadItem,        // an item of a buffer, or an element that should become one, is of no type that is known
     TextTooLong,
     OutOfMemory,
 };

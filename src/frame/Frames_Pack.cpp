@@ -1,6 +1,7 @@
 #include "frame/Frames.h"
 
 #include "frame/Arena.h"
+#include "frame/Deliver.h"
 #include "frame/JsonParser.h"
 #include "frame/LocalText.h"
 #include "frame/Platform/ParamConvert.h"
@@ -81,27 +82,6 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
     return call.refused ? Outcome::RowRefused : Outcome::Done;
 }
 
-bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexcept {
-    switch (capacity) {
-    case Capacity::Strict:
-        return length < room;
-    case Capacity::Loose:
-    case Capacity::Raw:
-        return length <= room;
-    case Capacity::OneBefore:
-        return length + 1 < room;
-    }
-    return false;
-}
-
-// Ends a text of `length` bytes that fits in `room`.
-void Terminate(Capacity capacity, std::size_t length, char* buffer, std::size_t room) noexcept {
-    if (length < room)
-        buffer[length] = '\0';
-    else if (capacity == Capacity::Loose)
-        buffer[room - 1] = '\0';
-}
-
 // Writes into the caller's buffer only what fits; a failure leaves it alone.
 Outcome DeliverOrKeep(const Content& content, Capacity capacity, const PackRequest& request) noexcept {
     const std::size_t room = request.textCapacity;
@@ -120,28 +100,9 @@ Outcome DeliverOrKeep(const Content& content, Capacity capacity, const PackReque
     return Outcome::Done;
 }
 
-// Writes straight into the caller's buffer and clears what the text leaves of it; a text that does not fit leaves
-// zeros.
-Outcome Deliver(const Content& content, Capacity capacity, const PackRequest& request) noexcept {
-    const std::size_t room = request.textCapacity;
-    char* const buffer = request.textBuffer;
-    json::TextWriter out(buffer, room);
-    Outcome outcome = WriteText(content, out);
-    if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
-    if (outcome != Outcome::Done) {
-        std::memset(buffer, 0, room);
-        return outcome;
-    }
-    if (out.length() < room)
-        std::memset(buffer + out.length(), 0, room - out.length());
-    else
-        Terminate(capacity, out.length(), buffer, room);
-    return Outcome::Done;
-}
-
 Outcome Deliver(const Content& content, const PackFrame& frame, const PackRequest& request) noexcept {
-    return frame.keepsText ? DeliverOrKeep(content, frame.capacity, request)
-                           : Deliver(content, frame.capacity, request);
+    if (frame.keepsText) return DeliverOrKeep(content, frame.capacity, request);
+    return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, frame.capacity, request);
 }
 
 } // namespace
@@ -199,7 +160,7 @@ Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, co
         std::memcpy(whole, first, request.recordSize);
         content.first = whole;
     }
-    return Deliver(content, Capacity::Strict, request);
+    return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, Capacity::Strict, request);
 }
 
 } // namespace orrery

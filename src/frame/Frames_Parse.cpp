@@ -1,10 +1,7 @@
 #include "frame/Frames.h"
 
-#include "frame/Arena.h"
-#include "frame/JsonParser.h"
-#include "frame/LocalText.h"
+#include "frame/Document.h"
 #include "frame/Platform/ParamConvert.h"
-#include "frame/json/Reader.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -16,19 +13,6 @@ namespace {
 
 using json::Value;
 using record::ReadCall;
-
-// Everything that one call needs besides the caller's buffers. A reply of a few kilobytes fits the first chunk.
-struct Document {
-    StackArena<std::size_t{16} << 10> arena;
-    LocalText text{arena};
-    JsonParser parser{text};
-    Value root;
-
-    Outcome Parse(const char* source) noexcept {
-        if (json::Parse(std::string_view(source), arena, root)) return Outcome::Done;
-        return arena.failed() ? Outcome::OutOfMemory : Outcome::NoJson;
-    }
-};
 
 bool Passes(ResultTest test, const Value& result) noexcept {
     switch (test) {

@@ -27,6 +27,7 @@ void CheckFailure(const Command& command, Outcome outcome, std::span<const std::
                   const std::vector<std::byte>& before) {
     switch (outcome) {
     case Outcome::Done:
+    case Outcome::BadItem:    // delivers what was placed before it
     case Outcome::RowRefused: // delivers what was read before it
         return;
     case Outcome::BadArguments:

@@ -1,6 +1,7 @@
 #include "support/TableText.h"
 
 #include "frame/JsonParser.h"
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -299,7 +300,21 @@ JsonTree RecordTree(const Table& table, const TextOptions& options) {
 JsonTree ReplyTree(const Command& command, const TextOptions& options) {
     Maker maker(options);
     JsonTree value;
-    if (!TakesMany(command)) {
+    if (const PackedItems* const items = ItemsBehind(*command.table)) {
+        // Types in turn; each value of one item is that of its type's record.
+        constexpr unsigned kMostItems = 3;
+        value = JsonTree::Array();
+        for (unsigned i = 0; i < std::min(options.records, kMostItems); ++i) {
+            const auto index = static_cast<std::uint32_t>((options.seed * 7 + i) % items->typeCount);
+            const ItemType type = items->typeAt(index);
+            JsonTree item = maker.OneRecord(*type.table);
+            if (item.kind() == JsonTree::Kind::Object) {
+                item.At("Type") = JsonTree::String(type.name);
+                item.At("Class") = JsonTree::String("Normal");
+            }
+            value.Add(std::move(item));
+        }
+    } else if (!TakesMany(command)) {
         value = maker.OneRecord(*command.table);
     } else if (TakesMembers(command)) {
         value = JsonTree::Object();

@@ -50,7 +50,8 @@ TEST(Schema, ListsEveryCommandWithARecordOfTheList) {
 // "i32", "char", "record:CFG_POINT", "ptr:CFG_ITEM" with all dimensions.
 std::string TypeInSchema(const Json::Value& field) {
     std::string type = field["type"].asString();
-    if (field.isMember("record")) type += ":" + field["record"].asString();
+    const bool isBytes = field["bytes"].asBool(); // the record is only the first of what stands there
+    if (field.isMember("record")) type += ":" + (isBytes ? "unsigned char" : field["record"].asString());
     for (const Json::Value& dim : field["dims"])
         type += "[" + dim.asString() + "]";
     return type;

@@ -247,6 +247,8 @@ std::string ExplainParse(const Command& command, Outcome outcome, const Document
         return name + " takes all records of the reply or none: it has "
                + std::to_string(LookAt(command, document.root).records) + ", the buffer room for "
                + std::to_string(bufferSize / std::max(command.table->size, 1U));
+    case Outcome::BadItem:
+        return "the reply holds an item of a type that " + name + " does not take";
     case Outcome::RowRefused:
         return "a value of the reply cannot stand in the record of " + name;
     case Outcome::OutOfMemory:
@@ -279,6 +281,8 @@ std::string ExplainPack(const Command& command, Outcome outcome, std::uint32_t r
         if (needed == 0) return "the text is longer than this program makes";
         return "the text is too long: it needs room for " + std::to_string(needed) + " bytes, there are "
                + std::to_string(capacity);
+    case Outcome::BadItem:
+        return "an item is of a type that " + name + " does not know";
     case Outcome::RowRefused:
         return "a field of the record has no text";
     case Outcome::OutOfMemory:

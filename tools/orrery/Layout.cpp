@@ -3,6 +3,8 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include <set>
+
 namespace orrery::tool {
 
 using namespace record;
@@ -61,13 +63,15 @@ std::string NamesText(const Tables& tables, const NameTable& names) {
 
 Regularity CountRegularity() {
     Regularity count;
+    std::set<const CustomCodec*> shared;
     for (const Table* table : Tables().all) {
         ++count.tables;
         count.functionTables += IsIrregular(*table);
         for (const Field& field : *table) {
             ++count.rows;
             const bool custom = field.kind == Kind::Custom || field.writtenAs == Kind::Custom;
-            count.virtualRows += field.size == 0;
+            // A row that many tables share is one row's work.
+            count.virtualRows += field.size == 0 && shared.insert(field.custom).second;
             count.customRows += custom && field.size > 0;
             count.guardedRows += !custom && field.size > 0 && field.when != nullptr;
         }

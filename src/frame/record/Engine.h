@@ -37,6 +37,9 @@ struct WriteCall {
 
     std::string_view quotedKey; // of the row that is being written
 
+    bool linked = true;            // false leaves out rows that are linkage
+    const void* context = nullptr; // what a family hands to its own rows' functions
+
     // Opens the row's key in the current object; a value must follow. A row that writes nothing leaves it alone.
     void Key() noexcept { Quoted(quotedKey); }
     // Opens a member whose text, `"Key" : ` with quotes and colon, is given.

@@ -132,6 +132,9 @@ struct Field {
     bool amongKeys = false; // a keyed list whose members stand in the record's own object
     bool zeroed = false;    // elements of a caller's array are cleared before they are read
     Nulls nulls = Nulls::Count;
+    Nulls refused = Nulls::Count; // what an element does that its table does not take
+    Slot readCondition;           // the key is read only when this member is set
+    std::uint16_t firstBytes = 0; // of a text, before it is converted; 0: all of it
 
     // Writing
     bool writable = true;
@@ -143,6 +146,7 @@ struct Field {
     Slot condition;                 // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
     bool untilEmpty = false; // a list of texts ends at the first empty one
+    bool linkage = false;    // left out by calls that want no linkage
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;
     bool unlessBare = false;   // an object without keys is left out
@@ -222,6 +226,24 @@ struct Field {
         f.nulls = rule;
         return f;
     }
+    // An element that its table does not take is treated as this rule treats a null.
+    constexpr Field OnRefused(Nulls rule) const {
+        auto f = *this;
+        f.refused = rule;
+        return f;
+    }
+    // Read only when the member is set, by a key that stands before this one in key order.
+    constexpr Field ReadWith(Slot slot) const {
+        auto f = *this;
+        f.readCondition = slot;
+        return f;
+    }
+    // Only so many bytes of a text are converted.
+    constexpr Field FirstBytes(std::uint16_t bytes) const {
+        auto f = *this;
+        f.firstBytes = bytes;
+        return f;
+    }
     constexpr Field Only(OnlyType type) const {
         auto f = *this;
         f.only = type;
@@ -283,6 +305,12 @@ struct Field {
         f.untilEmpty = true;
         return f;
     }
+    // Left out by a call that writes without linkage.
+    constexpr Field WhenLinked() const {
+        auto f = *this;
+        f.linkage = true;
+        return f;
+    }
     constexpr Field WhenEmpty(Empty rule) const {
         auto f = *this;
         f.empty = rule;
@@ -315,6 +343,12 @@ struct Field {
     constexpr Field Alias() const {
         auto f = *this;
         f.alias = true;
+        return f;
+    }
+    // What a pointer to bytes points at, for those who lay a record out; functions of the family read and write it.
+    constexpr Field PointsTo(const Table& first) const {
+        auto f = *this;
+        f.table = &first;
         return f;
     }
     template <class Codec>

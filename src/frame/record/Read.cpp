@@ -58,8 +58,8 @@ void ReadSwitches(const Field& field, const Value& value, std::byte* at) noexcep
     }
 }
 
-// One element of a field, or the whole member for the kinds that take it at once.
-void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
+// One element of a field, or the whole member for the kinds that take it at once. False when a nested table refused.
+bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
                  std::string_view memberName) noexcept {
     switch (field.kind) {
     case Kind::None:
@@ -83,9 +83,12 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         StoreReal(field.cell, at, value.asDouble());
         break;
     case Kind::Text:
-    case Kind::RawText:
-        call.parser.GetJsonString(value, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
+    case Kind::RawText: {
+        const bool isCut = field.firstBytes != 0 && value.isString() && value.asString().size() > field.firstBytes;
+        const Value text = isCut ? Value::OfString(value.asString().substr(0, field.firstBytes)) : value;
+        call.parser.GetJsonString(text, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
         break;
+    }
     case Kind::Names:
         if (const auto code = field.names->CodeOf(value.asString())) StoreInteger(field.cell, at, *code);
         break;
@@ -97,8 +100,7 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
                                           row.elementSize, true);
             }
         }
-        ReadFields(table, value, at, call);
-        break;
+        return ReadFields(table, value, at, call);
     }
     case Kind::TimeSection:
         JsonParser::GetTimeSection(value, reinterpret_cast<CFG_TIME_SECTION*>(at));
@@ -136,6 +138,7 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         ReadSwitches(field, value, at);
         break;
     }
+    return true;
 }
 
 // A level of a list: `level` 0 is the member's first dimension. Returns the count that the rules give it.
@@ -149,14 +152,14 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
         ++used;
         if (!innermost) {
             if (element.isArray()) ReadList(field, level + 1, element, {at, field.dims[level + 1]}, call);
-            return;
+            return true;
         }
         if (field.cell == Cell::Pointer) {
             if (field.zeroed) std::memset(at, 0, stride);
             if (field.table->hasDefaults && field.zeroed) SetDefaults(*field.table, at);
         }
         if (field.amongKeys && field.table->hasDefaults) SetDefaults(*field.table, at);
-        ReadElement(field, element, at, call, memberName);
+        return ReadElement(field, element, at, call, memberName);
     };
     if (field.keyed) {
         for (const json::Member& member : value.members()) {
@@ -175,9 +178,14 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             if (element.isNull()) {
                 if (field.nulls == Nulls::Stop) break;
                 if (field.nulls == Nulls::CloseUp) continue;
+                readSlot(element, {});
+                if (field.nulls == Nulls::Count) ++counted;
+                continue;
             }
-            readSlot(element, {});
-            if (!element.isNull() || field.nulls == Nulls::Count) ++counted;
+            const Nulls taken = readSlot(element, {}) ? Nulls::Count : field.refused;
+            if (taken == Nulls::Stop) break;
+            if (taken == Nulls::CloseUp) --used;
+            if (taken == Nulls::Count) ++counted;
         }
     }
     return field.countUncapped ? std::int64_t{value.size()} : std::int64_t{counted};
@@ -241,6 +249,7 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
 void ReadField(const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (!field.readable || (value.isNull() && !field.always)) return;
     if (!IsOfType(field.only, value)) return;
+    if (field.readCondition.exists() && LoadSlot(field.readCondition, record) == 0) return;
     if (field.kind == Kind::Custom) {
         if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
         return;
@@ -267,6 +276,7 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
     if (table.shape != Shape::Object) {
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;
+        if (table.shape == Shape::LongTuple && value.size() < table.self.count) return false;
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
             const Node& node = table.nodes[table.self.first + i];
             const Field& field = table.rows[node.row];

@@ -52,6 +52,7 @@ enum class Shape : std::uint8_t {
     Object,
     Tuple,      // an array of exactly as many elements as the record has rows with the key ""
     LooseTuple, // the same without the test of its length: missing elements read as null
+    LongTuple,  // at least as many elements; what follows them is passed over
 };
 
 struct Table {

@@ -73,6 +73,12 @@ void WriteSwitches(const Field& field, const std::byte* at, WriteCall& call) noe
     call.out.EndArray();
 }
 
+// The row of a name table that a field's code writes.
+const Name* NameAt(const Field& field, const std::byte* at) noexcept {
+    const auto code = std::min<std::int64_t>(LoadInteger(field.cell, at), field.atMost);
+    return field.names->RowOf(static_cast<std::int32_t>(code));
+}
+
 // One element as a value. What has no text of its own is null in its place.
 void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noexcept {
     json::TextWriter& out = call.out;
@@ -105,8 +111,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
                                   field.writtenAs == Kind::Text);
         break;
     case Kind::Names: {
-        const auto code = LoadInteger(field.cell, at);
-        const Name* const row = field.names->RowOf(static_cast<std::int32_t>(code));
+        const Name* const row = NameAt(field, at);
         if (row != nullptr)
             out.String(row->text);
         else if (field.names->outside == NameTable::Outside::Text)
@@ -157,7 +162,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
 bool IsElementWritten(const Field& field, const std::byte* at) noexcept {
     if (field.kind == Kind::Record) return IsWritten(*field.table, at);
     if (field.writtenAs == Kind::Names && field.names->outside == NameTable::Outside::NoKey) {
-        return field.names->RowOf(static_cast<std::int32_t>(LoadInteger(field.cell, at))) != nullptr;
+        return NameAt(field, at) != nullptr;
     }
     return true;
 }
@@ -284,7 +289,8 @@ void WriteUnlessBare(const Field& field, const std::byte* at, WriteCall& call) n
 }
 
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
-    if (!field.writable || field.amongKeys) return; // the latter come with the keys
+    // Members among the record's keys come with the keys.
+    if (!field.writable || field.amongKeys || (field.linkage && !call.linked)) return;
     if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
     if (field.condition.exists() && LoadSlot(field.condition, record) == 0) return;
     if (field.when != nullptr && !field.when(record)) return;
