@@ -81,6 +81,7 @@ struct Slot {
     Cell cell = Cell::I32;
 
     constexpr bool exists() const { return offset != kNone; }
+    constexpr bool operator==(const Slot&) const = default;
 };
 
 // Functions of a row that no word can say. `record` is the record that holds the field, aligned for nothing.
@@ -153,6 +154,8 @@ struct Field {
     bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
 
     bool alias = false; // another key of a field that has a row already
+
+    constexpr bool operator==(const Field&) const = default;
 
     // ---- Words of the vocabulary ---------------------------------------------------------------------------------
 

@@ -161,13 +161,47 @@ constexpr Plainly PlainKind(const Field& row, Kind kind) {
     if (row.rank > 0 || row.cell != Cell::I32) return Plainly::No;
     return kind == Kind::Bool ? Plainly::Switch : kind == Kind::Int ? Plainly::Number : Plainly::No;
 }
+// The row with its place, codec and flag, and none of its other words.
+constexpr Field WithoutWords(const Field& row) {
+    Field bare;
+    bare.name = row.name;
+    bare.key = row.key;
+    bare.offset = row.offset;
+    bare.size = row.size;
+    bare.elementSize = row.elementSize;
+    bare.alignment = row.alignment;
+    bare.cell = row.cell;
+    bare.kind = row.kind;
+    bare.writtenAs = row.writtenAs;
+    bare.flag = row.flag;
+    bare.alias = row.alias;
+    return bare;
+}
+// A row goes the short way only when all its words are known to leave that direction alone.
 constexpr Plainly ReadPlainly(const Field& row) {
-    return row.readable && row.only == OnlyType::Any ? PlainKind(row, row.kind) : Plainly::No;
+    Field plain = WithoutWords(row);
+    plain.always = row.always;
+    plain.hasDefault = row.hasDefault;
+    plain.defaultValue = row.defaultValue;
+    plain.fromRoot = row.fromRoot;
+    plain.writable = row.writable;
+    plain.trueAtOne = row.trueAtOne;
+    plain.hasUnless = row.hasUnless;
+    plain.unless = row.unless;
+    plain.notNegative = row.notNegative;
+    plain.atMost = row.atMost;
+    plain.condition = row.condition;
+    plain.when = row.when;
+    return plain == row ? PlainKind(row, row.kind) : Plainly::No;
 }
 constexpr Plainly WritePlainly(const Field& row) {
-    const bool ruled = !row.writable || row.trueAtOne || row.hasUnless || row.notNegative || row.when != nullptr
-                       || row.condition.exists() || row.atMost != Field::kNoLimit || row.kind == Kind::Custom;
-    return ruled ? Plainly::No : PlainKind(row, row.writtenAs);
+    Field plain = WithoutWords(row);
+    plain.always = row.always;
+    plain.hasDefault = row.hasDefault;
+    plain.defaultValue = row.defaultValue;
+    plain.readable = row.readable;
+    plain.only = row.only;
+    return plain == row ? PlainKind(row, row.writtenAs) : Plainly::No;
 }
 
 struct Limits {
