@@ -8,6 +8,7 @@
 
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_input.h"
+#include "orrery/event_types.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
 #include "orrery/types.h"
