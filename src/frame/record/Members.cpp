@@ -68,6 +68,7 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
         if (field.kind == Kind::Size) {
             Store(at, table.size);
         } else if (field.kind == Kind::Record && field.cell != Cell::Pointer) {
+            if (field.table->startsWhenRead) continue;
             if (!(defaults ? field.table->hasDefaults : field.table->hasSizeWords)) continue;
             const std::uint32_t count = ElementCount(field);
             for (std::uint32_t i = 0; i < count; ++i) {

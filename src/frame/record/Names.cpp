@@ -5,7 +5,8 @@
 namespace orrery::record {
 
 std::optional<std::int32_t> NameTable::CodeOf(std::string_view text) const noexcept {
-    for (const Name* row = rows; row != rows + count; ++row) {
+    for (std::uint16_t i = 0; i < count; ++i) {
+        const Name* const row = rows + (lastWins ? count - 1 - i : i);
         if (row->text.size() != text.size()) continue;
         const bool exact = compare == Compare::Exact || row->compare == Compare::Exact;
         if (exact ? row->text == text : EqualsFolded(row->text, text)) return row->code;
