@@ -11,6 +11,7 @@
 #include "orrery/analyse_rules.h"
 #include "orrery/encode.h"
 #include "orrery/event_types.h"
+#include "orrery/events_traffic.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
 #include "orrery/network.h"
@@ -62,18 +63,23 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
 int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
                           uint32_t textCapacity);
 
-/* Takes one decoded event. The record lives only during the call; `reserved` and `sequence` are 0. The result is
- * ignored. */
+/* Takes one decoded event. `eventType` is its code and tells which record `record` is: DEV_EVENT_<NAME>_INFO of the
+ * events_... headers. `recordSize` is the record's size, unless its header says otherwise. The record and all that its
+ * pointers lead to live only during the call. `reserved` and `sequence` are 0. The result is ignored. */
 typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record, uint32_t recordSize, void* reserved,
                                          int32_t sequence, void* user);
 
-/* Decodes the text of analyzer events and hands each to the callback, on the calling thread. 0 when `data` or
- * `callback` is null. `data` must be terminated; `length` is not looked at. This version decodes no event yet and
- * answers 0 for every text. */
+/* Decodes the text of analyzer events, { "Event" : [ { "Code", "Action", "Data" }, ... ] } or "EventList" when there is
+ * no "Event", and hands each to the callback, in the order of the text, on the calling thread: at most 128, those whose
+ * "Code" is known. The callback may call into the library again.
+ *
+ * 0 when `data` or `callback` is null, otherwise 1, also when the text is no JSON and nothing is handed over. `data`
+ * must be terminated; `length` is not looked at. An event for whose record there is no memory is left out; what a
+ * pointer would lead to is null then. */
 int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
 
-/* Decodes a text whose top-level keys name what it carries. Arguments and refusals as above; nor does this version
- * decode any of it yet: it answers 0 for every text. */
+/* Decodes a text whose top-level keys name what it carries. Arguments as above. This version decodes none of it
+ * yet and answers 0 for every text. */
 int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
 
 /* Reads a reply with a template of analysis settings into `output`. 0 when an argument other than `classType` is null

@@ -1,4 +1,5 @@
 // The exported translation functions: argument tests, and on to the command table.
+#include "events/ReqRealPicture.h"
 #include "frame/Commands.h"
 
 #include "orrery/orrery.h"
@@ -24,8 +25,10 @@ ORRERY_EXPORT int32_t CLIENT_PacketData(const char* command, const void* record,
     return orrery::RunPack(*found, {record, recordSize, textBuffer, textCapacity}) == Outcome::Done;
 }
 
-ORRERY_EXPORT int32_t CLIENT_ParseAnalyzerEventData(const char*, uint32_t, ORRERY_EVENT_CALLBACK, void*) {
-    return 0;
+ORRERY_EXPORT int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t, ORRERY_EVENT_CALLBACK callback,
+                                                    void* user) {
+    if (data == nullptr || callback == nullptr) return 0;
+    return orrery::DeliverEvents(data, callback, user);
 }
 
 ORRERY_EXPORT int32_t CLIENT_ParseDataByCallback(const char*, uint32_t, ORRERY_EVENT_CALLBACK, void*) {

@@ -69,4 +69,10 @@ void LogTrace(std::uint32_t code, const char* format, ...) noexcept {
     va_end(list);
 }
 
+bool LogHasSink() noexcept {
+    bool has = false;
+    Forward([&](LogSink&) { has = true; });
+    return has;
+}
+
 } // namespace orrery

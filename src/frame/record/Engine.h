@@ -13,9 +13,10 @@ namespace orrery::record {
 // What a reading call carries along.
 struct ReadCall {
     JsonParser& parser;
-    const json::Value& root; // the whole document, for keys outside the record's object
-    bool refused = false;    // a row's function ends the call with 0
-    std::uint32_t index = 0; // of the caller's record that is being read
+    const json::Value& root;       // the whole document, for keys outside the record's object
+    bool refused = false;          // a row's function ends the call with 0
+    std::uint32_t index = 0;       // of the caller's record that is being read
+    const void* context = nullptr; // what Supplied fields are copied from, of the type that their rows name
 };
 
 // An object on the way out. It is opened by its first key, so that an object without keys leaves no trace.

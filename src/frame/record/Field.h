@@ -50,11 +50,20 @@ enum class Kind : std::uint8_t {
     BitMask,         // list of numbers <-> bits of an array of words; numbers out of range are ignored
     BitMaskLoose,    // as BitMask, but -1 to -31 fall into word 0 by their remainder, as old devices count on
     Switches,        // list of numbers <-> elements set to 1
+    Supplied,        // not in the text: copied from what the call carries along
     Custom,          // functions of the row's own
 };
 
 // Only values of exactly this JSON type are read.
-enum class OnlyType : std::uint8_t { Any, String, Bool, Integer };
+enum class OnlyType : std::uint8_t {
+    Any,
+    String,
+    Bool,
+    Integer,
+    Unsigned, // a number past the signed ones
+    Integral, // an integer or a bool
+    Array,
+};
 
 // What a null element of a list does on reading.
 enum class Nulls : std::uint8_t {
@@ -115,6 +124,7 @@ struct Field {
     const Table* table = nullptr; // of a nested record, whatever its codec
     const NameTable* names = nullptr;
     const CustomCodec* custom = nullptr;
+    std::uint32_t suppliedFrom = 0; // place in what the call carries along
 
     // Reading
     bool always = false;   // read also when absent
@@ -133,9 +143,12 @@ struct Field {
     bool amongKeys = false; // a keyed list whose members stand in the record's own object
     bool zeroed = false;    // elements of a caller's array are cleared before they are read
     Nulls nulls = Nulls::Count;
-    Nulls refused = Nulls::Count; // what an element does that its table does not take
-    Slot readCondition;           // the key is read only when this member is set
-    std::uint16_t firstBytes = 0; // of a text, before it is converted; 0: all of it
+    Nulls refused = Nulls::Count;  // what an element does that its table does not take
+    Slot readCondition;            // the key is read only when this member is set
+    std::uint16_t firstBytes = 0;  // of a text, before it is converted; 0: all of it
+    std::uint8_t atLeast = 0;      // an array is read only when it has so many elements
+    bool owned = false;            // the pointer's block is made for the document and lives as long as the call's arena
+    const char* failure = nullptr; // what the log says when there is no memory for an owned block
 
     // Writing
     bool writable = true;
@@ -209,6 +222,20 @@ struct Field {
     constexpr Field Exactly() const {
         auto f = *this;
         f.exactly = true;
+        return f;
+    }
+    // An array is read only when it has so many elements; those behind are passed over.
+    constexpr Field AtLeast(std::uint8_t elements) const {
+        auto f = *this;
+        f.atLeast = elements;
+        return f;
+    }
+    // The pointer gets a block for as many records as the document has; null, with a count of 0, when it has none or
+    // there is no memory, which `failureLine` then tells the log.
+    constexpr Field Owned(const char* failureLine = nullptr) const {
+        auto f = *this;
+        f.owned = true;
+        f.failure = failureLine;
         return f;
     }
     constexpr Field Keyed() const {
@@ -431,8 +458,18 @@ struct Nested {
     static constexpr Kind kind = Kind::Record;
     static constexpr bool wholeMember = false;
     template <class T>
-    static constexpr bool accepts = std::is_same_v<T, R> || std::is_same_v<T, R*>;
+    static constexpr bool accepts = std::is_same_v<T, R> || std::is_same_v<T, R*> || std::is_same_v<T, const R*>;
     const Table* table;
+};
+
+// A member copied from one of the same type in what the call carries along; SUPPLIED makes it.
+template <class M>
+struct SuppliedFrom {
+    static constexpr Kind kind = Kind::Supplied;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, M>;
+    std::uint32_t offset;
 };
 
 // Functions of the row's own.
@@ -527,9 +564,19 @@ constexpr Field MakeField(const char* name, std::size_t offset, const char* key,
     field.kind = field.writtenAs = C::kind;
     field.wholeMember = C::wholeMember;
     if constexpr (C::kind == Kind::Names) field.names = codec.table;
+    if constexpr (requires { codec.names; }) field.names = codec.names;
+    if constexpr (requires { C::owned; }) field.owned = C::owned;
     if constexpr (C::kind == Kind::Record) field.table = codec.table;
     if constexpr (C::kind == Kind::Custom) field.custom = codec.codec;
     (void)codec;
+    return field;
+}
+
+template <class T, class M>
+constexpr Field MakeField(const char* name, std::size_t offset, SuppliedFrom<M> source) {
+    Field field = MakeField<T>(name, offset, nullptr, source);
+    field.suppliedFrom = source.offset;
+    field.writable = false;
     return field;
 }
 

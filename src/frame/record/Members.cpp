@@ -44,7 +44,7 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
         if (field.kind == Kind::Size) {
             Store(at, table.size);
         } else if (field.cell == Cell::Record) {
-            if (defaults && field.amongKeys) continue; // set when an element is read
+            if (defaults && (field.amongKeys || field.table->startsWhenRead)) continue; // set when it is read
             if (!(defaults ? field.table->hasDefaults : field.table->hasSizeWords)) continue;
             const std::uint32_t count = ElementCount(field);
             for (std::uint32_t i = 0; i < count; ++i) {

@@ -38,6 +38,7 @@ struct NameTable {
     Compare compare = Compare::Folded;
     bool countsUp = false; // the codes go up by one from row to row, as those of nearly every table do
     bool unknownLeaves = false;
+    bool lastWins = false;
     std::int32_t unknownCode = 0;
     Outside outside = Outside::NoKey;
     std::string_view outsideText;
@@ -54,6 +55,12 @@ struct NameTable {
         table.unknownLeaves = true;
         return table;
     }
+    // Of several rows with the same text the last one's code is read.
+    constexpr NameTable LastWins() const {
+        NameTable table = *this;
+        table.lastWins = true;
+        return table;
+    }
     // What a code of no row writes; without either word the key is left out.
     constexpr NameTable OutsideWrites(std::string_view text) const {
         NameTable table = *this;
@@ -67,7 +74,7 @@ struct NameTable {
         return table;
     }
 
-    // The code of a text: that of the first row that matches, else what Unknown says.
+    // The code of a text: that of the first (or last) row that matches, else what Unknown says.
     std::optional<std::int32_t> CodeOf(std::string_view text) const noexcept;
     // The row whose text a code writes: the first with that code; null when there is none.
     const Name* RowOf(std::int32_t code) const noexcept;

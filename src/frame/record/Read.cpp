@@ -1,5 +1,7 @@
 #include "frame/record/Engine.h"
 
+#include "frame/Log.h"
+
 #include <algorithm>
 #include <bit>
 
@@ -15,10 +17,10 @@ struct Elements {
     std::uint32_t room;
 };
 
-Elements ElementsOf(const Field& field, std::byte* record) noexcept {
+Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSize) noexcept {
     if (field.cell != Cell::Pointer) return {record + field.offset, field.dims[0]};
     auto* const first = Load<std::byte*>(record + field.offset);
-    const std::int64_t room = LoadSlot(field.capacity, record);
+    const std::int64_t room = field.owned ? listSize : LoadSlot(field.capacity, record);
     if (first == nullptr || room <= 0) return {nullptr, 0};
     return {first, static_cast<std::uint32_t>(std::min<std::int64_t>(room, UINT32_MAX))};
 }
@@ -33,6 +35,12 @@ bool IsOfType(OnlyType only, const Value& value) noexcept {
         return value.isBool();
     case OnlyType::Integer:
         return value.isInt() || value.isUInt();
+    case OnlyType::Unsigned:
+        return value.isUInt();
+    case OnlyType::Integral:
+        return value.isIntegral();
+    case OnlyType::Array:
+        return value.type() == json::Type::Array;
     }
     return true;
 }
@@ -65,6 +73,7 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
     case Kind::None:
     case Kind::Size:
     case Kind::MemberName:
+    case Kind::Supplied:
     case Kind::Custom:
         break;
     case Kind::Presence:
@@ -94,6 +103,7 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         break;
     case Kind::Record: {
         const Table& table = *field.table;
+        if (table.startsWhenRead && table.hasDefaults) SetDefaults(table, at);
         for (const Field& row : table) {
             if (row.kind == Kind::MemberName) {
                 call.parser.GetJsonString(Value::OfString(memberName), reinterpret_cast<char*>(at + row.offset),
@@ -147,6 +157,7 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
     const std::uint32_t stride = StrideOf(field, level);
     std::uint32_t used = 0;    // slots taken
     std::uint32_t counted = 0; // slots that count
+    // False for an element that leaves a hole.
     const auto readSlot = [&](const Value& element, std::string_view memberName) {
         std::byte* const at = room.first + std::size_t{used} * stride;
         ++used;
@@ -156,7 +167,7 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
         }
         if (field.cell == Cell::Pointer) {
             if (field.zeroed) std::memset(at, 0, stride);
-            if (field.table->hasDefaults && field.zeroed) SetDefaults(*field.table, at);
+            if (field.table->hasDefaults && (field.zeroed || field.owned)) SetDefaults(*field.table, at);
         }
         if (field.amongKeys && field.table->hasDefaults) SetDefaults(*field.table, at);
         return ReadElement(field, element, at, call, memberName);
@@ -189,6 +200,22 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
         }
     }
     return field.countUncapped ? std::int64_t{value.size()} : std::int64_t{counted};
+}
+
+// A block for all elements of the list, cleared; none when there is no memory for it.
+void MakeOwnedBlock(const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    const std::uint32_t count = value.size();
+    const std::uint32_t size = field.table->size;
+    std::byte* block = nullptr;
+    if (count > 0) {
+        block = static_cast<std::byte*>(call.parser.text().arena().Allocate(std::size_t{count} * size));
+        if (block == nullptr && field.failure != nullptr) {
+            LogSetPosition("Events", 0, E_LOG_LEVEL_ERROR);
+            LogTrace(E_LOG_CODE_NONE, "%s", field.failure);
+        }
+    }
+    if (block != nullptr) std::memset(block, 0, std::size_t{count} * size);
+    Store(record + field.offset, block);
 }
 
 bool TakesList(const Field& field, const Value& value, std::uint32_t extent) noexcept {
@@ -250,6 +277,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
     if (!field.readable || (value.isNull() && !field.always)) return;
     if (!IsOfType(field.only, value)) return;
     if (field.readCondition.exists() && LoadSlot(field.readCondition, record) == 0) return;
+    if (field.atLeast != 0 && value.elements().size() < field.atLeast) return;
     if (field.kind == Kind::Custom) {
         if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
         return;
@@ -259,7 +287,11 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         StoreSlot(field.flag, record, 1);
         ReadElement(field, value, record + field.offset, call, {});
     } else if (field.rank > 0 || field.cell == Cell::Pointer) {
-        const Elements room = ElementsOf(field, record);
+        if (field.owned) {
+            if (!value.isArray()) return;
+            MakeOwnedBlock(field, value, record, call);
+        }
+        const Elements room = ElementsOf(field, record, value.size());
         if (!TakesList(field, value, room.room)) return;
         StoreSlot(field.flag, record, 1);
         const std::int64_t count = ReadList(field, 0, value, room, call);
@@ -273,6 +305,12 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
 bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
     if (table.clearsFlags) ClearFlags(table, record);
+    if (table.hasSupplied && call.context != nullptr) {
+        const auto* const context = static_cast<const std::byte*>(call.context);
+        for (const Field& row : table) {
+            if (row.kind == Kind::Supplied) std::memcpy(record + row.offset, context + row.suppliedFrom, row.size);
+        }
+    }
     if (table.shape != Shape::Object) {
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;

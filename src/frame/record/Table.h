@@ -70,10 +70,12 @@ struct Table {
     const Field* amongKeys = nullptr; // the list whose members stand among the record's keys, when it has one
 
     Shape shape = Shape::Object;
-    bool hasDefaults = false;  // some field, nested ones included, starts at something other than zero
-    bool hasSizeWords = false; // some field, nested ones included, is a size word
-    bool guarded = false;      // neither read nor written unless the size word holds exactly the record's size
-    bool clearsFlags = false;  // presence flags, nested ones included, start at 0 in a record that keeps its values
+    bool hasDefaults = false;    // some field, nested ones included, starts at something other than zero
+    bool hasSizeWords = false;   // some field, nested ones included, is a size word
+    bool startsWhenRead = false; // defaults and size words are set by reading it: what is not read stays zero
+    bool hasSupplied = false;    // some field comes from what the call carries along
+    bool guarded = false;        // neither read nor written unless the size word holds exactly the record's size
+    bool clearsFlags = false;    // presence flags, nested ones included, start at 0 in a record that keeps its values
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
@@ -103,6 +105,12 @@ struct TypedTable : Table {
     constexpr TypedTable ClearsFlags() const {
         TypedTable table = *this;
         table.clearsFlags = true;
+        return table;
+    }
+    // As a part of another record: its defaults and size words are set when it is read, and not before.
+    constexpr TypedTable StartsWhenRead() const {
+        TypedTable table = *this;
+        table.startsWhenRead = true;
         return table;
     }
     // Only records that pass are written.
@@ -367,15 +375,17 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     for (const Field& row : Rows::rows) {
         if (row.hasDefault || row.kind == Kind::Size) table.hasDefaults = true;
         if (row.kind == Kind::Size) table.hasSizeWords = true;
-        if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr) {
+        if (row.kind == Kind::Supplied) table.hasSupplied = true;
+        const bool isOwnedText = row.cell == Cell::Pointer && row.owned && row.kind == Kind::Custom;
+        if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr && !isOwnedText) {
             build::a_nested_record_needs_its_table();
         }
-        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists()) {
+        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !row.owned) {
             build::a_pointer_needs_its_capacity();
         }
         if (row.amongKeys) table.amongKeys = &row;
         if (row.cell == Cell::Record) {
-            if (row.table->hasDefaults && !row.amongKeys) table.hasDefaults = true;
+            if (row.table->hasDefaults && !row.amongKeys && !row.table->startsWhenRead) table.hasDefaults = true;
             if (row.table->hasSizeWords) table.hasSizeWords = true;
         }
     }
@@ -386,6 +396,11 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
 
 #define FIELD(member, ...)                                                                                             \
     ::orrery::record::MakeField<decltype(R::member)>(#member, offsetof(R, member) __VA_OPT__(, ) __VA_ARGS__)
+// A member that is copied from `source`, a member of the same type in what the call carries along (a `contextType`).
+#define SUPPLIED(contextType, source)                                                                                  \
+    ::orrery::record::SuppliedFrom<decltype(contextType::source)> {                                                    \
+        offsetof(contextType, source)                                                                                  \
+    }
 #define AT(member) ::orrery::record::MakeSlot<decltype(R::member)>(offsetof(R, member))
 
 // The table of a record that a command uses, declared `extern const` in the family's header.

@@ -88,6 +88,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
     case Kind::Presence:
     case Kind::MemberName:
     case Kind::Date: // read only
+    case Kind::Supplied:
     case Kind::Custom:
         out.Null();
         break;

@@ -1,0 +1,145 @@
+#include "events/EventCodecs.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace orrery::events {
+
+using json::Value;
+
+void ReadFullText(const Value& value, char* field, std::size_t capacity, JsonParser& parser) noexcept {
+    if (!value.isString()) return;
+    const std::string_view text = value.asString().substr(0, capacity);
+    if (parser.text().isCopyOf(text)) {
+        std::memcpy(field, text.data(), text.size());
+        std::memset(field + text.size(), 0, capacity - text.size());
+        return;
+    }
+    char converted[512]; // above the capacity of every such field, with room for the terminator
+    if (capacity >= sizeof converted) capacity = sizeof converted - 1;
+    const int size = parser.text().ConvertUtf8ToLocal(text.data(), static_cast<int>(text.size()), converted,
+                                                      static_cast<int>(capacity) + 1);
+    std::memcpy(field, converted, static_cast<std::size_t>(size));
+    std::memset(field + size, 0, capacity - static_cast<std::size_t>(size));
+}
+
+const char* OwnText(const Value& value, ReadCall& call) noexcept {
+    const std::size_t size = value.asString().size();
+    auto* const block = call.parser.text().arena().Array<char>(size + 1);
+    if (block != nullptr) call.parser.GetJsonString(value, block, size + 1, true);
+    return block;
+}
+
+const char* OwnText(std::string_view text, Arena& arena) noexcept {
+    auto* const block = arena.Array<char>(text.size() + 1);
+    if (block == nullptr) return nullptr;
+    if (!text.empty()) std::memcpy(block, text.data(), text.size());
+    block[text.size()] = '\0';
+    return block;
+}
+
+void StoreUtc(std::int64_t seconds, EVENT_TIME& time) noexcept {
+    const NET_TIME fields = JsonParser::UtcSecondsToNetTime(seconds);
+    std::memcpy(static_cast<void*>(&time), &fields, sizeof fields);
+}
+
+std::int64_t WholeOf(double number) noexcept {
+    using Limits = std::numeric_limits<std::int64_t>;
+    if (std::isnan(number)) return 0;
+    if (number >= 9223372036854775808.0) return Limits::max();
+    if (number <= -9223372036854775808.0) return Limits::min();
+    return static_cast<std::int64_t>(number);
+}
+
+namespace {
+
+void ReadFullTextField(const Field& field, const Value& value, std::byte* record, ReadCall& call) {
+    ReadFullText(value, reinterpret_cast<char*>(record + field.offset), field.elementSize, call.parser);
+}
+
+void ReadUtcTime(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    const NET_TIME time = JsonParser::UtcSecondsToNetTime(value.asUInt());
+    std::memcpy(record + field.offset, &time, sizeof time);
+}
+
+void ReadPackedColor(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    std::uint32_t color = 0;
+    for (std::uint32_t i = 0; i < 4; ++i)
+        color |= static_cast<std::uint32_t>(value[i].asInt()) << (24 - 8 * i);
+    Store(record + field.offset, color);
+    StoreSlot(field.flag, record, 1);
+}
+
+void ReadWholeReal(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    StoreInteger(field.cell, record + field.offset, WholeOf(value.asDouble()));
+}
+
+void ReadDegrees(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    if (field.cell == Cell::F64)
+        Store(record + field.offset, JsonParser::GpsDegreesToMicro(value));
+    else
+        Store(record + field.offset, JsonParser::GpsDegreesToMicroInt(value));
+}
+
+void ReadThousandths(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    Store(record + field.offset, static_cast<float>(value.asUInt() / 1000.0));
+}
+
+void ReadSignedThousandths(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    Store(record + field.offset, static_cast<float>(value.asInt() / 1000.0));
+}
+
+void ReadAnyInteger(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    StoreInteger(field.cell, record + field.offset, AnyIntegerOf(value));
+}
+
+template <std::uint32_t Index>
+void ReadNumberAt(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    StoreInteger(field.cell, record + field.offset, value[Index].asInt());
+}
+
+void ReadCountedFromOne(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    StoreInteger(field.cell, record + field.offset, std::int64_t{value.asInt()} + 1);
+}
+
+void ReadOwnedText(const Field& field, const Value& value, std::byte* record, ReadCall& call) {
+    if (value.isString()) Store(record + field.offset, OwnText(value, call));
+}
+
+void ReadNamedBits(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    std::uint32_t bits = Load<std::uint32_t>(record + field.offset);
+    for (const Value& element : value.elements())
+        bits |= static_cast<std::uint32_t>(field.names->CodeOf(element.asString()).value_or(0));
+    Store(record + field.offset, bits);
+}
+
+void ReadByKeys(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    const std::uint32_t stride = field.elementSize;
+    for (std::uint16_t i = 0; i < field.names->count; ++i) {
+        const Name& name = field.names->rows[i];
+        const Value& number = value[name.text];
+        if (number.isNull() || static_cast<std::uint32_t>(name.code) >= field.dims[0]) continue;
+        StoreInteger(field.cell, record + field.offset + static_cast<std::uint32_t>(name.code) * stride,
+                     AnyIntegerOf(number));
+    }
+}
+
+} // namespace
+
+constexpr CustomCodec kFullText{ReadFullTextField};
+constexpr CustomCodec kUtcTime{ReadUtcTime};
+constexpr CustomCodec kPackedColor{ReadPackedColor};
+constexpr CustomCodec kWholeReal{ReadWholeReal};
+constexpr CustomCodec kDegrees{ReadDegrees};
+constexpr CustomCodec kThousandths{ReadThousandths};
+constexpr CustomCodec kSignedThousandths{ReadSignedThousandths};
+constexpr CustomCodec kAnyInteger{ReadAnyInteger};
+constexpr CustomCodec kFirstNumber{ReadNumberAt<0>};
+constexpr CustomCodec kSecondNumber{ReadNumberAt<1>};
+constexpr CustomCodec kCountedFromOne{ReadCountedFromOne};
+constexpr CustomCodec kOwnedText{ReadOwnedText};
+constexpr CustomCodec kNamedBits{ReadNamedBits};
+constexpr CustomCodec kByKeys{ReadByKeys};
+
+} // namespace orrery::events

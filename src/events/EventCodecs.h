@@ -1,0 +1,99 @@
+// Codecs that only the records of analyzer events need, as words for their rows.
+#pragma once
+
+#include "frame/record/Engine.h"
+
+#include "orrery/events_vehicle.h"
+
+namespace orrery::events {
+
+using namespace record;
+
+// A codec that is a function of its own, tied to the member types that it takes. `whole`: it takes an array at once.
+#define ORRERY_EVENT_CODEC(word, function, condition)                                                                  \
+    extern const CustomCodec function;                                                                                 \
+    struct word##Codec {                                                                                               \
+        static constexpr Kind kind = Kind::Custom;                                                                     \
+        static constexpr bool wholeMember = true;                                                                      \
+        template <class T>                                                                                             \
+        static constexpr bool accepts = condition;                                                                     \
+        const CustomCodec* codec = &function;                                                                          \
+    };                                                                                                                 \
+    inline constexpr word##Codec word {}
+
+template <class T>
+inline constexpr bool kIsMoment = std::is_same_v<T, EVENT_TIME> || std::is_same_v<T, EVENT_CALENDAR>;
+
+// A text cut at the field's capacity and only then converted: it may fill the field to its last byte.
+ORRERY_EVENT_CODEC(FullText, kFullText, kIsText<T>);
+// Seconds since 1970; a field's milliseconds are left alone.
+ORRERY_EVENT_CODEC(UtcTime, kUtcTime, kIsMoment<T>);
+// [ r, g, b, a ] with the first in the highest byte.
+ORRERY_EVENT_CODEC(PackedColor, kPackedColor, (std::is_same_v<T, std::uint32_t>));
+// A real without its fraction, cut to the field's width.
+ORRERY_EVENT_CODEC(WholeReal, kWholeReal, kIsInteger<T>);
+// [ degrees, minutes, seconds ] in millionths of a degree.
+ORRERY_EVENT_CODEC(Degrees, kDegrees, (std::is_same_v<T, std::uint32_t> || std::is_same_v<T, double>));
+// Integers that count thousandths.
+ORRERY_EVENT_CODEC(Thousandths, kThousandths, (std::is_same_v<T, float>));
+ORRERY_EVENT_CODEC(SignedThousandths, kSignedThousandths, (std::is_same_v<T, float>));
+// An integer that is stored as unsigned when the text's is.
+ORRERY_EVENT_CODEC(AnyInteger, kAnyInteger, kIsInteger<T>);
+// The first or second number of an array.
+ORRERY_EVENT_CODEC(FirstNumber, kFirstNumber, kIsInteger<T>);
+ORRERY_EVENT_CODEC(SecondNumber, kSecondNumber, kIsInteger<T>);
+// A state that counts from 1 in the record, with 0 for none.
+ORRERY_EVENT_CODEC(CountedFromOne, kCountedFromOne, kIsInteger<T>);
+#undef ORRERY_EVENT_CODEC
+
+// A text of any length in a block of its own.
+struct OwnedTextCodec {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    static constexpr bool owned = true;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, const char*>;
+    const CustomCodec* codec;
+};
+extern const CustomCodec kOwnedText;
+inline constexpr OwnedTextCodec OwnedText{&kOwnedText};
+
+// List of texts, each setting the bit that the table gives it.
+extern const CustomCodec kNamedBits;
+struct NamedBits {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, std::uint32_t>;
+    const CustomCodec* codec = &kNamedBits;
+    const NameTable* names;
+    constexpr explicit NamedBits(const NameTable& table) : names(&table) {}
+};
+
+// An object whose members are the elements: the table gives each key the index of its element.
+extern const CustomCodec kByKeys;
+struct ByKeys {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = std::rank_v<T> == 1 && kIsInteger<std::remove_extent_t<T>>;
+    const CustomCodec* codec = &kByKeys;
+    const NameTable* names;
+    constexpr explicit ByKeys(const NameTable& table) : names(&table) {}
+};
+
+// ---- The same as functions, for what a row can't say ----
+
+void ReadFullText(const json::Value& value, char* field, std::size_t capacity, JsonParser& parser) noexcept;
+// The block of a text; null when there is no memory.
+const char* OwnText(const json::Value& value, ReadCall& call) noexcept;
+const char* OwnText(std::string_view text, Arena& arena) noexcept;
+void StoreUtc(std::int64_t seconds, EVENT_TIME& time) noexcept;
+// Without the fraction; the nearest 64-bit integer when there is none, 0 for no number.
+std::int64_t WholeOf(double number) noexcept;
+// Unsigned when the text's number is.
+inline std::uint32_t AnyIntegerOf(const json::Value& value) noexcept {
+    return value.isUInt() ? value.asUInt() : static_cast<std::uint32_t>(value.asInt());
+}
+
+} // namespace orrery::events

@@ -1,0 +1,53 @@
+// The map of the event decoder: one row an event code, with its name, its record and what is irregular about it.
+#pragma once
+
+#include "events/EventContext.h"
+
+#include <span>
+
+namespace orrery::events {
+
+struct EventRow {
+    std::uint32_t code;
+    std::string_view name; // as RuleCodeFromName knows it; empty for a code that only another event turns into
+    const Table* table;
+    std::uint32_t recordSize;
+    std::uint32_t reportedSize;     // what the callback is told
+    bool needsNoData = false;       // delivered also without "Data"
+    const char* noMemory = nullptr; // what the log says when there is no memory for the record
+    // The code under which an event of this name is delivered; null: its own.
+    std::uint32_t (*rename)(const json::Value& data) noexcept = nullptr;
+
+    constexpr EventRow Reports(std::uint32_t size) const {
+        auto row = *this;
+        row.reportedSize = size;
+        return row;
+    }
+    constexpr EventRow NeedsNoData() const {
+        auto row = *this;
+        row.needsNoData = true;
+        return row;
+    }
+    constexpr EventRow WithoutMemoryLogs(const char* line) const {
+        auto row = *this;
+        row.noMemory = line;
+        return row;
+    }
+    constexpr EventRow Renamed(std::uint32_t (*function)(const json::Value& data) noexcept) const {
+        auto row = *this;
+        row.rename = function;
+        return row;
+    }
+};
+
+template <class R>
+constexpr EventRow Event(std::uint32_t code, std::string_view name, const TypedTable<R>& table) {
+    return {code, name, &table, sizeof(R), sizeof(R)};
+}
+
+// All events, ascending by code.
+std::span<const EventRow> Events() noexcept;
+// The row of a code; null when the decoder knows no such event.
+const EventRow* FindEvent(std::uint32_t code) noexcept;
+
+} // namespace orrery::events

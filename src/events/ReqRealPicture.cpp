@@ -1,0 +1,137 @@
+#include "events/ReqRealPicture.h"
+
+#include "events/VehicleParts.h"
+#include "frame/json/Reader.h"
+
+#include <algorithm>
+
+namespace orrery {
+
+using json::Value;
+
+void EventList::Append(EventNode& node) noexcept {
+    node.previous = sentinel_.previous;
+    node.next = &sentinel_;
+    sentinel_.previous->next = &node;
+    sentinel_.previous = &node;
+    ++count_;
+}
+
+EventNode* EventList::TakeFirst() noexcept {
+    EventNode* const node = sentinel_.next;
+    if (node == &sentinel_) return nullptr;
+    sentinel_.next = node->next;
+    node->next->previous = &sentinel_;
+    --count_;
+    return node;
+}
+
+const char* CReqRealPicture::serialize(std::size_t& length) noexcept {
+    length = 0;
+    return nullptr;
+}
+
+std::int32_t CReqRealPicture::parseEventText(const char* text) noexcept {
+    Value root;
+    if (dwPacketSubType != kPacketSubType || !json::Parse(std::string_view(text), arena_, root)) return 0;
+    const Value& single = root["Event"];
+    Circumstances around{};
+    parseAlarmEvent(single.isNull() ? root["EventList"] : single, around);
+    return 1;
+}
+
+std::int32_t CReqRealPicture::deserialize(const char* text, std::size_t) noexcept {
+    Value root;
+    if (dwPacketSubType != kPacketSubType || !json::Parse(std::string_view(text), arena_, root)) return 0;
+    if (const Value& result = root["result"]; !result.isNull()) {
+        bNotification = 0;
+        nResult = result.asBool() ? 1 : 0;
+        return 1;
+    }
+    bNotification = 1;
+    Circumstances around{};
+    const Value& info = root["params"]["info"];
+    readInfo(info, around);
+    parseAlarmEvent(info["Events"], around);
+    return 1;
+}
+
+namespace {
+
+// The place of a text in a list, case folded; the list's size when it is in none.
+template <std::size_t N>
+std::size_t PlaceOf(std::string_view text, const std::string_view (&list)[N]) noexcept {
+    return static_cast<std::size_t>(
+        std::find_if(list, list + N, [&](std::string_view known) { return EqualsFolded(text, known); }) - list);
+}
+
+constexpr std::string_view kTransferModes[] = {"Realtime", "Offline", "OfflineOver"};
+constexpr std::string_view kFlags[] = {"*", "Timing", "Manual", "Marked", "Event", "Mosaic", "Cutout"};
+constexpr std::string_view kFileTags[] = {"ATMBeforePaste", "ATMAfterPaste"};
+
+// A flag that stands twice carries into the next bit: clients know the sum, not the union.
+std::uint32_t FlagMask(const Value& flags) noexcept {
+    if (flags.isNull()) return 1;
+    constexpr std::size_t kMostFlags = 32;
+    std::uint32_t mask = 0;
+    const auto texts = flags.elements();
+    for (const Value& flag : texts.first(std::min(texts.size(), kMostFlags))) {
+        const std::size_t bit = PlaceOf(flag.asString(), kFlags);
+        if (bit < std::size(kFlags)) mask += std::uint32_t{1} << bit;
+    }
+    return mask;
+}
+
+} // namespace
+
+void CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcept {
+    if (const Value& transfer = info["Transfer"]; !transfer.isNull()) {
+        const std::size_t mode = PlaceOf(transfer.asString(), kTransferModes);
+        nTransferMode = mode < std::size(kTransferModes) ? static_cast<std::uint32_t>(mode) : ~std::uint32_t{0};
+    }
+    if (const Value& channel = info["Channel"]; !channel.isNull()) nChannel = channel.asInt();
+    EVENT_FILE_INFO& file = around.fileInfo;
+    const Value& count = info["CountInGroup"];
+    file.byCount = count.isNull() ? 1 : static_cast<std::uint8_t>(count.asInt());
+    file.byIndex = static_cast<std::uint8_t>(info["IndexInGroup"].asInt());
+    file.byPictureType = static_cast<std::uint8_t>(info["PictureType"].asInt());
+    if (const Value& ack = info["Ack"]; !ack.isNull()) bAck = ack.asBool() ? 1 : 0;
+    if (const Value& ids = info["PicID"]; ids.elements().size() == 2) {
+        dwPicID[0] = ids[0u].asUInt();
+        dwPicID[1] = ids[1u].asUInt();
+    }
+    if (const Value& time = info["Time"]; !time.isNull()) {
+        std::uint32_t fields[6];
+        events::ReadSplitTime(time.asString(), fields);
+        std::memcpy(static_cast<void*>(&file.stuFileTime), fields, sizeof fields);
+    }
+    const std::size_t tag = PlaceOf(info["Tag"].asString(), kFileTags);
+    file.byFileTag = tag < std::size(kFileTags) ? static_cast<std::uint8_t>(tag + 1) : 0;
+    const Value& resolution = info["Resolution"];
+    around.resolution = static_cast<std::uint16_t>(resolution[0u].asInt())
+                        | static_cast<std::uint32_t>(static_cast<std::uint16_t>(resolution[1u].asInt())) << 16;
+    around.flagMask = FlagMask(info["Flags"]);
+    events::EventSourceInfo& source = around.source;
+    parser_.GetJsonString(info["FilePath"], source.szFilePath, sizeof source.szFilePath, true);
+    source.nRepeat = info["Repeat"].asInt();
+    parser_.GetJsonString(info["RecordFile"], source.szRecordFile, sizeof source.szRecordFile, true);
+    parser_.GetJsonString(info["FTPPath"], source.szFTPPath, sizeof source.szFTPPath, true);
+    parser_.GetJsonString(info["VideoPath"], source.szVideoPath, sizeof source.szVideoPath, true);
+}
+
+void CReqRealPicture::deliver(ORRERY_EVENT_CALLBACK callback, void* user) noexcept {
+    const std::lock_guard<std::recursive_mutex> hold(csEvents);
+    while (EventNode* const node = lstEvents.TakeFirst()) {
+        if (callback != nullptr) callback(node->dwEventType, node->pEventInfo, node->dwBufSize, nullptr, 0, user);
+    }
+}
+
+std::int32_t DeliverEvents(const char* text, ORRERY_EVENT_CALLBACK callback, void* user) noexcept {
+    CReqRealPicture picture;
+    picture.dwPacketType = CReqRealPicture::kPacketType;
+    picture.dwPacketSubType = CReqRealPicture::kPacketSubType;
+    if (picture.parseEventText(text) != 0) picture.deliver(callback, user);
+    return 1;
+}
+
+} // namespace orrery

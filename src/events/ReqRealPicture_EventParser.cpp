@@ -1,0 +1,93 @@
+// From one array of events to records in the list.
+#include "analyse/EventTypeRegistry.h"
+#include "events/EventLog.h"
+#include "events/EventTable.h"
+#include "events/ReqRealPicture.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orrery {
+
+using events::EventCall;
+using events::EventRow;
+using json::Value;
+
+namespace {
+
+constexpr std::uint32_t kMostEvents = 128;
+constexpr std::string_view kActions[] = {"Pulse", "Start", "Stop"};
+
+// The group goes on to the events that follow and name none.
+void ReadGroup(const Value& data, EVENT_FILE_INFO& fileInfo) noexcept {
+    if (const Value& group = data["GroupID"]; !group.isNull()) fileInfo.nGroupID = events::AnyIntegerOf(group);
+    if (const Value& count = data["CountInGroup"]; !count.isNull())
+        fileInfo.byCount = static_cast<std::uint8_t>(count.asInt());
+    if (const Value& index = data["IndexInGroup"]; !index.isNull())
+        fileInfo.byIndex = static_cast<std::uint8_t>(index.asInt());
+}
+
+std::uint32_t CodeOf(const Value& event) noexcept {
+    constexpr std::size_t kLongestName = 127;
+    return static_cast<std::uint32_t>(RuleCodeFromName(event["Code"].asString().substr(0, kLongestName)));
+}
+
+} // namespace
+
+void CReqRealPicture::parseAlarmEvent(const Value& events, Circumstances& around) noexcept {
+    EventCall common{};
+    common.source = &around.source;
+    const auto all = events.elements();
+    for (const Value& event : all.first(std::min<std::size_t>(all.size(), kMostEvents)))
+        parseOne(event, around, common);
+}
+
+void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventCall& common) noexcept {
+    const std::uint32_t code = CodeOf(event);
+    const EventRow* row = events::FindEvent(code);
+    const Value& data = event["Data"];
+    if (data.isNull() && (row == nullptr || !row->needsNoData)) return;
+
+    // An event without a word of its own acts as the one before it did.
+    events::EventContext& fields = common.fields;
+    const std::string_view action = event["Action"].asString();
+    const auto known = std::find_if(std::begin(kActions), std::end(kActions),
+                                    [&](std::string_view text) { return EqualsFolded(action, text); });
+    const std::int32_t number =
+        known != std::end(kActions) ? static_cast<std::int32_t>(known - std::begin(kActions)) : fields.nAction;
+
+    record::ReadCall call{parser_, event};
+    call.context = &common;
+    common.event = &event;
+    fields = {};
+    fields.nChannelID = nChannel;
+    fields.nAction = number;
+    fields.byEventAction = static_cast<std::uint8_t>(number);
+    events::ReadCommonKeys(data, fields, call);
+    ORRERY_EVENT_DETAIL("parseAlarmEvent start dwAlarmType[%d]", static_cast<int>(code));
+    if (row != nullptr && row->rename != nullptr) row = events::FindEvent(row->rename(data));
+    if (row == nullptr) return;
+
+    auto* const node = static_cast<EventNode*>(arena_.Allocate(sizeof(EventNode)));
+    auto* const record = static_cast<std::byte*>(arena_.Allocate(row->recordSize));
+    if (node == nullptr || record == nullptr) {
+        if (row->noMemory != nullptr) ORRERY_EVENT_ERROR("%s", row->noMemory);
+        return;
+    }
+    std::memset(record, 0, row->recordSize);
+    ReadGroup(data, around.fileInfo);
+    fields.stuFileInfo = around.fileInfo;
+    fields.byRepeat = static_cast<std::uint8_t>(around.source.nRepeat);
+    fields.dwFlagMask = around.flagMask;
+    fields.dwResolution = around.resolution;
+    fields.wWidth = static_cast<std::uint16_t>(around.resolution);
+    fields.wHeight = static_cast<std::uint16_t>(around.resolution >> 16);
+    std::memcpy(fields.szRecordFile, around.source.szRecordFile, sizeof fields.szRecordFile);
+    record::ReadRecord(*row->table, data, record, call);
+
+    *node = {nullptr, nullptr, row->code, record, row->reportedSize};
+    const std::lock_guard<std::recursive_mutex> hold(csEvents);
+    lstEvents.Append(*node);
+}
+
+} // namespace orrery
