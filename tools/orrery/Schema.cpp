@@ -3,6 +3,8 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "events/EventTable.h"
+
 namespace orrery::tool {
 
 using namespace record;
@@ -22,9 +24,10 @@ const char* KeyOf(const std::vector<const Table*>& tables, const Field& field) {
 Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     Node node = Node::Object();
     node.Add("name", Node::Text(field.name)).Add("type", Node::Text(TypeWord(field.cell)));
-    if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
+    if (PointsToText(field))
+        node.Add("to", Node::Text("char"));
+    else if (field.cell == Cell::Record || field.cell == Cell::Pointer)
         node.Add("record", Node::Text(field.table->record));
-    }
     Node dims = Node::InlineArray();
     for (const std::uint32_t dim : DimsOf(field))
         dims.Add(Node::Unsigned(dim));
@@ -59,11 +62,19 @@ std::string Schema() {
                                   .Add("size", Node::Unsigned(same.front()->size))
                                   .Add("fields", std::move(fields))));
     }
+    Node events = Node::Array();
+    for (const events::EventRow& event : events::Events()) {
+        events.Add(std::move(Node::Object()
+                                 .Add("code", Node::Unsigned(event.code))
+                                 .Add("name", Node::Text(event.name))
+                                 .Add("record", Node::Text(event.table->record))
+                                 .Add("size", Node::Unsigned(event.reportedSize))));
+    }
     Node schema = Node::Object();
     schema.Add("version", Node::Text(ORRERY_VERSION))
         .Add("commands", std::move(commands))
         .Add("records", std::move(records))
-        .Add("events", Node::Array());
+        .Add("events", std::move(events));
     return schema.Print();
 }
 
