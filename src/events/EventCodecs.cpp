@@ -107,6 +107,16 @@ void ReadOwnedText(const Field& field, const Value& value, std::byte* record, Re
     if (value.isString()) Store(record + field.offset, OwnText(value, call));
 }
 
+void ReadOwnedRecord(const Field& field, const Value& value, std::byte* record, ReadCall& call) {
+    const std::uint32_t size = field.table->size;
+    auto* const block = static_cast<std::byte*>(call.parser.text().arena().Allocate(size));
+    if (block != nullptr) {
+        std::memset(block, 0, size);
+        ReadRecord(*field.table, value, block, call);
+    }
+    Store(record + field.offset, block);
+}
+
 void ReadNamedBits(const Field& field, const Value& value, std::byte* record, ReadCall&) {
     std::uint32_t bits = Load<std::uint32_t>(record + field.offset);
     for (const Value& element : value.elements())
@@ -139,6 +149,7 @@ constexpr CustomCodec kFirstNumber{ReadNumberAt<0>};
 constexpr CustomCodec kSecondNumber{ReadNumberAt<1>};
 constexpr CustomCodec kCountedFromOne{ReadCountedFromOne};
 constexpr CustomCodec kOwnedText{ReadOwnedText};
+constexpr CustomCodec kOwnedRecord{ReadOwnedRecord};
 constexpr CustomCodec kNamedBits{ReadNamedBits};
 constexpr CustomCodec kByKeys{ReadByKeys};
 

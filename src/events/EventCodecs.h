@@ -58,6 +58,20 @@ struct OwnedTextCodec {
 extern const CustomCodec kOwnedText;
 inline constexpr OwnedTextCodec OwnedText{&kOwnedText};
 
+// An object in a block of its own; null when there is no memory.
+extern const CustomCodec kOwnedRecord;
+template <class R>
+struct OwnedRecord {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    static constexpr bool owned = true;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, const R*>;
+    const CustomCodec* codec = &kOwnedRecord;
+    const Table* table;
+    constexpr explicit OwnedRecord(const TypedTable<R>& itsTable) : table(&itsTable) {}
+};
+
 // List of texts, each setting the bit that the table gives it.
 extern const CustomCodec kNamedBits;
 struct NamedBits {

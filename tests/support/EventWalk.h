@@ -21,7 +21,8 @@ inline std::uint64_t SumOfRecord(const record::Table& table, const std::byte* re
                 if (block != nullptr) add(block, std::strlen(reinterpret_cast<const char*>(block)) + 1);
                 continue;
             }
-            const std::int64_t count = record::LoadSlot(field.count, record);
+            const std::int64_t one = block != nullptr ? 1 : 0; // without a count a pointer leads to one record
+            const std::int64_t count = field.count.exists() ? record::LoadSlot(field.count, record) : one;
             if ((block == nullptr) != (count == 0)) std::abort(); // a count without records, or records without one
             for (std::int64_t i = 0; i < count; ++i)
                 sum += SumOfRecord(*field.table, block + static_cast<std::size_t>(i) * field.table->size);

@@ -33,7 +33,7 @@ run 0 --version
 out_is "orrery $version
 "
 run 0 --help
-for command in parse pack commands describe schema layout; do out_has "$command"; done
+for command in parse pack events commands describe schema layout; do out_has "$command"; done
 run 0 commands
 out_has "alarm.getAlarmCaps"
 run 0 describe Alarm
@@ -41,8 +41,10 @@ out_has 'CFG_ALARM_INPUT_INFO'
 run 0 layout
 out_has 'irregular: '
 run 0 schema
-out_has '"events": []'
+out_has '"code": 516'
 no_err
+run 0 describe AccessControl
+out_has 'event 516'
 
 # There and back, through a file and through standard input.
 run 0 parse Alarm "$reply"
@@ -56,6 +58,21 @@ run 0 parse Alarm "$reply" --pack
 cat "$scratch/record.json" "$scratch/text" | cmp -s - "$scratch/out" || fail "--pack is not what pack gives"
 run 0 parse Alarm "$reply" --all
 [ "$(wc -c <"$scratch/out")" -gt "$(wc -c <"$scratch/record.json")" ] || fail "--all printed no more"
+
+# Events: a line each, or several with --pretty.
+events='{"Event":[{"Code":"AccessControl","Index":2,"Data":{"CardNo":"4711"}},{"Code":"VideoBlind"},{"Code":"Nothing"}]}'
+input=$events run 0 events
+[ "$(wc -l <"$scratch/out")" = 2 ] || fail "not two lines"
+out_has '{ "code": 516, "name": "AccessControl", "size": '
+out_has '"szCardNo": "4711"'
+out_has '{ "code": 339, "name": "VideoBlind", "size": '
+err_has 'Event[2] was passed over: no event is named "Nothing"'
+printf '%s' "$events" >"$scratch/events.json"
+run 0 events "$scratch/events.json" --pretty
+[ "$(wc -l <"$scratch/out")" -gt 50 ] || fail "--pretty printed too few lines"
+input='{"Event":[}' run 1 events
+no_out
+err_has 'line 1, column 11'
 
 # Refusals: status 1, nothing on standard output.
 input='{ "result" : tru }' run 1 parse PwdReset
@@ -91,6 +108,7 @@ run 2 parse
 run 2 parse Alarm "$reply" --recods 2
 run 2 parse Alarm "$reply" --records many
 run 2 parse Alarm "$reply" --records 1 --bytes 4
+run 2 events --many
 run 2 parse Alarm "$scratch/none.json"
 no_out
 err_has "can't read"

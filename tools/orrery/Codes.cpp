@@ -17,7 +17,7 @@ std::string SplitText(std::int32_t mode) {
 } // namespace
 
 bool HasNames(const Field& field) {
-    return field.names != nullptr || field.kind == Kind::SplitMode;
+    return field.kind == Kind::Names || field.kind == Kind::SplitMode;
 }
 
 std::string NameOfCode(const Field& field, std::int64_t code) {

@@ -3,6 +3,8 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "events/EventTable.h"
+
 #include <algorithm>
 
 namespace orrery::tool {
@@ -161,15 +163,21 @@ std::string CommandList() {
     return text;
 }
 
-std::optional<std::string> Describe(std::string_view commandOrRecord) {
+std::optional<std::string> Describe(std::string_view name) {
     const Tables tables;
-    if (const Command* const command = FindCommand(commandOrRecord)) {
+    if (const Command* const command = FindCommand(name)) {
         std::string text = DescribeCommand(*command);
         if (command->table != nullptr) text += "\n" + DescribeTable(tables, *command->table);
         return text;
     }
+    for (const events::EventRow& event : events::Events()) {
+        if (!EqualsFolded(event.name, name)) continue;
+        return std::string(event.name) + "\n  event " + std::to_string(event.code)
+               + (event.needsNoData ? ", delivered also without \"Data\"" : "") + "\n\n"
+               + DescribeTable(tables, *event.table);
+    }
     std::string text;
-    for (const Table* table : tables.Of(commandOrRecord))
+    for (const Table* table : tables.Of(name))
         text += (text.empty() ? "" : "\n") + DescribeTable(tables, *table);
     if (text.empty()) return std::nullopt;
     return text;

@@ -10,8 +10,8 @@ namespace orrery::tool {
 
 // A line a command: name, directions, record, frame.
 std::string CommandList();
-// A command with its record, or a record; nothing when there is neither.
-std::optional<std::string> Describe(std::string_view commandOrRecord);
+// A command or an event with its record, or a record; nothing when there is none of them.
+std::optional<std::string> Describe(std::string_view name);
 // Commands, records and events as one JSON document, from which bindings for other languages are made.
 std::string Schema();
 // All tables and commands as plain text, a line a row, for reviews.

@@ -225,8 +225,21 @@ void FillLevel(const Field& field, int level, const Value& value, std::byte* at,
 
 // Room for what the list, the count and the capacity promise, whichever promises most.
 void FillPointer(const Field& field, const Value& value, std::byte* record, Memory& memory, const std::string& path) {
-    if (!value.isArray()) FailType(path, value, "a list");
     if (value.isNull()) return;
+    if (PointsToText(field)) {
+        if (!value.isString()) FailType(path, value, "a text");
+        const std::string_view text = value.asString();
+        std::byte* const block = memory.Allocate(text.size() + 1);
+        std::memcpy(block, text.data(), text.size());
+        return Store(record + field.offset, block);
+    }
+    if (PointsToOne(field)) {
+        std::byte* const block = memory.Allocate(field.table->size);
+        SetSizeWords(*field.table, block);
+        FillFields(*field.table, value, block, memory, path);
+        return Store(record + field.offset, block);
+    }
+    if (!value.isArray()) FailType(path, value, "a list");
     const std::int64_t given = value.size();
     if (field.capacity.exists() && LoadSlot(field.capacity, record) == 0) StoreSlot(field.capacity, record, given);
     const std::int64_t room = std::max({given, LoadSlot(field.count, record), LoadSlot(field.capacity, record)});
@@ -373,6 +386,7 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
             Store(at, memory.Allocate(bytes));
             StoreSlot(items->bytes, record, static_cast<std::int64_t>(bytes));
         } else if (field.cell == Cell::Pointer) {
+            if (PointsToText(field) || PointsToOne(field)) continue; // the library makes these itself
             std::byte* const first = memory.Allocate(std::size_t{count} * field.table->size);
             for (std::uint32_t i = 0; i < count; ++i) {
                 std::byte* const element = first + std::size_t{i} * field.table->size;

@@ -3,6 +3,7 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "events/EventTable.h"
 #include <set>
 
 namespace orrery::tool {
@@ -36,6 +37,7 @@ std::string TableText(const Tables& tables, const Table& table) {
     if (table.shape == Shape::LooseTuple) text += " LooseTuple";
     if (table.guarded) text += " Guarded";
     if (table.clearsFlags) text += " ClearsFlags";
+    if (table.startsWhenRead) text += " StartsWhenRead";
     if (table.writes != nullptr) text += " Writes(function)";
     if (table.afterRead != nullptr) text += " AfterRead(function)";
     text += "\n";
@@ -47,6 +49,7 @@ std::string TableText(const Tables& tables, const Table& table) {
 std::string NamesText(const Tables& tables, const NameTable& names) {
     std::string text = "names " + tables.LabelOf(names);
     text += names.compare == Compare::Folded ? " Folded" : " Exact";
+    if (names.lastWins) text += " LastWins";
     text += names.unknownLeaves ? " UnknownLeaves" : " Unknown(" + std::to_string(names.unknownCode) + ")";
     if (names.outside == NameTable::Outside::Text) text += " OutsideWrites(" + Quoted(names.outsideText) + ")";
     if (names.outside == NameTable::Outside::Null) text += " OutsideWritesNull";
@@ -108,6 +111,15 @@ std::string Layout() {
                 + (command.table != nullptr ? tables.LabelOf(*command.table) : std::string("-")) + "\n";
         if (command.parses()) text += "  parse " + ParseWords(command) + "\n";
         if (command.packs()) text += "  pack " + PackWords(command) + "\n";
+    }
+    text += "\n# events: code name record rules\n";
+    for (const events::EventRow& event : events::Events()) {
+        text += "event " + std::to_string(event.code) + " " + (event.name.empty() ? "-" : std::string(event.name)) + " "
+                + tables.LabelOf(*event.table);
+        if (event.reportedSize != event.recordSize) text += " Reports(" + std::to_string(event.reportedSize) + ")";
+        if (event.needsNoData) text += " NeedsNoData";
+        if (event.rename != nullptr) text += " Renamed(function)";
+        text += "\n";
     }
     return text;
 }

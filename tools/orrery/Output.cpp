@@ -152,6 +152,12 @@ void Node::Append(std::string& out, std::size_t indent) const {
     out += isArray() ? ']' : '}';
 }
 
+std::string Node::PrintLine() const {
+    std::string out;
+    AppendOneLine(out);
+    return out += '\n';
+}
+
 std::string Node::Print() const {
     std::string out;
     Append(out, 0);

@@ -34,6 +34,8 @@ class Node {
 
     // Ends in a newline.
     std::string Print() const;
+    // The same without a line break inside.
+    std::string PrintLine() const;
 
   private:
     enum class Kind : std::uint8_t { Scalar, Array, Object, Inline, InlineArray };

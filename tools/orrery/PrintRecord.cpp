@@ -1,6 +1,7 @@
 #include "orrery/PrintRecord.h"
 
 #include "orrery/Codes.h"
+#include "orrery/Words.h"
 
 #include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
@@ -129,13 +130,13 @@ Node PrintItems(const PackedItems& items, const std::byte* descriptor, PrintOpti
 Node PrintPointer(const Field& field, const std::byte* record, PrintOptions options) {
     const auto* const first = Load<const std::byte*>(record + field.offset);
     if (first == nullptr) return Node::Null();
+    if (PointsToText(field)) return PrintText(first, std::strlen(reinterpret_cast<const char*>(first)));
+    if (PointsToOne(field)) return PrintRecord(*field.table, first, options);
     std::int64_t count = field.count.exists() && !options.all ? LoadSlot(field.count, record) : INT32_MAX;
     if (field.capacity.exists())
         count = std::min(count, LoadSlot(field.capacity, record));
-    else if (field.count.exists())
-        count = LoadSlot(field.count, record);
     else
-        count = 1;
+        count = LoadSlot(field.count, record);
     return PrintRecords(*field.table, first, static_cast<std::size_t>(std::max<std::int64_t>(count, 0)), options);
 }
 

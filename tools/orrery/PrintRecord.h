@@ -11,7 +11,8 @@ struct PrintOptions {
     bool all = false; // lists with a count are printed whole, not only what is in use
 };
 
-// A pointer is followed for as many elements as the record's count and capacity say.
+// A pointer is followed for as many elements as the record's count and capacity say; with neither it leads to a text
+// or to one record.
 Node PrintRecord(const record::Table& table, const std::byte* record, PrintOptions options = {});
 // `count` records, one behind the other.
 Node PrintRecords(const record::Table& table, const std::byte* first, std::size_t count, PrintOptions options = {});

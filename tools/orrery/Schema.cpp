@@ -3,6 +3,7 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "events/EventTable.h"
 #include "frame/PackedItems.h"
 
 #include <set>
@@ -26,7 +27,9 @@ const char* KeyOf(const std::vector<const Table*>& tables, const Field& field) {
 Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     Node node = Node::Object();
     node.Add("name", Node::Text(field.name)).Add("type", Node::Text(TypeWord(field.cell)));
-    if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
+    if (PointsToText(field))
+        node.Add("to", Node::Text("char"));
+    else if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
         node.Add("record", Node::Text(field.table->record));
         // A pointer to bytes: the record stands at its beginning, others follow it.
         if (field.cell == Cell::Pointer && ItemsBehind(*tables.front()) != nullptr) node.Add("bytes", Node::Bool(true));
@@ -83,12 +86,20 @@ std::string Schema() {
                                   .Add("size", Node::Unsigned(same.front()->size))
                                   .Add("fields", std::move(fields))));
     }
+    Node events = Node::Array();
+    for (const events::EventRow& event : events::Events()) {
+        events.Add(std::move(Node::Object()
+                                 .Add("code", Node::Unsigned(event.code))
+                                 .Add("name", Node::Text(event.name))
+                                 .Add("record", Node::Text(event.table->record))
+                                 .Add("size", Node::Unsigned(event.reportedSize))));
+    }
     Node schema = Node::Object();
     schema.Add("version", Node::Text(ORRERY_VERSION))
         .Add("commands", std::move(commands))
         .Add("records", std::move(records))
         .Add("rules", RuleNodes())
-        .Add("events", Node::Array());
+        .Add("events", std::move(events));
     return schema.Print();
 }
 

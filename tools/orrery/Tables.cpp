@@ -1,5 +1,6 @@
 #include "orrery/Tables.h"
 
+#include "events/EventTable.h"
 #include "frame/Commands.h"
 #include "frame/JsonParser.h"
 #include "frame/PackedItems.h"
@@ -14,6 +15,8 @@ Tables::Tables() {
     for (const Command& command : Commands()) {
         if (command.table != nullptr) Meet(*command.table, std::string(command.name));
     }
+    for (const events::EventRow& event : events::Events())
+        Meet(*event.table, std::string(event.name));
     std::stable_sort(all.begin(), all.end(), [](const Table* left, const Table* right) {
         return std::string_view(left->record) < std::string_view(right->record);
     });

@@ -17,7 +17,7 @@ std::string Call(const char* word, const std::string& argument) {
     return std::string(word) + "(" + argument + ")";
 }
 
-constexpr const char* kOnlyWords[] = {"Any", "String", "Bool", "Integer"};
+constexpr const char* kOnlyWords[] = {"Any", "String", "Bool", "Integer", "Unsigned", "Integral", "Array"};
 constexpr const char* kNullsWords[] = {"Count", "LeaveHole", "CloseUp", "Stop"};
 constexpr const char* kSkippedWords[] = {"StaysNull", "Hole", "ClosesUp"};
 constexpr const char* kEmptyWords[] = {"NoKey", "Array", "Null"};
@@ -42,7 +42,8 @@ const char* KindWord(Kind kind) {
                        "Int",         "UInt",    "Real",         "Text",       "RawText",
                        "Names",       "Record",  "TimeSection",  "Schedule",   "HolidaySchedule",
                        "SectionList", "NetTime", "NetTimeEx",    "ClockTime",  "Date",
-                       "SplitMode",   "BitMask", "BitMaskLoose", "Switches",   "Custom"});
+                       "SplitMode",   "BitMask", "BitMaskLoose", "Switches",   "Supplied",
+                       "Custom"});
 }
 
 std::vector<std::uint32_t> DimsOf(const Field& field) {
@@ -52,8 +53,9 @@ std::vector<std::uint32_t> DimsOf(const Field& field) {
 }
 
 std::string TypeOf(const Field& field) {
-    const bool isNested = field.cell == Cell::Record || field.cell == Cell::Pointer;
-    std::string type = isNested ? field.table->record : TypeWord(field.cell);
+    std::string type = TypeWord(field.cell);
+    if (field.cell == Cell::Record || field.cell == Cell::Pointer)
+        type = PointsToText(field) ? "char" : field.table->record;
     if (field.cell == Cell::Pointer) type += "*";
     for (const std::uint32_t dim : DimsOf(field))
         type += "[" + std::to_string(dim) + "]";
@@ -91,6 +93,8 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     slot("Capacity", field.capacity);
     add(field.anyShape, "AnyShape");
     add(field.exactly, "Exactly");
+    add(field.atLeast != 0, Call("AtLeast", std::to_string(field.atLeast)));
+    add(field.owned, "Owned");
     add(field.keyed && !field.amongKeys, "Keyed");
     add(field.amongKeys, "AmongKeys");
     add(field.untilEmpty, "UntilEmpty");
@@ -134,6 +138,9 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.only == OnlyType::String, "read from texts only");
     add(field.only == OnlyType::Bool, "read from true and false only");
     add(field.only == OnlyType::Integer, "read from whole numbers only");
+    add(field.only == OnlyType::Unsigned, "read from whole numbers above 2147483647 only");
+    add(field.only == OnlyType::Integral, "read from whole numbers, true and false only");
+    add(field.only == OnlyType::Array, "read from lists only");
     if (field.flag.exists()) {
         const std::string flag = SlotName(table, field.flag);
         rules.push_back("sets " + flag + " when read; written only when " + flag + " is set");
@@ -146,6 +153,8 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.zeroed, "each element is cleared before it is read");
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
+    add(field.atLeast != 0, "read only with at least " + std::to_string(field.atLeast) + " elements");
+    add(field.owned, "in a block of its own, null when absent");
     add(field.keyed && !field.amongKeys, "an object in the text, one member an element");
     add(field.amongKeys, "each a member of the object beside its keys");
     add(field.untilEmpty, "written up to the first empty one");

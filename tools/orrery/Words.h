@@ -14,6 +14,14 @@ const char* KindWord(record::Kind kind);
 
 // Array levels of a member; a text's capacity is the last of them.
 std::vector<std::uint32_t> DimsOf(const record::Field& field);
+// A pointer that leads to a text rather than to records.
+inline bool PointsToText(const record::Field& field) {
+    return field.cell == record::Cell::Pointer && field.table == nullptr;
+}
+// A pointer that leads to one record at the most.
+inline bool PointsToOne(const record::Field& field) {
+    return field.cell == record::Cell::Pointer && !field.count.exists() && !field.capacity.exists();
+}
 // "i32", "char[64]", "CFG_POINT[8][2]", "CFG_ITEM*".
 std::string TypeOf(const record::Field& field);
 

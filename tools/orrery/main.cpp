@@ -2,9 +2,11 @@
 #include "orrery/Documents.h"
 #include "orrery/Output.h"
 #include "orrery/Run.h"
+#include "orrery/ShowEvents.h"
 #include "orrery/Suggest.h"
 #include "orrery/Tables.h"
 
+#include "events/EventTable.h"
 #include "frame/Commands.h"
 
 #include <CLI/CLI.hpp>
@@ -52,7 +54,11 @@ Result DescribeOrSuggest(const std::string& name) {
     std::vector<std::string_view> names = tables.Records();
     for (const orrery::Command& command : orrery::Commands())
         names.push_back(command.name);
-    return {kRefused, {}, "orrery: no command or record " + Printable(Quoted(name)) + DidYouMean(name, names) + "\n"};
+    for (const orrery::events::EventRow& event : orrery::events::Events())
+        names.push_back(event.name);
+    return {kRefused,
+            {},
+            "orrery: no command, event or record " + Printable(Quoted(name)) + DidYouMean(name, names) + "\n"};
 }
 
 } // namespace
@@ -69,6 +75,7 @@ int main(int argc, char** argv) {
     std::string startFile;
     ParseOptions parseOptions;
     PackOptions packOptions;
+    EventOptions eventOptions;
     std::function<int()> run;
 
     CLI::App* const parse = app.add_subcommand("parse", "Print a device's reply as a record, in JSON by field names");
@@ -102,13 +109,26 @@ int main(int argc, char** argv) {
         };
     });
 
+    CLI::App* const events =
+        app.add_subcommand("events", "Print the analyzer events of a text as records, in JSON, a line an event");
+    events->add_option("FILE", file, "The text; standard input by default");
+    events->add_flag("--pretty", eventOptions.pretty, "Print each event over several lines");
+    events->add_flag("--all", eventOptions.all, "Print lists whole, also what is not in use");
+    events->callback([&] {
+        run = [&]() -> int {
+            std::string text;
+            if (!ReadAll(file, text)) return kUsage;
+            return Show(ShowEvents(text, eventOptions));
+        };
+    });
+
     app.add_subcommand("commands", "List all commands")->callback([&] {
         run = [] { return Show({kDone, CommandList(), {}}); };
     });
-    CLI::App* const describe = app.add_subcommand("describe", "Show the record of a command, or a record");
-    describe->add_option("NAME", name, "Name of a command or of a record")->required();
+    CLI::App* const describe = app.add_subcommand("describe", "Show the record of a command or an event, or a record");
+    describe->add_option("NAME", name, "Name of a command, an event or a record")->required();
     describe->callback([&] { run = [&] { return Show(DescribeOrSuggest(name)); }; });
-    app.add_subcommand("schema", "Print all commands and records as one JSON document")->callback([&] {
+    app.add_subcommand("schema", "Print all commands, records and events as one JSON document")->callback([&] {
         run = [] { return Show({kDone, Schema(), {}}); };
     });
     app.add_subcommand("layout", "Print all record tables as plain text, a line a row")->callback([&] {

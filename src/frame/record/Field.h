@@ -566,7 +566,7 @@ constexpr Field MakeField(const char* name, std::size_t offset, const char* key,
     if constexpr (C::kind == Kind::Names) field.names = codec.table;
     if constexpr (requires { codec.names; }) field.names = codec.names;
     if constexpr (requires { C::owned; }) field.owned = C::owned;
-    if constexpr (C::kind == Kind::Record) field.table = codec.table;
+    if constexpr (requires { field.table = codec.table; }) field.table = codec.table;
     if constexpr (C::kind == Kind::Custom) field.custom = codec.codec;
     (void)codec;
     return field;

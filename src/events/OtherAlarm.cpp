@@ -1,0 +1,124 @@
+// Events of the device itself: alarm inputs, captures, presets, storage.
+#include "analyse/EventTypeRegistry.h"
+#include "events/OtherEvents.h"
+
+namespace orrery::events {
+
+using json::Value;
+
+namespace {
+
+constexpr Name kSensorRows[] = {
+    {EVENT_SENSE_DOOR_MAGNETISM, "DoorMagnetism"},
+    {EVENT_SENSE_PASSIVE_INFRARED, "PassiveInfrared"},
+    {EVENT_SENSE_GAS, "GasSensor"},
+    {EVENT_SENSE_SMOKE, "SmokingSensor"},
+    {EVENT_SENSE_WATER, "WaterSensor"},
+    {EVENT_SENSE_ACTIVE_INFRARED, "ActiveInfrared"},
+    {EVENT_SENSE_GLASS, "GlassSensor"},
+    {EVENT_SENSE_EMERGENCY_SWITCH, "EmergencySwitch"},
+    {EVENT_SENSE_SHOCK, "ShockSensor"},
+    {EVENT_SENSE_DOUBLE_METHOD, "DoubleMethod"},
+    {EVENT_SENSE_THREE_METHOD, "ThreeMethod"},
+    {EVENT_SENSE_TEMPERATURE, "TempSensor"},
+    {EVENT_SENSE_HUMIDITY, "HumiditySensor"},
+    {EVENT_SENSE_WIND, "WindSensor"},
+    {EVENT_SENSE_CALL_BUTTON, "CallButton"},
+    {EVENT_SENSE_GAS_PRESSURE, "GasPressure"},
+    {EVENT_SENSE_GAS_CONCENTRATION, "GasConcentration"},
+    {EVENT_SENSE_GAS_FLOW, "GasFlow"},
+    {EVENT_SENSE_OTHER, "OtherSensor"},
+    {EVENT_SENSE_OIL, "Oil"},
+    {EVENT_SENSE_MILEAGE, "MileageSensor"},
+    {EVENT_SENSE_URGENCY_BUTTON, "UrgencyButton"},
+    {EVENT_SENSE_STEAL, "Steal"},
+    {EVENT_SENSE_PERIMETER, "Perimeter"},
+    {EVENT_SENSE_PREVENT_REMOVE, "PreventRemove"},
+    {EVENT_SENSE_DOOR_BELL, "DoorBell"},
+    {EVENT_SENSE_ALTER_VOLT, "AlterVolt"},
+    {EVENT_SENSE_DIRECT_VOLT, "DirectVolt"},
+    {EVENT_SENSE_ALTER_CURRENT, "AlterCur"},
+    {EVENT_SENSE_DIRECT_CURRENT, "DirectCur"},
+    {EVENT_SENSE_RSU_GENERAL, "RSUGeneral"},
+    {EVENT_SENSE_RSU_DOOR, "RSUDoor"},
+    {EVENT_SENSE_RSU_POWER_OFF, "RSUPowerOff"},
+    {EVENT_SENSE_TEMP1500, "Temp1500"},
+    {EVENT_SENSE_TEMP_DS18B20, "TempDS18B20"},
+    {EVENT_SENSE_HUMIDITY1500, "Humidity1500"},
+    {EVENT_SENSE_INFRARED, "Infrared"},
+    {EVENT_SENSE_FIRE_ALARM, "FireAlarm"},
+    {EVENT_SENSE_CO2, "CO2"},
+    {EVENT_SENSE_SOUND, "Sound"},
+    {EVENT_SENSE_PM25, "PM25"},
+    {EVENT_SENSE_SF6, "SF6"},
+    {EVENT_SENSE_O3, "O3"},
+    {EVENT_SENSE_AMBIENT_LIGHT, "AmbientLight"},
+};
+static_assert(std::size(kSensorRows) == EVENT_SENSE_AMBIENT_LIGHT + 1);
+constexpr NameTable kSensors = FoldedNames(kSensorRows).Unknown(EVENT_SENSE_UNKNOWN);
+
+constexpr Name kAnalogStatusRows[] = {
+    {EVENT_ANALOG_NORMAL, "normal"},     {EVENT_ANALOG_INVALID, "invalid"},   {EVENT_ANALOG_UPPER1, "upper1"},
+    {EVENT_ANALOG_UPPER1 + 1, "upper2"}, {EVENT_ANALOG_UPPER1 + 2, "upper3"}, {EVENT_ANALOG_UPPER4, "upper4"},
+    {EVENT_ANALOG_LOWER1, "lower1"},     {EVENT_ANALOG_LOWER1 + 1, "lower2"}, {EVENT_ANALOG_LOWER1 + 2, "lower3"},
+    {EVENT_ANALOG_LOWER4, "lower4"},
+};
+constexpr NameTable kAnalogStatuses = FoldedNames(kAnalogStatusRows).Unknown(EVENT_ANALOG_UNKNOWN);
+
+constexpr Name kSceneModeRows[] = {{EVENT_SCENE_INDOOR, "Indoor"}, {EVENT_SCENE_OUTDOOR, "Outdoor"}};
+constexpr NameTable kSceneModes = FoldedNames(kSceneModeRows);
+
+constexpr Name kPassPictureRows[] = {{EVENT_PASS_PICTURE_PASS, "Pass"}, {EVENT_PASS_PICTURE_REAL, "Real"}};
+constexpr NameTable kPassPictures = FoldedNames(kPassPictureRows);
+
+// Another event by its name, which is cut as the field of a name would cut it.
+void ReadEventName(const Field& field, const Value& value, std::byte* record, ReadCall&) {
+    constexpr std::size_t kLongestName = 63;
+    Store(record + field.offset, RuleCodeFromName(value.asString().substr(0, kLongestName)));
+}
+constexpr CustomCodec kEventName{ReadEventName};
+
+PART(kLinkSource, EVENT_LINK_SOURCE_INFO, FIELD(szSrcEvent, "SrcEvent", Text), FIELD(stuSrcTime, "SrcTime", NetTimeEx),
+     FIELD(nSrcChannel, "SrcChannel", Int));
+
+} // namespace
+
+TABLE(kVideoMotion, DEV_EVENT_VIDEOMOTION_INFO, HEAD_A, FILE_INFO, COMM_INFO);
+TABLE(kAlarmLocal, DEV_EVENT_ALARMLOCAL_INFO, HEAD_A, FILE_INFO, COMM_INFO);
+TABLE(kMultiSceneSwitch, DEV_EVENT_MULTISCENESWITCH_INFO, HEAD_A, ACTION);
+
+TABLE(kAnalogAlarm, DEV_EVENT_ANALOGALARM_INFO, HEAD_A, FILE_INFO, FIELD(nIndex, "Index", Int).FromRoot(),
+      FIELD(emSenseMethod, "SenseMethod", Names(kSensors)),
+      FIELD(emStatus, "status", Names(kAnalogStatuses)).Absent(EVENT_ANALOG_UNKNOWN), FIELD(dValue, "value", Real),
+      FIELD(stuTime, "time", UtcTime), FLAG_MASK, ACTION);
+
+TABLE(kVideoBlind, DEV_EVENT_VIDEOBLIND_INFO, HEAD_A, FILE_TIME);
+TABLE(kSnapByTime, DEV_EVENT_SNAPBYTIME_INFO, HEAD_A, FILE_TIME);
+TABLE(kSnapManual, DEV_EVENT_SNAPMANUAL_INFO, HEAD_A, FILE_INFO, REPEAT, FLAG_MASK);
+
+TABLE(kVideoStatic, DEV_EVENT_VIDEOSTATIC_INFO, HEAD_C, FIELD(emMode, "Mode", Names(kSceneModes)), ACTION);
+TABLE(kVideoTiming, DEV_EVENT_VIDEOTIMING_INFO, HEAD_C, ACTION);
+
+TABLE(kPicInfo, DEV_EVENT_PICINFO_INFO, HEAD_C, FIELD(stuTime, "Time", NetTimeEx),
+      FIELD(nType, "Type", Custom(kEventName)), FIELD(nSpeed, "Speed", Int),
+      FIELD(nSpeedHighLine, "SpeedHighLine", Int), FIELD(nDisk, "Disk", Int), FIELD(nCluster, "Cluster", Int),
+      FIELD(nPartition, "Partition", Int), FIELD(szHappenAddress, "HappenAddress", Text), FIELD(szPicID, "PicID", Text),
+      FIELD(szPlate, "Plate", Text));
+
+// The preset's name, unlike a rule's, always ends in a terminator.
+TABLE(kPtzPreset, DEV_EVENT_PTZPRESET_INFO, HEAD_A, FIELD(szName, "Name", Text).Alias(),
+      FIELD(fPosition, "Position", Real).AtLeast(3), FIELD(nPresetID, "PresetID", Int));
+
+TABLE(kSceneChange, DEV_EVENT_SCENECHANGE_INFO, ORRERY_SAME_FROM_EVENT(nChannelID), ACTION,
+      ORRERY_SAME_FROM_EVENT(dPTS), ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID), FILE_INFO, REPEAT,
+      FLAG_MASK);
+
+TABLE(kLinkSD, DEV_EVENT_LINKSD_INFO, HEAD_C, FIELD(pSrcInfo, "SrcInfo", OwnedRecord(kLinkSource)),
+      FIELD(stuStartTime, "StartTime", NetTimeEx), FIELD(stuEndTime, "EndTime", NetTimeEx),
+      FIELD(nPresetID, "PresetID", Int));
+
+TABLE(kPassChange, DEV_EVENT_PASSCHANGE_INFO, HEAD_A, FIELD(nPresetID, "PresetID", Int),
+      FIELD(nGroupID, "GroupID", Int), FIELD(nCountInGroup, "CountInGroup", Int),
+      FIELD(nIndexInGroup, "IndexInGroup", Int), FIELD(emPictureType, "PictureType", Names(kPassPictures)));
+
+} // namespace orrery::events
