@@ -155,6 +155,9 @@ enum {
 
 /* ---- Described objects ---- */
 
+/* Room of a record for a list of objects. */
+#define ORRERY_EVENT_OBJECTS 16
+
 enum {
     EVENT_OBJECT_ACTION_NONE = 0,
     EVENT_OBJECT_ACTION_APPEAR = 1,

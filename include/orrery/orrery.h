@@ -9,6 +9,7 @@
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_input.h"
 #include "orrery/event_types.h"
+#include "orrery/events_intelligent.h"
 #include "orrery/events_traffic.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
