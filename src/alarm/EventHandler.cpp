@@ -87,7 +87,8 @@ void WriteCountedKeys(const Field& field, const std::byte* record, WriteCall& ca
 
 } // namespace
 
-constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions};
+constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions,
+                                      R"([{"Operation":"Open"},{"Operation":"CloseAlways"}])"};
 constexpr CustomCodec kWeekOverSchedule{nullptr, WriteWeek};
 constexpr CustomCodec kCountedKeys{ReadCountedKeys, WriteCountedKeys};
 

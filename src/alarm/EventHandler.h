@@ -65,7 +65,7 @@ PART(kMailDetail, CFG_MAIL_DETAIL, FIELD(emAttachmentType, "AttachmentType", Nam
      FIELD(nMaxSize, "MaxSize", Int), FIELD(nMaxTimeLength, "MaxTimeLength", Int));
 
 PART(kMonitorTour, CFG_MONITOR_TOUR, FIELD(bEnable, "Enable", Bool), FIELD(nSplit, "Split", SplitMode),
-     FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)), FIELD(nChannelCount));
+     FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)).AnyShape(), FIELD(nChannelCount));
 
 // ---- The current form ----
 
@@ -171,6 +171,7 @@ struct EventHandlerRows {
         FIELD(bAccessControlEn, "AccessControlEnable", Bool).Flag(AT(abAccessControlEn)),
         FIELD(nAccessControlNum),
         FIELD(emAccessControl, "AccessControls", Custom(kDoorActionList))
+            .Coded(kDoorActions)
             .Flag(AT(abAccessControl))
             .Count(AT(nAccessControlNum)),
         FIELD(abTalkback, "Talkback", Presence),
@@ -215,7 +216,7 @@ PART(kEventTitleV2, CFG_EVENT_TITLE_V2, FIELD(dwSize, nullptr, Size), FIELD(szTe
      FIELD(stuFrontColor, "FrontColor", Record(kColorV2)), FIELD(stuBackColor, "BackColor", Record(kColorV2)));
 
 PART(kMonitorTourV2, CFG_MONITOR_TOUR_V2, FIELD(dwSize, nullptr, Size), FIELD(bEnable, "Enable", Bool),
-     FIELD(nSplit, "Split", SplitMode), FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)),
+     FIELD(nSplit, "Split", SplitMode), FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)).AnyShape(),
      FIELD(nChannelCount));
 
 static_assert(sizeof(CFG_TIME_SECTION_V2) == 32 && sizeof(CFG_POINT_V2) == 12 && sizeof(CFG_SIZE_V2) == 12);

@@ -6,6 +6,8 @@
 #include "frame/record/Engine.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 
 namespace orrery {
 
@@ -22,14 +24,36 @@ std::uint32_t Clamped(std::int32_t count, std::uint32_t most) {
     return static_cast<std::uint32_t>(std::clamp<std::int64_t>(count, 0, most));
 }
 
+// The cells of a row that hold exactly 1, the leftmost in the lowest bit. Eight at a time: bytes that become zero are
+// found without carrying into their neighbours, and a multiplication gathers their marks in its highest byte.
+std::uint32_t RowBits(const std::byte* cells) {
+    constexpr std::uint64_t kEach = 0x0101010101010101u;
+    std::uint32_t bits = 0;
+    for (std::uint32_t col = 0; col < kCols; col += 8) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, cells + col, sizeof eight);
+        if constexpr (std::endian::native == std::endian::big) eight = __builtin_bswap64(eight);
+        eight ^= kEach;
+        const std::uint64_t watched = ~(((eight & 0x7F * kEach) + 0x7F * kEach) | eight) >> 7 & kEach;
+        bits |= static_cast<std::uint32_t>((watched * 0x0102040810204080u) >> 56) << col;
+    }
+    return bits;
+}
+
+std::uint32_t Reversed(std::uint32_t bits) {
+    bits = (bits >> 1 & 0x55555555u) | (bits & 0x55555555u) << 1;
+    bits = (bits >> 2 & 0x33333333u) | (bits & 0x33333333u) << 2;
+    bits = (bits >> 4 & 0x0F0F0F0Fu) | (bits & 0x0F0F0F0Fu) << 4;
+    return __builtin_bswap32(bits);
+}
+
 void WriteGrid(const std::byte* grid, std::uint32_t rows, std::uint32_t cols, bool lowBitFirst, WriteCall& call) {
+    static_assert(kCols == 32, "a row is one word");
     call.out.BeginArray();
     for (std::uint32_t row = 0; row < rows; ++row, grid += kCols) {
-        std::uint32_t bits = 0;
-        for (std::uint32_t col = 0; col < cols; ++col) {
-            if (grid[col] == std::byte{1}) bits |= std::uint32_t{1} << (lowBitFirst ? col : cols - 1 - col);
-        }
-        call.out.UInt(bits);
+        const std::uint32_t beyond = kCols - cols; // cells that the record does not count
+        const std::uint32_t bits = cols == 0 ? 0 : RowBits(grid) << beyond;
+        call.out.UInt(lowBitFirst ? (cols == 0 ? 0 : bits >> beyond) : Reversed(bits));
     }
     call.out.EndArray();
 }
@@ -63,11 +87,11 @@ void WriteWindowGrid(const Field& field, const std::byte* record, WriteCall& cal
     WriteGrid(record + field.offset, rows, Clamped(MEMBER(record, CFG_MOTION_REGION_WINDOW, nCol), kCols), false, call);
 }
 
-constexpr CustomCodec kWindowGrid{ReadWindowGrid, WriteWindowGrid};
+constexpr CustomCodec kWindowGrid{ReadWindowGrid, WriteWindowGrid, "[4194303,5,0]"};
 
 PART(kMotionRegionWindow, CFG_MOTION_REGION_WINDOW, FIELD(nId, "Id", Int), FIELD(szName, "Name", Text),
      FIELD(nThreshold, "Threshold", Int), FIELD(nSensitive, "Sensitive", Int), FIELD(nRow), FIELD(nCol),
-     FIELD(byRegion, "Region", Custom(kWindowGrid)));
+     FIELD(byRegion, "Region", Custom(kWindowGrid)).Count(AT(nRow)));
 
 constexpr std::size_t kWindowsAt = offsetof(CFG_MOTION_DETECT_INFO, stuWindow);
 constexpr std::size_t kRegionWindowsAt = offsetof(CFG_MOTION_DETECT_INFO, stuRegionWindow);
@@ -125,7 +149,9 @@ void WriteWindows(const Field&, const std::byte* record, WriteCall& call) {
     call.out.EndArray();
 }
 
-constexpr CustomCodec kWindows{ReadWindows, WriteWindows};
+constexpr CustomCodec kWindows{
+    ReadWindows, WriteWindows,
+    R"([{"Id":1,"Name":"Yard","Region":[7,4194303],"Sensitive":60,"Threshold":5,"Window":[0,0,21,17]}])"};
 
 // ---- The grid of the whole picture ----
 
@@ -152,7 +178,7 @@ void WriteWholeGrid(const Field& field, const std::byte* record, WriteCall& call
     WriteGrid(record + field.offset, rows, Clamped(MEMBER(record, CFG_MOTION_DETECT_INFO, nCol), kCols), true, call);
 }
 
-constexpr CustomCodec kGrid{ReadGrid, WriteWholeGrid};
+constexpr CustomCodec kGrid{ReadGrid, WriteWholeGrid, "[4194303,5,0]"};
 
 // "Row" and "Col" tell the grid's size; without them it is the list's length by 22.
 void FillGridSize(const json::Value& table, std::byte* record, ReadCall&) {
@@ -181,12 +207,13 @@ TABLE(kMotionDetect, CFG_MOTION_DETECT_INFO, MakeVirtual("DetectVersion", Custom
       FIELD(bEnable, "Enable", Bool), FIELD(nLevel, "Level", Int).Flag(AT(abLevel)).When(IsWholePicture),
       FIELD(nRow, "Row", Int).AtMost(ORRERY_MOTION_ROWS).When(IsWholePicture),
       FIELD(nCol, "Col", Int).AtMost(ORRERY_MOTION_COLS).When(IsWholePicture),
-      FIELD(byRegion, "Region", Custom(kGrid)).When(IsWholePicture),
+      FIELD(byRegion, "Region", Custom(kGrid)).Count(AT(nRow)).When(IsWholePicture),
       FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)), FIELD(bRead), FIELD(abLevel),
       FIELD(abVolumeRatio), FIELD(nVolumeRatio, "VolumeRatio", Int).Flag(AT(abVolumeRatio)), FIELD(abSubRatio),
       FIELD(nSubRatio, "SubRatio", Int).Flag(AT(abSubRatio)), FIELD(abWindow), FIELD(nWindowNum),
-      FIELD(stuWindow, nullptr, Record(kMotionWindow)), FIELD(abRegionWindow), FIELD(nRegionWindowNum),
-      FIELD(stuRegionWindow, nullptr, Record(kMotionRegionWindow)), MakeVirtual("MotionDetectWindow", Custom(kWindows)))
+      FIELD(stuWindow, nullptr, Record(kMotionWindow)).Count(AT(nWindowNum)), FIELD(abRegionWindow),
+      FIELD(nRegionWindowNum), FIELD(stuRegionWindow, nullptr, Record(kMotionRegionWindow)).Count(AT(nRegionWindowNum)),
+      MakeVirtual("MotionDetectWindow", Custom(kWindows)))
     .AfterRead(FillGridSize);
 
 } // namespace orrery

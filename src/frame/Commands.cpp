@@ -3,6 +3,7 @@
 #include "alarm/AlarmCaps.h"
 #include "alarm/AlarmInput.h"
 #include "frame/GeneralSwitch.h"
+#include "frame/JsonParser.h"
 
 #include <array>
 
@@ -95,11 +96,19 @@ constexpr bool SameFolded(std::string_view left, std::string_view right) {
     return true;
 }
 
+// The folded name's first and last eight bytes, which overlap in a short name, and its length.
+constexpr std::uint32_t Mixed(std::uint64_t first, std::uint64_t last, std::size_t size) {
+    const std::uint64_t hash = (first * 0x9E3779B97F4A7C15u ^ last) * 0xC2B2AE3D27D4EB4Fu + size;
+    return static_cast<std::uint32_t>(hash >> 32 ^ hash >> 20);
+}
 constexpr std::uint32_t Hash(std::string_view name) {
-    std::uint32_t hash = 2166136261u; // FNV-1a
-    for (char c : name)
-        hash = (hash ^ static_cast<unsigned char>(Folded(c))) * 16777619u;
-    return hash ^ (hash >> 15);
+    const std::string_view tail = name.size() < 8 ? name : name.substr(name.size() - 8);
+    return Mixed(record::FoldedPrefix(name), record::FoldedPrefix(tail), name.size());
+}
+// The same, eight bytes at a time.
+std::uint32_t HashNow(std::string_view name) noexcept {
+    if (name.size() < 8) return Hash(name);
+    return Mixed(FoldedWord(name.data()), FoldedWord(name.data() + name.size() - 8), name.size());
 }
 
 constexpr std::size_t SlotCount() {
@@ -140,9 +149,9 @@ std::span<const Command> Commands() noexcept {
 }
 
 const Command* FindCommand(std::string_view name) noexcept {
-    for (std::size_t slot = Hash(name) % kIndex.size(); kIndex[slot] != kFree; slot = (slot + 1) % kIndex.size()) {
+    for (std::size_t slot = HashNow(name) % kIndex.size(); kIndex[slot] != kFree; slot = (slot + 1) % kIndex.size()) {
         const Command& command = kCommands[kIndex[slot]];
-        if (SameFolded(command.name, name)) return &command;
+        if (EqualsFolded(command.name, name)) return &command;
     }
     return nullptr;
 }

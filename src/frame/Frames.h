@@ -81,6 +81,8 @@ struct ParseFrame {
     // Runs once the text has parsed, before "result" is looked at.
     void (*parsed)(std::byte* buffer) = nullptr;
 
+    bool operator==(const ParseFrame&) const = default;
+
     constexpr ParseFrame From(Source where, const char* member = "") const {
         auto f = *this;
         f.source = where;
@@ -161,6 +163,8 @@ struct PackFrame {
     bool keepsText = false;     // a failed call leaves the text buffer as it was
     bool (*accepts)(const std::byte* record, std::uint32_t size) = nullptr;
 
+    bool operator==(const PackFrame&) const = default;
+
     constexpr PackFrame As(Form what) const {
         auto f = *this;
         f.form = what;
@@ -205,6 +209,8 @@ struct TableFrame {
     std::uint8_t dimension = 0; // array levels that one record itself has
     bool zeroBuffer = false;    // parse: the whole buffer is cleared first
     bool alwaysArray = false;   // pack: an array also for one record
+
+    bool operator==(const TableFrame&) const = default;
 };
 
 // Why a call answered 0. The exports keep it to themselves; tools tell their user.

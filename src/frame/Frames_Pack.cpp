@@ -15,6 +15,9 @@ namespace {
 using record::OpenObject;
 using record::WriteCall;
 
+// A text that must not show before it is whole is written here first if it is no longer than this.
+constexpr std::size_t kNearbyText = std::size_t{8} << 10;
+
 // What is written: records at a stride, in one of the forms.
 struct Content {
     const record::Table& table;
@@ -23,6 +26,7 @@ struct Content {
     std::uint32_t count;
     Form form; // One, Array or ByMember
     std::string_view quotedKey;
+    bool everyPlace = false; // of an array: also a null behind the last record that is written
 };
 
 // Records that their table holds back are null in their place; behind the last one written there is no place, and a
@@ -30,7 +34,7 @@ struct Content {
 void WriteArray(const Content& content, WriteCall& call) noexcept {
     const auto record = [&](std::uint32_t i) { return content.first + std::size_t{i} * content.stride; };
     std::uint32_t end = content.count;
-    while (end > 0 && !record::IsWritten(content.table, record(end - 1)))
+    while (!content.everyPlace && end > 0 && !record::IsWritten(content.table, record(end - 1)))
         --end;
     if (end == 0) return call.out.Null();
     call.out.BeginArray();
@@ -62,7 +66,10 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
         WriteArray(content, call);
         break;
     default:
-        record::WriteRecord(content.table, content.first, call);
+        if (record::IsWritten(content.table, content.first))
+            record::WriteRecord(content.table, content.first, call);
+        else
+            out.Null();
         break;
     }
     if (root.opened) out.EndObject();
@@ -84,16 +91,37 @@ bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexcept {
     return false;
 }
 
+// Ends a text of `length` bytes that fits in `room`.
+void Terminate(Capacity capacity, std::size_t length, char* buffer, std::size_t room) noexcept {
+    if (length < room)
+        buffer[length] = '\0';
+    else if (capacity == Capacity::Loose)
+        buffer[room - 1] = '\0';
+}
+
+// Writes into the caller's buffer only what fits; a failure leaves it alone.
+Outcome DeliverOrKeep(const Content& content, Capacity capacity, const PackRequest& request) noexcept {
+    const std::size_t room = request.textCapacity;
+    char nearby[kNearbyText];
+    json::TextWriter out(nearby, sizeof nearby);
+    if (const Outcome outcome = WriteText(content, out); outcome != Outcome::Done) return outcome;
+    if (!Fits(capacity, out.length(), room)) return Outcome::TextTooLong;
+    if (out.fits()) {
+        std::memcpy(request.textBuffer, nearby, out.length());
+    } else {
+        // Now that it is known to fit, it can go straight to its place.
+        json::TextWriter again(request.textBuffer, room);
+        if (const Outcome outcome = WriteText(content, again); outcome != Outcome::Done) return outcome;
+    }
+    Terminate(capacity, out.length(), request.textBuffer, room);
+    return Outcome::Done;
+}
+
 // Writes straight into the caller's buffer and clears what the text leaves of it; a text that does not fit leaves
-// zeros, or with `keeps` nothing at all.
-Outcome Deliver(const Content& content, Capacity capacity, bool keeps, const PackRequest& request) noexcept {
+// zeros.
+Outcome Deliver(const Content& content, Capacity capacity, const PackRequest& request) noexcept {
     const std::size_t room = request.textCapacity;
     char* const buffer = request.textBuffer;
-    if (keeps) {
-        json::TextWriter measure(nullptr, 0);
-        if (const Outcome outcome = WriteText(content, measure); outcome != Outcome::Done) return outcome;
-        if (!Fits(capacity, measure.length(), room)) return Outcome::TextTooLong;
-    }
     json::TextWriter out(buffer, room);
     Outcome outcome = WriteText(content, out);
     if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
@@ -102,10 +130,15 @@ Outcome Deliver(const Content& content, Capacity capacity, bool keeps, const Pac
         return outcome;
     }
     if (out.length() < room)
-        std::memset(buffer + out.length(), 0, keeps ? 1 : room - out.length());
-    else if (capacity == Capacity::Loose)
-        buffer[room - 1] = '\0';
+        std::memset(buffer + out.length(), 0, room - out.length());
+    else
+        Terminate(capacity, out.length(), buffer, room);
     return Outcome::Done;
+}
+
+Outcome Deliver(const Content& content, const PackFrame& frame, const PackRequest& request) noexcept {
+    return frame.keepsText ? DeliverOrKeep(content, frame.capacity, request)
+                           : Deliver(content, frame.capacity, request);
 }
 
 } // namespace
@@ -125,7 +158,7 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
     if (frame.form == Form::BareIfOne) content.form = content.count == 1 ? Form::One : Form::Array;
     if (frame.form == Form::BareIfExact) content.form = request.recordSize == stride ? Form::One : Form::Array;
     if (content.form == Form::One) content.count = 1;
-    if (frame.stride == Stride::Record) return Deliver(content, frame.capacity, frame.keepsText, request);
+    if (frame.stride == Stride::Record) return Deliver(content, frame, request);
 
     // Callers' records of another layout pass through local ones of this library's.
     StackArena<std::size_t{4} << 10> arena;
@@ -143,12 +176,12 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
     }
     content.first = locals;
     content.stride = table.size;
-    return Deliver(content, frame.capacity, frame.keepsText, request);
+    return Deliver(content, frame, request);
 }
 
 Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept {
     const auto* const first = static_cast<const std::byte*>(request.record);
-    Content content{table, first, table.size, 1, Form::One, {}};
+    Content content{table, first, table.size, 1, Form::One, {}, true};
     if (frame.arrayForm) content.count = request.recordSize / table.size;
     if (frame.alwaysArray || content.count >= 2) content.form = Form::Array;
     if (content.count == 0) content.form = Form::Array; // no record: the text of a list that nothing was put in
@@ -162,7 +195,7 @@ Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, co
         std::memcpy(whole, first, request.recordSize);
         content.first = whole;
     }
-    return Deliver(content, Capacity::Strict, false, request);
+    return Deliver(content, Capacity::Strict, request);
 }
 
 } // namespace orrery

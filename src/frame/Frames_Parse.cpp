@@ -181,8 +181,11 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     }
     if (frame.exactSize ? request.bufferSize != stride : request.bufferSize < stride) return Outcome::BufferTooSmall;
     if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
-    if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
-    if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
+    const auto clear = [&] {
+        if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+        if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
+    };
+    clear();
 
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
@@ -215,7 +218,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     Records records(table, frame, request, stride, call);
     ReadAll(holds, value, records);
     if (document.arena.failed()) {
-        if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
+        clear();
         return Outcome::OutOfMemory;
     }
     switch (frame.length) {

@@ -115,5 +115,7 @@ class JsonParser {
 
 // Equal but for the case of the ASCII letters: how commands and most enumerated texts compare.
 bool EqualsFolded(std::string_view left, std::string_view right) noexcept;
+// The eight bytes at `text` with their ASCII capitals made small, the first in the lowest byte.
+std::uint64_t FoldedWord(const char* text) noexcept;
 
 } // namespace orrery

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -91,6 +92,26 @@ inline bool HasShape(const char* text, const char (&pattern)[20]) noexcept {
     }
     return (bad & 0x8080808080808080u) == 0;
 }
+
+// The three numbers of "08:30:00" at eight bytes, two digits each; `bad` gains a bit in some byte's highest place when
+// the text is of another shape.
+struct ClockNumbers {
+    std::int32_t hour, minute, second;
+};
+inline ClockNumbers ReadClock(const char* text, std::uint64_t& bad) noexcept {
+    // Bytes from the lowest up: what is left of a digit is its value, of a colon nothing.
+    constexpr std::uint64_t kShape = 0x30303A30303A3030u;
+    constexpr std::uint64_t kSlack = 0x76767F76767F7676u; // carries a digit beyond 9, or anything of a colon, upward
+    std::uint64_t word;
+    std::memcpy(&word, text, sizeof word);
+    if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
+    word ^= kShape;
+    bad |= word | (word + kSlack);
+    const std::uint64_t pairs = word * 10 + (word >> 8);
+    return {static_cast<std::int32_t>(pairs & 0xFF), static_cast<std::int32_t>(pairs >> 24 & 0xFF),
+            static_cast<std::int32_t>(pairs >> 48 & 0xFF)};
+}
+constexpr std::uint64_t kHighBits = 0x8080808080808080u;
 
 inline std::int32_t TwoDigits(const char* text) noexcept {
     return (text[0] - '0') * 10 + (text[1] - '0');

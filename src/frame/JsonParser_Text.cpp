@@ -1,6 +1,7 @@
 #include "frame/JsonParser.h"
 
 #include <algorithm>
+#include <bit>
 #include <climits>
 #include <cstring>
 
@@ -88,6 +89,12 @@ bool JsonParser::SetJsonString(json::TextWriter& out, const char* source, std::s
                                                      static_cast<int>(std::min<std::size_t>(room, INT_MAX)));
     out.String({converted, static_cast<std::size_t>(count)});
     return true;
+}
+
+std::uint64_t FoldedWord(const char* text) noexcept {
+    std::uint64_t word = Word(text);
+    if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
+    return Folded(word);
 }
 
 bool EqualsFolded(std::string_view left, std::string_view right) noexcept {

@@ -35,15 +35,14 @@ void Store(void* record, const std::int32_t* fields, int count) noexcept {
 
 // Nearly every device writes sections with two digits a field and a flag of one.
 bool ReadUsualSection(std::string_view text, CFG_TIME_SECTION* section) noexcept {
-    if (text.size() != 19 || !scan::HasShape(text.data(), "0 00:00:00-00:00:00")) return false;
+    if (text.size() != 19) return false;
     const char* const t = text.data();
-    const std::int32_t fields[kSectionFields] = {t[0] - '0',
-                                                 scan::TwoDigits(t + 2),
-                                                 scan::TwoDigits(t + 5),
-                                                 scan::TwoDigits(t + 8),
-                                                 scan::TwoDigits(t + 11),
-                                                 scan::TwoDigits(t + 14),
-                                                 scan::TwoDigits(t + 17)};
+    std::uint64_t bad = 0;
+    const auto begin = scan::ReadClock(t + 2, bad);
+    const auto end = scan::ReadClock(t + 11, bad);
+    if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
+    const std::int32_t fields[kSectionFields] = {t[0] - '0', begin.hour, begin.minute, begin.second,
+                                                 end.hour,   end.minute, end.second};
     Store(section, fields, kSectionFields);
     return true;
 }
@@ -95,11 +94,11 @@ bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
     for (int i = 1; i < kSectionFields; ++i)
         usual &= static_cast<std::uint32_t>(fields[i]) < 100;
     if (!usual) return false;
-    char text[] = "0 00:00:00-00:00:00";
-    text[0] = static_cast<char>('0' + fields[0]);
+    char text[] = "\"0 00:00:00-00:00:00\"";
+    text[1] = static_cast<char>('0' + fields[0]);
     for (int i = 1; i < kSectionFields; ++i)
-        std::memcpy(text + 3 * i - 1, &scan::kPairs[2 * fields[i]], 2);
-    out.String({text, 19});
+        std::memcpy(text + 3 * i, &scan::kPairs[2 * fields[i]], 2);
+    out.RawString({text, 21});
     return true;
 }
 

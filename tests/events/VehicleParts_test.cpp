@@ -98,7 +98,9 @@ TEST(TrafficCar, WhatAbsentKeysLeave) {
 TEST(TrafficCar, SizesAreExactNames) {
     const std::pair<const char*, int> sizes[] = {{"Light-duty", 1}, {"Medium", 2},  {"Oversize", 4}, {"Minisize", 8},
                                                  {"Largesize", 16}, {"medium", -1}, {"", -1}};
-    for (const auto& [name, code] : sizes) {
+    for (const auto& size : sizes) {
+        const char* const name = size.first;
+        const int code = size.second;
         EXPECT_TRUE(Car(std::string("{\"VehicleSize\":\"") + name + "\"}",
                         [&](const EVENT_TRAFFIC_CAR_INFO& car) { EXPECT_EQ(car.nVehicleSize, code) << name; }));
     }
@@ -571,7 +573,9 @@ TEST(TrafficFlowStat, DelayNeedsBothSpellings) {
                                                  {R"({"Delay ":6})", 0},
                                                  {R"({"Delay":5,"Delay ":6})", 6},
                                                  {R"({"Delay":0,"Delay ":7})", 7}};
-    for (const auto& [detail, expected] : cases) {
+    for (const auto& spelling : cases) {
+        const char* const detail = spelling.first;
+        const int expected = spelling.second;
         EXPECT_TRUE(
             DecodeOne("TrafficFlowStat", std::string("{\"DetailInfo\":") + detail + "}", [&](const Delivered& event) {
                 EXPECT_EQ(event.as<DEV_EVENT_TRAFFICFLOWSTAT_INFO>().nDelay, expected) << detail;

@@ -13,7 +13,7 @@ bool ParamConvert(const std::byte* source, std::uint32_t sourceSize, std::byte* 
     constexpr std::uint32_t kWord = sizeof(std::uint32_t);
     if (sourceSize < kWord || destinationSize < kWord) {
         LogSetPosition("Platform/ParamConvert", 103, E_LOG_LEVEL_ERROR);
-        LogTrace(static_cast<int>(0x9000001e), "_ParamConvert: invalid dwSize");
+        LogTrace(E_LOG_CODE_RECORD_SIZE, "_ParamConvert: invalid dwSize");
         return false;
     }
     std::memmove(destination + kWord, source + kWord, std::min(sourceSize, destinationSize) - kWord);
@@ -29,12 +29,14 @@ void ConvertFields(const record::Table& table, const std::byte* source, std::uin
         if (field.offset + field.size > both) continue;
         std::byte* const to = destination + field.offset;
         const std::byte* const from = source + field.offset;
-        if (field.cell == record::Cell::Char && field.rank == 0) {
-            std::memset(to, 0, field.size);
-            const auto text = record::TextAt(from, field.size - 1);
-            std::memcpy(to, text.data(), text.size());
-        } else {
+        if (field.cell != record::Cell::Char) {
             std::memcpy(to, from, field.size);
+            continue;
+        }
+        std::memset(to, 0, field.size);
+        for (std::uint32_t at = 0; at < field.size; at += field.elementSize) {
+            const auto text = record::TextAt(from + at, field.elementSize - 1);
+            std::memcpy(to + at, text.data(), text.size());
         }
     }
 }

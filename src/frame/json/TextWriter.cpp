@@ -45,6 +45,7 @@ unsigned Suspects(__m128i bytes) noexcept {
 // when the decimal exponent is 0.
 constexpr int kPrecision = 16;
 constexpr std::size_t kRealRoom = 32;
+constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out without a search for their digits
 
 // Lays the digits out as "%#.16g" does: plainly for exponents from -4 to 15, otherwise with an exponent.
 char* LayOut(const char* digits, int exponent, char* out) noexcept {
@@ -81,6 +82,14 @@ void TextWriter::Real(double number) noexcept {
     char* out = text;
     if (std::signbit(number)) *out++ = '-';
     const double magnitude = std::fabs(number);
+    // Sizes and coordinates are whole numbers as a rule: zeros fill up their digits.
+    if (magnitude < kWholeLimit && magnitude == static_cast<double>(static_cast<std::uint32_t>(magnitude))) {
+        char* const point = std::to_chars(out, text + kRealRoom, static_cast<std::uint32_t>(magnitude)).ptr;
+        *point = '.';
+        std::memset(point + 1, '0', kPrecision);
+        Separate();
+        return Append(text, static_cast<std::size_t>(out + kPrecision + 1 - text));
+    }
     if (!std::isfinite(number)) {
         Separate();
         std::memcpy(out, std::isnan(number) ? "nan" : "inf", 3);
@@ -110,6 +119,18 @@ void TextWriter::Quote(std::string_view text) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
 #if ORRERY_SSE2
+    // A text of two blocks or less that is clean, as most are: the blocks overlap.
+    if (text.size() >= 16 && text.size() <= 32 && static_cast<std::size_t>(end_ - next_) > text.size()) {
+        const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(end - 16));
+        if ((Suspects(low) | Suspects(high)) == 0) [[likely]] {
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(next_), low);
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(next_ + text.size() - 16), high);
+            next_ += text.size();
+            *next_++ = '"';
+            return;
+        }
+    }
     // Whole blocks are stored before it is known how much of them is good: what is not gets overwritten.
     while (end - p >= 16 && end_ - next_ >= 16) {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));

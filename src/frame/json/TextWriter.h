@@ -20,7 +20,7 @@ class TextWriter {
     TextWriter(char* buffer, std::size_t capacity) noexcept : begin_(buffer), next_(buffer), end_(buffer + capacity) {}
 
     void Null() noexcept { Scalar("null", 4); }
-    void Bool(bool flag) noexcept { flag ? Scalar("true", 4) : Scalar("false", 5); }
+    void Bool(bool flag) noexcept { Scalar(flag ? "true" : "false", flag ? 4 : 5); }
     void Int(std::int32_t number) noexcept { Integer(number); }
     void UInt(std::uint32_t number) noexcept { Integer(number); }
     // The digits of printf's "%#.16g", whatever the locale.
@@ -57,10 +57,11 @@ class TextWriter {
     }
     // A key that is written already, as in `"Enable" : ` with its quotes, its colon and both blanks.
     void RawKey(std::string_view quoted) noexcept {
-        Separate();
-        Append(quoted.data(), quoted.size());
+        Scalar(quoted.data(), quoted.size());
         first_ = true;
     }
+    // A string with nothing to escape in it that is quoted already.
+    void RawString(std::string_view quoted) noexcept { Scalar(quoted.data(), quoted.size()); }
 
     // A whole value, of any depth and without recursion. False when `arena`, which holds the writer's place on the way
     // down, is exhausted.
@@ -76,6 +77,7 @@ class TextWriter {
   private:
     // Longer than any 32-bit number.
     static constexpr std::ptrdiff_t kIntegerRoom = 12;
+    static constexpr std::size_t kSeparator = 2;
 
     void Append(const char* text, std::size_t size) noexcept {
         if (size <= static_cast<std::size_t>(end_ - next_) && size > 0) [[likely]] {
@@ -86,19 +88,55 @@ class TextWriter {
         }
     }
     void Separate() noexcept {
-        if (!first_) Append(", ", 2);
+        if (!first_) Append(", ", kSeparator);
         first_ = false;
     }
+    // The same where there is room for it.
+    void SeparateWithin() noexcept {
+        if (!first_) {
+            std::memcpy(next_, ", ", kSeparator);
+            next_ += kSeparator;
+        }
+        first_ = false;
+    }
+    // Texts of a few bytes, as keys and words are: two stores that overlap instead of a call.
+    static void CopyShort(char* out, const char* text, std::size_t size) noexcept {
+        if (size > 32) {
+            std::memcpy(out, text, size);
+        } else if (size >= 16) {
+            std::memcpy(out, text, 16);
+            std::memcpy(out + size - 16, text + size - 16, 16);
+        } else if (size >= 8) {
+            std::memcpy(out, text, 8);
+            std::memcpy(out + size - 8, text + size - 8, 8);
+        } else if (size >= 4) {
+            std::memcpy(out, text, 4);
+            std::memcpy(out + size - 4, text + size - 4, 4);
+        } else {
+            for (std::size_t i = 0; i < size; ++i)
+                out[i] = text[i];
+        }
+    }
     void Scalar(const char* text, std::size_t size) noexcept {
-        Separate();
-        Append(text, size);
+        if (size + kSeparator <= static_cast<std::size_t>(end_ - next_)) [[likely]] {
+            SeparateWithin();
+            CopyShort(next_, text, size);
+            next_ += size;
+        } else {
+            Separate();
+            Append(text, size);
+        }
     }
     template <class Number>
     void Integer(Number number) noexcept {
-        Separate();
-        if (end_ - next_ >= kIntegerRoom) [[likely]] {
-            next_ = std::to_chars(next_, end_, number).ptr;
+        if (end_ - next_ >= kIntegerRoom + static_cast<std::ptrdiff_t>(kSeparator)) [[likely]] {
+            SeparateWithin();
+            if (number >= 0 && number < 10)
+                *next_++ = static_cast<char>('0' + number);
+            else
+                next_ = std::to_chars(next_, end_, number).ptr;
         } else {
+            Separate();
             char digits[kIntegerRoom];
             Append(digits, static_cast<std::size_t>(std::to_chars(digits, digits + kIntegerRoom, number).ptr - digits));
         }

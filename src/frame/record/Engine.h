@@ -40,7 +40,15 @@ struct WriteCall {
     // Opens the row's key in the current object; a value must follow. A row that writes nothing leaves it alone.
     void Key() noexcept { Quoted(quotedKey); }
     // Opens a member whose text, `"Key" : ` with quotes and colon, is given.
-    void Quoted(std::string_view quoted) noexcept;
+    void Quoted(std::string_view quoted) noexcept {
+        // An empty key is that of a value that stands on its own: its place is open already.
+        if (quoted.size() == kQuotesAndColon) return;
+        if (!object->opened) Open(*object);
+        out.RawKey(quoted);
+    }
+
+  private:
+    void Open(OpenObject& closed) noexcept;
 };
 
 // Sets what starts at something other than zero: defaults and size words, nested ones included. The record must be
@@ -84,14 +92,62 @@ void Store(std::byte* at, T value) noexcept {
 }
 
 // An integer member of any width; 0 for a slot that does not exist.
-std::int64_t LoadInteger(Cell cell, const std::byte* at) noexcept;
-void StoreInteger(Cell cell, std::byte* at, std::int64_t value) noexcept;
+inline std::int64_t LoadInteger(Cell cell, const std::byte* at) noexcept {
+    switch (cell) {
+    case Cell::I8:
+        return Load<std::int8_t>(at);
+    case Cell::U8:
+        return Load<std::uint8_t>(at);
+    case Cell::I16:
+        return Load<std::int16_t>(at);
+    case Cell::U16:
+        return Load<std::uint16_t>(at);
+    case Cell::I32:
+        return Load<std::int32_t>(at);
+    case Cell::U32:
+        return Load<std::uint32_t>(at);
+    case Cell::I64:
+        return Load<std::int64_t>(at);
+    case Cell::U64:
+        return static_cast<std::int64_t>(Load<std::uint64_t>(at));
+    default:
+        return 0;
+    }
+}
+inline void StoreInteger(Cell cell, std::byte* at, std::int64_t value) noexcept {
+    switch (cell) {
+    case Cell::I8:
+    case Cell::U8:
+        Store(at, static_cast<std::uint8_t>(value));
+        break;
+    case Cell::I16:
+    case Cell::U16:
+        Store(at, static_cast<std::uint16_t>(value));
+        break;
+    case Cell::I32:
+    case Cell::U32:
+        Store(at, static_cast<std::uint32_t>(value));
+        break;
+    case Cell::I64:
+    case Cell::U64:
+        Store(at, value);
+        break;
+    default:
+        break;
+    }
+}
+// A number into a member of any arithmetic type.
+void StoreReal(Cell cell, std::byte* at, double number) noexcept;
+void StoreNumber(Cell cell, std::byte* at, std::int64_t number) noexcept;
 inline std::int64_t LoadSlot(const Slot& slot, const std::byte* record) noexcept {
     return slot.exists() ? LoadInteger(slot.cell, record + slot.offset) : 0;
 }
 inline void StoreSlot(const Slot& slot, std::byte* record, std::int64_t value) noexcept {
     if (slot.exists()) StoreInteger(slot.cell, record + slot.offset, value);
 }
+
+// Bytes from one element of a list to the next, at a level of the member's dimensions.
+std::uint32_t StrideOf(const Field& field, int level) noexcept;
 
 // A field's text up to its terminator, or to its capacity when it has none.
 std::string_view TextAt(const std::byte* at, std::size_t capacity) noexcept;

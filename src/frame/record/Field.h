@@ -98,10 +98,14 @@ struct CustomCodec {
     void (*read)(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
     // Writes `call.Key(...)` and a value, or nothing.
     void (*write)(const Field& field, const std::byte* record, WriteCall& call) = nullptr;
+    // A JSON value as devices send it that comes back the same when it is written; null when nothing comes back.
+    // Whoever fills records from tables alone, tests above all, has nothing else to go by.
+    const char* sample = nullptr;
 };
 
 struct Field {
     static constexpr int kMaxRank = 3;
+    static constexpr std::int64_t kNoLimit = INT64_MAX;
 
     const char* name = "";
     // Member names from the table's object down, separated by '/'; null: not in the text; "": the value itself.
@@ -110,7 +114,9 @@ struct Field {
     std::uint32_t size = 0;        // of the whole member; 0 for a row that stores nothing
     std::uint32_t elementSize = 0; // of one element; a text's is its capacity
     std::uint32_t dims[kMaxRank] = {};
-    std::uint8_t rank = 0; // array levels of the member, a text's own characters not among them
+    std::uint8_t alignment = 1; // of the member
+    std::uint8_t rank = 0;      // array levels of the member, a text's own characters not among them
+    bool wholeMember = false;   // the codec takes all of them at once
     Cell cell = Cell::I32;
     Kind kind = Kind::None;
     Kind writtenAs = Kind::None;
@@ -130,7 +136,7 @@ struct Field {
     Slot count; // elements in use
     Slot capacity;
     bool countUncapped = false;
-    bool anyShape = false; // a list is read, as empty, also when the value is no array
+    bool anyShape = false; // a list is read also when the value is no array
     bool exactly = false;  // a list is read only when it has as many elements as the member
     bool keyed = false;    // a list stands as an object whose members are the elements
     bool zeroed = false;   // elements of a caller's array are cleared before they are read
@@ -146,8 +152,8 @@ struct Field {
     bool hasUnless = false;
     std::int32_t unless = 0; // the key is left out at this value
     bool notNegative = false;
-    std::int32_t atMost = INT32_MAX; // a larger number is written as this one
-    Slot condition;                  // the key is written only when this member is set
+    std::int64_t atMost = kNoLimit; // a larger number is written as this one
+    Slot condition;                 // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;
@@ -197,6 +203,7 @@ struct Field {
         f.zeroed = true;
         return f;
     }
+    // A list is read also when the value is no array: as empty, or as one empty element for each member of an object.
     constexpr Field AnyShape() const {
         auto f = *this;
         f.anyShape = true;
@@ -303,6 +310,12 @@ struct Field {
         f.skipped = rule;
         return f;
     }
+    // The codes that a row's own functions deal in, so that tools can show their names.
+    constexpr Field Coded(const NameTable& codes) const {
+        auto f = *this;
+        f.names = &codes;
+        return f;
+    }
     // A second key of a field that has a row of its own.
     constexpr Field Alias() const {
         auto f = *this;
@@ -377,6 +390,7 @@ struct Names {
     static constexpr bool accepts = kIsInteger<T>;
     const NameTable* table;
     constexpr explicit Names(const NameTable& itsTable) : table(&itsTable) {}
+    explicit Names(const NameTable&&) = delete; // the row points to the table
 };
 
 // Object or tuple through another table. The table's record must be the member's type (or what it points to).
@@ -447,6 +461,7 @@ constexpr Field MakePlace(const char* name, std::size_t offset) {
     field.name = name;
     field.offset = static_cast<std::uint32_t>(offset);
     field.size = sizeof(T);
+    field.alignment = alignof(T);
     using Innermost = std::remove_all_extents_t<T>;
     constexpr bool isText = std::is_same_v<Innermost, char>;
     field.cell = CellOf<Innermost>();
@@ -488,6 +503,7 @@ constexpr Field MakeField(const char* name, std::size_t offset, const char* key,
     Field field = MakePlace<T>(name, offset);
     field.key = key;
     field.kind = field.writtenAs = C::kind;
+    field.wholeMember = C::wholeMember;
     if constexpr (C::kind == Kind::Names) field.names = codec.table;
     if constexpr (requires { codec.names; }) field.names = codec.names;
     if constexpr (requires { C::owned; }) field.owned = C::owned;

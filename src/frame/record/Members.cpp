@@ -2,50 +2,26 @@
 
 namespace orrery::record {
 
-std::int64_t LoadInteger(Cell cell, const std::byte* at) noexcept {
-    switch (cell) {
-    case Cell::I8:
-        return Load<std::int8_t>(at);
-    case Cell::U8:
-        return Load<std::uint8_t>(at);
-    case Cell::I16:
-        return Load<std::int16_t>(at);
-    case Cell::U16:
-        return Load<std::uint16_t>(at);
-    case Cell::I32:
-        return Load<std::int32_t>(at);
-    case Cell::U32:
-        return Load<std::uint32_t>(at);
-    case Cell::I64:
-        return Load<std::int64_t>(at);
-    case Cell::U64:
-        return static_cast<std::int64_t>(Load<std::uint64_t>(at));
-    default:
-        return 0;
-    }
+void StoreReal(Cell cell, std::byte* at, double number) noexcept {
+    if (cell == Cell::F32)
+        Store(at, static_cast<float>(number));
+    else
+        Store(at, number);
 }
 
-void StoreInteger(Cell cell, std::byte* at, std::int64_t value) noexcept {
-    switch (cell) {
-    case Cell::I8:
-    case Cell::U8:
-        Store(at, static_cast<std::uint8_t>(value));
-        break;
-    case Cell::I16:
-    case Cell::U16:
-        Store(at, static_cast<std::uint16_t>(value));
-        break;
-    case Cell::I32:
-    case Cell::U32:
-        Store(at, static_cast<std::uint32_t>(value));
-        break;
-    case Cell::I64:
-    case Cell::U64:
-        Store(at, value);
-        break;
-    default:
-        break;
-    }
+void StoreNumber(Cell cell, std::byte* at, std::int64_t number) noexcept {
+    if (cell == Cell::F32 || cell == Cell::F64)
+        StoreReal(cell, at, static_cast<double>(number));
+    else
+        StoreInteger(cell, at, number);
+}
+
+std::uint32_t StrideOf(const Field& field, int level) noexcept {
+    if (field.cell == Cell::Pointer) return field.table->size;
+    std::uint32_t stride = field.elementSize;
+    for (int i = field.rank - 1; i > level; --i)
+        stride *= field.dims[i];
+    return stride;
 }
 
 std::string_view TextAt(const std::byte* at, std::size_t capacity) noexcept {
@@ -77,7 +53,7 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
         } else if (defaults && field.hasDefault) {
             const std::uint32_t count = ElementCount(field);
             for (std::uint32_t i = 0; i < count; ++i) {
-                StoreInteger(field.cell, at + std::size_t{i} * field.elementSize, field.defaultValue);
+                StoreNumber(field.cell, at + std::size_t{i} * field.elementSize, field.defaultValue);
             }
         }
     }

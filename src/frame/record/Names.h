@@ -10,10 +10,24 @@ namespace orrery::record {
 
 enum class Compare : std::uint8_t { Folded, Exact };
 
+// The first eight bytes of a text with ASCII capitals made small, zeros behind a shorter one: what a look-up compares.
+constexpr std::uint64_t FoldedPrefix(std::string_view text) {
+    std::uint64_t prefix = 0;
+    for (std::size_t i = 0; i < 8 && i < text.size(); ++i) {
+        const char c = text[i] >= 'A' && text[i] <= 'Z' ? static_cast<char>(text[i] + ('a' - 'A')) : text[i];
+        prefix |= std::uint64_t{static_cast<unsigned char>(c)} << 8 * i;
+    }
+    return prefix;
+}
+
 struct Name {
     std::int32_t code;
+    Compare compare; // Exact: case counts in this one text, whatever the table says
     std::string_view text;
-    Compare compare = Compare::Folded; // Exact: case counts in this one text, whatever the table says
+    std::uint64_t prefix; // FoldedPrefix(text)
+
+    constexpr Name(std::int32_t itsCode, std::string_view itsText, Compare itsCompare = Compare::Folded)
+        : code(itsCode), compare(itsCompare), text(itsText), prefix(FoldedPrefix(itsText)) {}
 };
 
 struct NameTable {
@@ -22,6 +36,7 @@ struct NameTable {
     const Name* rows = nullptr;
     std::uint16_t count = 0;
     Compare compare = Compare::Folded;
+    bool countsUp = false; // the codes go up by one from row to row, as those of nearly every table do
     bool unknownLeaves = false;
     bool lastWins = false;
     std::int32_t unknownCode = 0;
@@ -70,6 +85,9 @@ constexpr NameTable FoldedNames(const Name (&rows)[N]) {
     NameTable table;
     table.rows = rows;
     table.count = N;
+    table.countsUp = true;
+    for (std::size_t i = 1; i < N; ++i)
+        table.countsUp = table.countsUp && rows[i].code == std::int64_t{rows[i - 1].code} + 1;
     return table;
 }
 

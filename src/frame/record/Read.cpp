@@ -3,6 +3,7 @@
 #include "frame/Log.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace orrery::record {
 
@@ -24,14 +25,6 @@ Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSiz
     return {first, static_cast<std::uint32_t>(std::min<std::int64_t>(room, UINT32_MAX))};
 }
 
-std::uint32_t StrideOf(const Field& field, int level) noexcept {
-    if (field.cell == Cell::Pointer) return field.table->size;
-    std::uint32_t stride = field.elementSize;
-    for (int i = field.rank - 1; i > level; --i)
-        stride *= field.dims[i];
-    return stride;
-}
-
 bool IsOfType(OnlyType only, const Value& value) noexcept {
     switch (only) {
     case OnlyType::Any:
@@ -50,20 +43,6 @@ bool IsOfType(OnlyType only, const Value& value) noexcept {
         return value.type() == json::Type::Array;
     }
     return true;
-}
-
-void StoreReal(const Field& field, std::byte* at, double number) noexcept {
-    if (field.cell == Cell::F32)
-        Store(at, static_cast<float>(number));
-    else
-        Store(at, number);
-}
-
-void StoreNumber(const Field& field, std::byte* at, std::int64_t number) noexcept {
-    if (field.cell == Cell::F32 || field.cell == Cell::F64)
-        StoreReal(field, at, static_cast<double>(number));
-    else
-        StoreInteger(field.cell, at, number);
 }
 
 void ReadBitMask(const Field& field, const Value& value, std::byte* at) noexcept {
@@ -104,13 +83,13 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         StoreInteger(field.cell, at, value.asBool() ? 1 : 0);
         break;
     case Kind::Int:
-        StoreNumber(field, at, value.asInt());
+        StoreNumber(field.cell, at, value.asInt());
         break;
     case Kind::UInt:
-        StoreNumber(field, at, value.asUInt());
+        StoreNumber(field.cell, at, value.asUInt());
         break;
     case Kind::Real:
-        StoreReal(field, at, value.asDouble());
+        StoreReal(field.cell, at, value.asDouble());
         break;
     case Kind::Text:
     case Kind::RawText:
@@ -198,6 +177,9 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             readSlot(member.value, member.key());
             ++counted;
         }
+    } else if (value.type() == json::Type::Object) {
+        // Its members have no place in a list, but each stands for an element that is not there.
+        used = counted = std::min(value.size(), room.room);
     } else {
         for (const Value& element : value.elements()) {
             if (used == room.room) break;
@@ -233,33 +215,47 @@ bool TakesList(const Field& field, const Value& value, std::uint32_t extent) noe
     return value.isArray() || field.anyShape;
 }
 
-bool TakesWholeMember(Kind kind) noexcept {
-    switch (kind) {
-    case Kind::Schedule:
-    case Kind::SectionList:
-    case Kind::BitMask:
-    case Kind::BitMaskLoose:
-    case Kind::Switches:
-    case Kind::Custom:
-        return true;
-    default:
-        return false;
+std::uint64_t PrefixOf(const json::Member& member) noexcept {
+    if (member.keySize < 8) return KeyPrefix(member.key());
+    std::uint64_t bytes;
+    std::memcpy(&bytes, member.keyText, sizeof bytes);
+    if constexpr (std::endian::native == std::endian::little) bytes = __builtin_bswap64(bytes);
+    return bytes;
+}
+
+// Below zero, zero or above zero as the node's key orders before, with or behind the member's. The first eight bytes
+// tell as a rule, and eight that overlap them tell that keys of up to sixteen are the same.
+int CompareToMember(const Table& table, const Node& node, const json::Member& member) noexcept {
+    const std::uint64_t prefix = PrefixOf(member);
+    if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
+    const std::string_view key = table.keyOf(node);
+    if (key.size() == member.keySize && key.size() >= 8 && key.size() <= 16) {
+        const std::size_t last = key.size() - 8;
+        if (std::memcmp(key.data() + last, member.keyText + last, 8) == 0) return 0;
     }
+    return json::CompareKeys(key, member.key());
+}
+
+void ReadPlainly(Plainly how, const Field& field, const Value& value, std::byte* record) noexcept {
+    StoreSlot(field.flag, record, 1);
+    Store(record + field.offset, how == Plainly::Switch ? std::int32_t{value.asBool()} : value.asInt());
 }
 
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
     const auto members = object.members();
-    auto member = members.begin();
+    const json::Member* member = members.data();
+    const json::Member* const membersEnd = member + members.size();
     const Node* const end = table.nodes + range.first + range.count;
     for (const Node* node = table.nodes + range.first; node != end; ++node) {
-        const std::string_view key = table.keyOf(*node);
         int order = -1;
-        while (member != members.end() && (order = key.compare(member->key())) > 0)
+        while (member != membersEnd && (order = CompareToMember(table, *node, *member)) > 0)
             ++member;
-        const bool found = member != members.end() && order == 0 && !member->value.isNull();
+        const bool found = member != membersEnd && order == 0 && !member->value.isNull();
         if (!found && !node->needsAbsent) continue;
         const Value& value = found ? member->value : json::kNull;
-        if (node->childCount > 0)
+        if (node->readPlainly != Plainly::No)
+            ReadPlainly(node->readPlainly, table.rows[node->row], value, record);
+        else if (node->childCount > 0)
             ReadNodes(table, {node->firstChild, node->childCount}, value, record, call);
         else
             ReadField(table.rows[node->row], value, record, call);
@@ -276,7 +272,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
         return;
     }
-    if (TakesWholeMember(field.kind)) {
+    if (field.wholeMember) {
         if (!value.isArray() && !field.anyShape) return;
         StoreSlot(field.flag, record, 1);
         ReadElement(field, value, record + field.offset, call, {});
@@ -308,7 +304,12 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
-            const Field& field = table.rows[table.nodes[table.self.first + i].row];
+            const Node& node = table.nodes[table.self.first + i];
+            const Field& field = table.rows[node.row];
+            if (node.readPlainly == Plainly::Number) {
+                Store(record + field.offset, value[i].asInt());
+                continue;
+            }
             // A null among the numbers reads as 0, as every other element of the wrong type does.
             ReadElement(field, value[i], record + field.offset, call, {});
         }

@@ -17,15 +17,30 @@
 
 namespace orrery::record {
 
+// The rows that most are, a switch or a number in a 32-bit member with a presence flag at most, have a short way in and
+// out: nothing else of the row need be looked at.
+enum class Plainly : std::uint8_t { No, Switch, Number };
+
+// The first eight bytes of a key as a number that orders like the key, but for what follows them.
+constexpr std::uint64_t KeyPrefix(std::string_view key) {
+    std::uint64_t prefix = 0;
+    for (std::size_t i = 0; i < 8; ++i)
+        prefix = prefix << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0u);
+    return prefix;
+}
+
 // One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
 // nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
 struct Node {
+    std::uint64_t prefix = 0;
     std::uint16_t quotedAt = 0; // the text `"Key" : ` in the table's key texts
     std::uint16_t keySize = 0;
     std::uint16_t row = 0;
     std::uint16_t firstChild = 0;
     std::uint16_t childCount = 0; // above 0: an object inside the object
     bool needsAbsent = false;     // looked at also when the key is absent
+    Plainly readPlainly = Plainly::No;
+    Plainly writePlainly = Plainly::No;
 };
 
 struct NodeRange {
@@ -113,6 +128,7 @@ namespace build {
 void rows_do_not_tile_the_record();
 void a_nested_record_needs_its_table();
 void a_key_must_not_be_escaped();
+void a_pointer_needs_its_capacity();
 
 constexpr int Parts(std::string_view key) {
     int parts = 1;
@@ -137,6 +153,19 @@ constexpr bool Before(std::string_view left, std::string_view right) {
         if (a != b) return a < b; // char_traits<char> compares as unsigned bytes
     }
     return leftParts < rightParts;
+}
+
+constexpr Plainly PlainKind(const Field& row, Kind kind) {
+    if (row.rank > 0 || row.cell != Cell::I32) return Plainly::No;
+    return kind == Kind::Bool ? Plainly::Switch : kind == Kind::Int ? Plainly::Number : Plainly::No;
+}
+constexpr Plainly ReadPlainly(const Field& row) {
+    return row.readable && row.only == OnlyType::Any && row.atLeast == 0 ? PlainKind(row, row.kind) : Plainly::No;
+}
+constexpr Plainly WritePlainly(const Field& row) {
+    const bool ruled = !row.writable || row.trueAtOne || row.hasUnless || row.notNegative || row.when != nullptr
+                       || row.condition.exists() || row.atMost != Field::kNoLimit || row.kind == Kind::Custom;
+    return ruled ? Plainly::No : PlainKind(row, row.writtenAs);
 }
 
 struct Limits {
@@ -170,6 +199,7 @@ struct Tree {
         Node& node = nodes[nodeCount++];
         node.quotedAt = textSize;
         node.keySize = static_cast<std::uint16_t>(key.size());
+        node.prefix = KeyPrefix(key);
         texts[textSize++] = '"';
         for (char c : key) {
             if (c == '"' || c == '\\' || c == '/' || (c >= 0 && c < 32)) a_key_must_not_be_escaped();
@@ -199,6 +229,9 @@ struct Tree {
                 const NodeRange inside = AddObject(rows, order + i, end - i, depth + 1);
                 nodes[index].firstChild = inside.first;
                 nodes[index].childCount = inside.count;
+            } else {
+                nodes[index].readPlainly = ReadPlainly(rows[order[i]]);
+                nodes[index].writePlainly = WritePlainly(rows[order[i]]);
             }
             i = end;
         }
@@ -247,24 +280,30 @@ consteval auto BuildTree() {
         if (rows[i].key == nullptr || rows[i].key[0] != '\0') continue;
         Node& node = tree.Add("");
         node.row = static_cast<std::uint16_t>(i);
+        node.readPlainly = ReadPlainly(rows[i]);
+        node.writePlainly = WritePlainly(rows[i]);
         node.needsAbsent = true;
         ++tree.self.count;
     }
     return tree;
 }
 
+// Where the compiler puts the next member of this alignment.
+constexpr std::size_t Aligned(std::size_t end, std::size_t alignment) {
+    return (end + alignment - 1) / alignment * alignment;
+}
+
+// Every row begins where the compiler puts the next member, so that nothing but padding lies between two rows. Only a
+// field that fits into padding, such as a byte in front of a number, can be forgotten unseen.
 template <class Rows>
-consteval bool Tile(std::size_t recordSize) {
+consteval bool Tile() {
     std::size_t end = 0;
     for (const Field& row : Rows::rows) {
         if (row.alias || row.size == 0) continue;
-        const std::size_t gap = row.offset - end;
-        if (row.offset < end || gap >= 8 || (gap > 0 && row.offset % (gap >= 4 ? 8 : gap >= 2 ? 4 : 2) != 0)) {
-            rows_do_not_tile_the_record();
-        }
+        if (row.offset != Aligned(end, row.alignment)) rows_do_not_tile_the_record();
         end = row.offset + row.size;
     }
-    if (end > recordSize || recordSize - end >= 8) rows_do_not_tile_the_record();
+    if (sizeof(typename Rows::R) != Aligned(end, alignof(typename Rows::R))) rows_do_not_tile_the_record();
     return true;
 }
 
@@ -277,7 +316,7 @@ template <class Rows>
 consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     using R = typename Rows::R;
     static_assert(std::is_standard_layout_v<R> && std::is_trivial_v<R>, "records are plain C structures");
-    static_assert(build::Tile<Rows>(sizeof(R)));
+    static_assert(build::Tile<Rows>());
     constexpr auto& tree = build::kTree<Rows>;
     TypedTable<R> table;
     table.record = name;
@@ -296,6 +335,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         const bool isOwnedText = row.cell == Cell::Pointer && row.owned && row.kind == Kind::Custom;
         if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr && !isOwnedText) {
             build::a_nested_record_needs_its_table();
+        }
+        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !row.owned) {
+            build::a_pointer_needs_its_capacity();
         }
         if (row.kind == Kind::Record && row.cell != Cell::Pointer && !row.table->startsWhenRead) {
             if (row.table->hasDefaults) table.hasDefaults = true;

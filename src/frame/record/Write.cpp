@@ -35,7 +35,7 @@ Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
     std::int64_t room = field.dims[0];
     if (field.cell == Cell::Pointer) {
         first = Load<const std::byte*>(first);
-        room = field.capacity.exists() ? LoadSlot(field.capacity, record) : INT32_MAX;
+        room = LoadSlot(field.capacity, record);
         if (first == nullptr) room = 0;
     }
     std::int64_t count = field.count.exists() ? LoadSlot(field.count, record) : room;
@@ -85,10 +85,10 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
         break;
     }
     case Kind::Int:
-        out.Int(static_cast<std::int32_t>(LoadWhole(field, at)));
+        out.Int(static_cast<std::int32_t>(std::min(LoadWhole(field, at), field.atMost)));
         break;
     case Kind::UInt:
-        out.UInt(static_cast<std::uint32_t>(LoadWhole(field, at)));
+        out.UInt(static_cast<std::uint32_t>(std::min(LoadWhole(field, at), field.atMost)));
         break;
     case Kind::Real:
         out.Real(LoadReal(field, at));
@@ -164,9 +164,7 @@ void WriteLevels(const Field& field, int level, const std::byte* at, WriteCall& 
             call.out.Null();
         return;
     }
-    std::uint32_t stride = field.elementSize;
-    for (int i = field.rank - 1; i > level; --i)
-        stride *= field.dims[i];
+    const std::uint32_t stride = StrideOf(field, level);
     call.out.BeginArray();
     for (std::uint32_t i = 0; i < field.dims[level]; ++i) {
         WriteLevels(field, level + 1, at + std::size_t{i} * stride, call);
@@ -184,16 +182,14 @@ std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
     return {room, static_cast<std::size_t>(size)};
 }
 
+bool IsPlainNumber(const Field& field) noexcept {
+    return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
+}
+
 // The elements of a list with a count of its own, or behind a pointer.
 void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     const Elements elements = ElementsOf(field, record);
-    std::uint32_t stride = field.elementSize;
-    if (field.cell == Cell::Pointer)
-        stride = field.table->size;
-    else
-        for (int i = 1; i < field.rank; ++i)
-            stride *= field.dims[i];
-
+    const std::uint32_t stride = StrideOf(field, 0);
     if (elements.count == 0) {
         if (field.empty == Empty::NoKey) return;
         call.Key();
@@ -219,6 +215,12 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     }
     call.Key();
     call.out.BeginArray();
+    if (IsPlainNumber(field) && inner == field.rank) {
+        // Channels above all: the longest lists there are.
+        for (std::uint32_t i = 0; i < end; ++i)
+            call.out.Int(Load<std::int32_t>(elements.first + std::size_t{i} * stride));
+        return call.out.EndArray();
+    }
     for (std::uint32_t i = 0; i < end; ++i) {
         const std::byte* const at = elements.first + std::size_t{i} * stride;
         if (inner == field.rank || field.cell == Cell::Pointer) {
@@ -233,19 +235,6 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     call.out.EndArray();
 }
 
-bool TakesWholeMember(Kind kind) noexcept {
-    switch (kind) {
-    case Kind::Schedule:
-    case Kind::SectionList:
-    case Kind::BitMask:
-    case Kind::BitMaskLoose:
-    case Kind::Switches:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     if (!field.writable) return;
     if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
@@ -256,7 +245,7 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         return;
     }
     const std::byte* const at = record + field.offset;
-    if (TakesWholeMember(field.kind)) {
+    if (field.wholeMember) {
         if (field.empty != Empty::Array && field.kind != Kind::Schedule && field.kind != Kind::SectionList
             && IsMaskEmpty(field, at)) {
             if (field.empty == Empty::NoKey) return;
@@ -267,8 +256,9 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         return WriteElement(field, at, call);
     }
     if (field.rank > 0 || field.cell == Cell::Pointer) return WriteList(field, record, call);
-    if (field.hasUnless && LoadWhole(field, at) == field.unless) return;
-    if (field.notNegative && LoadWhole(field, at) < 0) return;
+    // A double holds every 32-bit number exactly, and a fraction is neither 0 nor above it.
+    if (field.hasUnless && LoadReal(field, at) == field.unless) return;
+    if (field.notNegative && LoadReal(field, at) < 0) return;
     switch (field.writtenAs) {
     case Kind::Size:
     case Kind::Presence:
@@ -298,8 +288,16 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
     const Node* const end = table.nodes + range.first + range.count;
     for (const Node* node = table.nodes + range.first; node != end; ++node) {
         if (node->childCount == 0) {
+            const Field& field = table.rows[node->row];
+            if (node->writePlainly != Plainly::No) {
+                if (field.flag.exists() && LoadSlot(field.flag, record) == 0) continue;
+                call.Quoted(table.quotedKeyOf(*node));
+                const auto number = Load<std::int32_t>(record + field.offset);
+                node->writePlainly == Plainly::Switch ? call.out.Bool(number != 0) : call.out.Int(number);
+                continue;
+            }
             call.quotedKey = table.quotedKeyOf(*node);
-            WriteField(table.rows[node->row], record, call);
+            WriteField(field, record, call);
             continue;
         }
         OpenObject inner{call.object, table.quotedKeyOf(*node), false};
@@ -310,23 +308,15 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
     }
 }
 
-void Open(OpenObject& object, json::TextWriter& out) noexcept {
-    if (object.opened) return;
-    if (object.parent != nullptr && !object.quotedKey.empty()) {
-        Open(*object.parent, out);
-        out.RawKey(object.quotedKey);
-    }
-    out.BeginObject();
-    object.opened = true;
-}
-
 } // namespace
 
-void WriteCall::Quoted(std::string_view quoted) noexcept {
-    // An empty key is that of a value that stands on its own: its place is open already.
-    if (quoted.size() == kQuotesAndColon) return;
-    Open(*object, out);
-    out.RawKey(quoted);
+void WriteCall::Open(OpenObject& closed) noexcept {
+    if (closed.parent != nullptr && !closed.quotedKey.empty()) {
+        if (!closed.parent->opened) Open(*closed.parent);
+        out.RawKey(closed.quotedKey);
+    }
+    out.BeginObject();
+    closed.opened = true;
 }
 
 bool IsWritten(const Table& table, const std::byte* record) noexcept {
@@ -376,8 +366,13 @@ void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) n
     if (table.shape != Shape::Object) {
         call.out.BeginArray();
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
-            const Field& field = table.rows[table.nodes[table.self.first + i].row];
+            const Node& node = table.nodes[table.self.first + i];
+            const Field& field = table.rows[node.row];
             const std::byte* const at = record + field.offset;
+            if (node.writePlainly == Plainly::Number) {
+                call.out.Int(Load<std::int32_t>(at));
+                continue;
+            }
             if (IsElementWritten(field, at))
                 WriteElement(field, at, call);
             else

@@ -1,0 +1,278 @@
+#include "bench/Tables.h"
+
+#include "bench/Calls.h"
+#include "bench/Heap.h"
+#include "bench/Readers.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+#include <thread>
+
+namespace orrery::bench {
+
+namespace {
+
+// What this thread has had of a processor, so that other programs' turns do not count.
+double ThreadSeconds() {
+    timespec now;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+double WallSeconds() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+double Median(std::vector<double> values) {
+    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    return values[values.size() / 2];
+}
+
+// Runs `count` calls, text after text in rotation from `first`; returns the seconds that a call took.
+template <class Call>
+double Run(Call& call, std::size_t variants, std::size_t first, std::size_t count) {
+    std::size_t i = first % variants;
+    const double start = ThreadSeconds();
+    for (std::size_t k = 0; k < count; ++k) {
+        benchmark::DoNotOptimize(call(i));
+        if (++i == variants) i = 0;
+    }
+    return (ThreadSeconds() - start) / static_cast<double>(count);
+}
+
+struct Ratio {
+    double ratio; // theirs to ours: above 1 ours is faster
+    double ours;  // seconds a call
+    double theirs;
+};
+
+class Table {
+  public:
+    explicit Table(bool quick) : pairs_(quick ? 3 : 101), time_(quick ? 0.0002 : 0.002) {}
+
+    // Ours and theirs in turn, each pair over the same texts, so that a machine that slows down slows both; the ratio
+    // is the median of the pairs' own. Before each sample one call goes untimed: what the other side left of the caches
+    // and of the heap is not what a sample is about.
+    template <class Ours, class Theirs>
+    Ratio Compare(std::size_t variants, Ours ours, Theirs theirs) const {
+        // Once through all texts, to warm up and to find how many calls make a sample.
+        const double once = std::max(Run(ours, variants, 0, variants), Run(theirs, variants, 0, variants));
+        const auto count = static_cast<std::size_t>(std::max(1.0, time_ / once));
+        const double sample = 2 * once * static_cast<double>(count + 1);
+        const auto pairs = std::clamp<std::size_t>(static_cast<std::size_t>(kMostSeconds / sample), 3, pairs_);
+        std::vector<double> a, b, ratios;
+        for (std::size_t pair = 0; pair < pairs; ++pair) {
+            Run(ours, variants, pair * count + variants - 1, 1);
+            a.push_back(Run(ours, variants, pair * count, count));
+            Run(theirs, variants, pair * count + variants - 1, 1);
+            b.push_back(Run(theirs, variants, pair * count, count));
+            ratios.push_back(b.back() / a.back());
+        }
+        return {Median(ratios), Median(a), Median(b)};
+    }
+
+    template <class Ours, class Theirs>
+    void Line(const std::string& name, double bar, std::size_t variants, Ours ours, Theirs theirs) const {
+        Print(name, Compare(variants, ours, theirs), bar);
+    }
+
+    static void Print(const std::string& name, const Ratio& r, double bar) {
+        std::printf("%-44s %7.2f   ", name.c_str(), r.ratio);
+        if (bar > 0)
+            std::printf("bar %5.2f %-6s", bar, r.ratio >= bar ? "met" : "MISSED");
+        else
+            std::printf("%-16s", "no bar");
+        std::printf("   %10.0f ns %10.0f ns\n", r.ours * 1e9, r.theirs * 1e9);
+        std::fflush(stdout);
+    }
+
+    std::size_t pairs() const { return pairs_; }
+    double time() const { return time_; }
+
+  private:
+    static constexpr double kMostSeconds = 3; // for one line
+    std::size_t pairs_;
+    double time_; // of a sample
+};
+
+void Readers(const Table& table, const std::string& size, ReaderBench& bench, double rapidjson, double jsoncpp) {
+    const std::size_t variants = bench.texts.size();
+    const std::string prefix = "reader." + size + '.';
+    table.Line(prefix + "rapidjson", rapidjson, variants, bench.orrery, bench.rapidjson);
+    table.Line(prefix + "rapidjson_insitu", 0, variants, bench.orrery, bench.rapidjsonInSitu);
+    table.Line(prefix + "simdjson", 0, variants, bench.orrery, bench.simdjson);
+    table.Line(prefix + "simdjson_ondemand_all_values", 0, variants, bench.orrery, bench.simdjsonOnDemand);
+    table.Line(prefix + "nlohmann", 0, variants, bench.orrery, bench.nlohmann);
+    table.Line(prefix + "jsoncpp", jsoncpp, variants, bench.orrery, bench.jsoncpp());
+}
+
+template <class R>
+void Calls(const Table& table, CallBench<R>& bench, double bar) {
+    const std::string name = bench.command;
+    const std::size_t texts = bench.texts.size(), records = bench.records.size();
+    const auto parse = [&](std::size_t i) { return bench.Parse(i); };
+    table.Line(name + ".parse.rapidjson_text_and_clear", bar, texts, parse,
+               [&](std::size_t i) { return bench.ParseTextAndClear(i); });
+    table.Line(name + ".parse.by_hand", 0, texts, parse, [&](std::size_t i) { return bench.ParseTheirs(i); });
+    table.Line(name + ".parse.clearing_alone", 0, texts, parse, [&](std::size_t i) { return bench.Clear(i); });
+    if (bench.packByHand == nullptr) return;
+    const auto pack = [&](std::size_t i) { return bench.Pack(i); };
+    table.Line(name + ".pack.rapidjson_write_and_clear", bar, records, pack,
+               [&](std::size_t i) { return bench.WriteAndClear(i); });
+    table.Line(name + ".pack.by_hand", 0, records, pack, [&](std::size_t i) { return bench.PackTheirs(i); });
+}
+
+double MeanSize(const Texts& texts) {
+    double sum = 0;
+    for (const auto& text : texts)
+        sum += static_cast<double>(text.size());
+    return sum / static_cast<double>(texts.size());
+}
+
+// Cost per byte of a short text to that of a long one: 1 is flat, below 1 length costs extra.
+constexpr double kFlat = 1 / 1.5;
+
+template <class Short, class Long>
+void Flat(const Table& table, const std::string& name, std::size_t variants, double shortBytes, double longBytes,
+          Short shortCall, Long longCall) {
+    Ratio r = table.Compare(variants, longCall, shortCall);
+    r.ratio *= longBytes / shortBytes;
+    Table::Print(name, r, kFlat);
+}
+
+void Lengths(const Table& table) {
+    constexpr int kVariants = 24;
+    const Texts base = TextsOfSize(2000, kVariants);
+    for (const auto& [name, size] : {std::pair{"20KB", 20000}, {"200KB", 200000}, {"1MB", 1000000}}) {
+        const Texts longer = TextsOfSize(static_cast<std::size_t>(size), kVariants);
+        Flat(table, std::string("flat.reader.") + name, kVariants, MeanSize(base), MeanSize(longer), OrreryReader{base},
+             OrreryReader{longer});
+    }
+    auto shortAlarm = MakeLongAlarmBench(3500, kVariants);
+    for (const auto& [name, size] : {std::pair{"35KB", 35000}, {"350KB", 350000}}) {
+        auto longAlarm = MakeLongAlarmBench(static_cast<std::size_t>(size), kVariants);
+        Flat(
+            table, std::string("flat.Alarm.parse.") + name, kVariants, MeanSize(shortAlarm.texts),
+            MeanSize(longAlarm.texts), [&](std::size_t i) { return shortAlarm.Parse(i); },
+            [&](std::size_t i) { return longAlarm.Parse(i); });
+        // The same room for both, or clearing it would be charged to the longer text alone.
+        shortAlarm.room = std::size_t{64} << 10;
+        const auto length = [](AlarmBench& bench) {
+            bench.Pack(0);
+            return static_cast<double>(std::strlen(bench.buffer.get()));
+        };
+        longAlarm.room = longAlarm.room > (std::size_t{64} << 10) ? longAlarm.room : std::size_t{64} << 10;
+        Flat(
+            table, std::string("flat.Alarm.pack.") + name, longAlarm.records.size(), length(shortAlarm),
+            length(longAlarm), [&](std::size_t i) { return shortAlarm.Pack(i); },
+            [&](std::size_t i) { return longAlarm.Pack(i); });
+    }
+}
+
+// As many calls on two threads as each does alone, to what one does alone in the same time: 2 is perfect.
+template <class Make, class Call>
+void Threads(const Table& table, const std::string& name, Make make, Call call) {
+    auto one = make(), two = make();
+    const auto run = [&](auto& bench, std::size_t count) {
+        auto bound = [&](std::size_t i) { return call(bench, i); };
+        return Run(bound, bench.records.size(), 0, count);
+    };
+    const auto count = static_cast<std::size_t>(std::max(1.0, 10 * table.time() / run(one, 20)));
+    std::vector<double> ratios, alone, together;
+    for (std::size_t pair = 0; pair < table.pairs() / 4 + 1; ++pair) {
+        double start = WallSeconds();
+        run(one, count);
+        alone.push_back((WallSeconds() - start) / static_cast<double>(count));
+        start = WallSeconds();
+        std::thread other([&] { run(two, count); });
+        run(one, count);
+        other.join();
+        together.push_back((WallSeconds() - start) / static_cast<double>(count));
+        ratios.push_back(2 * alone.back() / together.back());
+    }
+    Table::Print(name, {Median(ratios), Median(together), Median(alone)}, 0);
+}
+
+void HeapLine(const std::string& name, const HeapUse& use, bool mustBeNone) {
+    std::printf("%-44s %7zu allocations %9zu bytes at most   %s\n", name.c_str(), use.allocations, use.peakBytes,
+                !mustBeNone            ? "no bar"
+                : use.allocations == 0 ? "bar 0 met"
+                                       : "bar 0 MISSED");
+}
+
+// The worst of all variants.
+template <class Call>
+HeapUse Worst(std::size_t variants, Call call) {
+    HeapUse worst;
+    for (std::size_t i = 0; i < variants; ++i) {
+        const HeapUse use = HeapUseOf([&] { call(i); });
+        worst.allocations = std::max(worst.allocations, use.allocations);
+        worst.peakBytes = std::max(worst.peakBytes, use.peakBytes);
+    }
+    return worst;
+}
+
+template <class R>
+void HeapOfCalls(CallBench<R>& bench) {
+    const std::string name = bench.command;
+    std::size_t longest = 0;
+    for (const auto& text : bench.texts)
+        longest = std::max(longest, text.size());
+    const bool small = longest <= 4096;
+    HeapLine(name + ".parse (" + std::to_string(longest) + " B)",
+             Worst(bench.texts.size(), [&](std::size_t i) { bench.Parse(i); }), small);
+    if (bench.packByHand == nullptr) return;
+    HeapLine(name + ".pack", Worst(bench.records.size(), [&](std::size_t i) { bench.Pack(i); }), small);
+}
+
+void HeapOfReaders(const std::string& size, std::size_t bytes) {
+    ReaderBench bench(bytes, 12);
+    const std::size_t variants = bench.texts.size();
+    HeapLine("reader." + size + ".orrery", Worst(variants, bench.orrery), bytes <= 4096);
+    HeapLine("reader." + size + ".rapidjson", Worst(variants, bench.rapidjson), false);
+    HeapLine("reader." + size + ".simdjson", Worst(variants, bench.simdjson), false);
+    HeapLine("reader." + size + ".nlohmann", Worst(variants, bench.nlohmann), false);
+    HeapLine("reader." + size + ".jsoncpp", Worst(variants, bench.jsoncpp()), false);
+}
+
+} // namespace
+
+void PrintTables(bool quick) {
+    const Table table(quick);
+    auto alarm = MakeAlarmBench(48);
+    auto motion = MakeMotionBench(48);
+    auto switches = MakeSwitchBench(48);
+    auto caps = MakeCapsBench(48);
+
+    std::printf("\nheap use of one call, the worst of its texts\n\n");
+    HeapOfCalls(alarm);
+    HeapOfCalls(motion);
+    HeapOfCalls(switches);
+    HeapOfCalls(caps);
+    HeapOfReaders("200B", 200);
+    HeapOfReaders("2KB", 2000);
+    HeapOfReaders("4KB", 3900);
+    HeapOfReaders("60KB", 60000);
+    HeapOfReaders("1MB", 1000000);
+
+    std::printf("\nname and ratio, peer's time to ours: above 1 is faster than the peer; then ours and the peer's\n\n");
+    {
+        ReaderBench tiny(200, 48), small(2000, 48), middle(60000, 48), large(1000000, 24);
+        Readers(table, "200B", tiny, 1, 0);
+        Readers(table, "2KB", small, 2, 15);
+        Readers(table, "60KB", middle, 2, 15);
+        Readers(table, "1MB", large, 2, 15);
+    }
+    Calls(table, alarm, 1);
+    Calls(table, motion, 0);
+    Calls(table, switches, 0);
+    Calls(table, caps, 0);
+    Lengths(table);
+    const auto make = [] { return MakeAlarmBench(3); };
+    Threads(table, "threads.2_to_1.Alarm.parse", make, [](AlarmBench& bench, std::size_t i) { return bench.Parse(i); });
+    Threads(table, "threads.2_to_1.Alarm.pack", make, [](AlarmBench& bench, std::size_t i) { return bench.Pack(i); });
+}
+
+} // namespace orrery::bench

@@ -1,0 +1,64 @@
+// Any reply to any command, into a buffer of any size at any alignment. The input: four bytes that choose the command,
+// four for the size of the buffer, one for its alignment and what it holds, then the text.
+#include "support/FuzzInput.h"
+
+#include "frame/record/Engine.h"
+#include "support/CommandCalls.h"
+
+#include <cstdlib>
+#include <cstring>
+
+using namespace orrery;
+
+namespace {
+
+// Sizes that hold a record or a few are worth more than those that hold none.
+std::size_t SizeOf(const Command& command, std::uint32_t choice) {
+    constexpr std::size_t kMost = std::size_t{1} << 20;
+    const std::size_t record = command.table->size;
+    switch (choice % 4) {
+    case 0:
+        return 1 + choice / 4 % 64;
+    case 1:
+        return record + choice / 4 % 64;
+    case 2:
+        return 1 + choice / 4 % (3 * record);
+    default:
+        return std::min(kMost, record * (1 + choice / 4 % 3));
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    test::FuzzInput input(data, size);
+    const Command& command = test::FuzzCommand(input.Take<std::uint32_t>());
+    const auto sizeChoice = input.Take<std::uint32_t>();
+    const std::size_t room = SizeOf(command, sizeChoice);
+    const auto flavour = input.Take<std::uint8_t>();
+    if (!command.parses()) return 0;
+
+    // Blocks of exactly the size, so that the first byte outside is seen: in front of it when the alignment is 0.
+    const test::FuzzBlock text(input.Rest().size() + 1, 0);
+    std::memcpy(text.get(), input.Rest().data(), input.Rest().size());
+    text.get()[input.Rest().size()] = std::byte{0};
+    const test::FuzzBlock buffer(room, flavour % 8);
+    std::memset(buffer.get(), flavour / 8, room);
+    test::CallerMemory memory;
+    if (flavour % 2 == 0 || test::HasPointers(*command.table))
+        memory.PrepareBuffer(command, buffer.get(), room);
+    else if (room >= 4) // a size word of any value
+        record::Store(buffer.get(), sizeChoice / 4 % static_cast<std::uint32_t>(room + 2));
+
+    std::uint32_t length = 0;
+    const Outcome outcome = RunParse(command, {reinterpret_cast<const char*>(text.get()), buffer.get(),
+                                               static_cast<std::uint32_t>(room), flavour == 1 ? nullptr : &length});
+    if (length > room) std::abort();
+    if (outcome == Outcome::OutOfMemory) std::abort();
+    if (outcome != Outcome::Done || !command.packs()) return 0;
+
+    // What was read can be written, in order and with every bracket closed, whatever the text was.
+    const test::Packed packed = test::Pack(command, buffer.get(), command.table->size);
+    if (packed.outcome == Outcome::Done && !test::FlawOf(packed.text).empty()) std::abort();
+    return 0;
+}

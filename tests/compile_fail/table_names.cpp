@@ -1,0 +1,18 @@
+// A row points to its name table, which must outlive it.
+// must not compile: deleted
+#include "frame/record/Table.h"
+
+using namespace orrery::record;
+
+struct Door {
+    std::int32_t state;
+};
+
+constexpr Name kStateRows[] = {{0, "Open"}, {1, "Closed"}};
+constexpr NameTable kStates = FoldedNames(kStateRows);
+#ifdef GOOD
+TABLE(kDoor, Door, FIELD(state, "State", Names(kStates)));
+#else
+TABLE(kDoor, Door, FIELD(state, "State", Names(kStates.Unknown(1))));
+#endif
+static_assert(kDoor.size == sizeof(Door));

@@ -1,0 +1,179 @@
+#include "frame/Commands.h"
+#include "support/GuardedBuffer.h"
+
+#include "orrery/orrery.h"
+
+#include <cctype>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+using orrery::Command;
+using orrery::Commands;
+using orrery::FindCommand;
+
+constexpr const char* kReply = R"({ "result" : true, "params" : { "table" : { "Enable" : true } } })";
+
+template <class Change>
+std::string With(std::string_view name, Change change) {
+    std::string text(name);
+    for (char& c : text)
+        c = static_cast<char>(change(static_cast<unsigned char>(c)));
+    return text;
+}
+
+TEST(ParseData, NullArgumentsAndNoRoomAreRefusedUntouched) {
+    unsigned char buffer[4] = {9, 9, 9, 9};
+    std::uint32_t length = 5;
+    EXPECT_EQ(CLIENT_ParseData(nullptr, kReply, buffer, 4, &length), 0);
+    EXPECT_EQ(CLIENT_ParseData("PwdReset", nullptr, buffer, 4, &length), 0);
+    EXPECT_EQ(CLIENT_ParseData("PwdReset", kReply, nullptr, 4, &length), 0);
+    EXPECT_EQ(CLIENT_ParseData("PwdReset", kReply, buffer, 0, &length), 0);
+    EXPECT_EQ(buffer[0], 9);
+    EXPECT_EQ(length, 5u);
+}
+
+TEST(ParseData, UnknownCommandsAreRefusedUntouched) {
+    for (const char* name :
+         {"", "PwdReset ", " PwdReset", "PwdRese", "PwdResetX", "Nonsense", "PwdReset\n", "Alarm.", "\xC3\x84larm"}) {
+        unsigned char buffer[4] = {9, 9, 9, 9};
+        std::uint32_t length = 5;
+        EXPECT_EQ(CLIENT_ParseData(name, kReply, buffer, 4, &length), 0) << name;
+        EXPECT_EQ(buffer[0], 9);
+        EXPECT_EQ(length, 5u);
+        char text[] = "#";
+        EXPECT_EQ(CLIENT_PacketData(name, buffer, 4, text, 1), 0) << name;
+        EXPECT_EQ(text[0], '#');
+    }
+}
+
+TEST(PacketData, NullArgumentsAreRefusedUntouched) {
+    const std::uint32_t record = 1;
+    char text[64] = "#";
+    EXPECT_EQ(CLIENT_PacketData(nullptr, &record, 4, text, sizeof text), 0);
+    EXPECT_EQ(CLIENT_PacketData("PwdReset", nullptr, 4, text, sizeof text), 0);
+    EXPECT_EQ(CLIENT_PacketData("PwdReset", &record, 4, nullptr, sizeof text), 0);
+    EXPECT_STREQ(text, "#");
+}
+
+TEST(Commands, LookUpFoldsAsciiLettersOnly) {
+    for (const Command& command : Commands()) {
+        EXPECT_EQ(FindCommand(command.name), &command);
+        EXPECT_EQ(FindCommand(With(command.name, [](int c) { return std::tolower(c); })), &command) << command.name;
+        EXPECT_EQ(FindCommand(With(command.name, [](int c) { return std::toupper(c); })), &command) << command.name;
+        // The bit that tells small letters from capitals makes no pair of other characters.
+        const std::string flipped = With(command.name, [](int c) { return c == '.' ? '.' ^ 0x20 : c; });
+        if (flipped != command.name) {
+            EXPECT_EQ(FindCommand(flipped), nullptr) << flipped;
+        }
+        EXPECT_EQ(FindCommand(std::string(command.name) + " "), nullptr);
+        EXPECT_EQ(FindCommand(command.name.substr(1)), nullptr);
+    }
+}
+
+TEST(Commands, TheRecordsBehindFoldedNames) {
+    char text[64];
+    const std::uint32_t on = 1;
+    EXPECT_NE(CLIENT_PacketData("g3g4AUTOCHANGE", &on, 4, text, sizeof text), 0);
+    EXPECT_STREQ(text, "{ \"Enable\" : true }\n");
+    CFG_EX_ALARM_BOX_CAPS caps{};
+    EXPECT_NE(CLIENT_ParseData("ALARM.GETEXALARMBOXCAPS",
+                               R"({ "result" : true, "params" : { "caps" : { "AlarmIn" : 3 } } })", &caps, sizeof caps,
+                               nullptr),
+              0);
+    EXPECT_EQ(caps.nAlarmIn, 3);
+}
+
+TEST(Commands, TheseAreServed) {
+    const std::set<std::string_view> bothWays = {
+        "G3G4AutoChange",  "CabinLedTimeSchedule", "PwdReset",        "Alarm",
+        "NetAlarm",        "MotionDetect",         "LossDetect",      "BlindDetect",
+        "StorageNotExist", "StorageFailure",       "StorageLowSpace", "NetAbort",
+        "IPConflict",      "MacConflict",          "PSTNBreakLine"};
+    const std::set<std::string_view> parseOnly = {"alarm.getAlarmCaps", "alarm.getExAlarmCaps",
+                                                  "alarm.getExAlarmBoxCaps", "AnalogAlarm.getCaps"};
+    for (const auto name : bothWays) {
+        const Command* const command = FindCommand(name);
+        ASSERT_NE(command, nullptr) << name;
+        EXPECT_TRUE(command->parses() && command->packs()) << name;
+    }
+    for (const auto name : parseOnly) {
+        const Command* const command = FindCommand(name);
+        ASSERT_NE(command, nullptr) << name;
+        EXPECT_TRUE(command->parses() && !command->packs()) << name;
+    }
+}
+
+TEST(Commands, ACommandOfOneDirectionTouchesNothingInTheOther) {
+    for (const Command& command : Commands()) {
+        std::vector<unsigned char> bytes(command.table->size, 9);
+        const auto size = static_cast<std::uint32_t>(bytes.size());
+        const std::string name(command.name);
+        if (!command.packs()) {
+            char text[] = "#";
+            EXPECT_EQ(CLIENT_PacketData(name.c_str(), bytes.data(), size, text, sizeof text), 0) << name;
+            EXPECT_STREQ(text, "#");
+        }
+        if (!command.parses()) {
+            EXPECT_EQ(CLIENT_ParseData(name.c_str(), kReply, bytes.data(), size, nullptr), 0) << name;
+            EXPECT_EQ(bytes, std::vector<unsigned char>(size, 9));
+        }
+    }
+}
+
+TEST(Commands, TheReplyLengthMayBeNullOnEveryCommand) {
+    for (const Command& command : Commands()) {
+        if (!command.parses()) continue;
+        std::vector<unsigned char> bytes(command.table->size, 9);
+        const std::string name(command.name);
+        const int result =
+            CLIENT_ParseData(name.c_str(), R"({ "result" : true, "params" : { "table" : { }, "caps" : { } } })",
+                             bytes.data(), static_cast<std::uint32_t>(bytes.size()), nullptr);
+        EXPECT_NE(result, 0) << name;
+    }
+}
+
+TEST(Commands, NothingBehindTheTextAndTheRecordIsTouched) {
+    for (const Command& command : Commands()) {
+        const std::string name(command.name);
+        const orrery::test::GuardedBuffer guardedName(std::string_view(name.c_str(), name.size() + 1));
+        const std::string reply = R"({ "result" : true, "params" : { "table" : { "Name" : "x" }, "caps" : { } } })";
+        const orrery::test::GuardedBuffer text(std::string_view(reply.c_str(), reply.size() + 1));
+        const orrery::test::GuardedBuffer record(command.table->size);
+        if (command.parses()) {
+            EXPECT_NE(CLIENT_ParseData(guardedName.data(), text.data(), record.data(), command.table->size, nullptr),
+                      0);
+        }
+        if (command.packs()) {
+            const orrery::test::GuardedBuffer room(5000);
+            EXPECT_NE(CLIENT_PacketData(guardedName.data(), record.data(), command.table->size, room.data(), 5000), 0)
+                << name;
+        }
+    }
+}
+
+std::int32_t Ignore(std::uint32_t, const void*, std::uint32_t, void*, std::int32_t, void*) {
+    ADD_FAILURE() << "no event is decoded";
+    return 0;
+}
+
+TEST(EventExports, NullArgumentsAreRefused) {
+    EXPECT_EQ(CLIENT_ParseAnalyzerEventData(nullptr, 5, Ignore, nullptr), 0);
+    EXPECT_EQ(CLIENT_ParseAnalyzerEventData("{ }", 5, nullptr, nullptr), 0);
+    EXPECT_EQ(CLIENT_ParseDataByCallback(nullptr, 5, Ignore, nullptr), 0);
+    EXPECT_EQ(CLIENT_ParseDataByCallback("{ }", 5, nullptr, nullptr), 0);
+    char output[4] = "abc";
+    const char* const any = "x";
+    EXPECT_EQ(CLIENT_ParseVideoInAnalyse(nullptr, 1, any, any, output, 4), 0);
+    EXPECT_EQ(CLIENT_ParseVideoInAnalyse(any, 1, nullptr, any, output, 4), 0);
+    EXPECT_EQ(CLIENT_ParseVideoInAnalyse(any, 1, any, nullptr, output, 4), 0);
+    EXPECT_EQ(CLIENT_ParseVideoInAnalyse(any, 1, any, any, nullptr, 4), 0);
+    EXPECT_EQ(CLIENT_ParseVideoInAnalyse(any, 1, any, any, output, 0), 0);
+    EXPECT_STREQ(output, "abc");
+}
+
+} // namespace

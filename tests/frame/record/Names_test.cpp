@@ -1,0 +1,71 @@
+#include "frame/record/Names.h"
+
+#include <gtest/gtest.h>
+
+namespace orrery::record {
+namespace {
+
+constexpr Name kLampRows[] = {{0, "Off"}, {1, "On"}, {2, "Blink", Compare::Exact}, {2, "Flash"}, {9, "Test"}};
+constexpr NameTable kLamps = FoldedNames(kLampRows);
+constexpr NameTable kExactLamps = ExactNames(kLampRows);
+
+TEST(Names, FoldedTextsTakeAnyAsciiCase) {
+    EXPECT_EQ(kLamps.CodeOf("On"), 1);
+    EXPECT_EQ(kLamps.CodeOf("oN"), 1);
+    EXPECT_EQ(kLamps.CodeOf("TEST"), 9);
+}
+
+TEST(Names, OneRowMayInsistOnItsCase) {
+    EXPECT_EQ(kLamps.Unknown(-1).CodeOf("Blink"), 2);
+    EXPECT_EQ(kLamps.Unknown(-1).CodeOf("blink"), -1);
+}
+
+TEST(Names, AnExactTableInsistsOnTheCaseOfAll) {
+    EXPECT_EQ(kExactLamps.Unknown(-1).CodeOf("On"), 1);
+    EXPECT_EQ(kExactLamps.Unknown(-1).CodeOf("on"), -1);
+}
+
+TEST(Names, NothingIsTrimmedAndNoPrefixMatches) {
+    for (const char* text : {"On ", " On", "O", "Onn", ""})
+        EXPECT_EQ(kLamps.Unknown(-1).CodeOf(text), -1) << text;
+}
+
+TEST(Names, UnknownTextsReadAsZeroUnlessToldOtherwise) {
+    EXPECT_EQ(kLamps.CodeOf("Dim"), 0);
+    EXPECT_EQ(kLamps.Unknown(-1).CodeOf("Dim"), -1);
+    EXPECT_EQ(kLamps.UnknownLeaves().CodeOf("Dim"), std::nullopt);
+    EXPECT_EQ(kLamps.UnknownLeaves().Unknown(7).CodeOf("Dim"), 7); // the last word counts
+}
+
+TEST(Names, FirstRowOfACodeIsTheTextThatIsWritten) {
+    ASSERT_NE(kLamps.RowOf(2), nullptr);
+    EXPECT_EQ(kLamps.RowOf(2)->text, "Blink");
+    EXPECT_EQ(kLamps.RowOf(9)->text, "Test");
+    EXPECT_EQ(kLamps.RowOf(0)->text, "Off");
+}
+
+TEST(Names, CodesOfNoRowHaveNone) {
+    for (const std::int32_t code : {-1, 3, 4, 5, 8, 10, INT32_MIN, INT32_MAX})
+        EXPECT_EQ(kLamps.RowOf(code), nullptr) << code;
+}
+
+TEST(Names, TablesThatCountFromOneOrFromElsewhereAreFoundToo) {
+    static constexpr Name kFromOne[] = {{1, "One"}, {2, "Two"}, {3, "Three"}};
+    static constexpr Name kScattered[] = {{-5, "Low"}, {100, "High"}, {0, "Mid"}};
+    EXPECT_EQ(FoldedNames(kFromOne).RowOf(3)->text, "Three");
+    EXPECT_EQ(FoldedNames(kFromOne).RowOf(0), nullptr);
+    EXPECT_EQ(FoldedNames(kScattered).RowOf(-5)->text, "Low");
+    EXPECT_EQ(FoldedNames(kScattered).RowOf(100)->text, "High");
+    EXPECT_EQ(FoldedNames(kScattered).RowOf(0)->text, "Mid");
+}
+
+TEST(Names, AnEarlierRowOfTheSameCodeIsNotPassedOver) {
+    static constexpr Name kTwice[] = {{1, "Early"}, {1, "Late"}, {2, "Two"}};
+    EXPECT_EQ(FoldedNames(kTwice).RowOf(1)->text, "Early");
+    EXPECT_EQ(FoldedNames(kTwice).RowOf(2)->text, "Two");
+    static constexpr Name kFarApart[] = {{2, "Early"}, {0, "Zero"}, {2, "Late"}};
+    EXPECT_EQ(FoldedNames(kFarApart).RowOf(2)->text, "Early");
+}
+
+} // namespace
+} // namespace orrery::record

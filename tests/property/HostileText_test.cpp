@@ -1,0 +1,122 @@
+// Every command against texts that are cut, bent or of the wrong types. What each call promises about its buffer is
+// checked by ParseCalls.
+#include "support/CommandCalls.h"
+#include "support/Specimens.h"
+#include "support/TableText.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace orrery {
+namespace {
+
+using namespace test;
+
+TEST(HostileText, EveryCommandTakesTheReplyMadeFromItsTable) {
+    for (const Command& command : AllCommands()) {
+        if (!command.parses()) continue;
+        ParseCalls calls(command);
+        EXPECT_EQ(calls.Run(ReplyText(command).c_str()), Outcome::Done) << command.name << ReplyText(command);
+    }
+}
+
+// A reply is an object: no cut of it is JSON.
+TEST(HostileText, CutAtEveryByte) {
+    for (const Command& command : DistinctCommands()) {
+        if (!command.parses()) continue;
+        const std::string text = ReplyText(command, {.most = 1, .records = 1});
+        ParseCalls calls(command);
+        const GuardedBuffer room(text.size() + 1);
+        for (std::size_t size = 0; size < text.size(); ++size) {
+            char* const cut = room.data() + room.size() - size - 1;
+            std::memcpy(cut, text.data(), size);
+            cut[size] = '\0';
+            ASSERT_EQ(calls.Run(cut), Outcome::NoJson) << command.name << " cut at " << size;
+        }
+    }
+}
+
+TEST(HostileText, EveryValueReplacedByEveryType) {
+    constexpr const char* kValues[] = {"null",        "true",        "false",        "0",   "-1",   "2147483647",
+                                       "-2147483648", "4294967295",  "1e999",        "0.5", "\"\"", "\"text\"",
+                                       "[]",          "[1]",         "[null]",       "{}",  "[[]]", "[{}]",
+                                       "{\"a\":[1]}", "\"\\u0000\"", "[[[1,\"x\"]]]"};
+    for (const Command& command : DistinctCommands()) {
+        if (!command.parses()) continue;
+        JsonTree tree = ReplyTree(command, {.most = 1, .records = 1});
+        ParseCalls calls(command);
+        int turn = 0;
+        // Deepest first, so that every place is still there when its turn comes.
+        auto places = tree.Places();
+        for (auto place = places.rbegin(); place != places.rend(); ++place) {
+            JsonTree kept = std::move(**place);
+            for (const char* const value : kValues) {
+                **place = JsonTree(value);
+                const std::string text = tree.Text();
+                const Outcome outcome = calls.Run(text.c_str());
+                ASSERT_NE(outcome, Outcome::NoJson) << command.name << text;
+                if (outcome != Outcome::Done || !command.packs() || ++turn % 8 != 0) continue;
+                const Packed packed = Pack(command, calls.record(), command.table->size);
+                ASSERT_EQ(packed.outcome, Outcome::Done) << command.name << text;
+                ASSERT_EQ(FlawOf(packed.text), "") << command.name << packed.text;
+            }
+            **place = std::move(kept);
+        }
+    }
+}
+
+TEST(HostileText, LimitsAndWildTypesEverywhere) {
+    for (const Command& command : DistinctCommands()) {
+        if (!command.parses()) continue;
+        ParseCalls calls(command);
+        const unsigned rounds = command.table->size > 100'000 ? 40 : 150;
+        for (unsigned seed = 1; seed <= rounds; ++seed) {
+            const TextOptions options{seed % 2 == 0 ? Values::Limits : Values::Wild, seed, 1 + seed % 5, 1 + seed % 3};
+            JsonTree tree = ReplyTree(command, options);
+            std::mt19937 random(seed);
+            if (seed % 4 >= 2) tree.Thin(random, 85);
+            const GuardedText text(tree.Text());
+            const Outcome outcome = calls.Run(text.get());
+            ASSERT_NE(outcome, Outcome::NoJson) << command.name << text.get();
+            if (outcome != Outcome::Done || !command.packs()) continue;
+            const Packed packed = Pack(command, calls.record(), command.table->size);
+            ASSERT_EQ(packed.outcome, Outcome::Done) << command.name << text.get();
+            ASSERT_EQ(FlawOf(packed.text), "") << command.name << packed.text;
+        }
+    }
+}
+
+// Bytes of a reply changed, dropped and doubled: most are no JSON any more, some are another document.
+TEST(HostileText, BytesChanged) {
+    std::mt19937 random(7);
+    for (const Command& command : DistinctCommands()) {
+        if (!command.parses()) continue;
+        const std::string text = ReplyText(command, {.most = 1, .records = 1});
+        ParseCalls calls(command);
+        for (int round = 0; round < 300; ++round) {
+            std::string bent = text;
+            const auto changes = static_cast<unsigned>(1 + random() % 3);
+            for (unsigned change = 0; change < changes; ++change) {
+                const std::size_t at = random() % bent.size();
+                constexpr char kBytes[] = "\"\\{}[]:,/*-+.e09ntu\x01\x7f\x80\xff ";
+                switch (random() % 3) {
+                case 0:
+                    bent[at] = kBytes[random() % (sizeof kBytes - 1)];
+                    break;
+                case 1:
+                    bent.erase(at, 1 + random() % 4);
+                    break;
+                default:
+                    bent.insert(at, bent.substr(at, random() % 8));
+                    break;
+                }
+                if (bent.empty()) bent = " ";
+            }
+            const GuardedText guarded(bent);
+            calls.Run(guarded.get());
+        }
+    }
+}
+
+} // namespace
+} // namespace orrery

@@ -1,0 +1,168 @@
+// Every command that packs: records of any bytes, records and texts of any size.
+#include "frame/record/Engine.h"
+#include "support/CommandCalls.h"
+#include "support/Specimens.h"
+#include "support/TableText.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace orrery {
+namespace {
+
+using namespace test;
+
+// A record that a reply fills, packed alone.
+std::vector<std::byte> FilledRecord(const Command& command, CallerMemory& memory) {
+    std::vector<std::byte> record(command.table->size);
+    memory.PrepareBuffer(command, record.data(), record.size());
+    if (!command.parses()) return record;
+    const std::string text = ReplyText(command, {.most = 1, .records = 1});
+    RunParse(command, {text.c_str(), record.data(), command.table->size, nullptr});
+    return record;
+}
+
+bool OutcomeIsPlausible(Outcome outcome) {
+    return outcome == Outcome::Done || outcome == Outcome::RowRefused || outcome == Outcome::NotAccepted
+           || outcome == Outcome::RecordTooSmall || outcome == Outcome::TextTooLong;
+}
+
+TEST(Packing, RecordsOfAnyBytes) {
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs()) continue;
+        const std::size_t size = command.table->size;
+        const GuardedBuffer buffer(size);
+        auto* const record = reinterpret_cast<std::byte*>(buffer.data());
+        CallerMemory memory;
+        const int rounds = size > 100'000 ? 3 : 24;
+        constexpr int kPatterns[] = {0x00, 0x01, 0x20, 0x22, 0x7F, 0x80, 0xFF};
+        std::mt19937_64 random(size);
+        for (int round = 0; round < static_cast<int>(std::size(kPatterns)) + rounds; ++round) {
+            if (round < static_cast<int>(std::size(kPatterns)))
+                std::memset(record, kPatterns[round], size);
+            else
+                std::generate_n(record, size, [&] { return static_cast<std::byte>(random() >> 56); });
+            // Half of the records look as if their caller had set the size words.
+            if (round % 2 == 0 || command.packFrame.stride != Stride::Record)
+                record::SetSizeWords(*command.table, record);
+            memory.Reset();
+            if (HasPointers(*command.table)) memory.MakePointersSafe(*command.table, record);
+            const Packed packed = Pack(command, record, size);
+            ASSERT_TRUE(OutcomeIsPlausible(packed.outcome)) << command.name << static_cast<int>(packed.outcome);
+            if (packed.outcome == Outcome::Done) {
+                ASSERT_EQ(FlawOf(packed.text), "") << command.name << " round " << round;
+            }
+        }
+    }
+}
+
+// Numbers from one end of their range to the other, above all in counts and sizes.
+TEST(Packing, WordsAtTheirLimits) {
+    constexpr std::uint32_t kWords[] = {0, 1, 2, 5, 0x7F, 0xFF, 0x7FFF, 0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs()) continue;
+        const std::size_t size = command.table->size;
+        const GuardedBuffer buffer(size);
+        auto* const record = reinterpret_cast<std::byte*>(buffer.data());
+        CallerMemory memory;
+        std::mt19937 random(static_cast<unsigned>(size));
+        for (int round = 0; round < (size > 100'000 ? 4 : 40); ++round) {
+            for (std::size_t at = 0; at + 4 <= size; at += 4)
+                record::Store(record + at, kWords[random() % std::size(kWords)]);
+            record::SetSizeWords(*command.table, record);
+            memory.Reset();
+            if (HasPointers(*command.table)) memory.MakePointersSafe(*command.table, record);
+            const Packed packed = Pack(command, record, size);
+            ASSERT_TRUE(OutcomeIsPlausible(packed.outcome)) << command.name << static_cast<int>(packed.outcome);
+            if (packed.outcome == Outcome::Done) {
+                ASSERT_EQ(FlawOf(packed.text), "") << command.name << " round " << round;
+            }
+        }
+    }
+}
+
+TEST(Packing, RecordsOfAnySize) {
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs()) continue;
+        const std::size_t whole = command.table->size;
+        CallerMemory memory;
+        std::vector<std::byte> twice = FilledRecord(command, memory);
+        const std::vector<std::byte> one = twice;
+        twice.insert(twice.end(), one.begin(), one.end());
+        const GuardedBuffer buffer(twice.size());
+        const std::size_t step = whole > 4096 ? whole / 61 : 1;
+        for (std::size_t size = 0; size <= twice.size(); size += step) {
+            char* const record = buffer.data() + buffer.size() - size;
+            std::memcpy(record, twice.data(), size);
+            const Packed packed = Pack(command, record, size);
+            const bool mayBeShort = command.pack == Command::Frame::Table;
+            const bool mustBeExact = command.pack == Command::Frame::Family && command.packFrame.exactSize;
+            const bool fits = mustBeExact ? size == whole : mayBeShort || size >= whole;
+            ASSERT_EQ(packed.outcome, fits ? Outcome::Done : Outcome::RecordTooSmall) << command.name << " " << size;
+            if (fits) {
+                ASSERT_EQ(FlawOf(packed.text), "") << command.name << " " << size;
+            }
+        }
+    }
+}
+
+bool TextFits(Capacity capacity, std::size_t length, std::size_t room) {
+    switch (capacity) {
+    case Capacity::Strict:
+        return length < room;
+    case Capacity::Loose:
+    case Capacity::Raw:
+        return length <= room;
+    case Capacity::OneBefore:
+        return length + 1 < room;
+    }
+    return false;
+}
+
+// What a buffer holds after a call, from its words alone.
+std::string Expected(Capacity capacity, bool keeps, const std::string& text, std::size_t room) {
+    if (!TextFits(capacity, text.size(), room)) {
+        return std::string(room, keeps ? static_cast<char>(kUntouched) : '\0');
+    }
+    std::string expected = text.substr(0, room);
+    if (room == text.size()) {
+        if (capacity == Capacity::Loose) expected.back() = '\0';
+        return expected;
+    }
+    expected += '\0';
+    expected.resize(room, keeps ? static_cast<char>(kUntouched) : '\0');
+    return expected;
+}
+
+TEST(Packing, TextsOfEveryCapacity) {
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs() || command.pack == Command::Frame::Own) continue;
+        CallerMemory memory;
+        const std::vector<std::byte> record = FilledRecord(command, memory);
+        const Packed packed = Pack(command, record.data(), record.size());
+        ASSERT_EQ(packed.outcome, Outcome::Done) << command.name;
+        const bool family = command.pack == Command::Frame::Family;
+        const Capacity capacity = family ? command.packFrame.capacity : Capacity::Strict;
+        const bool keeps = family && command.packFrame.keepsText;
+
+        const std::size_t most = packed.text.size() + 2;
+        const GuardedBuffer buffer(most + kFront);
+        const std::size_t step = most > 4096 ? most / 1024 : 1;
+        for (std::size_t room = 0; room <= most; room += room + 64 < most && room > 64 ? step : 1) {
+            std::memset(buffer.data(), static_cast<int>(kUntouched), buffer.size());
+            char* const text = buffer.data() + buffer.size() - room;
+            const Outcome outcome = RunPack(command, {record.data(), static_cast<std::uint32_t>(record.size()), text,
+                                                      static_cast<std::uint32_t>(room)});
+            const bool fits = TextFits(capacity, packed.text.size(), room);
+            ASSERT_EQ(outcome, fits ? Outcome::Done : Outcome::TextTooLong) << command.name << " " << room;
+            ASSERT_EQ(std::string_view(text, room), Expected(capacity, keeps, packed.text, room))
+                << command.name << " " << room;
+            ASSERT_EQ(std::string_view(text - kFront, kFront), std::string(kFront, static_cast<char>(kUntouched)))
+                << command.name << " " << room;
+        }
+    }
+}
+
+} // namespace
+} // namespace orrery

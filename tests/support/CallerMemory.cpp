@@ -1,0 +1,73 @@
+#include "support/CallerMemory.h"
+
+#include "frame/record/Engine.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orrery::test {
+
+using record::Cell;
+using record::Field;
+using record::Table;
+
+bool HasPointers(const Table& table) {
+    return std::any_of(table.begin(), table.end(), [](const Field& field) {
+        return field.cell == Cell::Pointer || (field.cell == Cell::Record && HasPointers(*field.table));
+    });
+}
+
+std::byte* CallerMemory::Block(const Table& table, std::uint32_t count) {
+    const std::size_t size = std::size_t{table.size} * count;
+    if (used_ == blocks_.size()) {
+        blocks_.push_back(std::make_unique<std::byte[]>(size));
+        sizes_.push_back(size);
+    } else if (sizes_[used_] != size) {
+        blocks_[used_] = std::make_unique<std::byte[]>(size);
+        sizes_[used_] = size;
+    }
+    std::byte* const block = blocks_[used_++].get();
+    std::memset(block, 0, size);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        record::SetSizeWords(table, block + std::size_t{i} * table.size);
+        if (HasPointers(table)) MakePointersSafe(table, block + std::size_t{i} * table.size);
+    }
+    return block;
+}
+
+void CallerMemory::MakePointersSafe(const Table& table, std::byte* record) {
+    constexpr std::uint32_t kRoom = 3;
+    for (const Field& field : table) {
+        std::byte* const at = record + field.offset;
+        if (field.cell == Cell::Pointer) {
+            record::Store(at, Block(*field.table, kRoom));
+            if (field.capacity.exists())
+                record::StoreSlot(field.capacity, record, kRoom);
+            else if (field.count.exists() && record::LoadSlot(field.count, record) > kRoom)
+                record::StoreSlot(field.count, record, kRoom);
+        } else if (field.cell == Cell::Record && HasPointers(*field.table)) {
+            for (std::uint32_t i = 0; i < field.size / field.table->size; ++i)
+                MakePointersSafe(*field.table, at + std::size_t{i} * field.table->size);
+        }
+    }
+}
+
+void CallerMemory::PrepareRecord(const Table& table, std::byte* record) {
+    std::memset(record, 0, table.size);
+    record::SetSizeWords(table, record);
+    if (HasPointers(table)) MakePointersSafe(table, record);
+}
+
+void CallerMemory::PrepareBuffer(const Command& command, std::byte* buffer, std::size_t size) {
+    const Table& table = *command.table;
+    const bool looks = command.parse == Command::Frame::Table
+                           ? !command.tableFrame.zeroBuffer
+                           : command.parse == Command::Frame::Own || command.parseFrame.clearing != Clearing::Buffer
+                                 || command.parseFrame.stride != Stride::Record
+                                 || command.parseFrame.accepts != nullptr;
+    if (!looks || !(table.hasSizeWords || HasPointers(table))) return;
+    for (std::size_t at = 0; at + table.size <= size; at += table.size)
+        PrepareRecord(table, buffer + at);
+}
+
+} // namespace orrery::test

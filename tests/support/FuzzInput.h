@@ -1,0 +1,51 @@
+// What the fuzz targets of commands share: choosing a command by an input, and blocks of an exact size.
+#pragma once
+
+#include "support/CallerMemory.h"
+#include "support/Specimens.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+namespace orrery::test {
+
+// What chooses a command in an input: a number made from its name, so that an input that was kept stays with its
+// command as others are added.
+std::uint32_t FuzzNumberOf(std::string_view commandName);
+// The command of that number, or of the next one that there is.
+const Command& FuzzCommand(std::uint32_t number);
+
+class FuzzInput {
+  public:
+    FuzzInput(const std::uint8_t* data, std::size_t size) : rest_(reinterpret_cast<const char*>(data), size) {}
+
+    // The next bytes as a number; those that are missing read as 0.
+    template <class Number>
+    Number Take() {
+        Number number = 0;
+        const std::size_t size = rest_.size() < sizeof number ? rest_.size() : sizeof number;
+        if (size != 0) std::memcpy(&number, rest_.data(), size);
+        rest_.remove_prefix(size);
+        return number;
+    }
+    std::string_view Rest() const { return rest_; }
+
+  private:
+    std::string_view rest_;
+};
+
+// A heap block of exactly `size` bytes that ends where its allocation ends, `skew` bytes off an aligned address.
+class FuzzBlock {
+  public:
+    FuzzBlock(std::size_t size, std::size_t skew) : block_(new std::byte[size + skew]), skew_(skew) {}
+    std::byte* get() const { return block_.get() + skew_; }
+
+  private:
+    std::unique_ptr<std::byte[]> block_;
+    std::size_t skew_;
+};
+
+} // namespace orrery::test

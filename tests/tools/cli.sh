@@ -1,0 +1,98 @@
+#!/usr/bin/env bash
+# The program as a user runs it: exit status, what goes to which stream, files and standard input.
+# cli.sh PROGRAM SOURCE_DIR VERSION
+set -uo pipefail
+program=$1 source=$2 version=$3
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+failed=0
+
+# run STATUS [ARGUMENT...]: runs the program on $input; the streams are left in $scratch/out and $scratch/err
+input=
+run() {
+    local status=$1 got=0
+    shift
+    what="orrery $*"
+    printf '%s' "$input" | "$program" "$@" >"$scratch/out" 2>"$scratch/err" || got=$?
+    [ "$got" = "$status" ] || fail "exit status $got, not $status"
+    input=
+}
+fail() {
+    echo "$what: $1" >&2
+    failed=1
+}
+out_is() { printf '%s' "$1" | cmp -s - "$scratch/out" || fail "printed: $(cat "$scratch/out")"; }
+out_has() { grep -Fq -- "$1" "$scratch/out" || fail "did not print: $1"; }
+err_has() { grep -Fq -- "$1" "$scratch/err" || fail "did not say: $1; said: $(cat "$scratch/err")"; }
+no_out() { [ ! -s "$scratch/out" ] || fail "printed something"; }
+no_err() { [ ! -s "$scratch/err" ] || fail "said: $(cat "$scratch/err")"; }
+
+reply=$source/examples/alarm-reply.json
+
+run 0 --version
+out_is "orrery $version
+"
+run 0 --help
+for command in parse pack commands describe schema layout; do out_has "$command"; done
+run 0 commands
+out_has "alarm.getAlarmCaps"
+run 0 describe Alarm
+out_has 'CFG_ALARM_INPUT_INFO'
+run 0 layout
+out_has 'irregular: '
+run 0 schema
+out_has '"events": []'
+no_err
+
+# There and back, through a file and through standard input.
+run 0 parse Alarm "$reply"
+no_err
+cp "$scratch/out" "$scratch/record.json"
+run 0 pack Alarm "$scratch/record.json"
+cp "$scratch/out" "$scratch/text"
+input=$(cat "$scratch/record.json") run 0 pack alarm
+cmp -s "$scratch/out" "$scratch/text" || fail "standard input differs from a file"
+run 0 parse Alarm "$reply" --pack
+cat "$scratch/record.json" "$scratch/text" | cmp -s - "$scratch/out" || fail "--pack is not what pack gives"
+run 0 parse Alarm "$reply" --all
+[ "$(wc -c <"$scratch/out")" -gt "$(wc -c <"$scratch/record.json")" ] || fail "--all printed no more"
+
+# Refusals: status 1, nothing on standard output.
+input='{ "result" : tru }' run 1 parse PwdReset
+no_out
+err_has 'line 1, column 14: expected a value'
+input='{ "result" : false }' run 1 parse PwdReset -
+no_out
+err_has '"result" is false'
+run 1 parse Alrm "$reply"
+no_out
+err_has 'did you mean Alarm?'
+input='{"bEnabl": 1}' run 1 pack PwdReset
+no_out
+err_has 'bEnabl: no such field in CFG_ENABLE_INFO; did you mean bEnable?'
+input='{}' run 1 pack alarm.getAlarmCaps
+no_out
+run 1 parse Alarm "$reply" --bytes 100
+no_out
+err_has 'needs 336496 bytes, it has 100'
+run 1 describe CFG_ALARM_CAP
+no_out
+err_has 'did you mean CFG_ALARM_CAPS'
+if [ -e /dev/full ]; then
+    what="orrery layout on a full disk"
+    "$program" layout >/dev/full 2>"$scratch/err" && fail "succeeded"
+    err_has "can't write"
+fi
+
+# Wrong arguments: status 2.
+run 2
+run 2 prase Alarm
+run 2 parse
+run 2 parse Alarm "$reply" --recods 2
+run 2 parse Alarm "$reply" --records many
+run 2 parse Alarm "$reply" --records 1 --bytes 4
+run 2 parse Alarm "$scratch/none.json"
+no_out
+err_has "can't read"
+
+exit $failed

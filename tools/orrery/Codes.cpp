@@ -1,0 +1,53 @@
+#include "orrery/Codes.h"
+
+#include "frame/JsonParser.h"
+
+namespace orrery::tool {
+
+using namespace record;
+
+namespace {
+
+// Split modes are no list of names: their texts are made of numbers.
+std::string SplitText(std::int32_t mode) {
+    std::array<char, 32> room;
+    return std::string(JsonParser::SplitModeText(mode, room));
+}
+
+} // namespace
+
+bool HasNames(const Field& field) {
+    return field.names != nullptr || field.kind == Kind::SplitMode;
+}
+
+std::string NameOfCode(const Field& field, std::int64_t code) {
+    if (code < INT32_MIN || code > INT32_MAX) return {};
+    const auto number = static_cast<std::int32_t>(code);
+    if (field.names == nullptr) return SplitText(number);
+    const Name* const row = field.names->RowOf(number);
+    return row != nullptr ? std::string(row->text) : std::string();
+}
+
+std::optional<std::int32_t> CodeOfName(const Field& field, std::string_view name) {
+    if (field.names == nullptr) {
+        const std::int32_t mode = JsonParser::GetSplitMode(name);
+        if (EqualsFolded(SplitText(mode), name)) return mode;
+        return std::nullopt;
+    }
+    const NameTable& names = *field.names;
+    for (const Name* row = names.rows; row != names.rows + names.count; ++row) {
+        const bool exact = names.compare == Compare::Exact || row->compare == Compare::Exact;
+        if (exact ? row->text == name : EqualsFolded(row->text, name)) return row->code;
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string_view> NamesOf(const Field& field) {
+    std::vector<std::string_view> all;
+    if (field.names == nullptr) return all;
+    for (const Name* row = field.names->rows; row != field.names->rows + field.names->count; ++row)
+        all.push_back(row->text);
+    return all;
+}
+
+} // namespace orrery::tool

@@ -1,0 +1,283 @@
+#include "orrery/Diagnose.h"
+
+#include "orrery/FillRecord.h"
+#include "orrery/Output.h"
+#include "orrery/Suggest.h"
+
+#include "frame/json/TextWriter.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orrery::tool {
+
+using json::Type;
+using json::Value;
+
+namespace {
+
+bool IsContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xc0) == 0x80;
+}
+std::size_t CharacterCount(std::string_view text) {
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) { return !IsContinuation(c); }));
+}
+
+// What the reader says, in words of what should have stood there.
+std::string Expected(std::string_view message) {
+    const auto has = [&](std::string_view part) { return message.find(part) != std::string_view::npos; };
+    if (has("value, object or array expected"))
+        return "expected a value: an object, an array, a text in quotes, a number, true, false or null";
+    if (has("array declaration")) return "expected ',' or ']' in this array";
+    if (has("object declaration")) return "expected ',' or '}' in this object";
+    if (has("Missing ':'")) return "expected ':' behind the member's name";
+    if (has("object member name")) return "expected '}' or the name of a member, in quotes";
+    if (has("is not a number")) return "expected a number; this is none";
+    return std::string(message);
+}
+
+// A short text of a value, for messages.
+std::string Shown(const Value& value) {
+    constexpr std::size_t kMost = 160;
+    std::string text(kMost, '\0');
+    json::TextWriter out(text.data(), text.size());
+    StackArena<4096> arena;
+    if (!out.Write(value, arena)) return TypeName(value);
+    if (out.fits()) return Printable(std::string_view(text).substr(0, out.length()));
+    return std::string(TypeName(value));
+}
+
+std::string KeysOf(const Value& object) {
+    constexpr std::size_t kMost = 8;
+    std::string keys;
+    std::size_t count = 0;
+    for (const json::Member& member : object.members()) {
+        if (count++ == kMost) return keys + ", ...";
+        keys += (keys.empty() ? "" : ", ") + Printable(Quoted(member.key()));
+    }
+    return keys.empty() ? "no members" : keys;
+}
+
+std::string ResultWanted(const Command& command) {
+    if (command.parse != Command::Frame::Family) return "true";
+    switch (command.parseFrame.result) {
+    case ResultTest::FalseRefuses:
+        return "true, or absent";
+    case ResultTest::ExactBool:
+        return "exactly true";
+    case ResultTest::IntegerNonZero:
+        return "a number other than 0";
+    case ResultTest::TextTrue:
+        return "true or \"true\"";
+    default:
+        return "true";
+    }
+}
+
+std::string ExplainRefusal(const Command& command, const Value& root) {
+    const Value& result = root["result"];
+    std::string text;
+    if (root.type() != Type::Object)
+        text = std::string("the reply is ") + TypeName(root) + ", not an object with \"result\"";
+    else if (result.isNull())
+        text = "the reply has no \"result\" (it has " + KeysOf(root) + ")";
+    else
+        text = "the device refused the call: \"result\" is " + Shown(result);
+    text += "; this command wants " + ResultWanted(command);
+    if (!root["error"].isNull()) text += "\nthe device's \"error\": " + Shown(root["error"]);
+    return text;
+}
+
+std::string ExplainNoValue(const Reply& reply, const Value& root) {
+    const std::size_t dot = reply.path.find('.');
+    if (reply.value->type() == Type::Array || reply.value->type() == Type::Object)
+        return "\"" + reply.path + "\" is empty: no record in the reply";
+    if (dot == std::string::npos) return "no \"" + reply.path + "\" in the reply (it has " + KeysOf(root) + ")";
+    const Value& params = root["params"];
+    if (params.isNull()) return "no \"" + reply.path + "\" in the reply: it has no \"params\", only " + KeysOf(root);
+    return "no \"" + reply.path + "\" in the reply (\"params\" has " + KeysOf(params) + ")";
+}
+
+std::string Wanted(Take take) {
+    switch (take) {
+    case Take::OneOrMany:
+        return "an object, or an array of records";
+    case Take::Many:
+        return "an array of records";
+    case Take::List:
+        return "an array";
+    case Take::ByMember:
+        return "an object with a record a member";
+    default:
+        return "another one";
+    }
+}
+
+} // namespace
+
+Document::Document(std::string_view itsText) : text(itsText.substr(0, itsText.find('\0'))) {
+    ok = json::Parse(text, arena, root, &error);
+}
+
+std::string ExplainSyntax(const Document& document) {
+    if (document.arena.failed()) return "out of memory while reading the text";
+    constexpr std::size_t kAround = 60; // bytes of a long line that are shown on either side
+    const std::string_view text = document.text;
+    if (text.find_first_not_of(" \t\r\n") == std::string_view::npos)
+        return "the text is empty: " + Expected(document.error.message != nullptr ? document.error.message : "");
+    const std::size_t at = std::min(document.error.offset, text.size());
+    const std::string_view before = text.substr(0, at);
+    const auto line = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
+    const std::size_t start = before.rfind('\n') == std::string_view::npos ? 0 : before.rfind('\n') + 1;
+    std::size_t end = std::min(text.find('\n', at), text.size());
+    if (end > start && end > at && text[end - 1] == '\r') --end;
+
+    std::size_t from = at - start > kAround ? at - kAround : start;
+    while (from < at && IsContinuation(text[from]))
+        ++from;
+    std::size_t to = std::min(end, at + kAround);
+    while (to < end && IsContinuation(text[to]))
+        ++to;
+    const std::string shownBefore = Printable(text.substr(from, at - from));
+    std::string message = "line " + std::to_string(line) + ", column "
+                          + std::to_string(CharacterCount(text.substr(start, at - start)) + 1) + ": "
+                          + Expected(document.error.message != nullptr ? document.error.message : "");
+    if (at == text.size()) message += " (the text ends here)";
+    const std::string lead = from > start ? "..." : "";
+    message += "\n  " + lead + shownBefore + Printable(text.substr(at, to - at)) + (to < end ? "..." : "");
+    message += "\n  " + std::string(lead.size() + CharacterCount(shownBefore), ' ') + "^";
+    return message;
+}
+
+Reply LookAt(const Command& command, const Value& root) {
+    Reply reply;
+    const Value& params = root["params"];
+    reply.value = &params["table"];
+    reply.path = "params.table";
+    Take take = command.tableFrame.arrayForm ? Take::AnyOrMany : Take::One;
+    if (command.parse == Command::Frame::Family) {
+        const ParseFrame& frame = command.parseFrame;
+        take = frame.take;
+        switch (frame.source) {
+        case Source::Table:
+            break;
+        case Source::Caps:
+            reply = {&params["caps"], "params.caps"};
+            break;
+        case Source::CapsOrParams:
+            reply = params["caps"].isNull() ? Reply{&params, "params"} : Reply{&params["caps"], "params.caps"};
+            break;
+        case Source::Params:
+            reply = {&params[frame.name], std::string("params.") + frame.name};
+            break;
+        case Source::Top:
+            reply = {&root[frame.name], frame.name};
+            break;
+        case Source::Result:
+            reply = {&root["result"], "result"};
+            break;
+        }
+    } else if (take == Take::AnyOrMany) {
+        // An array of as many levels as one record has is that record itself.
+        StackArena<4096> arena;
+        if (json::ArrayDepth(*reply.value, 4, arena) != command.tableFrame.dimension + 1) take = Take::One;
+    }
+    const Value& value = *reply.value;
+    const bool byMember = take == Take::ByMember || take == Take::ByMemberOrNone;
+    const bool byElement = take != Take::One && take != Take::List && !byMember;
+    if (byElement && value.type() == Type::Array) {
+        reply.isList = true;
+        reply.records = value.size();
+    } else if (byMember || take == Take::Many || take == Take::ManyOrNone) {
+        reply.isList = true;
+        if (byMember) {
+            const auto members = value.members();
+            reply.records = static_cast<std::uint32_t>(std::count_if(
+                members.begin(), members.end(), [](const json::Member& member) { return !member.value.isNull(); }));
+        }
+    } else {
+        reply.records = 1;
+    }
+    return reply;
+}
+
+std::string UnknownCommand(std::string_view name) {
+    std::vector<std::string_view> names;
+    for (const Command& command : Commands())
+        names.push_back(command.name);
+    return "no command " + Printable(Quoted(name)) + DidYouMean(name, names) + " ('orrery commands' lists them)";
+}
+
+std::string ExplainParse(const Command& command, Outcome outcome, const Document& document, std::uint32_t bufferSize) {
+    const auto recordSize = std::to_string(command.table != nullptr ? command.table->size : 0);
+    const std::string name(command.name);
+    switch (outcome) {
+    case Outcome::Done:
+        return {};
+    case Outcome::BadArguments:
+        return "no buffer, or one of 0 bytes: " + name + " needs " + recordSize + " bytes";
+    case Outcome::UnknownCommand:
+        return name + " reads no reply: it can only be packed";
+    case Outcome::BufferTooSmall:
+        if (command.parse == Command::Frame::Family && command.parseFrame.exactSize) {
+            return "the buffer of " + name + " must have exactly " + recordSize + " bytes, it has "
+                   + std::to_string(bufferSize);
+        }
+        return "the buffer is too small: one record of " + name + " needs " + recordSize + " bytes, it has "
+               + std::to_string(bufferSize);
+    case Outcome::NotAccepted:
+        return name + " refuses what its buffer holds before the call: it reads the caller's own settings from there";
+    case Outcome::NoJson:
+        return ExplainSyntax(document);
+    case Outcome::Refused:
+        return ExplainRefusal(command, document.root);
+    case Outcome::NoValue:
+        return ExplainNoValue(LookAt(command, document.root), document.root);
+    case Outcome::WrongShape: {
+        const Reply reply = LookAt(command, document.root);
+        return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes "
+               + Wanted(command.parseFrame.take);
+    }
+    case Outcome::RowRefused:
+        return "a value of the reply cannot stand in the record of " + name;
+    case Outcome::OutOfMemory:
+        return "out of memory";
+    case Outcome::RecordTooSmall:
+    case Outcome::TextTooLong:
+        break;
+    }
+    return name + " refused the reply";
+}
+
+std::string ExplainPack(const Command& command, Outcome outcome, std::uint32_t recordSize, std::size_t capacity,
+                        std::size_t needed) {
+    const std::string name(command.name);
+    const auto one = std::to_string(command.table != nullptr ? command.table->size : 0);
+    switch (outcome) {
+    case Outcome::Done:
+        return {};
+    case Outcome::UnknownCommand:
+        return name + " has no text of its own: it is a reply that can only be parsed";
+    case Outcome::RecordTooSmall:
+        if (command.pack == Command::Frame::Family && command.packFrame.exactSize) {
+            return name + " takes exactly one record of " + one + " bytes, there are " + std::to_string(recordSize);
+        }
+        return "the record is too small: one record of " + name + " has " + one + " bytes, there are "
+               + std::to_string(recordSize);
+    case Outcome::NotAccepted:
+        return name + " does not write this record: its own test refused it";
+    case Outcome::TextTooLong:
+        if (needed == 0) return "the text is longer than this program makes";
+        return "the text is too long: it needs room for " + std::to_string(needed) + " bytes, there are "
+               + std::to_string(capacity);
+    case Outcome::RowRefused:
+        return "a field of the record has no text";
+    case Outcome::OutOfMemory:
+        return "out of memory";
+    default:
+        break;
+    }
+    return name + " refused the record";
+}
+
+} // namespace orrery::tool

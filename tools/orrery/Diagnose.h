@@ -1,0 +1,42 @@
+// Why the library answered 0: the outcome of a call, put into words with a look of the companion's own at the text.
+#pragma once
+
+#include "frame/Arena.h"
+#include "frame/Commands.h"
+#include "frame/json/Reader.h"
+
+#include <string>
+#include <string_view>
+
+namespace orrery::tool {
+
+// A text as the library sees it: up to its first NUL.
+struct Document {
+    explicit Document(std::string_view itsText);
+
+    std::string_view text;
+    StackArena<std::size_t{64} << 10> arena;
+    json::Value root;
+    json::SyntaxError error;
+    bool ok = false;
+};
+
+// Line, column and what was expected there, with the line itself and a caret under the place. No newline at the end.
+std::string ExplainSyntax(const Document& document);
+
+// What a reply holds for a command.
+struct Reply {
+    const json::Value* value = nullptr; // null value when there is none
+    std::string path;                   // "params.table"
+    bool isList = false;                // records in an array or an object
+    std::uint32_t records = 0;          // how many
+};
+Reply LookAt(const Command& command, const json::Value& root);
+
+std::string UnknownCommand(std::string_view name);
+std::string ExplainParse(const Command& command, Outcome outcome, const Document& document, std::uint32_t bufferSize);
+// `needed`: the capacity that the text would have taken.
+std::string ExplainPack(const Command& command, Outcome outcome, std::uint32_t recordSize, std::size_t capacity,
+                        std::size_t needed);
+
+} // namespace orrery::tool

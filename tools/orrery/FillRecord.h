@@ -1,0 +1,44 @@
+// JSON by field names into a record, the way back from PrintRecord; strict, because a person may have written it.
+#pragma once
+
+#include "frame/json/Value.h"
+#include "frame/record/Table.h"
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace orrery::tool {
+
+// `what()` starts with the path of the field: "stuEventHandler.stuPtzLink[3].emTyp: no such field in ...".
+struct FillError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// What stands behind the pointers of records.
+class Memory {
+  public:
+    // Cleared. Throws FillError for more than any client has behind its pointers.
+    std::byte* Allocate(std::size_t size);
+
+  private:
+    std::vector<std::unique_ptr<std::byte[]>> blocks_;
+    std::size_t used_ = 0;
+};
+
+// Clears the record, sets its size words and then what the value tells. Throws FillError.
+void FillRecord(const record::Table& table, const json::Value& value, std::byte* record, Memory& memory,
+                const std::string& path = {});
+
+// Fields of a value that packing will pass over, because the count or the flag that they need is not given: a line
+// each, as for a person who wrote the value. The value must have passed FillRecord.
+std::vector<std::string> PassedOver(const record::Table& table, const json::Value& value, const std::string& path = {});
+
+// Gives the pointers of a record room for `count` elements each, their capacities included.
+void GiveRoom(const record::Table& table, std::byte* record, std::uint32_t count, Memory& memory);
+
+// "an array", "a text", ...
+const char* TypeName(const json::Value& value);
+
+} // namespace orrery::tool

@@ -1,0 +1,161 @@
+#include "orrery/Output.h"
+
+#include <algorithm>
+
+namespace orrery::tool {
+
+namespace {
+
+constexpr std::size_t kIndent = 2;
+constexpr std::size_t kWidest = 120; // of a record or a list of texts on one line, its indent not counted
+
+// Length of the well-formed UTF-8 sequence at the front; 0 when there is none.
+std::size_t SequenceLength(std::string_view text) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned lead = byte(0);
+    if (lead < 0x80) return 1;
+    const std::size_t length = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : 2;
+    if (lead < 0xc2 || lead > 0xf4 || text.size() < length) return 0;
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xc0) != 0x80) return 0;
+    }
+    // Overlong forms, surrogates, and what is beyond the last code point.
+    if ((lead == 0xe0 && byte(1) < 0xa0) || (lead == 0xed && byte(1) > 0x9f)) return 0;
+    if ((lead == 0xf0 && byte(1) < 0x90) || (lead == 0xf4 && byte(1) > 0x8f)) return 0;
+    return length;
+}
+
+} // namespace
+
+std::string Quoted(std::string_view text) {
+    constexpr char kHex[] = "0123456789abcdef";
+    std::string out = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') {
+            out += '\\';
+            out += c;
+        } else if (static_cast<unsigned char>(c) < 0x20) {
+            out += "\\u00";
+            out += kHex[c >> 4];
+            out += kHex[c & 15];
+        } else {
+            out += c;
+        }
+    }
+    return out += '"';
+}
+
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t length = SequenceLength(text);
+        if (length == 0) return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+std::string Printable(std::string_view text) {
+    std::string out;
+    while (!text.empty()) {
+        const std::size_t length = std::max<std::size_t>(SequenceLength(text), 1);
+        const auto first = static_cast<unsigned char>(text[0]);
+        const bool isControl = first < 0x20 || first == 0x7f || (first == 0xc2 && length == 2 && text[1] < '\xa0');
+        const bool isBroken = first >= 0x80 && length == 1;
+        if (isControl || isBroken)
+            out += '?';
+        else
+            out += text.substr(0, length);
+        text.remove_prefix(length);
+    }
+    return out;
+}
+
+Node Node::Number(std::int64_t number) {
+    return Token(std::to_string(number));
+}
+Node Node::Unsigned(std::uint64_t number) {
+    return Token(std::to_string(number));
+}
+Node Node::Token(std::string token) {
+    Node node(Kind::Scalar);
+    node.token_ = std::move(token);
+    return node;
+}
+Node Node::Text(std::string_view text) {
+    return Token(Quoted(text));
+}
+
+Node& Node::Add(Node element) {
+    children_.emplace_back(std::string(), std::move(element));
+    return *this;
+}
+Node& Node::Add(std::string_view key, Node member) {
+    children_.emplace_back(Quoted(key), std::move(member));
+    return *this;
+}
+
+bool Node::IsNumber() const {
+    return kind_ == Kind::Scalar && token_[0] != '"';
+}
+
+std::size_t Node::Width() const {
+    // With "{ ", " }", ": " and ", " where they stand.
+    std::size_t width = token_.size() + (children_.empty() ? 0 : 2);
+    for (const auto& [key, child] : children_)
+        width += key.size() + (key.empty() ? 2 : 4) + child.Width();
+    return width;
+}
+
+bool Node::StandsOnOneLine() const {
+    if (IsSimple() || children_.empty()) return true;
+    const auto& all = children_;
+    if (!std::all_of(all.begin(), all.end(), [](const auto& child) { return child.second.IsSimple(); })) return false;
+    if (isArray() && std::all_of(all.begin(), all.end(), [](const auto& child) { return child.second.IsNumber(); }))
+        return true;
+    return Width() <= kWidest;
+}
+
+void Node::AppendOneLine(std::string& out) const {
+    if (kind_ == Kind::Scalar) {
+        out += token_;
+        return;
+    }
+    if (children_.empty()) {
+        out += isArray() ? "[]" : "{}";
+        return;
+    }
+    out += isArray() ? "[" : "{ ";
+    bool first = true;
+    for (const auto& [key, child] : children_) {
+        if (!first) out += ", ";
+        first = false;
+        if (!key.empty()) out += key + ": ";
+        child.AppendOneLine(out);
+    }
+    out += isArray() ? "]" : " }";
+}
+
+// Nodes nest as deep as records and their lists do, a handful of levels.
+void Node::Append(std::string& out, std::size_t indent) const {
+    if (StandsOnOneLine()) return AppendOneLine(out);
+    out += isArray() ? "[" : "{";
+    bool first = true;
+    for (const auto& [key, child] : children_) {
+        out += first ? "\n" : ",\n";
+        first = false;
+        out.append(indent + kIndent, ' ');
+        if (!key.empty()) out += key + ": ";
+        child.Append(out, indent + kIndent);
+    }
+    out += '\n';
+    out.append(indent, ' ');
+    out += isArray() ? ']' : '}';
+}
+
+std::string Node::Print() const {
+    std::string out;
+    Append(out, 0);
+    return out += '\n';
+}
+
+} // namespace orrery::tool

@@ -1,0 +1,143 @@
+#include "orrery/PrintRecord.h"
+
+#include "orrery/Codes.h"
+
+#include "frame/record/Engine.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+
+namespace orrery::tool {
+
+using namespace record;
+
+namespace {
+
+// Larger whole numbers are printed as texts: readers keep numbers as doubles.
+constexpr std::int64_t kLargestExact = std::int64_t{1} << 53;
+
+Node Bytes(const std::byte* at, std::size_t size) {
+    constexpr char kHex[] = "0123456789abcdef";
+    std::string hex;
+    for (std::size_t i = 0; i < size; ++i) {
+        hex += kHex[std::to_integer<unsigned>(at[i]) >> 4];
+        hex += kHex[std::to_integer<unsigned>(at[i]) & 15];
+    }
+    return std::move(Node::Inline().Add("bytes", Node::Text(hex)));
+}
+
+// The text up to its terminator; as bytes when that would not tell all.
+Node PrintText(const std::byte* at, std::size_t capacity) {
+    const std::string_view text = TextAt(at, capacity);
+    std::size_t used = capacity;
+    while (used > 0 && at[used - 1] == std::byte{0})
+        --used;
+    if (used > text.size() || !IsUtf8(text)) return Bytes(at, used);
+    return Node::Text(text);
+}
+
+template <class Float>
+Node PrintReal(const std::byte* at) {
+    const auto number = Load<Float>(at);
+    if (std::isnan(number)) return Bytes(at, sizeof number);
+    if (std::isinf(number)) return Node::Text(number < 0 ? "-inf" : "inf");
+    char room[64];
+    const auto shortest = [&](auto value) { return std::string(room, std::to_chars(room, room + 64, value).ptr); };
+    std::string token = shortest(number);
+    if constexpr (sizeof(Float) < sizeof(double)) {
+        double back = 0;
+        std::from_chars(token.data(), token.data() + token.size(), back);
+        if (static_cast<Float>(back) != number) token = shortest(double{number});
+    }
+    if (token == "-0") token = "-0.0"; // the sign belongs to a real only
+    return Node::Token(std::move(token));
+}
+
+Node PrintInteger(const Field& field, const std::byte* at) {
+    if (field.cell == Cell::U64) {
+        const auto number = Load<std::uint64_t>(at);
+        return number > static_cast<std::uint64_t>(kLargestExact) ? Node::Text(std::to_string(number))
+                                                                  : Node::Unsigned(number);
+    }
+    const std::int64_t number = LoadInteger(field.cell, at);
+    if (number > kLargestExact || number < -kLargestExact) return Node::Text(std::to_string(number));
+    if (!HasNames(field)) return Node::Number(number);
+    Node code = Node::Inline();
+    code.Add("code", Node::Number(number));
+    const std::string name = NameOfCode(field, number);
+    if (!name.empty()) code.Add("name", Node::Text(name));
+    return code;
+}
+
+Node PrintElement(const Field& field, const std::byte* at, PrintOptions options) {
+    switch (field.cell) {
+    case Cell::Record:
+        return PrintRecord(*field.table, at, options);
+    case Cell::Char:
+        return PrintText(at, field.elementSize);
+    case Cell::F32:
+        return PrintReal<float>(at);
+    case Cell::F64:
+        return PrintReal<double>(at);
+    case Cell::Pointer:
+        return Node::Null();
+    default:
+        return PrintInteger(field, at);
+    }
+}
+
+Node PrintLevel(const Field& field, int level, const std::byte* at, std::uint32_t count, PrintOptions options) {
+    if (level == field.rank) return PrintElement(field, at, options);
+    std::size_t stride = field.elementSize;
+    for (int i = field.rank - 1; i > level; --i)
+        stride *= field.dims[i];
+    Node list = Node::Array();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const std::uint32_t inner = level + 1 < field.rank ? field.dims[level + 1] : 1;
+        list.Add(PrintLevel(field, level + 1, at + i * stride, inner, options));
+    }
+    return list;
+}
+
+Node PrintPointer(const Field& field, const std::byte* record, PrintOptions options) {
+    const auto* const first = Load<const std::byte*>(record + field.offset);
+    if (first == nullptr) return Node::Null();
+    std::int64_t count = field.count.exists() && !options.all ? LoadSlot(field.count, record) : INT32_MAX;
+    if (field.capacity.exists())
+        count = std::min(count, LoadSlot(field.capacity, record));
+    else if (field.count.exists())
+        count = LoadSlot(field.count, record);
+    else
+        count = 1;
+    return PrintRecords(*field.table, first, static_cast<std::size_t>(std::max<std::int64_t>(count, 0)), options);
+}
+
+} // namespace
+
+Node PrintRecord(const Table& table, const std::byte* record, PrintOptions options) {
+    Node object = Node::Object();
+    for (const Field& field : table) {
+        if (field.alias || field.size == 0) continue; // no storage of its own
+        if (field.cell == Cell::Pointer) {
+            object.Add(field.name, PrintPointer(field, record, options));
+            continue;
+        }
+        std::uint32_t count = field.rank > 0 ? field.dims[0] : 1;
+        if (field.count.exists() && !options.all) {
+            count = static_cast<std::uint32_t>(std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, count));
+        }
+        object.Add(field.name, PrintLevel(field, 0, record + field.offset, count, options));
+    }
+    return object;
+}
+
+Node PrintRecords(const Table& table, const std::byte* first, std::size_t count, PrintOptions options) {
+    Node list = Node::Array();
+    for (std::size_t i = 0; i < count; ++i)
+        list.Add(PrintRecord(table, first + i * table.size, options));
+    return list;
+}
+
+} // namespace orrery::tool

@@ -1,0 +1,41 @@
+// The two translations as the companion runs them: everything is done before anything is printed.
+#pragma once
+
+#include "frame/Commands.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orrery::tool {
+
+inline constexpr int kDone = 0;
+inline constexpr int kRefused = 1;
+inline constexpr int kUsage = 2;
+
+struct Result {
+    int exit = kDone;
+    std::string out;
+    std::string err; // lines, each with its newline
+};
+
+struct ParseOptions {
+    std::optional<std::uint32_t> records{}; // room for so many; else as many as the reply holds
+    std::optional<std::uint32_t> bytes{};   // a buffer of exactly so many bytes
+    bool all = false;
+    bool pack = false;
+    std::string_view start{}; // JSON of the record that the buffer holds before the call
+};
+
+struct PackOptions {
+    std::optional<std::uint32_t> capacity{}; // of the text buffer; else as much as the text takes
+};
+
+Result ParseText(const Command& command, std::string_view text, const ParseOptions& options = {});
+Result PackText(const Command& command, std::string_view json, const PackOptions& options = {});
+// By the command's name.
+Result ParseText(std::string_view command, std::string_view text, const ParseOptions& options = {});
+Result PackText(std::string_view command, std::string_view json, const PackOptions& options = {});
+
+} // namespace orrery::tool

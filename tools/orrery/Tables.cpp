@@ -1,0 +1,51 @@
+#include "orrery/Tables.h"
+
+#include "frame/Commands.h"
+#include "frame/JsonParser.h"
+
+#include <algorithm>
+
+namespace orrery::tool {
+
+using namespace record;
+
+Tables::Tables() {
+    for (const Command& command : Commands()) {
+        if (command.table != nullptr) Meet(*command.table, std::string(command.name));
+    }
+    std::stable_sort(all.begin(), all.end(), [](const Table* left, const Table* right) {
+        return std::string_view(left->record) < std::string_view(right->record);
+    });
+    std::sort(names.begin(), names.end(),
+              [&](const NameTable* left, const NameTable* right) { return LabelOf(*left) < LabelOf(*right); });
+}
+
+void Tables::Meet(const Table& table, const std::string& where) {
+    if (tableLabels_.contains(&table)) return;
+    const bool isFirst = Of(table.record).empty();
+    tableLabels_[&table] = isFirst ? table.record : std::string(table.record) + "@" + where;
+    all.push_back(&table);
+    for (const Field& field : table) {
+        const std::string place = std::string(table.record) + "." + field.name;
+        if (field.table != nullptr) Meet(*field.table, place);
+        if (field.names != nullptr && nameLabels_.try_emplace(field.names, place).second) names.push_back(field.names);
+    }
+}
+
+std::vector<const Table*> Tables::Of(std::string_view record) const {
+    std::vector<const Table*> found;
+    for (const Table* table : all) {
+        if (EqualsFolded(table->record, record)) found.push_back(table);
+    }
+    return found;
+}
+
+std::vector<std::string_view> Tables::Records() const {
+    std::vector<std::string_view> records;
+    for (const Table* table : all) {
+        if (records.empty() || records.back() != table->record) records.emplace_back(table->record);
+    }
+    return records;
+}
+
+} // namespace orrery::tool

@@ -1,0 +1,43 @@
+// The tables' vocabulary as words: short ones for machines and reviews, sentences for people.
+#pragma once
+
+#include "frame/Commands.h"
+#include "frame/record/Table.h"
+
+#include <string>
+#include <vector>
+
+namespace orrery::tool {
+
+const char* TypeWord(record::Cell cell);
+const char* KindWord(record::Kind kind);
+
+// Array levels of a member; a text's capacity is the last of them.
+std::vector<std::uint32_t> DimsOf(const record::Field& field);
+// "i32", "char[64]", "CFG_POINT[8][2]", "CFG_ITEM*".
+std::string TypeOf(const record::Field& field);
+
+// The name of the member that a slot is.
+std::string SlotName(const record::Table& table, const record::Slot& slot);
+
+// A row that stores something: rows without storage and second keys of a field are none.
+inline bool IsStored(const record::Field& field) {
+    return field.size > 0 && !field.alias;
+}
+// A row with functions of its own.
+bool IsIrregular(const record::Field& field);
+bool IsIrregular(const record::Table& table);
+bool IsIrregular(const Command& command);
+
+// What differs from the plain reading and writing of a row: "Always", "Flag(abLevel)", "Absent(-1)".
+std::vector<std::string> RuleWords(const record::Table& table, const record::Field& field);
+// The same for people: "sets abLevel when present; written only when abLevel is set".
+std::vector<std::string> RuleSentences(const record::Table& table, const record::Field& field);
+
+std::string ParseWords(const Command& command);
+std::string PackWords(const Command& command);
+std::string FrameWord(Command::Frame frame);
+// "family"; when the two directions differ, "table/own".
+std::string FrameWord(const Command& command);
+
+} // namespace orrery::tool

@@ -1,0 +1,127 @@
+// The companion's arguments. `orrery --help` tells what it does.
+#include "orrery/Documents.h"
+#include "orrery/Output.h"
+#include "orrery/Run.h"
+#include "orrery/Suggest.h"
+#include "orrery/Tables.h"
+
+#include "frame/Commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <iostream>
+#include <memory>
+
+namespace {
+
+using namespace orrery::tool;
+
+// A file or, without a name or with "-", standard input. False when it can't be read.
+bool ReadAll(const std::string& name, std::string& text) {
+    const auto close = [](std::FILE* file) {
+        if (file != stdin) std::fclose(file);
+    };
+    const bool isInput = name.empty() || name == "-";
+    const std::unique_ptr<std::FILE, decltype(close)> file(isInput ? stdin : std::fopen(name.c_str(), "rb"), close);
+    char chunk[1 << 16];
+    std::size_t got = 0;
+    while (file != nullptr && (got = std::fread(chunk, 1, sizeof chunk, file.get())) > 0)
+        text.append(chunk, got);
+    if (file != nullptr && std::ferror(file.get()) == 0) return true;
+    std::fprintf(stderr, "orrery: can't read %s: %s\n", isInput ? "standard input" : name.c_str(),
+                 std::strerror(errno));
+    return false;
+}
+
+int Show(const Result& result) {
+    const bool written =
+        std::fwrite(result.out.data(), 1, result.out.size(), stdout) == result.out.size() && std::fflush(stdout) == 0;
+    std::fputs(result.err.c_str(), stderr);
+    if (written) return result.exit;
+    std::fprintf(stderr, "orrery: can't write: %s\n", std::strerror(errno));
+    return kRefused;
+}
+
+Result DescribeOrSuggest(const std::string& name) {
+    if (const auto text = Describe(name)) return {kDone, *text, {}};
+    const Tables tables;
+    std::vector<std::string_view> names = tables.Records();
+    for (const orrery::Command& command : orrery::Commands())
+        names.push_back(command.name);
+    return {kRefused, {}, "orrery: no command or record " + Printable(Quoted(name)) + DidYouMean(name, names) + "\n"};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    CLI::App app{"Shows the replies of network-video devices as records, and turns records into their text.\n"
+                 "Exit status: 0 done, 1 refused (standard error tells why), 2 wrong arguments.",
+                 "orrery"};
+    app.set_version_flag("--version", "orrery " ORRERY_VERSION);
+    app.require_subcommand(1);
+
+    std::string name;
+    std::string file;
+    std::string startFile;
+    ParseOptions parseOptions;
+    PackOptions packOptions;
+    std::function<int()> run;
+
+    CLI::App* const parse = app.add_subcommand("parse", "Print a device's reply as a record, in JSON by field names");
+    parse->add_option("COMMAND", name, "Name of a configuration or a method ('orrery commands')")->required();
+    parse->add_option("FILE", file, "The reply; standard input by default");
+    auto* const records =
+        parse->add_option("--records", parseOptions.records, "Room for so many records (as many as the reply holds)");
+    parse->add_option("--bytes", parseOptions.bytes, "A buffer of exactly so many bytes")->excludes(records);
+    parse->add_flag("--all", parseOptions.all, "Print lists whole, also what is not in use");
+    parse->add_flag("--pack", parseOptions.pack, "Print also the text that packing the record gives");
+    parse->add_option("--start", startFile, "Record that the buffer holds before, for commands that look at it");
+    parse->callback([&] {
+        run = [&]() -> int {
+            std::string text;
+            std::string start;
+            if (!ReadAll(file, text) || (!startFile.empty() && !ReadAll(startFile, start))) return kUsage;
+            parseOptions.start = start;
+            return Show(ParseText(name, text, parseOptions));
+        };
+    });
+
+    CLI::App* const pack = app.add_subcommand("pack", "Turn what 'parse' prints into the device's text");
+    pack->add_option("COMMAND", name, "Name of a configuration ('orrery commands')")->required();
+    pack->add_option("FILE", file, "The record or an array of records, in JSON; standard input by default");
+    pack->add_option("--capacity", packOptions.capacity, "A text buffer of so many bytes (as much as it takes)");
+    pack->callback([&] {
+        run = [&]() -> int {
+            std::string text;
+            if (!ReadAll(file, text)) return kUsage;
+            return Show(PackText(name, text, packOptions));
+        };
+    });
+
+    app.add_subcommand("commands", "List all commands")->callback([&] {
+        run = [] { return Show({kDone, CommandList(), {}}); };
+    });
+    CLI::App* const describe = app.add_subcommand("describe", "Show the record of a command, or a record");
+    describe->add_option("NAME", name, "Name of a command or of a record")->required();
+    describe->callback([&] { run = [&] { return Show(DescribeOrSuggest(name)); }; });
+    app.add_subcommand("schema", "Print all commands and records as one JSON document")->callback([&] {
+        run = [] { return Show({kDone, Schema(), {}}); };
+    });
+    app.add_subcommand("layout", "Print all record tables as plain text, a line a row")->callback([&] {
+        run = [] { return Show({kDone, Layout(), {}}); };
+    });
+
+    try {
+        app.parse(argc, argv);
+        return run();
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? kDone : kUsage;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "orrery: %s\n", error.what());
+        return kRefused;
+    }
+}
