@@ -155,6 +155,9 @@ enum {
 
 /* ---- Described objects ---- */
 
+/* Room of a record for a list of objects. */
+#define ORRERY_EVENT_OBJECTS 16
+
 enum {
     EVENT_OBJECT_ACTION_NONE = 0,
     EVENT_OBJECT_ACTION_APPEAR = 1,
@@ -170,6 +173,9 @@ enum {
 enum { EVENT_TIME_ABSOLUTE = 0, EVENT_TIME_RELATIVE = 1 };
 
 #define ORRERY_EVENT_CONTOUR 16
+
+/* Of a person. Cards alone leave it untold, as 9. */
+enum { EVENT_SEX_UNKNOWN = 0, EVENT_SEX_MALE = 1, EVENT_SEX_FEMALE = 2, EVENT_SEX_UNTOLD = 3 };
 
 /* Places in byColorSimilar and its kin. */
 enum {

@@ -52,9 +52,6 @@ typedef struct DEV_EVENT_INSTALLCARDREADER_INFO {
 
 /* ---- Identity cards ---- */
 
-/* "Sex", an integer. */
-enum { EVENT_SEX_UNKNOWN = 0, EVENT_SEX_MALE = 1, EVENT_SEX_FEMALE = 2, EVENT_SEX_UNTOLD = 3 /* 9 */ };
-
 /* "CitizenIDCard" (352): an identity card was read. */
 typedef struct DEV_EVENT_CITIZENIDCARD_INFO {
     ORRERY_EVENT_HEAD_C;
@@ -62,7 +59,7 @@ typedef struct DEV_EVENT_CITIZENIDCARD_INFO {
     int32_t nCountInGroup; /* "CountInGroup", an integer */
     int32_t nIndexInGroup; /* "IndexInGroup", an integer */
     char szCitizen[64];    /* "Citizen": name */
-    int32_t emSex;         /* "Sex": EVENT_SEX_... */
+    int32_t emSex;         /* "Sex", an integer: EVENT_SEX_... */
     int32_t nEthnicity;    /* "Ethnicity" */
     NET_TIME stuBirth;     /* "Birth": "1990-05-17", a date only */
     char szAddress[256];   /* "Address" */
@@ -91,7 +88,7 @@ typedef struct DEV_EVENT_CITIZENPICTURECOMPARE_INFO {
     uint8_t byCompareResult;         /* "CompareResult": 1 when it is the person */
     uint8_t bySimilarity;            /* "Similarity": percent */
     uint8_t byThreshold;             /* "Threshold": percent */
-    int32_t emSex;                   /* "Sex": EVENT_SEX_... */
+    int32_t emSex;                   /* "Sex", an integer: EVENT_SEX_... */
     uint32_t dwEthnicity;            /* "Ethnicity" */
     char szCitizen[64];              /* "Citizen": name */
     char szAddress[256];             /* "Address" */

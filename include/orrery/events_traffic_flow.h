@@ -17,8 +17,6 @@ typedef struct DEV_EVENT_TRAFFICCONTROL_INFO {
     EVENT_GPS_POINT stuGPS; /* "Custom"."GPS" */
 } DEV_EVENT_TRAFFICCONTROL_INFO;
 
-#define ORRERY_EVENT_OBJECTS 16
-
 /* "TrafficAccident" (22): vehicles crashed. */
 typedef struct DEV_EVENT_TRAFFICACCIDENT_INFO {
     ORRERY_EVENT_HEAD_A;

@@ -11,6 +11,7 @@
 #include "orrery/analyse_rules.h"
 #include "orrery/encode.h"
 #include "orrery/event_types.h"
+#include "orrery/events_intelligent.h"
 #include "orrery/events_other.h"
 #include "orrery/events_traffic.h"
 #include "orrery/general.h"

@@ -1,5 +1,7 @@
 #include "events/EventCodecs.h"
 
+#include "events/EventLog.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -37,6 +39,18 @@ const char* OwnText(std::string_view text, Arena& arena) noexcept {
     if (!text.empty()) std::memcpy(block, text.data(), text.size());
     block[text.size()] = '\0';
     return block;
+}
+
+void ReadTextBlock(const Field& field, const Value& value, std::byte* record, std::uint32_t capacity,
+                   ReadCall& call) noexcept {
+    auto* const block = call.parser.text().arena().Array<char>(capacity);
+    if (block == nullptr) {
+        ORRERY_EVENT_ERROR("%s, size:%d", field.failure, static_cast<int>(capacity));
+        return;
+    }
+    std::memset(block, 0, capacity);
+    call.parser.GetJsonString(value, block, capacity, true);
+    Store<const char*>(record + field.offset, block);
 }
 
 void StoreUtc(std::int64_t seconds, EVENT_TIME& time) noexcept {

@@ -96,6 +96,64 @@ struct ByKeys {
     constexpr explicit ByKeys(const NameTable& table) : names(&table) {}
 };
 
+// A number that one of a list becomes: the place of the text's number, counted from `First`; 0 for a number not in it.
+template <std::int32_t First, std::int32_t... Numbers>
+void ReadPlaceIn(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
+    const std::int32_t number = value.asInt();
+    std::int32_t place = First;
+    const bool found = ((number == Numbers || (++place, false)) || ...);
+    StoreInteger(field.cell, record + field.offset, found ? place : 0);
+}
+template <std::int32_t First, std::int32_t... Numbers>
+inline constexpr CustomCodec kPlaceIn{ReadPlaceIn<First, Numbers...>};
+template <std::int32_t First, std::int32_t... Numbers>
+struct PlaceInCodec {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = kIsInteger<T>;
+    const CustomCodec* codec = &kPlaceIn<First, Numbers...>;
+};
+template <std::int32_t First, std::int32_t... Numbers>
+inline constexpr PlaceInCodec<First, Numbers...> PlaceIn{};
+
+// A number that is stored only when it lies between two; any other leaves the field's default.
+template <std::int32_t Least, std::int32_t Most>
+void ReadWithin(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
+    const std::int32_t number = value.asInt();
+    if (number >= Least && number <= Most) StoreInteger(field.cell, record + field.offset, number);
+}
+template <std::int32_t Least, std::int32_t Most>
+inline constexpr CustomCodec kWithin{ReadWithin<Least, Most>};
+template <std::int32_t Least, std::int32_t Most>
+struct WithinCodec {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = kIsInteger<T>;
+    const CustomCodec* codec = &kWithin<Least, Most>;
+};
+template <std::int32_t Least, std::int32_t Most>
+inline constexpr WithinCodec<Least, Most> Within{};
+
+// A text in a block of `Capacity` bytes, also when there is no text (with Always). The row's Owned says what the log
+// hears when there is no memory for it.
+void ReadTextBlock(const Field& field, const json::Value& value, std::byte* record, std::uint32_t capacity,
+                   ReadCall& call) noexcept;
+template <std::uint32_t Capacity>
+inline constexpr CustomCodec kTextBlock{[](const Field& field, const json::Value& value, std::byte* record,
+                                           ReadCall& call) { ReadTextBlock(field, value, record, Capacity, call); }};
+template <std::uint32_t Capacity>
+struct TextBlockCodec {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, const char*>;
+    const CustomCodec* codec = &kTextBlock<Capacity>;
+};
+template <std::uint32_t Capacity>
+inline constexpr TextBlockCodec<Capacity> TextBlock{};
+
 // ---- The same as functions, for what a row can't say ----
 
 void ReadFullText(const json::Value& value, char* field, std::size_t capacity, JsonParser& parser) noexcept;

@@ -12,8 +12,8 @@ TABLE(kCommonKeys, EventContext, FIELD(nChannelID), FIELD(szName, "Name", FullTe
       FIELD(nSourceIndex, "SourceIndex", Int).Absent(-1), FIELD(szSourceDevice, "SourceDevice", Text),
       FIELD(bIsExistAlarmRecord, "IsExistAlarmRecord", Bool), FIELD(dwAlarmRecordSize, "AlarmRecordSize", UInt),
       FIELD(szAlarmRecordPath, "AlarmRecordPath", Text), FIELD(dwCount, "Count", UInt).Only(OnlyType::Integral),
-      FIELD(stuFileInfo), FIELD(byEventAction), FIELD(byRepeat), FIELD(nAction), FIELD(dwFlagMask), FIELD(wWidth),
-      FIELD(wHeight), FIELD(dwResolution), FIELD(szRecordFile));
+      FIELD(stuFileInfo), FIELD(byEventAction), FIELD(byRepeat), FIELD(nAction), FIELD(dwAction), FIELD(dwFlagMask),
+      FIELD(wWidth), FIELD(wHeight), FIELD(dwResolution), FIELD(szRecordFile));
 
 } // namespace
 

@@ -35,6 +35,7 @@ struct EventContext {
     std::uint8_t byEventAction;
     std::uint8_t byRepeat;
     std::int32_t nAction;
+    std::uint32_t dwAction;
     std::uint32_t dwFlagMask;
     std::uint16_t wWidth;
     std::uint16_t wHeight;

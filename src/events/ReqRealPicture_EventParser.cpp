@@ -62,6 +62,7 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     fields = {};
     fields.nChannelID = nChannel;
     fields.nAction = number;
+    fields.dwAction = static_cast<std::uint32_t>(number);
     fields.byEventAction = static_cast<std::uint8_t>(number);
     events::ReadCommonKeys(data, fields, call);
     ORRERY_EVENT_DETAIL("parseAlarmEvent start dwAlarmType[%d]", static_cast<int>(code));
@@ -69,12 +70,14 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     if (row == nullptr) return;
 
     auto* const node = static_cast<EventNode*>(arena_.Allocate(sizeof(EventNode)));
-    auto* const record = static_cast<std::byte*>(arena_.Allocate(row->recordSize));
+    // Room for all that the callback is told of: some clients copy that much.
+    const std::uint32_t size = std::max(row->recordSize, row->reportedSize);
+    auto* const record = static_cast<std::byte*>(arena_.Allocate(size));
     if (node == nullptr || record == nullptr) {
         if (row->noMemory != nullptr) ORRERY_EVENT_ERROR("%s", row->noMemory);
         return;
     }
-    std::memset(record, 0, row->recordSize);
+    std::memset(record, 0, size);
     ReadGroup(data, around.fileInfo);
     fields.stuFileInfo = around.fileInfo;
     fields.byRepeat = static_cast<std::uint8_t>(around.source.nRepeat);

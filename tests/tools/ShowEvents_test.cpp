@@ -3,6 +3,8 @@
 
 #include "events/EventTable.h"
 
+#include "orrery/events_other.h"
+
 #include <gmock/gmock.h>
 #include <json/json.h>
 #include <sstream>

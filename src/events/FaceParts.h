@@ -1,0 +1,39 @@
+// What several intelligent events tell of faces.
+#pragma once
+
+#include "events/IntelligentEvents.h"
+
+namespace orrery::events {
+
+inline constexpr Name kFaceSexRows[] = {{EVENT_SEX_MALE, "Man"}, {EVENT_SEX_FEMALE, "Woman"}};
+inline constexpr NameTable kFaceSexes = ExactNames(kFaceSexRows);
+
+#define ORRERY_FEATURE_ROWS(noGlasses)                                                                                 \
+    {EVENT_FEATURE_WEAR_GLASSES, "WearGlasses"}, {EVENT_FEATURE_SMILE, "Smile"}, {EVENT_FEATURE_ANGER, "Anger"},       \
+        {EVENT_FEATURE_SADNESS, "Sadness"}, {EVENT_FEATURE_DISGUST, "Disgust"}, {EVENT_FEATURE_FEAR, "Fear"},          \
+        {EVENT_FEATURE_SURPRISE, "Surprise"}, {EVENT_FEATURE_NEUTRAL, "Neutral"}, {EVENT_FEATURE_LAUGH, "Laugh"},      \
+        {EVENT_FEATURE_NO_GLASSES, noGlasses}, {EVENT_FEATURE_HAPPY, "Happy"}, {EVENT_FEATURE_CONFUSED, "Confused"},   \
+        {EVENT_FEATURE_SCREAM, "Scream"}, {                                                                            \
+        EVENT_FEATURE_SUN_GLASSES, "SunGlasses"                                                                        \
+    }
+inline constexpr Name kFeatureRows[] = {ORRERY_FEATURE_ROWS("NoGlasses")};
+inline constexpr NameTable kFeatures = ExactNames(kFeatureRows);
+// As devices that see whole people spell them.
+inline constexpr Name kTraitFeatureRows[] = {ORRERY_FEATURE_ROWS("Noglasses")};
+inline constexpr NameTable kTraitFeatures = ExactNames(kTraitFeatureRows);
+#undef ORRERY_FEATURE_ROWS
+
+} // namespace orrery::events
+
+#define FEATURES(key, table) FIELD(nFeatureNum), FIELD(emFeature, key, Names(table)).Count(AT(nFeatureNum))
+// Inside the object `prefix`, which is "" or ends in a slash.
+#define FACE_PERSON(prefix)                                                                                            \
+    FIELD(emSex, prefix "Sex", Names(kFaceSexes)), FIELD(nAge, prefix "Age", Int).Only(OnlyType::Integer).Absent(-1),  \
+        FEATURES(prefix "Feature", kFeatures)
+#define FACE_STATES(prefix)                                                                                            \
+    FIELD(emRace, prefix "Race", PlaceIn<1, 0, 1, 2, 3>), FIELD(emEye, prefix "Eye", PlaceIn<1, 0, 1, 2>),             \
+        FIELD(emMouth, prefix "Mouth", PlaceIn<1, 0, 1, 2>), FIELD(emMask, prefix "Mask", PlaceIn<1, 0, 1, 2>),        \
+        FIELD(emBeard, prefix "Beard", PlaceIn<1, 0, 1, 2>)
+#define FACE_LOOKS(prefix)                                                                                             \
+    FACE_STATES(prefix), FIELD(nAttractive, prefix "Attractive", Within<0, 100>).Absent(-1),                           \
+        FIELD(szUID, prefix "UID", Text)

@@ -1,0 +1,79 @@
+// The tables of the intelligent events.
+#pragma once
+
+#include "events/EventContext.h"
+
+#include "orrery/events_intelligent.h"
+
+namespace orrery::events {
+
+extern const TypedTable<DEV_EVENT_CROSSLINEDETECTION_INFO> kCrossLineDetection;
+extern const TypedTable<DEV_EVENT_CROSSLINE_EX_INFO> kCrossLineEx;
+extern const TypedTable<DEV_EVENT_CROSSREGIONDETECTION_INFO> kCrossRegionDetection;
+extern const TypedTable<DEV_EVENT_PASTEDETECTION_INFO> kPasteDetection;
+extern const TypedTable<DEV_EVENT_LEFTDETECTION_INFO> kLeftDetection;
+extern const TypedTable<DEV_EVENT_STAYDETECTION_INFO> kStayDetection;
+extern const TypedTable<DEV_EVENT_WANDERDETECTION_INFO> kWanderDetection;
+extern const TypedTable<DEV_EVENT_MOVEDETECTION_INFO> kMoveDetection;
+extern const TypedTable<DEV_EVENT_RIOTERDETECTION_INFO> kRioterDetection;
+extern const TypedTable<DEV_EVENT_SMOKEDETECTION_INFO> kSmokeDetection;
+extern const TypedTable<DEV_EVENT_FLOWSTAT_INFO> kFlowStat;
+extern const TypedTable<DEV_EVENT_NUMBERSTAT_INFO> kNumberStat;
+extern const TypedTable<DEV_EVENT_VIDEOABNORMALDETECTION_INFO> kVideoAbnormalDetection;
+extern const TypedTable<DEV_EVENT_FACEDETECTION_INFO> kFaceDetection;
+extern const TypedTable<DEV_EVENT_ELECTROSPARKDETECTION_INFO> kElectroSparkDetection;
+extern const TypedTable<DEV_EVENT_RUNDETECTION_INFO> kRunDetection;
+extern const TypedTable<DEV_EVENT_RETROGRADEDETECTION_INFO> kRetrogradeDetection;
+extern const TypedTable<DEV_EVENT_TAKENAWAYDETECTION_INFO> kTakenAwayDetection;
+extern const TypedTable<DEV_EVENT_PARKINGDETECTION_INFO> kParkingDetection;
+extern const TypedTable<DEV_EVENT_FACERECOGNITION_INFO> kFaceRecognition;
+extern const TypedTable<DEV_EVENT_PRISONERRISEDETECTION_INFO> kPrisonerRiseDetection;
+extern const TypedTable<DEV_EVENT_CROSSFENCEDETECTION_INFO> kCrossFenceDetection;
+extern const TypedTable<DEV_EVENT_DENSITYDETECTION_INFO> kDensityDetection;
+extern const TypedTable<DEV_EVENT_QUEUEDETECTION_INFO> kQueueDetection;
+extern const TypedTable<DEV_EVENT_AUDIOABNORMALDETECTION_INFO> kAudioAbnormalDetection;
+extern const TypedTable<DEV_EVENT_CLIMBDETECTION_INFO> kClimbDetection;
+extern const TypedTable<DEV_EVENT_LEAVEDETECTION_INFO> kLeaveDetection;
+extern const TypedTable<DEV_EVENT_OBJECTDETECTION_INFO> kObjectDetection;
+extern const TypedTable<DEV_EVENT_GETOUTBEDDETECTION_INFO> kGetOutBedDetection;
+extern const TypedTable<DEV_EVENT_NEARDISTANCEDETECTION_INFO> kNearDistanceDetection;
+extern const TypedTable<DEV_EVENT_PERSONFEATURE_INFO> kPersonFeature;
+extern const TypedTable<DEV_EVENT_NONMOTORFEATURE_INFO> kNonMotorFeature;
+extern const TypedTable<DEV_EVENT_TUMBLEDETECTION_INFO> kTumbleDetection;
+extern const TypedTable<DEV_EVENT_MANSTANDDETECTION_INFO> kManStandDetection;
+extern const TypedTable<DEV_EVENT_MANNUMDETECTION_INFO> kManNumDetection;
+extern const TypedTable<DEV_EVENT_HUMANTRAIT_INFO> kHumanTrait;
+extern const TypedTable<DEV_EVENT_ROADCONSTRUCTION_INFO> kRoadConstruction;
+extern const TypedTable<DEV_EVENT_XRAYDETECTION_INFO> kXRayDetection;
+extern const TypedTable<DEV_EVENT_CROWDDETECTION_INFO> kCrowdDetection;
+extern const TypedTable<DEV_EVENT_PEDESTRIANJUNCTION_INFO> kPedestrianJunction;
+extern const TypedTable<DEV_EVENT_VEHICLERECOGNITION_INFO> kVehicleRecognition;
+extern const TypedTable<DEV_EVENT_SMARTMOTIONHUMAN_INFO> kSmartMotionHuman;
+
+// Code 337 for a crossing that tells of several objects or of a person, 2 for any other.
+std::uint32_t CrossLineCode(const json::Value& data) noexcept;
+
+} // namespace orrery::events
+
+// ---- Rows that several of these records have ----
+
+// The head of records that keep nothing behind the name.
+#define HEAD_SHORT                                                                                                     \
+    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), ORRERY_SAME_FROM_EVENT(dPTS),                  \
+        ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID)
+// What opens records without a time.
+#define HEAD_UNTIMED                                                                                                   \
+    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), ORRERY_SAME_FROM_EVENT(nEventID)
+#define ACTION_NUMBER ORRERY_FROM_EVENT(nEventAction, nAction)
+#define OBJECTS FIELD(nObjectNum), FIELD(stuObjects, "Objects", Record(::orrery::events::kObject)).Count(AT(nObjectNum))
+// As many objects as the text has, in a block of their own.
+#define ALL_OBJECTS                                                                                                    \
+    FIELD(nObjectNum), FIELD(pObjects, "Objects", Record(::orrery::events::kObjectEx))                                 \
+                           .Owned("New pstObjectInfo Failed")                                                          \
+                           .Count(AT(nObjectNum))
+#define DETECT_REGION POINTS(stuDetectRegion, nDetectRegionNum, "DetectRegion")
+#define TRACK POINTS(stuTrack, nTrackNum, "Track")
+#define EVENT_CLASS_OR_TRAFFIC FIELD(emClass, "Class", Names(::orrery::events::kSceneClassesWithTraffic))
+#define GROUP_NUMBERS                                                                                                  \
+    FIELD(nGroupID, "GroupID", Int), FIELD(nCountInGroup, "CountInGroup", Int),                                        \
+        FIELD(nIndexInGroup, "IndexInGroup", Int)
