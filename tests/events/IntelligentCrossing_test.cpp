@@ -1,6 +1,7 @@
 // Lines and regions that things cross: which record it becomes, points, directions, paths.
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
+#include "support/LogLines.h"
 
 #include <gtest/gtest.h>
 
@@ -63,6 +64,7 @@ TEST(CrossLine, NoMemoryForTheObjectsLeavesNone) {
     for (const char* name : {"CrossLineDetection", "ObjectDetection"}) {
         const std::string text = EventText(name, "{\"EventID\":5,\"Objects\":" + objects + "]}");
         bool without = false;
+        LogLines log;
         HeapWatch watch;
         for (std::size_t n = 1; n < 20 && !without; ++n) {
             watch.FailOnly(n);
@@ -84,6 +86,7 @@ TEST(CrossLine, NoMemoryForTheObjectsLeavesNone) {
             watch.FailNone();
         }
         EXPECT_TRUE(without) << name;
+        EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, "New pstObjectInfo Failed"), 1) << name;
     }
 }
 

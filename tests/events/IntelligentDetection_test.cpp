@@ -1,6 +1,7 @@
 // Oddities of the events about regions, crowds, queues and troubled devices.
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
+#include "support/LogLines.h"
 
 #include <gtest/gtest.h>
 
@@ -108,6 +109,26 @@ TEST(Density, ReadsItsHeadAndHasRoomForTwentyPoints) {
                               EXPECT_EQ(density.nDetectRegionNum, 20);
                               EXPECT_EQ(density.stuDetectRegion[19].nX, 20);
                           }));
+}
+
+TEST(Density, TellsOfARecordForWhichThereIsNoMemory) {
+    // Several records, so that one needs memory from the heap.
+    std::string text = "{\"Event\":[";
+    for (int i = 0; i < 4; ++i)
+        text += std::string(i > 0 ? "," : "") + R"({"Code":"DensityDetection","Data":{}})";
+    text += "]}";
+    const std::size_t all = CodesOf(text).size();
+    EXPECT_EQ(all, 4u);
+    LogLines log;
+    HeapWatch watch;
+    watch.FailFrom(1);
+    std::size_t some = 0;
+    const EventVisitor visit = [&](const Delivered&) { ++some; };
+    CLIENT_ParseAnalyzerEventData(text.c_str(), 0, VisitEvent, const_cast<EventVisitor*>(&visit));
+    watch.FailNone();
+    EXPECT_LT(some, all);
+    EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, "New DEV_EVENT_DENSITYDETECTION_INFO struct failed."),
+              static_cast<std::ptrdiff_t>(all - some));
 }
 
 TEST(Queue, ALineHasTwoEnds) {

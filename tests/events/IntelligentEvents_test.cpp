@@ -1,5 +1,6 @@
 // Every intelligent event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventTable.h"
+#include "support/EventWalk.h"
 #include "support/FailingAllocator.h"
 #include "support/Notification.h"
 
@@ -318,6 +319,7 @@ void ExpectWhole(const IntelligentEvent& expected, const std::string& data) {
             EXPECT_EQ(delivered.type, expected.code) << expected.name;
             EXPECT_EQ(delivered.size, expected.size) << expected.name;
             expected.check(delivered.record, expected.name);
+            EXPECT_NE(ReadAll(delivered), 0u);
         });
     EXPECT_EQ(count, 1) << expected.name;
 }
@@ -344,6 +346,14 @@ TEST(IntelligentEvents, NoneIsDeliveredWithoutData) {
             << expected.name;
 }
 
+// Reads all that a client may read: the told size, and what the record's pointers lead to.
+std::uint64_t ReadAll(const Delivered& event) {
+    std::uint64_t sum = SumOfRecord(*events::FindEvent(event.type)->table, static_cast<const std::byte*>(event.record));
+    for (std::uint32_t i = 0; i < event.size; ++i)
+        sum += static_cast<const unsigned char*>(event.record)[i];
+    return sum;
+}
+
 // Each of the wrong type for every key: nothing but the delivery is promised.
 TEST(IntelligentEvents, WrongTypesAreHarmless) {
     const std::string whole = EveryKey(kObjects);
@@ -360,7 +370,8 @@ TEST(IntelligentEvents, WrongTypesAreHarmless) {
         }
         data += "}";
         for (const IntelligentEvent& expected : kIntelligentEvents)
-            EXPECT_TRUE(DecodeOne(expected.name, data, [](const Delivered&) {})) << expected.name << " " << wrong;
+            EXPECT_TRUE(DecodeOne(expected.name, data, [](const Delivered& event) { ReadAll(event); }))
+                << expected.name << " " << wrong;
     }
 }
 

@@ -1,6 +1,7 @@
 // Faces and the known people whom they look like.
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
+#include "support/LogLines.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -246,39 +247,52 @@ TEST(FaceRecognition, FiftyCandidatesWithFortyEightImages) {
     }));
 }
 
-// Texts whose blocks there is no memory for are missing; all else is there.
+// Texts for whose blocks there is no memory are missing and told of; all else is there.
 TEST(FaceRecognition, EveryAllocationMayFail) {
     std::string candidates = "{\"Similarity\":1}";
     for (int i = 2; i <= 50; ++i)
         candidates += ",{\"Similarity\":" + std::to_string(i) + "}";
     const std::string text = EventText("FaceRecognition", "{\"Candidates\":[" + candidates + "]}");
-    bool textsMissing = false;
-    bool failed = true;
+    std::ptrdiff_t missing = 0;
+    const auto look = [&](const auto& candidate, int index) {
+        EXPECT_EQ(candidate.bySimilarity, index + 1);
+        const auto& person = candidate.stuPerson;
+        for (const char* each : {person.pszComment, person.pszGroupID, person.pszGroupName, person.pszFeatureValue}) {
+            if (each == nullptr)
+                ++missing;
+            else
+                EXPECT_STREQ(each, "");
+        }
+    };
+    const EventVisitor visit = [&](const Delivered& event) {
+        const auto& recognition = event.as<DEV_EVENT_FACERECOGNITION_INFO>();
+        EXPECT_EQ(recognition.nCandidateNum, 50);
+        for (int i = 0; i < 50; ++i) {
+            look(recognition.stuCandidates[i], i);
+            look(recognition.stuCandidatesEx[i], i);
+        }
+    };
+    LogLines log;
     HeapWatch watch;
+    bool failed = true;
     for (std::size_t n = 1; failed; ++n) {
-        watch.FailOnly(n);
-        const EventVisitor visit = [&](const Delivered& event) {
-            const auto& recognition = event.as<DEV_EVENT_FACERECOGNITION_INFO>();
-            EXPECT_EQ(recognition.nCandidateNum, 50);
-            for (int i = 0; i < 50; ++i) {
-                EXPECT_EQ(recognition.stuCandidates[i].bySimilarity, i + 1);
-                const auto& person = recognition.stuCandidates[i].stuPerson;
-                for (const char* each :
-                     {person.pszComment, person.pszGroupID, person.pszGroupName, person.pszFeatureValue}) {
-                    if (each == nullptr)
-                        textsMissing = true;
-                    else
-                        EXPECT_STREQ(each, "");
-                }
-            }
-        };
+        const std::size_t before = watch.failures();
+        watch.FailFrom(n);
         CLIENT_ParseAnalyzerEventData(text.c_str(), 0, VisitEvent, const_cast<EventVisitor*>(&visit));
-        failed = watch.failures() >= n;
+        failed = watch.failures() > before;
         watch.FailNone();
         ASSERT_LT(n, 50u);
     }
-    EXPECT_TRUE(textsMissing);
     EXPECT_EQ(watch.liveBlocks(), 0);
+    EXPECT_GT(missing, 0);
+    std::ptrdiff_t told = 0;
+    for (const char* line : {"Failed to new group comment, size:100", "Failed to new group ID, size:64",
+                             "Failed to new group name, size:128", "Failed to new feature calue, size:128"}) {
+        const std::ptrdiff_t times = log.count(E_LOG_LEVEL_ERROR, line);
+        EXPECT_GT(times, 0) << line;
+        told += times;
+    }
+    EXPECT_EQ(told, missing);
 }
 
 } // namespace
