@@ -3,6 +3,9 @@
 
 #include "events/EventTable.h"
 
+#include "orrery/orrery.h"
+
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <json/json.h>
 #include <sstream>
