@@ -8,12 +8,19 @@
 
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_input.h"
+#include "orrery/analyse_rules.h"
+#include "orrery/encode.h"
 #include "orrery/event_types.h"
 #include "orrery/events_other.h"
 #include "orrery/events_traffic.h"
 #include "orrery/general.h"
 #include "orrery/linkage.h"
+#include "orrery/network.h"
+#include "orrery/network_services.h"
+#include "orrery/rule_bodies.h"
+#include "orrery/traffic_rules.h"
 #include "orrery/types.h"
+#include "orrery/wlan.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -27,9 +34,10 @@ extern "C" {
  *                 What follows the first complete JSON value is ignored.
  * buffer          Takes the record. Need not be aligned. Must not be null. Unless the command's record says otherwise,
  *                 all of it is cleared first and stays so on failure, and what the text leaves out is zero.
- * bufferSize      Bytes at `buffer`, at least one record. Records that do not fit whole are left out.
- * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule" and "PwdReset" add to
- *                 what it holds: set it to 0 first.
+ * bufferSize      Bytes at `buffer`, at least one record, but for "Network". Records that do not fit whole are left
+ *                 out.
+ * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan" and
+ *                 "Https" add to what it holds: set it to 0 first. They take a missing table as nothing to read.
  *
  * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8 and
  * the C locale they are the device's bytes. A text that is too long is cut, in the middle of a character if need be.
@@ -49,7 +57,8 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. Cleared whole, also on
  *               failure, but for "MotionDetect", which leaves it alone on failure and behind the terminator.
  * textCapacity  Bytes at `textBuffer`. For most commands the text must be shorter. For the alarm input commands other
- *               than "MotionDetect" a text of exactly that length is taken too and loses its newline.
+ *               than "MotionDetect", and where the command's header says so, a text of exactly that length is taken too
+ *               and loses its newline or its terminator.
  *
  * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
 int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,

@@ -19,9 +19,10 @@ typedef struct CFG_TIME_SECTION {
     int32_t nEndSec;
 } CFG_TIME_SECTION;
 
-#define ORRERY_WEEK_DAYS 7     /* rows of a week, Sunday first */
-#define ORRERY_DAY_SECTIONS 6  /* sections a day */
-#define ORRERY_SCHEDULE_DAYS 8 /* a week and a holiday row */
+#define ORRERY_WEEK_DAYS 7          /* rows of a week, Sunday first */
+#define ORRERY_DAY_SECTIONS 6       /* sections a day */
+#define ORRERY_SCHEDULE_DAYS 8      /* a week and a holiday row */
+#define ORRERY_RULE_DAY_SECTIONS 10 /* sections a day of an analysis rule's own week */
 
 /* A week of sections and a holiday row. Text form: an array of 7 or 8 arrays of sections. */
 typedef struct CFG_TIME_SCHEDULE {
@@ -83,6 +84,13 @@ typedef struct NET_TIME_EX {
     int32_t dwSecond;
     int32_t dwMillisecond;
 } NET_TIME_EX;
+
+/* A moment that begins with its size. With another size word it is neither read nor written: null stands in its place.
+ */
+typedef struct NET_TIME_V2 {
+    uint32_t dwSize; /* 28 */
+    NET_TIME stuTime;
+} NET_TIME_V2;
 
 /* Kinds of sensor behind an alarm input ("SenseMethod"). */
 typedef enum EM_SENSE_METHOD {

@@ -46,25 +46,39 @@ void WriteDoorActions(const Field& field, const std::byte* record, WriteCall& ca
 
 // ---- The week over the schedule: seven rows from the one, a holiday row from the other ----
 
-void WriteWeek(const Field&, const std::byte* record, WriteCall& call) {
-    const auto writeDay = [&](const std::byte* day) {
-        call.out.BeginArray();
-        for (int i = 0; i < ORRERY_DAY_SECTIONS; ++i, day += sizeof(CFG_TIME_SECTION)) {
-            JsonParser::SetTimeSection(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(day));
-        }
-        call.out.EndArray();
-    };
-    constexpr std::size_t kDay = sizeof(CFG_TIME_SECTION[ORRERY_DAY_SECTIONS]);
-    call.Key();
+constexpr std::size_t kDaySize = sizeof(CFG_TIME_SECTION[ORRERY_DAY_SECTIONS]);
+
+void WriteDay(const std::byte* day, int sections, WriteCall& call) {
     call.out.BeginArray();
-    for (std::size_t day = 0; day < ORRERY_WEEK_DAYS; ++day) {
-        writeDay(record + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSection) + day * kDay);
-    }
-    const std::byte* const schedule = record + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSectionEx);
-    if (MEMBER(schedule, CFG_TIME_SCHEDULE, bEnableHoliday) != 0) {
-        writeDay(schedule + offsetof(CFG_TIME_SCHEDULE, stuTimeSection) + ORRERY_WEEK_DAYS * kDay);
+    for (int i = 0; i < sections; ++i, day += sizeof(CFG_TIME_SECTION)) {
+        JsonParser::SetTimeSection(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(day));
     }
     call.out.EndArray();
+}
+
+void WriteWeekAndHoliday(const std::byte* week, int sections, const std::byte* linkage, WriteCall& call) {
+    call.Key();
+    call.out.BeginArray();
+    for (int day = 0; day < ORRERY_WEEK_DAYS; ++day, week += sizeof(CFG_TIME_SECTION) * static_cast<unsigned>(sections))
+        WriteDay(week, sections, call);
+    const std::byte* const schedule = linkage + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSectionEx);
+    if (MEMBER(schedule, CFG_TIME_SCHEDULE, bEnableHoliday) != 0) {
+        WriteDay(schedule + offsetof(CFG_TIME_SCHEDULE, stuTimeSection) + ORRERY_WEEK_DAYS * kDaySize,
+                 ORRERY_DAY_SECTIONS, call);
+    }
+    call.out.EndArray();
+}
+
+void WriteWeek(const Field&, const std::byte* record, WriteCall& call) {
+    WriteWeekAndHoliday(record + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSection), ORRERY_DAY_SECTIONS, record, call);
+}
+
+void WriteRuleWeek(const Field&, const std::byte* record, WriteCall& call) {
+    const auto* const week = static_cast<const RuleWeek*>(call.context);
+    if (week == nullptr) return; // a linkage on its own has no rule around it
+    if (!week->cleared) return WriteWeekAndHoliday(week->sections, ORRERY_RULE_DAY_SECTIONS, record, call);
+    call.Key();
+    call.out.Null();
 }
 
 // ---- "DB" of the form with size words: the count comes from a number that stands where the list should ----
@@ -90,6 +104,7 @@ void WriteCountedKeys(const Field& field, const std::byte* record, WriteCall& ca
 constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions,
                                       R"([{"Operation":"Open"},{"Operation":"CloseAlways"}])"};
 constexpr CustomCodec kWeekOverSchedule{nullptr, WriteWeek};
+constexpr CustomCodec kRuleWeekOverSchedule{nullptr, WriteRuleWeek};
 constexpr CustomCodec kCountedKeys{ReadCountedKeys, WriteCountedKeys};
 
 bool IsPtzLink(const std::byte* record) {

@@ -44,6 +44,8 @@ inline constexpr NameTable kDoorActions = ExactNames(kDoorActionRows).UnknownLea
 extern const CustomCodec kDoorActionList;
 // Seven rows from the week, a holiday row from the schedule; written only.
 extern const CustomCodec kWeekOverSchedule;
+// Seven rows from the rule's own week of longer days, a holiday row from the schedule; written only.
+extern const CustomCodec kRuleWeekOverSchedule;
 // A count that comes from a number standing where the list should.
 extern const CustomCodec kCountedKeys;
 
@@ -69,7 +71,20 @@ PART(kMonitorTour, CFG_MONITOR_TOUR, FIELD(bEnable, "Enable", Bool), FIELD(nSpli
 
 // ---- The current form ----
 
-template <bool Week>
+// Where the week of a linkage stands.
+enum class WeekIn : std::uint8_t {
+    Schedule, // in stuTimeSectionEx alone
+    Linkage,  // in stuTimeSection as well
+    Rule,     // in the rule around the linkage as well
+};
+
+// The week that a rule has of its own, for whoever writes the rule's linkage: WriteCall::context points to it.
+struct RuleWeek {
+    const std::byte* sections; // CFG_TIME_SECTION[ORRERY_WEEK_DAYS][ORRERY_RULE_DAY_SECTIONS]
+    bool cleared;              // the client wants the device's week gone: null
+};
+
+template <WeekIn Week>
 struct EventHandlerRows {
     using R = CFG_EVENT_HANDLER_INFO;
     static constexpr Field rows[] = {
@@ -184,11 +199,12 @@ struct EventHandlerRows {
         FIELD(byDestination, "PSTNAlarmServer/Destination", UInt)
             .Count(AT(nDestinationNum))
             .WhenSet(AT(abPSTNAlarmServer)),
-        FIELD(stuTimeSectionEx, "TimeSection", HolidaySchedule).Writable(!Week),
+        FIELD(stuTimeSectionEx, "TimeSection", HolidaySchedule).Writable(Week == WeekIn::Schedule),
         FIELD(abAlarmBellLatch),
         FIELD(nAlarmBellLatch, "AlarmBellLatch", Int).Flag(AT(abAlarmBellLatch)),
-        Week ? FIELD(stuTimeSection, "TimeSection", TimeSection).ReadOnly() : FIELD(stuTimeSection),
-        MakeVirtual("TimeSection", Custom(kWeekOverSchedule)).Writable(Week),
+        Week == WeekIn::Linkage ? FIELD(stuTimeSection, "TimeSection", TimeSection).ReadOnly() : FIELD(stuTimeSection),
+        MakeVirtual("TimeSection", Custom(Week == WeekIn::Rule ? kRuleWeekOverSchedule : kWeekOverSchedule))
+            .Writable(Week != WeekIn::Schedule),
     };
 };
 
@@ -276,10 +292,13 @@ struct EventHandlerV2Rows {
 
 // Without the week: the schedule travels in stuTimeSectionEx alone.
 inline constexpr record::TypedTable<CFG_EVENT_HANDLER_INFO> kEventHandler =
-    record::MakeTable<linkage::EventHandlerRows<false>>("CFG_EVENT_HANDLER_INFO");
+    record::MakeTable<linkage::EventHandlerRows<linkage::WeekIn::Schedule>>("CFG_EVENT_HANDLER_INFO");
 // With the week in stuTimeSection as well.
 inline constexpr record::TypedTable<CFG_EVENT_HANDLER_INFO> kEventHandlerWeek =
-    record::MakeTable<linkage::EventHandlerRows<true>>("CFG_EVENT_HANDLER_INFO");
+    record::MakeTable<linkage::EventHandlerRows<linkage::WeekIn::Linkage>>("CFG_EVENT_HANDLER_INFO");
+// With the week in the rule that embeds the linkage.
+inline constexpr record::TypedTable<CFG_EVENT_HANDLER_INFO> kEventHandlerRule =
+    record::MakeTable<linkage::EventHandlerRows<linkage::WeekIn::Rule>>("CFG_EVENT_HANDLER_INFO");
 // With size words.
 inline constexpr record::TypedTable<CFG_EVENT_HANDLER_V2_INFO> kEventHandlerV2 =
     record::MakeTable<linkage::EventHandlerV2Rows>("CFG_EVENT_HANDLER_V2_INFO");

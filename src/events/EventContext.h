@@ -103,5 +103,5 @@ void ReadCommonKeys(const json::Value& data, EventContext& fields, ReadCall& cal
     FIELD(points, key, Record(::orrery::events::kEventPoint))                                                          \
         .Count(AT(count))                                                                                              \
         .OnNull(::orrery::record::Nulls::LeaveHole)                                                                    \
-        .EachAtLeast(2)
+        .OnRefused(::orrery::record::Nulls::LeaveHole)
 #define POINTS(points, count, key) FIELD(count), POINT_ROW(points, count, key)

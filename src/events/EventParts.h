@@ -90,10 +90,10 @@ template <>
 inline constexpr const orrery::record::Table* orrery::record::kLayoutOf<EVENT_FILE_INFO> = &orrery::events::kFileInfo;
 namespace orrery::events {
 
-PART(kEventPoint, EVENT_POINT, FIELD(nX, "", Int), FIELD(nY, "", Int)).As(Shape::LooseTuple);
+PART(kEventPoint, EVENT_POINT, FIELD(nX, "", Int), FIELD(nY, "", Int)).As(Shape::LongTuple);
 // The first four numbers of an array, for rows that say how many it must have.
 PART(kBox, CFG_RECT, FIELD(nLeft, "", Int), FIELD(nTop, "", Int), FIELD(nRight, "", Int), FIELD(nBottom, "", Int))
-    .As(Shape::LooseTuple);
+    .As(Shape::LongTuple);
 // [ year, month, day, hour, minute, second ]
 PART(kSixNumbers, NET_TIME, FIELD(dwYear, "", Int), FIELD(dwMonth, "", Int), FIELD(dwDay, "", Int),
      FIELD(dwHour, "", Int), FIELD(dwMinute, "", Int), FIELD(dwSecond, "", Int))
@@ -109,9 +109,8 @@ void StampMillisecondsEx(const json::Value& value, std::byte* record, ReadCall& 
 #define ORRERY_OBJECT_ROWS_FRONT                                                                                       \
     FIELD(nObjectID, "ObjectID", Int), FIELD(szObjectType, "ObjectType", FullText),                                    \
         FIELD(nConfidence, "Confidence", Int), FIELD(nAction, "Action", Custom(kObjectAction)),                        \
-        FIELD(stuBoundingBox, "BoundingBox", Record(kBox)).AtLeast(4),                                                 \
-        FIELD(stuCenter, "Center", Record(kEventPoint)).AtLeast(2), FIELD(nPolygonNum),                                \
-        FIELD(stuContour, "Contour", Record(kEventPoint)).Count(AT(nPolygonNum)).EachAtLeast(2),                       \
+        FIELD(stuBoundingBox, "BoundingBox", Record(kBox)), FIELD(stuCenter, "Center", Record(kEventPoint)),           \
+        FIELD(nPolygonNum), FIELD(stuContour, "Contour", Record(kEventPoint)).Count(AT(nPolygonNum)),                  \
         FIELD(rgbaMainColor, "MainColor", PackedColor).AtLeast(4).Flag(AT(bColor))
 #define ORRERY_OBJECT_ROWS_IMAGE                                                                                       \
     FIELD(bPicEnable, "Image", Presence), FIELD(dwOffset, "Image/Offset", UInt),                                       \
@@ -143,9 +142,8 @@ PART(kObjectEx, EVENT_OBJECT_INFO_EX, FIELD(dwSize, nullptr, Size), ORRERY_OBJEC
     .StartsWhenRead();
 
 PART(kBulletHole, EVENT_BULLET_HOLE_INFO, FIELD(nObjectID, "ObjectID", Int), FIELD(szObjectType, "ObjectType", Text),
-     FIELD(stuBoundingBox, "BoundingBox", Record(kBox)).AtLeast(4),
-     FIELD(stuCenter, "Center", Record(kEventPoint)).AtLeast(2), FIELD(nSequence, "Sequence", Int),
-     FIELD(nScore, "Score", Int));
+     FIELD(stuBoundingBox, "BoundingBox", Record(kBox)), FIELD(stuCenter, "Center", Record(kEventPoint)),
+     FIELD(nSequence, "Sequence", Int), FIELD(nScore, "Score", Int));
 
 // ---- Images and positions ----------------------------------------------------------------------------------------
 

@@ -111,7 +111,7 @@ TABLE(kTrafficFlowStat, DEV_EVENT_TRAFFICFLOWSTAT_INFO, HEAD_A, FIELD(nSequence,
       DETAIL(stuDrivingDirection, "DrivingDirection", Record(kFlowHeading)), DETAIL(emRank, "Rank", Names(kRanks)),
       DETAIL(nState, "State", Int), DETAIL(bOccupyHeadCoil, "Occupyheadcoil", Bool),
       DETAIL(bOccupyTailCoil, "OccupyTailcoil", Bool), DETAIL(bStatistics, "Statistics", Bool),
-      DETAIL(stuQueueEnd, "QueueEnd", Record(kEventPoint)).AtLeast(2), DETAIL(emClass, "Class", Names(kSceneClasses)))
+      DETAIL(stuQueueEnd, "QueueEnd", Record(kEventPoint)), DETAIL(emClass, "Class", Names(kSceneClasses)))
     .AfterRead(ReadDelay);
 #undef DETAIL
 
@@ -124,9 +124,8 @@ TABLE(kTrafficThrow, DEV_EVENT_TRAFFICTHROW_INFO, HEAD_A, FIELD(nLane, "Lane", I
       FIELD(szRoadwayNo, "TrafficCar/RoadwayNo", Text), COMM_INFO);
 
 #define FEATURE_AREA                                                                                                   \
-    FIELD(nFeaturePicAreaNum), FIELD(stuFeaturePicArea, "ParkingInfo/FeaturePicArea", Record(kEventPoint))             \
-                                   .Count(AT(nFeaturePicAreaNum))                                                      \
-                                   .EachAtLeast(2)
+    FIELD(nFeaturePicAreaNum),                                                                                         \
+        FIELD(stuFeaturePicArea, "ParkingInfo/FeaturePicArea", Record(kEventPoint)).Count(AT(nFeaturePicAreaNum))
 TABLE(kTrafficParkingSpaceParking, DEV_EVENT_TRAFFICPARKINGSPACEPARKING_INFO, HEAD_A, OBJECT, VEHICLE,
       FIELD(nLane, "Lane", Int), FIELD(nSequence, "Sequence", Int), CAR, FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK, WIDTH,
       HEIGHT, FIELD(nParkingSpaceStatus, "ParkingSpaceStatus", Int), FIELD(byTextSource, "TextSource", Int),

@@ -90,7 +90,7 @@ PART(kSeat, EVENT_SEAT_INFO, FIELD(bEnable).Absent(1), FIELD(emType, "Type", Nam
     .StartsWhenRead();
 
 PART(kAttachment, EVENT_ATTACHMENT_INFO, FIELD(emType, "Type", Names(kAttachments)),
-     FIELD(stuRect, "Rect", Record(kBox)).AtLeast(4));
+     FIELD(stuRect, "Rect", Record(kBox)));
 
 PART(kPicturePlace, EVENT_PICTURE_PLACE, FIELD(dwOffset, "Offset", UInt), FIELD(dwLength, "Length", UInt));
 
@@ -120,7 +120,7 @@ PART(kCommInfo, EVENT_COMM_INFO, FIELD(emNTPStatus, "NTPCheckTime", Names(kNtpSt
      FIELD(pszVideoPath, nullptr, OwnedText), FIELD(nSeatNum),
      FIELD(stuSeat, "Seat", Record(kSeat)).Count(AT(nSeatNum)), FIELD(nAttachmentNum),
      FIELD(stuAttachment, "Attachment", Record(kAttachment)).Count(AT(nAttachmentNum)), FIELD(nAnnualInspectionNum),
-     FIELD(stuAnnualInspection, "AnnualInspection", Record(kBox)).Count(AT(nAnnualInspectionNum)).EachAtLeast(4),
+     FIELD(stuAnnualInspection, "AnnualInspection", Record(kBox)).Count(AT(nAnnualInspectionNum)),
      FIELD(stuExhaust, "ExhaustPara", Record(kExhaust)), FIELD(nOriginalPictureNum),
      FIELD(stuOriginalPicture, "OriginalPictures", Record(kPicturePlace)).Count(AT(nOriginalPictureNum)),
      FIELD(stuRFIDTag, "RFIDEleTagInfo", Record(kRfidTag)), FIELD(szCountry, "Country", Text))

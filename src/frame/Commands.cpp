@@ -2,8 +2,17 @@
 
 #include "alarm/AlarmCaps.h"
 #include "alarm/AlarmInput.h"
+#include "analyse/RuleFrame.h"
 #include "frame/GeneralSwitch.h"
 #include "frame/JsonParser.h"
+#include "media/Encode.h"
+#include "media/EncodeEncrypt.h"
+#include "media/StroboscopicLamp.h"
+#include "network/Dvrip.h"
+#include "network/Multicast.h"
+#include "network/Network.h"
+#include "network/Services.h"
+#include "network/Wlan.h"
 
 #include <array>
 
@@ -43,6 +52,28 @@ constexpr Command Reply(std::string_view name, const record::Table& table, Parse
     return command;
 }
 
+// A parse function of its own; the frame's words tell tools what it does.
+constexpr Command OwnParse(std::string_view name, const record::Table& table,
+                           Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
+    Command command = Both(name, table, like, pack);
+    command.parse = Command::Frame::Own;
+    command.ownParse = parse;
+    return command;
+}
+
+// A buffer of items, described by the caller's record: read by a function of its own and, where there is one, written.
+constexpr Command Own(std::string_view name, const record::Table& table, Outcome (*parse)(const ParseRequest&),
+                      Outcome (*pack)(const PackRequest&)) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = Command::Frame::Own;
+    if (pack != nullptr) command.pack = Command::Frame::Own;
+    command.ownParse = parse;
+    command.ownPack = pack;
+    return command;
+}
+
 // Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
 constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
 constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
@@ -78,6 +109,56 @@ constexpr Command kCommands[] = {
     Reply("alarm.getExAlarmCaps", kExAlarmCaps, kCapsTextTrue),
     Reply("alarm.getExAlarmBoxCaps", kExAlarmBoxCaps, kCapsTextTrue),
     Reply("AnalogAlarm.getCaps", kAnalogAlarmCaps, kCaps),
+
+    // Encoding
+    Both("Encode", kEncode,
+         kParse.TakesBy(EncodeTakes)
+             .Null(OnNull::LengthZero)
+             .Clears(Clearing::Kept)
+             .ReadsNulls()
+             .Length(ReplyLength::PerRecord),
+         kLoose.As(Form::BareIfExact)),
+    Both("EncodePlan", kEncodePlan,
+         kUntested.Takes(Take::ManyOrNone).Null(OnNull::LengthZero).Length(ReplyLength::PerRecord),
+         kLoose.As(Form::Array)),
+    Both("EncodeAdapt", kEncodeAdapt, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord),
+         kPack.As(Form::BareIfExact)),
+    Both("SmartEncode", kSmartEncode,
+         kParse.Takes(Take::AnyOrMany).Null(OnNull::LengthZero).Length(ReplyLength::PerRecord),
+         kLoose.As(Form::BareIfExact)),
+    Both("EncodeEncrypt", kEncodeEncrypt, kUntested.Takes(Take::ListOrNone).Clears(Clearing::Kept).RootKeysFirst(),
+         kLoose),
+    Both("NvrEncrypt", kNvrEncrypt,
+         kParse.Takes(Take::ListOrLists)
+             .Null(OnNull::LengthUntouched)
+             .Clears(Clearing::Read)
+             .RootKeysFirst()
+             .ReadsNulls()
+             .AllMustFit()
+             .Length(ReplyLength::OneOfList),
+         kPack.FormBy(NvrEncryptForm).Fits(Capacity::Raw)),
+    Both("CompressPlay", kCompressPlay, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord),
+         kPack.As(Form::BareIfExact)),
+    Both("StroboscopicLamp", kStroboscopicLamp, kParse.Null(OnNull::LengthUntouched).LengthBy(StroboscopicLampLength),
+         kPack.Fits(Capacity::Raw)),
+
+    // Network
+    Both("Network", kNetwork, kParse.Null(OnNull::OneRecord).AnySize().NeedsText(), kPack),
+    Both("RTSP", kRtsp, kUntested, kLoose),
+    OwnParse("Multicast", kMulticast, ParseMulticast, kUntested.Clears(Clearing::Kept), kLoose),
+    Both("DVRIP", kDvrip, kParse, kPack),
+    Both("Mobile", kMobile, kParse, kPack),
+    Both("Email", kEmail, kParse, kPack),
+    Both("STP", kStp, kParse, kPack),
+    Both("AIOAppConfig", kAioApp, kParse, kPack),
+    Reply("LowRateWPAN.getCaps", kLowRateWpanCaps, kCaps),
+    Generic("WLan", kWlan, kOneCleared),
+    Generic("Https", kHttps, kOneCleared),
+
+    // Analysis rules
+    Own("VideoAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
+    Own("AudioAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
+    Own("IVSFramRule", kAnalyseRules, ParseFrameRules, nullptr),
 };
 
 // ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----
@@ -154,6 +235,10 @@ const Command* FindCommand(std::string_view name) noexcept {
         if (EqualsFolded(command.name, name)) return &command;
     }
     return nullptr;
+}
+
+const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
+    return &descriptor == &kAnalyseRules ? &kRuleItems : nullptr;
 }
 
 Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {

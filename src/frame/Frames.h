@@ -9,6 +9,10 @@
 
 namespace orrery {
 
+namespace json {
+class Value;
+}
+
 // ---- The words of a command's reply ------------------------------------------------------------------------------
 
 // Where the value stands in the reply.
@@ -39,9 +43,17 @@ enum class Take : std::uint8_t {
     Many,          // array: a record an element; other types fail
     ManyOrNone,    // array: a record an element; other types succeed with no record
     List,          // one record that is itself a list: other types than an array fail
+    ListOrNone,    // the same, but other types succeed with nothing read and no length
+    ListOrLists,   // array of objects: one record that is itself a list; array of arrays: a list, that is a record, an
+                   // element; other types, and an empty array, succeed with nothing read and no length
     ByMember,      // object: a record a member, in key order, null members skipped; other types fail
     ByMemberOrNone // the same; other types have no members
 };
+
+// Whether a reply fills one record, whatever its value looks like (but for a list of lists).
+constexpr bool TakesOneRecord(Take take) {
+    return take == Take::One || take == Take::List || take == Take::ListOrNone || take == Take::ListOrLists;
+}
 
 // What a null or absent value does.
 enum class OnNull : std::uint8_t {
@@ -54,10 +66,17 @@ enum class OnNull : std::uint8_t {
 enum class Clearing : std::uint8_t {
     Buffer, // the whole buffer
     Record, // the first record
+    Read,   // each record as it is read
     Kept,   // the caller's own input: descriptors, values that absent keys keep
 };
 
-enum class ReplyLength : std::uint8_t { OneRecord, PerRecord, None };
+enum class ReplyLength : std::uint8_t {
+    OneRecord,
+    PerRecord,
+    OneOfList, // one record; 0 for a list of lists, though its records are filled
+    Told,      // what the command's function tells
+    None,
+};
 
 // How far apart a caller's records are.
 enum class Stride : std::uint8_t {
@@ -76,10 +95,19 @@ struct ParseFrame {
     ReplyLength length = ReplyLength::OneRecord;
     Stride stride = Stride::Record;
     bool exactSize = false; // the buffer must have exactly the record's size
+    bool readsNulls = false;
+    bool rootKeysFirst = false;
+    bool allMustFit = false;
+    bool anySize = false;   // a buffer below one record takes as much of the record as it holds
+    bool needsText = false; // an empty text fails before anything is cleared
     // Tests the caller's own input before anything else; false fails the call with nothing touched.
     bool (*accepts)(const std::byte* buffer, std::uint32_t size) = nullptr;
     // Runs once the text has parsed, before "result" is looked at.
     void (*parsed)(std::byte* buffer) = nullptr;
+    // Chooses the shape that is taken, where something else than the value's own type settles it.
+    Take (*takesBy)(const json::Value& root) = nullptr;
+    // Tells the reply's length after one record has been read, where it is none of the usual ones.
+    std::uint32_t (*lengthBy)(const std::byte* record) = nullptr;
 
     bool operator==(const ParseFrame&) const = default;
 
@@ -124,6 +152,45 @@ struct ParseFrame {
         f.exactSize = true;
         return f;
     }
+    // A null element is read as a record without keys, where others leave its slot alone.
+    constexpr ParseFrame ReadsNulls() const {
+        auto f = *this;
+        f.readsNulls = true;
+        return f;
+    }
+    // Keys that start at the document reach the first record once the text has parsed, though the call fail later.
+    constexpr ParseFrame RootKeysFirst() const {
+        auto f = *this;
+        f.rootKeysFirst = true;
+        return f;
+    }
+    // More records than fit the buffer fail the call.
+    constexpr ParseFrame AllMustFit() const {
+        auto f = *this;
+        f.allMustFit = true;
+        return f;
+    }
+    constexpr ParseFrame TakesBy(Take (*function)(const json::Value& root)) const {
+        auto f = *this;
+        f.takesBy = function;
+        return f;
+    }
+    constexpr ParseFrame LengthBy(std::uint32_t (*function)(const std::byte* record)) const {
+        auto f = *this;
+        f.length = ReplyLength::Told;
+        f.lengthBy = function;
+        return f;
+    }
+    constexpr ParseFrame AnySize() const {
+        auto f = *this;
+        f.anySize = true;
+        return f;
+    }
+    constexpr ParseFrame NeedsText() const {
+        auto f = *this;
+        f.needsText = true;
+        return f;
+    }
     constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
         auto f = *this;
         f.accepts = test;
@@ -144,6 +211,7 @@ enum class Form : std::uint8_t {
     BareIfOne,   // bare when exactly one whole record fits the size, else an array
     BareIfExact, // bare when the size is exactly one record, else an array of those that fit
     ByMember,    // as many records as fit the size, each under its member name
+    Nothing,     // no record at all: the text of a document that nothing was put in
 };
 
 // How long a text may be, and how it is ended.
@@ -162,6 +230,8 @@ struct PackFrame {
     bool exactSize = false;     // the record must have exactly the table's size
     bool keepsText = false;     // a failed call leaves the text buffer as it was
     bool (*accepts)(const std::byte* record, std::uint32_t size) = nullptr;
+    // Chooses the form, where something else than the size settles it.
+    Form (*formBy)(const std::byte* first, std::uint32_t count) = nullptr;
 
     bool operator==(const PackFrame&) const = default;
 
@@ -195,6 +265,11 @@ struct PackFrame {
         f.keepsText = true;
         return f;
     }
+    constexpr PackFrame FormBy(Form (*function)(const std::byte* first, std::uint32_t count)) const {
+        auto f = *this;
+        f.formBy = function;
+        return f;
+    }
     constexpr PackFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
         auto f = *this;
         f.accepts = test;
@@ -225,7 +300,9 @@ enum class Outcome : std::uint8_t {
     Refused, // "result"
     NoValue,
     WrongShape,
-    RowRefused, // a row's function ended the call
+    TooManyRecords, // of a command that takes all of them or none
+    RowRefused,     // a row's function ended the call
+    BadItem,        // an item of a buffer, or an element that should become one, is of no type that is known
     TextTooLong,
     OutOfMemory,
 };

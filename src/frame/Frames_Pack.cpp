@@ -1,6 +1,7 @@
 #include "frame/Frames.h"
 
 #include "frame/Arena.h"
+#include "frame/Deliver.h"
 #include "frame/JsonParser.h"
 #include "frame/LocalText.h"
 #include "frame/Platform/ParamConvert.h"
@@ -24,7 +25,7 @@ struct Content {
     const std::byte* first;
     std::uint32_t stride;
     std::uint32_t count;
-    Form form; // One, Array or ByMember
+    Form form; // One, Array, ByMember or Nothing
     std::string_view quotedKey;
     bool everyPlace = false; // of an array: also a null behind the last record that is written
 };
@@ -65,6 +66,9 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
     case Form::Array:
         WriteArray(content, call);
         break;
+    case Form::Nothing:
+        out.Null();
+        break;
     default:
         if (record::IsWritten(content.table, content.first))
             record::WriteRecord(content.table, content.first, call);
@@ -76,27 +80,6 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
     out.EndText();
     if (arena.failed()) return Outcome::OutOfMemory;
     return call.refused ? Outcome::RowRefused : Outcome::Done;
-}
-
-bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexcept {
-    switch (capacity) {
-    case Capacity::Strict:
-        return length < room;
-    case Capacity::Loose:
-    case Capacity::Raw:
-        return length <= room;
-    case Capacity::OneBefore:
-        return length + 1 < room;
-    }
-    return false;
-}
-
-// Ends a text of `length` bytes that fits in `room`.
-void Terminate(Capacity capacity, std::size_t length, char* buffer, std::size_t room) noexcept {
-    if (length < room)
-        buffer[length] = '\0';
-    else if (capacity == Capacity::Loose)
-        buffer[room - 1] = '\0';
 }
 
 // Writes into the caller's buffer only what fits; a failure leaves it alone.
@@ -117,28 +100,9 @@ Outcome DeliverOrKeep(const Content& content, Capacity capacity, const PackReque
     return Outcome::Done;
 }
 
-// Writes straight into the caller's buffer and clears what the text leaves of it; a text that does not fit leaves
-// zeros.
-Outcome Deliver(const Content& content, Capacity capacity, const PackRequest& request) noexcept {
-    const std::size_t room = request.textCapacity;
-    char* const buffer = request.textBuffer;
-    json::TextWriter out(buffer, room);
-    Outcome outcome = WriteText(content, out);
-    if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
-    if (outcome != Outcome::Done) {
-        std::memset(buffer, 0, room);
-        return outcome;
-    }
-    if (out.length() < room)
-        std::memset(buffer + out.length(), 0, room - out.length());
-    else
-        Terminate(capacity, out.length(), buffer, room);
-    return Outcome::Done;
-}
-
 Outcome Deliver(const Content& content, const PackFrame& frame, const PackRequest& request) noexcept {
-    return frame.keepsText ? DeliverOrKeep(content, frame.capacity, request)
-                           : Deliver(content, frame.capacity, request);
+    if (frame.keepsText) return DeliverOrKeep(content, frame.capacity, request);
+    return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, frame.capacity, request);
 }
 
 } // namespace
@@ -156,6 +120,7 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
 
     Content content{table, first, stride, request.recordSize / stride, frame.form, frame.quotedKey};
     if (frame.form == Form::BareIfOne) content.form = content.count == 1 ? Form::One : Form::Array;
+    if (frame.formBy != nullptr) content.form = frame.formBy(first, content.count);
     if (frame.form == Form::BareIfExact) content.form = request.recordSize == stride ? Form::One : Form::Array;
     if (content.form == Form::One) content.count = 1;
     if (frame.stride == Stride::Record) return Deliver(content, frame, request);
@@ -195,7 +160,7 @@ Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, co
         std::memcpy(whole, first, request.recordSize);
         content.first = whole;
     }
-    return Deliver(content, Capacity::Strict, request);
+    return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, Capacity::Strict, request);
 }
 
 } // namespace orrery

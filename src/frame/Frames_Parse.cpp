@@ -1,10 +1,7 @@
 #include "frame/Frames.h"
 
-#include "frame/Arena.h"
-#include "frame/JsonParser.h"
-#include "frame/LocalText.h"
+#include "frame/Document.h"
 #include "frame/Platform/ParamConvert.h"
-#include "frame/json/Reader.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -16,19 +13,6 @@ namespace {
 
 using json::Value;
 using record::ReadCall;
-
-// Everything that one call needs besides the caller's buffers. A reply of a few kilobytes fits the first chunk.
-struct Document {
-    StackArena<std::size_t{16} << 10> arena;
-    LocalText text{arena};
-    JsonParser parser{text};
-    Value root;
-
-    Outcome Parse(const char* source) noexcept {
-        if (json::Parse(std::string_view(source), arena, root)) return Outcome::Done;
-        return arena.failed() ? Outcome::OutOfMemory : Outcome::NoJson;
-    }
-};
 
 bool Passes(ResultTest test, const Value& result) noexcept {
     switch (test) {
@@ -68,7 +52,7 @@ const Value& Find(const ParseFrame& frame, const Value& root) noexcept {
 }
 
 // What a value of the right shape holds.
-enum class Holds : std::uint8_t { Nothing, OneRecord, Elements, Members, WrongShape };
+enum class Holds : std::uint8_t { Nothing, OneRecord, Elements, Members, NoList, WrongShape };
 
 Holds ShapeOf(Take take, const Value& value) noexcept {
     const bool isArray = value.type() == json::Type::Array;
@@ -86,6 +70,13 @@ Holds ShapeOf(Take take, const Value& value) noexcept {
         return isArray ? Holds::Elements : Holds::Nothing;
     case Take::List:
         return isArray ? Holds::OneRecord : Holds::WrongShape;
+    case Take::ListOrNone:
+        return isArray ? Holds::OneRecord : Holds::NoList;
+    case Take::ListOrLists:
+        if (value.size() == 0 || !isArray) return Holds::NoList;
+        // A null is an empty list, but no object.
+        if (value[0].isArray()) return Holds::Elements;
+        return value[0].type() == json::Type::Object ? Holds::OneRecord : Holds::NoList;
     case Take::ByMember:
         return isObject ? Holds::Members : Holds::WrongShape;
     case Take::ByMemberOrNone:
@@ -112,7 +103,9 @@ class Records {
     void Skip() noexcept { ++used_; }
 
     void Read(const Value& value, std::string_view memberName) noexcept {
-        std::byte* const at = first_ + std::size_t{used_++} * stride_;
+        std::byte* const at = first_ + std::size_t{used_} * stride_;
+        call_.index = used_++;
+        if (frame_.clearing == Clearing::Read) std::memset(at, 0, stride_);
         if (frame_.stride == Stride::Record) return record::ReadRecord(table_, value, at, call_, memberName);
         if (local_ == nullptr) return;
         // The local record picks up what the caller set, pointers and capacities above all.
@@ -143,7 +136,7 @@ class Records {
     ReadCall& call_;
 };
 
-void ReadAll(Holds holds, const Value& value, Records& records) noexcept {
+void ReadAll(Holds holds, const Value& value, bool readsNulls, Records& records) noexcept {
     switch (holds) {
     case Holds::OneRecord:
         records.Read(value, {});
@@ -151,7 +144,7 @@ void ReadAll(Holds holds, const Value& value, Records& records) noexcept {
     case Holds::Elements:
         for (const Value& element : value.elements()) {
             if (records.isFull()) break;
-            if (element.isNull())
+            if (element.isNull() && !readsNulls)
                 records.Skip();
             else
                 records.Read(element, {});
@@ -164,6 +157,7 @@ void ReadAll(Holds holds, const Value& value, Records& records) noexcept {
         }
         break;
     case Holds::Nothing:
+    case Holds::NoList:
     case Holds::WrongShape:
         break;
     }
@@ -179,7 +173,9 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         stride = record::Load<std::uint32_t>(buffer);
         if (stride == 0 || stride > request.bufferSize) return Outcome::BufferTooSmall;
     }
-    if (frame.exactSize ? request.bufferSize != stride : request.bufferSize < stride) return Outcome::BufferTooSmall;
+    const bool isShort = request.bufferSize < stride;
+    if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;
+    if (frame.needsText && request.text[0] == '\0') return Outcome::NoJson;
     if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
     const auto clear = [&] {
         if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
@@ -190,13 +186,15 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
     if (frame.parsed != nullptr) frame.parsed(buffer);
+    ReadCall call{document.parser, document.root};
+    if (frame.rootKeysFirst) record::ReadRootFields(table, buffer, call);
     if (!Passes(frame.result, document.root["result"])) return Outcome::Refused;
 
     const auto setLength = [&](std::uint32_t length) {
         if (request.returnedLength != nullptr) *request.returnedLength = length;
     };
     const Value& value = Find(frame, document.root);
-    Holds holds = ShapeOf(frame.take, value);
+    Holds holds = ShapeOf(frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take, value);
     // An empty array of records says as much as no array at all.
     if (value.isNull() || (holds == Holds::Elements && value.size() == 0)) {
         switch (frame.onNull) {
@@ -213,20 +211,37 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         }
     }
     if (holds == Holds::WrongShape) return Outcome::WrongShape;
+    if (holds == Holds::NoList) return Outcome::Done;
+    if (frame.allMustFit && holds == Holds::Elements && value.size() > request.bufferSize / stride) {
+        return Outcome::TooManyRecords;
+    }
 
-    ReadCall call{document.parser, document.root};
-    Records records(table, frame, request, stride, call);
-    ReadAll(holds, value, records);
+    ParseRequest whole = request;
+    if (isShort) { // of a record of the call's own the caller takes what the buffer holds
+        whole.bufferSize = stride;
+        whole.buffer = document.arena.Array<std::byte>(stride);
+        if (whole.buffer == nullptr) return Outcome::OutOfMemory;
+        std::memset(whole.buffer, 0, stride);
+    }
+    Records records(table, frame, whole, stride, call);
+    ReadAll(holds, value, frame.readsNulls, records);
     if (document.arena.failed()) {
         clear();
         return Outcome::OutOfMemory;
     }
+    if (isShort) std::memcpy(buffer, whole.buffer, request.bufferSize);
     switch (frame.length) {
     case ReplyLength::OneRecord:
         setLength(stride);
         break;
     case ReplyLength::PerRecord:
         setLength(records.used() * stride);
+        break;
+    case ReplyLength::OneOfList:
+        setLength(holds == Holds::OneRecord ? stride : 0);
+        break;
+    case ReplyLength::Told:
+        setLength(frame.lengthBy(buffer));
         break;
     case ReplyLength::None:
         break;

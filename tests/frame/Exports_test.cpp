@@ -1,5 +1,4 @@
 #include "frame/Commands.h"
-#include "support/GuardedBuffer.h"
 
 #include "orrery/orrery.h"
 
@@ -121,37 +120,6 @@ TEST(Commands, ACommandOfOneDirectionTouchesNothingInTheOther) {
         if (!command.parses()) {
             EXPECT_EQ(CLIENT_ParseData(name.c_str(), kReply, bytes.data(), size, nullptr), 0) << name;
             EXPECT_EQ(bytes, std::vector<unsigned char>(size, 9));
-        }
-    }
-}
-
-TEST(Commands, TheReplyLengthMayBeNullOnEveryCommand) {
-    for (const Command& command : Commands()) {
-        if (!command.parses()) continue;
-        std::vector<unsigned char> bytes(command.table->size, 9);
-        const std::string name(command.name);
-        const int result =
-            CLIENT_ParseData(name.c_str(), R"({ "result" : true, "params" : { "table" : { }, "caps" : { } } })",
-                             bytes.data(), static_cast<std::uint32_t>(bytes.size()), nullptr);
-        EXPECT_NE(result, 0) << name;
-    }
-}
-
-TEST(Commands, NothingBehindTheTextAndTheRecordIsTouched) {
-    for (const Command& command : Commands()) {
-        const std::string name(command.name);
-        const orrery::test::GuardedBuffer guardedName(std::string_view(name.c_str(), name.size() + 1));
-        const std::string reply = R"({ "result" : true, "params" : { "table" : { "Name" : "x" }, "caps" : { } } })";
-        const orrery::test::GuardedBuffer text(std::string_view(reply.c_str(), reply.size() + 1));
-        const orrery::test::GuardedBuffer record(command.table->size);
-        if (command.parses()) {
-            EXPECT_NE(CLIENT_ParseData(guardedName.data(), text.data(), record.data(), command.table->size, nullptr),
-                      0);
-        }
-        if (command.packs()) {
-            const orrery::test::GuardedBuffer room(5000);
-            EXPECT_NE(CLIENT_PacketData(guardedName.data(), record.data(), command.table->size, room.data(), 5000), 0)
-                << name;
         }
     }
 }

@@ -54,11 +54,14 @@ TEST(Buffers, EverySizeHoldsAsManyRecordsAsFit) {
         for (const std::size_t size : SizesFor(record)) {
             const Outcome outcome = calls.Run(text.get(), size);
             if (HasOwnStride(command)) continue; // the caller says how large its records are
-            const bool fits = exact ? size == record : size >= record;
+            const bool fits = exact ? size == record : size >= record || command.parseFrame.anySize;
             ASSERT_EQ(outcome, fits ? Outcome::Done : Outcome::BufferTooSmall) << command.name << " in " << size;
             if (!fits || !comparable) continue;
             const auto bytes = calls.bytes();
-            ASSERT_TRUE(std::ranges::equal(bytes.first(record), first)) << command.name << " in " << size;
+            const std::size_t held = std::min(size, record);
+            ASSERT_TRUE(std::ranges::equal(bytes.first(held), std::span(first).first(held)))
+                << command.name << " in " << size;
+            if (size < record) continue;
             // Behind the records there are zeros, or what the caller had there.
             const std::size_t records = TakesMany(command) ? std::min<std::size_t>(size / record, 3) : 1;
             const auto rest = bytes.subspan(records * record);

@@ -25,7 +25,7 @@ std::vector<std::byte> FilledRecord(const Command& command, CallerMemory& memory
 
 bool OutcomeIsPlausible(Outcome outcome) {
     return outcome == Outcome::Done || outcome == Outcome::RowRefused || outcome == Outcome::NotAccepted
-           || outcome == Outcome::RecordTooSmall || outcome == Outcome::TextTooLong;
+           || outcome == Outcome::BadItem || outcome == Outcome::RecordTooSmall || outcome == Outcome::TextTooLong;
 }
 
 TEST(Packing, RecordsOfAnyBytes) {

@@ -21,7 +21,7 @@ bool FormsAgree(const Command& command) {
     const bool byMember = command.packFrame.form == Form::ByMember;
     const Take take = command.parseFrame.take;
     if (byMember || TakesMembers(command)) return byMember && TakesMembers(command);
-    if (command.packFrame.form == Form::Array) return take != Take::One && take != Take::List;
+    if (command.packFrame.form == Form::Array) return !TakesOneRecord(take);
     return take != Take::Many && take != Take::ManyOrNone;
 }
 
@@ -35,6 +35,7 @@ void GoAround(const Command& command, const std::string& text) {
     ASSERT_EQ(FlawOfJson(packed.text), "") << command.name << packed.text;
     ASSERT_EQ(Pack(command, first.record(), size).text, packed.text) << command.name;
     if (!FormsAgree(command)) return;
+    if (packed.text == "null\n") return; // a record without content has nothing that could come back
 
     const std::string reply = ReplyAround(command, packed.text);
     ASSERT_EQ(second.Run(reply.c_str(), size, std::byte{0}), Outcome::Done) << command.name << reply;

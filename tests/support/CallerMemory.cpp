@@ -1,5 +1,6 @@
 #include "support/CallerMemory.h"
 
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -37,9 +38,16 @@ std::byte* CallerMemory::Block(const Table& table, std::uint32_t count) {
 
 void CallerMemory::MakePointersSafe(const Table& table, std::byte* record) {
     constexpr std::uint32_t kRoom = 3;
+    constexpr std::uint32_t kItemRoom = 1200 << 10;
     for (const Field& field : table) {
         std::byte* const at = record + field.offset;
-        if (field.cell == Cell::Pointer) {
+        const PackedItems* const items = field.cell == Cell::Pointer ? ItemsBehind(table) : nullptr;
+        if (items != nullptr) {
+            // Room for three items of any type, in bytes.
+            const std::uint32_t heads = kItemRoom / field.table->size;
+            record::Store(at, Block(*field.table, heads));
+            record::StoreSlot(items->bytes, record, heads * field.table->size);
+        } else if (field.cell == Cell::Pointer) {
             record::Store(at, Block(*field.table, kRoom));
             if (field.capacity.exists())
                 record::StoreSlot(field.capacity, record, kRoom);

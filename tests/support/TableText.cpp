@@ -1,6 +1,7 @@
 #include "support/TableText.h"
 
 #include "frame/JsonParser.h"
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -37,7 +38,9 @@ class Maker {
         for (const int turn : {0, 1, 2}) {
             for (const Field& field : table) {
                 if (field.key == nullptr || field.fromRoot || !field.readable || TurnOf(field) != turn) continue;
-                if (field.key[0] == '\0') {
+                if (field.amongKeys) {
+                    AddElements(value, field);
+                } else if (field.key[0] == '\0') {
                     if (value.isEmpty()) value = Member(field);
                 } else {
                     Put(value, field);
@@ -102,9 +105,17 @@ class Maker {
         if (options_.values != Values::Typical) count = Next() % 3 == 0 ? room + 2 : Next() % (count + 1);
         if (!field.keyed) return List(count, [&] { return innermost ? One(field) : Level(field, level + 1); });
         JsonTree object = JsonTree::Object();
+        AddElements(object, field, count);
+        return object;
+    }
+
+    void AddElements(JsonTree& object, const Field& field, std::uint32_t count) {
+        if (object.kind() != JsonTree::Kind::Object) return;
         for (std::uint32_t i = 0; i < count; ++i)
             object.Add("Item" + std::to_string(i), One(field));
-        return object;
+    }
+    void AddElements(JsonTree& object, const Field& field) {
+        AddElements(object, field, std::min(field.dims[0], options_.most));
     }
 
     template <class Make>
@@ -279,7 +290,7 @@ bool TakesMembers(const Command& command) {
 bool TakesMany(const Command& command) {
     if (command.parse == Command::Frame::Table) return command.tableFrame.arrayForm;
     if (command.parse != Command::Frame::Family) return false;
-    return command.parseFrame.take != Take::One && command.parseFrame.take != Take::List;
+    return !TakesOneRecord(command.parseFrame.take);
 }
 
 JsonTree RecordTree(const Table& table, const TextOptions& options) {
@@ -289,7 +300,21 @@ JsonTree RecordTree(const Table& table, const TextOptions& options) {
 JsonTree ReplyTree(const Command& command, const TextOptions& options) {
     Maker maker(options);
     JsonTree value;
-    if (!TakesMany(command)) {
+    if (const PackedItems* const items = ItemsBehind(*command.table)) {
+        // Types in turn; each value of one item is that of its type's record.
+        constexpr unsigned kMostItems = 3;
+        value = JsonTree::Array();
+        for (unsigned i = 0; i < std::min(options.records, kMostItems); ++i) {
+            const auto index = static_cast<std::uint32_t>((options.seed * 7 + i) % items->typeCount);
+            const ItemType type = items->typeAt(index);
+            JsonTree item = maker.OneRecord(*type.table);
+            if (item.kind() == JsonTree::Kind::Object) {
+                item.At("Type") = JsonTree::String(type.name);
+                item.At("Class") = JsonTree::String("Normal");
+            }
+            value.Add(std::move(item));
+        }
+    } else if (!TakesMany(command)) {
         value = maker.OneRecord(*command.table);
     } else if (TakesMembers(command)) {
         value = JsonTree::Object();

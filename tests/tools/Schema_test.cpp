@@ -70,7 +70,8 @@ TEST(Schema, ListsEveryEventWithARecordOfTheList) {
 std::string TypeInSchema(const Json::Value& field) {
     std::string type = field["type"].asString();
     if (field.isMember("to")) type += ":" + field["to"].asString();
-    if (field.isMember("record")) type += ":" + field["record"].asString();
+    const bool isBytes = field["bytes"].asBool(); // the record is only the first of what stands there
+    if (field.isMember("record")) type += ":" + (isBytes ? "unsigned char" : field["record"].asString());
     for (const Json::Value& dim : field["dims"])
         type += "[" + dim.asString() + "]";
     return type;

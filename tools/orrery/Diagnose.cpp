@@ -105,7 +105,10 @@ std::string Wanted(Take take) {
     case Take::Many:
         return "an array of records";
     case Take::List:
+    case Take::ListOrNone:
         return "an array";
+    case Take::ListOrLists:
+        return "an array, or an array of arrays";
     case Take::ByMember:
         return "an object with a record a member";
     default:
@@ -157,7 +160,7 @@ Reply LookAt(const Command& command, const Value& root) {
     Take take = command.tableFrame.arrayForm ? Take::AnyOrMany : Take::One;
     if (command.parse == Command::Frame::Family) {
         const ParseFrame& frame = command.parseFrame;
-        take = frame.take;
+        take = frame.takesBy != nullptr ? frame.takesBy(root) : frame.take;
         switch (frame.source) {
         case Source::Table:
             break;
@@ -184,7 +187,8 @@ Reply LookAt(const Command& command, const Value& root) {
     }
     const Value& value = *reply.value;
     const bool byMember = take == Take::ByMember || take == Take::ByMemberOrNone;
-    const bool byElement = take != Take::One && take != Take::List && !byMember;
+    const bool isListOfLists = take == Take::ListOrLists && value.size() > 0 && value[0].isArray();
+    const bool byElement = isListOfLists || (!TakesOneRecord(take) && !byMember);
     if (byElement && value.type() == Type::Array) {
         reply.isList = true;
         reply.records = value.size();
@@ -235,9 +239,16 @@ std::string ExplainParse(const Command& command, Outcome outcome, const Document
         return ExplainNoValue(LookAt(command, document.root), document.root);
     case Outcome::WrongShape: {
         const Reply reply = LookAt(command, document.root);
-        return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes "
-               + Wanted(command.parseFrame.take);
+        const ParseFrame& frame = command.parseFrame;
+        const Take take = frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take;
+        return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes " + Wanted(take);
     }
+    case Outcome::TooManyRecords:
+        return name + " takes all records of the reply or none: it has "
+               + std::to_string(LookAt(command, document.root).records) + ", the buffer room for "
+               + std::to_string(bufferSize / std::max(command.table->size, 1U));
+    case Outcome::BadItem:
+        return "the reply holds an item of a type that " + name + " does not take";
     case Outcome::RowRefused:
         return "a value of the reply cannot stand in the record of " + name;
     case Outcome::OutOfMemory:
@@ -270,6 +281,8 @@ std::string ExplainPack(const Command& command, Outcome outcome, std::uint32_t r
         if (needed == 0) return "the text is longer than this program makes";
         return "the text is too long: it needs room for " + std::to_string(needed) + " bytes, there are "
                + std::to_string(capacity);
+    case Outcome::BadItem:
+        return "an item is of a type that " + name + " does not know";
     case Outcome::RowRefused:
         return "a field of the record has no text";
     case Outcome::OutOfMemory:

@@ -5,6 +5,7 @@
 #include "orrery/Suggest.h"
 #include "orrery/Words.h"
 
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -252,6 +253,50 @@ void FillPointer(const Field& field, const Value& value, std::byte* record, Memo
     Store(record + field.offset, first);
 }
 
+// The items of a packed buffer, as PrintItems has them. The buffer is as large as they are.
+void FillItems(const PackedItems& items, const Value& value, std::byte* descriptor, Memory& memory,
+               const std::string& path) {
+    if (!value.isArray()) FailType(path, value, "a list");
+    if (value.isNull()) return;
+    struct Item {
+        const Table* table;
+        std::size_t size;
+    };
+    std::vector<Item> sizes;
+    std::size_t total = 0;
+    const std::string codeName = SlotName(*items.head, items.code);
+    const std::string sizeName = SlotName(*items.head, items.size);
+    for (std::uint32_t i = 0; i < value.size(); ++i) {
+        const Value& head = value[i]["head"];
+        const std::string place = Element(path, i) + ".head.";
+        const ItemType type = items.typeOf(head[codeName].asUInt());
+        if (type.table == nullptr) Fail(place + codeName, "no type of that code has a record");
+        const std::int64_t given = head[sizeName].isNull() ? type.table->size : head[sizeName].asInt();
+        if (given < type.table->size || given > kMostPointedTo * std::int64_t{items.head->size})
+            Fail(place + sizeName, "a size that does not hold " + std::string(type.table->record));
+        sizes.push_back({type.table, static_cast<std::size_t>(given)});
+        total += items.head->size + static_cast<std::size_t>(given);
+    }
+    std::byte* const first = memory.Allocate(std::max<std::size_t>(total, 1));
+    std::byte* at = first;
+    for (std::uint32_t i = 0; i < value.size(); ++i) {
+        const std::string place = Element(path, i);
+        for (const json::Member& member : value[i].members()) {
+            if (member.key() == "head")
+                FillRecord(*items.head, member.value, at, memory, place + ".head");
+            else if (member.key() == "record")
+                FillRecord(*sizes[i].table, member.value, at + items.head->size, memory, place + ".record");
+            else if (member.key() != "name")
+                Fail(place + "." + Printable(member.key()), "an item has a name, a head and a record");
+        }
+        StoreSlot(items.size, at, static_cast<std::int64_t>(sizes[i].size));
+        at += items.head->size + sizes[i].size;
+    }
+    Store(descriptor + items.pointer, first);
+    StoreSlot(items.bytes, descriptor, static_cast<std::int64_t>(total));
+    if (LoadSlot(items.count, descriptor) == 0) StoreSlot(items.count, descriptor, value.size());
+}
+
 const Field* FindField(const Table& table, std::string_view name) {
     for (const Field& field : table) {
         if (field.size > 0 && !field.alias && name == field.name) return &field;
@@ -280,7 +325,10 @@ void FillFields(const Table& table, const Value& value, std::byte* record, Memor
     }
     // Behind the counts and capacities that tell their room.
     for (const Field& field : table) {
-        if (field.cell == Cell::Pointer && field.size > 0 && !field.alias)
+        if (field.cell != Cell::Pointer || field.size == 0 || field.alias) continue;
+        if (const PackedItems* const items = ItemsBehind(table))
+            FillItems(*items, value[field.name], record, memory, pathOf(field.name));
+        else
             FillPointer(field, value[field.name], record, memory, pathOf(field.name));
     }
 }
@@ -312,7 +360,7 @@ std::vector<std::string> PassedOver(const Table& table, const Value& value, cons
             notes.push_back(place + " is given without its count " + SlotName(table, field.count));
         if (field.writable && field.flag.exists() && !isGiven(field.flag) && !isEmpty)
             notes.push_back(place + " is given without its flag " + SlotName(table, field.flag));
-        if (field.table == nullptr) continue;
+        if (field.table == nullptr || (field.cell == Cell::Pointer && ItemsBehind(table) != nullptr)) continue;
         const auto inside = [&](const Value& record, const std::string& where) {
             const auto more = PassedOver(*field.table, record, where);
             notes.insert(notes.end(), more.begin(), more.end());
@@ -329,7 +377,15 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
     for (const Field& field : table) {
         if (field.size == 0 || field.alias) continue;
         std::byte* const at = record + field.offset;
-        if (field.cell == Cell::Pointer) {
+        const PackedItems* const items = field.cell == Cell::Pointer ? ItemsBehind(table) : nullptr;
+        if (items != nullptr) {
+            std::size_t largest = 0;
+            for (std::uint32_t i = 0; i < items->typeCount; ++i)
+                largest = std::max<std::size_t>(largest, items->typeAt(i).table->size);
+            const std::size_t bytes = items->most * (items->head->size + largest);
+            Store(at, memory.Allocate(bytes));
+            StoreSlot(items->bytes, record, static_cast<std::int64_t>(bytes));
+        } else if (field.cell == Cell::Pointer) {
             if (PointsToText(field) || PointsToOne(field)) continue; // the library makes these itself
             std::byte* const first = memory.Allocate(std::size_t{count} * field.table->size);
             for (std::uint32_t i = 0; i < count; ++i) {

@@ -4,6 +4,7 @@
 #include "orrery/Words.h"
 
 #include "events/EventTable.h"
+#include <set>
 
 namespace orrery::tool {
 
@@ -35,6 +36,7 @@ std::string TableText(const Tables& tables, const Table& table) {
     if (table.shape == Shape::Tuple) text += " Tuple";
     if (table.shape == Shape::LooseTuple) text += " LooseTuple";
     if (table.guarded) text += " Guarded";
+    if (table.clearsFlags) text += " ClearsFlags";
     if (table.startsWhenRead) text += " StartsWhenRead";
     if (table.writes != nullptr) text += " Writes(function)";
     if (table.afterRead != nullptr) text += " AfterRead(function)";
@@ -64,13 +66,15 @@ std::string NamesText(const Tables& tables, const NameTable& names) {
 
 Regularity CountRegularity() {
     Regularity count;
+    std::set<const CustomCodec*> shared;
     for (const Table* table : Tables().all) {
         ++count.tables;
         count.functionTables += IsIrregular(*table);
         for (const Field& field : *table) {
             ++count.rows;
             const bool custom = field.kind == Kind::Custom || field.writtenAs == Kind::Custom;
-            count.virtualRows += field.size == 0;
+            // A row that many tables share is one row's work.
+            count.virtualRows += field.size == 0 && shared.insert(field.custom).second;
             count.customRows += custom && field.size > 0;
             count.guardedRows += !custom && field.size > 0 && field.when != nullptr;
         }

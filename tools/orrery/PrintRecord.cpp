@@ -3,6 +3,7 @@
 #include "orrery/Codes.h"
 #include "orrery/Words.h"
 
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -102,6 +103,30 @@ Node PrintLevel(const Field& field, int level, const std::byte* at, std::uint32_
     return list;
 }
 
+// The items of a packed buffer, each with its head, its type's name and its type's record; up to the first that is cut
+// off or of no known type.
+Node PrintItems(const PackedItems& items, const std::byte* descriptor, PrintOptions options) {
+    const auto* const first = Load<const std::byte*>(descriptor + items.pointer);
+    if (first == nullptr) return Node::Null();
+    const std::int64_t end = LoadSlot(items.bytes, descriptor);
+    const std::int64_t count = LoadSlot(items.count, descriptor);
+    Node list = Node::Array();
+    std::int64_t offset = 0;
+    for (std::int64_t i = 0; i < count && offset + items.head->size <= end; ++i) {
+        const std::byte* const head = first + offset;
+        const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, head)));
+        const std::int64_t size = LoadSlot(items.size, head);
+        if (type.table == nullptr || size < type.table->size || offset + items.head->size + size > end) break;
+        Node item = Node::Object();
+        item.Add("name", Node::Text(type.name))
+            .Add("head", PrintRecord(*items.head, head, options))
+            .Add("record", PrintRecord(*type.table, head + items.head->size, options));
+        list.Add(std::move(item));
+        offset += items.head->size + size;
+    }
+    return list;
+}
+
 Node PrintPointer(const Field& field, const std::byte* record, PrintOptions options) {
     const auto* const first = Load<const std::byte*>(record + field.offset);
     if (first == nullptr) return Node::Null();
@@ -122,7 +147,9 @@ Node PrintRecord(const Table& table, const std::byte* record, PrintOptions optio
     for (const Field& field : table) {
         if (field.alias || field.size == 0) continue; // no storage of its own
         if (field.cell == Cell::Pointer) {
-            object.Add(field.name, PrintPointer(field, record, options));
+            const PackedItems* const items = ItemsBehind(table);
+            object.Add(field.name,
+                       items != nullptr ? PrintItems(*items, record, options) : PrintPointer(field, record, options));
             continue;
         }
         std::uint32_t count = field.rank > 0 ? field.dims[0] : 1;

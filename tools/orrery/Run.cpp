@@ -203,7 +203,10 @@ std::size_t Parse::RecordsRead(const Reply& reply) const {
     switch (command_.parse) {
     case Command::Frame::Family:
         if (command_.parseFrame.length == ReplyLength::None) return held;
-        if (buffer_.returned == kUntouched || returned == 0) return 0;
+        if (buffer_.returned == kUntouched) return 0;
+        if (command_.parseFrame.length == ReplyLength::OneOfList) return held;
+        if (command_.parseFrame.length == ReplyLength::Told) return std::min<std::size_t>(room, 1);
+        if (returned == 0) return 0;
         return command_.parseFrame.length == ReplyLength::PerRecord ? returned : std::max<std::size_t>(held, 1);
     case Command::Frame::Table:
         return returned == 0 ? 0 : held; // null elements keep their place without being counted

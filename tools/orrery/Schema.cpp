@@ -4,6 +4,9 @@
 #include "orrery/Words.h"
 
 #include "events/EventTable.h"
+#include "frame/PackedItems.h"
+
+#include <set>
 
 namespace orrery::tool {
 
@@ -26,14 +29,35 @@ Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     node.Add("name", Node::Text(field.name)).Add("type", Node::Text(TypeWord(field.cell)));
     if (PointsToText(field))
         node.Add("to", Node::Text("char"));
-    else if (field.cell == Cell::Record || field.cell == Cell::Pointer)
+    else if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
         node.Add("record", Node::Text(field.table->record));
+        // A pointer to bytes: the record stands at its beginning, others follow it.
+        if (field.cell == Cell::Pointer && ItemsBehind(*tables.front()) != nullptr) node.Add("bytes", Node::Bool(true));
+    }
     Node dims = Node::InlineArray();
     for (const std::uint32_t dim : DimsOf(field))
         dims.Add(Node::Unsigned(dim));
     node.Add("offset", Node::Unsigned(field.offset)).Add("dims", std::move(dims));
     if (const char* const key = KeyOf(tables, field)) node.Add("key", Node::Text(key));
     return node;
+}
+
+// The types of all packed buffers.
+Node RuleNodes() {
+    Node rules = Node::Array();
+    std::set<const PackedItems*> seen;
+    for (const Command& command : Commands()) {
+        const PackedItems* const items = command.table == nullptr ? nullptr : ItemsBehind(*command.table);
+        if (items == nullptr || !seen.insert(items).second) continue;
+        for (std::uint32_t i = 0; i < items->typeCount; ++i) {
+            const ItemType type = items->typeAt(i);
+            rules.Add(std::move(Node::Object()
+                                    .Add("code", Node::Unsigned(type.code))
+                                    .Add("name", Node::Text(type.name))
+                                    .Add("record", Node::Text(type.table->record))));
+        }
+    }
+    return rules;
 }
 
 } // namespace
@@ -74,6 +98,7 @@ std::string Schema() {
     schema.Add("version", Node::Text(ORRERY_VERSION))
         .Add("commands", std::move(commands))
         .Add("records", std::move(records))
+        .Add("rules", RuleNodes())
         .Add("events", std::move(events));
     return schema.Print();
 }

@@ -3,6 +3,7 @@
 #include "events/EventTable.h"
 #include "frame/Commands.h"
 #include "frame/JsonParser.h"
+#include "frame/PackedItems.h"
 
 #include <algorithm>
 
@@ -32,6 +33,10 @@ void Tables::Meet(const Table& table, const std::string& where) {
         const std::string place = std::string(table.record) + "." + field.name;
         if (field.table != nullptr) Meet(*field.table, place);
         if (field.names != nullptr && nameLabels_.try_emplace(field.names, place).second) names.push_back(field.names);
+    }
+    if (const PackedItems* const items = ItemsBehind(table)) {
+        for (std::uint32_t i = 0; i < items->typeCount; ++i)
+            Meet(*items->typeAt(i).table, std::string(table.record));
     }
 }
 

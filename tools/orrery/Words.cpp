@@ -94,9 +94,10 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.anyShape, "AnyShape");
     add(field.exactly, "Exactly");
     add(field.atLeast != 0, Call("AtLeast", std::to_string(field.atLeast)));
-    add(field.eachAtLeast != 0, Call("EachAtLeast", std::to_string(field.eachAtLeast)));
     add(field.owned, "Owned");
-    add(field.keyed, "Keyed");
+    add(field.keyed && !field.amongKeys, "Keyed");
+    add(field.amongKeys, "AmongKeys");
+    add(field.untilEmpty, "UntilEmpty");
     add(field.zeroed, "Zeroed");
     add(field.nulls != Nulls::Count, Call("OnNull", Word(field.nulls, kNullsWords)));
     add(field.trueAtOne, "TrueAtOne");
@@ -107,6 +108,8 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.when != nullptr, "When(function)");
     add(field.empty != Empty::NoKey, Call("WhenEmpty", Word(field.empty, kEmptyWords)));
     add(field.skipped != Skipped::StaysNull, Call("OnSkipped", Word(field.skipped, kSkippedWords)));
+    add(field.unlessBare, "UnlessBare");
+    add(field.fullCapacity, "WritesCapacity");
     add(field.alias, "Alias");
     if (field.custom != nullptr) {
         add(field.custom->read != nullptr, "read(function)");
@@ -151,10 +154,10 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
     add(field.atLeast != 0, "read only with at least " + std::to_string(field.atLeast) + " elements");
-    add(field.eachAtLeast != 0,
-        "an element is read only with at least " + std::to_string(field.eachAtLeast) + " elements of its own");
     add(field.owned, "in a block of its own, null when absent");
-    add(field.keyed, "an object in the text, one member an element");
+    add(field.keyed && !field.amongKeys, "an object in the text, one member an element");
+    add(field.amongKeys, "each a member of the object beside its keys");
+    add(field.untilEmpty, "written up to the first empty one");
     add(field.nulls == Nulls::LeaveHole, "a null element keeps its place and does not count");
     add(field.nulls == Nulls::CloseUp, "null elements are passed over");
     add(field.nulls == Nulls::Stop, "a null element ends the list");
@@ -168,6 +171,8 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.empty == Empty::Null, "written as null when empty");
     add(field.skipped == Skipped::Hole, "elements not written leave a null, but none at the end");
     add(field.skipped == Skipped::ClosesUp, "elements not written leave no place");
+    add(field.unlessBare, "not written without a key inside");
+    add(field.fullCapacity, "written to the end of the room, whatever the count");
     add(field.writtenAs != field.kind, std::string("written as ") + KindWord(field.writtenAs));
     return rules;
 }
@@ -206,13 +211,20 @@ std::string ParseWords(const Command& command) {
                                                 "IntegerNonZero", "TextTrue"}));
     words += " "
              + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List",
-                                               "ByMember", "ByMemberOrNone"}));
+                                               "ListOrNone", "ListOrLists", "ByMember", "ByMemberOrNone"}));
     words += " " + Call("Null", Word(frame.onNull, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
-    words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Kept"}));
-    words += " " + Call("Length", Word(frame.length, {"OneRecord", "PerRecord", "None"}));
+    words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Read", "Kept"}));
+    words += " " + Call("Length", Word(frame.length, {"OneRecord", "PerRecord", "OneOfList", "Told", "None"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.exactSize) words += " ExactSize";
+    if (frame.anySize) words += " AnySize";
+    if (frame.needsText) words += " NeedsText";
     if (frame.accepts != nullptr) words += " Accepts(function)";
+    if (frame.readsNulls) words += " ReadsNulls";
+    if (frame.rootKeysFirst) words += " RootKeysFirst";
+    if (frame.allMustFit) words += " AllMustFit";
+    if (frame.takesBy != nullptr) words += " TakesBy(function)";
+    if (frame.lengthBy != nullptr) words += " LengthBy(function)";
     if (frame.parsed != nullptr) words += " OnceParsed(function)";
     return words;
 }
@@ -222,12 +234,13 @@ std::string PackWords(const Command& command) {
     if (command.pack == Command::Frame::Table) return words + TableFrameWords(command.tableFrame);
     if (command.pack != Command::Frame::Family) return words;
     const PackFrame& frame = command.packFrame;
-    words += " " + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember"}));
+    words += " " + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember", "Nothing"}));
     words += " " + Call("Fits", Word(frame.capacity, {"Strict", "Loose", "Raw", "OneBefore"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.quotedKey[0] != '\0') words += " " + Call("Under", frame.quotedKey);
     if (frame.exactSize) words += " ExactSize";
     if (frame.keepsText) words += " KeepsText";
+    if (frame.formBy != nullptr) words += " FormBy(function)";
     if (frame.accepts != nullptr) words += " Accepts(function)";
     return words;
 }

@@ -15,6 +15,7 @@ struct ReadCall {
     JsonParser& parser;
     const json::Value& root;       // the whole document, for keys outside the record's object
     bool refused = false;          // a row's function ends the call with 0
+    std::uint32_t index = 0;       // of the caller's record that is being read
     const void* context = nullptr; // what Supplied fields are copied from, of the type that their rows name
 };
 
@@ -37,6 +38,9 @@ struct WriteCall {
 
     std::string_view quotedKey; // of the row that is being written
 
+    bool linked = true;            // false leaves out rows that are linkage
+    const void* context = nullptr; // what a family hands to its own rows' functions
+
     // Opens the row's key in the current object; a value must follow. A row that writes nothing leaves it alone.
     void Key() noexcept { Quoted(quotedKey); }
     // Opens a member whose text, `"Key" : ` with quotes and colon, is given.
@@ -45,6 +49,11 @@ struct WriteCall {
         if (quoted.size() == kQuotesAndColon) return;
         if (!object->opened) Open(*object);
         out.RawKey(quoted);
+    }
+    // Opens a member whose name is known only now.
+    void Member(std::string_view name) noexcept {
+        if (!object->opened) Open(*object);
+        out.Key(name);
     }
 
   private:
@@ -57,12 +66,17 @@ void SetDefaults(const Table& table, std::byte* record) noexcept;
 // Sets the size words only, nested ones included.
 void SetSizeWords(const Table& table, std::byte* record) noexcept;
 
+// Sets every presence flag to 0, nested ones included.
+void ClearFlags(const Table& table, std::byte* record) noexcept;
+
 // Reads a record from a value: defaults first, then every row. `memberName` is the name under which the value stands,
 // for records that keep it.
 void ReadRecord(const Table& table, const json::Value& value, std::byte* record, ReadCall& call,
                 std::string_view memberName = {}) noexcept;
 // The rows alone, over what the record already holds. False when the record's guard refused it.
 bool ReadFields(const Table& table, const json::Value& value, std::byte* record, ReadCall& call) noexcept;
+// The rows whose keys start at the document alone.
+void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexcept;
 // One row from the value at its key; null when there is none.
 void ReadField(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) noexcept;
 

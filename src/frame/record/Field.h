@@ -90,6 +90,7 @@ struct Slot {
     Cell cell = Cell::I32;
 
     constexpr bool exists() const { return offset != kNone; }
+    constexpr bool operator==(const Slot&) const = default;
 };
 
 // Functions of a row that no word can say. `record` is the record that holds the field, aligned for nothing.
@@ -136,13 +137,16 @@ struct Field {
     Slot count; // elements in use
     Slot capacity;
     bool countUncapped = false;
-    bool anyShape = false; // a list is read also when the value is no array
-    bool exactly = false;  // a list is read only when it has as many elements as the member
-    bool keyed = false;    // a list stands as an object whose members are the elements
-    bool zeroed = false;   // elements of a caller's array are cleared before they are read
+    bool anyShape = false;  // a list is read also when the value is no array
+    bool exactly = false;   // a list is read only when it has as many elements as the member
+    bool keyed = false;     // a list stands as an object whose members are the elements
+    bool amongKeys = false; // a keyed list whose members stand in the record's own object
+    bool zeroed = false;    // elements of a caller's array are cleared before they are read
     Nulls nulls = Nulls::Count;
+    Nulls refused = Nulls::Count;  // what an element does that its table does not take
+    Slot readCondition;            // the key is read only when this member is set
+    std::uint16_t firstBytes = 0;  // of a text, before it is converted; 0: all of it
     std::uint8_t atLeast = 0;      // an array is read only when it has so many elements
-    std::uint8_t eachAtLeast = 0;  // an element of a list is read only when it is an array of so many elements
     bool owned = false;            // the pointer's block is made for the document and lives as long as the call's arena
     const char* failure = nullptr; // what the log says when there is no memory for an owned block
 
@@ -155,10 +159,16 @@ struct Field {
     std::int64_t atMost = kNoLimit; // a larger number is written as this one
     Slot condition;                 // the key is written only when this member is set
     bool (*when)(const std::byte* record) = nullptr;
+    bool untilEmpty = false; // a list of texts ends at the first empty one
+    bool linkage = false;    // left out by calls that want no linkage
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;
+    bool unlessBare = false;   // an object without keys is left out
+    bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
 
     bool alias = false; // another key of a field that has a row already
+
+    constexpr bool operator==(const Field&) const = default;
 
     // ---- Words of the vocabulary ---------------------------------------------------------------------------------
 
@@ -220,13 +230,6 @@ struct Field {
         f.atLeast = elements;
         return f;
     }
-    // A list's element is read only when it is an array of so many elements. One that is not keeps its slot; whether it
-    // counts is told by OnNull.
-    constexpr Field EachAtLeast(std::uint8_t elements) const {
-        auto f = *this;
-        f.eachAtLeast = elements;
-        return f;
-    }
     // The pointer gets a block for as many records as the document has; null, with a count of 0, when it has none or
     // there is no memory, which `failureLine` then tells the log.
     constexpr Field Owned(const char* failureLine = nullptr) const {
@@ -240,9 +243,35 @@ struct Field {
         f.keyed = true;
         return f;
     }
+    // A list with the key "": its elements are those members of the record's own object that are objects with members
+    // of their own, whatever their names. An element's defaults are set when it is read, so that slots that no member
+    // took stay clear. On writing the names go in order among the record's keys; a name that is a key hides the key.
+    constexpr Field AmongKeys() const {
+        auto f = Keyed();
+        f.amongKeys = true;
+        return f;
+    }
     constexpr Field OnNull(Nulls rule) const {
         auto f = *this;
         f.nulls = rule;
+        return f;
+    }
+    // An element that its table does not take is treated as this rule treats a null.
+    constexpr Field OnRefused(Nulls rule) const {
+        auto f = *this;
+        f.refused = rule;
+        return f;
+    }
+    // Read only when the member is set, by a key that stands before this one in key order.
+    constexpr Field ReadWith(Slot slot) const {
+        auto f = *this;
+        f.readCondition = slot;
+        return f;
+    }
+    // Only so many bytes of a text are converted.
+    constexpr Field FirstBytes(std::uint16_t bytes) const {
+        auto f = *this;
+        f.firstBytes = bytes;
         return f;
     }
     constexpr Field Only(OnlyType type) const {
@@ -300,6 +329,18 @@ struct Field {
         f.when = test;
         return f;
     }
+    // A list of texts without a count of its own: the first empty one ends it on writing.
+    constexpr Field UntilEmpty() const {
+        auto f = *this;
+        f.untilEmpty = true;
+        return f;
+    }
+    // Left out by a call that writes without linkage.
+    constexpr Field WhenLinked() const {
+        auto f = *this;
+        f.linkage = true;
+        return f;
+    }
     constexpr Field WhenEmpty(Empty rule) const {
         auto f = *this;
         f.empty = rule;
@@ -308,6 +349,18 @@ struct Field {
     constexpr Field OnSkipped(Skipped rule) const {
         auto f = *this;
         f.skipped = rule;
+        return f;
+    }
+    // A nested record of which nothing is written leaves no key.
+    constexpr Field UnlessBare() const {
+        auto f = *this;
+        f.unlessBare = true;
+        return f;
+    }
+    // As many elements are written as the caller's array has room for; the count is only what reading found.
+    constexpr Field WritesCapacity() const {
+        auto f = *this;
+        f.fullCapacity = true;
         return f;
     }
     // The codes that a row's own functions deal in, so that tools can show their names.
@@ -320,6 +373,12 @@ struct Field {
     constexpr Field Alias() const {
         auto f = *this;
         f.alias = true;
+        return f;
+    }
+    // What a pointer to bytes points at, for those who lay a record out; functions of the family read and write it.
+    constexpr Field PointsTo(const Table& first) const {
+        auto f = *this;
+        f.table = &first;
         return f;
     }
     template <class Codec>

@@ -43,8 +43,8 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
         std::byte* const at = record + field.offset;
         if (field.kind == Kind::Size) {
             Store(at, table.size);
-        } else if (field.kind == Kind::Record && field.cell != Cell::Pointer) {
-            if (field.table->startsWhenRead) continue;
+        } else if (field.cell == Cell::Record) {
+            if (defaults && (field.amongKeys || field.table->startsWhenRead)) continue; // set when it is read
             if (!(defaults ? field.table->hasDefaults : field.table->hasSizeWords)) continue;
             const std::uint32_t count = ElementCount(field);
             for (std::uint32_t i = 0; i < count; ++i) {
@@ -67,6 +67,16 @@ void SetDefaults(const Table& table, std::byte* record) noexcept {
 }
 void SetSizeWords(const Table& table, std::byte* record) noexcept {
     Prepare(table, record, false);
+}
+void ClearFlags(const Table& table, std::byte* record) noexcept {
+    for (const Field& field : table) {
+        StoreSlot(field.flag, record, 0);
+        if (field.kind != Kind::Record || field.cell == Cell::Pointer) continue;
+        const std::uint32_t count = ElementCount(field);
+        for (std::uint32_t i = 0; i < count; ++i) {
+            ClearFlags(*field.table, record + field.offset + std::size_t{i} * field.elementSize);
+        }
+    }
 }
 
 } // namespace orrery::record

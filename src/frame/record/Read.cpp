@@ -66,8 +66,8 @@ void ReadSwitches(const Field& field, const Value& value, std::byte* at) noexcep
     }
 }
 
-// One element of a field, or the whole member for the kinds that take it at once.
-void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
+// One element of a field, or the whole member for the kinds that take it at once. False when a nested table refused.
+bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
                  std::string_view memberName) noexcept {
     switch (field.kind) {
     case Kind::None:
@@ -92,9 +92,12 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         StoreReal(field.cell, at, value.asDouble());
         break;
     case Kind::Text:
-    case Kind::RawText:
-        call.parser.GetJsonString(value, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
+    case Kind::RawText: {
+        const bool isCut = field.firstBytes != 0 && value.isString() && value.asString().size() > field.firstBytes;
+        const Value text = isCut ? Value::OfString(value.asString().substr(0, field.firstBytes)) : value;
+        call.parser.GetJsonString(text, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
         break;
+    }
     case Kind::Names:
         if (const auto code = field.names->CodeOf(value.asString())) StoreInteger(field.cell, at, *code);
         break;
@@ -107,8 +110,7 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
                                           row.elementSize, true);
             }
         }
-        ReadFields(table, value, at, call);
-        break;
+        return ReadFields(table, value, at, call);
     }
     case Kind::TimeSection:
         JsonParser::GetTimeSection(value, reinterpret_cast<CFG_TIME_SECTION*>(at));
@@ -146,6 +148,7 @@ void ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         ReadSwitches(field, value, at);
         break;
     }
+    return true;
 }
 
 // A level of a list: `level` 0 is the member's first dimension. Returns the count that the rules give it.
@@ -158,7 +161,6 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
     const auto readSlot = [&](const Value& element, std::string_view memberName) {
         std::byte* const at = room.first + std::size_t{used} * stride;
         ++used;
-        if (field.eachAtLeast != 0 && element.elements().size() < field.eachAtLeast) return false;
         if (!innermost) {
             if (element.isArray()) ReadList(field, level + 1, element, {at, field.dims[level + 1]}, call);
             return true;
@@ -167,13 +169,14 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             if (field.zeroed) std::memset(at, 0, stride);
             if (field.table->hasDefaults && (field.zeroed || field.owned)) SetDefaults(*field.table, at);
         }
-        ReadElement(field, element, at, call, memberName);
-        return !element.isNull();
+        if (field.amongKeys && field.table->hasDefaults) SetDefaults(*field.table, at);
+        return ReadElement(field, element, at, call, memberName);
     };
     if (field.keyed) {
         for (const json::Member& member : value.members()) {
             if (used == room.room) break;
-            if (member.value.isNull()) continue;
+            const bool isElement = field.amongKeys ? member.value.members().size() > 0 : !member.value.isNull();
+            if (!isElement) continue;
             readSlot(member.value, member.key());
             ++counted;
         }
@@ -186,8 +189,14 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             if (element.isNull()) {
                 if (field.nulls == Nulls::Stop) break;
                 if (field.nulls == Nulls::CloseUp) continue;
+                readSlot(element, {});
+                if (field.nulls == Nulls::Count) ++counted;
+                continue;
             }
-            if (readSlot(element, {}) || field.nulls == Nulls::Count) ++counted;
+            const Nulls taken = readSlot(element, {}) ? Nulls::Count : field.refused;
+            if (taken == Nulls::Stop) break;
+            if (taken == Nulls::CloseUp) --used;
+            if (taken == Nulls::Count) ++counted;
         }
     }
     return field.countUncapped ? std::int64_t{value.size()} : std::int64_t{counted};
@@ -267,6 +276,7 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
 void ReadField(const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (!field.readable || (value.isNull() && !field.always)) return;
     if (!IsOfType(field.only, value)) return;
+    if (field.readCondition.exists() && LoadSlot(field.readCondition, record) == 0) return;
     if (field.atLeast != 0 && value.elements().size() < field.atLeast) return;
     if (field.kind == Kind::Custom) {
         if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
@@ -294,6 +304,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
 
 bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
+    if (table.clearsFlags) ClearFlags(table, record);
     if (table.hasSupplied && call.context != nullptr) {
         const auto* const context = static_cast<const std::byte*>(call.context);
         for (const Field& row : table) {
@@ -303,6 +314,7 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
     if (table.shape != Shape::Object) {
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;
+        if (table.shape == Shape::LongTuple && value.size() < table.self.count) return false;
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
             const Node& node = table.nodes[table.self.first + i];
             const Field& field = table.rows[node.row];
@@ -319,9 +331,13 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
         }
         ReadNodes(table, table.members, value, record, call);
     }
-    if (table.fromRoot.count > 0) ReadNodes(table, table.fromRoot, call.root, record, call);
+    if (table.fromRoot.count > 0) ReadRootFields(table, record, call);
     if (table.afterRead != nullptr) table.afterRead(value, record, call);
     return true;
+}
+
+void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexcept {
+    ReadNodes(table, table.fromRoot, call.root, record, call);
 }
 
 void ReadRecord(const Table& table, const Value& value, std::byte* record, ReadCall& call,

@@ -26,6 +26,9 @@ PART(kNetTimeEx, NET_TIME_EX, FIELD(dwYear), FIELD(dwMonth), FIELD(dwDay), FIELD
 template <>
 inline constexpr const Table* kLayoutOf<NET_TIME_EX> = &kNetTimeEx;
 
+PART(kNetTimeV2, NET_TIME_V2, FIELD(dwSize, nullptr, Size), FIELD(stuTime, "", NetTime)).Guarded();
+static_assert(sizeof(NET_TIME_V2) == 28);
+
 PART(kPoint, CFG_POINT, FIELD(nX, "", Int), FIELD(nY, "", Int)).As(Shape::Tuple);
 PART(kSize, CFG_SIZE, FIELD(fWidth, "", Int).WrittenAs(Real), FIELD(fHeight, "", Int).WrittenAs(Real)).As(Shape::Tuple);
 PART(kRect, CFG_RECT, FIELD(nLeft, "", Int), FIELD(nTop, "", Int), FIELD(nRight, "", Int), FIELD(nBottom, "", Int))

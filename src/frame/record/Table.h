@@ -52,6 +52,7 @@ enum class Shape : std::uint8_t {
     Object,
     Tuple,      // an array of exactly as many elements as the record has rows with the key ""
     LooseTuple, // the same without the test of its length: missing elements read as null
+    LongTuple,  // at least as many elements; what follows them is passed over
 };
 
 struct Table {
@@ -66,12 +67,15 @@ struct Table {
     NodeRange fromRoot; // keys that start at the document
     NodeRange self;     // fields that are the value itself; a tuple's elements
 
+    const Field* amongKeys = nullptr; // the list whose members stand among the record's keys, when it has one
+
     Shape shape = Shape::Object;
     bool hasDefaults = false;    // some field, nested ones included, starts at something other than zero
     bool hasSizeWords = false;   // some field, nested ones included, is a size word
     bool startsWhenRead = false; // defaults and size words are set by reading it: what is not read stays zero
     bool hasSupplied = false;    // some field comes from what the call carries along
     bool guarded = false;        // neither read nor written unless the size word holds exactly the record's size
+    bool clearsFlags = false;    // presence flags, nested ones included, start at 0 in a record that keeps its values
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
@@ -95,6 +99,12 @@ struct TypedTable : Table {
     constexpr TypedTable Guarded() const {
         TypedTable table = *this;
         table.guarded = true;
+        return table;
+    }
+    // The record's presence flags tell of the text just read alone, though absent keys keep the caller's values.
+    constexpr TypedTable ClearsFlags() const {
+        TypedTable table = *this;
+        table.clearsFlags = true;
         return table;
     }
     // As a part of another record: its defaults and size words are set when it is read, and not before.
@@ -159,13 +169,47 @@ constexpr Plainly PlainKind(const Field& row, Kind kind) {
     if (row.rank > 0 || row.cell != Cell::I32) return Plainly::No;
     return kind == Kind::Bool ? Plainly::Switch : kind == Kind::Int ? Plainly::Number : Plainly::No;
 }
+// The row with its place, codec and flag, and none of its other words.
+constexpr Field WithoutWords(const Field& row) {
+    Field bare;
+    bare.name = row.name;
+    bare.key = row.key;
+    bare.offset = row.offset;
+    bare.size = row.size;
+    bare.elementSize = row.elementSize;
+    bare.alignment = row.alignment;
+    bare.cell = row.cell;
+    bare.kind = row.kind;
+    bare.writtenAs = row.writtenAs;
+    bare.flag = row.flag;
+    bare.alias = row.alias;
+    return bare;
+}
+// A row goes the short way only when all its words are known to leave that direction alone.
 constexpr Plainly ReadPlainly(const Field& row) {
-    return row.readable && row.only == OnlyType::Any && row.atLeast == 0 ? PlainKind(row, row.kind) : Plainly::No;
+    Field plain = WithoutWords(row);
+    plain.always = row.always;
+    plain.hasDefault = row.hasDefault;
+    plain.defaultValue = row.defaultValue;
+    plain.fromRoot = row.fromRoot;
+    plain.writable = row.writable;
+    plain.trueAtOne = row.trueAtOne;
+    plain.hasUnless = row.hasUnless;
+    plain.unless = row.unless;
+    plain.notNegative = row.notNegative;
+    plain.atMost = row.atMost;
+    plain.condition = row.condition;
+    plain.when = row.when;
+    return plain == row ? PlainKind(row, row.kind) : Plainly::No;
 }
 constexpr Plainly WritePlainly(const Field& row) {
-    const bool ruled = !row.writable || row.trueAtOne || row.hasUnless || row.notNegative || row.when != nullptr
-                       || row.condition.exists() || row.atMost != Field::kNoLimit || row.kind == Kind::Custom;
-    return ruled ? Plainly::No : PlainKind(row, row.writtenAs);
+    Field plain = WithoutWords(row);
+    plain.always = row.always;
+    plain.hasDefault = row.hasDefault;
+    plain.defaultValue = row.defaultValue;
+    plain.readable = row.readable;
+    plain.only = row.only;
+    return plain == row ? PlainKind(row, row.writtenAs) : Plainly::No;
 }
 
 struct Limits {
@@ -339,8 +383,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !row.owned) {
             build::a_pointer_needs_its_capacity();
         }
-        if (row.kind == Kind::Record && row.cell != Cell::Pointer && !row.table->startsWhenRead) {
-            if (row.table->hasDefaults) table.hasDefaults = true;
+        if (row.amongKeys) table.amongKeys = &row;
+        if (row.cell == Cell::Record) {
+            if (row.table->hasDefaults && !row.amongKeys && !row.table->startsWhenRead) table.hasDefaults = true;
             if (row.table->hasSizeWords) table.hasSizeWords = true;
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <span>
 
 namespace orrery::record {
 
@@ -38,7 +39,13 @@ Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
         room = LoadSlot(field.capacity, record);
         if (first == nullptr) room = 0;
     }
-    std::int64_t count = field.count.exists() ? LoadSlot(field.count, record) : room;
+    std::int64_t count = field.count.exists() && !field.fullCapacity ? LoadSlot(field.count, record) : room;
+    if (field.untilEmpty) {
+        const auto isEmpty = [&](std::int64_t i) { return first[i * field.elementSize] == std::byte{0}; };
+        for (std::int64_t i = 0; i < count; ++i) {
+            if (isEmpty(i)) count = i;
+        }
+    }
     // A count beyond the room ends at the room, whoever wrote it.
     count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
     return {first, static_cast<std::uint32_t>(count)};
@@ -64,6 +71,12 @@ void WriteSwitches(const Field& field, const std::byte* at, WriteCall& call) noe
         if (Load<std::int32_t>(at + i * std::size_t{4}) != 0) call.out.UInt(i);
     }
     call.out.EndArray();
+}
+
+// The row of a name table that a field's code writes.
+const Name* NameAt(const Field& field, const std::byte* at) noexcept {
+    const auto code = std::min<std::int64_t>(LoadInteger(field.cell, at), field.atMost);
+    return field.names->RowOf(static_cast<std::int32_t>(code));
 }
 
 // One element as a value. What has no text of its own is null in its place.
@@ -99,8 +112,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
                                   field.writtenAs == Kind::Text);
         break;
     case Kind::Names: {
-        const auto code = LoadInteger(field.cell, at);
-        const Name* const row = field.names->RowOf(static_cast<std::int32_t>(code));
+        const Name* const row = NameAt(field, at);
         if (row != nullptr)
             out.String(row->text);
         else if (field.names->outside == NameTable::Outside::Text)
@@ -151,7 +163,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
 bool IsElementWritten(const Field& field, const std::byte* at) noexcept {
     if (field.kind == Kind::Record) return IsWritten(*field.table, at);
     if (field.writtenAs == Kind::Names && field.names->outside == NameTable::Outside::NoKey) {
-        return field.names->RowOf(static_cast<std::int32_t>(LoadInteger(field.cell, at))) != nullptr;
+        return NameAt(field, at) != nullptr;
     }
     return true;
 }
@@ -172,15 +184,47 @@ void WriteLevels(const Field& field, int level, const std::byte* at, WriteCall& 
     call.out.EndArray();
 }
 
-std::string_view ToUtf8(std::string_view local, LocalText& text) noexcept {
+// `capacity` is how many bytes the text may become, its terminator included.
+std::string_view ToUtf8(std::string_view local, std::size_t capacity, LocalText& text) noexcept {
     if (text.isCopy() || local.empty()) return local;
-    const std::size_t capacity = local.size() * 3 / 2 + 1; // as for every other text on its way out
     char* const room = text.arena().Array<char>(capacity);
     if (room == nullptr) return {};
     const int size =
         text.ConvertLocalToUtf8(local.data(), static_cast<int>(local.size()), room, static_cast<int>(capacity));
     return {room, static_cast<std::size_t>(size)};
 }
+
+// Records that stand under their names.
+struct NamedRecord {
+    std::string_view name;
+    std::uint32_t index;
+};
+
+// What is written of an array of such records, in the order of their names; of equal names the last. A name becomes at
+// most `growth` halves of its length. Empty when memory ran out: the arena tells.
+std::span<const NamedRecord> SortedByName(const Table& table, const std::byte* first, std::uint32_t recordCount,
+                                          std::uint32_t stride, std::size_t growth, LocalText& text) noexcept {
+    NamedRecord* const entries = text.arena().Array<NamedRecord>(recordCount);
+    if (entries == nullptr) return {};
+    std::uint32_t count = 0;
+    for (std::uint32_t i = 0; i < recordCount; ++i) {
+        const std::byte* const at = first + std::size_t{i} * stride;
+        if (!IsWritten(table, at)) continue;
+        const std::string_view name = MemberNameOf(table, at);
+        entries[count++] = {ToUtf8(name, name.size() * growth / 2 + 1, text), i};
+    }
+    std::sort(entries, entries + count, [](const NamedRecord& left, const NamedRecord& right) {
+        return left.name != right.name ? left.name < right.name : left.index < right.index;
+    });
+    std::uint32_t unique = 0;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (i + 1 == count || entries[i].name != entries[i + 1].name) entries[unique++] = entries[i];
+    }
+    return {entries, unique};
+}
+
+constexpr std::size_t kGrowthOfTexts = 3;   // as for every other text on its way out
+constexpr std::size_t kGrowthAmongKeys = 4; // twice its length: a name must not lose its end
 
 bool IsPlainNumber(const Field& field) noexcept {
     return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
@@ -235,8 +279,19 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     call.out.EndArray();
 }
 
+// The key of an object is written with the first key inside it.
+void WriteUnlessBare(const Field& field, const std::byte* at, WriteCall& call) noexcept {
+    if (!IsWritten(*field.table, at)) return;
+    OpenObject inner{call.object, call.quotedKey, false};
+    call.object = &inner;
+    WriteFields(*field.table, at, call);
+    call.object = inner.parent;
+    if (inner.opened) call.out.EndObject();
+}
+
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
-    if (!field.writable) return;
+    // Members among the record's keys come with the keys.
+    if (!field.writable || field.amongKeys || (field.linkage && !call.linked)) return;
     if (field.flag.exists() && LoadSlot(field.flag, record) == 0) return;
     if (field.condition.exists() && LoadSlot(field.condition, record) == 0) return;
     if (field.when != nullptr && !field.when(record)) return;
@@ -274,6 +329,9 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         call.Key();
         return call.out.String(text);
     }
+    case Kind::Record:
+        if (field.unlessBare) return WriteUnlessBare(field, at, call);
+        break;
     default:
         break;
     }
@@ -308,6 +366,29 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
     }
 }
 
+// The record's keys and the names of its list in one order.
+void WriteAmongKeys(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    const Field& list = *table.amongKeys;
+    const Elements elements = ElementsOf(list, record);
+    const auto named = SortedByName(*list.table, elements.first, elements.count, list.elementSize, kGrowthAmongKeys,
+                                    call.parser.text());
+    auto next = named.begin();
+    const auto writeNext = [&] {
+        call.Member(next->name);
+        WriteRecord(*list.table, elements.first + std::size_t{next->index} * list.elementSize, call);
+        ++next;
+    };
+    for (std::uint16_t i = 0; i < table.members.count; ++i) {
+        const auto node = static_cast<std::uint16_t>(table.members.first + i);
+        const std::string_view key = table.keyOf(table.nodes[node]);
+        while (next != named.end() && next->name < key)
+            writeNext();
+        if (next == named.end() || next->name != key) WriteNodes(table, {node, 1}, record, call);
+    }
+    while (next != named.end())
+        writeNext();
+}
+
 } // namespace
 
 void WriteCall::Open(OpenObject& closed) noexcept {
@@ -333,31 +414,17 @@ std::string_view MemberNameOf(const Table& table, const std::byte* record) noexc
 
 void WriteByName(const Table& table, const std::byte* first, std::uint32_t recordCount, std::uint32_t stride,
                  WriteCall& call) noexcept {
-    struct Entry {
-        std::string_view name;
-        std::uint32_t index;
-    };
-    Arena& arena = call.parser.text().arena();
-    Entry* const entries = arena.Array<Entry>(recordCount);
-    if (entries == nullptr) return;
-    std::uint32_t count = 0;
-    for (std::uint32_t i = 0; i < recordCount; ++i) {
-        const std::byte* const at = first + std::size_t{i} * stride;
-        if (IsWritten(table, at)) entries[count++] = {ToUtf8(MemberNameOf(table, at), call.parser.text()), i};
-    }
-    std::sort(entries, entries + count, [](const Entry& left, const Entry& right) {
-        return left.name != right.name ? left.name < right.name : left.index < right.index;
-    });
     call.out.BeginObject();
-    for (std::uint32_t i = 0; i < count; ++i) {
-        if (i + 1 < count && entries[i].name == entries[i + 1].name) continue;
-        call.out.Key(entries[i].name);
-        WriteRecord(table, first + std::size_t{entries[i].index} * stride, call);
+    for (const NamedRecord& entry :
+         SortedByName(table, first, recordCount, stride, kGrowthOfTexts, call.parser.text())) {
+        call.out.Key(entry.name);
+        WriteRecord(table, first + std::size_t{entry.index} * stride, call);
     }
     call.out.EndObject();
 }
 
 void WriteFields(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    if (table.amongKeys != nullptr) return WriteAmongKeys(table, record, call);
     WriteNodes(table, table.members, record, call);
 }
 

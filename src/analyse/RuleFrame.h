@@ -1,0 +1,40 @@
+// The frame of the packed rule buffer: a list of rules of mixed types <-> items of a head and a record each.
+#pragma once
+
+#include "frame/Frames.h"
+#include "frame/PackedItems.h"
+#include "frame/json/Value.h"
+#include "frame/record/Engine.h"
+
+#include "orrery/analyse_rules.h"
+
+namespace orrery {
+
+// The descriptor of a rule buffer.
+extern const record::TypedTable<CFG_ANALYSERULES_INFO> kAnalyseRules;
+// The head of an item.
+extern const record::TypedTable<CFG_RULE_INFO> kRuleInfo;
+
+// The items behind the descriptor.
+extern const PackedItems kRuleItems;
+
+// "VideoAnalyseRule" and "AudioAnalyseRule": the rules stand in the reply's table.
+Outcome ParseAnalyseRules(const ParseRequest& request) noexcept;
+Outcome PackAnalyseRules(const PackRequest& request) noexcept;
+// "IVSFramRule": they stand at the reply's top level, under another command's name.
+Outcome ParseFrameRules(const ParseRequest& request) noexcept;
+
+// Bytes that a list of rules takes in a buffer; 0 when one of its types has no record.
+std::uint32_t RuleArraySizeNeeded(const json::Value& array) noexcept;
+// Reads the rules into the buffer of `rules` and counts them there.
+Outcome ReadRuleArray(const json::Value& array, CFG_ANALYSERULES_INFO& rules, record::ReadCall& call) noexcept;
+// Writes the items of `rules` as one list.
+Outcome WriteRuleArray(const CFG_ANALYSERULES_INFO& rules, record::WriteCall& call) noexcept;
+
+// One record from its rule, whatever the rule's type says; false for a code without a record.
+bool ParseRuleBody(std::uint32_t code, const json::Value& rule, std::byte* body, record::ReadCall& call) noexcept;
+// One rule as a value. `general` is the CFG_RULE_GENERAL_INFO of its head. False for a code without a record.
+bool PackRuleBody(std::uint32_t code, const std::byte* general, const std::byte* body, bool writeLinkage,
+                  record::WriteCall& call) noexcept;
+
+} // namespace orrery
