@@ -1,5 +1,6 @@
 #include "bench/Calls.h"
 
+#include "bench/Events.h"
 #include "bench/Readers.h"
 
 #include <algorithm>
@@ -74,6 +75,15 @@ bool ReadsAll(const char* name, const Texts& texts, const Reader& reader) {
     return true;
 }
 
+bool DecodesAll(EventBench& bench) {
+    for (std::size_t i = 0; i < bench.texts.size(); ++i) {
+        if (bench.Decode(i) && bench.ParseTextAndClear(i)) continue;
+        std::fprintf(stderr, "%s: text %zu is not decoded\n", bench.name, i);
+        return false;
+    }
+    return true;
+}
+
 bool AllReadersRead(std::size_t size) {
     ReaderBench bench(size, 4);
     return ReadsAll("orrery", bench.texts, bench.orrery) && ReadsAll("rapidjson", bench.texts, bench.rapidjson)
@@ -111,8 +121,10 @@ bool SelfTest() {
     auto motion = MakeMotionBench(48);
     auto switches = MakeSwitchBench(48);
     auto caps = MakeCapsBench(48);
-    bool good = SameBothWays(alarm) && SameBothWays(longAlarm) && SameBothWays(motion) && SameBothWays(switches)
-                && SameBothWays(caps);
+    auto junction = MakeJunctionBench(48);
+    auto manyEvents = MakeManyEventsBench(24);
+    bool good = DecodesAll(junction) && DecodesAll(manyEvents) && SameBothWays(alarm) && SameBothWays(longAlarm)
+                && SameBothWays(motion) && SameBothWays(switches) && SameBothWays(caps);
     for (const std::size_t size : {200, 2000, 60000})
         good = good && AllReadersRead(size);
     return good;

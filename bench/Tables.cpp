@@ -1,6 +1,7 @@
 #include "bench/Tables.h"
 
 #include "bench/Calls.h"
+#include "bench/Events.h"
 #include "bench/Heap.h"
 #include "bench/Readers.h"
 
@@ -124,6 +125,12 @@ void Calls(const Table& table, CallBench<R>& bench, double bar) {
     table.Line(name + ".pack.by_hand", 0, records, pack, [&](std::size_t i) { return bench.PackTheirs(i); });
 }
 
+void Events(const Table& table, EventBench& bench) {
+    table.Line(
+        std::string(bench.name) + ".rapidjson_text_and_clear", 1, bench.texts.size(),
+        [&](std::size_t i) { return bench.Decode(i); }, [&](std::size_t i) { return bench.ParseTextAndClear(i); });
+}
+
 double MeanSize(const Texts& texts) {
     double sum = 0;
     for (const auto& text : texts)
@@ -227,6 +234,11 @@ void HeapOfCalls(CallBench<R>& bench) {
     HeapLine(name + ".pack", Worst(bench.records.size(), [&](std::size_t i) { bench.Pack(i); }), small);
 }
 
+void HeapOfEvents(EventBench& bench) {
+    HeapLine(std::string(bench.name) + " (" + std::to_string(bench.texts[0].size()) + " B)",
+             Worst(bench.texts.size(), [&](std::size_t i) { bench.Decode(i); }), false);
+}
+
 void HeapOfReaders(const std::string& size, std::size_t bytes) {
     ReaderBench bench(bytes, 12);
     const std::size_t variants = bench.texts.size();
@@ -245,12 +257,16 @@ void PrintTables(bool quick) {
     auto motion = MakeMotionBench(48);
     auto switches = MakeSwitchBench(48);
     auto caps = MakeCapsBench(48);
+    auto junction = MakeJunctionBench(48);
+    auto manyEvents = MakeManyEventsBench(24);
 
     std::printf("\nheap use of one call, the worst of its texts\n\n");
     HeapOfCalls(alarm);
     HeapOfCalls(motion);
     HeapOfCalls(switches);
     HeapOfCalls(caps);
+    HeapOfEvents(junction);
+    HeapOfEvents(manyEvents);
     HeapOfReaders("200B", 200);
     HeapOfReaders("2KB", 2000);
     HeapOfReaders("4KB", 3900);
@@ -269,6 +285,8 @@ void PrintTables(bool quick) {
     Calls(table, motion, 0);
     Calls(table, switches, 0);
     Calls(table, caps, 0);
+    Events(table, junction);
+    Events(table, manyEvents);
     Lengths(table);
     const auto make = [] { return MakeAlarmBench(3); };
     Threads(table, "threads.2_to_1.Alarm.parse", make, [](AlarmBench& bench, std::size_t i) { return bench.Parse(i); });

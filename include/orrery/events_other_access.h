@@ -23,10 +23,10 @@ enum {
 /* "AccessControl" (516): someone passed a door, or tried to. */
 typedef struct DEV_EVENT_ACCESSCONTROL_INFO {
     ORRERY_EVENT_HEAD_A;         /* nChannelID: "Index" of the event itself, when there is one: the door */
-    EVENT_OBJECT_INFO stuObject; /* "Object": the face */
+    EVENT_OBJECT_INFO stuObject; /* "Object" */
     EVENT_FILE_INFO stuFileInfo;
     int32_t emEventType;  /* "Type": "Entry" 1, "Exit" 2 */
-    int32_t bStatus;      /* "Status": 1 when the door opened, and when absent */
+    int32_t bStatus;      /* "Status": 1 for success, also when absent */
     int32_t emCardType;   /* "CardType": 0 to 6 and 255, -1 for others and when absent */
     int32_t emOpenMethod; /* "Method": EVENT_ACCESS_METHOD_... */
     char szCardNo[32];    /* "CardNo" */
@@ -34,8 +34,8 @@ typedef struct DEV_EVENT_ACCESSCONTROL_INFO {
     char szReaderID[32];  /* "ReaderID" */
     char szUserID[64];    /* "UserID" */
     char szSnapURL[128];  /* "SnapURL": where the capture lies */
-    int32_t nErrorCode;   /* "ErrorCode": why the door stayed closed */
-    int32_t nRecNo;       /* "RecNo": of the device's own record */
+    int32_t nErrorCode;   /* "ErrorCode" */
+    int32_t nRecNo;       /* "RecNo" */
     int32_t nNumbers;     /* "Numbers": captures; 1 when absent but szSnapURL is not empty */
     uint8_t byRepeat;
     uint32_t dwFlagMask;
@@ -45,7 +45,7 @@ typedef struct DEV_EVENT_ACCESSCONTROL_INFO {
     char szCardName[64];      /* "CardName" */
 } DEV_EVENT_ACCESSCONTROL_INFO;
 
-/* "InstallCardReader" (544): a card reader was fixed over the real one. */
+/* "InstallCardReader" (544): a card reader was installed. */
 typedef struct DEV_EVENT_INSTALLCARDREADER_INFO {
     ORRERY_EVENT_HEAD_A;
 } DEV_EVENT_INSTALLCARDREADER_INFO;
@@ -85,7 +85,7 @@ typedef struct DEV_EVENT_CITIZENPICTURECOMPARE_INFO {
     double dPTS;
     char szName[128];
     EVENT_TIME stuUTC;
-    uint8_t byCompareResult;         /* "CompareResult": 1 when it is the person */
+    uint8_t byCompareResult;         /* "CompareResult" */
     uint8_t bySimilarity;            /* "Similarity": percent */
     uint8_t byThreshold;             /* "Threshold": percent */
     int32_t emSex;                   /* "Sex", an integer: EVENT_SEX_... */
@@ -98,7 +98,7 @@ typedef struct DEV_EVENT_CITIZENPICTURECOMPARE_INFO {
     NET_TIME stuStart;               /* "Start" of validity */
     NET_TIME stuEnd;                 /* "End" of validity */
     int32_t bLongTerm;               /* 1 when "End" is "Endless", in this very case */
-    EVENT_CITIZEN_IMAGE stuImage[2]; /* "ImageInfo", at least 2: of the person, of the card */
+    EVENT_CITIZEN_IMAGE stuImage[2]; /* "ImageInfo", at least 2 elements */
     char szEventLongID[52];          /* "Extension"."EventLongID" */
 } DEV_EVENT_CITIZENPICTURECOMPARE_INFO;
 
@@ -131,7 +131,7 @@ typedef struct DEV_EVENT_SHOOTINGSCORERECOGNITION_INFO {
     ORRERY_EVENT_HEAD_A;
     EVENT_FILE_INFO stuFileInfo;
     uint8_t byEventAction;
-    EVENT_POINT stuDetectRegion;                                      /* "DetectRegion": the target's middle */
+    EVENT_POINT stuDetectRegion;                                      /* "DetectRegion", at least 2 numbers */
     int32_t nBulletHolesNum;                                          /* hits in use */
     EVENT_BULLET_HOLE_INFO stuBulletHoles[ORRERY_EVENT_BULLET_HOLES]; /* "BulletHoles" */
     uint8_t byRepeat;

@@ -29,7 +29,7 @@ typedef struct DEV_EVENT_MULTISCENESWITCH_INFO {
     uint8_t byEventAction;
 } DEV_EVENT_MULTISCENESWITCH_INFO;
 
-/* What a sensor at an alarm input measures ("SenseMethod", case folded). */
+/* What a sensor measures ("SenseMethod", case folded). The numbers are not those of EM_SENSE_METHOD. */
 enum {
     EVENT_SENSE_UNKNOWN = -1,
     EVENT_SENSE_DOOR_MAGNETISM = 0,     /* "DoorMagnetism" */
@@ -147,7 +147,7 @@ typedef struct DEV_EVENT_SNAPBYTIME_INFO {
 /* "PtzPreset" (357): the camera reached a preset. szName, the preset's, is always terminated here. */
 typedef struct DEV_EVENT_PTZPRESET_INFO {
     ORRERY_EVENT_HEAD_A;
-    float fPosition[3]; /* "Position", at least 3 numbers: pan, tilt, zoom */
+    float fPosition[3]; /* "Position", at least 3 numbers */
     int32_t nPresetID;  /* "PresetID" */
 } DEV_EVENT_PTZPRESET_INFO;
 
@@ -189,7 +189,7 @@ typedef struct DEV_EVENT_SNAPMANUAL_INFO {
 
 enum { EVENT_PASS_PICTURE_NONE = 0, EVENT_PASS_PICTURE_PASS = 1, EVENT_PASS_PICTURE_REAL = 2 };
 
-/* "PassChange" (562): an object passed from one preset to the next. */
+/* "PassChange" (562): the camera passed on to a preset. */
 typedef struct DEV_EVENT_PASSCHANGE_INFO {
     ORRERY_EVENT_HEAD_A;
     int32_t nPresetID;     /* "PresetID" */

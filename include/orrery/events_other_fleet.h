@@ -75,7 +75,7 @@ typedef struct DEV_EVENT_HIGHSPEED_INFO {
     uint32_t dwResolution;      /* the notification's "Resolution": width, the height in the upper half */             \
     EVENT_COMM_INFO stuCommInfo /* "CommInfo", without the paths of the notification */
 
-/* "NotClearCar" (548): the vehicle was left with someone in it. */
+/* "NotClearCar" (548): the vehicle was not cleared. */
 typedef struct DEV_EVENT_NOTCLEARCAR_INFO {
     ORRERY_EVENT_FLEET_FIELDS;
 } DEV_EVENT_NOTCLEARCAR_INFO;
@@ -155,14 +155,14 @@ enum {
     EVENT_FUEL_MINUS_50 = 12  /* "-50#" */
 };
 
-/* "TrafficFcc" (363): a vehicle was filled at a pump. */
+/* "TrafficFcc" (363): a vehicle was filled with fuel. */
 typedef struct DEV_EVENT_TRAFFICFCC_INFO {
     ORRERY_EVENT_HEAD_A_WITH(int32_t nTriggerID); /* "TriggerID" */
-    uint32_t dwNum;                               /* "Num": number of the pump */
+    uint32_t dwNum;                               /* "Num" */
     uint32_t dwLitre;                             /* "Litre" */
     int32_t emType;                               /* "Type": EVENT_FUEL_..., 0 for others */
     uint32_t dwMoney;                             /* "Money" */
-    char szText[128];                             /* "Text": the plate */
+    char szText[128];                             /* "Text" */
     char szTime[128];                             /* "Time" */
     uint32_t dwOffset;                            /* "Object"."Image"."Offset" in the data behind the text */
     uint32_t dwLength;                            /* "Object"."Image"."Length" */
@@ -175,7 +175,7 @@ typedef struct DEV_EVENT_TRANSFINITE_INFO {
     ORRERY_EVENT_HEAD_A;
     EVENT_FILE_INFO stuFileInfo;
     uint8_t byEventAction;
-    char szText[16];          /* "Text": the plate */
+    char szText[16];          /* "Text" */
     char szTime[20];          /* "Time" */
     double dLong;             /* "Long": metres */
     double dWidth;            /* "Width" */
@@ -205,7 +205,7 @@ typedef struct DEV_EVENT_TRAFFICELETAGINFO_INFO {
     uint8_t byEventAction;
     EVENT_RFID_TAG_INFO stuRFIDTag;                   /* "RFIDEleTagInfo" */
     int32_t nLinkChannelNum;                          /* channels in use */
-    int32_t nLinkChannel[ORRERY_EVENT_LINK_CHANNELS]; /* "LinkChannel": channels that see the vehicle */
+    int32_t nLinkChannel[ORRERY_EVENT_LINK_CHANNELS]; /* "LinkChannel": channels that belong to it */
 } DEV_EVENT_TRAFFICELETAGINFO_INFO;
 
 #ifdef __cplusplus

@@ -4,6 +4,7 @@
 #include "events/ReqRealPicture.h"
 #include "support/EventWalk.h"
 #include "support/Events.h"
+#include "support/FailingAllocator.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -381,6 +382,17 @@ TEST(OtherEvents, EmptyDataGivesAnEmptyRecord) {
             const auto [left, right] = std::mismatch(wanted.begin(), wanted.end(), bytes);
             EXPECT_EQ(left, wanted.end()) << expected.name << " at " << left - wanted.begin();
         })) << expected.name;
+    }
+}
+
+TEST(OtherEvents, TakeFewAllocations) {
+    for (const OtherEvent& expected : kOtherEvents) {
+        const std::string text = EventText(expected.name, kEveryKey);
+        HeapWatch watch;
+        std::size_t during = 0;
+        Decode(text, [&](const Delivered&) { during = watch.allocations(); });
+        EXPECT_LE(during, 4u) << expected.name;
+        EXPECT_EQ(watch.liveBlocks(), 0) << expected.name;
     }
 }
 

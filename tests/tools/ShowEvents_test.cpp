@@ -3,8 +3,9 @@
 
 #include "events/EventTable.h"
 
-#include "orrery/events_other.h"
+#include "orrery/orrery.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <json/json.h>
 #include <sstream>

@@ -1,5 +1,6 @@
 #include "orrery/Codes.h"
 
+#include "events/EventCodecs.h"
 #include "frame/JsonParser.h"
 
 namespace orrery::tool {
@@ -17,7 +18,9 @@ std::string SplitText(std::int32_t mode) {
 } // namespace
 
 bool HasNames(const Field& field) {
-    return field.kind == Kind::Names || field.kind == Kind::SplitMode;
+    // Names of bits and of places in a list are no codes.
+    const bool isCode = field.custom != &events::kNamedBits && field.custom != &events::kByKeys;
+    return (field.names != nullptr && isCode) || field.kind == Kind::SplitMode;
 }
 
 std::string NameOfCode(const Field& field, std::int64_t code) {
