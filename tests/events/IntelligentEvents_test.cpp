@@ -310,6 +310,14 @@ constexpr IntelligentEvent kIntelligentEvents[] = {
 };
 constexpr IntelligentEvent kExtendedCrossing = EVENT(337, "CrossLineDetection", DEV_EVENT_CROSSLINE_EX_INFO);
 
+// Reads all that a client may read: the told size, and what the record's pointers lead to.
+std::uint64_t ReadAll(const Delivered& event) {
+    std::uint64_t sum = SumOfRecord(*events::FindEvent(event.type)->table, static_cast<const std::byte*>(event.record));
+    for (std::uint32_t i = 0; i < event.size; ++i)
+        sum += static_cast<const unsigned char*>(event.record)[i];
+    return sum;
+}
+
 void ExpectWhole(const IntelligentEvent& expected, const std::string& data) {
     const std::string event =
         std::string("{\"Code\":\"") + expected.name + "\",\"Action\":\"Stop\",\"Data\":" + data + "}";
@@ -344,14 +352,6 @@ TEST(IntelligentEvents, NoneIsDeliveredWithoutData) {
     for (const IntelligentEvent& expected : kIntelligentEvents)
         EXPECT_TRUE(CodesOf(std::string("{\"Event\":[{\"Code\":\"") + expected.name + "\"}]}").empty())
             << expected.name;
-}
-
-// Reads all that a client may read: the told size, and what the record's pointers lead to.
-std::uint64_t ReadAll(const Delivered& event) {
-    std::uint64_t sum = SumOfRecord(*events::FindEvent(event.type)->table, static_cast<const std::byte*>(event.record));
-    for (std::uint32_t i = 0; i < event.size; ++i)
-        sum += static_cast<const unsigned char*>(event.record)[i];
-    return sum;
 }
 
 // Each of the wrong type for every key: nothing but the delivery is promised.
