@@ -9,7 +9,7 @@
 extern "C" {
 #endif
 
-enum { EVENT_SEX_UNKNOWN = 0, EVENT_SEX_MALE = 1, EVENT_SEX_FEMALE = 2 };
+enum { EVENT_PERSON_SEX_UNKNOWN = 0, EVENT_PERSON_SEX_MALE = 1, EVENT_PERSON_SEX_FEMALE = 2 };
 
 /* What a face shows ("Feature", "Emotion"). */
 enum {

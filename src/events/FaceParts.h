@@ -5,7 +5,7 @@
 
 namespace orrery::events {
 
-inline constexpr Name kFaceSexRows[] = {{EVENT_SEX_MALE, "Man"}, {EVENT_SEX_FEMALE, "Woman"}};
+inline constexpr Name kFaceSexRows[] = {{EVENT_PERSON_SEX_MALE, "Man"}, {EVENT_PERSON_SEX_FEMALE, "Woman"}};
 inline constexpr NameTable kFaceSexes = ExactNames(kFaceSexRows);
 
 #define ORRERY_FEATURE_ROWS(noGlasses)                                                                                 \

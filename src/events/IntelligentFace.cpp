@@ -13,7 +13,7 @@ PART(kFace, EVENT_FACE_INFO, FIELD(nObjectID, "ObjectID", Int), FIELD(szObjectTy
 
 // ---- Known people ----
 
-constexpr Name kPersonSexRows[] = {{EVENT_SEX_MALE, "Male"}, {EVENT_SEX_FEMALE, "Female"}};
+constexpr Name kPersonSexRows[] = {{EVENT_PERSON_SEX_MALE, "Male"}, {EVENT_PERSON_SEX_FEMALE, "Female"}};
 constexpr NameTable kPersonSexes = FoldedNames(kPersonSexRows);
 constexpr Name kPersonTypeRows[] = {
     {EVENT_PERSON_NORMAL, "Normal"}, {EVENT_PERSON_SUSPICION, "Suspicion"},  {EVENT_PERSON_THIEF, "Thief"},

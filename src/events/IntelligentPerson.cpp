@@ -5,7 +5,7 @@ namespace orrery::events {
 
 namespace {
 
-constexpr Name kSexRows[] = {{EVENT_SEX_MALE, "Male"}, {EVENT_SEX_FEMALE, "Female"}};
+constexpr Name kSexRows[] = {{EVENT_PERSON_SEX_MALE, "Male"}, {EVENT_PERSON_SEX_FEMALE, "Female"}};
 constexpr NameTable kSexes = ExactNames(kSexRows);
 
 constexpr Name kClothesColorRows[] = {

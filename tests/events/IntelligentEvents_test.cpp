@@ -155,7 +155,7 @@ void Check(const void* record, const char* name) {
     HAS(bIsGlobalScene, 1u);
     // Faces and people
     if constexpr (kIsOneOf<R, DEV_EVENT_FACERECOGNITION_INFO>) {
-        EXPECT_EQ(r.emSex, EVENT_SEX_MALE);
+        EXPECT_EQ(r.emSex, EVENT_PERSON_SEX_MALE);
         EXPECT_EQ(r.nAge, 43);
         EXPECT_EQ(r.nFeatureNum, 1);
         EXPECT_EQ(r.emFeature[0], EVENT_FEATURE_FEAR);
@@ -171,7 +171,7 @@ void Check(const void* record, const char* name) {
         EXPECT_EQ(r.stuCandidatesEx[1].bySimilarity, 70);
         EXPECT_EQ(r.stuSceneImage.dwOffset, 54u);
     } else {
-        HAS(emSex, EVENT_SEX_FEMALE);
+        HAS(emSex, EVENT_PERSON_SEX_FEMALE);
         HAS(nAge, 35);
         HAS(nFeatureNum, 2);
         HAS(emFeature[1], EVENT_FEATURE_ANGER);
@@ -310,6 +310,14 @@ constexpr IntelligentEvent kIntelligentEvents[] = {
 };
 constexpr IntelligentEvent kExtendedCrossing = EVENT(337, "CrossLineDetection", DEV_EVENT_CROSSLINE_EX_INFO);
 
+// Reads all that a client may read: the told size, and what the record's pointers lead to.
+std::uint64_t ReadAll(const Delivered& event) {
+    std::uint64_t sum = SumOfRecord(*events::FindEvent(event.type)->table, static_cast<const std::byte*>(event.record));
+    for (std::uint32_t i = 0; i < event.size; ++i)
+        sum += static_cast<const unsigned char*>(event.record)[i];
+    return sum;
+}
+
 void ExpectWhole(const IntelligentEvent& expected, const std::string& data) {
     const std::string event =
         std::string("{\"Code\":\"") + expected.name + "\",\"Action\":\"Stop\",\"Data\":" + data + "}";
@@ -346,14 +354,6 @@ TEST(IntelligentEvents, NoneIsDeliveredWithoutData) {
             << expected.name;
 }
 
-// Reads all that a client may read: the told size, and what the record's pointers lead to.
-std::uint64_t ReadAll(const Delivered& event) {
-    std::uint64_t sum = SumOfRecord(*events::FindEvent(event.type)->table, static_cast<const std::byte*>(event.record));
-    for (std::uint32_t i = 0; i < event.size; ++i)
-        sum += static_cast<const unsigned char*>(event.record)[i];
-    return sum;
-}
-
 // Each of the wrong type for every key: nothing but the delivery is promised.
 TEST(IntelligentEvents, WrongTypesAreHarmless) {
     const std::string whole = EveryKey(kObjects);
@@ -380,11 +380,13 @@ TEST(IntelligentEvents, NothingStaysAllocatedForAnyCode) {
     for (const IntelligentEvent& expected : kIntelligentEvents) {
         const std::string text = EventText(expected.name, EveryKey(kObjects));
         const std::ptrdiff_t before = watch.liveBlocks();
+        const std::size_t allocations = watch.allocations();
         CLIENT_ParseAnalyzerEventData(
             text.c_str(), 0,
             [](std::uint32_t, const void*, std::uint32_t, void*, std::int32_t, void*) { return std::int32_t{0}; },
             nullptr);
         EXPECT_EQ(watch.liveBlocks(), before) << expected.name;
+        EXPECT_LE(watch.allocations() - allocations, 3u) << expected.name << ": more than a handful";
     }
 }
 
