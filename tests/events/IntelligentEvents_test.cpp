@@ -380,11 +380,13 @@ TEST(IntelligentEvents, NothingStaysAllocatedForAnyCode) {
     for (const IntelligentEvent& expected : kIntelligentEvents) {
         const std::string text = EventText(expected.name, EveryKey(kObjects));
         const std::ptrdiff_t before = watch.liveBlocks();
+        const std::size_t allocations = watch.allocations();
         CLIENT_ParseAnalyzerEventData(
             text.c_str(), 0,
             [](std::uint32_t, const void*, std::uint32_t, void*, std::int32_t, void*) { return std::int32_t{0}; },
             nullptr);
         EXPECT_EQ(watch.liveBlocks(), before) << expected.name;
+        EXPECT_LE(watch.allocations() - allocations, 3u) << expected.name << ": more than a handful";
     }
 }
 

@@ -218,12 +218,10 @@ TEST(Log, ASinkMayLogOnItsOwnThread) {
     EXPECT_EQ(sink.calls, (Calls{"SetMaxSizeKB 2", "SetMaxSizeKB 1", "SetMaxSizeKB 0", "left 0", "left 1", "left 2"}));
 }
 
+#ifdef __x86_64__ // reads the virtual table as that machine lays it out
 // The order of the virtual table is what a sink built elsewhere relies on, so it is read from the object itself: entry
 // by entry, each operation's address as its own recording sink reports it when called through that entry.
 TEST(Log, OperationsStandInTheirSlots) {
-#ifndef __x86_64__
-    GTEST_SKIP() << "reads the virtual table as x86-64 lays it out";
-#else
     RecordingSink sink;
     void** table;
     LogSink* const base = &sink;
@@ -238,8 +236,8 @@ TEST(Log, OperationsStandInTheirSlots) {
     EXPECT_EQ(sink.calls, (Calls{"Reserved3", "Reserved4", "Reserved6", "Reserved8", "Reserved9", "Reserved10",
                                  "Reserved12", "Reserved13", "Reserved17", "SetMaxSizeKB 9", "SetFileCount 9",
                                  "SetPrintLevel 9", "SetPrintStrategy 9", "SetPosition Door:1 2"}));
-#endif
 }
+#endif
 
 TEST(LogThreads, TheSinkNeverRunsTwiceAtOnce) {
     class ExclusiveSink : public RecordingSink {

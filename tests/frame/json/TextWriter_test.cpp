@@ -168,7 +168,7 @@ class CommaLocale {
 
 TEST(TextWriter, WritesAndReadsAPointInALocaleThatHasACommaThere) {
     const CommaLocale locale;
-    if (!locale.active()) GTEST_SKIP() << "no such locale on this machine";
+    ASSERT_TRUE(locale.active()) << "the package with the sources of locales is missing: scripts/install-deps.sh";
     EXPECT_EQ(WrittenReal(1.5), "1.500000000000000");
     EXPECT_EQ(test::Document("1.5").root.asDouble(), 1.5);
     EXPECT_EQ(test::Document("1.25e1").root.asDouble(), 12.5);
