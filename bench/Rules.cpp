@@ -33,8 +33,8 @@ void Sort(rapidjson::Value& value) {
             Sort(element);
     }
     if (!value.IsObject()) return;
-    for (auto& member : value.GetObject())
-        Sort(member.value);
+    for (auto member = value.MemberBegin(); member < value.MemberEnd(); ++member)
+        Sort(member->value);
     std::sort(value.MemberBegin(), value.MemberEnd(),
               [](const auto& a, const auto& b) { return std::string_view(a.name.GetString()) < b.name.GetString(); });
 }
