@@ -32,7 +32,19 @@ class LocalDocument {
     Document document_{&values_, 1024, &stack_};
 };
 
-// Whole calls: the record or the text buffer is cleared, then filled.
+// All channels of a device.
+struct EncodeChannels {
+    CFG_ENCODE_INFO channels[16];
+};
+
+// "1 08:00:00-18:30:00" for a document.
+Value SectionText(const CFG_TIME_SECTION& section, Pool& pool);
+void Write(const Document& document, rapidjson::StringBuffer& out);
+// Hands the text over as the library does: cleared behind it, with a newline and a terminator.
+bool Deliver(const rapidjson::StringBuffer& out, char* text, std::size_t capacity);
+
+// Whole calls: the record or the text buffer is cleared, then filled. "Encode" keeps what the record
+// holds but for what the text tells.
 bool ParseAlarm(const char* text, CFG_ALARM_INPUT_INFO& record);
 bool ParseMotionDetect(const char* text, CFG_MOTION_DETECT_INFO& record);
 bool ParseSwitch(const char* text, CFG_ENABLE_INFO& record);
@@ -41,9 +53,13 @@ bool PackAlarm(const CFG_ALARM_INPUT_INFO& record, char* text, std::size_t capac
 bool PackMotionDetect(const CFG_MOTION_DETECT_INFO& record, char* text, std::size_t capacity);
 bool PackSwitch(const CFG_ENABLE_INFO& record, char* text, std::size_t capacity);
 
+bool ParseEncode(const char* text, EncodeChannels& record);
+bool PackEncode(const EncodeChannels& record, char* text, std::size_t capacity);
+
 // Builds the document of a record and writes it, no more.
 void WriteAlarm(const CFG_ALARM_INPUT_INFO& record, rapidjson::StringBuffer& out);
 void WriteMotionDetect(const CFG_MOTION_DETECT_INFO& record, rapidjson::StringBuffer& out);
 void WriteSwitch(const CFG_ENABLE_INFO& record, rapidjson::StringBuffer& out);
+void WriteEncode(const EncodeChannels& record, rapidjson::StringBuffer& out);
 
 } // namespace orrery::bench::byhand

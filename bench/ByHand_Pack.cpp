@@ -10,6 +10,23 @@
 
 namespace orrery::bench::byhand {
 
+Value SectionText(const CFG_TIME_SECTION& section, Pool& pool) {
+    char text[96];
+    const auto pair = [](char* at, int number) {
+        at[0] = static_cast<char>('0' + number / 10);
+        at[1] = static_cast<char>('0' + number % 10);
+    };
+    std::memcpy(text, "0 00:00:00-00:00:00", 20);
+    text[0] = static_cast<char>('0' + section.dwMask);
+    pair(text + 2, section.nBeginHour);
+    pair(text + 5, section.nBeginMin);
+    pair(text + 8, section.nBeginSec);
+    pair(text + 11, section.nEndHour);
+    pair(text + 14, section.nEndMin);
+    pair(text + 17, section.nEndSec);
+    return Value(text, 19, pool);
+}
+
 namespace {
 
 using rapidjson::kArrayType;
@@ -122,27 +139,11 @@ struct Builder {
             list.PushBack(make(elements[i]), pool);
         object.AddMember(StringRef(key), list, pool);
     }
-    Value Section(const CFG_TIME_SECTION& section) {
-        char text[96];
-        const auto pair = [](char* at, int number) {
-            at[0] = static_cast<char>('0' + number / 10);
-            at[1] = static_cast<char>('0' + number % 10);
-        };
-        std::memcpy(text, "0 00:00:00-00:00:00", 20);
-        text[0] = static_cast<char>('0' + section.dwMask);
-        pair(text + 2, section.nBeginHour);
-        pair(text + 5, section.nBeginMin);
-        pair(text + 8, section.nBeginSec);
-        pair(text + 11, section.nEndHour);
-        pair(text + 14, section.nEndMin);
-        pair(text + 17, section.nEndSec);
-        return Value(text, 19, pool);
-    }
     Value Day(const CFG_TIME_SECTION (&sections)[ORRERY_DAY_SECTIONS]) {
         Value row(kArrayType);
         row.Reserve(ORRERY_DAY_SECTIONS, pool);
         for (const CFG_TIME_SECTION& section : sections)
-            row.PushBack(Section(section), pool);
+            row.PushBack(SectionText(section, pool), pool);
         return row;
     }
     Value Color(const CFG_COLOR& c) { return Numbers({c.nRed, c.nGreen, c.nBlue, c.nAlpha}); }
@@ -268,6 +269,8 @@ Value Builder::Handler(const CFG_EVENT_HANDLER_INFO& h) {
     return o;
 }
 
+} // namespace
+
 void Write(const Document& document, rapidjson::StringBuffer& out) {
     alignas(16) char levels[1024];
     Pool pool(levels, sizeof levels);
@@ -275,7 +278,6 @@ void Write(const Document& document, rapidjson::StringBuffer& out) {
     document.Accept(writer);
 }
 
-// Hands the text over as the library does: cleared behind it, with a newline and a terminator.
 bool Deliver(const rapidjson::StringBuffer& out, char* text, std::size_t capacity) {
     std::memset(text, 0, capacity);
     if (out.GetSize() + 2 > capacity) return false;
@@ -283,8 +285,6 @@ bool Deliver(const rapidjson::StringBuffer& out, char* text, std::size_t capacit
     text[out.GetSize()] = '\n';
     return true;
 }
-
-} // namespace
 
 void WriteAlarm(const CFG_ALARM_INPUT_INFO& record, rapidjson::StringBuffer& out) {
     LocalDocument document;

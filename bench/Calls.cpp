@@ -2,6 +2,7 @@
 
 #include "bench/Events.h"
 #include "bench/Readers.h"
+#include "bench/Rules.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -114,6 +115,10 @@ SwitchBench MakeSwitchBench(int variants) {
 CapsBench MakeCapsBench(int variants) {
     return CapsBench("alarm.getAlarmCaps", AlarmCapsReplies(variants), byhand::ParseAlarmCaps, nullptr, nullptr);
 }
+EncodeBench MakeEncodeBench(int variants) {
+    return WithRecords(
+        EncodeBench("Encode", EncodeReplies(variants), byhand::ParseEncode, byhand::PackEncode, byhand::WriteEncode));
+}
 
 bool SelfTest() {
     auto alarm = MakeAlarmBench(48);
@@ -121,10 +126,13 @@ bool SelfTest() {
     auto motion = MakeMotionBench(48);
     auto switches = MakeSwitchBench(48);
     auto caps = MakeCapsBench(48);
+    auto encode = MakeEncodeBench(24);
     auto junction = MakeJunctionBench(48);
     auto manyEvents = MakeManyEventsBench(24);
     bool good = DecodesAll(junction) && DecodesAll(manyEvents) && SameBothWays(alarm) && SameBothWays(longAlarm)
-                && SameBothWays(motion) && SameBothWays(switches) && SameBothWays(caps);
+                && SameBothWays(motion) && SameBothWays(switches) && SameBothWays(caps) && SameBothWays(encode);
+    for (const int rules : {8, 16, 32})
+        good = good && RuleBench(rules).SameBothWays();
     for (const std::size_t size : {200, 2000, 60000})
         good = good && AllReadersRead(size);
     return good;

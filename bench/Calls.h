@@ -68,6 +68,13 @@ struct CallBench {
         benchmark::DoNotOptimize(document);
         return !document->HasParseError();
     }
+    // For a command that keeps what the record holds.
+    bool ParseText(std::size_t i) {
+        byhand::LocalDocument document;
+        document->Parse(texts[i].c_str());
+        benchmark::DoNotOptimize(document);
+        return !document->HasParseError();
+    }
     bool Clear(std::size_t) {
         std::memset(record.get(), 0, sizeof(R));
         benchmark::ClobberMemory();
@@ -100,12 +107,15 @@ using AlarmBench = CallBench<CFG_ALARM_INPUT_INFO>;
 using MotionBench = CallBench<CFG_MOTION_DETECT_INFO>;
 using SwitchBench = CallBench<CFG_ENABLE_INFO>;
 using CapsBench = CallBench<CFG_ALARM_CAPS>;
+using EncodeBench = CallBench<byhand::EncodeChannels>;
 
 AlarmBench MakeAlarmBench(int variants);
 AlarmBench MakeLongAlarmBench(std::size_t size, int variants);
 MotionBench MakeMotionBench(int variants);
 SwitchBench MakeSwitchBench(int variants);
 CapsBench MakeCapsBench(int variants);
+// All of 16 channels, about 50 KB.
+EncodeBench MakeEncodeBench(int variants);
 
 // Both ways give the same records and documents for all texts; says on standard error what differs.
 bool SelfTest();

@@ -4,6 +4,7 @@
 #include "bench/Events.h"
 #include "bench/Heap.h"
 #include "bench/Readers.h"
+#include "bench/Rules.h"
 
 #include <algorithm>
 #include <chrono>
@@ -131,6 +132,30 @@ void Events(const Table& table, EventBench& bench) {
         [&](std::size_t i) { return bench.Decode(i); }, [&](std::size_t i) { return bench.ParseTextAndClear(i); });
 }
 
+// "Encode" clears no record, so there is no clearing on the peer's side either.
+void EncodeCalls(const Table& table, EncodeBench& bench) {
+    const auto parse = [&](std::size_t i) { return bench.Parse(i); };
+    const auto pack = [&](std::size_t i) { return bench.Pack(i); };
+    const std::size_t texts = bench.texts.size(), records = bench.records.size();
+    table.Line("Encode.parse.rapidjson_text", 1, texts, parse, [&](std::size_t i) { return bench.ParseText(i); });
+    table.Line("Encode.parse.by_hand", 0, texts, parse, [&](std::size_t i) { return bench.ParseTheirs(i); });
+    table.Line("Encode.pack.rapidjson_write_and_clear", 1, records, pack,
+               [&](std::size_t i) { return bench.WriteAndClear(i); });
+    table.Line("Encode.pack.by_hand", 0, records, pack, [&](std::size_t i) { return bench.PackTheirs(i); });
+}
+
+void RuleCalls(const Table& table, RuleBench& bench) {
+    const std::string name = "VideoAnalyseRule";
+    const auto parse = [&](std::size_t i) { return bench.Parse(i); };
+    table.Line(name + ".parse.rapidjson_text_and_clear", 1, bench.texts.size(), parse,
+               [&](std::size_t i) { return bench.ParseTextAndClear(i); });
+    table.Line(name + ".parse.clearing_alone", 0, bench.texts.size(), parse,
+               [&](std::size_t i) { return bench.Clear(i); });
+    table.Line(
+        name + ".pack.rapidjson_write_and_clear", 1, bench.records(), [&](std::size_t i) { return bench.Pack(i); },
+        [&](std::size_t i) { return bench.WriteAndClear(i); });
+}
+
 double MeanSize(const Texts& texts) {
     double sum = 0;
     for (const auto& text : texts)
@@ -175,6 +200,21 @@ void Lengths(const Table& table) {
             table, std::string("flat.Alarm.pack.") + name, longAlarm.records.size(), length(shortAlarm),
             length(longAlarm), [&](std::size_t i) { return shortAlarm.Pack(i); },
             [&](std::size_t i) { return longAlarm.Pack(i); });
+    }
+}
+
+// Cost per rule. The rule buffer grows with the rules, and so does the text buffer.
+void RuleCounts(const Table& table) {
+    RuleBench few(8);
+    for (const int rules : {16, 32}) {
+        RuleBench many(rules);
+        const std::string count = std::to_string(rules) + "rules";
+        Flat(
+            table, "flat.VideoAnalyseRule.parse." + count, few.texts.size(), 8, rules,
+            [&](std::size_t i) { return few.Parse(i); }, [&](std::size_t i) { return many.Parse(i); });
+        Flat(
+            table, "flat.VideoAnalyseRule.pack." + count, few.records(), 8, rules,
+            [&](std::size_t i) { return few.Pack(i); }, [&](std::size_t i) { return many.Pack(i); });
     }
 }
 
@@ -234,6 +274,12 @@ void HeapOfCalls(CallBench<R>& bench) {
     HeapLine(name + ".pack", Worst(bench.records.size(), [&](std::size_t i) { bench.Pack(i); }), small);
 }
 
+void HeapOfRules(RuleBench& bench) {
+    HeapLine("VideoAnalyseRule.parse (" + std::to_string(bench.texts[0].size()) + " B)",
+             Worst(bench.texts.size(), [&](std::size_t i) { bench.Parse(i); }), false);
+    HeapLine("VideoAnalyseRule.pack", Worst(bench.records(), [&](std::size_t i) { bench.Pack(i); }), false);
+}
+
 void HeapOfEvents(EventBench& bench) {
     HeapLine(std::string(bench.name) + " (" + std::to_string(bench.texts[0].size()) + " B)",
              Worst(bench.texts.size(), [&](std::size_t i) { bench.Decode(i); }), false);
@@ -257,6 +303,8 @@ void PrintTables(bool quick) {
     auto motion = MakeMotionBench(48);
     auto switches = MakeSwitchBench(48);
     auto caps = MakeCapsBench(48);
+    auto encode = MakeEncodeBench(24);
+    RuleBench rules(32);
     auto junction = MakeJunctionBench(48);
     auto manyEvents = MakeManyEventsBench(24);
 
@@ -265,6 +313,8 @@ void PrintTables(bool quick) {
     HeapOfCalls(motion);
     HeapOfCalls(switches);
     HeapOfCalls(caps);
+    HeapOfCalls(encode);
+    HeapOfRules(rules);
     HeapOfEvents(junction);
     HeapOfEvents(manyEvents);
     HeapOfReaders("200B", 200);
@@ -285,9 +335,12 @@ void PrintTables(bool quick) {
     Calls(table, motion, 0);
     Calls(table, switches, 0);
     Calls(table, caps, 0);
+    EncodeCalls(table, encode);
+    RuleCalls(table, rules);
     Events(table, junction);
     Events(table, manyEvents);
     Lengths(table);
+    RuleCounts(table);
     const auto make = [] { return MakeAlarmBench(3); };
     Threads(table, "threads.2_to_1.Alarm.parse", make, [](AlarmBench& bench, std::size_t i) { return bench.Parse(i); });
     Threads(table, "threads.2_to_1.Alarm.pack", make, [](AlarmBench& bench, std::size_t i) { return bench.Pack(i); });

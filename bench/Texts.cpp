@@ -84,6 +84,12 @@ constexpr std::array kAreas = {"Intime", "Delay", "Fullday", "Follow", "Panic", 
 constexpr std::array kControls = {"Normal", "EnableAlways", "DisableOnce", "DisableAlways"};
 constexpr std::array kLinks = {"None", "Preset", "Tour", "Pattern"};
 constexpr std::array kSplits = {"Split1", "Split4", "Split8", "Split9", "Split16", "PIP1"};
+constexpr std::array kVideoCodecs = {"H.264", "H.265", "MJPG", "MPEG4"};
+constexpr std::array kAudioCodecs = {"G.711A", "G.711Mu", "AAC", "PCM"};
+constexpr std::array kRateControls = {"CBR", "VBR"};
+constexpr std::array kPacks = {"QVAV", "PS"};
+constexpr std::array kProfiles = {"Baseline", "Main", "High"};
+constexpr std::array kRates = {"25.0", "30.0", "12.50", "15", "0.250"};
 constexpr std::array kDoors = {"Auto", "Open", "Close", "OpenAlways", "CloseAlways"};
 
 template <class Choices>
@@ -280,6 +286,31 @@ std::string Reply(Layout layout, Dice& dice, Content content) {
     return text.Take();
 }
 
+// Every key of a stream's format; pictures have no sound.
+void Format(TextBuilder& text, Dice& dice, bool pictures) {
+    text.Open('{');
+    if (!pictures) {
+        text.Key("Audio").Open('{').Key("Compression").Text(Pick(dice, kAudioCodecs)).Key("Depth").Number(16);
+        text.Key("Frequency").Number(dice.Chance(50) ? 8000 : 44100).Key("Mode").Number(dice.Below(8));
+        text.Key("Pack").Text(Pick(dice, kPacks)).Key("PacketPeriod").Number(dice.Between(10, 40)).Close('}');
+    }
+    text.Key("AudioEnable").Bool(dice.Chance(50)).Key("SnapEnable").Bool(pictures);
+    text.Key("Video").Open('{').Key("BitRate").Number(dice.Between(64, 8192));
+    text.Key("BitRateControl").Text(Pick(dice, kRateControls)).Key("Compression").Text(Pick(dice, kVideoCodecs));
+    text.Key("FPS").Raw(Pick(dice, kRates)).Key("GOP").Number(dice.Between(1, 150));
+    text.Key("Height").Number(dice.Between(144, 2160)).Key("Pack").Text(Pick(dice, kPacks));
+    text.Key("Profile").Text(Pick(dice, kProfiles)).Key("Quality").Number(dice.Between(1, 6));
+    text.Key("Width").Number(dice.Between(176, 3840)).Close('}');
+    text.Key("VideoEnable").Bool(dice.Chance(90)).Close('}');
+}
+
+void Formats(TextBuilder& text, Dice& dice, std::string_view key, int count, bool pictures) {
+    text.Key(key).Open('[');
+    for (int i = 0; i < count; ++i)
+        Format(text, dice, pictures);
+    text.Close(']');
+}
+
 // A channel of some configuration that no command here knows: a bit of everything.
 void SomeChannel(TextBuilder& text, Dice& dice) {
     text.Open('{');
@@ -417,6 +448,23 @@ Texts AlarmCapsReplies(int variants) {
                 text.Text(Pick(dice, kSenses));
             text.Close(']').Close('}');
         });
+    });
+}
+
+Texts EncodeReplies(int variants) {
+    return Variants(variants, 6, [](Dice& dice) {
+        TextBuilder text(dice.Chance(75) ? Layout::Device : Layout::Compact);
+        text.Open('{').Key("channel").Number(-1).Key("id").Number(dice.Below(1000));
+        text.Key("params").Open('{').Key("table").Open('[');
+        for (int channel = 0; channel < 16; ++channel) {
+            text.Open('{');
+            Formats(text, dice, "ExtraFormat", 3, false);
+            Formats(text, dice, "MainFormat", 3, false);
+            Formats(text, dice, "SnapFormat", 3, true);
+            text.Close('}');
+        }
+        text.Close(']').Close('}').Key("result").Bool(true).Key("session").Number(dice.Below(99999999)).Close('}');
+        return text.Take();
     });
 }
 

@@ -73,6 +73,7 @@ Texts AlarmReplies(int variants);
 Texts MotionDetectReplies(int variants);
 Texts SwitchReplies(int variants);
 Texts AlarmCapsReplies(int variants);
+Texts EncodeReplies(int variants); // all of 16 channels, about 50 KB
 
 // "Alarm" replies of one record whose lists (titles, tours, links) are filled until the text has nearly `size` bytes.
 Texts LongAlarmReplies(std::size_t size, int variants);
