@@ -30,7 +30,9 @@ constexpr EventRow kEvents[] = {
     Event(19, "VideoAbnormalDetection", kVideoAbnormalDetection),
     Event(21, "TrafficControl", kTrafficControl),
     Event(22, "TrafficAccident", kTrafficAccident),
-    Event(23, "TrafficJunction", kTrafficJunction).WithoutMemoryLogs("traffic continue"),
+    Event(23, "TrafficJunction", kTrafficJunction)
+        .Logs("traffic start", "ParseTraffic_JunctionInfo() start")
+        .WithoutMemoryLogs("traffic continue"),
     Event(24, "TrafficGate", kTrafficGate),
     Event(25, "TrafficSnapshot", kTrafficSnapshot),
     Event(26, "FaceDetection", kFaceDetection).Reports(12288),
@@ -41,8 +43,12 @@ constexpr EventRow kEvents[] = {
     Event(259, "TrafficTurnLeft", kTrafficTurnLeft),
     Event(260, "TrafficTurnRight", kTrafficTurnRight),
     Event(261, "TrafficU-Turn", kTrafficUTurn),
-    Event(262, "TrafficOverSpeed", kTrafficOverSpeed).WithoutMemoryLogs("overspeed continue"),
-    Event(263, "TrafficUnderSpeed", kTrafficUnderSpeed).WithoutMemoryLogs("under speed continue"),
+    Event(262, "TrafficOverSpeed", kTrafficOverSpeed)
+        .Logs("overspeed start", "overspeed  traffic car start", "overspeed  parse car data start")
+        .WithoutMemoryLogs("overspeed continue"),
+    Event(263, "TrafficUnderSpeed", kTrafficUnderSpeed)
+        .Logs("under speed start", "under speed traffic deal", "under speed start parse data")
+        .WithoutMemoryLogs("under speed continue"),
     Event(264, "TrafficParking", kTrafficParking),
     Event(265, "TrafficWrongRoute", kTrafficWrongRoute),
     Event(266, "TrafficCrossLane", kTrafficCrossLane),
@@ -109,7 +115,7 @@ constexpr EventRow kEvents[] = {
     Event(356, "SnapByTime", kSnapByTime).NeedsNoData(),
     Event(357, "PtzPreset", kPtzPreset),
     Event(358, "RFIDInfo", kRFIDInfo),
-    Event(360, "QSYTrafficCarWeight", kQSYTrafficCarWeight),
+    Event(360, "QSYTrafficCarWeight", kQSYTrafficCarWeight).Logs(nullptr, "ParseTraffic_JunctionInfo() start"),
     Event(361, "TrafficComparePlate", kTrafficComparePlate),
     Event(362, "ShootingScoreRecognition", kShootingScoreRecognition),
     Event(363, "TrafficFcc", kTrafficFcc),

@@ -15,6 +15,10 @@ struct EventRow {
     std::uint32_t reportedSize;     // what the callback is told
     bool needsNoData = false;       // delivered also without "Data"
     const char* noMemory = nullptr; // what the log says when there is no memory for the record
+    // What the log says before the record is made, before it is read, and before that when there is a "TrafficCar".
+    const char* making = nullptr;
+    const char* reading = nullptr;
+    const char* readingCar = nullptr;
     // The code under which an event of this name is delivered; null: its own.
     std::uint32_t (*rename)(const json::Value& data) noexcept = nullptr;
 
@@ -31,6 +35,14 @@ struct EventRow {
     constexpr EventRow WithoutMemoryLogs(const char* line) const {
         auto row = *this;
         row.noMemory = line;
+        return row;
+    }
+    constexpr EventRow Logs(const char* beforeMaking, const char* beforeReading,
+                            const char* beforeReadingCar = nullptr) const {
+        auto row = *this;
+        row.making = beforeMaking;
+        row.reading = beforeReading;
+        row.readingCar = beforeReadingCar;
         return row;
     }
     constexpr EventRow Renamed(std::uint32_t (*function)(const json::Value& data) noexcept) const {

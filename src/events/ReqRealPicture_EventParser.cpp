@@ -69,6 +69,7 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     if (row != nullptr && row->rename != nullptr) row = events::FindEvent(row->rename(data));
     if (row == nullptr) return;
 
+    if (row->making != nullptr) ORRERY_EVENT_DETAIL("%s", row->making);
     auto* const node = static_cast<EventNode*>(arena_.Allocate(sizeof(EventNode)));
     // Room for all that the callback is told of: some clients copy that much.
     const std::uint32_t size = std::max(row->recordSize, row->reportedSize);
@@ -86,6 +87,8 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     fields.wWidth = static_cast<std::uint16_t>(around.resolution);
     fields.wHeight = static_cast<std::uint16_t>(around.resolution >> 16);
     std::memcpy(fields.szRecordFile, around.source.szRecordFile, sizeof fields.szRecordFile);
+    if (row->reading != nullptr) ORRERY_EVENT_DETAIL("%s", row->reading);
+    if (row->readingCar != nullptr && !data["TrafficCar"].isNull()) ORRERY_EVENT_DETAIL("%s", row->readingCar);
     record::ReadRecord(*row->table, data, record, call);
 
     *node = {nullptr, nullptr, row->code, record, row->reportedSize};

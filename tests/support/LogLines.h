@@ -23,6 +23,15 @@ class LogLines : public LogSink {
                              [&](const Line& line) { return line.level == level && line.text == text; });
     }
 
+    // All lines of a level, in order.
+    std::vector<std::string> texts(E_LOG_LEVEL level) const {
+        std::vector<std::string> texts;
+        for (const Line& line : lines_) {
+            if (line.level == level) texts.push_back(line.text);
+        }
+        return texts;
+    }
+
     void SetPosition(const char*, int, E_LOG_LEVEL level) override { level_ = level; }
     void TraceOut(int, int, const char* format, char*& arguments) override {
         char text[1024];
