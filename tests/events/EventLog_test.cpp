@@ -30,10 +30,9 @@ TEST(EventLog, FollowsSpeedsAndTheirCars) {
                                                                "overspeed start", "overspeed  traffic car start"));
     EXPECT_THAT(LinesOf("TrafficUnderSpeed", "{}"),
                 ElementsAre("parseAlarmEvent start dwAlarmType[263]", "under speed start", "under speed traffic deal"));
-    EXPECT_THAT(
-        LinesOf("TrafficOverSpeed", R"({"TrafficCar":{}})"),
-        testing::IsSupersetOf({"overspeed start", "overspeed  traffic car start", "overspeed  parse car data start",
-                               "ParseStrtoTrafficCar() start input[{  }]"}));
+    EXPECT_THAT(LinesOf("TrafficOverSpeed", R"({"TrafficCar":{}})"),
+                testing::IsSupersetOf({"overspeed start", "overspeed  traffic car start",
+                                       "overspeed  parse car data start", "ParseStrtoTrafficCar() start input[{  }]"}));
     EXPECT_THAT(
         LinesOf("TrafficUnderSpeed", R"({"TrafficCar":{}})"),
         testing::IsSupersetOf({"under speed start", "under speed traffic deal", "under speed start parse data"}));

@@ -65,6 +65,9 @@ struct Packed {
     std::string text;
 };
 
+// Whether the reply length may be more than the buffer: commands whose length is that of what a whole one would hold.
+bool TellsMoreThanItFills(const Command& command);
+
 // Packs into a buffer that is large enough for any text of the record.
 Packed Pack(const Command& command, const void* record, std::size_t size);
 
