@@ -1,5 +1,6 @@
 #include "frame/Log.h"
 
+#include <atomic>
 #include <cstdarg>
 #include <mutex>
 
@@ -8,22 +9,20 @@ namespace {
 // Both are initialised at compile time, so a static initialiser of the host may log before this file's turn comes.
 // Sinks stay the host's property: the library owns none, so there is nothing to destroy when it is unloaded.
 constinit std::recursive_mutex logLock;
-constinit LogSink* installedSink = nullptr;
+constinit std::atomic<LogSink*> installedSink = nullptr; // changed and called under the lock only
 
 // Runs `call` on the sink, if there is one, under the log lock. Recursive, because a sink may log in its turn.
 template <class Call>
 void Forward(Call call) noexcept {
     const std::lock_guard<std::recursive_mutex> hold(logLock);
-    if (installedSink != nullptr) call(*installedSink);
+    if (LogSink* const sink = installedSink.load(std::memory_order_relaxed)) call(*sink);
 }
 
 } // namespace
 
 LogSink* LogOne_SetSink(LogSink* sink) {
     const std::lock_guard<std::recursive_mutex> hold(logLock);
-    LogSink* const former = installedSink;
-    installedSink = sink;
-    return former;
+    return installedSink.exchange(sink, std::memory_order_relaxed);
 }
 
 void LogOne_SetMaxSizeKB(int sizeKB) {
@@ -70,9 +69,7 @@ void LogTrace(std::uint32_t code, const char* format, ...) noexcept {
 }
 
 bool LogHasSink() noexcept {
-    bool has = false;
-    Forward([&](LogSink&) { has = true; });
-    return has;
+    return installedSink.load(std::memory_order_relaxed) != nullptr;
 }
 
 } // namespace orrery

@@ -66,6 +66,17 @@ void ReadSwitches(const Field& field, const Value& value, std::byte* at) noexcep
     }
 }
 
+// A record, with the name under which it stands for those that keep it.
+bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& call,
+               std::string_view memberName) noexcept {
+    if (table.startsWhenRead && table.hasDefaults) SetDefaults(table, at);
+    if (const Field* const name = table.memberName; name != nullptr) {
+        call.parser.GetJsonString(Value::OfString(memberName), reinterpret_cast<char*>(at + name->offset),
+                                  name->elementSize, true);
+    }
+    return ReadFields(table, value, at, call);
+}
+
 // One element of a field, or the whole member for the kinds that take it at once. False when a nested table refused.
 bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
                  std::string_view memberName) noexcept {
@@ -101,17 +112,8 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
     case Kind::Names:
         if (const auto code = field.names->CodeOf(value.asString())) StoreInteger(field.cell, at, *code);
         break;
-    case Kind::Record: {
-        const Table& table = *field.table;
-        if (table.startsWhenRead && table.hasDefaults) SetDefaults(table, at);
-        for (const Field& row : table) {
-            if (row.kind == Kind::MemberName) {
-                call.parser.GetJsonString(Value::OfString(memberName), reinterpret_cast<char*>(at + row.offset),
-                                          row.elementSize, true);
-            }
-        }
-        return ReadFields(table, value, at, call);
-    }
+    case Kind::Record:
+        return ReadNamed(*field.table, value, at, call, memberName);
     case Kind::TimeSection:
         JsonParser::GetTimeSection(value, reinterpret_cast<CFG_TIME_SECTION*>(at));
         break;
@@ -234,8 +236,7 @@ std::uint64_t PrefixOf(const json::Member& member) noexcept {
 
 // Below zero, zero or above zero as the node's key orders before, with or behind the member's. The first eight bytes
 // tell as a rule, and eight that overlap them tell that keys of up to sixteen are the same.
-int CompareToMember(const Table& table, const Node& node, const json::Member& member) noexcept {
-    const std::uint64_t prefix = PrefixOf(member);
+int CompareToMember(const Table& table, const Node& node, const json::Member& member, std::uint64_t prefix) noexcept {
     if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
     const std::string_view key = table.keyOf(node);
     if (key.size() == member.keySize && key.size() >= 8 && key.size() <= 16) {
@@ -254,12 +255,18 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
     const auto members = object.members();
     const json::Member* member = members.data();
     const json::Member* const membersEnd = member + members.size();
+    std::uint64_t prefix = member != membersEnd ? PrefixOf(*member) : 0;
     const Node* const end = table.nodes + range.first + range.count;
     for (const Node* node = table.nodes + range.first; node != end; ++node) {
-        int order = -1;
-        while (member != membersEnd && (order = CompareToMember(table, *node, *member)) > 0)
-            ++member;
-        const bool found = member != membersEnd && order == 0 && !member->value.isNull();
+        bool found = false;
+        while (member != membersEnd) {
+            const int order = CompareToMember(table, *node, *member, prefix);
+            if (order <= 0) {
+                found = order == 0 && !member->value.isNull();
+                break;
+            }
+            if (++member != membersEnd) prefix = PrefixOf(*member);
+        }
         if (!found && !node->needsAbsent) continue;
         const Value& value = found ? member->value : json::kNull;
         if (node->readPlainly != Plainly::No)
@@ -342,11 +349,8 @@ void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexc
 
 void ReadRecord(const Table& table, const Value& value, std::byte* record, ReadCall& call,
                 std::string_view memberName) noexcept {
-    if (table.hasDefaults) SetDefaults(table, record);
-    Field place;
-    place.kind = Kind::Record;
-    place.table = &table;
-    ReadElement(place, value, record, call, memberName);
+    if (table.hasDefaults && !table.startsWhenRead) SetDefaults(table, record);
+    ReadNamed(table, value, record, call, memberName);
 }
 
 } // namespace orrery::record

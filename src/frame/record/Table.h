@@ -67,7 +67,8 @@ struct Table {
     NodeRange fromRoot; // keys that start at the document
     NodeRange self;     // fields that are the value itself; a tuple's elements
 
-    const Field* amongKeys = nullptr; // the list whose members stand among the record's keys, when it has one
+    const Field* amongKeys = nullptr;  // the list whose members stand among the record's keys, when it has one
+    const Field* memberName = nullptr; // the row that keeps the name under which the record stands
 
     Shape shape = Shape::Object;
     bool hasDefaults = false;    // some field, nested ones included, starts at something other than zero
@@ -384,6 +385,7 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
             build::a_pointer_needs_its_capacity();
         }
         if (row.amongKeys) table.amongKeys = &row;
+        if (row.kind == Kind::MemberName) table.memberName = &row;
         if (row.cell == Cell::Record) {
             if (row.table->hasDefaults && !row.amongKeys && !row.table->startsWhenRead) table.hasDefaults = true;
             if (row.table->hasSizeWords) table.hasSizeWords = true;

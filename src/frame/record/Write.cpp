@@ -406,10 +406,8 @@ bool IsWritten(const Table& table, const std::byte* record) noexcept {
 }
 
 std::string_view MemberNameOf(const Table& table, const std::byte* record) noexcept {
-    for (const Field& field : table) {
-        if (field.kind == Kind::MemberName) return TextAt(record + field.offset, field.elementSize);
-    }
-    return {};
+    const Field* const name = table.memberName;
+    return name != nullptr ? TextAt(record + name->offset, name->elementSize) : std::string_view();
 }
 
 void WriteByName(const Table& table, const std::byte* first, std::uint32_t recordCount, std::uint32_t stride,
