@@ -62,13 +62,15 @@ constexpr Command OwnParse(std::string_view name, const record::Table& table,
 }
 
 // A buffer of items, described by the caller's record: read by a function of its own and, where there is one, written.
+// The frame's words tell tools where the items stand.
 constexpr Command Own(std::string_view name, const record::Table& table, Outcome (*parse)(const ParseRequest&),
-                      Outcome (*pack)(const PackRequest&)) {
+                      Outcome (*pack)(const PackRequest&), ParseFrame like = kParse) {
     Command command;
     command.name = name;
     command.table = &table;
     command.parse = Command::Frame::Own;
     if (pack != nullptr) command.pack = Command::Frame::Own;
+    command.parseFrame = like;
     command.ownParse = parse;
     command.ownPack = pack;
     return command;
@@ -158,7 +160,7 @@ constexpr Command kCommands[] = {
     // Analysis rules
     Own("VideoAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
     Own("AudioAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
-    Own("IVSFramRule", kAnalyseRules, ParseFrameRules, nullptr),
+    Own("IVSFramRule", kAnalyseRules, ParseFrameRules, nullptr, kParse.From(Source::Top, "VideoAnalyseRule")),
 };
 
 // ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----
