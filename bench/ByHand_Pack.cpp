@@ -1,4 +1,5 @@
 #include "bench/ByHand.h"
+#include "bench/ByHand_Names.h"
 
 #include <algorithm>
 #include <bit>
@@ -34,58 +35,9 @@ using rapidjson::kObjectType;
 using rapidjson::SizeType;
 using rapidjson::StringRef;
 
-constexpr const char* kSenses[] = {"DoorMagnetism",
-                                   "PassiveInfrared",
-                                   "GasSensor",
-                                   "SmokingSensor",
-                                   "WaterSensor",
-                                   "ActiveInfrared",
-                                   "GlassSensor",
-                                   "EmergencySwitch",
-                                   "ShockSensor",
-                                   "DoubleMethod",
-                                   "ThreeMethod",
-                                   "TempSensor",
-                                   "HumiditySensor",
-                                   "WindSensor",
-                                   "CallButton",
-                                   "GasPressure",
-                                   "GasConcentration",
-                                   "GasFlow",
-                                   "Oil",
-                                   "MileageSensor",
-                                   "OtherSensor",
-                                   "CO2",
-                                   "Sound",
-                                   "PM25",
-                                   "SF6",
-                                   "O3",
-                                   "AmbientLight",
-                                   "Infrared",
-                                   "Temp1500",
-                                   "TempDS18B20",
-                                   "Humidity1500",
-                                   "UrgencyButton",
-                                   "Steal",
-                                   "Perimeter",
-                                   "PreventRemove",
-                                   "DoorBell",
-                                   "AlterVolt",
-                                   "DirectVolt",
-                                   "AlterCur",
-                                   "DirectCur",
-                                   "RSUGeneral",
-                                   "RSUDoor",
-                                   "RSUPowerOff",
-                                   "CurtainSensor",
-                                   "MobileSensor",
-                                   "FireAlarm"};
-constexpr const char* kAreas[] = {nullptr,     "Intime",    "Delay",  "Fullday",      "Follow",
-                                  "Medical",   "Panic",     "Fire",   "FulldaySound", "FulldaySlient",
-                                  "Entrance1", "Entrance2", "Inside", "Outside",      "PeopleDetect"};
-constexpr const char* kControls[] = {"Normal", "EnableAlways", "DisableOnce", "DisableAlways"};
-constexpr const char* kLinks[] = {"None", "Preset", "Tour", "Pattern"};
-constexpr const char* kDoors[] = {nullptr, "Auto", "Open", "Close", "OpenAlways", "CloseAlways"};
+Value::StringRefType TextOf(std::string_view text) {
+    return StringRef(text.data(), static_cast<SizeType>(text.size()));
+}
 
 // A document under construction: its allocator, and short words for what the records need.
 struct Builder {
@@ -108,9 +60,9 @@ struct Builder {
         object.AddMember(StringRef(key), Text(field, C), pool);
     }
     template <std::size_t N, std::size_t C>
-    void Name(Value& object, const char (&key)[N], const char* const (&names)[C], int code) {
-        if (code < 0 || code >= static_cast<int>(C) || names[code] == nullptr) return;
-        object.AddMember(StringRef(key), StringRef(names[code]), pool);
+    void Name(Value& object, const char (&key)[N], const std::string_view (&names)[C], int code) {
+        if (code < 0 || code >= static_cast<int>(C) || names[code].empty()) return;
+        object.AddMember(StringRef(key), TextOf(names[code]), pool);
     }
     template <std::size_t N>
     void Mask(Value& object, const char (&key)[N], const uint32_t (&words)[ORRERY_CHANNEL_WORDS]) {
@@ -163,7 +115,7 @@ struct Builder {
         if (link.emType < 0 || link.emType > 3) return Value();
         Value list(kArrayType);
         list.Reserve(5, pool);
-        list.PushBack(StringRef(kLinks[link.emType]), pool);
+        list.PushBack(TextOf(kLinks[link.emType]), pool);
         for (const int number : {link.nValue, link.nParam1, link.nParam2, link.nParam3})
             list.PushBack(number, pool);
         return list;

@@ -1,3 +1,4 @@
+#include "bench/ByHand_Names.h"
 #include "bench/ByHand_Values.h"
 
 #include <algorithm>
@@ -9,58 +10,6 @@ namespace orrery::bench::byhand {
 
 namespace {
 
-constexpr std::string_view kSenses[] = {"DoorMagnetism",
-                                        "PassiveInfrared",
-                                        "GasSensor",
-                                        "SmokingSensor",
-                                        "WaterSensor",
-                                        "ActiveInfrared",
-                                        "GlassSensor",
-                                        "EmergencySwitch",
-                                        "ShockSensor",
-                                        "DoubleMethod",
-                                        "ThreeMethod",
-                                        "TempSensor",
-                                        "HumiditySensor",
-                                        "WindSensor",
-                                        "CallButton",
-                                        "GasPressure",
-                                        "GasConcentration",
-                                        "GasFlow",
-                                        "Oil",
-                                        "MileageSensor",
-                                        "OtherSensor",
-                                        "CO2",
-                                        "Sound",
-                                        "PM25",
-                                        "SF6",
-                                        "O3",
-                                        "AmbientLight",
-                                        "Infrared",
-                                        "Temp1500",
-                                        "TempDS18B20",
-                                        "Humidity1500",
-                                        "UrgencyButton",
-                                        "Steal",
-                                        "Perimeter",
-                                        "PreventRemove",
-                                        "DoorBell",
-                                        "AlterVolt",
-                                        "DirectVolt",
-                                        "AlterCur",
-                                        "DirectCur",
-                                        "RSUGeneral",
-                                        "RSUDoor",
-                                        "RSUPowerOff",
-                                        "CurtainSensor",
-                                        "MobileSensor",
-                                        "FireAlarm"};
-constexpr std::string_view kAreas[] = {"",          "Intime",    "Delay",  "Fullday",      "Follow",
-                                       "Medical",   "Panic",     "Fire",   "FulldaySound", "FulldaySlient",
-                                       "Entrance1", "Entrance2", "Inside", "Outside",      "PeopleDetect"};
-constexpr std::string_view kControls[] = {"Normal", "EnableAlways", "DisableOnce", "DisableAlways"};
-constexpr std::string_view kLinks[] = {"None", "Preset", "Tour", "Pattern"};
-constexpr std::string_view kDoors[] = {"", "Auto", "Open", "Close", "OpenAlways", "CloseAlways"};
 constexpr std::string_view kSensors[] = {"NC", "NO"};
 
 template <std::size_t N>
