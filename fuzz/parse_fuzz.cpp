@@ -55,7 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                                static_cast<std::uint32_t>(room), flavour == 1 ? nullptr : &length});
     if (length > room && !test::TellsMoreThanItFills(command)) std::abort();
     if (outcome == Outcome::OutOfMemory) std::abort();
-    if (outcome != Outcome::Done || !command.packs()) return 0;
+    // A command that takes a buffer of any size has filled the beginning of a record, which nobody can write.
+    if (outcome != Outcome::Done || !command.packs() || room < command.table->size) return 0;
 
     // What was read can be written, in order and with every bracket closed, whatever the text was.
     const test::Packed packed = test::Pack(command, buffer.get(), command.table->size);

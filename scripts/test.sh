@@ -27,6 +27,7 @@ done
 passed=0
 failed=0
 failures=()
+failed_stages=()
 times=()
 
 build() { # build PRESET BUILD_DIR
@@ -69,7 +70,7 @@ stage_asan() {
 # Each fuzz/NAME_fuzz.cpp is a target. It starts from fuzz/corpus/NAME and collects what it finds outside the tree.
 stage_fuzz() {
     build asan build/asan
-    local source target name found=0
+    local source target name input found=0
     : >"$results/fuzz.txt"
     for source in fuzz/*.cpp; do
         [ -e "$source" ] || continue
@@ -78,12 +79,17 @@ stage_fuzz() {
         name=${target%_fuzz}
         echo "fuzz: $name, $fuzz_seconds s"
         mkdir -p "$results/fuzz/$name"
-        if [ -d "fuzz/corpus/$name" ] && "build/asan/fuzz/$target" -max_total_time="$fuzz_seconds" -timeout=10 \
-            -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$results/fuzz/$name-" \
-            "$results/fuzz/$name" "fuzz/corpus/$name"; then
+        if [ ! -d "fuzz/corpus/$name" ]; then
+            echo "fuzz: error: no fuzz/corpus/$name for $source" >&2
+            echo "failed $target" >>"$results/fuzz.txt"
+        elif "build/asan/fuzz/$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
+            -print_final_stats=1 -artifact_prefix="$results/fuzz/$name-" "$results/fuzz/$name" "fuzz/corpus/$name"; then
             echo "passed $target" >>"$results/fuzz.txt"
         else
-            echo "fuzz: $target failed: no fuzz/corpus/$name, no such executable, or an input build/results/fuzz/$name-*" >&2
+            # The input itself: another machine has nothing but what is printed here.
+            for input in "$results/fuzz/$name"-*; do
+                [ ! -f "$input" ] || echo "fuzz: input $(basename "$input"), base64: $(base64 -w0 "$input")" >&2
+            done
             echo "failed $target" >>"$results/fuzz.txt"
         fi
     done
@@ -93,6 +99,13 @@ stage_fuzz() {
 stage_tsan() {
     build tsan build/tsan
     tests tsan build/tsan -R Thread
+}
+
+# What a failed stage complained of, from its log: the closing lines are all that some readers see.
+excerpt() { # excerpt STAGE
+    echo "=== $1, from build/results/$1.log"
+    grep -aE -A 12 ': Failure$|ERROR: |error: ' "$results/$1.log" | cut -c 1-300 | head -n 80 || true
+    grep -a '^fuzz: input ' "$results/$1.log" || true
 }
 
 # Adds up what a stage left behind. A stage without results of its own counts as one.
@@ -125,7 +138,7 @@ collect() { # collect STAGE STATUS
 }
 
 run_stage() {
-    local stage=$1 status=0 start=$SECONDS
+    local stage=$1 status=0 start=$SECONDS failed_before=$failed
     echo
     echo "=== $stage"
     rm -rf "${results:?}/$stage" "${results:?}/$stage".*
@@ -135,6 +148,7 @@ run_stage() {
     status=${PIPESTATUS[0]}
     set -e
     collect "$stage" "$status"
+    if [ "$failed" -gt "$failed_before" ]; then failed_stages+=("$stage"); fi
     times+=("$(printf '%-8s %4d s' "$stage" $((SECONDS - start)))")
     echo "=== $stage: $((SECONDS - start)) s"
 }
@@ -152,8 +166,8 @@ echo
 echo "=== times"
 printf '%s\n' "${times[@]}" "$(printf '%-8s %4d s' total "$SECONDS")"
 if [ $failed -gt 0 ]; then
-    echo "=== failed"
-    printf '%s\n' "${failures[@]}"
+    for stage in "${failed_stages[@]}"; do excerpt "$stage"; done
+    printf '%s\n' "=== failed" "${failures[@]}"
 fi
 echo "$passed passed, $failed failed"
 [ $failed -eq 0 ]
