@@ -1,6 +1,7 @@
 // orrery_bench [--benchmark_...]: every call on its own, in nanoseconds, by Google Benchmark.
 // orrery_bench --table [--quick]: heap use, then the table of ratios.
 #include "bench/Calls.h"
+#include "bench/Events.h"
 #include "bench/Readers.h"
 #include "bench/Tables.h"
 
@@ -58,6 +59,14 @@ void RegisterCalls(const char* name, CallBench<R>& bench) {
     Register(prefix + "pack_by_hand", bench.records.size(), 0, [&](std::size_t i) { return bench.PackTheirs(i); });
 }
 
+void RegisterEvents(const char* name, EventBench& bench) {
+    const std::string prefix = std::string("events/") + name + '/';
+    const std::size_t texts = bench.texts.size();
+    Register(prefix + "decode", texts, BytesOf(bench.texts), [&](std::size_t i) { return bench.Decode(i); });
+    Register(prefix + "rapidjson_and_clear", texts, BytesOf(bench.texts),
+             [&](std::size_t i) { return bench.ParseTextAndClear(i); });
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -95,6 +104,10 @@ int main(int argc, char** argv) {
     RegisterCalls("MotionDetect", motion);
     RegisterCalls("PwdReset", switches);
     RegisterCalls("alarm.getAlarmCaps", caps);
+    auto junction = MakeJunctionBench(48);
+    auto manyEvents = MakeManyEventsBench(24);
+    RegisterEvents("junction", junction);
+    RegisterEvents("128", manyEvents);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     benchmark::RunSpecifiedBenchmarks();

@@ -2,6 +2,8 @@
 
 #include "analyse/AlarmNames.h"
 #include "analyse/RuleNames.h"
+#include "frame/NameHash.h"
+#include "frame/json/Value.h"
 
 #include <algorithm>
 #include <array>
@@ -59,10 +61,8 @@ constexpr RowsByCode kDeviceForms = ByCode([](const RuleName& row) { return row.
 // ---- Name to code: an open-addressing index, made when the library is compiled ----
 
 constexpr std::uint32_t Hash(std::string_view name) {
-    std::uint32_t hash = 2166136261u; // FNV-1a
-    for (char c : name)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
-    return hash ^ (hash >> 15);
+    const std::string_view tail = name.size() < 8 ? name : name.substr(name.size() - 8);
+    return NameHash(json::KeyPrefix(name), json::KeyPrefix(tail), name.size());
 }
 
 constexpr auto kIndex = [] {

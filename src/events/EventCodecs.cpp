@@ -10,22 +10,6 @@ namespace orrery::events {
 
 using json::Value;
 
-void ReadFullText(const Value& value, char* field, std::size_t capacity, JsonParser& parser) noexcept {
-    if (!value.isString()) return;
-    const std::string_view text = value.asString().substr(0, capacity);
-    if (parser.text().isCopyOf(text)) {
-        std::memcpy(field, text.data(), text.size());
-        std::memset(field + text.size(), 0, capacity - text.size());
-        return;
-    }
-    char converted[512]; // above the capacity of every such field, with room for the terminator
-    if (capacity >= sizeof converted) capacity = sizeof converted - 1;
-    const int size = parser.text().ConvertUtf8ToLocal(text.data(), static_cast<int>(text.size()), converted,
-                                                      static_cast<int>(capacity) + 1);
-    std::memcpy(field, converted, static_cast<std::size_t>(size));
-    std::memset(field + size, 0, capacity - static_cast<std::size_t>(size));
-}
-
 const char* OwnText(const Value& value, ReadCall& call) noexcept {
     const std::size_t size = value.asString().size();
     auto* const block = call.parser.text().arena().Array<char>(size + 1);
@@ -53,11 +37,6 @@ void ReadTextBlock(const Field& field, const Value& value, std::byte* record, st
     Store<const char*>(record + field.offset, block);
 }
 
-void StoreUtc(std::int64_t seconds, EVENT_TIME& time) noexcept {
-    const NET_TIME fields = JsonParser::UtcSecondsToNetTime(seconds);
-    std::memcpy(static_cast<void*>(&time), &fields, sizeof fields);
-}
-
 std::int64_t WholeOf(double number) noexcept {
     using Limits = std::numeric_limits<std::int64_t>;
     if (std::isnan(number)) return 0;
@@ -67,15 +46,6 @@ std::int64_t WholeOf(double number) noexcept {
 }
 
 namespace {
-
-void ReadFullTextField(const Field& field, const Value& value, std::byte* record, ReadCall& call) {
-    ReadFullText(value, reinterpret_cast<char*>(record + field.offset), field.elementSize, call.parser);
-}
-
-void ReadUtcTime(const Field& field, const Value& value, std::byte* record, ReadCall&) {
-    const NET_TIME time = JsonParser::UtcSecondsToNetTime(value.asUInt());
-    std::memcpy(record + field.offset, &time, sizeof time);
-}
 
 void ReadPackedColor(const Field& field, const Value& value, std::byte* record, ReadCall&) {
     std::uint32_t color = 0;
@@ -151,8 +121,6 @@ void ReadByKeys(const Field& field, const Value& value, std::byte* record, ReadC
 
 } // namespace
 
-constexpr CustomCodec kFullText{ReadFullTextField};
-constexpr CustomCodec kUtcTime{ReadUtcTime};
 constexpr CustomCodec kPackedColor{ReadPackedColor};
 constexpr CustomCodec kWholeReal{ReadWholeReal};
 constexpr CustomCodec kDegrees{ReadDegrees};

@@ -5,6 +5,11 @@
 
 #include "orrery/events_vehicle.h"
 
+template <>
+inline constexpr bool orrery::record::kBeginsAsNetTime<EVENT_TIME> = true;
+template <>
+inline constexpr bool orrery::record::kBeginsAsNetTime<EVENT_CALENDAR> = true;
+
 namespace orrery::events {
 
 using namespace record;
@@ -21,13 +26,6 @@ using namespace record;
     };                                                                                                                 \
     inline constexpr word##Codec word {}
 
-template <class T>
-inline constexpr bool kIsMoment = std::is_same_v<T, EVENT_TIME> || std::is_same_v<T, EVENT_CALENDAR>;
-
-// A text cut at the field's capacity and only then converted: it may fill the field to its last byte.
-ORRERY_EVENT_CODEC(FullText, kFullText, kIsText<T>);
-// Seconds since 1970; a field's milliseconds are left alone.
-ORRERY_EVENT_CODEC(UtcTime, kUtcTime, kIsMoment<T>);
 // [ r, g, b, a ] with the first in the highest byte.
 ORRERY_EVENT_CODEC(PackedColor, kPackedColor, (std::is_same_v<T, std::uint32_t>));
 // A real without its fraction, cut to the field's width.
@@ -156,11 +154,9 @@ inline constexpr TextBlockCodec<Capacity> TextBlock{};
 
 // ---- The same as functions, for what a row can't say ----
 
-void ReadFullText(const json::Value& value, char* field, std::size_t capacity, JsonParser& parser) noexcept;
 // The block of a text; null when there is no memory.
 const char* OwnText(const json::Value& value, ReadCall& call) noexcept;
 const char* OwnText(std::string_view text, Arena& arena) noexcept;
-void StoreUtc(std::int64_t seconds, EVENT_TIME& time) noexcept;
 // Without the fraction; the nearest 64-bit integer when there is none, 0 for no number.
 std::int64_t WholeOf(double number) noexcept;
 // Unsigned when the text's number is.

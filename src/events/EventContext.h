@@ -14,23 +14,10 @@ struct EventSourceInfo {
     char szVideoPath[256];
 };
 
-// Made once an event; the rows of a record name what they copy from it.
+// What a record's rows copy because it is not in the event's own data. Only what differs from event to event is set for
+// each.
 struct EventContext {
     std::int32_t nChannelID;
-    char szName[128];
-    double dPTS;
-    std::uint32_t dwPTS;
-    EVENT_TIME stuUTC;
-    std::uint32_t dwUTCMS;
-    std::int32_t nEventID;
-    double dInitialUTC;
-    std::int32_t nSourceIndex;
-    char szSourceDevice[260];
-    std::uint32_t bIsExistAlarmRecord;
-    std::uint32_t dwAlarmRecordSize;
-    char szAlarmRecordPath[256];
-    std::uint32_t dwCount;
-
     EVENT_FILE_INFO stuFileInfo;
     std::uint8_t byEventAction;
     std::uint8_t byRepeat;
@@ -55,8 +42,8 @@ inline const EventCall& EventOf(const ReadCall& call) noexcept {
     return *static_cast<const EventCall*>(call.context);
 }
 
-// Reads the keys of "Data" that every event has; all else of `fields` is left as it is.
-void ReadCommonKeys(const json::Value& data, EventContext& fields, ReadCall& call) noexcept;
+// The source device of a device that names its source: one that names none has no source device either.
+extern const CustomCodec kSourceDevice;
 
 } // namespace orrery::events
 
@@ -65,22 +52,7 @@ void ReadCommonKeys(const json::Value& data, EventContext& fields, ReadCall& cal
 #define ORRERY_FROM_EVENT(member, source) FIELD(member, SUPPLIED(::orrery::events::EventContext, source))
 #define ORRERY_SAME_FROM_EVENT(member) ORRERY_FROM_EVENT(member, member)
 
-// The heads, field by field.
-#define HEAD_A_WITH(...)                                                                                               \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), __VA_ARGS__, ORRERY_SAME_FROM_EVENT(dPTS),     \
-        ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID)
-#define HEAD_A HEAD_A_WITH(FIELD(byReservedHead))
-#define HEAD_B                                                                                                         \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), FIELD(nTriggerType, "TriggerType", Int),       \
-        ORRERY_SAME_FROM_EVENT(dwPTS), ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID)
-#define HEAD_PTS                                                                                                       \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), ORRERY_SAME_FROM_EVENT(dwPTS),                 \
-        ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID)
-#define HEAD_C                                                                                                         \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), FIELD(byReservedHead),                         \
-        ORRERY_SAME_FROM_EVENT(dwPTS), ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID)
-
-// The closing fields.
+#define CHANNEL ORRERY_SAME_FROM_EVENT(nChannelID)
 #define FILE_INFO ORRERY_SAME_FROM_EVENT(stuFileInfo)
 #define ACTION ORRERY_SAME_FROM_EVENT(byEventAction)
 #define REPEAT ORRERY_SAME_FROM_EVENT(byRepeat)
@@ -88,12 +60,30 @@ void ReadCommonKeys(const json::Value& data, EventContext& fields, ReadCall& cal
 #define FLAG_MASK ORRERY_SAME_FROM_EVENT(dwFlagMask)
 #define WIDTH ORRERY_SAME_FROM_EVENT(wWidth)
 #define HEIGHT ORRERY_SAME_FROM_EVENT(wHeight)
-#define SOURCE ORRERY_SAME_FROM_EVENT(nSourceIndex), ORRERY_SAME_FROM_EVENT(szSourceDevice)
-#define COUNT ORRERY_SAME_FROM_EVENT(dwCount)
-#define ALARM_RECORD ORRERY_SAME_FROM_EVENT(bIsExistAlarmRecord), ORRERY_SAME_FROM_EVENT(dwAlarmRecordSize)
-#define ALARM_RECORD_PATH ORRERY_SAME_FROM_EVENT(szAlarmRecordPath)
+#define RESOLUTION ORRERY_SAME_FROM_EVENT(dwResolution)
 
-// Members that read the same in every record.
+// ---- Members that read the same in every record ------------------------------------------------------------------
+
+#define RULE_NAME FIELD(szName, "Name", FullText)
+#define TIME_STAMP FIELD(dPTS, "PTS", Real)
+#define WHOLE_TIME_STAMP FIELD(dwPTS, "PTS", WholeReal)
+#define UTC FIELD(stuUTC, "UTC", UtcTime), MILLISECONDS_OF(stuUTC, "UTCMS")
+#define INITIAL_UTC FIELD(dInitialUTC, "InitialUTC", Real)
+#define EVENT_ID FIELD(nEventID, "EventID", Int)
+#define SOURCE_DEVICE FIELD(szSourceDevice, "SourceDevice", Custom(::orrery::events::kSourceDevice))
+#define SOURCE FIELD(nSourceIndex, "SourceIndex", Int).Absent(-1), SOURCE_DEVICE
+#define COUNT FIELD(dwCount, "Count", UInt).Only(OnlyType::Integral)
+#define ALARM_RECORD                                                                                                   \
+    FIELD(bIsExistAlarmRecord, "IsExistAlarmRecord", Bool), FIELD(dwAlarmRecordSize, "AlarmRecordSize", UInt)
+#define ALARM_RECORD_PATH FIELD(szAlarmRecordPath, "AlarmRecordPath", Text)
+
+// The heads, field by field.
+#define HEAD_A_WITH(...) CHANNEL, RULE_NAME, __VA_ARGS__, TIME_STAMP, UTC, EVENT_ID
+#define HEAD_A HEAD_A_WITH(FIELD(byReservedHead))
+#define HEAD_B CHANNEL, RULE_NAME, FIELD(nTriggerType, "TriggerType", Int), WHOLE_TIME_STAMP, UTC, EVENT_ID
+#define HEAD_PTS CHANNEL, RULE_NAME, WHOLE_TIME_STAMP, UTC, EVENT_ID
+#define HEAD_C CHANNEL, RULE_NAME, FIELD(byReservedHead), WHOLE_TIME_STAMP, UTC, EVENT_ID
+
 #define OBJECT FIELD(stuObject, "Object", Record(::orrery::events::kObject))
 #define VEHICLE FIELD(stuVehicle, "Vehicle", Record(::orrery::events::kObject))
 #define EVENT_CLASS FIELD(emClass, "Class", Names(::orrery::events::kSceneClasses))

@@ -64,10 +64,9 @@ TABLE(kCrossFenceDetection, DEV_EVENT_CROSSFENCEDETECTION_INFO, HEAD_A, OBJECT,
       FIELD(emDirection, "Direction", Names(kLineDirections)));
 
 TABLE(kClimbDetection, DEV_EVENT_CLIMBDETECTION_INFO, HEAD_A, GROUP_NUMBERS, OBJECT,
-      POINTS(stuDetectLine, nDetectLineNum, "DetectLine"), EVENT_CLASS, ACTION, ORRERY_SAME_FROM_EVENT(dwResolution),
-      COUNT, REPEAT);
+      POINTS(stuDetectLine, nDetectLineNum, "DetectLine"), EVENT_CLASS, ACTION, RESOLUTION, COUNT, REPEAT);
 
 TABLE(kLeaveDetection, DEV_EVENT_LEAVEDETECTION_INFO, HEAD_A, GROUP_NUMBERS, OBJECT, DETECT_REGION, EVENT_CLASS, ACTION,
-      ORRERY_SAME_FROM_EVENT(dwResolution), REPEAT);
+      RESOLUTION, REPEAT);
 
 } // namespace orrery::events

@@ -58,12 +58,9 @@ std::uint32_t CrossLineCode(const json::Value& data) noexcept;
 // ---- Rows that several of these records have ----
 
 // The head of records that keep nothing behind the name.
-#define HEAD_SHORT                                                                                                     \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), ORRERY_SAME_FROM_EVENT(dPTS),                  \
-        ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID)
+#define HEAD_SHORT CHANNEL, RULE_NAME, TIME_STAMP, UTC, EVENT_ID
 // What opens records without a time.
-#define HEAD_UNTIMED                                                                                                   \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(szName), ORRERY_SAME_FROM_EVENT(nEventID)
+#define HEAD_UNTIMED CHANNEL, RULE_NAME, EVENT_ID
 #define ACTION_NUMBER ORRERY_FROM_EVENT(nEventAction, nAction)
 #define OBJECTS FIELD(nObjectNum), FIELD(stuObjects, "Objects", Record(::orrery::events::kObject)).Count(AT(nObjectNum))
 // As many objects as the text has, in a block of their own.

@@ -42,11 +42,10 @@ PART(kFaceAttributes, EVENT_FACE_ATTRIBUTES, FIELD(nAge, "Age", Int), FIELD(nBea
         FIELD(stuBoundingBox, "BoundingBox", Record(record::kRect)), FIELD(szImagePath, "Image/FilePath", Text),       \
         FIELD(wImageWidth, "Image/Width", Int), FIELD(wImageHeight, "Image/Height", Int), REPEAT, FLAG_MASK
 
-TABLE(kPersonFeature, DEV_EVENT_PERSONFEATURE_INFO, HEAD_SHORT, FILE_INFO, ACTION,
-      ORRERY_SAME_FROM_EVENT(szSourceDevice), LOOKS);
+TABLE(kPersonFeature, DEV_EVENT_PERSONFEATURE_INFO, HEAD_SHORT, FILE_INFO, ACTION, SOURCE_DEVICE, LOOKS);
 
-TABLE(kNonMotorFeature, DEV_EVENT_NONMOTORFEATURE_INFO, HEAD_SHORT, FILE_INFO, ACTION,
-      ORRERY_SAME_FROM_EVENT(szSourceDevice), FIELD(szPlateNumber, "PlateNumber", Text), LOOKS);
+TABLE(kNonMotorFeature, DEV_EVENT_NONMOTORFEATURE_INFO, HEAD_SHORT, FILE_INFO, ACTION, SOURCE_DEVICE,
+      FIELD(szPlateNumber, "PlateNumber", Text), LOOKS);
 
 TABLE(kHumanTrait, DEV_EVENT_HUMANTRAIT_INFO, HEAD_UNTIMED, ORRERY_SAME_FROM_EVENT(dwAction), EVENT_CLASS_OR_TRAFFIC,
       FIELD(nGroupID, "GroupID", Int).Only(OnlyType::Integer),

@@ -74,8 +74,7 @@ TABLE(kXRayDetection, DEV_EVENT_XRAYDETECTION_INFO, HEAD_A, EVENT_CLASS_OR_TRAFF
       FIELD(nPacketGrade, "Packet/Grade", GRADE).Absent(-1), FIELD(nInsideNum),
       FIELD(stuInside, "Inside", Record(kInside)).Count(AT(nInsideNum)));
 
-TABLE(kVehicleRecognition, DEV_EVENT_VEHICLERECOGNITION_INFO, ORRERY_SAME_FROM_EVENT(szName),
-      ORRERY_SAME_FROM_EVENT(dPTS), ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(nEventID),
+TABLE(kVehicleRecognition, DEV_EVENT_VEHICLERECOGNITION_INFO, RULE_NAME, TIME_STAMP, UTC, EVENT_ID,
       OF_VEHICLE(emAction, "Action", Names(kVehicleActions)), OBJECT, VEHICLE,
       OF_VEHICLE(stuMainSeat, "MainSeat", Record(kVehicleSeat)),
       OF_VEHICLE(stuSlaveSeat, "SlaveSeat", Record(kVehicleSeat)),

@@ -37,9 +37,8 @@ TABLE(kQueueDetection, DEV_EVENT_QUEUEDETECTION_INFO, HEAD_A, FILE_INFO, ACTION_
       POINTS(stuDetectLine, nDetectLineNum, "DetectLine"), COUNT)
     .AfterRead(ForgetOtherLines);
 
-TABLE(kCrowdDetection, DEV_EVENT_CROWDDETECTION_INFO, ORRERY_SAME_FROM_EVENT(nChannelID),
-      ORRERY_SAME_FROM_EVENT(nEventID), ORRERY_SAME_FROM_EVENT(dPTS), ORRERY_SAME_FROM_EVENT(stuUTC), ACTION_NUMBER,
-      FIELD(emAlarmType, "AlarmMask", Custom(kCrowdAlarm)), ORRERY_SAME_FROM_EVENT(szName), FIELD(nCrowdListNum),
+TABLE(kCrowdDetection, DEV_EVENT_CROWDDETECTION_INFO, CHANNEL, EVENT_ID, TIME_STAMP, UTC, ACTION_NUMBER,
+      FIELD(emAlarmType, "AlarmMask", Custom(kCrowdAlarm)), RULE_NAME, FIELD(nCrowdListNum),
       FIELD(stuCrowdList, "CrowdList", Record(kCrowd)).Count(AT(nCrowdListNum)), FIELD(nRegionListNum),
       FIELD(stuRegionList, "RegionList", Record(kCrowdRegion)).Count(AT(nRegionListNum)));
 

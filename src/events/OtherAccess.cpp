@@ -84,8 +84,7 @@ TABLE(kCitizenIDCard, DEV_EVENT_CITIZENIDCARD_INFO, HEAD_C, FIELD(nGroupID, "Gro
       FIELD(szNumber, "Number", Text), FIELD(szAuthority, "Authority", Text), FIELD(stuStart, "Start", Date),
       FIELD(bLongTerm, "End", Custom(kLongTerm)), FIELD(stuEnd, "End", Date));
 
-TABLE(kCitizenPictureCompare, DEV_EVENT_CITIZENPICTURECOMPARE_INFO, ORRERY_SAME_FROM_EVENT(nChannelID), ACTION,
-      ORRERY_SAME_FROM_EVENT(dPTS), ORRERY_SAME_FROM_EVENT(szName), ORRERY_SAME_FROM_EVENT(stuUTC),
+TABLE(kCitizenPictureCompare, DEV_EVENT_CITIZENPICTURECOMPARE_INFO, CHANNEL, ACTION, TIME_STAMP, RULE_NAME, UTC,
       FIELD(byCompareResult, "CompareResult", Int), FIELD(bySimilarity, "Similarity", Int),
       FIELD(byThreshold, "Threshold", Int), SEX, FIELD(dwEthnicity, "Ethnicity", UInt),
       FIELD(szCitizen, "Citizen", Text), FIELD(szAddress, "Address", Text), FIELD(szNumber, "Number", Text),

@@ -31,14 +31,11 @@ TABLE(kVehicleCollision, DEV_EVENT_VEHICLECOLLISION_INFO, ACCIDENT_ROWS);
 TABLE(kAccOffSnap, DEV_EVENT_ACCOFFSNAP_INFO, HEAD_A);
 TABLE(kBusSharpTurn, DEV_EVENT_BUSSHARPTURN_INFO, HEAD_A, ACTION, GPS_STATUS);
 
-TABLE(kHighSpeed, DEV_EVENT_HIGHSPEED_INFO, ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(nAction),
-      ORRERY_SAME_FROM_EVENT(stuUTC), ORRERY_SAME_FROM_EVENT(dPTS), GPS_STATUS, FIELD(nSpeedLimit, "SpeedLimit", Int),
-      FIELD(nCurSpeed, "CurSpeed", Int), FIELD(nMaxSpeed, "MaxSpeed", Int),
+TABLE(kHighSpeed, DEV_EVENT_HIGHSPEED_INFO, CHANNEL, ORRERY_SAME_FROM_EVENT(nAction), UTC, TIME_STAMP, GPS_STATUS,
+      FIELD(nSpeedLimit, "SpeedLimit", Int), FIELD(nCurSpeed, "CurSpeed", Int), FIELD(nMaxSpeed, "MaxSpeed", Int),
       FIELD(stuStartTime, "StartTime", NetTimeEx).Only(OnlyType::String));
 
-#define FLEET_ROWS                                                                                                     \
-    ORRERY_SAME_FROM_EVENT(nChannelID), ORRERY_SAME_FROM_EVENT(stuUTC), ACTION, REPEAT, FLAG_MASK,                     \
-        ORRERY_SAME_FROM_EVENT(dwResolution), COMM_INFO_ALONE
+#define FLEET_ROWS CHANNEL, UTC, ACTION, REPEAT, FLAG_MASK, RESOLUTION, COMM_INFO_ALONE
 TABLE(kNotClearCar, DEV_EVENT_NOTCLEARCAR_INFO, FLEET_ROWS);
 TABLE(kSOSAlert, DEV_EVENT_SOSALERT_INFO, FLEET_ROWS);
 TABLE(kOverLoad, DEV_EVENT_OVERLOAD_INFO, FLEET_ROWS);
@@ -53,8 +50,7 @@ TABLE(kTrafficDriverLookAround, DEV_EVENT_TRAFFICDRIVERLOOKAROUND_INFO, HEAD_A, 
 TABLE(kTrafficDriverLeavePost, DEV_EVENT_TRAFFICDRIVERLEAVEPOST_INFO, HEAD_A, GPS_STATUS);
 TABLE(kTrafficDriverYawn, DEV_EVENT_TRAFFICDRIVERYAWN_INFO, HEAD_A, GPS_STATUS);
 
-TABLE(kDrivingWithoutCard, DEV_EVENT_DRIVINGWITHOUTCARD_INFO, ORRERY_SAME_FROM_EVENT(nChannelID), ACTION,
-      ORRERY_SAME_FROM_EVENT(dPTS), ORRERY_SAME_FROM_EVENT(stuUTC));
+TABLE(kDrivingWithoutCard, DEV_EVENT_DRIVINGWITHOUTCARD_INFO, CHANNEL, ACTION, TIME_STAMP, UTC);
 
 // ---- Fuel, size, tag ---------------------------------------------------------------------------------------------
 

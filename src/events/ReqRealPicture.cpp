@@ -58,16 +58,16 @@ std::int32_t CReqRealPicture::deserialize(const char* text, std::size_t) noexcep
 
 namespace {
 
-// The place of a text in a list, case folded; the list's size when it is in none.
-template <std::size_t N>
-std::size_t PlaceOf(std::string_view text, const std::string_view (&list)[N]) noexcept {
-    return static_cast<std::size_t>(
-        std::find_if(list, list + N, [&](std::string_view known) { return EqualsFolded(text, known); }) - list);
-}
-
-constexpr std::string_view kTransferModes[] = {"Realtime", "Offline", "OfflineOver"};
-constexpr std::string_view kFlags[] = {"*", "Timing", "Manual", "Marked", "Event", "Mosaic", "Cutout"};
-constexpr std::string_view kFileTags[] = {"ATMBeforePaste", "ATMAfterPaste"};
+constexpr record::Name kTransferModeRows[] = {{CReqRealPicture::kRealtime, "Realtime"},
+                                              {CReqRealPicture::kOffline, "Offline"},
+                                              {CReqRealPicture::kOfflineOver, "OfflineOver"}};
+constexpr record::NameTable kTransferModes = record::FoldedNames(kTransferModeRows).Unknown(-1);
+// The bit of each.
+constexpr record::Name kFlagRows[] = {{0, "*"},     {1, "Timing"}, {2, "Manual"}, {3, "Marked"},
+                                      {4, "Event"}, {5, "Mosaic"}, {6, "Cutout"}};
+constexpr record::NameTable kFlags = record::FoldedNames(kFlagRows).UnknownLeaves();
+constexpr record::Name kFileTagRows[] = {{1, "ATMBeforePaste"}, {2, "ATMAfterPaste"}};
+constexpr record::NameTable kFileTags = record::FoldedNames(kFileTagRows);
 
 // A flag that stands twice carries into the next bit: clients know the sum, not the union.
 std::uint32_t FlagMask(const Value& flags) noexcept {
@@ -76,8 +76,7 @@ std::uint32_t FlagMask(const Value& flags) noexcept {
     std::uint32_t mask = 0;
     const auto texts = flags.elements();
     for (const Value& flag : texts.first(std::min(texts.size(), kMostFlags))) {
-        const std::size_t bit = PlaceOf(flag.asString(), kFlags);
-        if (bit < std::size(kFlags)) mask += std::uint32_t{1} << bit;
+        if (const auto bit = kFlags.CodeOf(flag.asString())) mask += std::uint32_t{1} << *bit;
     }
     return mask;
 }
@@ -85,10 +84,8 @@ std::uint32_t FlagMask(const Value& flags) noexcept {
 } // namespace
 
 void CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcept {
-    if (const Value& transfer = info["Transfer"]; !transfer.isNull()) {
-        const std::size_t mode = PlaceOf(transfer.asString(), kTransferModes);
-        nTransferMode = mode < std::size(kTransferModes) ? static_cast<std::uint32_t>(mode) : ~std::uint32_t{0};
-    }
+    if (const Value& transfer = info["Transfer"]; !transfer.isNull())
+        nTransferMode = static_cast<std::uint32_t>(kTransferModes.CodeOf(transfer.asString()).value_or(-1));
     if (const Value& channel = info["Channel"]; !channel.isNull()) nChannel = channel.asInt();
     EVENT_FILE_INFO& file = around.fileInfo;
     const Value& count = info["CountInGroup"];
@@ -105,8 +102,7 @@ void CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcep
         events::ReadSplitTime(time.asString(), fields);
         std::memcpy(static_cast<void*>(&file.stuFileTime), fields, sizeof fields);
     }
-    const std::size_t tag = PlaceOf(info["Tag"].asString(), kFileTags);
-    file.byFileTag = tag < std::size(kFileTags) ? static_cast<std::uint8_t>(tag + 1) : 0;
+    file.byFileTag = static_cast<std::uint8_t>(kFileTags.CodeOf(info["Tag"].asString()).value_or(0));
     const Value& resolution = info["Resolution"];
     around.resolution = static_cast<std::uint16_t>(resolution[0u].asInt())
                         | static_cast<std::uint32_t>(static_cast<std::uint16_t>(resolution[1u].asInt())) << 16;

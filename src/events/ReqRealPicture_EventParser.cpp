@@ -5,7 +5,6 @@
 #include "events/ReqRealPicture.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace orrery {
 
@@ -16,7 +15,9 @@ using json::Value;
 namespace {
 
 constexpr std::uint32_t kMostEvents = 128;
-constexpr std::string_view kActions[] = {"Pulse", "Start", "Stop"};
+constexpr record::Name kActionRows[] = {
+    {EVENT_ACTION_PULSE, "Pulse"}, {EVENT_ACTION_START, "Start"}, {EVENT_ACTION_STOP, "Stop"}};
+constexpr record::NameTable kActions = record::FoldedNames(kActionRows).UnknownLeaves();
 
 // The group goes on to the events that follow and name none.
 void ReadGroup(const Value& data, EVENT_FILE_INFO& fileInfo) noexcept {
@@ -37,6 +38,14 @@ std::uint32_t CodeOf(const Value& event) noexcept {
 void CReqRealPicture::parseAlarmEvent(const Value& events, Circumstances& around) noexcept {
     EventCall common{};
     common.source = &around.source;
+    events::EventContext& fields = common.fields;
+    fields.nChannelID = nChannel;
+    fields.byRepeat = static_cast<std::uint8_t>(around.source.nRepeat);
+    fields.dwFlagMask = around.flagMask;
+    fields.dwResolution = around.resolution;
+    fields.wWidth = static_cast<std::uint16_t>(around.resolution);
+    fields.wHeight = static_cast<std::uint16_t>(around.resolution >> 16);
+    std::memcpy(fields.szRecordFile, around.source.szRecordFile, sizeof fields.szRecordFile);
     const auto all = events.elements();
     for (const Value& event : all.first(std::min<std::size_t>(all.size(), kMostEvents)))
         parseOne(event, around, common);
@@ -50,21 +59,11 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
 
     // An event without a word of its own acts as the one before it did.
     events::EventContext& fields = common.fields;
-    const std::string_view action = event["Action"].asString();
-    const auto known = std::find_if(std::begin(kActions), std::end(kActions),
-                                    [&](std::string_view text) { return EqualsFolded(action, text); });
-    const std::int32_t number =
-        known != std::end(kActions) ? static_cast<std::int32_t>(known - std::begin(kActions)) : fields.nAction;
-
-    record::ReadCall call{parser_, event};
-    call.context = &common;
-    common.event = &event;
-    fields = {};
-    fields.nChannelID = nChannel;
-    fields.nAction = number;
-    fields.dwAction = static_cast<std::uint32_t>(number);
-    fields.byEventAction = static_cast<std::uint8_t>(number);
-    events::ReadCommonKeys(data, fields, call);
+    if (const auto action = kActions.CodeOf(event["Action"].asString())) {
+        fields.nAction = *action;
+        fields.dwAction = static_cast<std::uint32_t>(*action);
+        fields.byEventAction = static_cast<std::uint8_t>(*action);
+    }
     ORRERY_EVENT_DETAIL("parseAlarmEvent start dwAlarmType[%d]", static_cast<int>(code));
     if (row != nullptr && row->rename != nullptr) row = events::FindEvent(row->rename(data));
     if (row == nullptr) return;
@@ -81,14 +80,11 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     std::memset(record, 0, size);
     ReadGroup(data, around.fileInfo);
     fields.stuFileInfo = around.fileInfo;
-    fields.byRepeat = static_cast<std::uint8_t>(around.source.nRepeat);
-    fields.dwFlagMask = around.flagMask;
-    fields.dwResolution = around.resolution;
-    fields.wWidth = static_cast<std::uint16_t>(around.resolution);
-    fields.wHeight = static_cast<std::uint16_t>(around.resolution >> 16);
-    std::memcpy(fields.szRecordFile, around.source.szRecordFile, sizeof fields.szRecordFile);
     if (row->reading != nullptr) ORRERY_EVENT_DETAIL("%s", row->reading);
     if (row->readingCar != nullptr && !data["TrafficCar"].isNull()) ORRERY_EVENT_DETAIL("%s", row->readingCar);
+    record::ReadCall call{parser_, event};
+    call.context = &common;
+    common.event = &event;
     record::ReadRecord(*row->table, data, record, call);
 
     *node = {nullptr, nullptr, row->code, record, row->reportedSize};

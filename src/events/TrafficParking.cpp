@@ -6,8 +6,8 @@ namespace orrery::events {
 TABLE(kTrafficParking, DEV_EVENT_TRAFFICPARKING_INFO, HEAD_A, OBJECT, VEHICLE, FIELD(nLane, "Lane", Int), FILE_INFO,
       ACTION_AND_REPEAT, FIELD(nSequence, "Sequence", Int), FIELD(nAlarmInterval, "AlarmInterval", Int),
       FIELD(nParkingAllowedTime, "ParkingAllowedTime", Int), POINTS(stuDetectRegion, nDetectRegionNum, "DetectRegion"),
-      FLAG_MASK, WIDTH, HEIGHT, ORRERY_SAME_FROM_EVENT(bIsExistAlarmRecord), ORRERY_SAME_FROM_EVENT(dwAlarmRecordSize),
-      ALARM_RECORD_PATH, EVENT_CLASS, FIELD(byPreAlarm, "PreAlarm", Int), GPS, CAR, COMM_INFO)
+      FLAG_MASK, WIDTH, HEIGHT, ALARM_RECORD, ALARM_RECORD_PATH, EVENT_CLASS, FIELD(byPreAlarm, "PreAlarm", Int), GPS,
+      CAR, COMM_INFO)
     .AfterRead(CarRule<DEV_EVENT_TRAFFICPARKING_INFO>);
 
 TABLE(kTrafficStay, DEV_EVENT_TRAFFICSTAY_INFO, HEAD_A, OBJECT, VEHICLE, FIELD(nLane, "Lane", Int),

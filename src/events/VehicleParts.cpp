@@ -77,7 +77,7 @@ void ReadDrivingDirections(const Field& field, const Value& value, std::byte* re
         if (i == 0)
             call.parser.GetJsonString(value[i], at, field.elementSize, false);
         else
-            ReadFullText(value[i], at, field.elementSize, call.parser);
+            call.parser.GetConvertedText(value[i], at, field.elementSize);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "analyse/RuleFrame.h"
 #include "frame/GeneralSwitch.h"
 #include "frame/JsonParser.h"
+#include "frame/NameHash.h"
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
@@ -179,19 +180,14 @@ constexpr bool SameFolded(std::string_view left, std::string_view right) {
     return true;
 }
 
-// The folded name's first and last eight bytes, which overlap in a short name, and its length.
-constexpr std::uint32_t Mixed(std::uint64_t first, std::uint64_t last, std::size_t size) {
-    const std::uint64_t hash = (first * 0x9E3779B97F4A7C15u ^ last) * 0xC2B2AE3D27D4EB4Fu + size;
-    return static_cast<std::uint32_t>(hash >> 32 ^ hash >> 20);
-}
 constexpr std::uint32_t Hash(std::string_view name) {
     const std::string_view tail = name.size() < 8 ? name : name.substr(name.size() - 8);
-    return Mixed(record::FoldedPrefix(name), record::FoldedPrefix(tail), name.size());
+    return NameHash(record::FoldedPrefix(name), record::FoldedPrefix(tail), name.size());
 }
 // The same, eight bytes at a time.
 std::uint32_t HashNow(std::string_view name) noexcept {
     if (name.size() < 8) return Hash(name);
-    return Mixed(FoldedWord(name.data()), FoldedWord(name.data() + name.size() - 8), name.size());
+    return NameHash(FoldedWord(name.data()), FoldedWord(name.data() + name.size() - 8), name.size());
 }
 
 constexpr std::size_t SlotCount() {

@@ -36,6 +36,9 @@ class JsonParser {
     // destination as it is. `room` is what really stands behind `destination`. True when the value was a string.
     bool GetJsonStringBounded(const json::Value& value, char* destination, std::size_t limit,
                               std::size_t room) noexcept;
+    // The first `capacity` bytes of the string, converted; all of the destination may be text, without a terminator.
+    // What stood there is gone when the value was a string, and stays when it was none.
+    bool GetConvertedText(const json::Value& value, char* destination, std::size_t capacity) noexcept;
     // False and nothing written when the source is null. A source without a terminator ends at `capacity` bytes.
     // Converted text is cut at one and a half times the source's bytes.
     bool SetJsonString(json::TextWriter& out, const char* source, std::size_t capacity, bool convert) noexcept;
@@ -67,6 +70,7 @@ class JsonParser {
     static bool GetDate(const json::Value& value, NET_TIME* time) noexcept; // "%04d-%02d-%02d", the time stays
     // Seconds since 1970 in UTC; all fields 0 when the record, or the C library's own calendar, cannot hold the year.
     static NET_TIME UtcSecondsToNetTime(std::int64_t seconds) noexcept;
+    static void GetUtcTime(const json::Value& value, NET_TIME* time) noexcept; // the same of an unsigned number
 
     // ---- Fixed arrays of numbers -----------------------------------------------------------------------------------
 

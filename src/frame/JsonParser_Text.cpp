@@ -70,6 +70,25 @@ bool JsonParser::GetJsonStringBounded(const json::Value& value, char* destinatio
     return true;
 }
 
+bool JsonParser::GetConvertedText(const json::Value& value, char* destination, std::size_t capacity) noexcept {
+    if (!value.isString()) return false;
+    const std::string_view text = value.asString().substr(0, capacity);
+    std::size_t count = text.size();
+    if (text_.isCopyOf(text)) {
+        if (count != 0) std::memcpy(destination, text.data(), count);
+    } else {
+        char nearby[512];
+        const std::size_t room = capacity + 1; // the conversion sets a terminator
+        char* const converted = room <= sizeof nearby ? nearby : text_.arena().Array<char>(room);
+        count = converted == nullptr ? 0
+                                     : static_cast<std::size_t>(text_.ConvertUtf8ToLocal(
+                                         text.data(), Bounded(text.size()), converted, Bounded(room)));
+        if (count != 0) std::memcpy(destination, converted, count);
+    }
+    std::memset(destination + count, 0, capacity - count);
+    return true;
+}
+
 bool JsonParser::SetJsonString(json::TextWriter& out, const char* source, std::size_t capacity, bool convert) noexcept {
     if (source == nullptr) return false;
     const std::string_view text(source, strnlen(source, capacity));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <limits>
 
 namespace orrery {
@@ -222,23 +223,19 @@ bool JsonParser::GetDate(const json::Value& value, NET_TIME* time) noexcept {
     return time != nullptr && ReadDateTime(value.asString(), 3, time);
 }
 
-NET_TIME JsonParser::UtcSecondsToNetTime(std::int64_t seconds) noexcept {
-    constexpr std::int64_t kDay = 86400;
-    std::int64_t days = seconds / kDay;
-    std::int64_t second = seconds % kDay;
-    if (second < 0) {
-        second += kDay;
-        --days;
-    }
-    // Years that begin in March have their leap day last; 400 of them are always 146097 days. Day 0 is 0000-03-01.
-    days += 719468;
-    const std::int64_t era = (days >= 0 ? days : days - 146096) / 146097;
-    const std::int64_t dayOfEra = days - era * 146097;
-    const std::int64_t yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const std::int64_t fromMarch = (5 * dayOfYear + 2) / 153;
-    const std::int64_t month = fromMarch < 10 ? fromMarch + 3 : fromMarch - 9;
-    const std::int64_t year = era * 400 + yearOfEra + (month <= 2);
+namespace {
+
+// The calendar of a day counted from 0000-03-01, not before it but for 64-bit days. Years that begin in March have
+// their leap day last; 400 of them are always 146097 days.
+template <class Int>
+NET_TIME Calendar(Int days, Int second) noexcept {
+    const Int era = (days >= 0 ? days : days - 146096) / 146097;
+    const Int dayOfEra = days - era * 146097;
+    const Int yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const Int dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const Int fromMarch = (5 * dayOfYear + 2) / 153;
+    const Int month = fromMarch < 10 ? fromMarch + 3 : fromMarch - 9;
+    const auto year = static_cast<std::int64_t>(era * 400 + yearOfEra + (month <= 2));
     // The C library counts years from 1900 in 32 bits, the record from 0: both have to hold it.
     constexpr std::int64_t kFirstYear = std::int64_t{std::numeric_limits<std::int32_t>::min()} + 1900;
     if (year < kFirstYear || year > std::numeric_limits<std::int32_t>::max()) return {};
@@ -250,6 +247,31 @@ NET_TIME JsonParser::UtcSecondsToNetTime(std::int64_t seconds) noexcept {
     time.dwMinute = static_cast<std::int32_t>(second / 60 % 60);
     time.dwSecond = static_cast<std::int32_t>(second % 60);
     return time;
+}
+
+} // namespace
+
+void JsonParser::GetUtcTime(const json::Value& value, NET_TIME* time) noexcept {
+    const NET_TIME fields = UtcSecondsToNetTime(value.asUInt());
+    std::memcpy(static_cast<void*>(time), &fields, sizeof fields);
+}
+
+NET_TIME JsonParser::UtcSecondsToNetTime(std::int64_t seconds) noexcept {
+    constexpr std::int64_t kDay = 86400;
+    constexpr std::int64_t kDaysTo1970 = 719468;
+    // Until 2106, which is all that devices send, half the width does, at half the time.
+    if (seconds >= 0 && seconds <= std::numeric_limits<std::uint32_t>::max()) {
+        const auto narrow = static_cast<std::uint32_t>(seconds);
+        constexpr std::uint32_t kNarrowDay = 86400;
+        return Calendar<std::uint32_t>(narrow / kNarrowDay + std::uint32_t{kDaysTo1970}, narrow % kNarrowDay);
+    }
+    std::int64_t days = seconds / kDay;
+    std::int64_t second = seconds % kDay;
+    if (second < 0) {
+        second += kDay;
+        --days;
+    }
+    return Calendar<std::int64_t>(days + kDaysTo1970, second);
 }
 
 } // namespace orrery

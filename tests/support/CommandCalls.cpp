@@ -204,6 +204,7 @@ bool IsBothWays(const Field& field) {
     case Kind::Presence:
     case Kind::MemberName:
     case Kind::Date:
+    case Kind::UtcTime:
         return false;
     case Kind::Custom:
         return field.custom->sample != nullptr && field.custom->read != nullptr && field.custom->write != nullptr;

@@ -165,6 +165,7 @@ class Maker {
             return typical ? JsonTree(std::to_string(1 + Next() % 99) + ".25") : Number();
         case Kind::Text:
         case Kind::RawText:
+        case Kind::FullText:
             return Words(field);
         case Kind::Names:
             return typical || Next() % 2 == 0 ? NameOf(*field.names) : JsonTree::String("no such name");
@@ -180,6 +181,8 @@ class Maker {
             return JsonTree::String("09:30:" + TwoDigits());
         case Kind::Date:
             return JsonTree::String("2026-11-20");
+        case Kind::UtcTime:
+            return JsonTree("17951670" + TwoDigits());
         case Kind::SplitMode:
             return JsonTree::String("Split" + std::to_string(16 + Next() % 9));
         case Kind::Custom:

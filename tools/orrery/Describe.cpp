@@ -35,6 +35,8 @@ const char* KindSentence(Kind kind) {
         return "the name under which the record stands";
     case Kind::Bool:
         return "true or false";
+    case Kind::FullText:
+        return "text; may fill the field without a terminator";
     case Kind::RawText:
         return "text, bytes as they stand";
     case Kind::TimeSection:
@@ -53,6 +55,8 @@ const char* KindSentence(Kind kind) {
         return "\"09:30:00\"";
     case Kind::Date:
         return "\"2026-11-20\"";
+    case Kind::UtcTime:
+        return "seconds since 1970";
     case Kind::SplitMode:
         return "a split mode, \"Split9\"";
     case Kind::BitMask:

@@ -8,15 +8,21 @@ namespace {
 
 constexpr std::size_t kRun = 8; // short enough to be sorted by insertion
 
-bool Below(const Member& left, const Member& right) noexcept {
-    return CompareKeys(left.key(), right.key()) < 0;
+// `prefix` is the left key's.
+bool Below(std::uint64_t prefix, std::string_view left, std::string_view right) noexcept {
+    const std::uint64_t rightPrefix = KeyPrefix(right);
+    return prefix != rightPrefix ? prefix < rightPrefix : CompareKeys(left, right) < 0;
+}
+bool MemberBelow(const Member& left, const Member& right) noexcept {
+    return Below(KeyPrefix(left.key()), left.key(), right.key());
 }
 
 void InsertionSort(Member* first, Member* last) noexcept {
     for (Member* next = first + 1; next < last; ++next) {
         const Member member = *next;
+        const std::uint64_t prefix = KeyPrefix(member.key());
         Member* hole = next;
-        for (; hole != first && Below(member, hole[-1]); --hole)
+        for (; hole != first && Below(prefix, member.key(), hole[-1].key()); --hole)
             *hole = hole[-1];
         *hole = member;
     }
@@ -35,7 +41,7 @@ std::uint32_t SortMembers(Member* members, Member* scratch, std::uint32_t count)
         for (std::size_t run = 0; run < total; run += 2 * width) {
             const std::size_t middle = std::min(run + width, total);
             const std::size_t last = std::min(run + 2 * width, total);
-            std::merge(from + run, from + middle, from + middle, from + last, to + run, Below);
+            std::merge(from + run, from + middle, from + middle, from + last, to + run, MemberBelow);
         }
         std::swap(from, to);
     }

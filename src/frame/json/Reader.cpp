@@ -30,11 +30,9 @@ struct Enclosing {
 };
 static_assert(sizeof(Enclosing) <= sizeof(Value));
 
-// The first eight bytes of a key as a number that orders like the key. All eight must be loadable.
-std::uint64_t KeyPrefix(const char* key, std::size_t size) noexcept {
-    std::uint64_t bytes;
-    std::memcpy(&bytes, key, sizeof bytes);
-    if constexpr (std::endian::native == std::endian::little) bytes = __builtin_bswap64(bytes);
+// KeyPrefix without a look at how long a short key is: eight bytes must be loadable.
+std::uint64_t LoadablePrefix(const char* key, std::size_t size) noexcept {
+    const auto bytes = BigEndian<std::uint64_t>(key);
     return size >= 8 ? bytes : bytes & ~(~std::uint64_t{0} >> (8 * size));
 }
 
@@ -91,8 +89,8 @@ bool Reader::Grow(std::byte*& top, std::byte*& start, std::byte*& limit) noexcep
 // Whether the two keys are in order and different. `loadable`: eight bytes may be loaded from each.
 bool Reader::InOrder(const Member& before, const Member& after, bool loadable) const noexcept {
     if (loadable) {
-        const std::uint64_t left = KeyPrefix(before.keyText, before.keySize);
-        const std::uint64_t right = KeyPrefix(after.keyText, after.keySize);
+        const std::uint64_t left = LoadablePrefix(before.keyText, before.keySize);
+        const std::uint64_t right = LoadablePrefix(after.keyText, after.keySize);
         if (left != right) return left < right;
     }
     return CompareKeys(before.key(), after.key()) < 0;

@@ -25,10 +25,13 @@ Value& NobodyReads(Arena& arena) noexcept {
 
 // Index of the first member whose key is not below `key`.
 std::uint32_t LowerBound(const Member* members, std::uint32_t count, std::string_view key) noexcept {
+    const std::uint64_t prefix = KeyPrefix(key);
     std::uint32_t first = 0;
     while (count > 0) {
         const std::uint32_t half = count / 2;
-        const bool below = CompareKeys(members[first + half].key(), key) < 0;
+        const std::string_view other = members[first + half].key();
+        const std::uint64_t otherPrefix = KeyPrefix(other);
+        const bool below = otherPrefix != prefix ? otherPrefix < prefix : CompareKeys(other, key) < 0;
         first = below ? first + half + 1 : first;
         count = below ? count - half - 1 : half;
     }
@@ -127,7 +130,7 @@ const Value& Value::operator[](std::string_view key) const noexcept {
     const Member* const members = payload_.members;
     if (size_ <= kLinearSearchLimit) {
         for (const Member *member = members, *end = members + size_; member != end; ++member) {
-            if (member->key() == key) return member->value;
+            if (member->keySize == key.size() && member->key() == key) return member->value;
         }
         return kNull;
     }

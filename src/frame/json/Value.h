@@ -8,11 +8,13 @@
 
 #include "frame/Arena.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <span>
 #include <string_view>
+#include <type_traits>
 
 namespace orrery::json {
 
@@ -141,12 +143,46 @@ struct Member {
 
 static_assert(sizeof(Member) == 32);
 
+// A number of a text's bytes, the first one uppermost, so that numbers order like texts.
+template <class Number>
+Number BigEndian(const char* text) noexcept {
+    Number bytes;
+    std::memcpy(&bytes, text, sizeof bytes);
+    if constexpr (std::endian::native == std::endian::big) return bytes;
+    if constexpr (sizeof bytes == 8) return __builtin_bswap64(bytes);
+    if constexpr (sizeof bytes == 4) return __builtin_bswap32(bytes);
+    return __builtin_bswap16(static_cast<std::uint16_t>(bytes));
+}
+
 // Keys are ordered by their bytes, taken as unsigned: below zero, zero or above zero as memcmp tells it.
 inline int CompareKeys(std::string_view left, std::string_view right) noexcept {
     const std::size_t common = left.size() < right.size() ? left.size() : right.size();
     const int order = common == 0 ? 0 : std::memcmp(left.data(), right.data(), common);
     if (order != 0) return order;
     return left.size() < right.size() ? -1 : left.size() > right.size() ? 1 : 0;
+}
+
+// The first eight bytes of a key as a number that orders like the key, but for what follows them.
+constexpr std::uint64_t KeyPrefix(std::string_view key) noexcept {
+    const std::size_t size = key.size();
+    if (std::is_constant_evaluated()) {
+        std::uint64_t prefix = 0;
+        for (std::size_t i = 0; i < 8; ++i)
+            prefix = prefix << 8 | (i < size ? static_cast<unsigned char>(key[i]) : 0u);
+        return prefix;
+    }
+    // Nothing behind a short key may be looked at, so its two ends are loaded, which overlap.
+    if (size >= 8) return BigEndian<std::uint64_t>(key.data());
+    const unsigned unused = static_cast<unsigned>(8 - size) * 8;
+    if (size >= 4) {
+        return std::uint64_t{BigEndian<std::uint32_t>(key.data())} << 32
+               | std::uint64_t{BigEndian<std::uint32_t>(key.data() + size - 4)} << unused;
+    }
+    if (size >= 2) {
+        return std::uint64_t{BigEndian<std::uint16_t>(key.data())} << 48
+               | std::uint64_t{BigEndian<std::uint16_t>(key.data() + size - 2)} << unused;
+    }
+    return size == 0 ? 0 : std::uint64_t{static_cast<unsigned char>(key[0])} << 56;
 }
 
 // The shared null value that misses yield.

@@ -36,6 +36,7 @@ enum class Kind : std::uint8_t {
     Real,            // asDouble
     Text,            // string, converted between UTF-8 and the local encoding
     RawText,         // string, bytes as they stand
+    FullText,        // string, cut at the field's capacity and only then converted: it may leave no terminator
     Names,           // string through a name table
     Record,          // object (or tuple) through another table
     TimeSection,     // "1 08:00:00-17:30:00", two digits a part at the most on reading
@@ -46,6 +47,7 @@ enum class Kind : std::uint8_t {
     NetTimeEx,       // "2026-11-20 09:30:00.250"
     ClockTime,       // "09:30:00"
     Date,            // "2026-11-20"
+    UtcTime,         // seconds since 1970; read only. Milliseconds of the field are left alone
     SplitMode,       // "Split9"
     BitMask,         // list of numbers <-> bits of an array of words; numbers out of range are ignored
     BitMaskLoose,    // as BitMask, but -1 to -31 fall into word 0 by their remainder, as old devices count on
@@ -415,6 +417,9 @@ struct Codec {
 
 template <class T>
 inline constexpr bool kIsText = std::rank_v<T> == 1 && std::is_same_v<std::remove_extent_t<T>, char>;
+// A record whose first members are those of a NET_TIME.
+template <class T>
+inline constexpr bool kBeginsAsNetTime = std::is_same_v<T, NET_TIME>;
 template <class T, class Element>
 inline constexpr bool kIsArrayOf = std::rank_v<T> >= 1 && std::is_same_v<std::remove_all_extents_t<T>, Element>;
 
@@ -427,6 +432,7 @@ ORRERY_CODEC(UInt, kIsNumber<T>, false);
 ORRERY_CODEC(Real, std::is_floating_point_v<T>, false);
 ORRERY_CODEC(Text, kIsText<T>, false);
 ORRERY_CODEC(RawText, kIsText<T>, false);
+ORRERY_CODEC(FullText, kIsText<T>, false);
 ORRERY_CODEC(TimeSection, (std::is_same_v<T, CFG_TIME_SECTION>), false);
 ORRERY_CODEC(Schedule, (std::rank_v<T> == 2 && kIsArrayOf<T, CFG_TIME_SECTION>), true);
 ORRERY_CODEC(HolidaySchedule, (std::is_same_v<T, CFG_TIME_SCHEDULE>), false);
@@ -435,6 +441,7 @@ ORRERY_CODEC(NetTime, (std::is_same_v<T, NET_TIME>), false);
 ORRERY_CODEC(NetTimeEx, (std::is_same_v<T, NET_TIME_EX>), false);
 ORRERY_CODEC(ClockTime, (std::is_same_v<T, NET_TIME>), false);
 ORRERY_CODEC(Date, (std::is_same_v<T, NET_TIME>), false);
+ORRERY_CODEC(UtcTime, kBeginsAsNetTime<T>, false);
 ORRERY_CODEC(SplitMode, (std::is_same_v<T, std::int32_t>), false);
 ORRERY_CODEC(BitMask, (std::rank_v<T> == 1 && kIsArrayOf<T, std::uint32_t>), true);
 ORRERY_CODEC(BitMaskLoose, (std::rank_v<T> == 1 && kIsArrayOf<T, std::uint32_t>), true);

@@ -39,7 +39,8 @@ std::uint32_t ElementCount(const Field& field) noexcept {
 }
 
 void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
-    for (const Field& field : table) {
+    for (std::uint16_t row = 0; row < table.startedCount; ++row) {
+        const Field& field = table.rows[table.started[row]];
         std::byte* const at = record + field.offset;
         if (field.kind == Kind::Size) {
             Store(at, table.size);

@@ -3,7 +3,6 @@
 #include "frame/Log.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace orrery::record {
 
@@ -109,6 +108,9 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         call.parser.GetJsonString(text, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
         break;
     }
+    case Kind::FullText:
+        call.parser.GetConvertedText(value, reinterpret_cast<char*>(at), field.elementSize);
+        break;
     case Kind::Names:
         if (const auto code = field.names->CodeOf(value.asString())) StoreInteger(field.cell, at, *code);
         break;
@@ -138,6 +140,9 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         break;
     case Kind::Date:
         JsonParser::GetDate(value, reinterpret_cast<NET_TIME*>(at));
+        break;
+    case Kind::UtcTime:
+        JsonParser::GetUtcTime(value, reinterpret_cast<NET_TIME*>(at));
         break;
     case Kind::SplitMode:
         if (value.isString()) Store(at, JsonParser::GetSplitMode(value.asString()));
@@ -226,55 +231,62 @@ bool TakesList(const Field& field, const Value& value, std::uint32_t extent) noe
     return value.isArray() || field.anyShape;
 }
 
-std::uint64_t PrefixOf(const json::Member& member) noexcept {
-    if (member.keySize < 8) return KeyPrefix(member.key());
-    std::uint64_t bytes;
-    std::memcpy(&bytes, member.keyText, sizeof bytes);
-    if constexpr (std::endian::native == std::endian::little) bytes = __builtin_bswap64(bytes);
-    return bytes;
-}
-
-// Below zero, zero or above zero as the node's key orders before, with or behind the member's. The first eight bytes
-// tell as a rule, and eight that overlap them tell that keys of up to sixteen are the same.
-int CompareToMember(const Table& table, const Node& node, const json::Member& member, std::uint64_t prefix) noexcept {
-    if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
+// Below zero, zero or above zero as the node's key orders before, with or behind the member's, when the first eight
+// bytes of both are the same. Those are all of most keys, and eight that overlap them tell of nearly all others.
+int CompareTails(const Table& table, const Node& node, const json::Member& member) noexcept {
     const std::string_view key = table.keyOf(node);
-    if (key.size() == member.keySize && key.size() >= 8 && key.size() <= 16) {
-        const std::size_t last = key.size() - 8;
-        if (std::memcmp(key.data() + last, member.keyText + last, 8) == 0) return 0;
+    if (key.size() == member.keySize) {
+        if (key.size() <= 8) return 0;
+        if (key.size() <= 16) {
+            const std::size_t last = key.size() - 8;
+            if (std::memcmp(key.data() + last, member.keyText + last, 8) == 0) return 0;
+        }
     }
     return json::CompareKeys(key, member.key());
 }
 
-void ReadPlainly(Plainly how, const Field& field, const Value& value, std::byte* record) noexcept {
-    StoreSlot(field.flag, record, 1);
-    Store(record + field.offset, how == Plainly::Switch ? std::int32_t{value.asBool()} : value.asInt());
+void ReadCustom(const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
 }
 
+void ReadPlainly(Plainly how, const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (how == Plainly::Function) return ReadCustom(field, value, record, call);
+    StoreSlot(field.flag, record, 1);
+    std::byte* const at = record + field.offset;
+    if (how == Plainly::Element)
+        ReadElement(field, value, at, call, {});
+    else
+        Store(at, how == Plainly::Switch ? std::int32_t{value.asBool()} : value.asInt());
+}
+
+void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept;
+
+void ReadNode(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (value.isNull() && !node.needsAbsent) return;
+    if (node.readPlainly != Plainly::No)
+        ReadPlainly(node.readPlainly, table.rows[node.row], value, record, call);
+    else if (node.childCount > 0)
+        ReadNodes(table, {node.firstChild, node.childCount, node.childLastAbsent}, value, record, call);
+    else
+        ReadField(table.rows[node.row], value, record, call);
+}
+
+// A merge of two sorted lists: the nodes of the object and the members that came. Several nodes may have one key.
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
-    const auto members = object.members();
-    const json::Member* member = members.data();
-    const json::Member* const membersEnd = member + members.size();
-    std::uint64_t prefix = member != membersEnd ? PrefixOf(*member) : 0;
-    const Node* const end = table.nodes + range.first + range.count;
-    for (const Node* node = table.nodes + range.first; node != end; ++node) {
-        bool found = false;
-        while (member != membersEnd) {
-            const int order = CompareToMember(table, *node, *member, prefix);
-            if (order <= 0) {
-                found = order == 0 && !member->value.isNull();
-                break;
-            }
-            if (++member != membersEnd) prefix = PrefixOf(*member);
+    const Node* node = table.nodes + range.first;
+    const Node* const end = node + range.count;
+    for (const json::Member& member : object.members()) {
+        const std::uint64_t prefix = json::KeyPrefix(member.key());
+        for (; node != end && node->prefix <= prefix; ++node) {
+            const int order = node->prefix < prefix ? -1 : CompareTails(table, *node, member);
+            if (order > 0) break;
+            if (order == 0 || node->needsAbsent)
+                ReadNode(table, *node, order == 0 ? member.value : json::kNull, record, call);
         }
-        if (!found && !node->needsAbsent) continue;
-        const Value& value = found ? member->value : json::kNull;
-        if (node->readPlainly != Plainly::No)
-            ReadPlainly(node->readPlainly, table.rows[node->row], value, record);
-        else if (node->childCount > 0)
-            ReadNodes(table, {node->firstChild, node->childCount}, value, record, call);
-        else
-            ReadField(table.rows[node->row], value, record, call);
+        if (node == end) return;
+    }
+    for (const Node* const last = table.nodes + range.lastAbsent; node < last; ++node) {
+        if (node->needsAbsent) ReadNode(table, *node, json::kNull, record, call);
     }
 }
 
@@ -285,10 +297,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
     if (!IsOfType(field.only, value)) return;
     if (field.readCondition.exists() && LoadSlot(field.readCondition, record) == 0) return;
     if (field.atLeast != 0 && value.elements().size() < field.atLeast) return;
-    if (field.kind == Kind::Custom) {
-        if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
-        return;
-    }
+    if (field.kind == Kind::Custom) return ReadCustom(field, value, record, call);
     if (field.wholeMember) {
         if (!value.isArray() && !field.anyShape) return;
         StoreSlot(field.flag, record, 1);
@@ -312,10 +321,11 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
 bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
     if (table.clearsFlags) ClearFlags(table, record);
-    if (table.hasSupplied && call.context != nullptr) {
+    if (call.context != nullptr) {
         const auto* const context = static_cast<const std::byte*>(call.context);
-        for (const Field& row : table) {
-            if (row.kind == Kind::Supplied) std::memcpy(record + row.offset, context + row.suppliedFrom, row.size);
+        for (std::uint16_t i = 0; i < table.suppliedCount; ++i) {
+            const Copy& copy = table.supplied[i];
+            std::memcpy(record + copy.to, context + copy.from, copy.size);
         }
     }
     if (table.shape != Shape::Object) {

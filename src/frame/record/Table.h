@@ -11,34 +11,34 @@
 
 #include "frame/record/Field.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
 
 namespace orrery::record {
 
-// The rows that most are, a switch or a number in a 32-bit member with a presence flag at most, have a short way in and
-// out: nothing else of the row need be looked at.
-enum class Plainly : std::uint8_t { No, Switch, Number };
-
-// The first eight bytes of a key as a number that orders like the key, but for what follows them.
-constexpr std::uint64_t KeyPrefix(std::string_view key) {
-    std::uint64_t prefix = 0;
-    for (std::size_t i = 0; i < 8; ++i)
-        prefix = prefix << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0u);
-    return prefix;
-}
+// Rows whose words say nothing of a direction go a short way in it: of all that a row holds only its place, codec and
+// flag need be looked at.
+enum class Plainly : std::uint8_t {
+    No,
+    Switch,   // a bool in a 32-bit member
+    Number,   // an int in a 32-bit member
+    Element,  // one value of another codec; on reading only
+    Function, // the row's own function; on reading only
+};
 
 // One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
 // nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
 struct Node {
-    std::uint64_t prefix = 0;
+    std::uint64_t prefix = 0;   // json::KeyPrefix of the key
     std::uint16_t quotedAt = 0; // the text `"Key" : ` in the table's key texts
     std::uint16_t keySize = 0;
     std::uint16_t row = 0;
     std::uint16_t firstChild = 0;
     std::uint16_t childCount = 0; // above 0: an object inside the object
-    bool needsAbsent = false;     // looked at also when the key is absent
+    std::uint16_t childLastAbsent = 0;
+    bool needsAbsent = false; // looked at also when the key is absent
     Plainly readPlainly = Plainly::No;
     Plainly writePlainly = Plainly::No;
 };
@@ -46,6 +46,14 @@ struct Node {
 struct NodeRange {
     std::uint16_t first = 0;
     std::uint16_t count = 0;
+    std::uint16_t lastAbsent = 0; // behind the last node that is looked at also when its key is absent
+};
+
+// Bytes that a record copies from what the call carries along: a field, or several that lie side by side in both.
+struct Copy {
+    std::uint32_t to = 0;
+    std::uint32_t from = 0;
+    std::uint32_t size = 0;
 };
 
 enum class Shape : std::uint8_t {
@@ -67,6 +75,11 @@ struct Table {
     NodeRange fromRoot; // keys that start at the document
     NodeRange self;     // fields that are the value itself; a tuple's elements
 
+    const Copy* supplied = nullptr; // what the call carries along
+    std::uint16_t suppliedCount = 0;
+    std::uint16_t startedCount = 0;
+    const std::uint16_t* started = nullptr; // rows that start at something other than zero, or hold such rows
+
     const Field* amongKeys = nullptr;  // the list whose members stand among the record's keys, when it has one
     const Field* memberName = nullptr; // the row that keeps the name under which the record stands
 
@@ -74,7 +87,6 @@ struct Table {
     bool hasDefaults = false;    // some field, nested ones included, starts at something other than zero
     bool hasSizeWords = false;   // some field, nested ones included, is a size word
     bool startsWhenRead = false; // defaults and size words are set by reading it: what is not read stays zero
-    bool hasSupplied = false;    // some field comes from what the call carries along
     bool guarded = false;        // neither read nor written unless the size word holds exactly the record's size
     bool clearsFlags = false;    // presence flags, nested ones included, start at 0 in a record that keeps its values
     bool (*writes)(const std::byte* record) = nullptr;
@@ -166,9 +178,15 @@ constexpr bool Before(std::string_view left, std::string_view right) {
     return leftParts < rightParts;
 }
 
-constexpr Plainly PlainKind(const Field& row, Kind kind) {
+constexpr Plainly PlainNumber(const Field& row, Kind kind) {
     if (row.rank > 0 || row.cell != Cell::I32) return Plainly::No;
     return kind == Kind::Bool ? Plainly::Switch : kind == Kind::Int ? Plainly::Number : Plainly::No;
+}
+constexpr Plainly PlainValue(const Field& row) {
+    if (row.kind == Kind::Custom) return Plainly::Function;
+    if (row.rank > 0 || row.cell == Cell::Pointer || row.wholeMember) return Plainly::No;
+    const Plainly number = PlainNumber(row, row.kind);
+    return number != Plainly::No ? number : Plainly::Element;
 }
 // The row with its place, codec and flag, and none of its other words.
 constexpr Field WithoutWords(const Field& row) {
@@ -201,7 +219,14 @@ constexpr Plainly ReadPlainly(const Field& row) {
     plain.atMost = row.atMost;
     plain.condition = row.condition;
     plain.when = row.when;
-    return plain == row ? PlainKind(row, row.kind) : Plainly::No;
+    std::copy(std::begin(row.dims), std::end(row.dims), plain.dims);
+    plain.rank = row.rank;
+    plain.wholeMember = row.wholeMember;
+    plain.table = row.table;
+    plain.names = row.names;
+    plain.custom = row.custom;
+    plain.unlessBare = row.unlessBare;
+    return plain == row ? PlainValue(row) : Plainly::No;
 }
 constexpr Plainly WritePlainly(const Field& row) {
     Field plain = WithoutWords(row);
@@ -210,18 +235,29 @@ constexpr Plainly WritePlainly(const Field& row) {
     plain.defaultValue = row.defaultValue;
     plain.readable = row.readable;
     plain.only = row.only;
-    return plain == row ? PlainKind(row, row.writtenAs) : Plainly::No;
+    return plain == row ? PlainNumber(row, row.writtenAs) : Plainly::No;
 }
 
 struct Limits {
     std::size_t nodes = 1;
     std::size_t text = 1;
+    std::size_t supplied = 1;
+    std::size_t started = 1;
 };
+
+// A row that Prepare has to look at.
+constexpr bool IsStarted(const Field& row) {
+    const bool isNested = row.cell == Cell::Record && row.table != nullptr;
+    return row.kind == Kind::Size || row.hasDefault
+           || (isNested && (row.table->hasDefaults || row.table->hasSizeWords));
+}
 
 template <class Rows>
 consteval Limits LimitsOf() {
     Limits limits;
     for (const Field& row : Rows::rows) {
+        limits.supplied += row.kind == Kind::Supplied;
+        limits.started += IsStarted(row);
         if (row.key == nullptr) continue;
         const auto parts = static_cast<std::size_t>(Parts(row.key));
         limits.nodes += parts;
@@ -230,10 +266,14 @@ consteval Limits LimitsOf() {
     return limits;
 }
 
-template <std::size_t MaxNodes, std::size_t MaxText>
+template <Limits Most>
 struct Tree {
-    std::array<Node, MaxNodes> nodes{};
-    std::array<char, MaxText> texts{};
+    std::array<Node, Most.nodes> nodes{};
+    std::array<char, Most.text> texts{};
+    std::array<Copy, Most.supplied> supplied{};
+    std::array<std::uint16_t, Most.started> started{};
+    std::uint16_t suppliedCount = 0;
+    std::uint16_t startedCount = 0;
     std::uint16_t nodeCount = 0;
     std::uint16_t textSize = 0;
     NodeRange members;
@@ -244,7 +284,7 @@ struct Tree {
         Node& node = nodes[nodeCount++];
         node.quotedAt = textSize;
         node.keySize = static_cast<std::uint16_t>(key.size());
-        node.prefix = KeyPrefix(key);
+        node.prefix = json::KeyPrefix(key);
         texts[textSize++] = '"';
         for (char c : key) {
             if (c == '"' || c == '\\' || c == '/' || (c >= 0 && c < 32)) a_key_must_not_be_escaped();
@@ -257,7 +297,7 @@ struct Tree {
 
     // The nodes of one object and, behind them, of the objects inside it. `order` are the rows of the object, sorted.
     constexpr NodeRange AddObject(const Field* rows, const std::uint16_t* order, std::size_t count, int depth) {
-        const NodeRange range{nodeCount, CountKeys(rows, order, count, depth)};
+        NodeRange range{nodeCount, CountKeys(rows, order, count, depth)};
         for (std::size_t i = 0; i < count;) {
             const std::size_t end = EndOfKey(rows, order, count, depth, i);
             Node& node = Add(Part(rows[order[i]].key, depth));
@@ -265,6 +305,7 @@ struct Tree {
             for (std::size_t k = i; k < end; ++k) {
                 if (rows[order[k]].always && rows[order[k]].readable) node.needsAbsent = true;
             }
+            if (node.needsAbsent) range.lastAbsent = nodeCount;
             i = end;
         }
         std::uint16_t index = range.first;
@@ -274,6 +315,7 @@ struct Tree {
                 const NodeRange inside = AddObject(rows, order + i, end - i, depth + 1);
                 nodes[index].firstChild = inside.first;
                 nodes[index].childCount = inside.count;
+                nodes[index].childLastAbsent = inside.lastAbsent;
             } else {
                 nodes[index].readPlainly = ReadPlainly(rows[order[i]]);
                 nodes[index].writePlainly = WritePlainly(rows[order[i]]);
@@ -281,6 +323,17 @@ struct Tree {
             i = end;
         }
         return range;
+    }
+
+    constexpr void AddSupplied(const Field& row) {
+        if (suppliedCount > 0) {
+            Copy& last = supplied[suppliedCount - 1u];
+            if (last.to + last.size == row.offset && last.from + last.size == row.suppliedFrom) {
+                last.size += row.size;
+                return;
+            }
+        }
+        supplied[suppliedCount++] = {row.offset, row.suppliedFrom, row.size};
     }
 
   private:
@@ -307,7 +360,7 @@ consteval auto BuildTree() {
     constexpr Limits limits = LimitsOf<Rows>();
     constexpr std::size_t count = sizeof(Rows::rows) / sizeof(Rows::rows[0]);
     const Field* const rows = Rows::rows;
-    Tree<limits.nodes, limits.text> tree;
+    Tree<limits> tree;
     std::array<std::uint16_t, count> order{};
     for (const bool fromRoot : {false, true}) {
         std::size_t used = 0;
@@ -322,6 +375,8 @@ consteval auto BuildTree() {
     }
     tree.self.first = tree.nodeCount;
     for (std::size_t i = 0; i < count; ++i) {
+        if (rows[i].kind == Kind::Supplied) tree.AddSupplied(rows[i]);
+        if (IsStarted(rows[i])) tree.started[tree.startedCount++] = static_cast<std::uint16_t>(i);
         if (rows[i].key == nullptr || rows[i].key[0] != '\0') continue;
         Node& node = tree.Add("");
         node.row = static_cast<std::uint16_t>(i);
@@ -373,10 +428,13 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     table.members = tree.members;
     table.fromRoot = tree.fromRoot;
     table.self = tree.self;
+    table.supplied = tree.supplied.data();
+    table.suppliedCount = tree.suppliedCount;
+    table.started = tree.started.data();
+    table.startedCount = tree.startedCount;
     for (const Field& row : Rows::rows) {
         if (row.hasDefault || row.kind == Kind::Size) table.hasDefaults = true;
         if (row.kind == Kind::Size) table.hasSizeWords = true;
-        if (row.kind == Kind::Supplied) table.hasSupplied = true;
         const bool isOwnedText = row.cell == Cell::Pointer && row.owned && row.kind == Kind::Custom;
         if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr && !isOwnedText) {
             build::a_nested_record_needs_its_table();

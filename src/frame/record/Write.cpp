@@ -88,6 +88,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
     case Kind::Presence:
     case Kind::MemberName:
     case Kind::Date: // read only
+    case Kind::UtcTime:
     case Kind::Supplied:
     case Kind::Custom:
         out.Null();
@@ -108,8 +109,9 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
         break;
     case Kind::Text:
     case Kind::RawText:
+    case Kind::FullText:
         call.parser.SetJsonString(out, reinterpret_cast<const char*>(at), field.elementSize,
-                                  field.writtenAs == Kind::Text);
+                                  field.writtenAs != Kind::RawText);
         break;
     case Kind::Names: {
         const Name* const row = NameAt(field, at);
