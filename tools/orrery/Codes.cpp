@@ -37,12 +37,8 @@ std::optional<std::int32_t> CodeOfName(const Field& field, std::string_view name
         if (EqualsFolded(SplitText(mode), name)) return mode;
         return std::nullopt;
     }
-    const NameTable& names = *field.names;
-    for (const Name* row = names.rows; row != names.rows + names.count; ++row) {
-        const bool exact = names.compare == Compare::Exact || row->compare == Compare::Exact;
-        if (exact ? row->text == name : EqualsFolded(row->text, name)) return row->code;
-    }
-    return std::nullopt;
+    // A name that stands in no row is a mistake here, whatever a device's text would read as.
+    return field.names->UnknownLeaves().CodeOf(name);
 }
 
 std::vector<std::string_view> NamesOf(const Field& field) {

@@ -320,6 +320,8 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
     case Kind::Size:
     case Kind::Presence:
     case Kind::MemberName:
+    case Kind::Date:
+    case Kind::UtcTime:
         return;
     case Kind::Names:
         if (!IsElementWritten(field, at)) return;
