@@ -70,6 +70,15 @@ TEST(EncodeEncrypt, KeepsWhatTheItemsHeldWhereKeysAreAbsent) {
     EXPECT_EQ(item.stuTime.stuTime.dwYear, 0x11111111);
 }
 
+TEST(EncodeEncrypt, CountsItemsThatAreNoObjects) {
+    const Encrypt encrypt(4);
+    EXPECT_EQ(encrypt.Parse(R"([7,[],{"Length":-1,"EncryptEnable":"x"}])"), kRead);
+    EXPECT_EQ(encrypt.record().nReturnCount, 3);
+    EXPECT_EQ(encrypt.items[1].nLength, 0x1111);
+    EXPECT_EQ(encrypt.items[2].nLength, 0); // a negative number is none
+    EXPECT_EQ(encrypt.items[2].bEncryptEnable, 1u);
+}
+
 TEST(EncodeEncrypt, ReadsNoMoreThanThereIsRoomFor) {
     const Encrypt encrypt(2);
     EXPECT_EQ(encrypt.Parse(R"([{"Length":1},{"Length":2},{"Length":3}])"), kRead);

@@ -44,6 +44,20 @@ TEST(EncodePlan, EndsTheListBehindTheLastEntryThatIsOn) {
     EXPECT_EQ(PackAll("EncodePlan", Plans(1)), "null");
 }
 
+TEST(EncodePlan, KeepsItsNumbersApart) {
+    const Plans plans(2, 0x11);
+    ASSERT_EQ(ParseTable("EncodePlan",
+                         R"([{"ExpectTime":-5,"BitRate":6,"Resolution":null},{"ExpectTime":7,"Resolution":"x"}])",
+                         plans),
+              (Answer{1, 2 * kPlan}));
+    EXPECT_EQ(plans[0].nExpectTime, 0u); // a negative number is none
+    EXPECT_EQ(plans[0].nBitRate, 6u);
+    EXPECT_EQ(plans[0].emResolution, 0u); // null is no name, not an unknown one
+    EXPECT_EQ(plans[1].nExpectTime, 7u);
+    EXPECT_EQ(plans[1].nBitRate, 0u);
+    EXPECT_EQ(plans[1].emResolution, 33u);
+}
+
 TEST(EncodePlan, CountsWhatFits) {
     const Plans plans(2, 3, 0x11);
     EXPECT_EQ(ParseTable("EncodePlan", "[{},{},{},{},{}]", plans), (Answer{1, 2 * kPlan}));
@@ -119,6 +133,10 @@ TEST(EncodeAdapt, IsOneRecordOrAList) {
         EXPECT_EQ(ParseTable("EncodeAdapt", table, records), kRefused) << table;
         EXPECT_TRUE(records.isAll(0));
     }
+    // Of a list, a record without keys keeps its place.
+    Records<CFG_ENCODE_ADAPT_INFO> list(3);
+    list.Set(1, {CFG_ADAPT_FLUENCY, CFG_FLUENCY_UNKNOWN});
+    EXPECT_EQ(PackAll("EncodeAdapt", list), R"([ null, { "Policy" : "Fluency" }, null ])");
     const Records<CFG_ENCODE_ADAPT_INFO> bare(1, 0x11);
     EXPECT_EQ(ParseTable("EncodeAdapt", R"({"Policy":null})", bare), (Answer{1, 8}));
     EXPECT_TRUE(bare.isAll(0));

@@ -189,6 +189,95 @@ TEST(Encode, CountsFormatsThatItHasNoRoomFor) {
 
 // ---- Single keys ----
 
+// In a format that the caller filled, the text lowers all flags and else changes nothing but what `change` does; that
+// alone is written again.
+template <class Change>
+void ExpectOnly(const std::string& format, const std::string& text, Change change) {
+    std::string bytes(sizeof(CFG_ENCODE_FORMAT), '\x11');
+    for (const std::size_t flag : {0, 1, 2, 4})
+        bytes[flag] = 0;
+    bytes.replace(offsetof(CFG_ENCODE_FORMAT, stuVideo), 10, 10, '\0');
+    bytes.replace(offsetof(CFG_ENCODE_FORMAT, stuAudio), 6, 6, '\0');
+    CFG_ENCODE_FORMAT expected;
+    std::memcpy(&expected, bytes.data(), sizeof expected);
+    change(expected);
+    const OneRead read("{\"MainFormat\":[" + format + "]}", 0x11);
+    EXPECT_EQ(std::memcmp(&read.record.stuMainFormat[0], &expected, sizeof expected), 0) << format;
+    CFG_ENCODE_INFO record{};
+    record.nMainFormatCount = 1;
+    change(record.stuMainFormat[0]);
+    EXPECT_EQ(PackOne(kName, record), "{ \"MainFormat\" : [ " + text + " ] }");
+}
+
+template <class Part>
+struct Key {
+    const char* name;
+    const char* value;
+    std::uint8_t Part::*flag;
+    std::int32_t Part::*member;
+    std::int32_t word;
+
+    void Set(Part& part) const {
+        part.*flag = 1;
+        part.*member = word;
+    }
+    std::string json() const { return std::string("{\"") + name + "\":" + value + "}"; }
+    std::string text() const { return std::string("{ \"") + name + "\" : " + value + " }"; }
+};
+
+constexpr Key<CFG_ENCODE_FORMAT> kFormatKeys[] = {
+    {"VideoEnable", R"(true)", &CFG_ENCODE_FORMAT::abVideoEnable, &CFG_ENCODE_FORMAT::bVideoEnable, 1},
+    {"AudioEnable", R"(true)", &CFG_ENCODE_FORMAT::abAudioEnable, &CFG_ENCODE_FORMAT::bAudioEnable, 1},
+    {"SnapEnable", R"(true)", &CFG_ENCODE_FORMAT::abSnapEnable, &CFG_ENCODE_FORMAT::bSnapEnable, 1},
+};
+constexpr Key<CFG_ENCODE_VIDEO> kVideoKeys[] = {
+    {"Compression", R"("SVAC")", &CFG_ENCODE_VIDEO::abCompression, &CFG_ENCODE_VIDEO::emCompression, 9},
+    {"Width", R"(-1)", &CFG_ENCODE_VIDEO::abWidth, &CFG_ENCODE_VIDEO::nWidth, -1},
+    {"Height", R"(-2)", &CFG_ENCODE_VIDEO::abHeight, &CFG_ENCODE_VIDEO::nHeight, -2},
+    {"BitRateControl", R"("VBR")", &CFG_ENCODE_VIDEO::abBitRateControl, &CFG_ENCODE_VIDEO::emBitRateControl, 1},
+    {"BitRate", R"(-3)", &CFG_ENCODE_VIDEO::abBitRate, &CFG_ENCODE_VIDEO::nBitRate, -3},
+    {"GOP", R"(-4)", &CFG_ENCODE_VIDEO::abGop, &CFG_ENCODE_VIDEO::nGop, -4},
+    {"Quality", R"(-5)", &CFG_ENCODE_VIDEO::abQuality, &CFG_ENCODE_VIDEO::nQuality, -5},
+    {"Pack", R"("PS")", &CFG_ENCODE_VIDEO::abPack, &CFG_ENCODE_VIDEO::emPack, 1},
+    {"Profile", R"("High")", &CFG_ENCODE_VIDEO::abProfile, &CFG_ENCODE_VIDEO::emProfile, 4},
+};
+constexpr Key<CFG_ENCODE_AUDIO> kAudioKeys[] = {
+    {"Compression", R"("AAC")", &CFG_ENCODE_AUDIO::abCompression, &CFG_ENCODE_AUDIO::emCompression, 4},
+    {"Depth", R"(-1)", &CFG_ENCODE_AUDIO::abDepth, &CFG_ENCODE_AUDIO::nDepth, -1},
+    {"Frequency", R"(-2)", &CFG_ENCODE_AUDIO::abFrequency, &CFG_ENCODE_AUDIO::nFrequency, -2},
+    {"Mode", R"(-3)", &CFG_ENCODE_AUDIO::abMode, &CFG_ENCODE_AUDIO::nMode, -3},
+    {"Pack", R"("PS")", &CFG_ENCODE_AUDIO::abPack, &CFG_ENCODE_AUDIO::emPack, 1},
+    {"PacketPeriod", R"(-4)", &CFG_ENCODE_AUDIO::abPacketPeriod, &CFG_ENCODE_AUDIO::nPacketPeriod, -4},
+};
+
+TEST(Encode, ReadsAndWritesEachKeyAlone) {
+    for (const auto& key : kFormatKeys)
+        ExpectOnly(key.json(), key.text(), [&](CFG_ENCODE_FORMAT& format) { key.Set(format); });
+    for (const auto& key : kVideoKeys) {
+        ExpectOnly("{\"Video\":" + key.json() + "}", "{ \"Video\" : " + key.text() + " }",
+                   [&](CFG_ENCODE_FORMAT& format) { key.Set(format.stuVideo); });
+    }
+    ExpectOnly(R"({"Video":{"FPS":0.5}})", R"({ "Video" : { "FPS" : 0.5000000000000000 } })",
+               [](CFG_ENCODE_FORMAT& format) {
+                   format.stuVideo.abFps = 1;
+                   format.stuVideo.fFps = 0.5f;
+               });
+    for (const auto& key : kAudioKeys) {
+        ExpectOnly("{\"Audio\":" + key.json() + "}", "{ \"Audio\" : " + key.text() + " }",
+                   [&](CFG_ENCODE_FORMAT& format) {
+                       format.abAudio = 1;
+                       key.Set(format.stuAudio);
+                   });
+    }
+}
+
+TEST(Encode, TellsAnAudioThatHoldsNoKeys) {
+    for (const char* format : {R"({"Audio":{}})", R"({"Audio":{"Depth":null}})", R"({"Audio":5})", R"({"Audio":[1]})"})
+        ExpectOnly(format, "null", [](CFG_ENCODE_FORMAT& read) { read.abAudio = 1; });
+    for (const char* format : {R"({"Video":{}})", R"({"Video":5})", R"({"Video":null})", "7", "[]"})
+        ExpectOnly(format, "null", [](CFG_ENCODE_FORMAT&) {});
+}
+
 TEST(Encode, ReadsTheOlderKeyOfTheVideoSwitch) {
     const OneRead read(R"({"MainFormat":[{"VideoEn":false},{"VideoEn":true},{"VideoEn":true,"VideoEnable":false},
                                          {"VideoEn":true,"VideoEnable":null}]})");
@@ -244,6 +333,7 @@ TEST(Encode, KeepsTheChannelOfTheReply) {
     EXPECT_EQ(OneRead("{}", 0x11).record.nChannel, 0);
     EXPECT_EQ(OneRead("{}", 0x11, R"("channel":3,)").record.nChannel, 3);
     EXPECT_EQ(OneRead("{}", 0x11, R"("channel":"x",)").record.nChannel, 0);
+    EXPECT_EQ(OneRead("{}", 0x11, R"("channel":-0.5,)").record.nChannel, 0); // no integer below 0
     EXPECT_EQ(OneRead("{}", 0x11, R"("channel":null,)").record.nChannel, 0);
 }
 
@@ -284,6 +374,9 @@ TEST(Encode, RefusesAnythingButAListForAllChannels) {
     const Formats records(1, 0x11);
     for (const char* table : {"{}", R"({"MainFormat":[{}]})", "1", "\"x\"", "true"}) {
         EXPECT_EQ(ParseTable(kName, table, records, kAllChannels), kRefused) << table;
+    }
+    for (const char* channel : {"-2147483648", "-1.5"}) {
+        EXPECT_EQ(ParseTable(kName, "{}", records, std::string(R"("channel":)") + channel + ","), kRefused) << channel;
     }
     EXPECT_TRUE(records.isAll(0x11));
     EXPECT_EQ(ParseTable(kName, "[]", records, kAllChannels), (Answer{1, 0}));
@@ -356,6 +449,8 @@ TEST(Encode, WritesAListForAnySizeButOneRecord) {
     Formats oneAndAHalf(1, sizeof(CFG_ENCODE_INFO) / 2, 0);
     oneAndAHalf.Set(0, record);
     EXPECT_EQ(PackAll(kName, oneAndAHalf), R"([ { "MainFormat" : [ { "SnapEnable" : true } ] } ])");
+    records.Set(0, CFG_ENCODE_INFO{});
+    EXPECT_EQ(PackAll(kName, records), R"([ null, { "MainFormat" : [ { "SnapEnable" : true } ] } ])");
 }
 
 TEST(Encode, EndsAFormatListAtItsFourthWhateverTheCount) {

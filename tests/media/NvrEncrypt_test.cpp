@@ -72,6 +72,38 @@ TEST(NvrEncrypt, ClearsTheRecordOfAnEmptyList) {
     EXPECT_EQ(nullFirst[1].nCount, 1u);
 }
 
+TEST(NvrEncrypt, KeepsItsSwitchesAndPortsApart) {
+    const Nvrs records(1, 0x11);
+    ASSERT_EQ(ParseTable(kName, R"([{"Enable":true,"MatchPort":7},{"MatchNvrEnable":1,"TalkPort":8}])", records),
+              (Answer{1, kOne}));
+    CFG_NVR_ENCRYPT_INFO expected{};
+    expected.nCount = 2;
+    expected.stuItems[0].bEnable = 1;
+    expected.stuItems[0].nMatchPort = 7;
+    expected.stuItems[1].bMatchNvrEnable = 1;
+    expected.stuItems[1].nTalkPort = 8;
+    EXPECT_EQ(std::memcmp(records.data(), &expected, kOne), 0);
+    EXPECT_EQ(PackOne(kName, expected),
+              R"([ { "DevID" : "", "Enable" : true, "MatchNvrEnable" : false, "MatchPort" : 7, "NvrAddress" : "", )"
+              R"("TalkPort" : 0 }, { "DevID" : "", "Enable" : false, "MatchNvrEnable" : true, "MatchPort" : 0, )"
+              R"("NvrAddress" : "", "TalkPort" : 8 } ])");
+}
+
+TEST(NvrEncrypt, CountsItemsThatAreNoObjects) {
+    const Nvrs records(3, 0x11);
+    ASSERT_EQ(ParseTable(kName, R"([{"MatchPort":1},null,7])", records), (Answer{1, kOne}));
+    CFG_NVR_ENCRYPT_INFO expected{};
+    expected.nCount = 3;
+    expected.stuItems[0].nMatchPort = 1;
+    EXPECT_EQ(std::memcmp(records.data(), &expected, kOne), 0);
+    // The first element alone settles the form; an object among lists has a size, but no element.
+    ASSERT_EQ(ParseTable(kName, R"([[{"MatchPort":1}],{"MatchPort":2},7])", records), (Answer{1, 0}));
+    EXPECT_EQ(records[0].nCount, 1u);
+    EXPECT_EQ(records[1].nCount, 1u);
+    EXPECT_EQ(records[1].stuItems[0].nMatchPort, 0);
+    EXPECT_EQ(records[2].nCount, 0u);
+}
+
 TEST(NvrEncrypt, DropsItemsBeyondTheFourth) {
     const Nvrs records(1, 0x11);
     ASSERT_EQ(ParseTable(kName, R"([{},{},{},{"MatchPort":4},{"MatchPort":5}])", records), (Answer{1, kOne}));

@@ -63,6 +63,20 @@ TEST(StroboscopicLamp, TellsAWholeRecordForEveryLamp) {
     }
 }
 
+// An object has a size too, but no element of a list.
+TEST(StroboscopicLamp, CountsTheMembersOfAnObject) {
+    const Lamps record(1, 0x11);
+    EXPECT_EQ(ParseTable(kName, R"({"a":{"Mode":1},"b":2,"c":null})", record), (Answer{1, 3 * kSize}));
+    CFG_STROBOSCOPIC_LAMP_INFO expected{};
+    expected.nCount = 3;
+    EXPECT_EQ(std::memcmp(record.data(), &expected, kSize), 0);
+    const Lamps ports(1, 0x11);
+    EXPECT_EQ(ParseTable(kName, R"([{"Port":{"0":5,"1":6}},{"Port":[]},{"Port":null}])", ports),
+              (Answer{1, 3 * kSize}));
+    expected.stuLamps[0].nPortCount = 2;
+    EXPECT_EQ(std::memcmp(ports.data(), &expected, kSize), 0);
+}
+
 TEST(StroboscopicLamp, SucceedsWithNothingWhenThereIsNoTable) {
     const Lamps record(1, 0x11);
     EXPECT_EQ(ParseTable(kName, "null", record), (Answer{1, kNoLength}));
