@@ -1,5 +1,5 @@
 // "EncodeEncrypt": items in an array of the caller's.
-#include "media/MediaCalls.h"
+#include "support/Call.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The names of codecs, rates, packs, profiles and picture sizes, in both directions.
-#include "media/MediaCalls.h"
+#include "support/Call.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ std::string WriteFormat(std::int32_t code, std::int32_t CFG_ENCODE_VIDEO::*membe
     record.nMainFormatCount = 1;
     record.stuMainFormat[0].stuVideo.*member = code;
     record.stuMainFormat[0].stuVideo.*flag = 1;
-    return Inside(PackOne("Encode", record), "Video");
+    return Inside(Pack("Encode", record), "Video");
 }
 std::string WriteFormat(std::int32_t code, std::int32_t CFG_ENCODE_AUDIO::*member,
                         std::uint8_t CFG_ENCODE_AUDIO::*flag) {
@@ -49,7 +49,7 @@ std::string WriteFormat(std::int32_t code, std::int32_t CFG_ENCODE_AUDIO::*membe
     record.stuMainFormat[0].abAudio = 1;
     record.stuMainFormat[0].stuAudio.*member = code;
     record.stuMainFormat[0].stuAudio.*flag = 1;
-    return Inside(PackOne("Encode", record), "Audio");
+    return Inside(Pack("Encode", record), "Audio");
 }
 
 std::string Quoted(const char* key, const char* name, const char* colon = ":") {
@@ -154,7 +154,7 @@ std::uint32_t ReadSize(const std::string& value) {
     return records[0].emResolution;
 }
 std::string WriteSize(std::uint32_t code) {
-    return PackOne("CompressPlay", CFG_COMPRESS_PLAY_INFO{0, code, 0});
+    return Pack("CompressPlay", CFG_COMPRESS_PLAY_INFO{0, code, 0});
 }
 std::string TextOfSize(const char* name) {
     return std::string(R"({ "BitRate" : 0, "Enable" : false, "Resolution" : ")") + name + "\" }";
@@ -192,7 +192,7 @@ TEST(EncodeNames, Adaptation) {
         const CFG_ENCODE_ADAPT_INFO record = read(policy, modes[i]);
         EXPECT_EQ(record.emPolicy, i % 3 + 1);
         EXPECT_EQ(record.emFluencyMode, i + 1);
-        EXPECT_EQ(PackOne("EncodeAdapt", record),
+        EXPECT_EQ(Pack("EncodeAdapt", record),
                   std::string(R"({ "FluencyMode" : ")") + modes[i] + R"(", "Policy" : ")" + policy + "\" }");
     }
     for (const char* name : {"", "none", "fast", "SlowSync", "Best"}) {
@@ -200,10 +200,10 @@ TEST(EncodeNames, Adaptation) {
         EXPECT_EQ(read(name, name).emFluencyMode, 0) << name;
     }
     for (const std::int32_t code : {0, -1, 5, INT32_MIN, INT32_MAX}) {
-        EXPECT_EQ(PackOne("EncodeAdapt", CFG_ENCODE_ADAPT_INFO{code, code}), "null") << code;
+        EXPECT_EQ(Pack("EncodeAdapt", CFG_ENCODE_ADAPT_INFO{code, code}), "null") << code;
     }
-    EXPECT_EQ(PackOne("EncodeAdapt", CFG_ENCODE_ADAPT_INFO{4, 4}), R"({ "FluencyMode" : "Slowsync" })");
-    EXPECT_EQ(PackOne("EncodeAdapt", CFG_ENCODE_ADAPT_INFO{3, 0}), R"({ "Policy" : "Fluency" })");
+    EXPECT_EQ(Pack("EncodeAdapt", CFG_ENCODE_ADAPT_INFO{4, 4}), R"({ "FluencyMode" : "Slowsync" })");
+    EXPECT_EQ(Pack("EncodeAdapt", CFG_ENCODE_ADAPT_INFO{3, 0}), R"({ "Policy" : "Fluency" })");
 }
 
 } // namespace

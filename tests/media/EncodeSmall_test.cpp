@@ -1,5 +1,5 @@
 // "EncodePlan", "EncodeAdapt", "SmartEncode" and "CompressPlay": small records, one or a list.
-#include "media/MediaCalls.h"
+#include "support/Call.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // "Encode": the formats of a channel, over what the caller's record holds.
-#include "media/MediaCalls.h"
+#include "support/Call.h"
 
 #include <gtest/gtest.h>
 
@@ -98,8 +98,8 @@ TEST(Encode, GivesBackWhatItRead) {
     const OneRead read("{\"SnapFormat\":[" + format + "],\"MainFormat\":[" + format + "," + format
                        + "],\"ExtraFormat\":[" + format + "]}");
     const std::string text = kFullFormatText;
-    EXPECT_EQ(PackOne(kName, read.record), "{ \"ExtraFormat\" : [ " + text + " ], \"MainFormat\" : [ " + text + ", "
-                                               + text + " ], \"SnapFormat\" : [ " + text + " ] }");
+    EXPECT_EQ(Pack(kName, read.record), "{ \"ExtraFormat\" : [ " + text + " ], \"MainFormat\" : [ " + text + ", " + text
+                                            + " ], \"SnapFormat\" : [ " + text + " ] }");
 }
 
 // ---- What the caller's record held ----
@@ -181,10 +181,10 @@ TEST(Encode, CountsFormatsThatItHasNoRoomFor) {
     EXPECT_EQ(read.record.stuMainFormat[3].abSnapEnable, 1);
     EXPECT_EQ(read.record.stuMainFormat[3].bSnapEnable, 0);
     EXPECT_EQ(read.record.stuExtraFormat[0].abSnapEnable, 0); // the fifth format found no room, so none of its own
-    EXPECT_EQ(PackOne(kName, read.record), R"({ "ExtraFormat" : [ null, null, null, null ], )"
-                                           R"("MainFormat" : [ { "SnapEnable" : true }, null, null, )"
-                                           R"({ "SnapEnable" : false } ], )"
-                                           R"("SnapFormat" : [ null, null, null, null ] })");
+    EXPECT_EQ(Pack(kName, read.record), R"({ "ExtraFormat" : [ null, null, null, null ], )"
+                                        R"("MainFormat" : [ { "SnapEnable" : true }, null, null, )"
+                                        R"({ "SnapEnable" : false } ], )"
+                                        R"("SnapFormat" : [ null, null, null, null ] })");
 }
 
 // ---- Single keys ----
@@ -206,7 +206,7 @@ void ExpectOnly(const std::string& format, const std::string& text, Change chang
     CFG_ENCODE_INFO record{};
     record.nMainFormatCount = 1;
     change(record.stuMainFormat[0]);
-    EXPECT_EQ(PackOne(kName, record), "{ \"MainFormat\" : [ " + text + " ] }");
+    EXPECT_EQ(Pack(kName, record), "{ \"MainFormat\" : [ " + text + " ] }");
 }
 
 template <class Part>
@@ -286,8 +286,8 @@ TEST(Encode, ReadsTheOlderKeyOfTheVideoSwitch) {
         EXPECT_EQ(read.record.stuMainFormat[i].abVideoEnable, 1) << i;
         EXPECT_EQ(read.record.stuMainFormat[i].bVideoEnable, expected[i]) << i;
     }
-    EXPECT_EQ(PackOne(kName, read.record), R"({ "MainFormat" : [ { "VideoEnable" : false }, { "VideoEnable" : true }, )"
-                                           R"({ "VideoEnable" : false }, { "VideoEnable" : true } ] })");
+    EXPECT_EQ(Pack(kName, read.record), R"({ "MainFormat" : [ { "VideoEnable" : false }, { "VideoEnable" : true }, )"
+                                        R"({ "VideoEnable" : false }, { "VideoEnable" : true } ] })");
 }
 
 TEST(Encode, WritesAnObjectOnlyForKeysInside) {
@@ -298,7 +298,7 @@ TEST(Encode, WritesAnObjectOnlyForKeysInside) {
     record.stuMainFormat[1].stuAudio.nDepth = 8; // and keys without the flag stay here
     record.stuMainFormat[2].stuVideo.abGop = 1;  // the video's need none
     record.stuMainFormat[2].stuVideo.nGop = -3;
-    EXPECT_EQ(PackOne(kName, record), R"({ "MainFormat" : [ null, null, { "Video" : { "GOP" : -3 } } ] })");
+    EXPECT_EQ(Pack(kName, record), R"({ "MainFormat" : [ null, null, { "Video" : { "GOP" : -3 } } ] })");
 }
 
 TEST(Encode, WritesFalseForASwitchThatIsOff) {
@@ -307,11 +307,11 @@ TEST(Encode, WritesFalseForASwitchThatIsOff) {
     record.stuSnapFormat[0].abSnapEnable = 0xFF;
     record.stuSnapFormat[0].abAudioEnable = 1;
     record.stuSnapFormat[0].bAudioEnable = -2;
-    EXPECT_EQ(PackOne(kName, record), R"({ "SnapFormat" : [ { "AudioEnable" : true, "SnapEnable" : false } ] })");
+    EXPECT_EQ(Pack(kName, record), R"({ "SnapFormat" : [ { "AudioEnable" : true, "SnapEnable" : false } ] })");
 }
 
 TEST(Encode, WritesNothingAsNull) {
-    EXPECT_EQ(PackOne(kName, CFG_ENCODE_INFO{}), "null");
+    EXPECT_EQ(Pack(kName, CFG_ENCODE_INFO{}), "null");
 }
 
 TEST(Encode, ReadsAndWritesPicturesASecondAsReals) {
@@ -320,9 +320,9 @@ TEST(Encode, ReadsAndWritesPicturesASecondAsReals) {
     EXPECT_EQ(read.record.stuMainFormat[1].stuVideo.fFps, 0.1f);
     EXPECT_EQ(read.record.stuMainFormat[2].stuVideo.fFps, 0.0f);
     // Sixteen digits of the float's own value.
-    EXPECT_EQ(PackOne(kName, read.record), R"({ "MainFormat" : [ { "Video" : { "FPS" : 25.00000000000000 } }, )"
-                                           R"({ "Video" : { "FPS" : 0.1000000014901161 } }, )"
-                                           R"({ "Video" : { "FPS" : 0.000000000000000 } } ] })");
+    EXPECT_EQ(Pack(kName, read.record), R"({ "MainFormat" : [ { "Video" : { "FPS" : 25.00000000000000 } }, )"
+                                        R"({ "Video" : { "FPS" : 0.1000000014901161 } }, )"
+                                        R"({ "Video" : { "FPS" : 0.000000000000000 } } ] })");
 }
 
 // ---- The channel and the form it picks ----

@@ -1,5 +1,5 @@
 // "NvrEncrypt": a list, or a list of lists, of items inside records.
-#include "media/MediaCalls.h"
+#include "support/Call.h"
 
 #include <gtest/gtest.h>
 
@@ -83,7 +83,7 @@ TEST(NvrEncrypt, KeepsItsSwitchesAndPortsApart) {
     expected.stuItems[1].bMatchNvrEnable = 1;
     expected.stuItems[1].nTalkPort = 8;
     EXPECT_EQ(std::memcmp(records.data(), &expected, kOne), 0);
-    EXPECT_EQ(PackOne(kName, expected),
+    EXPECT_EQ(Pack(kName, expected),
               R"([ { "DevID" : "", "Enable" : true, "MatchNvrEnable" : false, "MatchPort" : 7, "NvrAddress" : "", )"
               R"("TalkPort" : 0 }, { "DevID" : "", "Enable" : false, "MatchNvrEnable" : true, "MatchPort" : 0, )"
               R"("NvrAddress" : "", "TalkPort" : 8 } ])");
@@ -171,13 +171,13 @@ CFG_NVR_ENCRYPT_INFO WithItems(std::int32_t channel, std::uint32_t count) {
 TEST(NvrEncrypt, WritesOneRecordAsAListOrInsideAnOuterOne) {
     const std::string item = kEmptyItemText;
     for (const std::int32_t channel : {0, 3, -2, INT32_MIN})
-        EXPECT_EQ(PackOne(kName, WithItems(channel, 1)), "[ " + item + " ]") << channel;
-    EXPECT_EQ(PackOne(kName, WithItems(-1, 2)), "[ [ " + item + ", " + item + " ] ]");
+        EXPECT_EQ(Pack(kName, WithItems(channel, 1)), "[ " + item + " ]") << channel;
+    EXPECT_EQ(Pack(kName, WithItems(-1, 2)), "[ [ " + item + ", " + item + " ] ]");
     for (const std::uint32_t count : {4u, 5u, 0xFFFFFFFFu}) {
-        EXPECT_EQ(PackOne(kName, WithItems(0, count)), "[ " + item + ", " + item + ", " + item + ", " + item + " ]");
+        EXPECT_EQ(Pack(kName, WithItems(0, count)), "[ " + item + ", " + item + ", " + item + ", " + item + " ]");
     }
-    EXPECT_EQ(PackOne(kName, WithItems(0, 0)), "null");
-    EXPECT_EQ(PackOne(kName, WithItems(-1, 0)), "null");
+    EXPECT_EQ(Pack(kName, WithItems(0, 0)), "null");
+    EXPECT_EQ(Pack(kName, WithItems(-1, 0)), "null");
     Nvrs nearlyTwo(1, kOne - 1, 0);
     nearlyTwo.Set(0, WithItems(0, 1));
     EXPECT_EQ(PackAll(kName, nearlyTwo), "[ " + item + " ]");

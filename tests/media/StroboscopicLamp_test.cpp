@@ -1,5 +1,5 @@
 // "StroboscopicLamp": up to eight lamps in one record.
-#include "media/MediaCalls.h"
+#include "support/Call.h"
 
 #include <gtest/gtest.h>
 
