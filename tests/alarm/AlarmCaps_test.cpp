@@ -59,6 +59,26 @@ TEST(AlarmCaps, ListsAreCutAtEightAndSixteen) {
         EXPECT_EQ(c->emSenseMethods[i], i);
 }
 
+TEST(AlarmCaps, ListsOfTheOthersAreCutAsWell) {
+    const auto extension = Caps<CFG_EX_ALARM_CAPS>("alarm.getExAlarmCaps",
+                                                   "{ \"DefenceAreaTypes\" : " + Texts(test::kAreas + 5, 9)
+                                                       + ", \"SupportSenseMethod\" : " + Texts(test::kSensors + 20, 17)
+                                                       + R"(, "ProtocolList" : [ 1, 2, 3, 4, 5, 6, 7, "QV_AlarmBox",
+                                                            "QV_AlarmBox", "QV_AlarmBox" ] })");
+    EXPECT_EQ(extension->nDefenceAreaTypeNum, 8);
+    EXPECT_THAT(extension->emDefenceAreaTypes, ElementsAre(6, 7, 8, 9, 10, 11, 12, 13));
+    EXPECT_EQ(extension->nSenseMethodNum, 16);
+    EXPECT_EQ(extension->emSenseMethods[0], 20);
+    EXPECT_EQ(extension->emSenseMethods[15], 35);
+    EXPECT_EQ(extension->nProtocolNum, 8);
+    EXPECT_THAT(extension->byProtocols, ElementsAre(0, 0, 0, 0, 0, 0, 0, 1));
+    const auto analog = Caps<CFG_ANALOG_ALARM_CAPS>(
+        "AnalogAlarm.getCaps", "{ \"SupportSenseMethod\" : " + Texts(test::kSensors + 29, 17) + " }");
+    EXPECT_EQ(analog->nSenseMethodNum, 16);
+    EXPECT_EQ(analog->emSenseMethods[0], 29);
+    EXPECT_EQ(analog->emSenseMethods[15], 44);
+}
+
 TEST(AlarmCaps, NothingOfTheRightKind) {
     for (const char* caps : {"{ }", "5", "[ 1 ]", R"({ "DefenceAreaTypes" : "Fire", "SupportSenseMethod" : 1 })"}) {
         const auto c = Caps<CFG_ALARM_CAPS>("alarm.getAlarmCaps", caps);

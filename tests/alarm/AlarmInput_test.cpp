@@ -118,6 +118,27 @@ TEST(Alarm, NumbersGivenAsSomethingElse) {
     EXPECT_EQ(a->nLevel2, 0);
 }
 
+TEST(Alarm, NullsAreAbsent) {
+    const auto none = Parse<Alarm>("Alarm", "{ }");
+    const auto nulls = Parse<Alarm>("Alarm", R"({ "DefenceAreaType" : null, "DisableDelay" : null, "Enable" : null,
+        "EnableControl" : null, "EnableDelay" : null, "EventHandler" : null, "ID" : null, "Level1" : null,
+        "Level2" : null, "Name" : null, "Pole" : null, "SenseMethod" : null, "SensorType" : null, "Slot" : null })");
+    ASSERT_TRUE(nulls);
+    EXPECT_EQ(nulls->abDeviceID, 0);
+    EXPECT_EQ(nulls->abLevel2, 0);
+    EXPECT_EQ(nulls->nLevel2, -1);
+    EXPECT_EQ(std::memcmp(nulls.record.get(), none.record.get(), sizeof(Alarm)), 0);
+}
+
+TEST(Alarm, TheChannelStandsUnderParams) {
+    const auto channel = [](const char* document) { return ParseDocument<Alarm>("Alarm", document)->nChannel; };
+    EXPECT_EQ(channel(R"({ "channel" : 9, "params" : { "table" : { "channel" : 8 } } })"), 0);
+    EXPECT_EQ(channel(R"({ "params" : { "channel" : -1, "table" : { } } })"), -1);
+    EXPECT_EQ(channel(R"({ "params" : { "channel" : "4", "table" : { } } })"), 0);
+    EXPECT_EQ(channel(R"({ "params" : { "channel" : 4.9, "table" : { } } })"), 4);
+    EXPECT_EQ(channel(R"({ "params" : { "channel" : 4 } })"), 0); // no table, and so nothing at all
+}
+
 TEST(Alarm, SensorNames) {
     auto record = Cleared<Alarm>();
     for (int code = 0; code < 46; ++code) {
@@ -250,6 +271,15 @@ TEST(NetAlarm, BothWays) {
               R"({ "Enable" : true, "EventHandler" : { "AlarmOutEnable" : false, "RecordEnable" : false, )"
               R"("TimeSection" : )"
                   + WeekText(7, {{0, 0, "1 01:00:00-02:00:00"}}) + R"( }, "Name" : "N", "SensorType" : "NO" })");
+}
+
+TEST(NetAlarm, EnabledAtAnyNumberButZero) {
+    auto record = Cleared<CFG_NET_ALARM_INFO>();
+    for (const std::int32_t enabled : {2, -1, INT32_MIN}) {
+        record->bEnable = enabled;
+        EXPECT_EQ(Pack("NetAlarm", *record),
+                  R"({ "Enable" : true, )" + kNoHandler + R"(, "Name" : "", )" + R"("SensorType" : "NC" })");
+    }
 }
 
 TEST(LossDetect, EnabledAtExactlyOne) {

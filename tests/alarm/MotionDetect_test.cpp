@@ -1,7 +1,10 @@
 #include "support/Call.h"
 #include "support/WeekText.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
+#include <random>
+#include <string>
 
 namespace orrery {
 namespace {
@@ -199,6 +202,35 @@ TEST(MotionDetect, WindowsEndAtTen) {
     }
 }
 
+TEST(MotionDetect, AGridWindowEndsAt32RowsAnd63BytesOfItsName) {
+    std::string rows = "[ 1";
+    for (int row = 1; row < 40; ++row)
+        rows += ", 1";
+    const auto m = Parse<Motion>("MotionDetect", R"({ "MotionDetectWindow" : [ { "Name" : ")" + std::string(70, 'n')
+                                                     + R"(", "Region" : )" + rows + " ] }, { } ] }");
+    EXPECT_EQ(m->nRegionWindowNum, 2);
+    EXPECT_EQ(m->stuRegionWindow[0].nRow, 32);
+    EXPECT_EQ(m->stuRegionWindow[0].szName, std::string(63, 'n'));
+    EXPECT_EQ(Cells(m->stuRegionWindow[0].byRegion[31]), " 21");
+    const CFG_MOTION_REGION_WINDOW none{};
+    EXPECT_EQ(std::memcmp(&m->stuRegionWindow[1], &none, sizeof none), 0);
+}
+
+TEST(MotionDetect, NullsAreAbsent) {
+    auto m = Parse<Motion>("MotionDetect", R"({ "Col" : null, "Enable" : null, "EventHandler" : null, "Level" : null,
+        "MotionDetectWindow" : null, "Region" : null, "Row" : null, "SubRatio" : null, "VolumeRatio" : null })");
+    ASSERT_TRUE(m);
+    EXPECT_EQ(m->bRead, 1);
+    m.record->bRead = 0;
+    EXPECT_TRUE(m.isCleared());
+    // In a window a null is neither form.
+    const auto window = Parse<Motion>(
+        "MotionDetect", R"({ "MotionDetectWindow" : [ { "Threshold" : 1, "Window" : null, "Region" : null } ] })");
+    EXPECT_EQ(window->abWindow, 0);
+    EXPECT_EQ(window->abRegionWindow, 0);
+    EXPECT_EQ(window->stuWindow[0].nThreshold, 0);
+}
+
 // ---- Writing ----
 
 TEST(MotionDetect, AClearRecord) {
@@ -309,6 +341,42 @@ TEST(MotionDetect, GridWindowsEndAtTheirBounds) {
     for (auto at = text.find("[ 2147483648, 0"); at != std::string::npos; at = text.find("[ 2147483648, 0", at + 1))
         ++windows;
     EXPECT_EQ(windows, 10u);
+}
+
+// A row as both grids write it: exactly 1 is watched, and cells beyond the columns are none.
+std::uint32_t Bits(const std::uint8_t (&row)[32], int cols, bool lowBitFirst) {
+    std::uint32_t bits = 0;
+    for (int cell = 0; cell < cols && cell < 32; ++cell) {
+        const int last = (cols < 32 ? cols : 32) - 1;
+        if (row[cell] == 1) bits |= 1u << (lowBitFirst ? cell : last - cell);
+    }
+    return bits;
+}
+
+TEST(MotionDetect, CellsOfAnyContent) {
+    std::mt19937 random(7);
+    const std::uint8_t cells[] = {0, 1, 1, 2, 0x80, 0x81, 0xFF};
+    auto m = Cleared<Motion>();
+    for (int cols = -1; cols < 35; ++cols) {
+        m->nRow = 32;
+        m->nCol = cols;
+        m->nRegionWindowNum = 1;
+        m->stuRegionWindow[0].nRow = 32;
+        m->stuRegionWindow[0].nCol = cols;
+        std::string low;
+        std::string high;
+        for (int row = 0; row < 32; ++row) {
+            for (int cell = 0; cell < 32; ++cell) {
+                m->byRegion[row][cell] = m->stuRegionWindow[0].byRegion[row][cell] = cells[random() % sizeof cells];
+            }
+            low += (row > 0 ? ", " : "") + std::to_string(Bits(m->byRegion[row], cols, true));
+            high += (row > 0 ? ", " : "") + std::to_string(Bits(m->byRegion[row], cols, false));
+        }
+        m->abRegionWindow = 0;
+        EXPECT_NE(Pack("MotionDetect", *m).find("\"Region\" : [ " + low + " ]"), std::string::npos) << cols;
+        m->abRegionWindow = 1;
+        EXPECT_NE(Pack("MotionDetect", *m).find("\"Region\" : [ " + high + " ]"), std::string::npos) << cols;
+    }
 }
 
 TEST(MotionDetect, BothFormsGoToOneList) {
