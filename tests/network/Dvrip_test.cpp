@@ -121,6 +121,21 @@ TEST(Dvrip, AVehiclesAddressKeeps254Bytes) {
     EXPECT_EQ(std::string(parsed->stuRegisterVehicle.szDeviceID), address.substr(0, 255));
 }
 
+TEST(Dvrip, OtherTextsKeep255Bytes) {
+    const std::string x(300, 'x');
+    const auto parsed =
+        Parse<CFG_DVRIP_INFO>("DVRIP", R"({ "MCASTAddress" : ")" + x + R"(", "RegisterServerEx" : { "DeviceID" : ")" + x
+                                           + R"(", "Servers" : [ { "Address" : ")" + x + R"(", "Port" : 5 } ] },
+        "RegisterServerVehicle" : { "TestAddress" : ")"
+                                           + x + R"(", "TestPort" : 6 } })");
+    EXPECT_EQ(std::string(parsed->szMCASTAddress), x.substr(0, 255));
+    EXPECT_EQ(std::string(parsed->stuRegisterServerEx.szDeviceID), x.substr(0, 255));
+    EXPECT_EQ(std::string(parsed->stuRegisterServerEx.stuServers[0].szAddress), x.substr(0, 255));
+    EXPECT_EQ(parsed->stuRegisterServerEx.stuServers[0].nPort, 5);
+    EXPECT_EQ(std::string(parsed->stuRegisterVehicle.szTestAddress), x.substr(0, 255));
+    EXPECT_EQ(parsed->stuRegisterVehicle.nTestPort, 6);
+}
+
 TEST(Dvrip, RefusedAndMissing) {
     EXPECT_FALSE((ParseDocument<CFG_DVRIP_INFO>("DVRIP", R"({ "params" : { "table" : { } } })")));
     const auto none = ParseDocument<CFG_DVRIP_INFO>("DVRIP", R"({ "result" : true })");

@@ -104,6 +104,34 @@ TEST(Multicast, AStreamKeeps256Items) {
     EXPECT_EQ(Pack("Multicast", *record), "null");
 }
 
+TEST(Multicast, ValuesOfAnItem) {
+    auto record = Cleared<CFG_MULTICAST_INFO>();
+    Prepare(*record, 0xEE);
+    ASSERT_EQ(ParseInto(record.get(), Reply(R"({ "QVII" : [ { "Enable" : "no", "Port" : 1.9, "Channel" : true,
+        "MulticastAddr" : ")" + std::string(300, 'm')
+                                            + R"(", "LocalAddr" : ")" + std::string(256, 'l') + R"(" },
+        null, { "Enable" : 5, "Port" : "7", "MulticastAddr" : 5, "LocalAddr" : null } ] })")),
+              1);
+    ASSERT_EQ(record->stuQVII.nCount, 3);
+    const CFG_MULTICAST_ITEM& first = record->stuQVII.stuItem[0];
+    EXPECT_EQ(first.bEnable, 1u);
+    EXPECT_EQ(first.nPort, 1);
+    EXPECT_EQ(first.nChannel, 1);
+    EXPECT_EQ(first.szMulticastAddr, std::string(255, 'm'));
+    EXPECT_EQ(first.szLocalAddr, std::string(255, 'l'));
+    for (const int other : {1, 2}) {
+        const CFG_MULTICAST_ITEM& item = record->stuQVII.stuItem[other];
+        EXPECT_EQ(item.bEnable, other == 2 ? 1u : 0u);
+        EXPECT_EQ(item.nPort, 0);
+        EXPECT_EQ(item.nChannel, 0);
+        EXPECT_STREQ(item.szMulticastAddr, "");
+        EXPECT_STREQ(item.szLocalAddr, "");
+    }
+    record->stuQVII.stuItem[2].bEnable = 0x80000000u; // any number but zero
+    EXPECT_NE(Pack("Multicast", *record).find(R"("Enable" : true, "LocalAddr" : "", "MulticastAddr" : "")"),
+              std::string::npos);
+}
+
 TEST(Multicast, StreamTypesInBothDirections) {
     const char* const names[] = {"Main", "Extra1", "Extra2", "Extra3", "Snapshot", "Object"};
     auto record = Cleared<CFG_MULTICAST_INFO>();

@@ -47,6 +47,74 @@ TEST(Network, ReadsEachInterfaceUnderItsName) {
     EXPECT_EQ(parsed->stuInterfaces[2].nBonding, 0) << "no interface: the slot stays clear";
 }
 
+TEST(Network, SwitchesAreReadAsNumbersAndWrittenAsBools) {
+    auto parsed = Parse<CFG_NETWORK_INFO>("Network", R"({ "e" : { "DhcpEnable" : 7, "DnsAutoGet" : -2, "Enable" : 256,
+        "EnableDhcpReservedIP" : 1.5, "Bonding" : 5 }, "f" : { "DhcpEnable" : true, "DnsAutoGet" : "true",
+        "Enable" : false, "EnableDhcpReservedIP" : "x", "Bonding" : false }, "g" : { "MTU" : 1, "Bonding" : null } })");
+    ASSERT_TRUE(parsed);
+    const CFG_NETWORK_INTERFACE* const numbers = &parsed->stuInterfaces[0];
+    EXPECT_EQ(numbers->bDhcpEnable, 7);
+    EXPECT_EQ(numbers->bDnsAutoGet, -2);
+    EXPECT_EQ(numbers->bEnable, 256);
+    EXPECT_EQ(numbers->bReservedIP, 1);
+    EXPECT_EQ(numbers->nBonding, 1) << "this one is a bool";
+    const CFG_NETWORK_INTERFACE* const others = &parsed->stuInterfaces[1];
+    EXPECT_EQ(others->bDhcpEnable, 1);
+    EXPECT_EQ(others->bDnsAutoGet, 0);
+    EXPECT_EQ(others->bEnable, 0);
+    EXPECT_EQ(others->bReservedIP, 0);
+    EXPECT_EQ(others->nBonding, 0);
+    EXPECT_EQ(parsed->stuInterfaces[2].nBonding, -1) << "null is absent";
+    parsed.record->stuInterfaces[0].nBonding = -2;
+    const std::string text = Pack("Network", *parsed);
+    EXPECT_NE(text.find(R"("e" : { "Bonding" : true, "DefaultGateway" : "", "DhcpEnable" : true, )"
+                        R"("DnsAutoGet" : true, "Enable" : true, "EnableDhcpReservedIP" : true, )"),
+              std::string::npos)
+        << text;
+}
+
+TEST(Network, OfTheNameServersTheFirstTwo) {
+    const auto read = [](const std::string& value) {
+        const auto parsed = Parse<CFG_NETWORK_INFO>("Network", R"({ "e" : { "DnsServers" : )" + value + " } }");
+        const auto& servers = parsed->stuInterfaces[0].szDnsServers;
+        return std::string(servers[0]) + "|" + servers[1];
+    };
+    EXPECT_EQ(read(R"([ "a", "b", "c" ])"), "a|b");
+    EXPECT_EQ(read(R"([ "a" ])"), "a|");
+    EXPECT_EQ(read(R"([ "", "b" ])"), "|b");
+    EXPECT_EQ(read(R"([ null, 5 ])"), "|");
+    EXPECT_EQ(read(R"("a")"), "|");
+    EXPECT_EQ(read(R"({ "0" : "a" })"), "|");
+    EXPECT_EQ(read("[ \"" + std::string(300, 'a') + "\", \"b\" ]"), std::string(255, 'a') + "|b");
+}
+
+TEST(Network, AKeyThatHoldsAnObjectIsAnInterfaceToo) {
+    const auto parsed = Parse<CFG_NETWORK_INFO>("Network", R"({ "Hostname" : { "MTU" : 3 }, "Domain" : { } })");
+    ASSERT_TRUE(parsed);
+    EXPECT_STREQ(parsed->szHostName, "");
+    ASSERT_EQ(parsed->nInterfaceNum, 1);
+    EXPECT_STREQ(parsed->stuInterfaces[0].szName, "Hostname");
+    EXPECT_EQ(parsed->stuInterfaces[0].nMTU, 3);
+}
+
+TEST(Network, TextsAreCutAtTheirCapacity) {
+    const std::string x(300, 'x');
+    std::string table = "{";
+    for (const char* key : {"Hostname", "Domain", "DefaultInterface"})
+        table += " \"" + std::string(key) + "\" : \"" + x + "\",";
+    table += " \"e\" : {";
+    for (const char* key : {"IPAddress", "SubnetMask", "DefaultGateway", "PhysicalAddress"})
+        table += " \"" + std::string(key) + "\" : \"" + x + "\",";
+    const auto parsed = Parse<CFG_NETWORK_INFO>("Network", table + " \"MTU\" : 9 } }");
+    ASSERT_TRUE(parsed);
+    for (const char* text : {parsed->szHostName, parsed->szDomain, parsed->szDefInterface})
+        EXPECT_EQ(std::string(text), x.substr(0, 127));
+    const CFG_NETWORK_INTERFACE& e = parsed->stuInterfaces[0];
+    for (const char* text : {e.szIP, e.szSubnetMask, e.szDefGateway, e.szMacAddress})
+        EXPECT_EQ(std::string(text), x.substr(0, 255));
+    EXPECT_EQ(e.nMTU, 9);
+}
+
 TEST(Network, OnlyObjectsWithMembersAreInterfaces) {
     const auto parsed = Parse<CFG_NETWORK_INFO>(
         "Network", R"({ "Hostname" : "a", "b" : 1, "c" : "d", "e" : [ { "MTU" : 1 } ], "f" : {}, "g" : null,
@@ -92,6 +160,7 @@ TEST(Network, FailuresAndWhatTheyLeave) {
     EXPECT_FALSE(refused);
     EXPECT_TRUE(refused.isCleared());
     EXPECT_EQ(refused.length, kNoLength);
+    EXPECT_FALSE(ParseDocument<CFG_NETWORK_INFO>("Network", R"({ "params" : { "table" : { } } })"));
     const auto noJson = ParseDocument<CFG_NETWORK_INFO>("Network", "{ \"result\" : ");
     EXPECT_FALSE(noJson);
     EXPECT_TRUE(noJson.isCleared());
@@ -270,6 +339,18 @@ TEST(Rtsp, ReadsTheTableOfARefusedCall) {
     const auto none = ParseDocument<CFG_RTSP_INFO>("RTSP", R"({ "result" : true, "params" : {} })");
     EXPECT_FALSE(none);
     EXPECT_TRUE(none.isCleared());
+}
+
+TEST(Rtsp, ValuesOfOtherTypes) {
+    const auto parsed = Parse<CFG_RTSP_INFO>("RTSP", R"({ "Enable" : "false", "Port" : "554", "RTP" : 20000,
+        "RtspOverHttp" : { "Enable" : 2, "Port" : true } })");
+    ASSERT_TRUE(parsed);
+    EXPECT_EQ(parsed->bEnable, 1) << "a text that is not empty";
+    EXPECT_EQ(parsed->nPort, 0);
+    EXPECT_EQ(parsed->nRtpStartPort, 0);
+    EXPECT_EQ(parsed->nRtpEndPort, 0);
+    EXPECT_EQ(parsed->bHttpEnable, 1);
+    EXPECT_EQ(parsed->nHttpPort, 1);
 }
 
 TEST(Rtsp, ATextOfExactlyTheCapacityLosesItsNewline) {

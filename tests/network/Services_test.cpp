@@ -103,6 +103,21 @@ TEST(Email, KeepsAHundredReceivers) {
     EXPECT_NE(Pack("Email", *parsed).find(R"("Receivers" : [ "r0", "r1", "r2" ])"), std::string::npos);
 }
 
+TEST(Email, TextsAreCutAtTheirCapacity) {
+    const std::string x(300, 'x');
+    std::string table = "{ \"Receivers\" : [ \"" + x + "\" ]";
+    for (const char* key : {"Address", "UserName", "Password", "SendAddress", "Title"})
+        table += ", \"" + std::string(key) + "\" : \"" + x + "\"";
+    const auto parsed = Parse<CFG_EMAIL_INFO>("Email", table + " }");
+    EXPECT_EQ(std::string(parsed->szAddress), x.substr(0, 255));
+    EXPECT_EQ(std::string(parsed->szUserName), x.substr(0, 63));
+    EXPECT_EQ(std::string(parsed->szPassword), x.substr(0, 63));
+    EXPECT_EQ(std::string(parsed->szSendAddress), x.substr(0, 255));
+    EXPECT_EQ(std::string(parsed->szTitle), x.substr(0, 255));
+    EXPECT_EQ(std::string(parsed->szReceivers[0]), x.substr(0, 255));
+    EXPECT_EQ(parsed->bOnlyAttachment, 0);
+}
+
 // ---- The small ones ----
 
 TEST(Stp, ThereAndBack) {
@@ -191,6 +206,38 @@ TEST(Https, ThereAndBack) {
     EXPECT_STREQ(certificate.szPath, "/etc/certs");
     EXPECT_EQ(certificate.nUsefulLife, 365);
     EXPECT_EQ(Pack("Https", record), text);
+}
+
+TEST(Https, TextsAreCutAtTheirCapacity) {
+    const std::string x(200, 'x');
+    std::string table = "{ \"RootCertificate\" : \"" + x + "\", \"ServerCertificate\" : { \"UsefulLife\" : 1";
+    for (const char* key :
+         {"Country", "State", "Locatity", "Organization", "OrganizationUnit", "CommonName", "Email", "Name", "Path"})
+        table += ", \"" + std::string(key) + "\" : \"" + x + "\"";
+    const auto record = Cleared<CFG_HTTPS_INFO>();
+    ASSERT_EQ(CLIENT_ParseData("Https", (R"({ "result" : true, "params" : { "table" : )" + table + " } } } }").c_str(),
+                               record.get(), sizeof(CFG_HTTPS_INFO), nullptr),
+              1);
+    EXPECT_EQ(std::string(record->szRootCertificate), x.substr(0, 127));
+    const CFG_SERVER_CERTIFICATE& certificate = record->stuServerCertificate;
+    EXPECT_EQ(std::string(certificate.szCountry), x.substr(0, 7));
+    for (const char* text :
+         {certificate.szState, certificate.szLocality, certificate.szOrganization, certificate.szOrganizationUnit})
+        EXPECT_EQ(std::string(text), x.substr(0, 63));
+    for (const char* text : {certificate.szCommonName, certificate.szEmail, certificate.szName, certificate.szPath})
+        EXPECT_EQ(std::string(text), x.substr(0, 127));
+    EXPECT_EQ(certificate.nUsefulLife, 1);
+}
+
+TEST(Https, AListIsOneRecordWithoutKeys) {
+    CFG_HTTPS_INFO record;
+    std::memset(&record, 0xCD, sizeof record);
+    std::uint32_t length = 0;
+    EXPECT_EQ(CLIENT_ParseData("Https", R"({ "result" : true, "params" : { "table" : [ { "Port" : 443 } ] } })",
+                               &record, sizeof record, &length),
+              1);
+    EXPECT_EQ(length, sizeof record);
+    EXPECT_EQ(record.nPort, 0);
 }
 
 TEST(Https, AMissingTableSucceedsWithNothingRead) {

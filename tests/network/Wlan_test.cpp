@@ -95,6 +95,16 @@ TEST(Wlan, WhatIsNoListReadsAsNone) {
     }
 }
 
+TEST(Wlan, OfTheKeysTheFirstFour) {
+    const auto record = ParseWlan(R"([ { "Keys" : [ "1", null, 3, "4", "5" ], "KeyFlag" : 2 } ])");
+    EXPECT_STREQ(record->stuWlan[0].szKeys[0], "1");
+    EXPECT_STREQ(record->stuWlan[0].szKeys[1], "");
+    EXPECT_STREQ(record->stuWlan[0].szKeys[2], "");
+    EXPECT_STREQ(record->stuWlan[0].szKeys[3], "4");
+    EXPECT_EQ(record->stuWlan[0].bKeyFlag, 1);
+    EXPECT_STREQ(record->stuWlan[0].stuEAP.szMethod, "");
+}
+
 TEST(Wlan, ANullKeepsItsPlace) {
     const auto record = ParseWlan(R"([ null, { "KeyID" : 3 } ])");
     EXPECT_EQ(record->nNum, 2);
@@ -111,6 +121,15 @@ TEST(Wlan, TextsAreCutAtTheirCapacity) {
     EXPECT_EQ(std::string(entry.stuNetwork.szIPAddress), x.substr(0, 39));
     EXPECT_EQ(std::string(entry.stuEAP.szCaCert), x.substr(0, 511));
     EXPECT_EQ(std::string(entry.stuEAP.szPassword), x.substr(0, 63));
+    const auto others = ParseWlan(R"([ { "EAP" : { "Identity" : ")" + x + R"(", "AnonymousID" : ")" + x
+                                  + R"(", "UserCert" : ")" + x + R"(" }, "Network" : { "SubnetMask" : ")" + x
+                                  + R"(", "DefaultGateway" : ")" + x + R"(", "DhcpEnable" : true } } ])");
+    EXPECT_EQ(std::string(others->stuWlan[0].stuEAP.szIdentity), x.substr(0, 63));
+    EXPECT_EQ(std::string(others->stuWlan[0].stuEAP.szAnonymousID), x.substr(0, 63));
+    EXPECT_EQ(std::string(others->stuWlan[0].stuEAP.szUserCert), x.substr(0, 511));
+    EXPECT_EQ(std::string(others->stuWlan[0].stuNetwork.szSubnetMask), x.substr(0, 39));
+    EXPECT_EQ(std::string(others->stuWlan[0].stuNetwork.szDefaultGateway), x.substr(0, 39));
+    EXPECT_EQ(others->stuWlan[0].stuNetwork.bDhcpEnable, 1);
     // A WPA key of 64 hexadecimal digits is whole.
     EXPECT_EQ(std::string(ParseWlan(R"([ { "Keys" : [ ")" + x.substr(0, 64) + "\" ] } ]")->stuWlan[0].szKeys[0]),
               x.substr(0, 64));
@@ -160,7 +179,14 @@ TEST(Wlan, NamesInBothDirections) {
             EXPECT_EQ(Pack("WLan", *record).find(" " + key), std::string::npos) << named.key << code;
         }
     }
-    EXPECT_EQ(ParseWlan(R"([ { "KeyType" : "ascii" } ])")->stuWlan[0].emKeyType, CFG_WLAN_KEY_ASCII);
+    const auto folded = ParseWlan(R"([ { "LinkMode" : "AD-HOC", "Encryption" : "wpa2-psk-aes",
+        "DataEncryption" : "tkip+aes", "KeyType" : "ascii" } ])");
+    EXPECT_EQ(folded->stuWlan[0].emLinkMode, CFG_WLAN_LINK_ADHOC);
+    EXPECT_EQ(folded->stuWlan[0].emEncryption, CFG_WLAN_ENCRYPTION_WPA2_PSK_AES);
+    EXPECT_EQ(folded->stuWlan[0].emDataEncryption, CFG_WLAN_CIPHER_TKIP_AES);
+    EXPECT_EQ(folded->stuWlan[0].emKeyType, CFG_WLAN_KEY_ASCII);
+    EXPECT_EQ(ParseWlan(R"([ { "Authentication" : "Wpa\/wPA2" } ])")->stuWlan[0].emAuthentication,
+              CFG_WLAN_AUTH_WPA_WPA2);
 }
 
 } // namespace
