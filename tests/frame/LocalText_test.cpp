@@ -3,6 +3,8 @@
 #include "frame/LocalText.h"
 #include "support/FailingAllocator.h"
 
+#include "orrery/orrery.h"
+
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -10,6 +12,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <random>
 #include <string>
@@ -236,6 +239,27 @@ TEST_F(LocalTextIn, Iso88591GrowsPastTheRoomThatTextOutHas) {
         expected += "\xC3\xA9";
     EXPECT_EQ(written(large.c_str(), 8192), '"' + expected + '"');
     EXPECT_FALSE(arena.failed());
+}
+
+// The name of an interface has room for twice its length, so that it still finds its interface; an address has not.
+TEST_F(LocalTextIn, Iso88591NamesOfInterfacesKeepTheirEnds) {
+    Compile("ISO-8859-1", "xx_XX.ISO-8859-1");
+    const ProcessLocale locale("xx_XX.ISO-8859-1");
+    ASSERT_TRUE(locale.isThere());
+    auto record = std::make_unique<CFG_NETWORK_INFO>();
+    record->nInterfaceNum = 1;
+    std::strcpy(record->stuInterfaces[0].szName, "\xE9\xE9\xE9\xE9");
+    std::strcpy(record->stuInterfaces[0].szIP, "\xE9\xE9\xE9\xE9");
+    std::string packed(4096, '#');
+    ASSERT_EQ(CLIENT_PacketData("Network", record.get(), sizeof *record, packed.data(), 4096), 1);
+    EXPECT_NE(packed.find("\"\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\" : { "), std::string::npos);
+    EXPECT_NE(packed.find("\"IPAddress\" : \"\xC3\xA9\xC3\xA9\xC3\xA9\""), std::string::npos);
+    ASSERT_EQ(CLIENT_ParseData("Network",
+                               "{ \"result\" : true, \"params\" : { \"table\" : "
+                               "{ \"\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\" : { \"MTU\" : 1 } } } }",
+                               record.get(), sizeof *record, nullptr),
+              1);
+    EXPECT_STREQ(record->stuInterfaces[0].szName, "\xE9\xE9\xE9\xE9");
 }
 
 TEST_F(LocalTextIn, GbkThroughTheFieldCodecs) {
