@@ -395,6 +395,20 @@ TEST(MotionDetect, BothFormsGoToOneList) {
                     R"("Window" : [ 9, 10, 11, 12 ] } ] })");
 }
 
+TEST(MotionDetect, MoreGridsThanRectangles) {
+    auto m = Cleared<Motion>();
+    m->abWindow = m->abRegionWindow = 1;
+    m->nWindowNum = 1;
+    m->nRegionWindowNum = 2;
+    m->stuWindow[0] = {1, 2, {3, 4, 5, 6}};
+    m->stuWindow[1] = {7, 8, {9, 10, 11, 12}}; // not in use
+    m->stuRegionWindow[1].nId = 5;
+    EXPECT_EQ(Pack("MotionDetect", *m),
+              R"({ "DetectVersion" : "V3.0", "Enable" : false, )" + kNoHandler
+                  + R"(, "MotionDetectWindow" : [ { "Id" : 0, "Name" : "", "Sensitive" : 0, "Threshold" : 0, )"
+                    R"("Window" : [ 3, 4, 5, 6 ] }, { "Id" : 5, "Name" : "", "Sensitive" : 0, "Threshold" : 0 } ] })");
+}
+
 TEST(MotionDetect, TheTextMustBeShorterThanItsBufferWhichIsNotCleared) {
     const auto m = Cleared<Motion>();
     const std::string text = Pack("MotionDetect", *m) + "\n";
