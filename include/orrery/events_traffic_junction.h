@@ -103,7 +103,7 @@ enum {
     EVENT_GATE_YELLOW_VEHICLE_IN_ROUTE = 256 /* "YellowVehicleInRoute" */
 };
 
-/* "TrafficCar" of a gate. All zero when the key is absent, but for szVehicleSize. */
+/* "TrafficCar" of a gate. All zero when the key is absent. */
 typedef struct EVENT_GATE_CAR_INFO {
     char szRoadwayNo[32];            /* "RoadwayNo" */
     char szViolationDesc[128];       /* "ViolationDesc" */

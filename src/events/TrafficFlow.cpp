@@ -1,4 +1,5 @@
 // Traffic events: flow and jams, accidents, pedestrians, parking spaces.
+#include "events/EventLog.h"
 #include "events/TrafficEvents.h"
 
 #include <algorithm>
@@ -67,6 +68,14 @@ PART(kFlowHeading, EVENT_FLOW_DIRECTION, FIELD(emDirection, "", Names(kHeadings)
      FIELD(szTo, "", Text))
     .As(Shape::LooseTuple);
 
+// The car is not part of the record, but whoever follows the log sees it read.
+void LogCarAside(const Value& data, std::byte*, ReadCall& call) {
+    const Value& car = data["TrafficCar"];
+    if (car.isNull() || !LogHasSink()) return;
+    EVENT_TRAFFIC_CAR_INFO aside{};
+    ReadRecord(kTrafficCar, car, reinterpret_cast<std::byte*>(&aside), call);
+}
+
 // Devices that mean a delay say so twice, and only the spelling with a blank has the number.
 void ReadDelay(const Value& data, std::byte* record, ReadCall&) {
     const Value& detail = data["DetailInfo"];
@@ -76,12 +85,16 @@ void ReadDelay(const Value& data, std::byte* record, ReadCall&) {
 
 } // namespace
 
+// What a record without a car keeps of one: as much of a text is converted as the car's own member takes.
+#define CAR_TEXT(member, key) FIELD(member, "TrafficCar/" key, Text).FirstBytes(sizeof(EVENT_TRAFFIC_CAR_INFO::member))
+#define CAR_TEXTS CAR_TEXT(szMachineName, "MachineName"), CAR_TEXT(szRoadwayNo, "RoadwayNo")
+
 TABLE(kTrafficControl, DEV_EVENT_TRAFFICCONTROL_INFO, HEAD_A, OBJECT, ACTION, GPS);
 
 TABLE(kTrafficAccident, DEV_EVENT_TRAFFICACCIDENT_INFO, HEAD_A, FIELD(nObjectNum),
       FIELD(stuObjects, "Objects", Record(kObject)).Count(AT(nObjectNum)), FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK,
-      WIDTH, HEIGHT, FIELD(szMachineName, "TrafficCar/MachineName", Text),
-      FIELD(szRoadwayNo, "TrafficCar/RoadwayNo", Text));
+      WIDTH, HEIGHT, CAR_TEXTS)
+    .AfterRead(LogCarAside);
 
 TABLE(kTrafficSnapshot, DEV_EVENT_TRAFFICSNAPSHOT_INFO, HEAD_A, FIELD(nLaneNum),
       FIELD(stuLane, "CarWayInfo", Custom(kLanes)).Count(AT(nLaneNum)), FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK, WIDTH,
@@ -116,12 +129,15 @@ TABLE(kTrafficFlowStat, DEV_EVENT_TRAFFICFLOWSTAT_INFO, HEAD_A, FIELD(nSequence,
 #undef DETAIL
 
 TABLE(kTrafficPedestrain, DEV_EVENT_TRAFFICPEDESTRAIN_INFO, HEAD_A, FIELD(nLane, "Lane", Int), OBJECT, FILE_INFO,
-      ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT, FIELD(szMachineName, "TrafficCar/MachineName", Text),
-      FIELD(szRoadwayNo, "TrafficCar/RoadwayNo", Text), FIELD(szVehicleCategory, "Vehicle/Category", Text), COMM_INFO);
+      ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT, CAR_TEXTS, FIELD(szVehicleCategory, "Vehicle/Category", Text),
+      COMM_INFO)
+    .AfterRead(LogCarAside);
 
 TABLE(kTrafficThrow, DEV_EVENT_TRAFFICTHROW_INFO, HEAD_A, FIELD(nLane, "Lane", Int), OBJECT, FILE_INFO,
-      ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT, GPS, FIELD(szMachineName, "TrafficCar/MachineName", Text),
-      FIELD(szRoadwayNo, "TrafficCar/RoadwayNo", Text), COMM_INFO);
+      ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT, GPS, CAR_TEXTS, COMM_INFO)
+    .AfterRead(LogCarAside);
+#undef CAR_TEXTS
+#undef CAR_TEXT
 
 #define FEATURE_AREA                                                                                                   \
     FIELD(nFeaturePicAreaNum),                                                                                         \

@@ -1,10 +1,13 @@
-// Cars, what is seen in them, and the oddities of the junction, gate, flow and snapshot events.
+// Cars, what is seen in and on them, and what they say over the objects beside them.
+#include "events/ReqRealPicture.h"
 #include "events/VehicleParts.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
+#include "support/LogLines.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -83,11 +86,56 @@ TEST(TrafficCar, EveryKey) {
                     }));
 }
 
+// The fields of a record by name, in their order.
+std::string FieldsOf(const orrery::record::Table& table) {
+    std::string names;
+    for (const auto& field : table) {
+        if (!field.alias) names += (names.empty() ? "" : " ") + std::string(field.name);
+    }
+    return names;
+}
+
+TEST(TrafficCar, FieldsStandInTheirOrder) {
+    EXPECT_EQ(FieldsOf(events::kTrafficCar),
+              "szPlateNumber szPlateType szPlateColor szVehicleColor nSpeed szEvent szViolationCode szViolationDesc "
+              "nLowerSpeedLimit nUpperSpeedLimit nOverSpeedMargin nUnderSpeedMargin nLane nVehicleSize fVehicleLength "
+              "nSnapshotMode szChannelName szMachineName szMachineGroup szRoadwayNo szDrivingDirection "
+              "pszDeviceAddress szVehicleSign byRedundance pszMachineAddress fActualShutter byActualGain byDirection "
+              "pszDetailedAddress szDefendCode nTrafficBlackListID stuRGBA stuUTC dwRecNo szCustomParkNo nDeckNo "
+              "nFreeDeckCount nFullDeckCount nTotalDeckCount szViolationName nWeight szCustomRoadwayDirection "
+              "nPhysicalLane dwMovingDirection stuEleTagInfoUTC");
+    const std::pair<std::size_t, std::size_t> rooms[] = {
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szPlateNumber), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szPlateType), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szPlateColor), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szVehicleColor), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szEvent), 64},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szViolationCode), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szViolationDesc), 64},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szChannelName), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szMachineName), 256},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szMachineGroup), 256},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szRoadwayNo), 64},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szDrivingDirection), 3 * 256},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szVehicleSign), 32},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szDefendCode), 64},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szCustomParkNo), 33},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szViolationName), 64},
+        {sizeof(EVENT_TRAFFIC_CAR_INFO::szCustomRoadwayDirection), 32},
+    };
+    for (const auto& [room, expected] : rooms)
+        EXPECT_EQ(room, expected) << &expected - &rooms[0].second;
+}
+
 TEST(TrafficCar, WhatAbsentKeysLeave) {
     EXPECT_TRUE(Car("{}", [](const EVENT_TRAFFIC_CAR_INFO& car) {
         EXPECT_EQ(car.byDirection, EVENT_DIRECTION_UNKNOWN);
         EXPECT_EQ(car.nVehicleSize, EVENT_VEHICLE_SIZE_UNKNOWN);
         EXPECT_EQ(car.pszDeviceAddress, nullptr);
+    }));
+    EXPECT_TRUE(Car(R"({"Direction":null,"VehicleSize":null})", [](const EVENT_TRAFFIC_CAR_INFO& car) {
+        EXPECT_EQ(car.byDirection, EVENT_DIRECTION_UNKNOWN);
+        EXPECT_EQ(car.nVehicleSize, EVENT_VEHICLE_SIZE_UNKNOWN);
     }));
     EXPECT_TRUE(Car("null", [](const EVENT_TRAFFIC_CAR_INFO& car) {
         EXPECT_EQ(car.byDirection, 0);
@@ -116,6 +164,28 @@ TEST(TrafficCar, OnlyValuesOfTheRightKindAreRead) {
                         EXPECT_EQ(car.nPhysicalLane, 0);
                         EXPECT_EQ(car.dwMovingDirection, 0u); // a signed number
                         EXPECT_EQ(car.pszDeviceAddress, nullptr);
+                    }));
+}
+
+TEST(TrafficCar, ColourIsOfExactlyFourNumbers) {
+    for (const char* const color : {"[1,2,3]", "[1,2,3,4,5]", "{\"a\":1,\"b\":2,\"c\":3,\"d\":4}", "7"}) {
+        EXPECT_TRUE(Car("{\"VehicleColorRGB\":" + std::string(color) + "}", [&](const EVENT_TRAFFIC_CAR_INFO& car) {
+            for (const std::uint32_t part : car.stuRGBA)
+                EXPECT_EQ(part, 0u) << color;
+        })) << color;
+    }
+}
+
+TEST(TrafficCar, HeadingHasATerminatorAndTheEndsOfTheRoadNeedNone) {
+    const std::string long300(300, 'x');
+    EXPECT_TRUE(Car("{\"DrivingDirection\":[\"" + long300 + "\",\"" + long300 + "\",\"" + long300
+                        + "\"],\"MachineName\":\"" + long300 + "\"}",
+                    [](const EVENT_TRAFFIC_CAR_INFO& car) {
+                        EXPECT_EQ(strnlen(car.szDrivingDirection[0], 256), 255u);
+                        EXPECT_EQ(strnlen(car.szDrivingDirection[1], 256), 256u);
+                        EXPECT_EQ(strnlen(car.szDrivingDirection[2], 256), 256u);
+                        EXPECT_EQ(strnlen(car.szMachineName, 256), 256u);
+                        EXPECT_STREQ(car.szMachineGroup, "");
                     }));
 }
 
@@ -164,6 +234,27 @@ TEST(CarRule, KeysThatTheCarLeavesOutLeaveTheObjects) {
                               EXPECT_EQ(record.stuObject.rgbaMainColor, 0x01020304u); // names are exact
                               EXPECT_EQ(record.stuVehicle.rgbaMainColor, 0x05060708u);
                           }));
+}
+
+TEST(CarRule, CarThatNamesNoTextEmptiesThePlate) {
+    EXPECT_TRUE(DecodeOne("TrafficOverLine",
+                          R"({"Object":{"Text":"old","Category":"Bus"},"TrafficCar":{"PlateNumber":5,"PlateType":5}})",
+                          [](const Delivered& event) {
+                              const auto& record = event.as<DEV_EVENT_TRAFFICOVERLINE_INFO>();
+                              EXPECT_STREQ(record.stuObject.szText, "");
+                              EXPECT_STREQ(record.stuObject.szObjectSubType, "");
+                          }));
+}
+
+TEST(CarRule, TypeOfThePlateIsCutAndTheRestIsZero) {
+    EXPECT_TRUE(
+        DecodeOne("TrafficRunRedLight",
+                  "{\"Object\":{\"Category\":\"" + std::string(64, 'c') + "\"},\"TrafficCar\":{\"PlateType\":\"T\"}}",
+                  [](const Delivered& event) {
+                      const auto& object = event.as<DEV_EVENT_TRAFFICRUNREDLIGHT_INFO>().stuObject;
+                      const char expected[64] = {'T'};
+                      EXPECT_EQ(std::memcmp(object.szObjectSubType, expected, 64), 0);
+                  }));
 }
 
 TEST(CarRule, ColoursByName) {
@@ -286,6 +377,90 @@ TEST(CommInfo, ListsEndAtTheirRoom) {
                           }));
 }
 
+TEST(CommInfo, FieldsStandInTheirOrder) {
+    EXPECT_EQ(FieldsOf(events::kCommInfo),
+              "emNTPStatus nDriversNum pDrivers pszFilePath pszFTPPath pszVideoPath nSeatNum stuSeat nAttachmentNum "
+              "stuAttachment nAnnualInspectionNum stuAnnualInspection stuExhaust nOriginalPictureNum "
+              "stuOriginalPicture stuRFIDTag szCountry");
+    EXPECT_EQ(FieldsOf(events::kExhaust), "fHC fNO fCO fCO2 fLightObscuration fTemperature dwHumidity fPressure "
+                                          "fWindForce dwWindDirection fRoadGradient fAcceleration");
+    EXPECT_EQ(FieldsOf(events::kSeat), "bEnable emType bSmoking bCalling emSafeBelt emSunShade");
+    EXPECT_EQ(FieldsOf(events::kAttachment), "emType stuRect");
+    EXPECT_EQ(FieldsOf(events::kRfidTag),
+              "szCardID nCardType nCardProvince szPlateNumber szProductionDate nCarType nPower nDisplacement "
+              "nAntennaID nPlateType szInspectionValidity nInspectionFlag nMandatoryRetirement nCarColor "
+              "nApprovedCapacity nApprovedTotalQuality stuThroughTime nUseProperty szPlateCode szPlateSN");
+}
+
+TEST(CommInfo, StatusOfASeatEndsAtItsSixteenthText) {
+    std::string status = "[";
+    for (int i = 0; i < 15; ++i)
+        status += "\"\",";
+    status += "\"Calling\",\"Smoking\"]";
+    EXPECT_TRUE(
+        DecodeOne("TrafficJam", "{\"CommInfo\":{\"Seat\":[{\"Status\":" + status + "}]}}", [](const Delivered& event) {
+            const auto& seat = event.as<DEV_EVENT_TRAFFICJAM_INFO>().stuCommInfo.stuSeat[0];
+            EXPECT_EQ(seat.bCalling, 1);
+            EXPECT_EQ(seat.bSmoking, 0);
+        }));
+}
+
+// Each path has a block of its own; a missing block is told and costs nothing but the path.
+TEST(CommInfo, PathsAreCutAndMissingBlocksAreTold) {
+    const std::string text = R"({"params":{"info":{"FilePath":")" + std::string(300, 'p') + R"(","FTPPath":")"
+                             + std::string(300, 'f') + R"(","VideoPath":")" + std::string(300, 'v')
+                             + R"(","Events":[{"Code":"TrafficStay","Data":{}}]}}})";
+    orrery::CReqRealPicture picture;
+    picture.dwPacketSubType = orrery::CReqRealPicture::kPacketSubType;
+    ASSERT_EQ(picture.deserialize(text.c_str(), 0), 1);
+    int seen = 0;
+    const EventVisitor visit = [&](const Delivered& event) {
+        ++seen;
+        const auto& info = event.as<DEV_EVENT_TRAFFICSTAY_INFO>().stuCommInfo;
+        EXPECT_EQ(std::string_view(info.pszFilePath), std::string(255, 'p'));
+        EXPECT_EQ(std::string_view(info.pszFTPPath), std::string(255, 'f'));
+        EXPECT_EQ(std::string_view(info.pszVideoPath), std::string(255, 'v'));
+    };
+    picture.deliver(VisitEvent, const_cast<EventVisitor*>(&visit));
+    EXPECT_EQ(seen, 1);
+
+    // As many events as a few chunks hold, so that the memory ends at every step of an event once.
+    const std::string lines[] = {"New szFilePath Failed", "New szFTPPath Failed", "New szVideoPath Failed"};
+    std::ptrdiff_t told[3] = {};
+    for (int events = 1; events <= 64; ++events) {
+        std::string crowd = text.substr(0, text.size() - 4);
+        for (int i = 1; i < events; ++i)
+            crowd += R"(,{"Code":"TrafficIdle","Data":{"Lane":)" + std::to_string(i) + "}}";
+        crowd += "]}}}";
+        LogLines log;
+        HeapWatch watch;
+        watch.FailFrom(1);
+        orrery::CReqRealPicture many;
+        many.dwPacketSubType = orrery::CReqRealPicture::kPacketSubType;
+        many.deserialize(crowd.c_str(), 0);
+        watch.FailNone();
+        std::ptrdiff_t missing[3] = {};
+        const EventVisitor look = [&](const Delivered& event) {
+            const auto count = [&](const EVENT_COMM_INFO& info) {
+                missing[0] += info.pszFilePath == nullptr;
+                missing[1] += info.pszFTPPath == nullptr;
+                missing[2] += info.pszVideoPath == nullptr;
+            };
+            if (event.type == 303)
+                count(event.as<DEV_EVENT_TRAFFICIDLE_INFO>().stuCommInfo);
+            else
+                count(event.as<DEV_EVENT_TRAFFICSTAY_INFO>().stuCommInfo);
+        };
+        many.deliver(VisitEvent, const_cast<EventVisitor*>(&look));
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, lines[i]), missing[i]) << lines[i] << ' ' << events;
+            told[i] += missing[i];
+        }
+    }
+    for (int i = 0; i < 3; ++i)
+        EXPECT_GT(told[i], 0) << lines[i];
+}
+
 TEST(CommInfo, StopsWithoutRoomForTheDrivers) {
     // The document and the record take the first chunk and one more; the drivers, 704 bytes each, want one of their
     // own.
@@ -333,6 +508,78 @@ TEST(EventNames, LastRowWins) {
     EXPECT_EQ(events::kNonMotorTypes.CodeOf("Other"), 0);
 }
 
+void CheckRows(const orrery::record::NameTable& names, std::vector<const char*> rows, std::map<int, int> others = {}) {
+    for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
+        const auto other = others.find(i);
+        EXPECT_EQ(names.CodeOf(rows[i]), other != others.end() ? other->second : i) << rows[i];
+    }
+}
+
+TEST(EventNames, EveryRow) {
+    CheckRows(events::kPlateColors, {"Other", "Blue", "Yellow", "White", "Black", "YellowbottomBlackText",
+                                     "BluebottomWhiteText", "BlackBottomWhiteText", "ShadowGreen", "YellowGreen"});
+    CheckRows(events::kNonMotorColors,
+              {"Other",  "White",          "Orange",     "Pink",        "Black",       "Red",      "Yellow",
+               "Gray",   "Blue",           "Green",      "Purple",      "Brown",       "Sliver",   "Darkviolet",
+               "Maroon", "Dimgray",        "Whitesmoke", "Darkorange",  "Mistyrose",   "Tomato",   "Olive",
+               "Gold",   "Darkolivegreen", "Chartreuse", "Greenyellow", "Forestgreen", "Seagreen", "Deepskyblue",
+               "Cyan",   "Other",          "Other",      "Fuchsia",     "Lime",        "Navy",     "Teal",
+               "Aqua",   "Orangered"},
+              {{0, 30}, {29, 30}});
+    CheckRows(events::kNonMotorTypes, {"Other",
+                                       "Tricycle",
+                                       "Motorcycle",
+                                       "Non-Motor",
+                                       "Bicycle",
+                                       "DualTriWheelMotorcycle",
+                                       "LightMotorcycle",
+                                       "EmbassyMotorcycle",
+                                       "MarginalMotorcycle",
+                                       "AreaoutMotorcycle",
+                                       "ForeignMotorcycle",
+                                       "TrialMotorcycle",
+                                       "CoachMotorcycle",
+                                       "Passerby",
+                                       "VanTricycle",
+                                       "MannedConvertibleTricycle",
+                                       "NoMannedConvertibleTricycle",
+                                       "Electricbike",
+                                       "FourWheelerNonMotor",
+                                       "Scooter"});
+    CheckRows(events::kAttachments, {"", "Furniture", "Pendant", "TissueBox", "Danger", "PerfumeBox", "Unknown"});
+    CheckRows(events::kNtpStates, {"", "Disable", "Successful", "Failed"});
+    CheckRows(events::kStrobeStates, {"", "Close", "Auto", "Manual"});
+    CheckRows(events::kSeats, {"", "Main", "Slave"});
+    CheckRows(events::kSafeBelts, {"Unknow", "WithSafeBelt", "WithoutSafeBelt"});
+    CheckRows(events::kExactSafeBelts, {"Unknow", "WithSafeBelt", "WithoutSafeBelt"});
+    CheckRows(events::kSunShades, {"Unknow", "WithSunShade", "WithoutSunShade"});
+    CheckRows(events::kJamStates, {"", "Clear", "Jammed"});
+}
+
+TEST(EventNames, CaseCountsInBeltsToldAsTextAndInJams) {
+    EXPECT_EQ(events::kSafeBelts.CodeOf("withsafebelt"), 1);
+    EXPECT_EQ(events::kExactSafeBelts.CodeOf("withsafebelt"), 0);
+    EXPECT_EQ(events::kJamStates.CodeOf("jammed"), 0);
+    EXPECT_EQ(events::kStrobeStates.CodeOf("AUTO"), 2);
+    EXPECT_EQ(events::kNtpStates.CodeOf("SUCCESSFUL"), 2);
+    EXPECT_EQ(events::kSeats.CodeOf("MAIN"), 1);
+    EXPECT_TRUE(DecodeOne("TrafficJunction", R"({"MainSeat":"withsafebelt","SlaveSeat":"WITHOUTSAFEBELT",
+                                                 "OpenStrobeState":"manual","VehicleDirection":"head"})",
+                          [](const Delivered& event) {
+                              const auto& record = event.as<DEV_EVENT_TRAFFICJUNCTION_INFO>();
+                              EXPECT_EQ(record.byMainSeatBelt, 1);
+                              EXPECT_EQ(record.bySlaveSeatBelt, 2);
+                              EXPECT_EQ(record.byOpenStrobeState, 3);
+                              EXPECT_EQ(record.byVehicleDirection, 1);
+                          }));
+    EXPECT_TRUE(DecodeOne("TrafficWithoutSafeBelt", R"({"MainSeat":"withsafebelt","SlaveSeat":"WithoutSafeBelt"})",
+                          [](const Delivered& event) {
+                              const auto& record = event.as<DEV_EVENT_TRAFFICWITHOUTSAFEBELT_INFO>();
+                              EXPECT_EQ(record.emMainSeat, 0);
+                              EXPECT_EQ(record.emSlaveSeat, 2);
+                          }));
+}
+
 TEST(SplitTime, NumbersFromTheRightEnd) {
     const auto read = [](std::string_view text) {
         std::uint32_t f[6];
@@ -344,267 +591,6 @@ TEST(SplitTime, NumbersFromTheRightEnd) {
     EXPECT_EQ(read("20 30:05"), (std::vector<std::uint32_t>{0, 0, 20, 0, 30, 5}));
     EXPECT_EQ(read(""), (std::vector<std::uint32_t>{0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(read("99999999999-x- ::"), (std::vector<std::uint32_t>{0, 0, 0, 0, 0, 0}));
-}
-
-// ---- Events told apart from the rest -------------------------------------------------------------------------------
-
-TEST(TrafficJunction, BreakingIsOfDevicesSpelling) {
-    EXPECT_TRUE(DecodeOne("TrafficJunction", R"({"Breaking":["U-Turn","Overline"]})", [](const Delivered& event) {
-        EXPECT_EQ(event.as<DEV_EVENT_TRAFFICJUNCTION_INFO>().dwBreakingRule, 64u);
-    }));
-    EXPECT_TRUE(DecodeOne(
-        "TrafficJunction",
-        R"({"Breaking":["runredlight","WrongLane","Retrograde","U-Trun","TrafficJam","TrafficIdle",
-                                          "Overline","Overline",null,7]})",
-        [](const Delivered& event) { EXPECT_EQ(event.as<DEV_EVENT_TRAFFICJUNCTION_INFO>().dwBreakingRule, 127u); }));
-}
-
-TEST(TrafficJunction, RidersCardsAndScenes) {
-    std::string cards = "[";
-    for (int i = 0; i < 20; ++i)
-        cards += (i ? ",{\"CardNumber\":\"" : "{\"CardNumber\":\"") + std::to_string(i) + "\"}";
-    EXPECT_TRUE(DecodeOne("TrafficJunction",
-                          R"({"Object":{"Category":"Bicycle"},"JunctionDirection":"reverse","VehicleDirection":"Tail",
-            "NonMotorFeature":{"Bag":1,"Umbrella":2,"CarrierBag":3,"Hat":4,"Helmet":5,"Sex":"female","Age":33,
-                "UpperBodyColor":[1,2,3,4],"LowerBodyColor":[1,2,3],"UpClothes":6,"DownClothes":7},
-            "NonMotor":{"Color":"Other","Image":{"Length":1,"Offset":2,"Width":3,"Height":4,"IndexInData":5},
-                "SceneImage":{"Length":6}},
-            "SceneImage":{"Offset":7,"Length":8,"Width":9,"Height":10,"IndexInData":11},"TriggerType":true,
-            "CardInfo":)" + cards
-                              + "]}",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_TRAFFICJUNCTION_INFO>();
-                              EXPECT_EQ(record.byDirection, 2);
-                              EXPECT_EQ(record.byVehicleDirection, 2);
-                              EXPECT_EQ(record.bNonMotorFeature, 1);
-                              EXPECT_EQ(record.byBag, 1);
-                              EXPECT_EQ(record.byUmbrella, 2);
-                              EXPECT_EQ(record.byCarrierBag, 3);
-                              EXPECT_EQ(record.byHat, 4);
-                              EXPECT_EQ(record.byHelmet, 5);
-                              EXPECT_EQ(record.bySex, 2);
-                              EXPECT_EQ(record.byAge, 33);
-                              EXPECT_EQ(record.stuUpperBodyColor.nAlpha, 4);
-                              EXPECT_EQ(record.stuLowerBodyColor.nRed, 0);
-                              EXPECT_EQ(record.byUpClothes, 6);
-                              EXPECT_EQ(record.byDownClothes, 7);
-                              EXPECT_EQ(record.nTriggerType, 0); // not an integer
-                              EXPECT_EQ(record.nCardNum, 16);
-                              EXPECT_STREQ(record.stuCard[15].szCardNumber, "15");
-                              EXPECT_EQ(record.bNonMotor, 1u);
-                              EXPECT_EQ(record.stuNonMotor.emCategory, 4);
-                              EXPECT_EQ(record.stuNonMotor.emColor, 30);
-                              EXPECT_EQ(record.stuNonMotor.stuImage.dwLength, 1u);
-                              EXPECT_EQ(record.stuNonMotor.stuImage.dwOffset, 2u);
-                              EXPECT_EQ(record.stuNonMotor.stuImage.wWidth, 3);
-                              EXPECT_EQ(record.stuNonMotor.stuImage.wHeight, 4);
-                              EXPECT_EQ(record.stuNonMotor.stuImage.nIndexInData, 5);
-                              EXPECT_EQ(record.stuNonMotor.stuSceneImage.dwLength, 6u);
-                              EXPECT_EQ(record.stuSceneImage.bSceneImage, 1u);
-                              EXPECT_EQ(record.stuSceneImage.dwOffset, 7u);
-                              EXPECT_EQ(record.stuSceneImage.dwLength, 8u);
-                              EXPECT_EQ(record.stuSceneImage.wWidth, 9u);
-                              EXPECT_EQ(record.stuSceneImage.wHeight, 10u);
-                              EXPECT_EQ(record.stuSceneImage.nIndexInData, 11u);
-                          }));
-    EXPECT_TRUE(DecodeOne("TrafficJunction", R"({"SceneImage":{"Offset":7,"Length":0,"Width":9},"TriggerType":6})",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_TRAFFICJUNCTION_INFO>();
-                              EXPECT_EQ(record.stuSceneImage.bSceneImage, 0u);
-                              EXPECT_EQ(record.stuSceneImage.dwOffset, 0u);
-                              EXPECT_EQ(record.stuSceneImage.wWidth, 0u);
-                              EXPECT_EQ(record.nTriggerType, 6);
-                          }));
-}
-
-TEST(TrafficGate, SizeOfTheVehicleAndBreaking) {
-    EXPECT_TRUE(DecodeOne("TrafficGate", R"({"Vehicle":{"Category":"Truck"},"TrafficCar":{},"SpeedLimit":[60],
-                                             "Breaking":["OverLine","Underpeed"],"SnapTimes":3,"IndexInGroup":2})",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_TRAFFICGATE_INFO>();
-                              EXPECT_STREQ(record.stuTrafficCar.szVehicleSize, "Truck");
-                              EXPECT_EQ(record.stuTrafficCar.byDirection, 8);
-                              EXPECT_EQ(record.nSpeedLowerLimit, 0);
-                              EXPECT_EQ(record.dwBreakingRule, 10u);
-                              EXPECT_EQ(record.stuFileInfo.byCount, 3);
-                              EXPECT_EQ(record.stuFileInfo.byIndex, 2);
-                          }));
-    EXPECT_TRUE(DecodeOne("TrafficGate", R"({"Vehicle":{"Category":"Truck"},"ManualSnap":{"SerialNo":"S1"},
-        "SnapFlag":"flag","RedLightMargin":4,"SpeedingPercentage":5,"UnderSpeedingPercentage":6,
-        "Breaking":["Retrograde","Overline","OverSpeed","UnderSpeed","RunRedLight","Passing","OverYellowLine",
-                    "WrongRunningRoute","YellowVehicleInRoute"],
-        "TrafficCar":{"VehicleSize":"Medium","RoadwayNo":"r","ViolationDesc":"d","DrivingDirection":["a","b"],
-            "SnapshotMode":7,"ViolationCode":"c","VehicleLength":8,"PlateColor":"pc","PlateNumber":"pn",
-            "PlateType":"pt","GroupID":9,"LowerSpeedLimit":10,"UpperSpeedLimit":11,"Lane":12,"OverSpeedMargin":13,
-            "UnderSpeedMargin":14,"MachineName":"mn","MachineAddress":"ma","MachineGroup":"mg","VehicleColor":"vc",
-            "Redundance":[1,2],"DeviceAddress":"da","ActualShutter":1.5,"ActualGain":15,"Direction":1,
-            "DefendCode":"dc","TrafficBlackListID":16}})",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_TRAFFICGATE_INFO>();
-                              EXPECT_EQ(record.dwBreakingRule, 511u);
-                              EXPECT_STREQ(record.szSerialNo, "S1");
-                              EXPECT_STREQ(record.szSnapFlag, "flag");
-                              EXPECT_EQ(record.byRedLightMargin, 4);
-                              EXPECT_EQ(record.bySpeedingPercentage, 5);
-                              EXPECT_EQ(record.byUnderSpeedingPercentage, 6);
-                              const auto& car = record.stuTrafficCar;
-                              EXPECT_STREQ(car.szVehicleSize, "Medium");
-                              EXPECT_STREQ(car.szRoadwayNo, "r");
-                              EXPECT_STREQ(car.szViolationDesc, "d");
-                              EXPECT_STREQ(car.szDrivingDirection[1], "b");
-                              EXPECT_EQ(car.bySnapshotMode, 7);
-                              EXPECT_STREQ(car.szViolationCode, "c");
-                              EXPECT_EQ(car.byVehicleLength, 8);
-                              EXPECT_STREQ(car.szPlateColor, "pc");
-                              EXPECT_STREQ(car.szPlateNumber, "pn");
-                              EXPECT_STREQ(car.szPlateType, "pt");
-                              EXPECT_EQ(car.nGroupID, 9u);
-                              EXPECT_EQ(car.nLowerSpeedLimit, 10);
-                              EXPECT_EQ(car.nUpperSpeedLimit, 11);
-                              EXPECT_EQ(car.nLane, 12);
-                              EXPECT_EQ(car.nOverSpeedMargin, 13);
-                              EXPECT_EQ(car.nUnderSpeedMargin, 14);
-                              EXPECT_STREQ(car.szMachineName, "mn");
-                              EXPECT_STREQ(car.szMachineAddress, "ma");
-                              EXPECT_STREQ(car.szMachineGroup, "mg");
-                              EXPECT_STREQ(car.szVehicleColor, "vc");
-                              EXPECT_EQ(car.byRedundance[1], 2);
-                              EXPECT_STREQ(car.pszDeviceAddress, "da");
-                              EXPECT_EQ(car.fActualShutter, 1.5f);
-                              EXPECT_EQ(car.byActualGain, 15);
-                              EXPECT_EQ(car.byDirection, 1);
-                              EXPECT_STREQ(car.szDefendCode, "dc");
-                              EXPECT_EQ(car.nTrafficBlackListID, 16);
-                          }));
-}
-
-TEST(TrafficSnapshot, LanesWithoutASignalAreDropped) {
-    EXPECT_TRUE(DecodeOne("TrafficSnapshot", R"({"CarWayInfo":[{},{"SigInfo":[{"Speed":60,"Type":1,"RedTime":1.5,
-        "CapTime":2.5,"CarLength":3,"SigSequence":4,"Direction":5,"LightColor":6,"SnapFlag":"f"},null,{"Speed":61},
-        {"Speed":62}]},{"SigInfo":[]},{"SigInfo":[{}]},null,{"SigInfo":[null]}]})",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_TRAFFICSNAPSHOT_INFO>();
-                              ASSERT_EQ(record.nLaneNum, 2);
-                              EXPECT_EQ(record.stuLane[0].byLane, 1);
-                              EXPECT_EQ(record.stuLane[1].byLane, 3);
-                              EXPECT_EQ(record.stuLane[2].byLane, 0);
-                              const auto& signal = record.stuLane[0].stuSignal[0];
-                              EXPECT_EQ(signal.bySpeed, 60);
-                              EXPECT_EQ(signal.byType, 1);
-                              EXPECT_EQ(signal.fRedTime, 1.5f);
-                              EXPECT_EQ(signal.fCapTime, 2.5f);
-                              EXPECT_EQ(signal.byCarLength, 3);
-                              EXPECT_EQ(signal.bySigSequence, 4);
-                              EXPECT_EQ(signal.byDirection, 5);
-                              EXPECT_EQ(signal.byLightColor, 6);
-                              EXPECT_STREQ(signal.szSnapFlag, "f");
-                          }));
-    EXPECT_TRUE(
-        DecodeOne("TrafficSnapshot", R"({"CarWayInfo":[{"SigInfo":[{}]},{"SigInfo":[{}]},{"SigInfo":[{}]},
-        {"SigInfo":[{}]},{"SigInfo":[{}]},{"SigInfo":[{}]},{"SigInfo":[{}]},{"SigInfo":[{}]},{"SigInfo":[{}]}]})",
-                  [](const Delivered& event) { EXPECT_EQ(event.as<DEV_EVENT_TRAFFICSNAPSHOT_INFO>().nLaneNum, 8); }));
-}
-
-TEST(TrafficFlowStat, EveryKey) {
-    EXPECT_TRUE(DecodeOne(
-        "TrafficFlowStat", R"({"Sequence":1,"FlowStates":[{"Lane":1,"State":2,"Flow":3,"Period":4,
-        "PeriodByMili":5,"JamState":"Jammed"},null,{"JamState":"clear"}],
-        "DetailInfo":{"Vehicles":1,"LeftVehicles":2,"RightVehicles":3,"StraightVehicles":4,"UTurnVehicles":5,
-            "AverageSpeed":1.5,"AverageLength":2.5,"TimeOccupyRatio":3.5,"SpaceOccupyRatio":4.5,"SpaceHeadway":5.5,
-            "TimeHeadway":6.5,"Density":7.5,"OverSpeedVehicles":6,"UnderSpeedVehicles":7,"LargeVehicles":8,
-            "MediumVehicles":9,"SmallVehicles":10,"MotoVehicles":11,"LongVehicles":12,"Volume":13,"FlowRate":14,
-            "TravelTime":15,"BackOfQueue":16.75,"Delay":5,"Direction":["Straight","TurnLeft","TurnRight","U-Turn","Up"],
-            "VehicleTypeFlow":{"PassengerCarVehicles":1,"LargeTruckVehicles":2,"MidTruckVehicles":3,
-                "SaloonCarVehicles":4,"MicrobusVehicles":5,"MicroTruckVehicles":6,"TricycleVehicles":7,
-                "MotorcycleVehicles":8,"PasserbyVehicles":9,"BusVehicles":10,"MPVVehicles":11,
-                "MidPassengerCarVehicles":12,"MiniCarriageVehicles":13,"OilTankTruckVehicles":14,"PickupVehicles":15,
-                "SUVVehicles":16,"SuvMpvVehicles":17,"TankCarVehicles":18,"UnknownVehicles":19},
-            "DrivingDirection":["Leave","from","to"],"Rank":"SubTrunk","State":17,"Occupyheadcoil":true,
-            "OccupyTailcoil":2,"Statistics":0,"QueueEnd":[-18,19],"Class":"Highway"}})",
-        [](const Delivered& event) {
-            const auto& record = event.as<DEV_EVENT_TRAFFICFLOWSTAT_INFO>();
-            EXPECT_EQ(record.nSequence, 1);
-            EXPECT_EQ(record.nStateNum, 3);
-            EXPECT_EQ(record.stuStates[0].nLane, 1);
-            EXPECT_EQ(record.stuStates[0].nState, 2);
-            EXPECT_EQ(record.stuStates[0].nFlow, 3);
-            EXPECT_EQ(record.stuStates[0].nPeriod, 4);
-            EXPECT_EQ(record.stuStates[0].nPeriodByMili, 5);
-            EXPECT_EQ(record.stuStates[0].emJamState, EVENT_JAM_JAMMED);
-            EXPECT_EQ(record.stuStates[2].emJamState, 0); // exact
-            const int counts[] = {
-                record.nVehicles,       record.nLeftVehicles,      record.nRightVehicles,      record.nStraightVehicles,
-                record.nUTurnVehicles,  record.nOverSpeedVehicles, record.nUnderSpeedVehicles, record.nLargeVehicles,
-                record.nMediumVehicles, record.nSmallVehicles,     record.nMotoVehicles,       record.nLongVehicles,
-                record.nVolume,         record.nFlowRate,          record.nTravelTime};
-            for (int i = 0; i < 15; ++i)
-                EXPECT_EQ(counts[i], i + 1);
-            const float reals[] = {record.fAverageSpeed,     record.fAverageLength, record.fTimeOccupyRatio,
-                                   record.fSpaceOccupyRatio, record.fSpaceHeadway,  record.fTimeHeadway,
-                                   record.fDensity};
-            for (int i = 0; i < 7; ++i)
-                EXPECT_EQ(reals[i], static_cast<float>(i) + 1.5f);
-            EXPECT_EQ(record.dBackOfQueue, 16.75);
-            EXPECT_EQ(record.nBackOfQueue, 16);
-            EXPECT_EQ(record.nDelay, 0);
-            const std::uint8_t directions[16] = {3, 1, 2, 4};
-            EXPECT_EQ(std::memcmp(record.byDirection, directions, 16), 0);
-            std::int32_t types[19];
-            static_assert(sizeof types == sizeof record.stuVehicleTypeFlow);
-            std::memcpy(types, &record.stuVehicleTypeFlow, sizeof types);
-            for (int i = 0; i < 19; ++i)
-                EXPECT_EQ(types[i], i + 1);
-            EXPECT_EQ(record.stuDrivingDirection.emDirection, 2);
-            EXPECT_STREQ(record.stuDrivingDirection.szFrom, "from");
-            EXPECT_STREQ(record.stuDrivingDirection.szTo, "to");
-            EXPECT_EQ(record.emRank, EVENT_RANK_SUB_TRUNK);
-            EXPECT_EQ(record.nState, 17);
-            EXPECT_EQ(record.bOccupyHeadCoil, 1);
-            EXPECT_EQ(record.bOccupyTailCoil, 1);
-            EXPECT_EQ(record.bStatistics, 0);
-            EXPECT_EQ(record.stuQueueEnd.nX, -18);
-            EXPECT_EQ(record.stuQueueEnd.nY, 19);
-            EXPECT_EQ(record.emClass, EVENT_CLASS_HIGHWAY);
-        }));
-}
-
-TEST(TrafficFlowStat, DelayNeedsBothSpellings) {
-    const std::pair<const char*, int> cases[] = {{R"({"Delay":5})", 0},
-                                                 {R"({"Delay ":6})", 0},
-                                                 {R"({"Delay":5,"Delay ":6})", 6},
-                                                 {R"({"Delay":0,"Delay ":7})", 7}};
-    for (const auto& spelling : cases) {
-        const char* const detail = spelling.first;
-        const int expected = spelling.second;
-        EXPECT_TRUE(
-            DecodeOne("TrafficFlowStat", std::string("{\"DetailInfo\":") + detail + "}", [&](const Delivered& event) {
-                EXPECT_EQ(event.as<DEV_EVENT_TRAFFICFLOWSTAT_INFO>().nDelay, expected) << detail;
-            }));
-    }
-}
-
-TEST(TrafficParkingSpace, AreaHasAtMostTenPoints) {
-    EXPECT_TRUE(DecodeOne("TrafficParkingSpaceNoParking",
-                          R"({"ParkingInfo":{"FeaturePicArea":[[1,2],[3],[5,6],1,1,1,1,1,1,[19,20],[21,22]]}})",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_TRAFFICPARKINGSPACENOPARKING_INFO>();
-                              EXPECT_EQ(record.nFeaturePicAreaNum, 10);
-                              EXPECT_EQ(record.stuFeaturePicArea[1].nX, 0);
-                              EXPECT_EQ(record.stuFeaturePicArea[2].nX, 5);
-                              EXPECT_EQ(record.stuFeaturePicArea[9].nY, 20);
-                          }));
-}
-
-TEST(TrafficCarWeight, AxlesEndAtEight) {
-    EXPECT_TRUE(DecodeOne("QSYTrafficCarWeight",
-                          R"({"CarWeightInfo":{"AxleNum":9,"AxleWeightInfo":[1,2,3,4,5,6,7,8,9],
-                              "AxleLengthInfo":[1,2,3,4,5,6,7,8]}})",
-                          [](const Delivered& event) {
-                              const auto& record = event.as<DEV_EVENT_QSYTRAFFICCARWEIGHT_INFO>();
-                              EXPECT_EQ(record.dwAxleNum, 8u);
-                              EXPECT_EQ(record.dwAxleWeightInfo[7], 8u);
-                              EXPECT_EQ(record.dwAxleLengthInfo[6], 7u);
-                          }));
 }
 
 } // namespace
