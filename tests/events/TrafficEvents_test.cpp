@@ -1,9 +1,11 @@
 // Every traffic event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventTable.h"
+#include "events/ReqRealPicture.h"
 #include "support/Events.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 #include <sstream>
 
 namespace {
@@ -50,13 +52,26 @@ constexpr const char* kEveryKey = R"({
     }                                                                                                                  \
     static_assert(true)
 
-template <class R>
-void CheckRecord(const void* record, const char* name);
+// What the message around an event says; a bare event has none of it.
+struct Around {
+    std::int32_t channel = -1;
+    std::uint8_t repeat = 0;
+    std::uint32_t flagMask = 0;
+    std::uint16_t width = 0;
+    std::uint16_t height = 0;
+    std::uint8_t pictureType = 0;
+    std::uint8_t fileTag = 0;
+    std::uint32_t fileYear = 0;
+    const char* recordFile = "";
+    const char* filePath = nullptr;
+    const char* ftpPath = nullptr;
+    const char* videoPath = nullptr;
+};
 
 template <class R>
-void Check(const R& r, const char* name) {
+void Check(const R& r, const char* name, const Around& around) {
     // Heads
-    HAS(nChannelID, -1);
+    HAS(nChannelID, around.channel);
     HAS_TEXT(szName, "Rule 7");
     HAS(dPTS, 1234.5);
     HAS(dwPTS, 1234u);
@@ -72,10 +87,14 @@ void Check(const R& r, const char* name) {
     HAS(dwUTCMS, 321u);
     // Closing fields
     HAS(byEventAction, 2);
-    HAS(byRepeat, 0);
-    HAS(dwFlagMask, 0u);
-    HAS(wWidth, 0);
-    HAS(wHeight, 0);
+    HAS(byRepeat, around.repeat);
+    HAS(dwFlagMask, around.flagMask);
+    HAS(wWidth, around.width);
+    HAS(wHeight, around.height);
+    HAS(stuFileInfo.byPictureType, around.pictureType);
+    HAS(stuFileInfo.byFileTag, around.fileTag);
+    HAS(stuFileInfo.stuFileTime.dwYear, around.fileYear);
+    HAS_TEXT(szRecordFile, around.recordFile);
     HAS(bIsExistAlarmRecord, 1u);
     HAS(dwAlarmRecordSize, 900u);
     HAS_TEXT(szAlarmRecordPath, "/alarm.dav");
@@ -202,19 +221,22 @@ void Check(const R& r, const char* name) {
     HAS(stuCommInfo.nDriversNum, 1);
     HAS(stuCommInfo.pDrivers[0].nObjectID, 105);
     HAS(stuCommInfo.pDrivers[0].dwSize, 704u);
-    if constexpr (requires { r.stuJunction; }) Check(r.stuJunction, name);
+    HAS_TEXT(stuCommInfo.pszFilePath, around.filePath);
+    HAS_TEXT(stuCommInfo.pszFTPPath, around.ftpPath);
+    HAS_TEXT(stuCommInfo.pszVideoPath, around.videoPath);
+    if constexpr (requires { r.stuJunction; }) Check(r.stuJunction, name, around);
 }
 
 template <class R>
-void CheckRecord(const void* record, const char* name) {
-    Check(*static_cast<const R*>(record), name);
+void CheckRecord(const void* record, const char* name, const Around& around) {
+    Check(*static_cast<const R*>(record), name, around);
 }
 
 struct TrafficEvent {
     std::uint32_t code;
     const char* name;
     std::size_t size;
-    void (*check)(const void* record, const char* name);
+    void (*check)(const void* record, const char* name, const Around& around);
 };
 constexpr TrafficEvent kTrafficEvents[] = {
     {21, "TrafficControl", sizeof(DEV_EVENT_TRAFFICCONTROL_INFO), CheckRecord<DEV_EVENT_TRAFFICCONTROL_INFO>},
@@ -316,8 +338,33 @@ TEST(TrafficEvents, EveryKeyReachesItsField) {
             ++count;
             EXPECT_EQ(event.type, expected.code) << expected.name;
             EXPECT_EQ(event.size, expected.size) << expected.name;
-            expected.check(event.record, expected.name);
+            expected.check(event.record, expected.name, {});
         });
+        EXPECT_EQ(count, 1) << expected.name;
+    }
+}
+
+// The closing fields, and the paths of the communication info where the event takes them.
+TEST(TrafficEvents, WhatTheNotificationSaysReachesEveryRecord) {
+    const std::vector<std::uint32_t> withoutPaths = {536, 537, 540, 542, 543, 552, 553, 557};
+    for (const TrafficEvent& expected : kTrafficEvents) {
+        const std::string text = R"({"params":{"info":{"Channel":3,"PictureType":9,"Time":"2026-11-20 09:30:05",
+            "Tag":"ATMBeforePaste","Resolution":[1920,1080],"Flags":["Timing","Cutout"],"FilePath":"/pic","Repeat":513,
+            "RecordFile":"/rec","FTPPath":"/ftp","VideoPath":"/vid","Events":[{"Code":")"
+                                 + std::string(expected.name) + R"(","Action":"Stop","Data":)" + kEveryKey + "}]}}}";
+        Around around{3, 1, 2 + 64, 1920, 1080, 9, 1, 2026, "/rec", "/pic", "/ftp", "/vid"};
+        if (std::count(withoutPaths.begin(), withoutPaths.end(), expected.code) > 0)
+            around.filePath = around.ftpPath = around.videoPath = nullptr;
+        orrery::CReqRealPicture picture;
+        picture.dwPacketSubType = orrery::CReqRealPicture::kPacketSubType;
+        ASSERT_EQ(picture.deserialize(text.c_str(), 0), 1) << expected.name;
+        int count = 0;
+        const EventVisitor visit = [&](const Delivered& event) {
+            ++count;
+            EXPECT_EQ(event.type, expected.code) << expected.name;
+            expected.check(event.record, expected.name, around);
+        };
+        picture.deliver(VisitEvent, const_cast<EventVisitor*>(&visit));
         EXPECT_EQ(count, 1) << expected.name;
     }
 }
@@ -365,6 +412,12 @@ struct Layout {
     const char* members;
 };
 constexpr Layout kLayouts[] = {
+    {21, "stuObject byEventAction stuGPS"},
+    {23, "stuObject nLane dwBreakingRule stuRedLightUTC stuFileInfo nSequence nSpeed byEventAction byDirection "
+         "byLightState byRepeat stuVehicle dwFlagMask wWidth wHeight szRecordFile stuWeigh dwTextSource stuGPS "
+         "bNonMotorFeature byBag byUmbrella byCarrierBag byHat byHelmet bySex byAge stuUpperBodyColor "
+         "stuLowerBodyColor byUpClothes byDownClothes nTriggerType stuTrafficCar nCardNum stuCard stuCommInfo "
+         "szEventLongID bNonMotor stuNonMotor stuSceneImage"},
     {257, "nLane stuObject stuVehicle stuFileInfo nSequence nSpeed byEventAction byReservedAction byRepeat dwFlagMask "
           "wWidth wHeight stuGPS stuTrafficCar stuCommInfo"},
     {258, "nLane stuObject stuVehicle stuFileInfo nSequence nSpeed byEventAction byReservedAction byRepeat dwFlagMask "
@@ -399,6 +452,12 @@ constexpr Layout kLayouts[] = {
           "stuObject stuVehicle nFrameSequence nSource stuCommInfo"},
     {280, "nLane stuObject stuVehicle stuTrafficCar stuFileInfo byEventAction byOpenStrobeState byRepeat dwFlagMask "
           "wWidth wHeight stuCommInfo"},
+    {281,
+     "nSequence nStateNum stuStates nVehicles nLeftVehicles nRightVehicles nStraightVehicles nUTurnVehicles "
+     "fAverageSpeed fAverageLength fTimeOccupyRatio fSpaceOccupyRatio fSpaceHeadway fTimeHeadway fDensity "
+     "nOverSpeedVehicles nUnderSpeedVehicles nLargeVehicles nMediumVehicles nSmallVehicles nMotoVehicles nLongVehicles "
+     "nVolume nFlowRate nTravelTime dBackOfQueue nBackOfQueue nDelay byDirection stuVehicleTypeFlow "
+     "stuDrivingDirection emRank nState bOccupyHeadCoil bOccupyTailCoil bStatistics stuQueueEnd emClass"},
     {282, "stuObject stuVehicle nLane nSequence stuTrafficCar stuFileInfo byEventAction byReservedAction byRepeat "
           "dwFlagMask wWidth wHeight stuCommInfo"},
     {283, "stuObject stuVehicle nLane nSequence nSpeed stuTrafficCar stuFileInfo byEventAction byReservedAction "
@@ -461,6 +520,105 @@ TEST(TrafficEvents, FieldsStandInTheirOrder) {
         std::vector<std::string> expected{std::istream_iterator<std::string>(names), {}};
         EXPECT_EQ(actual, expected) << layout.code;
     }
+}
+
+TEST(TrafficEvents, HeadsAreOfTheirForm) {
+    const std::map<std::uint32_t, const char*> others = {
+        {23, "nChannelID szName byMainSeatBelt bySlaveSeatBelt byVehicleDirection byOpenStrobeState dPTS stuUTC"},
+        {273, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {308, "nChannelID szName dwPTS stuUTC"},
+        {310, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {311, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {312, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {313, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {314, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {355, "nChannelID szName dwPTS stuUTC"},
+        {360, ""}, // that of the junction inside it
+        {361, "nChannelID szName nTriggerType dwPTS stuUTC"},
+        {553, "nChannelID szName nGroupID nCountInGroup nIndexInGroup dPTS stuUTC"},
+    };
+    for (const TrafficEvent& event : kTrafficEvents) {
+        const auto other = others.find(event.code);
+        const std::string expected =
+            other != others.end() ? other->second : "nChannelID szName byReservedHead dPTS stuUTC";
+        std::string actual;
+        bool inHead = event.code != 360;
+        for (const auto& field : *events::FindEvent(event.code)->table) {
+            if (std::string_view(field.name) == "nEventID") inHead = false;
+            if (inHead && !field.alias) actual += (actual.empty() ? "" : " ") + std::string(field.name);
+        }
+        EXPECT_EQ(actual, expected) << event.code;
+    }
+}
+
+// Names tell types, so that a client may go by them.
+TEST(TrafficEvents, FieldsHaveTheTypesOfTheirNames) {
+    using orrery::record::Cell;
+    const std::pair<std::string_view, Cell> prefixes[] = {{"stu", Cell::Record}, {"sz", Cell::Char}, {"dw", Cell::U32},
+                                                          {"by", Cell::U8},      {"em", Cell::I32},  {"w", Cell::U16},
+                                                          {"n", Cell::I32},      {"f", Cell::F32}};
+    const std::map<std::string_view, Cell> others = {{"bNonMotorFeature", Cell::U8},
+                                                     {"bNonMotor", Cell::U32},
+                                                     {"bIsExistAlarmRecord", Cell::U32},
+                                                     {"bOccupyHeadCoil", Cell::I32},
+                                                     {"bOccupyTailCoil", Cell::I32},
+                                                     {"bStatistics", Cell::I32},
+                                                     {"dPTS", Cell::F64},
+                                                     {"dInitialUTC", Cell::F64},
+                                                     {"dBackOfQueue", Cell::F64}};
+    for (const TrafficEvent& event : kTrafficEvents) {
+        for (const auto& field : *events::FindEvent(event.code)->table) {
+            if (field.alias) continue;
+            const std::string_view name = field.name;
+            if (const auto other = others.find(name); other != others.end()) {
+                EXPECT_EQ(field.cell, other->second) << event.code << ' ' << name;
+                continue;
+            }
+            const auto* const prefix = std::find_if(std::begin(prefixes), std::end(prefixes),
+                                                    [&](const auto& known) { return name.starts_with(known.first); });
+            ASSERT_NE(prefix, std::end(prefixes)) << event.code << ' ' << name;
+            EXPECT_EQ(field.cell, prefix->second) << event.code << ' ' << name;
+        }
+    }
+}
+
+template <class R>
+void CheckRegion(const char* code) {
+    std::string points = "[[1,2],[3],[5,6,7]";
+    for (int i = 3; i < 22; ++i)
+        points += ",[" + std::to_string(i * 2 + 1) + "," + std::to_string(i * 2 + 2) + "]";
+    EXPECT_TRUE(DecodeOne(code, "{\"DetectRegion\":" + points + "]}", [&](const Delivered& event) {
+        const auto& record = event.as<R>();
+        EXPECT_EQ(record.nDetectRegionNum, 19) << code; // 20 places, one of them a hole
+        EXPECT_EQ(record.stuDetectRegion[0].nY, 2) << code;
+        EXPECT_EQ(record.stuDetectRegion[1].nX, 0) << code;
+        EXPECT_EQ(record.stuDetectRegion[2].nX, 5) << code;
+        EXPECT_EQ(record.stuDetectRegion[19].nX, 39) << code;
+        EXPECT_EQ(record.stuDetectRegion[19].nY, 40) << code;
+    })) << code;
+}
+
+TEST(TrafficEvents, RegionsHaveAtMostTwentyPoints) {
+    CheckRegion<DEV_EVENT_TRAFFICRETROGRADE_INFO>("TrafficRetrograde");
+    CheckRegion<DEV_EVENT_TRAFFICPARKING_INFO>("TrafficParking");
+    CheckRegion<DEV_EVENT_TRAFFICOVERYELLOWLINE_INFO>("TrafficOverYellowLine");
+}
+
+template <class R>
+void CheckLimits(const char* code) {
+    EXPECT_TRUE(DecodeOne(code, R"({"SpeedLimit":[40]})", [&](const Delivered& event) {
+        EXPECT_EQ(event.as<R>().nLowerSpeedLimit, 0) << code;
+        EXPECT_EQ(event.as<R>().nUpperSpeedLimit, 0) << code;
+    })) << code;
+    EXPECT_TRUE(DecodeOne(code, R"({"SpeedLimit":[40,80,120]})", [&](const Delivered& event) {
+        EXPECT_EQ(event.as<R>().nLowerSpeedLimit, 40) << code;
+        EXPECT_EQ(event.as<R>().nUpperSpeedLimit, 80) << code;
+    })) << code;
+}
+
+TEST(TrafficEvents, SpeedLimitsComeInPairs) {
+    CheckLimits<DEV_EVENT_TRAFFICOVERSPEED_INFO>("TrafficOverSpeed");
+    CheckLimits<DEV_EVENT_TRAFFICUNDERSPEED_INFO>("TrafficUnderSpeed");
 }
 
 TEST(EventTable, RowsAreFoundByTheirCodes) {
