@@ -124,6 +124,33 @@ TEST(EventHandlerV2, DataBaseKeysCountByANumber) {
     EXPECT_STREQ(h->szDBKeys[0], "");
     EXPECT_EQ(Read(R"({ "DB" : 65 })")->nDBKeysNum, 64);
     EXPECT_EQ(Read(R"({ "DB" : "5" })")->nDBKeysNum, 0);
+    EXPECT_EQ(Read(R"({ "DB" : -2 })")->nDBKeysNum, -2); // bounded above alone; written as none
+}
+
+TEST(EventHandlerV2, ChannelListsTake1024Elements) {
+    std::string numbers = "[ ";
+    for (int i = 0; i < 1024; ++i)
+        numbers += "7, ";
+    for (const char* key : {"RecordChannels", "AlarmOutChannels", "ExAlarmOutChannels", "SnapshotChannels"}) {
+        const auto h = Read(std::string("{ \"") + key + "\" : " + numbers + "8 ] }");
+        const auto& channels = key[0] == 'R'   ? h->nRecordChannels
+                               : key[0] == 'A' ? h->nAlarmOutChannels
+                               : key[0] == 'E' ? h->nExAlarmOutChannels
+                                               : h->nSnapshotChannels;
+        EXPECT_EQ(channels[7], 1) << key;
+        EXPECT_EQ(channels[8], 0) << key;
+    }
+}
+
+TEST(EventHandlerV2, TheWeekIsReadCellByCellWithTwoDigitsAPart) {
+    const auto h = Read(R"({ "TimeSection" : [ [ "bad", "1 01:00:00-02:00:00" ], null, [ "1 008:00:00-9:00:00", 5,
+                                                 "1 03:00:00-04:00:00" ] ] })");
+    EXPECT_EQ(h->stuTimeSection[0][0].stuSection.dwMask, 0);
+    EXPECT_EQ(h->stuTimeSection[0][1].stuSection.nEndHour, 2);
+    EXPECT_EQ(h->stuTimeSection[2][0].stuSection.dwMask, 1); // what was read before the colon that is not there
+    EXPECT_EQ(h->stuTimeSection[2][0].stuSection.nBeginHour, 0);
+    EXPECT_EQ(h->stuTimeSection[2][0].stuSection.nEndHour, 0);
+    EXPECT_EQ(h->stuTimeSection[2][2].stuSection.nEndHour, 4);
 }
 
 HandlerPtr Sized() {

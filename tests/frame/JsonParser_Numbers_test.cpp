@@ -106,6 +106,17 @@ TEST(PointList, ABadElementLeavesAHoleAndIsNotCounted) {
     EXPECT_EQ(std::memcmp(points, expected, sizeof expected), 0);
 }
 
+TEST(PointList, AnObjectOfTwoMembersIsAPointAtZero) {
+    // Two elements are all that is asked for; that they cannot be reached by number is another matter.
+    const Document document(R"([ { "a" : 1, "b" : 2 }, { "a" : 1 }, [ 3, 4 ] ])");
+    CFG_POLYGON points[3] = {{kBefore, kBefore}, {kBefore, kBefore}, {kBefore, kBefore}};
+    int count = 99;
+    JsonParser::GetPointList(document.root(), 3, points, &count);
+    EXPECT_EQ(count, 2);
+    const std::int32_t expected[3][2] = {{0, 0}, {kBefore, kBefore}, {3, 4}};
+    EXPECT_EQ(std::memcmp(points, expected, sizeof expected), 0);
+}
+
 TEST(PointList, StopsAtTheCallersCount) {
     const Document document("[ [ 1, 2 ], [ 3, 4 ], [ 5, 6 ] ]");
     CFG_POLYGON points[3] = {{kBefore, kBefore}, {kBefore, kBefore}, {kBefore, kBefore}};
