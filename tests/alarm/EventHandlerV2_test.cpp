@@ -142,6 +142,12 @@ TEST(EventHandlerV2, ChannelListsTake1024Elements) {
     }
 }
 
+TEST(EventHandlerV2, MembersOfAnObjectCountAsChannelsOfATour) {
+    const auto h = Read(R"({ "MonitorTour" : [ { "Channels" : { "a" : 1, "b" : 2 } } ] })");
+    EXPECT_EQ(h->stuTour[0].nChannelCount, 2);
+    EXPECT_EQ(h->stuTour[0].nChannels[0], 0);
+}
+
 TEST(EventHandlerV2, TheWeekIsReadCellByCellWithTwoDigitsAPart) {
     const auto h = Read(R"({ "TimeSection" : [ [ "bad", "1 01:00:00-02:00:00" ], null, [ "1 008:00:00-9:00:00", 5,
                                                  "1 03:00:00-04:00:00" ] ] })");

@@ -297,6 +297,31 @@ TEST(EventHandler, Tours) {
     EXPECT_EQ(h->stuTour[4].nChannelCount, 0);
 }
 
+TEST(EventHandler, MembersOfAnObjectCountWhereNoListIsAskedFor) {
+    const auto h = ReadPlain(R"({ "MonitorTour" : [ { "Channels" : { "a" : 1, "b" : 2 } } ],
+                                  "DB" : { "a" : "x", "b" : "y", "c" : "z" } })");
+    EXPECT_EQ(h->stuTour[0].nChannelCount, 2);
+    EXPECT_THAT(h->stuTour[0].nChannels, Each(0));
+    EXPECT_EQ(h->nDBKeysNum, 3);
+    EXPECT_STREQ(h->szDBKeys[0], "");
+}
+
+TEST(EventHandler, AFlagTellsThatTheKeyWasThereWhateverItsType) {
+    const auto h = ReadPlain(R"({ "RecordLatch" : "x", "Dejitter" : [ 5 ], "TourSplit" : 8, "MailDetail" : 5,
+                                  "JpegSummary" : 5, "SnapshotTimes" : null })");
+    EXPECT_EQ(h->abRecordLatch, 1);
+    EXPECT_EQ(h->nRecordLatch, 0);
+    EXPECT_EQ(h->abDejitter, 1);
+    EXPECT_EQ(h->nDejitter, 0);
+    EXPECT_EQ(h->abTourSplit, 1);
+    EXPECT_EQ(h->nTourSplit, 0);
+    EXPECT_EQ(h->abMailDetail, 1);
+    EXPECT_EQ(h->stuMailDetail.nMaxSize, 0);
+    EXPECT_EQ(h->abJpegSummary, 1);
+    EXPECT_STREQ(h->szJpegSummary, "");
+    EXPECT_EQ(h->abSnapshotTimes, 0); // null is as good as absent
+}
+
 TEST(EventHandler, TitlesWithBadParts) {
     const auto h = ReadPlain(R"({ "VideoTitle" : [ { "Text" : 5, "Point" : [ 1 ], "Size" : [ 1.9, 2 ],
         "FrontColor" : [ 1, 2, 3 ], "BackColor" : "red" }, { "Text" : ")"
@@ -349,6 +374,8 @@ TEST(EventHandler, SchedulesOfSevenAndEightRows) {
     const auto eight = ReadPlain("{ \"TimeSection\" : " + WeekText(8, {{7, 0, "1 08:00:00-17:30:00"}}) + " }");
     EXPECT_EQ(eight->stuTimeSectionEx.bEnableHoliday, 1);
     EXPECT_EQ(eight->stuTimeSectionEx.stuTimeSection[7][0].nEndHour, 17);
+    const auto nine = ReadPlain("{ \"TimeSection\" : " + WeekText(9, {{8, 0, "bad"}}) + " }");
+    EXPECT_EQ(nine->stuTimeSectionEx.bEnableHoliday, 1); // the ninth row is not looked at
     const auto six = ReadPlain("{ \"TimeSection\" : " + WeekText(6) + " }");
     EXPECT_EQ(six->stuTimeSectionEx.bEnableHoliday, 0);
 }
