@@ -132,10 +132,12 @@ TEST(EventHandler, EverythingWritten) {
 TEST(EventHandler, TheWeekStandsOverTheSchedule) {
     auto h = Full();
     EXPECT_EQ(Write(kEventHandlerWeek, *h), FullText(WeekText(7, {{6, 5, "1 08:00:00-17:30:00"}})));
-    h->stuTimeSectionEx.bEnableHoliday = 1;
     h->stuTimeSectionEx.stuTimeSection[7][0] = {1, 9, 0, 0, 10, 0, 0};
-    EXPECT_EQ(Write(kEventHandlerWeek, *h),
-              FullText(WeekText(8, {{6, 5, "1 08:00:00-17:30:00"}, {7, 0, "1 09:00:00-10:00:00"}})));
+    for (const std::int32_t holiday : {2, -1, 1}) {
+        h->stuTimeSectionEx.bEnableHoliday = holiday;
+        EXPECT_EQ(Write(kEventHandlerWeek, *h),
+                  FullText(WeekText(8, {{6, 5, "1 08:00:00-17:30:00"}, {7, 0, "1 09:00:00-10:00:00"}})));
+    }
     EXPECT_EQ(Write(kEventHandler, *h),
               FullText(WeekText(8, {{0, 0, "1 01:02:03-04:05:06"}, {7, 0, "1 09:00:00-10:00:00"}})));
 }
