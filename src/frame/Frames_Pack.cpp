@@ -48,6 +48,15 @@ void WriteArray(const Content& content, WriteCall& call) noexcept {
     call.out.EndArray();
 }
 
+// The records that their table lets out, under their names; without any the value is null, as a list's is.
+void WriteMembers(const Content& content, WriteCall& call) noexcept {
+    for (std::uint32_t i = 0; i < content.count; ++i) {
+        if (!record::IsWritten(content.table, content.first + std::size_t{i} * content.stride)) continue;
+        return record::WriteByName(content.table, content.first, content.count, content.stride, call);
+    }
+    call.out.Null();
+}
+
 // Writes the whole text; fails when memory ran out or a row's function refused.
 Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
     StackArena<std::size_t{4} << 10> arena;
@@ -61,7 +70,7 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
     }
     switch (content.form) {
     case Form::ByMember:
-        record::WriteByName(content.table, content.first, content.count, content.stride, call);
+        WriteMembers(content, call);
         break;
     case Form::Array:
         WriteArray(content, call);
@@ -160,7 +169,12 @@ Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, co
         std::memcpy(whole, first, request.recordSize);
         content.first = whole;
     }
-    return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, Capacity::Strict, request);
+    // What a row's function thinks of its record is not asked here, as it is not when reading: what it wrote stands.
+    const auto write = [&](json::TextWriter& out) {
+        const Outcome outcome = WriteText(content, out);
+        return outcome == Outcome::RowRefused ? Outcome::Done : outcome;
+    };
+    return DeliverText(write, Capacity::Strict, request);
 }
 
 } // namespace orrery

@@ -269,6 +269,7 @@ Outcome ParseTableFrame(const record::Table& table, const TableFrame& frame, con
     for (std::uint32_t i = 0; i < count; ++i, element += table.size) {
         const Value& one = isArray ? value[i] : value;
         if (one.isNull()) continue;
+        call.index = i;
         record::ReadRecord(table, one, element, call);
         read += table.size;
     }

@@ -67,6 +67,39 @@ TEST(FamilyPack, ByMember) {
     EXPECT_EQ(Pack(kNamed, kPack.As(Form::ByMember), named, sizeof(Named)).text(), "{ \"b\" : { \"Id\" : 1 } }\n");
 }
 
+bool HasNumber(const std::byte* record) {
+    return MEMBER(record, Named, id) != 0;
+}
+
+TABLE(kNumberedNames, Named, FIELD(name, nullptr, MemberName), FIELD(id, "Id", Int)).Writes(HasNumber);
+
+TEST(FamilyPack, MembersThatTheirTableHoldsBackLeaveNoTrace) {
+    const PackFrame frame = kPack.As(Form::ByMember);
+    const Named some[] = {{"b", 0}, {"a", 2}, {"c", 0}};
+    EXPECT_EQ(Pack(kNumberedNames, frame, some, sizeof some).text(), "{ \"a\" : { \"Id\" : 2 } }\n");
+    // Not one member: nothing made an object of the document.
+    const Named none[] = {{"b", 0}, {"a", 0}};
+    EXPECT_EQ(Pack(kNumberedNames, frame, none, sizeof none).text(), "null\n");
+}
+
+void RefuseBelowZero(const Field&, const std::byte* record, WriteCall& call) {
+    if (MEMBER(record, Item, level) < 0) call.refused = true;
+    call.Key();
+    call.out.Int(MEMBER(record, Item, level));
+}
+constexpr CustomCodec kLevel{nullptr, RefuseBelowZero};
+
+TABLE(kRefusing, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Custom(kLevel)));
+
+TEST(FamilyPack, ARowMayEndTheCall) {
+    const Item refused{1, -2};
+    const Written w = Pack(kRefusing, kPack, &refused, sizeof refused);
+    EXPECT_EQ(w.outcome, Outcome::RowRefused);
+    EXPECT_TRUE(w.isCleared());
+    EXPECT_TRUE(Pack(kRefusing, kPack.KeepsText(), &refused, sizeof refused).isUntouched());
+    EXPECT_EQ(Pack(kRefusing, kPack, kItems, sizeof(Item)).text(), kFirst + "\n");
+}
+
 TEST(FamilyPack, UnderItsOwnKey) {
     const PackFrame under = kPack.Under("\"Own\" : ");
     EXPECT_EQ(Pack(kItem, under, kItems, 8).text(), "{ \"Own\" : " + kFirst + " }\n");

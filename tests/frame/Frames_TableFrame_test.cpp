@@ -190,6 +190,46 @@ TEST(TableFrame, WhatFollowsTheDocumentIsIgnored) {
     EXPECT_EQ(Parse(kOne, Reply(R"({ "Id" : 4 })") + " trailing {")[0].id, 4);
 }
 
+// A row that refuses numbers below zero in both directions, and leaves them out of the text.
+void ReadLevel(const Field&, const json::Value& value, std::byte* record, ReadCall& call) {
+    SET_MEMBER(record, Item, level, value.asInt());
+    if (value.asInt() < 0) call.refused = true;
+}
+void WriteLevel(const Field&, const std::byte* record, WriteCall& call) {
+    const std::int32_t level = MEMBER(record, Item, level);
+    if (level < 0) {
+        call.refused = true;
+        return;
+    }
+    call.Key();
+    call.out.Int(level);
+}
+constexpr CustomCodec kLevel{ReadLevel, WriteLevel};
+
+TABLE(kRefusing, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Custom(kLevel)));
+
+TEST(TableFrame, ARefusedRecordIsCountedLikeTheOthers) {
+    const auto f = test::Parse<Item>(
+        kRefusing, kMany, Reply(R"([ { "Id" : 1, "Level" : -2 }, { "Id" : 3, "Level" : 4 } ])"), 2 * sizeof(Item));
+    EXPECT_EQ(f.outcome, Outcome::Done);
+    EXPECT_EQ(f[0].level, -2);
+    EXPECT_EQ(f[1].level, 4);
+    EXPECT_EQ(f.length, kBefore + 2 * sizeof(Item));
+}
+
+void ReadIndex(const Field&, const json::Value&, std::byte* record, ReadCall& call) {
+    SET_MEMBER(record, Item, level, static_cast<std::int32_t>(call.index));
+}
+constexpr CustomCodec kIndex{ReadIndex, nullptr};
+
+TABLE(kNumbered, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Custom(kIndex)).Always());
+
+TEST(TableFrame, RowsAreToldWhichRecordTheyRead) {
+    const auto f = test::Parse<Item>(kNumbered, kMany, Reply("[ { }, null, { } ]"), 3 * sizeof(Item));
+    EXPECT_EQ(f[0].level, 0);
+    EXPECT_EQ(f[2].level, 2);
+}
+
 // ---- Writing ----
 
 const Item kItems[] = {{1, 2}, {3, 4}};
@@ -255,6 +295,13 @@ TEST(TableFrame, RecordsThatTheirTableHoldsBackKeepTheirPlaces) {
     const Item items[] = {{0, 1}, {1, 2}, {-1, 3}};
     EXPECT_EQ(Pack(kPositive, kMany, items, sizeof items).text(), "[ null, " + kFirst + ", null ]\n");
     EXPECT_EQ(Pack(kPositive, kMany, items, 8).text(), "null\n");
+}
+
+TEST(TableFrame, WhatARowRefusesToWriteIsMissingAndNoFailure) {
+    const Item items[] = {{1, -2}, {3, 4}};
+    const auto written = Pack(kRefusing, kMany, items, sizeof items);
+    EXPECT_EQ(written.outcome, Outcome::Done);
+    EXPECT_EQ(written.text(), "[ { \"Id\" : 1 }, { \"Id\" : 3, \"Level\" : 4 } ]\n");
 }
 
 // ---- The commands of one switch ----
