@@ -87,14 +87,62 @@ TEST(Commands, TheRecordsBehindFoldedNames) {
     EXPECT_EQ(caps.nAlarmIn, 3);
 }
 
+TEST(Commands, ACommandInSmallLettersDoesTheSame) {
+    const char* const reply = R"({ "result" : true, "params" : { "table" :
+        { "MainFormat" : [ { "VideoEnable" : true, "Video" : { "Width" : 704 } } ] } } })";
+    const auto parse = [&](const char* command) {
+        std::vector<unsigned char> bytes(sizeof(CFG_ENCODE_INFO));
+        EXPECT_NE(CLIENT_ParseData(command, reply, bytes.data(), sizeof(CFG_ENCODE_INFO), nullptr), 0) << command;
+        return bytes;
+    };
+    const auto record = parse("Encode");
+    EXPECT_NE(record, std::vector<unsigned char>(sizeof(CFG_ENCODE_INFO)));
+    EXPECT_EQ(parse("encode"), record);
+    EXPECT_EQ(parse("ENCODE"), record);
+    std::vector<unsigned char> bytes(sizeof(CFG_ENCODE_INFO));
+    for (const char* other : {"Encode ", " Encode", "Encod", "Encode.", "encode.getCap"})
+        EXPECT_EQ(CLIENT_ParseData(other, reply, bytes.data(), sizeof(CFG_ENCODE_INFO), nullptr), 0) << other;
+}
+
 TEST(Commands, TheseAreServed) {
-    const std::set<std::string_view> bothWays = {
-        "G3G4AutoChange",  "CabinLedTimeSchedule", "PwdReset",        "Alarm",
-        "NetAlarm",        "MotionDetect",         "LossDetect",      "BlindDetect",
-        "StorageNotExist", "StorageFailure",       "StorageLowSpace", "NetAbort",
-        "IPConflict",      "MacConflict",          "PSTNBreakLine"};
-    const std::set<std::string_view> parseOnly = {"alarm.getAlarmCaps", "alarm.getExAlarmCaps",
-                                                  "alarm.getExAlarmBoxCaps", "AnalogAlarm.getCaps"};
+    const std::set<std::string_view> bothWays = {"G3G4AutoChange",
+                                                 "CabinLedTimeSchedule",
+                                                 "PwdReset",
+                                                 "Alarm",
+                                                 "NetAlarm",
+                                                 "MotionDetect",
+                                                 "LossDetect",
+                                                 "BlindDetect",
+                                                 "StorageNotExist",
+                                                 "StorageFailure",
+                                                 "StorageLowSpace",
+                                                 "NetAbort",
+                                                 "IPConflict",
+                                                 "MacConflict",
+                                                 "PSTNBreakLine",
+                                                 "Encode",
+                                                 "EncodePlan",
+                                                 "EncodeAdapt",
+                                                 "SmartEncode",
+                                                 "EncodeEncrypt",
+                                                 "NvrEncrypt",
+                                                 "CompressPlay",
+                                                 "StroboscopicLamp",
+                                                 "Network",
+                                                 "RTSP",
+                                                 "Multicast",
+                                                 "DVRIP",
+                                                 "Mobile",
+                                                 "Email",
+                                                 "STP",
+                                                 "AIOAppConfig",
+                                                 "WLan",
+                                                 "Https",
+                                                 "VideoAnalyseRule",
+                                                 "AudioAnalyseRule"};
+    const std::set<std::string_view> parseOnly = {"alarm.getAlarmCaps",      "alarm.getExAlarmCaps",
+                                                  "alarm.getExAlarmBoxCaps", "AnalogAlarm.getCaps",
+                                                  "LowRateWPAN.getCaps",     "IVSFramRule"};
     for (const auto name : bothWays) {
         const Command* const command = FindCommand(name);
         ASSERT_NE(command, nullptr) << name;

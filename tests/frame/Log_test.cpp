@@ -233,9 +233,38 @@ TEST(Log, OperationsStandInTheirSlots) {
     for (const int entry : {14, 15, 16, 18})
         callInt(entry);
     reinterpret_cast<void (*)(LogSink*, const char*, int, int)>(table[19])(base, "Door", 1, 2);
-    EXPECT_EQ(sink.calls, (Calls{"Reserved3", "Reserved4", "Reserved6", "Reserved8", "Reserved9", "Reserved10",
-                                 "Reserved12", "Reserved13", "Reserved17", "SetMaxSizeKB 9", "SetFileCount 9",
-                                 "SetPrintLevel 9", "SetPrintStrategy 9", "SetPosition Door:1 2"}));
+    va_list nothing{};
+    char* list = LogOne_ArgumentList(nothing);
+    using Wide = void (*)(LogSink*, E_LOG_LEVEL, int, const char*, int, const wchar_t*, char*&);
+    using Narrow = void (*)(LogSink*, E_LOG_LEVEL, int, const char*, int, const char*, char*&);
+    using ShortWide = void (*)(LogSink*, int, int, const wchar_t*, char*&);
+    using Short = void (*)(LogSink*, int, int, const char*, char*&);
+    reinterpret_cast<Wide>(table[0])(base, E_LOG_LEVEL_ERROR, 1, "Door", 2, L"wide", list);
+    reinterpret_cast<Narrow>(table[1])(base, E_LOG_LEVEL_DETAIL, 3, "Door", 4, "narrow", list);
+    reinterpret_cast<ShortWide>(table[4])(base, 0, 5, L"wide", list);
+    reinterpret_cast<Short>(table[6])(base, 0, 6, "narrow", list);
+    EXPECT_EQ(sink.calls,
+              (Calls{"Reserved3", "Reserved4", "Reserved6", "Reserved8", "Reserved9", "Reserved10", "Reserved12",
+                     "Reserved13", "Reserved17", "SetMaxSizeKB 9", "SetFileCount 9", "SetPrintLevel 9",
+                     "SetPrintStrategy 9", "SetPosition Door:1 2", "TraceOutAllW 0 1 Door:2 wide",
+                     "TraceOutAll 2 3 Door:4 narrow", "TraceOutW 0 5 wide", "TraceOut 0 00000006 narrow"}));
+}
+
+TEST(Log, TheDeletingDestructorStandsInItsSlot) {
+    class DyingSink : public RecordingSink {
+      public:
+        explicit DyingSink(int& deaths) : deaths_(deaths) {}
+        ~DyingSink() override { ++deaths_; }
+
+      private:
+        int& deaths_;
+    };
+    int deaths = 0;
+    LogSink* const sink = new DyingSink(deaths);
+    void** table;
+    std::memcpy(&table, static_cast<void*>(sink), sizeof table);
+    reinterpret_cast<void (*)(LogSink*)>(table[11])(sink);
+    EXPECT_EQ(deaths, 1);
 }
 #endif
 
