@@ -4,6 +4,7 @@
 #include "support/Specimens.h"
 #include "support/TableText.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -62,6 +63,48 @@ TEST(HostileText, EveryValueReplacedByEveryType) {
             }
             **place = std::move(kept);
         }
+    }
+}
+
+// The text without the member whose value is the marker; empty when that is no member.
+std::string WithoutMember(const std::string& text, char marker) {
+    const std::size_t value = text.find(marker);
+    if (value == 0 || text[value - 1] != ':') return {};
+    std::size_t begin = text.rfind('"', value - 3);
+    std::size_t end = value + 1;
+    if (text[end] == ',')
+        ++end;
+    else if (text[begin - 1] == ',')
+        --begin;
+    return text.substr(0, begin) + text.substr(end);
+}
+
+TEST(HostileText, ANullIsAsGoodAsNoKey) {
+    constexpr char kMarker = '\x01';
+    for (const Command& command : DistinctCommands()) {
+        if (!command.parses()) continue;
+        JsonTree tree = ReplyTree(command, {.most = 2, .records = 2});
+        ParseCalls calls(command);
+        std::size_t compared = 0;
+        auto places = tree.Places();
+        for (auto place = places.rbegin(); place != places.rend(); ++place) {
+            JsonTree kept = std::move(**place);
+            **place = JsonTree(std::string(1, kMarker));
+            std::string text = tree.Text();
+            const std::string without = WithoutMember(text, kMarker);
+            if (!without.empty()) {
+                text.replace(text.find(kMarker), 1, "null");
+                const Outcome outcome = calls.Run(text.c_str());
+                const std::vector<std::byte> bytes(calls.bytes().begin(), calls.bytes().end());
+                const std::uint32_t length = calls.length();
+                EXPECT_EQ(calls.Run(without.c_str()), outcome) << command.name << text;
+                EXPECT_TRUE(std::ranges::equal(bytes, calls.bytes())) << command.name << text;
+                EXPECT_EQ(calls.length(), length) << command.name << text;
+                ++compared;
+            }
+            **place = std::move(kept);
+        }
+        EXPECT_GT(compared, 1u) << command.name;
     }
 }
 

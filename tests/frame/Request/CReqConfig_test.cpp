@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +20,20 @@ std::string Serialized(CReqConfig& request) {
     if (text == nullptr) return "(none)";
     EXPECT_EQ(std::strlen(text), length);
     return text;
+}
+
+TEST(CReqConfig, FieldsStandInTheirOrder) {
+    CReqConfig request;
+    const void* const fields[] = {&request.nRequestType, &request.nPacketId, &request.nSequence,
+                                  &request.nFlags,       &request.nError,    &request.nResult,
+                                  &request.nSessionId,   &request.nObjectId, &request.pPayload};
+    EXPECT_TRUE(std::is_sorted(std::begin(fields), std::end(fields)));
+    EXPECT_EQ(offsetof(CFG_DELETE_PARAM, dwOptions), 8u);
+    EXPECT_EQ(offsetof(CFG_MEMBER_NAME, szBuffer), 8u);
+    EXPECT_EQ(offsetof(CFG_MEMBER_NAME, nBufferSize), 16u);
+    EXPECT_EQ(offsetof(CFG_MEMBER_NAMES, nMaxCount), 8u);
+    EXPECT_EQ(offsetof(CFG_MEMBER_NAMES, nRetCount), 12u);
+    EXPECT_EQ(offsetof(CFG_MEMBER_NAMES, pNames), 16u);
 }
 
 TEST(CReqConfig, WritesGetMemberNames) {
@@ -189,6 +205,10 @@ TEST(CReqConfig, CountsOfNames) {
     EXPECT_EQ(counted(2, names, R"([ "a", "b", "c" ])"), 2);
     EXPECT_EQ(counted(2, names, "[ ]"), 0);
     EXPECT_EQ(counted(2, names, "\"a\""), 0);
+    // Members count like elements, though they are none.
+    EXPECT_EQ(counted(2, names, R"({ "a" : "b" })"), 1);
+    EXPECT_EQ(names[0].dwSize, 24u);
+    EXPECT_EQ(counted(2, names, R"({ "a" : 1, "b" : 2, "c" : 3 })"), 2);
     EXPECT_EQ(counted(0, names, R"([ "a" ])"), 0);
     EXPECT_EQ(counted(-1, names, R"([ "a" ])"), 0);
     EXPECT_EQ(counted(2, nullptr, R"([ "a" ])"), 0);
