@@ -30,16 +30,9 @@ void ReadOpenMethod(const Field& field, const Value& value, std::byte* record, R
 }
 constexpr CustomCodec kOpenMethod{ReadOpenMethod};
 
-// The numbers that identity cards use.
-void ReadSex(const Field& field, const Value& value, std::byte* record, ReadCall&) {
-    const std::int32_t sex = value.asInt();
-    Store<std::int32_t>(record + field.offset, sex == 1   ? EVENT_SEX_MALE
-                                               : sex == 2 ? EVENT_SEX_FEMALE
-                                               : sex == 9 ? EVENT_SEX_UNTOLD
-                                                          : EVENT_SEX_UNKNOWN);
-}
-constexpr CustomCodec kSex{ReadSex};
-#define SEX FIELD(emSex, "Sex", Custom(kSex)).Only(OnlyType::Integer)
+// The numbers that identity cards use, in the order of the codes.
+static_assert(EVENT_SEX_MALE == 1 && EVENT_SEX_FEMALE == 2 && EVENT_SEX_UNTOLD == 3 && EVENT_SEX_UNKNOWN == 0);
+#define SEX FIELD(emSex, "Sex", PlaceIn<EVENT_SEX_MALE, 1, 2, 9>).Only(OnlyType::Integer)
 
 // A card that never expires says so instead of a date.
 void ReadLongTerm(const Field& field, const Value& value, std::byte* record, ReadCall&) {
