@@ -63,7 +63,7 @@ inline constexpr Name kPersonDirectionRows[] = {{EVENT_PERSON_LEFT_TO_RIGHT, "Le
 inline constexpr NameTable kPersonDirections = ExactNames(kPersonDirectionRows);
 
 inline constexpr Name kGpsSourceRows[] = {{0, "GPS"}, {1, "InertialNavigation"}};
-inline constexpr NameTable kGpsSources = ExactNames(kGpsSourceRows);
+inline constexpr NameTable kGpsSources = FoldedNames(kGpsSourceRows);
 
 // ---- Moments, points, rectangles ---------------------------------------------------------------------------------
 

@@ -6,7 +6,10 @@
 namespace orrery::events {
 
 inline constexpr Name kFaceSexRows[] = {{EVENT_SEX_MALE, "Man"}, {EVENT_SEX_FEMALE, "Woman"}};
-inline constexpr NameTable kFaceSexes = ExactNames(kFaceSexRows);
+inline constexpr NameTable kFaceSexes = FoldedNames(kFaceSexRows);
+// Of people who are known, or seen as a whole.
+inline constexpr Name kPersonSexRows[] = {{EVENT_SEX_MALE, "Male"}, {EVENT_SEX_FEMALE, "Female"}};
+inline constexpr NameTable kPersonSexes = FoldedNames(kPersonSexRows);
 
 #define ORRERY_FEATURE_ROWS(noGlasses)                                                                                 \
     {EVENT_FEATURE_WEAR_GLASSES, "WearGlasses"}, {EVENT_FEATURE_SMILE, "Smile"}, {EVENT_FEATURE_ANGER, "Anger"},       \
@@ -18,7 +21,7 @@ inline constexpr NameTable kFaceSexes = ExactNames(kFaceSexRows);
     }
 inline constexpr Name kFeatureRows[] = {ORRERY_FEATURE_ROWS("NoGlasses")};
 inline constexpr NameTable kFeatures = ExactNames(kFeatureRows);
-// As devices that see whole people spell them.
+// As devices that see whole people spell them: in their own case, which therefore counts in both lists.
 inline constexpr Name kTraitFeatureRows[] = {ORRERY_FEATURE_ROWS("Noglasses")};
 inline constexpr NameTable kTraitFeatures = ExactNames(kTraitFeatureRows);
 #undef ORRERY_FEATURE_ROWS

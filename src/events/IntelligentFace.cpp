@@ -13,8 +13,6 @@ PART(kFace, EVENT_FACE_INFO, FIELD(nObjectID, "ObjectID", Int), FIELD(szObjectTy
 
 // ---- Known people ----
 
-constexpr Name kPersonSexRows[] = {{EVENT_SEX_MALE, "Male"}, {EVENT_SEX_FEMALE, "Female"}};
-constexpr NameTable kPersonSexes = FoldedNames(kPersonSexRows);
 constexpr Name kPersonTypeRows[] = {
     {EVENT_PERSON_NORMAL, "Normal"}, {EVENT_PERSON_SUSPICION, "Suspicion"},  {EVENT_PERSON_THIEF, "Thief"},
     {EVENT_PERSON_VIP, "VIP"},       {EVENT_PERSON_FATE_CHECK, "FateCheck"}, {EVENT_PERSON_STAFF, "Staff"},
@@ -23,7 +21,7 @@ constexpr NameTable kPersonTypes = FoldedNames(kPersonTypeRows);
 constexpr Name kCertificateRows[] = {{EVENT_CERTIFICATE_IC, "IC"}, {EVENT_CERTIFICATE_PASSPORT, "Passport"}};
 constexpr NameTable kCertificates = FoldedNames(kCertificateRows);
 constexpr Name kGlassesRows[] = {{EVENT_GLASSES_SUN_GLASSES, "SunGlasses"}, {EVENT_GLASSES_GLASSES, "Glasses"}};
-constexpr NameTable kGlasses = ExactNames(kGlassesRows);
+constexpr NameTable kGlasses = FoldedNames(kGlassesRows);
 
 // A date over three members: year, month, day.
 void ReadBirthday(const Field& field, const Value& value, std::byte* record, ReadCall&) {

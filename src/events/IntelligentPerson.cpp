@@ -5,9 +5,6 @@ namespace orrery::events {
 
 namespace {
 
-constexpr Name kSexRows[] = {{EVENT_SEX_MALE, "Male"}, {EVENT_SEX_FEMALE, "Female"}};
-constexpr NameTable kSexes = ExactNames(kSexRows);
-
 constexpr Name kClothesColorRows[] = {
     {EVENT_CLOTHES_COLOR_WHITE, "White"}, {EVENT_CLOTHES_COLOR_ORANGE, "Orange"},
     {EVENT_CLOTHES_COLOR_PINK, "Pink"},   {EVENT_CLOTHES_COLOR_BLACK, "Black"},
@@ -16,7 +13,7 @@ constexpr Name kClothesColorRows[] = {
     {EVENT_CLOTHES_COLOR_GREEN, "Green"}, {EVENT_CLOTHES_COLOR_PURPLE, "Purple"},
     {EVENT_CLOTHES_COLOR_BROWN, "Brown"},
 };
-constexpr NameTable kClothesColors = ExactNames(kClothesColorRows);
+constexpr NameTable kClothesColors = FoldedNames(kClothesColorRows);
 
 PART(kTraitImage, EVENT_TRAIT_IMAGE, FIELD(dwOffset, "Offset", UInt), FIELD(dwLength, "Length", UInt),
      FIELD(dwWidth, "Width", UInt), FIELD(dwHeight, "Height", UInt), FIELD(dwIndexInData, "IndexInData", UInt));
@@ -34,7 +31,7 @@ PART(kFaceAttributes, EVENT_FACE_ATTRIBUTES, FIELD(nAge, "Age", Int), FIELD(nBea
 } // namespace
 
 #define LOOKS                                                                                                          \
-    FIELD(bySex, "Sex", Names(kSexes)), FIELD(byAge, "Age", Int), FIELD(byCall, "Call", Int),                          \
+    FIELD(bySex, "Sex", Names(kPersonSexes)), FIELD(byAge, "Age", Int), FIELD(byCall, "Call", Int),                    \
         FIELD(byHat, "Hat", Int), FIELD(byBag, "Bag", Int), FIELD(byUmbrella, "Umbrella", Int),                        \
         FIELD(byGlasses, "Glasses", Int), FIELD(emEmotion, "Emotion", Names(kFeatures)),                               \
         FIELD(stuUpperBodyColor, "UpperBodyColor", Record(record::kColor)),                                            \

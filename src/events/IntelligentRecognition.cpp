@@ -31,18 +31,18 @@ PART(kInside, EVENT_INSIDE_OBJECT, FIELD(nGrade, "Grade", GRADE).Absent(-1), FIE
 // ---- Vehicles ----
 
 constexpr Name kVehicleActionRows[] = {{EVENT_VEHICLE_APPEAR, "Appear"}, {EVENT_VEHICLE_DISAPPEAR, "Disappear"}};
-constexpr NameTable kVehicleActions = ExactNames(kVehicleActionRows);
+constexpr NameTable kVehicleActions = FoldedNames(kVehicleActionRows);
 constexpr Name kVehicleAttachRows[] = {{EVENT_VEHICLE_ATTACH_INSPECT, "Inspect"},
                                        {EVENT_VEHICLE_ATTACH_PENDANT, "Pendant"},
                                        {EVENT_VEHICLE_ATTACH_PAPER_BOX, "Paperbox"},
                                        {EVENT_VEHICLE_ATTACH_PERFUME_BOX, "Perfumebox"}};
-constexpr NameTable kVehicleAttachTypes = ExactNames(kVehicleAttachRows);
+constexpr NameTable kVehicleAttachTypes = FoldedNames(kVehicleAttachRows);
 constexpr Name kDifferenceRows[] = {{EVENT_CAR_DIFFERENCE_COUNTRY, "Country"},
                                     {EVENT_CAR_DIFFERENCE_BRAND, "Brand"},
                                     {EVENT_CAR_DIFFERENCE_TYPE, "Type"},
                                     {EVENT_CAR_DIFFERENCE_VEHICLE_COLOR, "VehicleColor"},
                                     {EVENT_CAR_DIFFERENCE_PLATE_COLOR, "PlateColor"}};
-constexpr NameTable kDifferences = ExactNames(kDifferenceRows);
+constexpr NameTable kDifferences = FoldedNames(kDifferenceRows);
 constexpr Name kOwnerSexRows[] = {{0, "Unknown"}, {1, "Male"}, {2, "Female"}};
 constexpr NameTable kOwnerSexes = FoldedNames(kOwnerSexRows).Unknown(3);
 constexpr Name kOwnerCertificateRows[] = {{0, "Unknown"}, {1, "IC"}, {2, "Passport"}, {3, "Military"}};

@@ -81,6 +81,7 @@ TEST(FaceDetection, SexIsAName) {
     EXPECT_TRUE(FaceOf(R"({"Sex":"Man"})", [](const Face& face) { EXPECT_EQ(face.emSex, 1); }));
     EXPECT_TRUE(FaceOf(R"({"Sex":"Woman"})", [](const Face& face) { EXPECT_EQ(face.emSex, 2); }));
     EXPECT_TRUE(FaceOf(R"({"Sex":"Male"})", [](const Face& face) { EXPECT_EQ(face.emSex, 0); }));
+    EXPECT_TRUE(FaceOf(R"({"Sex":"woman"})", [](const Face& face) { EXPECT_EQ(face.emSex, 2); }));
     EXPECT_TRUE(FaceOf(R"({"Sex":1})", [](const Face& face) { EXPECT_EQ(face.emSex, 0); }));
 }
 
@@ -219,6 +220,27 @@ TEST(FaceRecognition, CustomTypesKeepTheirText) {
     look(R"({"Type":"Suspicion"})", "", 2);
     look(R"({"Type":"FateCheck"})", "", 5);
     look(R"({"Type":"Staff"})", "", 6);
+    look(R"({"Type":"Visitor"})", "", 0);
+}
+
+TEST(FaceRecognition, NamesInAnyCase) {
+    const auto look = [](const char* person, int sex, int type, int certificate, int glasses) {
+        EXPECT_TRUE(Recognition("{\"Candidates\":[{\"Person\":" + std::string(person) + "}]}",
+                                [&](const DEV_EVENT_FACERECOGNITION_INFO& event) {
+                                    const EVENT_PERSON_INFO& known = event.stuCandidates[0].stuPerson;
+                                    EXPECT_EQ(known.bySex, sex) << person;
+                                    EXPECT_EQ(known.byType, type) << person;
+                                    EXPECT_EQ(known.byCertificateType, certificate) << person;
+                                    const EVENT_PERSON_INFO_EX& more = event.stuCandidatesEx[0].stuPerson;
+                                    EXPECT_EQ(more.bySex, sex) << person;
+                                    EXPECT_EQ(more.byType, type) << person;
+                                    EXPECT_EQ(more.byCertificateType, certificate) << person;
+                                    EXPECT_EQ(more.emGlassesType, glasses) << person;
+                                }));
+    };
+    look(R"({"Sex":"Male","Type":"vip","CertificateType":"IC","GlassesType":"glasses"})", 1, 4, 1, 2);
+    look(R"({"Sex":"female","Type":"THIEF","CertificateType":"passport","GlassesType":"SUNGLASSES"})", 2, 3, 2, 1);
+    look(R"({"Sex":"Woman","Type":"","CertificateType":"Visa","GlassesType":""})", 0, 0, 0, 0);
 }
 
 TEST(FaceRecognition, BirthdaysThatAreNoDate) {

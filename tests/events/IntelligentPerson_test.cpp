@@ -20,7 +20,7 @@ TEST(PersonFeature, LooksAndPicture) {
         EXPECT_EQ(person.stuLowerBodyColor.nRed, 0);
         EXPECT_EQ(person.stuBoundingBox.nLeft, 0);
     }));
-    EXPECT_TRUE(DecodeOne("NonMotorFeature", R"({"Sex":"Female","PlateNumber":"A 1"})", [](const Delivered& event) {
+    EXPECT_TRUE(DecodeOne("NonMotorFeature", R"({"Sex":"feMALE","PlateNumber":"A 1"})", [](const Delivered& event) {
         EXPECT_EQ(event.as<DEV_EVENT_NONMOTORFEATURE_INFO>().bySex, 2);
         EXPECT_STREQ(event.as<DEV_EVENT_NONMOTORFEATURE_INFO>().szPlateNumber, "A 1");
     }));
@@ -67,11 +67,14 @@ TEST(HumanTrait, ImagesAndAttributes) {
 TEST(HumanTrait, NumbersByTheirPlaces) {
     for (int i = -1; i <= 4; ++i) {
         const std::string n = std::to_string(i);
-        EXPECT_TRUE(Trait("{\"DetectObject\":" + n + ",\"HumanAttributes\":{\"CoatType\":" + n
-                              + ",\"TrousersType\":" + n + "},\"FaceAttributes\":{\"Glass\":" + n + "}}",
+        EXPECT_TRUE(Trait("{\"DetectObject\":" + n + ",\"HumanAttributes\":{\"CoatType\":" + n + ",\"HasHat\":" + n
+                              + ",\"HasBag\":" + n + ",\"TrousersType\":" + n + "},\"FaceAttributes\":{\"Glass\":" + n
+                              + "}}",
                           [&](const DEV_EVENT_HUMANTRAIT_INFO& trait) {
                               EXPECT_EQ(trait.emDetectObject, i >= 0 && i <= 2 ? i + 1 : 0) << i;
                               EXPECT_EQ(trait.stuHumanAttributes.emCoatType, i >= 0 && i <= 2 ? i : 0) << i;
+                              EXPECT_EQ(trait.stuHumanAttributes.emHasHat, i >= 0 && i <= 2 ? i : 0) << i;
+                              EXPECT_EQ(trait.stuHumanAttributes.emHasBag, i >= 0 && i <= 2 ? i : 0) << i;
                               EXPECT_EQ(trait.stuHumanAttributes.emTrousersType, i >= 0 && i <= 3 ? i : 0) << i;
                               EXPECT_EQ(trait.stuFaceAttributes.emGlass, i == 2 ? 1 : i == 1 ? 2 : 0) << i;
                           }));
@@ -95,6 +98,25 @@ TEST(HumanTrait, ColorsOfClothes) {
             Trait("{\"HumanAttributes\":{\"CoatColor\":\"" + std::string(names[i]) + "\"}}",
                   [&](const DEV_EVENT_HUMANTRAIT_INFO& trait) { EXPECT_EQ(trait.stuHumanAttributes.emCoatColor, i); }));
     }
+    EXPECT_TRUE(Trait(R"({"HumanAttributes":{"CoatColor":"Magenta","TrousersColor":"bROWN","Sex":"WOMAN"}})",
+                      [](const DEV_EVENT_HUMANTRAIT_INFO& trait) {
+                          EXPECT_EQ(trait.stuHumanAttributes.emCoatColor, 0);
+                          EXPECT_EQ(trait.stuHumanAttributes.emTrousersColor, 11);
+                          EXPECT_EQ(trait.stuHumanAttributes.emSex, 2);
+                      }));
+}
+
+TEST(HumanTrait, ThirtyTwoFeatures) {
+    std::string features = "\"Smile\"";
+    for (int i = 1; i < 40; ++i)
+        features += ",\"SunGlasses\"";
+    EXPECT_TRUE(Trait("{\"FaceAttributes\":{\"Glass\":1,\"Feature\":[" + features + "]}}",
+                      [](const DEV_EVENT_HUMANTRAIT_INFO& trait) {
+                          EXPECT_EQ(trait.stuFaceAttributes.nFeatureNum, 32);
+                          EXPECT_EQ(trait.stuFaceAttributes.emFeature[0], EVENT_FEATURE_SMILE);
+                          EXPECT_EQ(trait.stuFaceAttributes.emFeature[31], EVENT_FEATURE_SUN_GLASSES);
+                          EXPECT_EQ(trait.stuFaceAttributes.emGlass, 2);
+                      }));
 }
 
 TEST(XRay, GradesAndThings) {
@@ -108,6 +130,7 @@ TEST(XRay, GradesAndThings) {
     EXPECT_EQ(grade(R"({"Packet":{"Grade":0}})"), 0);
     EXPECT_EQ(grade(R"({"Packet":{"Grade":2}})"), 2);
     EXPECT_EQ(grade(R"({"Packet":{"Grade":3}})"), -1);
+    EXPECT_EQ(grade(R"({"Packet":{"Grade":-5}})"), -5); // only too high a grade is none
     EXPECT_EQ(grade(R"({"Packet":{}})"), -1);
 
     const char* const names[] = {"Unknow",   "Knife",     "BottleLiquid", "Gun", "Umbrella", "Phone",
@@ -128,6 +151,12 @@ TEST(XRay, GradesAndThings) {
         }
         EXPECT_EQ(parcel.stuInside[31].nGrade, -1);
     }));
+    EXPECT_TRUE(
+        DecodeOne("XRayDetection", R"({"Inside":[{"Type":"bottleLIQUID","Grade":-5}]})", [](const Delivered& event) {
+            EXPECT_EQ(event.as<R>().nInsideNum, 1);
+            EXPECT_EQ(event.as<R>().stuInside[0].emType, EVENT_INSIDE_BOTTLE_LIQUID);
+            EXPECT_EQ(event.as<R>().stuInside[0].nGrade, -5);
+        }));
 }
 
 bool Vehicle(const std::string& data, const std::function<void(const DEV_EVENT_VEHICLERECOGNITION_INFO&)>& look) {
@@ -213,6 +242,45 @@ TEST(VehicleRecognition, KnownVehicles) {
         EXPECT_EQ(event.nCandidateNum, 50);
         EXPECT_EQ(event.stuCandidates[49].dwUID, 49u);
     }));
+    std::string differences = "\"Type\"";
+    for (int i = 1; i < 20; ++i)
+        differences += ",\"Brand\"";
+    EXPECT_TRUE(Vehicle("{\"CarCandidate\":[{\"DifferentAttributres\":[" + differences + "]}]}",
+                        [](const DEV_EVENT_VEHICLERECOGNITION_INFO& event) {
+                            EXPECT_EQ(event.stuCandidates[0].nDifferenceNum, 16);
+                            EXPECT_EQ(event.stuCandidates[0].emDifference[0], EVENT_CAR_DIFFERENCE_TYPE);
+                            EXPECT_EQ(event.stuCandidates[0].emDifference[15], EVENT_CAR_DIFFERENCE_BRAND);
+                            EXPECT_EQ(event.stuCandidates[0].dwUID, 0u);
+                        }));
+}
+
+TEST(VehicleRecognition, NamesInAnyCase) {
+    EXPECT_TRUE(Vehicle(R"({"Vehicle":{"Action":"disAPPEAR","VehicleAttachs":[{"Type":"PERFUMEBOX"},{"Type":"box"}]},
+        "CarCandidate":[{"DifferentAttributres":["platecolor","VEHICLECOLOR"],
+                         "Vehicle":{"Sex":"FEMALE","CertificateType":"military"}}]})",
+                        [](const DEV_EVENT_VEHICLERECOGNITION_INFO& event) {
+                            EXPECT_EQ(event.emAction, EVENT_VEHICLE_DISAPPEAR);
+                            EXPECT_EQ(event.stuVehicleAttach[0].emType, EVENT_VEHICLE_ATTACH_PERFUME_BOX);
+                            EXPECT_EQ(event.stuVehicleAttach[1].emType, 0);
+                            EXPECT_EQ(event.stuCandidates[0].emDifference[0], EVENT_CAR_DIFFERENCE_PLATE_COLOR);
+                            EXPECT_EQ(event.stuCandidates[0].emDifference[1], EVENT_CAR_DIFFERENCE_VEHICLE_COLOR);
+                            EXPECT_EQ(event.stuCandidates[0].emSex, 2);
+                            EXPECT_EQ(event.stuCandidates[0].emCertificateType, 3);
+                        }));
+    EXPECT_TRUE(Vehicle(R"({"Vehicle":{"Action":"Vanish"}})", [](const DEV_EVENT_VEHICLERECOGNITION_INFO& event) {
+        EXPECT_EQ(event.emAction, EVENT_VEHICLE_ACTION_UNKNOWN);
+    }));
+}
+
+TEST(VehicleRecognition, RectanglesHaveFourNumbers) {
+    EXPECT_TRUE(Vehicle(R"({"Vehicle":{"MainFace":[1,2,3],"SlaveFace":[1,2,3,4,5],
+                            "VehicleAttachs":[{"BoundingBox":[1,2,3]}]}})",
+                        [](const DEV_EVENT_VEHICLERECOGNITION_INFO& event) {
+                            EXPECT_EQ(event.stuMainFace.nLeft, 0);
+                            EXPECT_EQ(event.stuSlaveFace.nLeft, 0);
+                            EXPECT_EQ(event.nVehicleAttachNum, 1);
+                            EXPECT_EQ(event.stuVehicleAttach[0].stuBoundingBox.nLeft, 0);
+                        }));
 }
 
 } // namespace

@@ -18,6 +18,7 @@ TEST(VehicleACC, OnOffAndUntold) {
     EXPECT_EQ(states("{}"), std::pair(0, 0));
     EXPECT_EQ(states(R"({"Status":"On","ConstantElectricStatus":"Off"})"), std::pair(1, 2));
     EXPECT_EQ(states(R"({"Status":"Whatever","ConstantElectricStatus":"On"})"), std::pair(2, 1));
+    EXPECT_EQ(states(R"({"Status":"ON","ConstantElectricStatus":"oN"})"), std::pair(1, 1));
     EXPECT_EQ(states(R"({"Status":"","ConstantElectricStatus":null})"), std::pair(2, 0));
 }
 
@@ -33,6 +34,20 @@ TEST(VehicleACC, StatusOfTheTerminal) {
         EXPECT_EQ(status.byAntennasStatus, 0);
         EXPECT_EQ(status.byPositioningResult, 0);
     }));
+}
+
+TEST(VehicleACC, SourcesOfThePosition) {
+    const auto source = [](const char* name) {
+        int found = -1;
+        EXPECT_TRUE(DecodeOne(
+            "VehicleACC", "{\"GPS\":{\"Source\":\"" + std::string(name) + "\"}}",
+            [&](const Delivered& event) { found = event.as<DEV_EVENT_VEHICLEACC_INFO>().stuGPSStatus.emSource; }));
+        return found;
+    };
+    EXPECT_EQ(source("GPS"), 0);
+    EXPECT_EQ(source("InertialNavigation"), 1);
+    EXPECT_EQ(source("inertialNAVIGATION"), 1);
+    EXPECT_EQ(source("Map"), 0);
 }
 
 TEST(HighSpeed, StartIsAText) {
