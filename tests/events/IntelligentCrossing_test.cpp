@@ -140,6 +140,16 @@ TEST(CrossRegion, APointOfOneNumberLeavesAGap) {
         EXPECT_EQ(crossing.stuDetectRegion[1].nX, 0);
         EXPECT_EQ(crossing.stuDetectRegion[2].nX, 5);
     }));
+    // The gap takes one of the twenty places.
+    std::string points = Points(25);
+    points.replace(1, 6, "null");
+    ASSERT_EQ(points.substr(0, 13), "[null,[2,-2],");
+    EXPECT_TRUE(DecodeOne("CrossRegionDetection", "{\"DetectRegion\":" + points + "}", [](const Delivered& event) {
+        const auto& crossing = event.as<DEV_EVENT_CROSSREGIONDETECTION_INFO>();
+        EXPECT_EQ(crossing.nDetectRegionNum, 19);
+        EXPECT_EQ(crossing.stuDetectRegion[0].nX, 0);
+        EXPECT_EQ(crossing.stuDetectRegion[19].nX, 20);
+    }));
 }
 
 TEST(CrossRegion, PathsAndObjectsEndAtTheirRoom) {
@@ -187,6 +197,7 @@ TEST(CrossFence, Direction) {
     };
     EXPECT_EQ(directionOf("LeftToRight"), 0);
     EXPECT_EQ(directionOf("RightToLeft"), 1);
+    EXPECT_EQ(directionOf("righttoleft"), 1);
     EXPECT_EQ(directionOf("Upwards"), 0);
 }
 

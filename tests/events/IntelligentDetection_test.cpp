@@ -24,6 +24,7 @@ TEST(RegionEvents, SpecialRegions) {
     EXPECT_EQ(of("Highlight"), 1);
     EXPECT_EQ(of("RegularBlink"), 2);
     EXPECT_EQ(of("IrregularBlink"), 3);
+    EXPECT_EQ(of("irregularBLINK"), 3);
     EXPECT_EQ(of("Dark"), 0);
 }
 
@@ -56,6 +57,7 @@ TEST(RegionEvents, KindsOfRunning) {
     EXPECT_EQ(Field("RunDetection", R"({"Type":"FastRun"})", &R::emType), 0);
     EXPECT_EQ(Field("RunDetection", R"({"Type":"AbruptSpeedup"})", &R::emType), 1);
     EXPECT_EQ(Field("RunDetection", R"({"Type":"AbruptSlowdown"})", &R::emType), 2);
+    EXPECT_EQ(Field("RunDetection", R"({"Type":"abruptspeedup"})", &R::emType), 1);
     EXPECT_EQ(Field("RunDetection", R"({"Type":"Walk"})", &R::emType), 0);
 }
 

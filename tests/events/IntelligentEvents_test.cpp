@@ -1,5 +1,6 @@
 // Every intelligent event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventTable.h"
+#include "support/EventTexts.h"
 #include "support/EventWalk.h"
 #include "support/FailingAllocator.h"
 #include "support/Notification.h"
@@ -479,6 +480,61 @@ TEST(IntelligentEvents, FieldsStandInTheirOrder) {
         std::vector<std::string> expected{std::istream_iterator<std::string>(names), {}};
         EXPECT_EQ(actual, expected) << layout.code;
     }
+}
+
+#define TEXT(event, record, member, path, room)                                                                        \
+    { event, path, offsetof(DEV_EVENT_##record##_INFO, member), room }
+#define CAR(member, key, room)                                                                                         \
+    TEXT("VehicleRecognition", VEHICLERECOGNITION, stuCandidates[0].member, "CarCandidate[]/Vehicle/" key, room)
+#define PERSON(member, key, room)                                                                                      \
+    TEXT("FaceRecognition", FACERECOGNITION, stuCandidates[0].stuPerson.member, "Candidates[]/Person/" key, room),     \
+        TEXT("FaceRecognition", FACERECOGNITION, stuCandidatesEx[0].stuPerson.member, "Candidates[]/Person/" key,      \
+             room)
+const TextField kTexts[] = {
+    TEXT("LeftDetection", LEFTDETECTION, szPresetName, "PresetName", 64),
+    TEXT("TakenAwayDetection", TAKENAWAYDETECTION, szPresetName, "PresetName", 64),
+    TEXT("WanderDetection", WANDERDETECTION, szPresetName, "PresetName", 64),
+    TEXT("FaceDetection", FACEDETECTION, szAddress, "Address", 260),
+    TEXT("FaceDetection", FACEDETECTION, szUID, "UID", 32),
+    TEXT("FaceDetection", FACEDETECTION, stuFaces[0].szObjectType, "Faces[]/ObjectType", 128),
+    TEXT("FaceRecognition", FACERECOGNITION, szAddress, "Address", 260),
+    TEXT("FaceRecognition", FACERECOGNITION, szUID, "Face/UID", 32),
+    TEXT("FaceRecognition", FACERECOGNITION, stuCandidates[0].szAddress, "Candidates[]/Address", 260),
+    TEXT("FaceRecognition", FACERECOGNITION, stuCandidatesEx[0].szAddress, "Candidates[]/Address", 260),
+    TEXT("FaceRecognition", FACERECOGNITION, stuCandidates[0].stuSceneImage.szFilePath,
+         "Candidates[]/SceneImage/FilePath", 64),
+    TEXT("FaceRecognition", FACERECOGNITION, stuCandidatesEx[0].szFilePath, "Candidates[]/SceneImage/FilePath", 256),
+    PERSON(szID, "ID", 32),
+    PERSON(szProvince, "Province", 64),
+    PERSON(szCity, "City", 64),
+    PERSON(szName, "Name", 64),
+    PERSON(szUID, "UID", 32),
+    PERSON(szCountry, "Country", 3),
+    TEXT("NonMotorFeature", NONMOTORFEATURE, szPlateNumber, "PlateNumber", 32),
+    TEXT("TumbleDetection", TUMBLEDETECTION, szObjectType, "Object/ObjectType", 16),
+    TEXT("HumanTrait", HUMANTRAIT, szEventLongID, "Extension/EventLongID", 52),
+    TEXT("HumanTrait", HUMANTRAIT, szAdditionalCode, "HumanTraitExtension/AdditioalCode", 36),
+    TEXT("VehicleRecognition", VEHICLERECOGNITION, szCountry, "Object/Country", 32),
+    CAR(szGroupID, "GroupID", 64),
+    CAR(szGroupName, "GroupName", 128),
+    CAR(szPlateNumber, "PlateNumber", 64),
+    CAR(szPlateCountry, "PlateCountry", 4),
+    CAR(szName, "Name", 64),
+    CAR(szID, "ID", 32),
+    CAR(szCountry, "Country", 4),
+    CAR(szProvince, "Province", 64),
+    CAR(szCity, "City", 64),
+    CAR(szHomeAddress, "HomeAddress", 128),
+    CAR(szEmail, "Email", 32),
+    CAR(szPhoneNo, "PhoneNo", 128),
+};
+#undef PERSON
+#undef CAR
+#undef TEXT
+
+TEST(IntelligentEvents, TextsAreCutAtTheirFields) {
+    for (const TextField& field : kTexts)
+        ExpectCut(field);
 }
 
 TEST(IntelligentEvents, HeadsOfTheirOwn) {

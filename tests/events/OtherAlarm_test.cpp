@@ -84,6 +84,7 @@ TEST(AnalogAlarm, StatusToTheLimits) {
     };
     for (std::size_t i = 0; i < std::size(statuses); ++i)
         EXPECT_EQ(status("{\"status\":\"" + std::string(statuses[i]) + "\"}"), static_cast<int>(i));
+    EXPECT_EQ(status(R"({"status":"LOWER4"})"), 9);
     EXPECT_EQ(status(R"({"status":"upper5"})"), -1);
     EXPECT_EQ(status(R"({"status":null})"), -1);
     EXPECT_EQ(status(R"({"Status":"normal"})"), -1); // keys keep their case
@@ -107,6 +108,7 @@ TEST(VideoStatic, Modes) {
     };
     EXPECT_EQ(mode(R"({"Mode":"Indoor"})"), 1);
     EXPECT_EQ(mode(R"({"Mode":"Outdoor"})"), 2);
+    EXPECT_EQ(mode(R"({"Mode":"outDOOR"})"), 2);
     EXPECT_EQ(mode(R"({"Mode":"Roof"})"), 0);
     EXPECT_EQ(mode(R"({"Mode":null})"), 0);
 }
@@ -206,6 +208,7 @@ TEST(PassChange, PictureTypes) {
     EXPECT_EQ(type(R"({"PictureType":""})"), 0);
     EXPECT_EQ(type(R"({"PictureType":"Pass"})"), 1);
     EXPECT_EQ(type(R"({"PictureType":"Real"})"), 2);
+    EXPECT_EQ(type(R"({"PictureType":"REAL"})"), 2);
     EXPECT_EQ(type(R"({"PictureType":"Fake"})"), 0);
 }
 

@@ -2,6 +2,7 @@
 // field by field in its order.
 #include "events/EventTable.h"
 #include "events/ReqRealPicture.h"
+#include "support/EventTexts.h"
 #include "support/EventWalk.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
@@ -543,6 +544,59 @@ TEST(OtherEvents, BytesStandWhereClientsKnowThem) {
     static_assert(offsetof(DEV_EVENT_SCENECHANGE_INFO, dPTS) == 8);
     static_assert(sizeof(DEV_EVENT_DRIVINGWITHOUTCARD_INFO) == 56);
     static_assert(sizeof(EVENT_TIME) == 36);
+}
+
+// ---- Room of the texts -------------------------------------------------------------------------------------------
+
+#define TEXT(event, record, member, path, room)                                                                        \
+    { event, path, offsetof(DEV_EVENT_##record##_INFO, member), room }
+#define TAG(member, path, room)                                                                                        \
+    TEXT("TrafficEleTagInfo", TRAFFICELETAGINFO, stuRFIDTag.member, "RFIDEleTagInfo/" path, room)
+const TextField kTexts[] = {
+    TEXT("AccessControl", ACCESSCONTROL, szCardNo, "CardNo", 32),
+    TEXT("AccessControl", ACCESSCONTROL, szPassword, "Password", 64),
+    TEXT("AccessControl", ACCESSCONTROL, szReaderID, "ReaderID", 32),
+    TEXT("AccessControl", ACCESSCONTROL, szUserID, "UserID", 64),
+    TEXT("AccessControl", ACCESSCONTROL, szSnapURL, "SnapURL", 128),
+    TEXT("AccessControl", ACCESSCONTROL, szClassNumber, "ClassNumber", 32),
+    TEXT("AccessControl", ACCESSCONTROL, szPhoneNumber, "PhoneNumber", 16),
+    TEXT("AccessControl", ACCESSCONTROL, szCardName, "CardName", 64),
+    TEXT("CitizenIDCard", CITIZENIDCARD, szCitizen, "Citizen", 64),
+    TEXT("CitizenIDCard", CITIZENIDCARD, szAddress, "Address", 256),
+    TEXT("CitizenIDCard", CITIZENIDCARD, szNumber, "Number", 64),
+    TEXT("CitizenIDCard", CITIZENIDCARD, szAuthority, "Authority", 256),
+    TEXT("CitizenPictureCompare", CITIZENPICTURECOMPARE, szCitizen, "Citizen", 64),
+    TEXT("CitizenPictureCompare", CITIZENPICTURECOMPARE, szAddress, "Address", 256),
+    TEXT("CitizenPictureCompare", CITIZENPICTURECOMPARE, szNumber, "Number", 64),
+    TEXT("CitizenPictureCompare", CITIZENPICTURECOMPARE, szAuthority, "Authority", 256),
+    TEXT("CitizenPictureCompare", CITIZENPICTURECOMPARE, szEventLongID, "Extension/EventLongID", 52),
+    TEXT("PicInfo", PICINFO, szHappenAddress, "HappenAddress", 128),
+    TEXT("PicInfo", PICINFO, szPicID, "PicID", 32),
+    TEXT("PicInfo", PICINFO, szPlate, "Plate", 16),
+    TEXT("NetPlayCheck", NETPLAYCHECK, szIC, "IC", 32),
+    TEXT("NetPlayCheck", NETPLAYCHECK, szNetBarName, "NetBarName", 32),
+    TEXT("NetPlayCheck", NETPLAYCHECK, szNetBarID, "NetBarID", 32),
+    TEXT("NetPlayCheck", NETPLAYCHECK, szAddress, "Address", 64),
+    TEXT("RFIDInfo", RFIDINFO, szRFID, "RFID[]", 12),
+    TEXT("TrafficFcc", TRAFFICFCC, szText, "Text", 128),
+    TEXT("TrafficFcc", TRAFFICFCC, szTime, "Time", 128),
+    TEXT("Transfinite", TRANSFINITE, szText, "Text", 16),
+    TEXT("Transfinite", TRANSFINITE, szTime, "Time", 20),
+    TEXT("Transfinite", TRANSFINITE, szViolationCode, "ViolationCode", 16),
+    TEXT("Transfinite", TRANSFINITE, szDescribe, "Describe", 132),
+    TAG(szCardID, "CardID", 15),
+    TAG(szPlateNumber, "PlateNumber", 31),
+    TAG(szProductionDate, "ProductionDate", 15),
+    TAG(szInspectionValidity, "InspectionValidity", 15),
+    TAG(szPlateCode, "PlateCode", 8),
+    TAG(szPlateSN, "PlateSN", 16),
+};
+#undef TAG
+#undef TEXT
+
+TEST(OtherEvents, TextsAreCutAtTheirFields) {
+    for (const TextField& field : kTexts)
+        ExpectCut(field);
 }
 
 // ---- What a notification tells of all its events -----------------------------------------------------------------
