@@ -118,7 +118,7 @@ typedef struct DEV_EVENT_MANSTANDDETECTION_INFO {
     int32_t nChannelID;
     char szName[128];
     int32_t nEventID;
-    int32_t nEventAction;                          /* EVENT_ACTION_... */
+    int32_t byEventAction;                         /* EVENT_ACTION_... */
     int32_t nManNum;                               /* people in use */
     EVENT_MAN_STAND_INFO stuMan[ORRERY_EVENT_MEN]; /* "ManList" */
     int32_t emClass;                               /* "Class" */
@@ -135,7 +135,7 @@ typedef struct DEV_EVENT_MANNUMDETECTION_INFO {
     int32_t nChannelID;
     char szName[128];
     int32_t nEventID;
-    int32_t nEventAction;                        /* EVENT_ACTION_... */
+    int32_t byEventAction;                       /* EVENT_ACTION_... */
     int32_t nManNum;                             /* people in use */
     EVENT_MAN_NUM_INFO stuMan[ORRERY_EVENT_MEN]; /* "ManList" */
     int32_t emClass;                             /* "Class" */
@@ -146,7 +146,7 @@ typedef struct DEV_EVENT_ROADCONSTRUCTION_INFO {
     int32_t nChannelID;
     char szName[128];
     int32_t nEventID;
-    int32_t nEventAction;    /* EVENT_ACTION_... */
+    int32_t byEventAction;   /* EVENT_ACTION_... */
     int32_t emClass;         /* "Class"; "Traffic" is known */
     CFG_RECT stuBoundingBox; /* "BoundingBox", at least 4 numbers */
 } DEV_EVENT_ROADCONSTRUCTION_INFO;
@@ -174,7 +174,7 @@ typedef struct DEV_EVENT_PEDESTRIANJUNCTION_INFO {
 /* "SmartMotionHuman" (633): a person moves. */
 typedef struct DEV_EVENT_SMARTMOTIONHUMAN_INFO {
     int32_t nChannelID;
-    int32_t nEventAction; /* EVENT_ACTION_... */
+    int32_t byEventAction; /* EVENT_ACTION_... */
     char szName[128];
     double dPTS;
     EVENT_TIME stuUTC;

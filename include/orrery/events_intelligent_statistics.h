@@ -59,8 +59,8 @@ typedef struct DEV_EVENT_CROWDDETECTION_INFO {
     int32_t nEventID;
     double dPTS;
     EVENT_TIME stuUTC;
-    int32_t nEventAction; /* EVENT_ACTION_... */
-    int32_t emAlarmType;  /* low two bits of "AlarmMask" */
+    int32_t byEventAction; /* EVENT_ACTION_... */
+    int32_t emAlarmType;   /* low two bits of "AlarmMask" */
     char szName[128];
     int32_t nCrowdListNum;                                             /* crowds in use */
     EVENT_CROWD_INFO stuCrowdList[ORRERY_EVENT_CROWDS];                /* "CrowdList" */

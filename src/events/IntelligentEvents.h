@@ -61,7 +61,7 @@ std::uint32_t CrossLineCode(const json::Value& data) noexcept;
 #define HEAD_SHORT CHANNEL, RULE_NAME, TIME_STAMP, UTC, EVENT_ID
 // What opens records without a time.
 #define HEAD_UNTIMED CHANNEL, RULE_NAME, EVENT_ID
-#define ACTION_NUMBER ORRERY_FROM_EVENT(nEventAction, nAction)
+#define ACTION_NUMBER ORRERY_FROM_EVENT(byEventAction, nAction)
 #define OBJECTS FIELD(nObjectNum), FIELD(stuObjects, "Objects", Record(::orrery::events::kObject)).Count(AT(nObjectNum))
 // As many objects as the text has, in a block of their own.
 #define ALL_OBJECTS                                                                                                    \

@@ -78,7 +78,6 @@ void Check(const void* record, const char* name) {
     HAS(dwSize, sizeof(R));
     // Closing fields
     HAS(byEventAction, 2);
-    HAS(nEventAction, 2);
     HAS(dwAction, 2u);
     HAS(byRepeat, 7);
     HAS(dwFlagMask, 16u);
@@ -453,33 +452,71 @@ constexpr Layout kLayouts[] = {
           "emEmotion stuUpperBodyColor stuLowerBodyColor stuBoundingBox szImagePath wImageWidth wImageHeight byRepeat "
           "dwFlagMask"},
     {375, "emClass dwUTCMS nObjectID szObjectType stuBoundingBox"},
-    {525, "nEventAction nManNum stuMan emClass"},
-    {526, "nEventAction nManNum stuMan emClass"},
+    {525, "byEventAction nManNum stuMan emClass"},
+    {526, "byEventAction nManNum stuMan emClass"},
     {533, "dwAction emClass nGroupID nCountInGroup nIndexInGroup stuHumanImage stuFaceImage stuFaceSceneImage "
           "stuSceneImage emDetectObject stuHumanAttributes stuFaceAttributes szEventLongID szAdditionalCode"},
-    {538, "nEventAction emClass stuBoundingBox"},
-    {539, "nEventAction emClass stuBoundingBox"},
+    {538, "byEventAction emClass stuBoundingBox"},
+    {539, "byEventAction emClass stuBoundingBox"},
     {547, "emClass nPacketGrade nInsideNum stuInside"},
-    {556, "dPTS stuUTC nEventAction emAlarmType szName nCrowdListNum stuCrowdList nRegionListNum stuRegionList"},
+    {556, "dPTS stuUTC byEventAction emAlarmType szName nCrowdListNum stuCrowdList nRegionListNum stuRegionList"},
     {560, "stuFileInfo stuObject nLane nSequence"},
     {561, "emAction stuObject stuVehicle stuMainSeat stuSlaveSeat stuMainFace stuSlaveFace nVehicleAttachNum "
           "stuVehicleAttach szCountry nCandidateNum stuCandidates stuCommInfo"},
 };
 
+// The fields of a record up to its event's ID, or behind it.
+std::vector<std::string> MembersOf(const events::EventRow& row, bool behindHead) {
+    std::vector<std::string> members;
+    bool isBehind = false;
+    for (const auto& field : *row.table) {
+        if (isBehind == behindHead && !field.alias) members.push_back(field.name);
+        if (std::string_view(field.name) == "nEventID") isBehind = true;
+    }
+    return members;
+}
+
+std::vector<std::string> WordsOf(const char* text) {
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
 TEST(IntelligentEvents, FieldsStandInTheirOrder) {
     for (const Layout& layout : kLayouts) {
         const events::EventRow* const row = events::FindEvent(layout.code);
         ASSERT_NE(row, nullptr) << layout.code;
-        std::vector<std::string> actual;
-        bool behindHead = false;
-        for (const auto& field : *row->table) {
-            if (behindHead && !field.alias) actual.push_back(field.name);
-            if (std::string_view(field.name) == "nEventID") behindHead = true;
-        }
-        std::istringstream names(layout.members);
-        std::vector<std::string> expected{std::istream_iterator<std::string>(names), {}};
-        EXPECT_EQ(actual, expected) << layout.code;
+        EXPECT_EQ(MembersOf(*row, true), WordsOf(layout.members)) << layout.code;
     }
+}
+
+// Heads that are not the usual one. The last two have no ID, so that all of them is a head.
+constexpr Layout kHeads[] = {
+    {337, "dwSize nChannelID szName byReservedHead dPTS stuUTC nEventID"},
+    {372, "nChannelID szName dPTS stuUTC nEventID"},
+    {373, "nChannelID szName dPTS stuUTC nEventID"},
+    {374, "nChannelID szName dPTS stuUTC nEventID"},
+    {375, "nChannelID szName dPTS stuUTC nEventID"},
+    {525, "nChannelID szName nEventID"},
+    {526, "nChannelID szName nEventID"},
+    {533, "nChannelID szName nEventID"},
+    {538, "nChannelID szName nEventID"},
+    {539, "nChannelID szName nEventID"},
+    {556, "nChannelID nEventID"},
+    {560, "nChannelID szName nGroupID nCountInGroup nIndexInGroup dPTS stuUTC dwUTCMS nEventID"},
+    {561, "szName dPTS stuUTC nEventID"},
+    {633, "nChannelID byEventAction szName dPTS stuUTC"},
+    {634, "nChannelID byEventAction szName dPTS stuUTC"},
+};
+
+TEST(IntelligentEvents, HeadsStandInTheirOrder) {
+    for (const IntelligentEvent& event : kIntelligentEvents) {
+        const char* expected = "nChannelID szName byReservedHead dPTS stuUTC nEventID";
+        for (const Layout& head : kHeads) {
+            if (head.code == event.code) expected = head.members;
+        }
+        EXPECT_EQ(MembersOf(*events::FindEvent(event.code), false), WordsOf(expected)) << event.code;
+    }
+    EXPECT_EQ(MembersOf(*events::FindEvent(337), false), WordsOf(kHeads[0].members));
 }
 
 #define TEXT(event, record, member, path, room)                                                                        \
@@ -540,7 +577,7 @@ TEST(IntelligentEvents, TextsAreCutAtTheirFields) {
 TEST(IntelligentEvents, HeadsOfTheirOwn) {
     const auto offsets = [](auto... members) { return std::vector<std::size_t>{members...}; };
     // Without an event's ID, with the action where other records have the name.
-    EXPECT_EQ(offsets(offsetof(DEV_EVENT_SMARTMOTIONHUMAN_INFO, nEventAction),
+    EXPECT_EQ(offsets(offsetof(DEV_EVENT_SMARTMOTIONHUMAN_INFO, byEventAction),
                       offsetof(DEV_EVENT_SMARTMOTIONHUMAN_INFO, szName),
                       offsetof(DEV_EVENT_SMARTMOTIONHUMAN_INFO, dPTS),
                       offsetof(DEV_EVENT_SMARTMOTIONHUMAN_INFO, stuUTC)),
