@@ -78,6 +78,32 @@ TEST(RegionEvents, PresetNamesAreCut) {
                           }));
 }
 
+// A device that names no source by its index has none by its name either.
+TEST(ClosingFields, SourceDeviceStandsBesideItsIndex) {
+    const auto look = [](const std::string& data, int index, const std::string& device) {
+        EXPECT_TRUE(DecodeOne("StayDetection", data, [&](const Delivered& event) {
+            const auto& stay = event.as<DEV_EVENT_STAYDETECTION_INFO>();
+            EXPECT_EQ(stay.nSourceIndex, index) << data;
+            EXPECT_EQ(stay.szSourceDevice, device) << data;
+        }));
+    };
+    look(R"({"SourceDevice":"gate"})", -1, "");
+    look(R"({"SourceDevice":"gate","SourceIndex":null})", -1, "");
+    look(R"({"SourceDevice":"gate","SourceIndex":0})", 0, "gate");
+    look(R"({"SourceIndex":3})", 3, "");
+    look("{\"SourceIndex\":3,\"SourceDevice\":\"" + std::string(300, 'd') + "\"}", 3, std::string(259, 'd'));
+}
+
+TEST(ClosingFields, CountIsAnIntegerOrABool) {
+    using R = DEV_EVENT_STAYDETECTION_INFO;
+    EXPECT_EQ(Field("StayDetection", R"({"Count":6})", &R::dwCount), 6u);
+    EXPECT_EQ(Field("StayDetection", R"({"Count":4000000000})", &R::dwCount), 4000000000u);
+    EXPECT_EQ(Field("StayDetection", R"({"Count":true})", &R::dwCount), 1u);
+    EXPECT_EQ(Field("StayDetection", R"({"Count":6.0})", &R::dwCount), 0u);
+    EXPECT_EQ(Field("StayDetection", R"({"Count":"6"})", &R::dwCount), 0u);
+    EXPECT_EQ(Field("StayDetection", "{}", &R::dwCount), 0u);
+}
+
 TEST(VideoAbnormal, TypesAreExact) {
     using R = DEV_EVENT_VIDEOABNORMALDETECTION_INFO;
     const char* const names[] = {"Loss", "Frozen", "Blind", "SceneChange", "Dark", "Light", "Unbalance", "Noise"};
