@@ -38,6 +38,20 @@ TEST(EventLog, FollowsSpeedsAndTheirCars) {
         testing::IsSupersetOf({"under speed start", "under speed traffic deal", "under speed start parse data"}));
 }
 
+TEST(EventLog, ReadsACarAloud) {
+    EXPECT_THAT(LinesOf("TrafficJam", R"({"TrafficCar":{"Speed":5,"PlateNumber":"A1"}})"),
+                ElementsAre("parseAlarmEvent start dwAlarmType[27]",
+                            R"(ParseStrtoTrafficCar() start input[{ "PlateNumber" : "A1", "Speed" : 5 }])",
+                            "ParseStrtoTrafficCar() szPlateNumber[A1-2-A1]"));
+}
+
+TEST(EventLog, TellsOfEventsThatAreNotDelivered) {
+    LogLines log;
+    EXPECT_TRUE(CodesOf(R"({"Event":[{"Code":"Nothing","Data":{}},{"Code":"TrafficJam"},{"Data":{}}]})").empty());
+    EXPECT_THAT(log.texts(E_LOG_LEVEL_DETAIL),
+                ElementsAre("parseAlarmEvent start dwAlarmType[0]", "parseAlarmEvent start dwAlarmType[0]"));
+}
+
 TEST(EventLog, TellsOfEventsForWhichThereIsNoMemory) {
     const std::pair<const char*, const char*> events[] = {{"TrafficJunction", "traffic continue"},
                                                           {"TrafficOverSpeed", "overspeed continue"},

@@ -239,6 +239,35 @@ TEST(EventPositions, StatusOfATerminal) {
     EXPECT_EQ((ReadBy<EVENT_GPS_STATUS>(events::kGpsStatus, many + "]}"))->nAlarmPointNum, 128);
 }
 
+TEST(EventPositions, SourceInAnyCase) {
+    const auto source = [](const std::string& name) {
+        return ReadBy<EVENT_GPS_STATUS>(events::kGpsStatus, "{\"Source\":\"" + name + "\"}")->emSource;
+    };
+    EXPECT_EQ(source("InertialNavigation"), 1);
+    EXPECT_EQ(source("inertialNAVIGATION"), 1);
+    EXPECT_EQ(source("gps"), 0);
+    EXPECT_EQ(source("Compass"), 0);
+}
+
+TEST(EventPositions, EveryAlarmOfATerminal) {
+    const std::pair<std::int32_t, std::uint32_t> known[] = {
+        {1, 8449},   {2, 8450},   {3, 8451},   {4, 8452},   {5, 8453},   {6, 8454},   {7, 8455},
+        {10, 8458},  {11, 8459},  {12, 8460},  {13, 8463},  {14, 8464},  {15, 8465},  {16, 8466},
+        {17, 8468},  {18, 8470},  {19, 8472},  {20, 8471},  {22, 8482},  {23, 8483},  {25, 8473},
+        {26, 8474},  {27, 8475},  {28, 8476},  {30, 8478},  {32, 8479},  {33, 8480},  {34, 8481},
+        {35, 8484},  {36, 8485},  {156, 8462}, {161, 8467}, {162, 8469}, {164, 8477}, {165, 8486},
+        {166, 8487}, {167, 8488}, {168, 8490}, {169, 8491}, {170, 8489}, {194, 8581}, {202, 8583}};
+    for (std::int32_t number = 0; number < 300; ++number) {
+        std::uint32_t expected = 0xFFFFFFFF;
+        for (const auto& [ours, code] : known) {
+            if (ours == number) expected = code;
+        }
+        const ReadBy<EVENT_GPS_STATUS> gps(events::kGpsStatus, "{\"AlarmPoints\":[" + std::to_string(number) + "]}");
+        EXPECT_EQ(gps->nAlarmPointNum, 1);
+        EXPECT_EQ(gps->dwAlarmPoints[0], expected) << number;
+    }
+}
+
 TEST(EventImages, PlaceInTheData) {
     const char* const text = R"({"Offset":1,"Length":2,"Width":3,"Height":4,"FilePath":"/p","IsDetected":true})";
     const ReadBy<EVENT_IMAGE_INFO> image(events::kImage, text);

@@ -2,9 +2,12 @@
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 #include "support/GuardedBuffer.h"
+#include "support/LogLines.h"
+#include "support/Notification.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <memory>
 #include <thread>
 
 namespace {
@@ -199,6 +202,70 @@ TEST(AnalyzerEvents, AlarmRecordOfAnEvent) {
                           }));
 }
 
+TEST(AnalyzerEvents, SourceDeviceStandsBesideItsIndexOnly) {
+    const auto source = [](const std::string& keys, int index, const char* device) {
+        EXPECT_TRUE(DecodeOne("StayDetection", '{' + keys + '}', [&](const Delivered& event) {
+            const auto& stay = event.as<DEV_EVENT_STAYDETECTION_INFO>();
+            EXPECT_EQ(stay.nSourceIndex, index) << keys;
+            EXPECT_STREQ(stay.szSourceDevice, device) << keys;
+        })) << keys;
+    };
+    source(R"("SourceIndex":4,"SourceDevice":"gate")", 4, "gate");
+    source(R"("SourceDevice":"gate")", -1, "");
+    source(R"("SourceIndex":null,"SourceDevice":"gate")", -1, "");
+    source(R"("SourceIndex":"4","SourceDevice":"gate")", 0, "gate"); // there, but no number
+    source(R"("SourceIndex":4,"SourceDevice":5)", 4, "");
+    source(R"("SourceIndex":4)", 4, "");
+    source("\"SourceIndex\":4,\"SourceDevice\":\"" + std::string(270, 'd') + '"', 4, std::string(259, 'd').c_str());
+    // The next event of a text has none of the one before.
+    std::vector<std::string> devices;
+    Decode(R"({"Event":[{"Code":"StayDetection","Data":{"Name":"A","Count":7,"SourceIndex":1,"SourceDevice":"gate"}},
+                        {"Code":"StayDetection","Data":{}}]})",
+           [&](const Delivered& event) {
+               const auto& stay = event.as<DEV_EVENT_STAYDETECTION_INFO>();
+               devices.push_back(stay.szName + std::string("/") + stay.szSourceDevice + "/"
+                                 + std::to_string(stay.nSourceIndex) + "/" + std::to_string(stay.dwCount));
+           });
+    EXPECT_EQ(devices, (std::vector<std::string>{"A/gate/1/7", "//-1/0"}));
+}
+
+TEST(AnalyzerEvents, CountIsAnIntegerOrABool) {
+    const std::pair<const char*, std::uint32_t> counts[] = {
+        {"6", 6},   {"4000000000", 4000000000u}, {"true", 1}, {"false", 0}, {"6.5", 0}, {"\"6\"", 0}, {"[6]", 0},
+        {"null", 0}};
+    for (const auto& [text, count] : counts) {
+        const std::uint32_t expected = count;
+        EXPECT_TRUE(DecodeOne("StayDetection", "{\"Count\":" + std::string(text) + '}', [&](const Delivered& event) {
+            EXPECT_EQ(event.as<DEV_EVENT_STAYDETECTION_INFO>().dwCount, expected);
+        })) << text;
+    }
+}
+
+TEST(AnalyzerEvents, MillisecondsDoNotNeedTheSeconds) {
+    EXPECT_TRUE(DecodeOne("TrafficStay", R"({"UTCMS":250})", [](const Delivered& event) {
+        const auto& stay = event.as<DEV_EVENT_TRAFFICSTAY_INFO>();
+        EXPECT_EQ(stay.stuUTC.dwYear, 0u);
+        EXPECT_EQ(stay.stuUTC.dwMillisecond, 250u);
+    }));
+    // The largest number of seconds: 2106-02-07 06:28:15.
+    EXPECT_TRUE(DecodeOne("TrafficStay", R"({"UTC":4294967295,"UTCMS":1})", [](const Delivered& event) {
+        const auto& utc = event.as<DEV_EVENT_TRAFFICSTAY_INFO>().stuUTC;
+        EXPECT_EQ(utc.dwYear, 2106u);
+        EXPECT_EQ(utc.dwMonth, 2u);
+        EXPECT_EQ(utc.dwDay, 7u);
+        EXPECT_EQ(utc.dwHour, 6u);
+        EXPECT_EQ(utc.dwMinute, 28u);
+        EXPECT_EQ(utc.dwSecond, 15u);
+        EXPECT_EQ(utc.dwMillisecond, 1u);
+    }));
+}
+
+TEST(AnalyzerEvents, DataThatIsNoObjectHasNoKeys) {
+    EXPECT_EQ(CodesOf(R"({"Event":[{"Code":"TrafficStay","Data":7},{"Code":"TrafficStay","Data":[]},
+                                   {"Code":"StayDetection","Data":"x"}]})"),
+              (std::vector<std::uint32_t>{282, 282, 6}));
+}
+
 // ---- The message form --------------------------------------------------------------------------------------------
 
 constexpr const char* kNotification = R"({"params":{"info":{"Transfer":"offline","Channel":3,"CountInGroup":4,
@@ -278,6 +345,107 @@ TEST(ReqRealPicture, WhatANotificationLeavesOut) {
         EXPECT_EQ(event.as<DEV_EVENT_TRAFFICSTAY_INFO>().dwFlagMask, 0u);
     };
     empty.deliver(VisitEvent, const_cast<EventVisitor*>(&noFlag));
+}
+
+std::uint32_t FlagsOf(const std::string& flags) {
+    std::uint32_t mask = 0xDEAD;
+    const EventVisitor visit = [&](const Delivered& event) {
+        mask = event.as<DEV_EVENT_TRAFFICSTAY_INFO>().dwFlagMask;
+    };
+    EXPECT_EQ(DecodeNotification("\"Flags\":" + flags, R"({"Code":"TrafficStay","Data":{}})", visit), 1);
+    return mask;
+}
+
+TEST(ReqRealPicture, FlagsAreAdded) {
+    const char* const names[] = {"*", "timing", "MANUAL", "Marked", "Event", "Mosaic", "Cutout"};
+    for (std::uint32_t bit = 0; bit < 7; ++bit)
+        EXPECT_EQ(FlagsOf("[\"" + std::string(names[bit]) + "\"]"), 1u << bit) << names[bit];
+    EXPECT_EQ(FlagsOf(R"(["Cutout","*",null,7,"Timing"])"), 64u + 1u + 2u);
+    EXPECT_EQ(FlagsOf(R"(["*","*","*"])"), 3u);
+    EXPECT_EQ(FlagsOf(R"(["Every"])"), 0u);
+    EXPECT_EQ(FlagsOf(R"("Timing")"), 0u); // there, but no list
+    EXPECT_EQ(FlagsOf("null"), 1u);
+    // Of 33 texts 32 are looked at.
+    std::string many = "[";
+    for (int i = 0; i < 31; ++i)
+        many += "\"Nothing\",";
+    EXPECT_EQ(FlagsOf(many + R"("Timing","Manual"])"), 2u);
+}
+
+TEST(ReqRealPicture, TransferModesAndTagsInAnyCase) {
+    const auto read = [](const std::string& info) {
+        auto picture = std::make_unique<CReqRealPicture>();
+        picture->dwPacketSubType = CReqRealPicture::kPacketSubType;
+        EXPECT_EQ(picture->deserialize(("{\"params\":{\"info\":{" + info + "}}}").c_str(), 0), 1);
+        return picture;
+    };
+    EXPECT_EQ(read(R"("Transfer":"REALTIME")")->nTransferMode, 0u);
+    EXPECT_EQ(read(R"("Transfer":"Offline")")->nTransferMode, 1u);
+    EXPECT_EQ(read(R"("Transfer":"offlineover")")->nTransferMode, 2u);
+    EXPECT_EQ(read(R"("Transfer":1)")->nTransferMode, 0xFFFFFFFFu);
+    EXPECT_EQ(read(R"("PicID":[1,2,3])")->dwPicID[0], 0u);
+    EXPECT_EQ(read(R"("PicID":[1,2])")->dwPicID[1], 2u);
+    EXPECT_EQ(read(R"("Ack":false)")->bAck, 0u);
+    const std::pair<const char*, int> tags[] = {{"atmbeforepaste", EVENT_FILE_TAG_ATM_BEFORE_PASTE},
+                                                {"ATMAfterPaste", EVENT_FILE_TAG_ATM_AFTER_PASTE},
+                                                {"x", 0}};
+    for (const auto& [name, tag] : tags) {
+        const int expected = tag;
+        const EventVisitor visit = [&](const Delivered& event) {
+            EXPECT_EQ(event.as<DEV_EVENT_TRAFFICSTAY_INFO>().stuFileInfo.byFileTag, expected);
+        };
+        EXPECT_EQ(
+            DecodeNotification("\"Tag\":\"" + std::string(name) + '"', R"({"Code":"TrafficStay","Data":{}})", visit),
+            1);
+    }
+}
+
+TEST(ReqRealPicture, PathsEndWithTheirRoom) {
+    const std::string all = "\"FilePath\":\"" + std::string(300, 'p') + "\",\"FTPPath\":\"" + std::string(255, 'f')
+                            + "\",\"VideoPath\":\"\",\"RecordFile\":\"" + std::string(200, 'r') + '"';
+    const EventVisitor visit = [](const Delivered& event) {
+        const auto& junction = event.as<DEV_EVENT_TRAFFICJUNCTION_INFO>();
+        EXPECT_EQ(junction.stuCommInfo.pszFilePath, std::string(255, 'p'));
+        EXPECT_EQ(junction.stuCommInfo.pszFTPPath, std::string(255, 'f'));
+        EXPECT_EQ(junction.stuCommInfo.pszVideoPath, nullptr);
+        EXPECT_EQ(junction.szRecordFile, std::string(127, 'r'));
+    };
+    EXPECT_EQ(DecodeNotification(all, R"({"Code":"TrafficJunction","Data":{}})", visit), 1);
+}
+
+// Paths for which there is no memory are missing; the event is not.
+TEST(ReqRealPicture, PathsWithoutMemoryAreMissing) {
+    const std::string paths = "\"FilePath\":\"" + std::string(255, 'p') + "\",\"FTPPath\":\"" + std::string(255, 'f')
+                              + "\",\"VideoPath\":\"" + std::string(255, 'v') + '"';
+    const char* const lines[] = {"New szFilePath Failed", "New szFTPPath Failed", "New szVideoPath Failed"};
+    std::ptrdiff_t first[3] = {}; // how often each was the first to be missing
+    // The driver's path takes more and more of the memory at hand, so that it ends at each of the three in turn.
+    for (std::size_t size = 0; size < 32768; size += 96) {
+        const std::string text = "{\"params\":{\"info\":{" + paths
+                                 + R"(,"Events":[{"Code":"TrafficJam","Data":{"CommInfo":{"Drivers":[{"Image":)"
+                                   R"({"FilePath":")"
+                                 + std::string(size, 'd') + "\"}}]}}}]}}}";
+        auto picture = std::make_unique<CReqRealPicture>();
+        picture->dwPacketSubType = CReqRealPicture::kPacketSubType;
+        LogLines log;
+        HeapWatch watch;
+        watch.FailFrom(1);
+        ASSERT_EQ(picture->deserialize(text.c_str(), 0), 1);
+        watch.FailNone();
+        const EventVisitor visit = [&](const Delivered& event) {
+            const auto& comm = event.as<DEV_EVENT_TRAFFICJAM_INFO>().stuCommInfo;
+            const char* const found[] = {comm.pszFilePath, comm.pszFTPPath, comm.pszVideoPath};
+            bool isFirst = true;
+            for (int i = 0; i < 3; ++i) {
+                EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, lines[i]), found[i] == nullptr) << size;
+                first[i] += isFirst && found[i] == nullptr;
+                isFirst = isFirst && found[i] != nullptr;
+            }
+        };
+        picture->deliver(VisitEvent, const_cast<EventVisitor*>(&visit));
+    }
+    for (int i = 0; i < 3; ++i)
+        EXPECT_GT(first[i], 0) << lines[i];
 }
 
 TEST(ReqRealPicture, ReplyHasAResultAndNoEvents) {

@@ -1,4 +1,5 @@
-// Locales of other encodings than the test program's own.
+// Locales for tests of texts that are not UTF-8: compiled by the test itself, since no machine can be counted on to
+// have them.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -47,13 +48,14 @@ class ProcessLocale {
     bool isThere_;
 };
 
-// A folder of locales that a test compiles itself, since no machine can be counted on to have them.
+// A folder of locales that the test compiles.
 class CompiledLocales : public testing::Test {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(std::filesystem::exists("/usr/share/i18n/charmaps"))
+        namespace fs = std::filesystem;
+        ASSERT_TRUE(fs::exists("/usr/share/i18n/charmaps"))
             << "the sources of the system's locales are missing: install the package `locales`";
-        std::string folder = (std::filesystem::temp_directory_path() / "orrery-locales-XXXXXX").string();
+        std::string folder = (fs::temp_directory_path() / "orrery-locales-XXXXXX").string();
         ASSERT_NE(mkdtemp(folder.data()), nullptr);
         folder_ = folder;
         ASSERT_EQ(setenv("LOCPATH", folder_.c_str(), 1), 0);
