@@ -175,6 +175,24 @@ TEST_F(EventLocale, CarGivesItsObjectTheConvertedPlateAndTheRawType) {
     }));
 }
 
+TEST_F(EventLocale, TextsOfWhatTravelsAlong) {
+    const std::string data =
+        "{\"CommInfo\":{" + Key("Country", Characters(3)) + ",\"RFIDEleTagInfo\":{" + Key("CardID", "c" + Characters(2))
+        + ',' + Key("PlateSN", Characters(4)) + "}," + "\"Drivers\":[{" + Key("SubText", Characters(7)) + ",\"Image\":{"
+        + Key("FilePath", Characters(9)) + "}}]},\"Extension\":{" + Key("EventLongID", Characters(5)) + "}}";
+    EXPECT_TRUE(DecodeOne("TrafficJam", data, [](const Delivered& event) {
+        const auto& jam = event.as<DEV_EVENT_TRAFFICJAM_INFO>();
+        EXPECT_TRUE(Holds(jam.stuCommInfo.szCountry, Times(3, kGbk)));
+        EXPECT_TRUE(Holds(jam.stuCommInfo.stuRFIDTag.szCardID, "c" + Times(2, kGbk)));
+        EXPECT_TRUE(Holds(jam.stuCommInfo.stuRFIDTag.szPlateSN, Times(4, kGbk)));
+        EXPECT_TRUE(Holds(jam.szEventLongID, Times(5, kGbk)));
+        ASSERT_EQ(jam.stuCommInfo.nDriversNum, 1);
+        // 20 bytes: six characters and two bytes of the seventh
+        EXPECT_TRUE(Holds(jam.stuCommInfo.pDrivers[0].szSubText, Times(6, kGbk) + "?"));
+        EXPECT_EQ(jam.stuCommInfo.pDrivers[0].pszFilePath, Times(9, kGbk));
+    }));
+}
+
 TEST_F(EventLocale, PathsOfANotification) {
     const std::string info = Key("FilePath", Characters(140)) + ',' + Key("FTPPath", "f" + Characters(140)) + ','
                              + Key("VideoPath", Characters(2)) + ',' + Key("RecordFile", Characters(70));
