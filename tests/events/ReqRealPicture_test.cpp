@@ -448,6 +448,19 @@ TEST(ReqRealPicture, PathsWithoutMemoryAreMissing) {
         EXPECT_GT(first[i], 0) << lines[i];
 }
 
+TEST(ReqRealPicture, NotificationWithoutEvents) {
+    for (const char* const text : {"{}", "[]", R"({"params":null})", R"({"params":{"info":[1]}})",
+                                   R"({"params":{"info":{"Events":{"Code":"TrafficStay","Data":{}}}}})",
+                                   R"({"Event":[{"Code":"TrafficStay","Data":{}}]})"}) {
+        CReqRealPicture picture;
+        picture.dwPacketSubType = CReqRealPicture::kPacketSubType;
+        EXPECT_EQ(picture.deserialize(text, 0), 1) << text;
+        EXPECT_EQ(picture.bNotification, 1u) << text;
+        EXPECT_EQ(picture.lstEvents.count(), 0u) << text;
+        EXPECT_EQ(picture.nChannel, -1) << text;
+    }
+}
+
 TEST(ReqRealPicture, ReplyHasAResultAndNoEvents) {
     CReqRealPicture picture;
     picture.dwPacketSubType = CReqRealPicture::kPacketSubType;

@@ -580,6 +580,22 @@ TEST(EventNames, CaseCountsInBeltsToldAsTextAndInJams) {
                           }));
 }
 
+TEST(EventNames, StatesOfBeltsLampsAndJams) {
+    EXPECT_EQ(events::kStrobeStates.CodeOf("CLOSE"), 1);
+    EXPECT_EQ(events::kStrobeStates.CodeOf("auto"), 2);
+    EXPECT_EQ(events::kStrobeStates.CodeOf("Manual"), 3);
+    EXPECT_EQ(events::kStrobeStates.CodeOf("Open"), 0);
+    EXPECT_EQ(events::kSafeBelts.CodeOf("withsafebelt"), 1);
+    EXPECT_EQ(events::kSafeBelts.CodeOf("WITHOUTSAFEBELT"), 2);
+    EXPECT_EQ(events::kSafeBelts.CodeOf("Unknow"), 0);
+    EXPECT_EQ(events::kExactSafeBelts.CodeOf("WithSafeBelt"), 1);
+    EXPECT_EQ(events::kExactSafeBelts.CodeOf("WithoutSafeBelt"), 2);
+    EXPECT_EQ(events::kExactSafeBelts.CodeOf("withsafebelt"), 0);
+    EXPECT_EQ(events::kJamStates.CodeOf("Clear"), 1);
+    EXPECT_EQ(events::kJamStates.CodeOf("Jammed"), 2);
+    EXPECT_EQ(events::kJamStates.CodeOf("jammed"), 0);
+}
+
 TEST(SplitTime, NumbersFromTheRightEnd) {
     const auto read = [](std::string_view text) {
         std::uint32_t f[6];
