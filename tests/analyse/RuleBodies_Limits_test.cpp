@@ -230,6 +230,21 @@ TEST(RuleBodiesLimits, RecordsOfAnyBytesAreWritten) {
     }
 }
 
+// Items behind the first stand where those before them end: no member may count on its alignment.
+TEST(RuleBodiesLimits, EveryRecordMayStandAtAnOddAddress) {
+    for (const test::RuleSample& sample : test::RuleSamples()) {
+        const test::RuleType& type = sample.types[0];
+        const RuleBody& body = *FindRuleBody(type.code);
+        if (!body.isRead || type.code == 535) continue;
+        RuleBuffer buffer(kHead + body.size + 1);
+        buffer.rules.pRuleBuf += 1;
+        buffer.rules.nRuleLen -= 1;
+        ASSERT_TRUE(buffer.Parse(RuleReply(test::RuleText(sample, type, false)))) << type.name;
+        EXPECT_EQ(buffer.Head(1).dwRuleType, type.code);
+        EXPECT_EQ(buffer.Pack(), test::Normalised("[" + test::RuleText(sample, type, true) + "]")) << type.name;
+    }
+}
+
 // A buffer of every size around an item's end, that end at an unreadable page.
 TEST(RuleBodiesLimits, ItemsFitToTheByte) {
     for (const RuleBody& body : RuleBodies()) {

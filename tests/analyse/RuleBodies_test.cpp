@@ -539,6 +539,9 @@ TEST(RuleBodies, SpeedsStandInTheOrderOfTheirRecord) {
               offsetof(CFG_RULE_TRAFFICGATE_INFO, nSpeedUpperLimit));
     const auto speed = Read<CFG_RULE_TRAFFICSPEED_INFO>("TrafficOverSpeed", R"("SpeedLimit":[4000000000,-1])");
     EXPECT_EQ(speed->nSpeedLowerLimit, 4000000000u);
+    EXPECT_EQ(speed->nSpeedUpperLimit, 0u); // no speed is negative
+    EXPECT_LT(offsetof(CFG_RULE_TRAFFICSPEED_INFO, nSpeedUpperLimit),
+              offsetof(CFG_RULE_TRAFFICSPEED_INFO, nSpeedLowerLimit));
     for (const char* short_ : {"[40]", "40", "\"40\"", "null", "{}"}) {
         const auto none = Read<CFG_RULE_TRAFFICGATE_INFO>("TrafficGate", "\"SpeedLimit\":" + std::string(short_));
         EXPECT_EQ(none->nSpeedLowerLimit, 0) << short_;

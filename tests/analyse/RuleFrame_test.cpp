@@ -189,6 +189,37 @@ TEST(RuleFrame, KeepsRulesOfNoClass) {
     }
 }
 
+TEST(RuleFrame, LooksAtClassesRuleByRuleBeforeAnythingIsPlaced) {
+    constexpr const char* kMissing = "VideoAnalyseConfig/2: This class type is not exist!\n";
+    // Rules before the one that fails the reply are told of, those behind it are not, nor is a rule of no type.
+    Lines lines;
+    RuleBuffer unknown(4 * (kHead + kFire));
+    EXPECT_FALSE(unknown.Parse(RuleReply(
+        R"({"Type":"FireDetection"},{"Class":"none"},{"Type":"NoSuchRule","Class":"none"},{"Type":"FireDetection"})")));
+    EXPECT_EQ(lines.all, kMissing);
+    EXPECT_TRUE(unknown.IsUntouched());
+    lines.all.clear();
+    RuleBuffer small(kHead + kFire - 1);
+    EXPECT_FALSE(small.Parse(RuleReply(R"({"Type":"FireDetection"})")));
+    EXPECT_EQ(lines.all, kMissing);
+    EXPECT_TRUE(small.IsUntouched());
+}
+
+TEST(RuleFrame, CountsTheRulesBeforeItLooksAtThem) {
+    for (const char* text : {R"([{"Type":"FireDetection"},{"Type":"NoSuchRule"}])",    // no record
+                             R"([{"Type":"FireDetection"},{"Type":"FireDetection"}])", // no room
+                             R"([{},{}])"}) {                                          // no type
+        Document document(text);
+        StackArena<4096> arena;
+        LocalText local(arena);
+        JsonParser parser(local);
+        record::ReadCall call{parser, document.root};
+        RuleBuffer buffer(2 * kHead + kFire);
+        EXPECT_NE(ReadRuleArray(document.root, buffer.rules, call), Outcome::Done) << text;
+        EXPECT_EQ(buffer.rules.nRuleCount, 2) << text;
+    }
+}
+
 TEST(RuleFrame, LeavesABufferThatIsTooSmallAlone) {
     const std::string text = RuleReply(R"({"Type":"FireDetection","Class":"Normal"})");
     for (const std::size_t size : {std::size_t{0}, std::size_t{1}, kHead - 1, kHead, kHead + 1, kHead + kFire - 1}) {
@@ -360,7 +391,9 @@ TEST(RuleFrame, RefusesToWriteCodesWithoutARecord) {
     for (const std::uint32_t code : {0u, 1u, 273u, 511u, 562u, 633u, 999u, 0xFFFFFFFFu}) {
         RuleBuffer buffer(kHead + kFire);
         buffer.Add(code, fire);
+        Lines lines;
         EXPECT_EQ(buffer.Pack(), "(refused)") << code;
+        EXPECT_EQ(lines.all, "");
     }
 }
 
