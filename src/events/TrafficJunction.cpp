@@ -64,7 +64,7 @@ void CutAxles(const Value&, std::byte* record, ReadCall&) {
         event.dwAxleLengthInfo[i] = 0;
 }
 
-void FinishGate(const Value& data, std::byte* record, ReadCall&) {
+void FinishGate(const Value& data, std::byte* record, ReadCall& call) {
     auto& event = *reinterpret_cast<DEV_EVENT_TRAFFICGATE_INFO*>(record);
     EVENT_FILE_INFO& file = event.stuFileInfo;
     if (const Value& times = data["SnapTimes"]; !times.isNull())
@@ -76,6 +76,7 @@ void FinishGate(const Value& data, std::byte* record, ReadCall&) {
         std::memcpy(event.stuTrafficCar.szVehicleSize, event.stuVehicle.szObjectSubType,
                     sizeof event.stuTrafficCar.szVehicleSize - 1);
     }
+    CarRule<DEV_EVENT_TRAFFICGATE_INFO>(data, record, call);
 }
 
 PART(kGateCar, EVENT_GATE_CAR_INFO, FIELD(szRoadwayNo, "RoadwayNo", Text),

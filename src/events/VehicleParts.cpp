@@ -129,10 +129,6 @@ void ReadCommInfoAndPaths(const Field& field, const Value& value, std::byte* rec
     FillPath(source.szVideoPath, sizeof source.szVideoPath, "New szVideoPath Failed", info.pszVideoPath, arena);
 }
 
-std::string_view TextOf(const char* field, std::size_t capacity) noexcept {
-    return {field, strnlen(field, capacity)};
-}
-
 } // namespace
 
 constexpr NameTable kPlateColors = FoldedNames(kPlateColorRows).LastWins().UnknownLeaves();
@@ -168,7 +164,7 @@ void LogTrafficCar(const Value& value, std::byte* record, ReadCall& call) {
     ORRERY_EVENT_DETAIL("ParseStrtoTrafficCar() start input[%s]", text != nullptr ? text : "");
     const auto& car = *reinterpret_cast<const EVENT_TRAFFIC_CAR_INFO*>(record);
     const std::string_view sent = value["PlateNumber"].asString();
-    const std::string_view plate = TextOf(car.szPlateNumber, sizeof car.szPlateNumber);
+    const std::string_view plate = TextOf(car.szPlateNumber);
     // What was sent, its length, and what became of it.
     const char* const sentText = OwnText(sent, arena);
     const char* const plateText = OwnText(plate, arena);
@@ -211,26 +207,23 @@ void GroupOfCar(const Value& car, EVENT_FILE_INFO& fileInfo) noexcept {
         fileInfo.byIndex = static_cast<std::uint8_t>(index.asInt());
 }
 
-void CarOverObjects(const Value& car, const EVENT_TRAFFIC_CAR_INFO& info, EVENT_OBJECT_INFO& object,
-                    EVENT_OBJECT_INFO& vehicle, EVENT_FILE_INFO& fileInfo) noexcept {
+void CarOverObjects(const Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& object, EVENT_OBJECT_INFO& vehicle,
+                    EVENT_FILE_INFO& fileInfo) noexcept {
     if (car.isNull()) return;
     if (!car["PlateNumber"].isNull()) {
-        static_assert(sizeof object.szText > sizeof info.szPlateNumber);
+        constexpr std::size_t kMost = sizeof object.szText - 1;
+        const std::string_view plate = texts.plateNumber.substr(0, kMost);
         std::memset(object.szText, 0, sizeof object.szText);
-        std::memcpy(object.szText, info.szPlateNumber, sizeof info.szPlateNumber);
+        std::memcpy(object.szText, plate.data(), plate.size());
     }
-    if (!car["PlateColor"].isNull()) {
-        SetObjectColor(object.rgbaMainColor, TextOf(info.szPlateColor, sizeof info.szPlateColor), object.bColor);
-    }
+    if (!car["PlateColor"].isNull()) SetObjectColor(object.rgbaMainColor, texts.plateColor, object.bColor);
     if (const Value& type = car["PlateType"]; !type.isNull()) {
         constexpr std::size_t kMost = 61;
         const std::string_view text = type.asString().substr(0, kMost);
         std::memset(object.szObjectSubType, 0, sizeof object.szObjectSubType);
         if (!text.empty()) std::memcpy(object.szObjectSubType, text.data(), text.size());
     }
-    if (!car["VehicleColor"].isNull()) {
-        SetObjectColor(vehicle.rgbaMainColor, TextOf(info.szVehicleColor, sizeof info.szVehicleColor), vehicle.bColor);
-    }
+    if (!car["VehicleColor"].isNull()) SetObjectColor(vehicle.rgbaMainColor, texts.vehicleColor, vehicle.bColor);
     GroupOfCar(car, fileInfo);
 }
 

@@ -152,8 +152,19 @@ PART(kSceneImage, EVENT_SCENE_IMAGE, FIELD(bSceneImage), FIELD(dwOffset, "Offset
 // Stores a colour's name as bytes and says so in `isSet`; an unknown or empty name changes nothing.
 bool SetObjectColor(std::uint32_t& color, std::string_view name, std::uint8_t& isSet) noexcept;
 
+// A text up to its terminator, or to the field's end when it has none.
+template <std::size_t N>
+std::string_view TextOf(const char (&field)[N]) noexcept {
+    return {field, strnlen(field, N)};
+}
+
 // A car says more than the objects around it: its plate, colours and group take their places.
-void CarOverObjects(const json::Value& car, const EVENT_TRAFFIC_CAR_INFO& info, EVENT_OBJECT_INFO& object,
+struct CarTexts {
+    std::string_view plateNumber;
+    std::string_view plateColor;
+    std::string_view vehicleColor;
+};
+void CarOverObjects(const json::Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& object,
                     EVENT_OBJECT_INFO& vehicle, EVENT_FILE_INFO& fileInfo) noexcept;
 void GroupOfCar(const json::Value& car, EVENT_FILE_INFO& fileInfo) noexcept;
 
@@ -161,7 +172,10 @@ void GroupOfCar(const json::Value& car, EVENT_FILE_INFO& fileInfo) noexcept;
 template <class R>
 void CarRule(const json::Value& data, std::byte* record, ReadCall&) {
     auto& event = *reinterpret_cast<R*>(record); // event records are made by the decoder, aligned
-    CarOverObjects(data["TrafficCar"], event.stuTrafficCar, event.stuObject, event.stuVehicle, event.stuFileInfo);
+    const auto& car = event.stuTrafficCar;
+    CarOverObjects(data["TrafficCar"],
+                   {TextOf(car.szPlateNumber), TextOf(car.szPlateColor), TextOf(car.szVehicleColor)}, event.stuObject,
+                   event.stuVehicle, event.stuFileInfo);
 }
 
 // "2026-11-20 09:30:00", each number from the right end on.

@@ -85,7 +85,7 @@ class JsonParser {
     static void SetColor(json::TextWriter& out, const CFG_COLOR* color) noexcept;
     // An element that is null or has fewer than two numbers leaves a hole and is not counted.
     static void GetPointList(const json::Value& value, int count, CFG_POLYGON* points, int* countOut) noexcept;
-    // An array of pairs; a count of 0 writes nothing and answers false, so that the caller leaves the key out.
+    // An array of pairs; a count of 0 writes nothing, so that the caller leaves the key out.
     static bool SetPointList(json::TextWriter& out, const CFG_POLYGON* points, int count) noexcept;
 
     // ---- Split modes -----------------------------------------------------------------------------------------------

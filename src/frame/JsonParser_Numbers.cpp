@@ -90,7 +90,8 @@ void JsonParser::GetPointList(const json::Value& value, int count, CFG_POLYGON* 
 }
 
 bool JsonParser::SetPointList(json::TextWriter& out, const CFG_POLYGON* points, int count) noexcept {
-    if (points == nullptr || count < 1) return false;
+    if (points == nullptr || count < 0) return false;
+    if (count == 0) return true;
     out.BeginArray();
     for (int i = 0; i < count; ++i)
         WriteInts<2>(out, points + i);

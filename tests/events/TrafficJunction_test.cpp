@@ -181,6 +181,35 @@ TEST(TrafficGate, SizeFollowsTheVehicleOnlyInACar) {
     }));
 }
 
+// The plate and the colours of the car stand over the objects', and its group over the event's own.
+TEST(TrafficGate, TheCarSaysMoreThanTheObjects) {
+    const std::string plate(130, 'p');
+    EXPECT_TRUE(DecodeOne(
+        "TrafficGate",
+        R"({"IndexInGroup":1,"SnapTimes":2,"Object":{"Text":"OLD","Category":"Old","MainColor":[1,2,3,4]},
+            "Vehicle":{"MainColor":[5,6,7,8]},
+            "TrafficCar":{"PlateNumber":")"
+            + plate + R"(","PlateColor":"Yellow","PlateType":"Army","VehicleColor":"Red","GroupID":70,"CountInGroup":3,
+                          "IndexInGroup":4}})",
+        [&](const Delivered& event) {
+            const auto& gate = event.as<DEV_EVENT_TRAFFICGATE_INFO>();
+            EXPECT_STREQ(gate.stuObject.szText, plate.substr(0, 127).c_str());
+            EXPECT_STREQ(gate.stuObject.szObjectSubType, "Army");
+            EXPECT_EQ(gate.stuObject.rgbaMainColor, 0xFFFF0000u);
+            EXPECT_EQ(gate.stuVehicle.rgbaMainColor, 0xFF000000u);
+            EXPECT_EQ(gate.stuFileInfo.nGroupID, 70u);
+            EXPECT_EQ(gate.stuFileInfo.byCount, 3);
+            EXPECT_EQ(gate.stuFileInfo.byIndex, 4);
+        }));
+    EXPECT_TRUE(DecodeOne("TrafficGate", R"({"IndexInGroup":1,"SnapTimes":2,"Object":{"Text":"OLD"},"TrafficCar":{}})",
+                          [](const Delivered& event) {
+                              const auto& gate = event.as<DEV_EVENT_TRAFFICGATE_INFO>();
+                              EXPECT_STREQ(gate.stuObject.szText, "OLD");
+                              EXPECT_EQ(gate.stuFileInfo.byCount, 2);
+                              EXPECT_EQ(gate.stuFileInfo.byIndex, 1);
+                          }));
+}
+
 // A gate's bits one by one.
 TEST(TrafficGate, EachBreakingHasItsBit) {
     const std::pair<const char*, std::uint32_t> rows[] = {{"Retrograde", 1},
