@@ -224,7 +224,7 @@ TABLE(kShootingScore, CFG_RULE_SHOOTINGSCORE_INFO, RULE_HEAD, RULE_OBJECTS, CONF
       CONFIG(nSensitivity, "Sensitivity", Int).Only(OnlyType::Integer),
       CONFIG(nCaliber, "Caliber", Int).Only(OnlyType::Integer), RULE_TAIL);
 
-TABLE(kLeTrack, CFG_RULE_LETRACK_INFO, RULE_HEAD, RULE_OBJECTS, RULE_TAIL);
+TABLE(kLeTrack, CFG_RULE_LETRACK_INFO, RULE_HEAD, kNoConfigRow, RULE_OBJECTS, RULE_TAIL);
 
 TABLE(kManStand, CFG_RULE_MANSTAND_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS, CONFIG_LINE, CONFIG_REGION,
       CONFIG(nThreshold, "Threshold", Int), CONFIG(nDetectType, "DetectType", Int),

@@ -64,11 +64,17 @@ void WriteSpeeds(const Field& field, const std::byte* record, WriteCall& call) {
     call.out.EndArray();
 }
 
+void WriteNull(const Field&, const std::byte*, WriteCall& call) {
+    call.Key();
+    call.out.Null();
+}
+
 } // namespace
 
 constexpr CustomCodec kClassCodec{nullptr, WriteClass};
 constexpr CustomCodec kIdCodec{nullptr, WriteId};
 constexpr CustomCodec kTypeCodec{nullptr, WriteType};
+constexpr CustomCodec kNoConfigCodec{nullptr, WriteNull};
 
 constexpr CustomCodec kSpeedsAscending{ReadSpeeds<false, false>, WriteSpeeds<false, false>};
 constexpr CustomCodec kSpeedsDescending{ReadSpeeds<true, false>, WriteSpeeds<true, false>};

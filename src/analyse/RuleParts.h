@@ -22,12 +22,15 @@ struct RuleItem : linkage::RuleWeek {
 extern const CustomCodec kClassCodec;
 extern const CustomCodec kIdCodec;
 extern const CustomCodec kTypeCodec;
+extern const CustomCodec kNoConfigCodec;
 
 // ---- Rows of the rule itself ----
 
 inline constexpr Field kClassRow = MakeVirtual("Class", Custom(kClassCodec));
 inline constexpr Field kIdRow = MakeVirtual("Id", Custom(kIdCodec));
 inline constexpr Field kTypeRow = MakeVirtual("Type", Custom(kTypeCodec));
+// Of a rule that has no settings of its own.
+inline constexpr Field kNoConfigRow = MakeVirtual("Config", Custom(kNoConfigCodec));
 
 #define RULE_NAME kTypeRow, FIELD(szRuleName, "Name", Text), FIELD(bRuleEnable, "Enable", Bool)
 #define RULE_HEAD kClassRow, kIdRow, RULE_NAME
@@ -40,11 +43,11 @@ inline constexpr Field kTypeRow = MakeVirtual("Type", Custom(kTypeCodec));
 // Whether an object is followed: some devices read the key where they write it, some elsewhere or not at all.
 #define RULE_TRACK FIELD(bTrackEnable, "TrackEnable", Bool)
 #define RULE_TRACK_READ_ONLY RULE_TRACK.ReadOnly()
-#define RULE_TRACK_IN_CONFIG RULE_TRACK.ReadOnly(), FIELD(bTrackEnable, "Config/TrackEnable", Bool).Alias().WriteOnly()
+#define RULE_TRACK_IN_CONFIG RULE_TRACK.ReadOnly(), CONFIG(bTrackEnable, "TrackEnable", Bool).Alias().WriteOnly()
 
 // ---- Rows under "Config" ----
 
-#define CONFIG(member, key, ...) FIELD(member, "Config/" key, __VA_ARGS__)
+#define CONFIG(member, key, ...) FIELD(member, "Config/" key, __VA_ARGS__).KeepsObject()
 #define CONFIG_SHAPE(count, points, key)                                                                               \
     FIELD(count),                                                                                                      \
         CONFIG(points, key, Record(kCorner)).Count(AT(count)).OnNull(Nulls::LeaveHole).OnRefused(Nulls::LeaveHole)

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
 
@@ -80,6 +81,27 @@ TEST(RuleBodies, EveryCodeReadsAndWritesItsWholeText) {
     }
     EXPECT_EQ(RuleSamples().size(), 58u);
     EXPECT_EQ(codes.size(), 84u);
+}
+
+TEST(RuleBodies, SettingsStandInEveryRuleThatIsWritten) {
+    for (const RuleSample& sample : RuleSamples()) {
+        for (const RuleType& type : sample.types) {
+            RuleBuffer buffer(kHead + FindRuleBody(type.code)->size);
+            const CFG_RULE_INFO head = {type.code, static_cast<std::int32_t>(FindRuleBody(type.code)->size), {}};
+            std::memset(buffer.memory.data(), 0, buffer.memory.size());
+            std::memcpy(buffer.memory.data(), &head, kHead);
+            buffer.rules.nRuleCount = 1;
+            const std::string text = buffer.Pack();
+            Document document(text);
+            const auto rule = document.root[0u].members();
+            const auto config = std::find_if(rule.begin(), rule.end(),
+                                             [](const json::Member& member) { return member.key() == "Config"; });
+            ASSERT_NE(config, rule.end()) << type.code;
+            // A line without points, a list without elements or no settings at all: nothing is in it, but it stands.
+            const bool isBare = type.code == ORRERY_RULE_LE_TRACK || type.code == ORRERY_RULE_CLIMB_DETECTION;
+            EXPECT_TRUE(config->value.isNull() || !isBare) << type.code;
+        }
+    }
 }
 
 TEST(RuleBodies, AMixedChannelReadsAndWritesBack) {

@@ -252,6 +252,7 @@ std::string RuleText(const RuleSample& sample, const RuleType& type, bool asWrit
     const bool hasTrack = asWritten ? sample.track == Track::InRule : sample.track != Track::None;
     if (hasTrack) rule += R"(,"TrackEnable":true)";
     if (!config.empty()) rule += R"(,"Config":{)" + config + "}";
+    if (config.empty() && asWritten) rule += R"(,"Config":null)"; // it stands in every rule that is written
     return rule + "}";
 }
 

@@ -99,15 +99,20 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.untilEmpty, "UntilEmpty");
     add(field.zeroed, "Zeroed");
     add(field.nulls != Nulls::Count, Call("OnNull", Word(field.nulls, kNullsWords)));
+    add(field.refused != Nulls::Count, Call("OnRefused", Word(field.refused, kNullsWords)));
+    slot("ReadWith", field.readCondition);
+    add(field.firstBytes != 0, Call("FirstBytes", std::to_string(field.firstBytes)));
     add(field.trueAtOne, "TrueAtOne");
     add(field.hasUnless, Call("Unless", std::to_string(field.unless)));
     add(field.notNegative, "UnlessNegative");
     add(field.atMost != Field::kNoLimit, Call("AtMost", std::to_string(field.atMost)));
     slot("WhenSet", field.condition);
     add(field.when != nullptr, "When(function)");
+    add(field.linkage, "WhenLinked");
     add(field.empty != Empty::NoKey, Call("WhenEmpty", Word(field.empty, kEmptyWords)));
     add(field.skipped != Skipped::StaysNull, Call("OnSkipped", Word(field.skipped, kSkippedWords)));
     add(field.unlessBare, "UnlessBare");
+    add(field.keepsObject, "KeepsObject");
     add(field.fullCapacity, "WritesCapacity");
     add(field.alias, "Alias");
     if (field.custom != nullptr) {
@@ -160,6 +165,11 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.nulls == Nulls::LeaveHole, "a null element keeps its place and does not count");
     add(field.nulls == Nulls::CloseUp, "null elements are passed over");
     add(field.nulls == Nulls::Stop, "a null element ends the list");
+    add(field.refused == Nulls::LeaveHole, "an element of the wrong shape keeps its place and does not count");
+    add(field.refused == Nulls::CloseUp, "elements of the wrong shape are passed over");
+    add(field.refused == Nulls::Stop, "an element of the wrong shape ends the list");
+    add(field.readCondition.exists(), "read only when " + SlotName(table, field.readCondition) + " is set");
+    add(field.firstBytes != 0, "cut at " + std::to_string(field.firstBytes) + " bytes before it is converted");
     add(field.trueAtOne, "true at exactly 1");
     add(field.hasUnless, "not written at " + std::to_string(field.unless));
     add(field.notNegative, "not written when negative");

@@ -61,7 +61,7 @@ enum class OnlyType : std::uint8_t {
     Any,
     String,
     Bool,
-    Integer,
+    Integer,  // a signed number: one past those is none
     Unsigned, // a number past the signed ones
     Integral, // an integer or a bool
     Array,
@@ -166,6 +166,7 @@ struct Field {
     Empty empty = Empty::NoKey;
     Skipped skipped = Skipped::StaysNull;
     bool unlessBare = false;   // an object without keys is left out
+    bool keepsObject = false;  // the object inside the record's own that holds the key is null when it has no keys
     bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
 
     bool alias = false; // another key of a field that has a row already
@@ -357,6 +358,12 @@ struct Field {
     constexpr Field UnlessBare() const {
         auto f = *this;
         f.unlessBare = true;
+        return f;
+    }
+    // The object that holds the key, "A" of "A/B", is written also when nothing is in it, as null.
+    constexpr Field KeepsObject() const {
+        auto f = *this;
+        f.keepsObject = true;
         return f;
     }
     // As many elements are written as the caller's array has room for; the count is only what reading found.

@@ -33,7 +33,7 @@ bool IsOfType(OnlyType only, const Value& value) noexcept {
     case OnlyType::Bool:
         return value.isBool();
     case OnlyType::Integer:
-        return value.isInt() || value.isUInt();
+        return value.isInt();
     case OnlyType::Unsigned:
         return value.isUInt();
     case OnlyType::Integral:

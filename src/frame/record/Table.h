@@ -39,6 +39,7 @@ struct Node {
     std::uint16_t childCount = 0; // above 0: an object inside the object
     std::uint16_t childLastAbsent = 0;
     bool needsAbsent = false; // looked at also when the key is absent
+    bool staysNull = false;   // an object inside the object that is written as null when it has no keys
     Plainly readPlainly = Plainly::No;
     Plainly writePlainly = Plainly::No;
 };
@@ -226,6 +227,7 @@ constexpr Plainly ReadPlainly(const Field& row) {
     plain.names = row.names;
     plain.custom = row.custom;
     plain.unlessBare = row.unlessBare;
+    plain.keepsObject = row.keepsObject;
     return plain == row ? PlainValue(row) : Plainly::No;
 }
 constexpr Plainly WritePlainly(const Field& row) {
@@ -235,6 +237,7 @@ constexpr Plainly WritePlainly(const Field& row) {
     plain.defaultValue = row.defaultValue;
     plain.readable = row.readable;
     plain.only = row.only;
+    plain.keepsObject = row.keepsObject;
     return plain == row ? PlainNumber(row, row.writtenAs) : Plainly::No;
 }
 
@@ -316,6 +319,8 @@ struct Tree {
                 nodes[index].firstChild = inside.first;
                 nodes[index].childCount = inside.count;
                 nodes[index].childLastAbsent = inside.lastAbsent;
+                for (std::size_t k = i; k < end && depth == 0; ++k)
+                    nodes[index].staysNull = nodes[index].staysNull || rows[order[k]].keepsObject;
             } else {
                 nodes[index].readPlainly = ReadPlainly(rows[order[i]]);
                 nodes[index].writePlainly = WritePlainly(rows[order[i]]);

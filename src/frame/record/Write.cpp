@@ -366,7 +366,12 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
         call.object = &inner;
         WriteNodes(table, {node->firstChild, node->childCount}, record, call);
         call.object = inner.parent;
-        if (inner.opened) call.out.EndObject();
+        if (inner.opened) {
+            call.out.EndObject();
+        } else if (node->staysNull) {
+            call.Quoted(table.quotedKeyOf(*node));
+            call.out.Null();
+        }
     }
 }
 
