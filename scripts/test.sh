@@ -56,11 +56,9 @@ stage_gcc() {
     tests gcc build/test
 }
 
-# Leaks count as failures; a report names source lines.
+# Leaks count as failures.
 export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
 export UBSAN_OPTIONS=print_stacktrace=1
-ASAN_SYMBOLIZER_PATH=$(command -v llvm-symbolizer-14 || true)
-export ASAN_SYMBOLIZER_PATH
 
 stage_asan() {
     build asan build/asan
@@ -156,6 +154,8 @@ run_stage() {
 SECONDS=0
 scripts/install-deps.sh all
 times+=("$(printf '%-8s %4d s' install "$SECONDS")")
+ASAN_SYMBOLIZER_PATH=$(command -v llvm-symbolizer-14 || true)
+export ASAN_SYMBOLIZER_PATH
 if command -v ccache >/dev/null; then export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
 mkdir -p "$results"
 for stage in "${stages[@]}"; do

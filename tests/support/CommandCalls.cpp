@@ -99,7 +99,10 @@ Packed Pack(const Command& command, const void* record, std::size_t size) {
         const Outcome outcome = RunPack(command, request);
         if (outcome == Outcome::TextTooLong && capacity < kRoom) continue;
         if (outcome != Outcome::Done) return {outcome, {}};
-        return {outcome, std::string(room.get(), strnlen(room.get(), capacity))};
+        const std::size_t length = strnlen(room.get(), capacity);
+        // A text that just fits may have lost its newline.
+        if (length + 1 >= capacity && capacity < kRoom) continue;
+        return {outcome, std::string(room.get(), length)};
     }
 }
 
