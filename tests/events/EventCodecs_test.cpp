@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
 namespace orrery::events {
@@ -141,46 +140,32 @@ PART(kNote, NOTE, FIELD(number, "No", Int), FIELD(text, "Text", OwnedText));
 PART(kBlocks, BLOCKS, FIELD(text, "text", OwnedText), FIELD(fixed, "fixed", TextBlock<4>).Owned("no room").Always(),
      FIELD(note, "note", OwnedRecord(kNote)));
 
-class EventBlocks : public testing::Test {
-  protected:
-    BLOCKS Read(const std::string& json) {
-        document_ = std::make_unique<test::Document>(json);
-        LocalText text(document_->arena);
-        JsonParser parser(text);
-        ReadCall call{parser, document_->root};
-        BLOCKS blocks{};
-        ReadRecord(kBlocks, document_->root, reinterpret_cast<std::byte*>(&blocks), call);
-        return blocks;
-    }
+using KeptBlocks = test::KeptRecord<BLOCKS>;
 
-  private:
-    std::unique_ptr<test::Document> document_; // what is read points into it
-};
-
-TEST_F(EventBlocks, ATextOfAnyLengthIsWhole) {
+TEST(EventBlocks, ATextOfAnyLengthIsWhole) {
     const std::string longText(70000, 'x');
-    const BLOCKS blocks = Read("{ \"text\" : \"" + longText + "\" }");
-    ASSERT_NE(blocks.text, nullptr);
-    EXPECT_EQ(blocks.text, longText);
-    EXPECT_STREQ(Read(R"({ "text" : "" })").text, "");
-    EXPECT_EQ(Read("{}").text, nullptr);
-    EXPECT_EQ(Read(R"({ "text" : 5 })").text, nullptr);
+    const KeptBlocks blocks(kBlocks, "{ \"text\" : \"" + longText + "\" }");
+    ASSERT_NE(blocks->text, nullptr);
+    EXPECT_EQ(blocks->text, longText);
+    EXPECT_STREQ(KeptBlocks(kBlocks, R"({ "text" : "" })")->text, "");
+    EXPECT_EQ(KeptBlocks(kBlocks, "{}")->text, nullptr);
+    EXPECT_EQ(KeptBlocks(kBlocks, R"({ "text" : 5 })")->text, nullptr);
 }
 
-TEST_F(EventBlocks, AFixedBlockIsThereWithoutAText) {
-    ASSERT_NE(Read("{}").fixed, nullptr);
-    EXPECT_STREQ(Read("{}").fixed, "");
-    EXPECT_STREQ(Read(R"({ "fixed" : "abcd" })").fixed, "abc");
+TEST(EventBlocks, AFixedBlockIsThereWithoutAText) {
+    ASSERT_NE(KeptBlocks(kBlocks, "{}")->fixed, nullptr);
+    EXPECT_STREQ(KeptBlocks(kBlocks, "{}")->fixed, "");
+    EXPECT_STREQ(KeptBlocks(kBlocks, R"({ "fixed" : "abcd" })")->fixed, "abc");
 }
 
-TEST_F(EventBlocks, ARecordIsThereWhenItsKeyIs) {
-    EXPECT_EQ(Read("{}").note, nullptr);
-    const BLOCKS blocks = Read(R"({ "note" : { "No" : 3, "Text" : "deep" } })");
-    ASSERT_NE(blocks.note, nullptr);
-    EXPECT_EQ(blocks.note->number, 3);
-    EXPECT_STREQ(blocks.note->text, "deep");
-    ASSERT_NE(Read(R"({ "note" : {} })").note, nullptr);
-    EXPECT_EQ(Read(R"({ "note" : {} })").note->text, nullptr);
+TEST(EventBlocks, ARecordIsThereWhenItsKeyIs) {
+    EXPECT_EQ(KeptBlocks(kBlocks, "{}")->note, nullptr);
+    const KeptBlocks blocks(kBlocks, R"({ "note" : { "No" : 3, "Text" : "deep" } })");
+    ASSERT_NE(blocks->note, nullptr);
+    EXPECT_EQ(blocks->note->number, 3);
+    EXPECT_STREQ(blocks->note->text, "deep");
+    ASSERT_NE(KeptBlocks(kBlocks, R"({ "note" : {} })")->note, nullptr);
+    EXPECT_EQ(KeptBlocks(kBlocks, R"({ "note" : {} })")->note->text, nullptr);
 }
 
 } // namespace

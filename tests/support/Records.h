@@ -29,6 +29,23 @@ R Read(const record::TypedTable<R>& table, const std::string& text, const std::s
     return record;
 }
 
+// A record with blocks of its own, and the document whose memory they stand in.
+template <class R>
+class KeptRecord {
+  public:
+    KeptRecord(const record::TypedTable<R>& table, const std::string& text) : document_(text) {
+        LocalText local(document_.arena);
+        JsonParser parser(local);
+        record::ReadCall call{parser, document_.root};
+        record::ReadRecord(table, document_.root, reinterpret_cast<std::byte*>(&record_), call);
+    }
+    const R* operator->() const { return &record_; }
+
+  private:
+    Document document_;
+    R record_{};
+};
+
 // The text of one record, without a newline.
 inline std::string WriteBytes(const record::Table& table, const void* record) {
     StackArena<4096> arena;

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <bit>
-#include <memory>
 #include <string>
 
 namespace orrery::record {
@@ -94,55 +93,41 @@ PART(kSeat, SEAT, FIELD(enabled).Absent(1), FIELD(number, "No", Int)).StartsWhen
 PART(kBus, BUS, FIELD(seatNum), FIELD(seats, "Seats", Record(kSeat)).Owned().Count(AT(seatNum)),
      FIELD(driver, "Driver", Record(kSeat)), FIELD(corners, "Corners", Int).AtLeast(2));
 
-class OwnedBlocks : public testing::Test {
-  protected:
-    BUS Read(const std::string& json) {
-        document_ = std::make_unique<Document>(json);
-        LocalText text(document_->arena);
-        JsonParser parser(text);
-        ReadCall call{parser, document_->root};
-        BUS bus{};
-        ReadRecord(kBus, document_->root, reinterpret_cast<std::byte*>(&bus), call);
-        return bus;
-    }
+using KeptBus = test::KeptRecord<BUS>;
 
-  private:
-    std::unique_ptr<Document> document_; // what is read points into it
-};
-
-TEST_F(OwnedBlocks, HoldAsManyRecordsAsTheTextHas) {
+TEST(OwnedBlocks, HoldAsManyRecordsAsTheTextHas) {
     std::string json = R"({ "Seats" : [ )";
     for (int i = 0; i < 300; ++i)
         json += (i > 0 ? ", { \"No\" : " : "{ \"No\" : ") + std::to_string(i + 1) + " }";
-    const BUS bus = Read(json + " ] }");
-    ASSERT_EQ(bus.seatNum, 300);
-    ASSERT_NE(bus.seats, nullptr);
+    const KeptBus bus(kBus, json + " ] }");
+    ASSERT_EQ(bus->seatNum, 300);
+    ASSERT_NE(bus->seats, nullptr);
     for (int i = 0; i < 300; ++i) {
-        EXPECT_EQ(bus.seats[i].number, i + 1);
-        EXPECT_EQ(bus.seats[i].enabled, 1); // the default of a record in a list
+        EXPECT_EQ(bus->seats[i].number, i + 1);
+        EXPECT_EQ(bus->seats[i].enabled, 1); // the default of a record in a list
     }
 }
 
-TEST_F(OwnedBlocks, AreNullWithoutElements) {
+TEST(OwnedBlocks, AreNullWithoutElements) {
     for (const char* const json :
          {"{}", R"({ "Seats" : [] })", R"({ "Seats" : null })", R"({ "Seats" : { "No" : 1 } })"}) {
-        const BUS bus = Read(json);
-        EXPECT_EQ(bus.seats, nullptr) << json;
-        EXPECT_EQ(bus.seatNum, 0) << json;
+        const KeptBus bus(kBus, json);
+        EXPECT_EQ(bus->seats, nullptr) << json;
+        EXPECT_EQ(bus->seatNum, 0) << json;
     }
 }
 
-TEST_F(OwnedBlocks, APartThatStartsWhenReadIsClearUntilThen) {
-    EXPECT_EQ(Read("{}").driver.enabled, 0);
-    EXPECT_EQ(Read(R"({ "Driver" : null })").driver.enabled, 0);
-    EXPECT_EQ(Read(R"({ "Driver" : {} })").driver.enabled, 1);
-    EXPECT_EQ(Read(R"({ "Driver" : { "No" : 3 } })").driver.number, 3);
+TEST(OwnedBlocks, APartThatStartsWhenReadIsClearUntilThen) {
+    EXPECT_EQ(KeptBus(kBus, "{}")->driver.enabled, 0);
+    EXPECT_EQ(KeptBus(kBus, R"({ "Driver" : null })")->driver.enabled, 0);
+    EXPECT_EQ(KeptBus(kBus, R"({ "Driver" : {} })")->driver.enabled, 1);
+    EXPECT_EQ(KeptBus(kBus, R"({ "Driver" : { "No" : 3 } })")->driver.number, 3);
 }
 
-TEST_F(OwnedBlocks, AShortListIsNotRead) {
-    EXPECT_THAT(Read(R"({ "Corners" : [ 5 ] })").corners, ElementsAre(0, 0));
-    EXPECT_THAT(Read(R"({ "Corners" : [ 5, 6 ] })").corners, ElementsAre(5, 6));
-    EXPECT_THAT(Read(R"({ "Corners" : [ 5, 6, 7 ] })").corners, ElementsAre(5, 6));
+TEST(OwnedBlocks, AShortListIsNotRead) {
+    EXPECT_THAT(KeptBus(kBus, R"({ "Corners" : [ 5 ] })")->corners, ElementsAre(0, 0));
+    EXPECT_THAT(KeptBus(kBus, R"({ "Corners" : [ 5, 6 ] })")->corners, ElementsAre(5, 6));
+    EXPECT_THAT(KeptBus(kBus, R"({ "Corners" : [ 5, 6, 7 ] })")->corners, ElementsAre(5, 6));
 }
 
 // ---- Texts that may be full, and moments ----
