@@ -253,7 +253,7 @@ void WriteAlarm(const CFG_ALARM_INPUT_INFO& record, rapidjson::StringBuffer& out
     if (record.abLevel2) build.Int(table, "Level2", record.nLevel2);
     build.Text(table, "Name", record.szName);
     build.Int(table, "Pole", record.nPole);
-    build.Name(table, "SenseMethod", kSenses, record.emSenseMethod);
+    build.Name(table, "SenseMethod", test::kSensors, record.emSenseMethod);
     table.AddMember("SensorType", record.nSensorType == 0 ? StringRef("NC") : StringRef("NO"), build.pool);
     if (record.nSlot != -1) build.Int(table, "Slot", record.nSlot);
     Write(*document, out);

@@ -229,7 +229,7 @@ bool ParseAlarm(const char* text, CFG_ALARM_INPUT_INFO& record) {
     Int(*table, "Level2", record.nLevel2, record.abLevel2);
     Text(*table, "Name", record.szName);
     Int(*table, "Pole", record.nPole);
-    if (const Value* sense = Get(*table, "SenseMethod")) record.emSenseMethod = CodeOf(*sense, kSenses, -1);
+    if (const Value* sense = Get(*table, "SenseMethod")) record.emSenseMethod = CodeOf(*sense, test::kSensors, -1);
     if (const Value* sensor = Get(*table, "SensorType")) record.nSensorType = CodeOf(*sensor, kSensors, 1);
     Int(*table, "Slot", record.nSlot);
     return true;
@@ -313,7 +313,7 @@ bool ParseAlarmCaps(const char* text, CFG_ALARM_CAPS& record) {
     Int(*caps, "MaxDelay", record.nMaxDelay);
     Int(*caps, "MaxPSTNAlarmServer", record.nMaxPSTNAlarmServer);
     record.nSenseMethodNum = List(*caps, "SupportSenseMethod", record.emSenseMethods,
-                                  [](const Value& v, int32_t& code) { code = CodeOf(v, kSenses, -1); });
+                                  [](const Value& v, int32_t& code) { code = CodeOf(v, test::kSensors, -1); });
     return true;
 }
 

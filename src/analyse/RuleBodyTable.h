@@ -16,11 +16,7 @@ struct RuleBody {
     record::Slot cleared;   // the client's wish to have that week written as null
     bool isRead = true;     // false: known in every way but not taken from a device
 
-    constexpr RuleBody NotRead() const {
-        RuleBody body = *this;
-        body.isRead = false;
-        return body;
-    }
+    constexpr RuleBody NotRead() const { return With(*this, &RuleBody::isRead, false); }
 };
 
 // All rules with a record, in the order of their codes.

@@ -22,21 +22,9 @@ struct EventRow {
     // The code under which an event of this name is delivered; null: its own.
     std::uint32_t (*rename)(const json::Value& data) noexcept = nullptr;
 
-    constexpr EventRow Reports(std::uint32_t size) const {
-        auto row = *this;
-        row.reportedSize = size;
-        return row;
-    }
-    constexpr EventRow NeedsNoData() const {
-        auto row = *this;
-        row.needsNoData = true;
-        return row;
-    }
-    constexpr EventRow WithoutMemoryLogs(const char* line) const {
-        auto row = *this;
-        row.noMemory = line;
-        return row;
-    }
+    constexpr EventRow Reports(std::uint32_t size) const { return With(*this, &EventRow::reportedSize, size); }
+    constexpr EventRow NeedsNoData() const { return With(*this, &EventRow::needsNoData, true); }
+    constexpr EventRow WithoutMemoryLogs(const char* line) const { return With(*this, &EventRow::noMemory, line); }
     constexpr EventRow Logs(const char* beforeMaking, const char* beforeReading,
                             const char* beforeReadingCar = nullptr) const {
         auto row = *this;
@@ -46,9 +34,7 @@ struct EventRow {
         return row;
     }
     constexpr EventRow Renamed(std::uint32_t (*function)(const json::Value& data) noexcept) const {
-        auto row = *this;
-        row.rename = function;
-        return row;
+        return With(*this, &EventRow::rename, function);
     }
 };
 

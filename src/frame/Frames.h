@@ -112,94 +112,34 @@ struct ParseFrame {
     bool operator==(const ParseFrame&) const = default;
 
     constexpr ParseFrame From(Source where, const char* member = "") const {
-        auto f = *this;
-        f.source = where;
-        f.name = member;
-        return f;
+        return With(With(*this, &ParseFrame::source, where), &ParseFrame::name, member);
     }
-    constexpr ParseFrame Result(ResultTest test) const {
-        auto f = *this;
-        f.result = test;
-        return f;
-    }
-    constexpr ParseFrame Takes(Take what) const {
-        auto f = *this;
-        f.take = what;
-        return f;
-    }
-    constexpr ParseFrame Null(OnNull what) const {
-        auto f = *this;
-        f.onNull = what;
-        return f;
-    }
-    constexpr ParseFrame Clears(Clearing what) const {
-        auto f = *this;
-        f.clearing = what;
-        return f;
-    }
-    constexpr ParseFrame Length(ReplyLength what) const {
-        auto f = *this;
-        f.length = what;
-        return f;
-    }
-    constexpr ParseFrame Strides(Stride what) const {
-        auto f = *this;
-        f.stride = what;
-        return f;
-    }
-    constexpr ParseFrame ExactSize() const {
-        auto f = *this;
-        f.exactSize = true;
-        return f;
-    }
+    constexpr ParseFrame Result(ResultTest test) const { return With(*this, &ParseFrame::result, test); }
+    constexpr ParseFrame Takes(Take what) const { return With(*this, &ParseFrame::take, what); }
+    constexpr ParseFrame Null(OnNull what) const { return With(*this, &ParseFrame::onNull, what); }
+    constexpr ParseFrame Clears(Clearing what) const { return With(*this, &ParseFrame::clearing, what); }
+    constexpr ParseFrame Length(ReplyLength what) const { return With(*this, &ParseFrame::length, what); }
+    constexpr ParseFrame Strides(Stride what) const { return With(*this, &ParseFrame::stride, what); }
+    constexpr ParseFrame ExactSize() const { return With(*this, &ParseFrame::exactSize, true); }
     // A null element is read as a record without keys, where others leave its slot alone.
-    constexpr ParseFrame ReadsNulls() const {
-        auto f = *this;
-        f.readsNulls = true;
-        return f;
-    }
+    constexpr ParseFrame ReadsNulls() const { return With(*this, &ParseFrame::readsNulls, true); }
     // Keys that start at the document reach the first record once the text has parsed, though the call fail later.
-    constexpr ParseFrame RootKeysFirst() const {
-        auto f = *this;
-        f.rootKeysFirst = true;
-        return f;
-    }
+    constexpr ParseFrame RootKeysFirst() const { return With(*this, &ParseFrame::rootKeysFirst, true); }
     // More records than fit the buffer fail the call.
-    constexpr ParseFrame AllMustFit() const {
-        auto f = *this;
-        f.allMustFit = true;
-        return f;
-    }
+    constexpr ParseFrame AllMustFit() const { return With(*this, &ParseFrame::allMustFit, true); }
     constexpr ParseFrame TakesBy(Take (*function)(const json::Value& root)) const {
-        auto f = *this;
-        f.takesBy = function;
-        return f;
+        return With(*this, &ParseFrame::takesBy, function);
     }
     constexpr ParseFrame LengthBy(std::uint32_t (*function)(const std::byte* record)) const {
-        auto f = *this;
-        f.length = ReplyLength::Told;
-        f.lengthBy = function;
-        return f;
+        return With(With(*this, &ParseFrame::length, ReplyLength::Told), &ParseFrame::lengthBy, function);
     }
-    constexpr ParseFrame AnySize() const {
-        auto f = *this;
-        f.anySize = true;
-        return f;
-    }
-    constexpr ParseFrame NeedsText() const {
-        auto f = *this;
-        f.needsText = true;
-        return f;
-    }
+    constexpr ParseFrame AnySize() const { return With(*this, &ParseFrame::anySize, true); }
+    constexpr ParseFrame NeedsText() const { return With(*this, &ParseFrame::needsText, true); }
     constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
-        auto f = *this;
-        f.accepts = test;
-        return f;
+        return With(*this, &ParseFrame::accepts, test);
     }
     constexpr ParseFrame OnceParsed(void (*function)(std::byte*)) const {
-        auto f = *this;
-        f.parsed = function;
-        return f;
+        return With(*this, &ParseFrame::parsed, function);
     }
 };
 
@@ -235,45 +175,17 @@ struct PackFrame {
 
     bool operator==(const PackFrame&) const = default;
 
-    constexpr PackFrame As(Form what) const {
-        auto f = *this;
-        f.form = what;
-        return f;
-    }
-    constexpr PackFrame Fits(Capacity what) const {
-        auto f = *this;
-        f.capacity = what;
-        return f;
-    }
-    constexpr PackFrame Strides(Stride what) const {
-        auto f = *this;
-        f.stride = what;
-        return f;
-    }
-    constexpr PackFrame Under(const char* quoted) const {
-        auto f = *this;
-        f.quotedKey = quoted;
-        return f;
-    }
-    constexpr PackFrame ExactSize() const {
-        auto f = *this;
-        f.exactSize = true;
-        return f;
-    }
-    constexpr PackFrame KeepsText() const {
-        auto f = *this;
-        f.keepsText = true;
-        return f;
-    }
+    constexpr PackFrame As(Form what) const { return With(*this, &PackFrame::form, what); }
+    constexpr PackFrame Fits(Capacity what) const { return With(*this, &PackFrame::capacity, what); }
+    constexpr PackFrame Strides(Stride what) const { return With(*this, &PackFrame::stride, what); }
+    constexpr PackFrame Under(const char* quoted) const { return With(*this, &PackFrame::quotedKey, quoted); }
+    constexpr PackFrame ExactSize() const { return With(*this, &PackFrame::exactSize, true); }
+    constexpr PackFrame KeepsText() const { return With(*this, &PackFrame::keepsText, true); }
     constexpr PackFrame FormBy(Form (*function)(const std::byte* first, std::uint32_t count)) const {
-        auto f = *this;
-        f.formBy = function;
-        return f;
+        return With(*this, &PackFrame::formBy, function);
     }
     constexpr PackFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
-        auto f = *this;
-        f.accepts = test;
-        return f;
+        return With(*this, &PackFrame::accepts, test);
     }
 };
 

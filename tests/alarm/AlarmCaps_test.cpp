@@ -17,10 +17,10 @@ auto Caps(const char* command, const std::string& caps) {
     return ParseDocument<R>(command, R"({ "result" : true, "params" : { "caps" : )" + caps + " } }");
 }
 
-std::string Texts(const char* const* texts, int count) {
+std::string Texts(const std::string_view* texts, int count) {
     std::string list = "[ ";
     for (int i = 0; i < count; ++i)
-        list += std::string(i == 0 ? "\"" : ", \"") + texts[i] + "\"";
+        list += (i == 0 ? "\"" : ", \"") + std::string(texts[i]) + "\"";
     return list + " ]";
 }
 
@@ -50,7 +50,7 @@ TEST(AlarmCaps, Everything) {
 
 TEST(AlarmCaps, ListsAreCutAtEightAndSixteen) {
     const auto c = Caps<CFG_ALARM_CAPS>("alarm.getAlarmCaps",
-                                        "{ \"DefenceAreaTypes\" : " + Texts(test::kAreas, 9)
+                                        "{ \"DefenceAreaTypes\" : " + Texts(test::kAreas + 1, 9)
                                             + ", \"SupportSenseMethod\" : " + Texts(test::kSensors, 17) + " }");
     EXPECT_EQ(c->nDefenceAreaTypeNum, 8);
     EXPECT_THAT(c->emDefenceAreaTypes, ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
@@ -61,7 +61,7 @@ TEST(AlarmCaps, ListsAreCutAtEightAndSixteen) {
 
 TEST(AlarmCaps, ListsOfTheOthersAreCutAsWell) {
     const auto extension = Caps<CFG_EX_ALARM_CAPS>("alarm.getExAlarmCaps",
-                                                   "{ \"DefenceAreaTypes\" : " + Texts(test::kAreas + 5, 9)
+                                                   "{ \"DefenceAreaTypes\" : " + Texts(test::kAreas + 6, 9)
                                                        + ", \"SupportSenseMethod\" : " + Texts(test::kSensors + 20, 17)
                                                        + R"(, "ProtocolList" : [ 1, 2, 3, 4, 5, 6, 7, "QV_AlarmBox",
                                                             "QV_AlarmBox", "QV_AlarmBox" ] })");

@@ -142,7 +142,7 @@ TEST(Alarm, TheChannelStandsUnderParams) {
 TEST(Alarm, SensorNames) {
     auto record = Cleared<Alarm>();
     for (int code = 0; code < 46; ++code) {
-        const std::string name = test::kSensors[code];
+        const std::string name(test::kSensors[code]);
         EXPECT_EQ(Parse<Alarm>("Alarm", R"({ "SenseMethod" : ")" + name + "\" }")->emSenseMethod, code) << name;
         EXPECT_EQ(Parse<Alarm>("Alarm", R"({ "SenseMethod" : ")" + Upper(name) + "\" }")->emSenseMethod, code) << name;
         record->emSenseMethod = code;
@@ -163,7 +163,7 @@ TEST(Alarm, DefenceAreas) {
         return Parse<Alarm>("Alarm", R"({ "DefenceAreaType" : ")" + text + "\" }")->emDefenceAreaType;
     };
     for (int code = 1; code <= 14; ++code) {
-        const std::string name = test::kAreas[code - 1];
+        const std::string name(test::kAreas[code]);
         EXPECT_EQ(read(name), code) << name;
         EXPECT_EQ(read(Upper(name)), code <= 6 ? 0 : code) << name;
         record->emDefenceAreaType = code;

@@ -107,22 +107,15 @@ TEST(Packing, RecordsOfAnySize) {
     }
 }
 
-bool TextFits(Capacity capacity, std::size_t length, std::size_t room) {
-    switch (capacity) {
-    case Capacity::Strict:
-        return length < room;
-    case Capacity::Loose:
-    case Capacity::Raw:
-        return length <= room;
-    case Capacity::OneBefore:
-        return length + 1 < room;
-    }
-    return false;
+// The bytes that a buffer must have beyond the text.
+std::size_t Spare(Capacity capacity) {
+    constexpr std::size_t kSpare[] = {1, 0, 0, 2}; // Strict, Loose, Raw, OneBefore
+    return kSpare[static_cast<std::size_t>(capacity)];
 }
 
 // What a buffer holds after a call, from its words alone.
 std::string Expected(Capacity capacity, bool keeps, const std::string& text, std::size_t room) {
-    if (!TextFits(capacity, text.size(), room)) {
+    if (room < text.size() + Spare(capacity)) {
         return std::string(room, keeps ? static_cast<char>(kUntouched) : '\0');
     }
     std::string expected = text.substr(0, room);
@@ -154,7 +147,7 @@ TEST(Packing, TextsOfEveryCapacity) {
             char* const text = buffer.data() + buffer.size() - room;
             const Outcome outcome = RunPack(command, {record.data(), static_cast<std::uint32_t>(record.size()), text,
                                                       static_cast<std::uint32_t>(room)});
-            const bool fits = TextFits(capacity, packed.text.size(), room);
+            const bool fits = room >= packed.text.size() + Spare(capacity);
             ASSERT_EQ(outcome, fits ? Outcome::Done : Outcome::TextTooLong) << command.name << " " << room;
             ASSERT_EQ(std::string_view(text, room), Expected(capacity, keeps, packed.text, room))
                 << command.name << " " << room;

@@ -3,6 +3,7 @@
 
 #include "orrery/orrery.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -54,6 +55,22 @@ inline bool DecodeOne(std::string_view code, std::string_view data, const EventV
         visit(event);
     });
     return count == 1;
+}
+
+// A value of each JSON type, for keys that expect another.
+inline constexpr const char* kValuesOfAnyType[] = {"7",           "-1.5", "true",         "\"text\"", "[]",
+                                                   "[1,2,3,4,5]", "{}",   "[[],{},null]", "null"};
+
+// An object of all keys that stand anywhere in a text, each with that value.
+inline std::string EveryKeyAs(std::string_view text, const char* value) {
+    std::string data = "{";
+    for (std::size_t colon = text.find("\":"); colon != std::string_view::npos; colon = text.find("\":")) {
+        const std::size_t start = text.rfind('"', colon - 1);
+        data +=
+            (data.size() > 1 ? ",\"" : "\"") + std::string(text.substr(start + 1, colon - start - 1)) + "\":" + value;
+        text.remove_prefix(colon + 2);
+    }
+    return data + "}";
 }
 
 } // namespace orrery::test

@@ -4,6 +4,7 @@
 // codec that does not fit a member's type does not compile. The same row reads, writes, prints, fills and checks.
 #pragma once
 
+#include "frame/With.h"
 #include "frame/json/Value.h"
 #include "frame/record/Names.h"
 
@@ -176,76 +177,31 @@ struct Field {
     // ---- Words of the vocabulary ---------------------------------------------------------------------------------
 
     // Read also when absent: null then reads as 0, false or empty. A flag is raised in every case.
-    constexpr Field Always() const {
-        auto f = *this;
-        f.always = true;
-        return f;
-    }
+    constexpr Field Always() const { return With(*this, &Field::always, true); }
     // What the field holds when the key is absent (0 without this word).
     constexpr Field Absent(std::int32_t value) const {
-        auto f = *this;
-        f.hasDefault = true;
-        f.defaultValue = value;
-        return f;
+        return With(With(*this, &Field::hasDefault, true), &Field::defaultValue, value);
     }
-    constexpr Field Flag(Slot slot) const {
-        auto f = *this;
-        f.flag = slot;
-        return f;
-    }
-    constexpr Field Count(Slot slot) const {
-        auto f = *this;
-        f.count = slot;
-        return f;
-    }
+    constexpr Field Flag(Slot slot) const { return With(*this, &Field::flag, slot); }
+    constexpr Field Count(Slot slot) const { return With(*this, &Field::count, slot); }
     // The count is stored as the text has it; slots end at the member's end all the same.
     constexpr Field CountUncapped(Slot slot) const {
-        auto f = *this;
-        f.count = slot;
-        f.countUncapped = true;
-        return f;
+        return With(With(*this, &Field::count, slot), &Field::countUncapped, true);
     }
     // Room of the caller's array behind a pointer.
-    constexpr Field Capacity(Slot slot) const {
-        auto f = *this;
-        f.capacity = slot;
-        return f;
-    }
-    constexpr Field Zeroed() const {
-        auto f = *this;
-        f.zeroed = true;
-        return f;
-    }
+    constexpr Field Capacity(Slot slot) const { return With(*this, &Field::capacity, slot); }
+    constexpr Field Zeroed() const { return With(*this, &Field::zeroed, true); }
     // A list is read also when the value is no array: as empty, or as one empty element for each member of an object.
-    constexpr Field AnyShape() const {
-        auto f = *this;
-        f.anyShape = true;
-        return f;
-    }
-    constexpr Field Exactly() const {
-        auto f = *this;
-        f.exactly = true;
-        return f;
-    }
+    constexpr Field AnyShape() const { return With(*this, &Field::anyShape, true); }
+    constexpr Field Exactly() const { return With(*this, &Field::exactly, true); }
     // An array is read only when it has so many elements; those behind are passed over.
-    constexpr Field AtLeast(std::uint8_t elements) const {
-        auto f = *this;
-        f.atLeast = elements;
-        return f;
-    }
+    constexpr Field AtLeast(std::uint8_t elements) const { return With(*this, &Field::atLeast, elements); }
     // The pointer gets a block for as many records as the document has; null, with a count of 0, when it has none or
     // there is no memory, which `failureLine` then tells the log.
     constexpr Field Owned(const char* failureLine = nullptr) const {
-        auto f = *this;
-        f.owned = true;
-        f.failure = failureLine;
-        return f;
+        return With(With(*this, &Field::owned, true), &Field::failure, failureLine);
     }
-    constexpr Field Keyed() const {
-        auto f = *this;
-        f.keyed = true;
-        return f;
-    }
+    constexpr Field Keyed() const { return With(*this, &Field::keyed, true); }
     // A list with the key "": its elements are those members of the record's own object that are objects with members
     // of their own, whatever their names. An element's defaults are set when it is read, so that slots that no member
     // took stay clear. On writing the names go in order among the record's keys; a name that is a key hides the key.
@@ -254,147 +210,49 @@ struct Field {
         f.amongKeys = true;
         return f;
     }
-    constexpr Field OnNull(Nulls rule) const {
-        auto f = *this;
-        f.nulls = rule;
-        return f;
-    }
+    constexpr Field OnNull(Nulls rule) const { return With(*this, &Field::nulls, rule); }
     // An element that its table does not take is treated as this rule treats a null.
-    constexpr Field OnRefused(Nulls rule) const {
-        auto f = *this;
-        f.refused = rule;
-        return f;
-    }
+    constexpr Field OnRefused(Nulls rule) const { return With(*this, &Field::refused, rule); }
     // Read only when the member is set, by a key that stands before this one in key order.
-    constexpr Field ReadWith(Slot slot) const {
-        auto f = *this;
-        f.readCondition = slot;
-        return f;
-    }
+    constexpr Field ReadWith(Slot slot) const { return With(*this, &Field::readCondition, slot); }
     // Only so many bytes of a text are converted.
-    constexpr Field FirstBytes(std::uint16_t bytes) const {
-        auto f = *this;
-        f.firstBytes = bytes;
-        return f;
-    }
-    constexpr Field Only(OnlyType type) const {
-        auto f = *this;
-        f.only = type;
-        return f;
-    }
-    constexpr Field FromRoot() const {
-        auto f = *this;
-        f.fromRoot = true;
-        f.writable = false;
-        return f;
-    }
+    constexpr Field FirstBytes(std::uint16_t bytes) const { return With(*this, &Field::firstBytes, bytes); }
+    constexpr Field Only(OnlyType type) const { return With(*this, &Field::only, type); }
+    constexpr Field FromRoot() const { return With(With(*this, &Field::fromRoot, true), &Field::writable, false); }
     constexpr Field ReadOnly() const { return Writable(false); }
-    constexpr Field Writable(bool does) const {
-        auto f = *this;
-        f.writable = does;
-        return f;
-    }
-    constexpr Field WriteOnly() const {
-        auto f = *this;
-        f.readable = false;
-        return f;
-    }
-    constexpr Field TrueAtOne() const {
-        auto f = *this;
-        f.trueAtOne = true;
-        return f;
-    }
+    constexpr Field Writable(bool does) const { return With(*this, &Field::writable, does); }
+    constexpr Field WriteOnly() const { return With(*this, &Field::readable, false); }
+    constexpr Field TrueAtOne() const { return With(*this, &Field::trueAtOne, true); }
     constexpr Field Unless(std::int32_t value) const {
-        auto f = *this;
-        f.hasUnless = true;
-        f.unless = value;
-        return f;
+        return With(With(*this, &Field::hasUnless, true), &Field::unless, value);
     }
-    constexpr Field UnlessNegative() const {
-        auto f = *this;
-        f.notNegative = true;
-        return f;
-    }
-    constexpr Field AtMost(std::int32_t value) const {
-        auto f = *this;
-        f.atMost = value;
-        return f;
-    }
+    constexpr Field UnlessNegative() const { return With(*this, &Field::notNegative, true); }
+    constexpr Field AtMost(std::int32_t value) const { return With(*this, &Field::atMost, value); }
     // Written only when the member is set (reading neither looks at it nor sets it).
-    constexpr Field WhenSet(Slot slot) const {
-        auto f = *this;
-        f.condition = slot;
-        return f;
-    }
+    constexpr Field WhenSet(Slot slot) const { return With(*this, &Field::condition, slot); }
     // Written only when the function says so.
-    constexpr Field When(bool (*test)(const std::byte* record)) const {
-        auto f = *this;
-        f.when = test;
-        return f;
-    }
+    constexpr Field When(bool (*test)(const std::byte* record)) const { return With(*this, &Field::when, test); }
     // A list of texts without a count of its own: the first empty one ends it on writing.
-    constexpr Field UntilEmpty() const {
-        auto f = *this;
-        f.untilEmpty = true;
-        return f;
-    }
+    constexpr Field UntilEmpty() const { return With(*this, &Field::untilEmpty, true); }
     // Left out by a call that writes without linkage.
-    constexpr Field WhenLinked() const {
-        auto f = *this;
-        f.linkage = true;
-        return f;
-    }
-    constexpr Field WhenEmpty(Empty rule) const {
-        auto f = *this;
-        f.empty = rule;
-        return f;
-    }
-    constexpr Field OnSkipped(Skipped rule) const {
-        auto f = *this;
-        f.skipped = rule;
-        return f;
-    }
+    constexpr Field WhenLinked() const { return With(*this, &Field::linkage, true); }
+    constexpr Field WhenEmpty(Empty rule) const { return With(*this, &Field::empty, rule); }
+    constexpr Field OnSkipped(Skipped rule) const { return With(*this, &Field::skipped, rule); }
     // A nested record of which nothing is written leaves no key.
-    constexpr Field UnlessBare() const {
-        auto f = *this;
-        f.unlessBare = true;
-        return f;
-    }
+    constexpr Field UnlessBare() const { return With(*this, &Field::unlessBare, true); }
     // The object that holds the key, "A" of "A/B", is written also when nothing is in it, as null.
-    constexpr Field KeepsObject() const {
-        auto f = *this;
-        f.keepsObject = true;
-        return f;
-    }
+    constexpr Field KeepsObject() const { return With(*this, &Field::keepsObject, true); }
     // As many elements are written as the caller's array has room for; the count is only what reading found.
-    constexpr Field WritesCapacity() const {
-        auto f = *this;
-        f.fullCapacity = true;
-        return f;
-    }
+    constexpr Field WritesCapacity() const { return With(*this, &Field::fullCapacity, true); }
     // The codes that a row's own functions deal in, so that tools can show their names.
-    constexpr Field Coded(const NameTable& codes) const {
-        auto f = *this;
-        f.names = &codes;
-        return f;
-    }
+    constexpr Field Coded(const NameTable& codes) const { return With(*this, &Field::names, &codes); }
     // A second key of a field that has a row of its own.
-    constexpr Field Alias() const {
-        auto f = *this;
-        f.alias = true;
-        return f;
-    }
+    constexpr Field Alias() const { return With(*this, &Field::alias, true); }
     // What a pointer to bytes points at, for those who lay a record out; functions of the family read and write it.
-    constexpr Field PointsTo(const Table& first) const {
-        auto f = *this;
-        f.table = &first;
-        return f;
-    }
+    constexpr Field PointsTo(const Table& first) const { return With(*this, &Field::table, &first); }
     template <class Codec>
     constexpr Field WrittenAs(Codec) const {
-        auto f = *this;
-        f.writtenAs = Codec::kind;
-        return f;
+        return With(*this, &Field::writtenAs, Codec::kind);
     }
 };
 

@@ -1,6 +1,8 @@
 // Name tables: the texts of an enumeration with their codes, and what happens to a text or a code that is in none.
 #pragma once
 
+#include "frame/With.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -45,34 +47,16 @@ struct NameTable {
 
     // What a text of no row reads as: a code (0 without this word), or the field stays as it is.
     constexpr NameTable Unknown(std::int32_t code) const {
-        NameTable table = *this;
-        table.unknownCode = code;
-        table.unknownLeaves = false;
-        return table;
+        return With(With(*this, &NameTable::unknownCode, code), &NameTable::unknownLeaves, false);
     }
-    constexpr NameTable UnknownLeaves() const {
-        NameTable table = *this;
-        table.unknownLeaves = true;
-        return table;
-    }
+    constexpr NameTable UnknownLeaves() const { return With(*this, &NameTable::unknownLeaves, true); }
     // Of several rows with the same text the last one's code is read.
-    constexpr NameTable LastWins() const {
-        NameTable table = *this;
-        table.lastWins = true;
-        return table;
-    }
+    constexpr NameTable LastWins() const { return With(*this, &NameTable::lastWins, true); }
     // What a code of no row writes; without either word the key is left out.
     constexpr NameTable OutsideWrites(std::string_view text) const {
-        NameTable table = *this;
-        table.outside = Outside::Text;
-        table.outsideText = text;
-        return table;
+        return With(With(*this, &NameTable::outside, Outside::Text), &NameTable::outsideText, text);
     }
-    constexpr NameTable OutsideWritesNull() const {
-        NameTable table = *this;
-        table.outside = Outside::Null;
-        return table;
-    }
+    constexpr NameTable OutsideWritesNull() const { return With(*this, &NameTable::outside, Outside::Null); }
 
     // The code of a text: that of the first (or last) row that matches, else what Unknown says.
     std::optional<std::int32_t> CodeOf(std::string_view text) const noexcept;

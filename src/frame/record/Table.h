@@ -104,40 +104,20 @@ struct Table {
 template <class R>
 struct TypedTable : Table {
     // The record stands as an array whose elements are the rows with the key "", in row order.
-    constexpr TypedTable As(Shape what) const {
-        TypedTable table = *this;
-        table.shape = what;
-        return table;
-    }
+    constexpr TypedTable As(Shape what) const { return With(*this, &TypedTable::shape, what); }
     // The record's size word is tested: with another value the record is neither read nor written.
-    constexpr TypedTable Guarded() const {
-        TypedTable table = *this;
-        table.guarded = true;
-        return table;
-    }
+    constexpr TypedTable Guarded() const { return With(*this, &TypedTable::guarded, true); }
     // The record's presence flags tell of the text just read alone, though absent keys keep the caller's values.
-    constexpr TypedTable ClearsFlags() const {
-        TypedTable table = *this;
-        table.clearsFlags = true;
-        return table;
-    }
+    constexpr TypedTable ClearsFlags() const { return With(*this, &TypedTable::clearsFlags, true); }
     // As a part of another record: its defaults and size words are set when it is read, and not before.
-    constexpr TypedTable StartsWhenRead() const {
-        TypedTable table = *this;
-        table.startsWhenRead = true;
-        return table;
-    }
+    constexpr TypedTable StartsWhenRead() const { return With(*this, &TypedTable::startsWhenRead, true); }
     // Only records that pass are written.
     constexpr TypedTable Writes(bool (*test)(const std::byte* record)) const {
-        TypedTable table = *this;
-        table.writes = test;
-        return table;
+        return With(*this, &TypedTable::writes, test);
     }
     // Runs once the rows have been read, for what depends on several of them.
     constexpr TypedTable AfterRead(void (*function)(const json::Value&, std::byte*, ReadCall&)) const {
-        TypedTable table = *this;
-        table.afterRead = function;
-        return table;
+        return With(*this, &TypedTable::afterRead, function);
     }
 };
 
