@@ -42,6 +42,9 @@ inline const EventCall& EventOf(const ReadCall& call) noexcept {
     return *static_cast<const EventCall*>(call.context);
 }
 
+// The group that a value names, key by key; what it does not name stays.
+void ReadGroup(const json::Value& value, EVENT_FILE_INFO& fileInfo) noexcept;
+
 // The source device of a device that names its source: one that names none has no source device either.
 extern const CustomCodec kSourceDevice;
 

@@ -19,15 +19,6 @@ constexpr record::Name kActionRows[] = {
     {EVENT_ACTION_PULSE, "Pulse"}, {EVENT_ACTION_START, "Start"}, {EVENT_ACTION_STOP, "Stop"}};
 constexpr record::NameTable kActions = record::FoldedNames(kActionRows).UnknownLeaves();
 
-// The group goes on to the events that follow and name none.
-void ReadGroup(const Value& data, EVENT_FILE_INFO& fileInfo) noexcept {
-    if (const Value& group = data["GroupID"]; !group.isNull()) fileInfo.nGroupID = events::AnyIntegerOf(group);
-    if (const Value& count = data["CountInGroup"]; !count.isNull())
-        fileInfo.byCount = static_cast<std::uint8_t>(count.asInt());
-    if (const Value& index = data["IndexInGroup"]; !index.isNull())
-        fileInfo.byIndex = static_cast<std::uint8_t>(index.asInt());
-}
-
 std::uint32_t CodeOf(const Value& event) noexcept {
     constexpr std::size_t kLongestName = 127;
     return static_cast<std::uint32_t>(RuleCodeFromName(event["Code"].asString().substr(0, kLongestName)));
@@ -78,7 +69,8 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
         return;
     }
     std::memset(record, 0, size);
-    ReadGroup(data, around.fileInfo);
+    // The group goes on to the events that follow and name none.
+    events::ReadGroup(data, around.fileInfo);
     fields.stuFileInfo = around.fileInfo;
     if (row->reading != nullptr) ORRERY_EVENT_DETAIL("%s", row->reading);
     if (row->readingCar != nullptr && !data["TrafficCar"].isNull()) ORRERY_EVENT_DETAIL("%s", row->readingCar);

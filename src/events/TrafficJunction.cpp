@@ -47,9 +47,7 @@ void FinishJunction(const Value& data, std::byte* record, ReadCall& call) {
     auto& event = *reinterpret_cast<DEV_EVENT_TRAFFICJUNCTION_INFO*>(record);
     if (event.bNonMotor != 0) {
         // The rider's vehicle is of the kind that the object is told to be.
-        const char* const kind = event.stuObject.szObjectSubType;
-        const auto code = kNonMotorTypes.CodeOf({kind, strnlen(kind, sizeof event.stuObject.szObjectSubType)});
-        event.stuNonMotor.emCategory = code.value_or(0);
+        event.stuNonMotor.emCategory = kNonMotorTypes.CodeOf(TextOf(event.stuObject.szObjectSubType)).value_or(0);
     }
     ORRERY_EVENT_DETAIL("ParseTraffic_JunctionInfo() complete");
 }
@@ -66,11 +64,8 @@ void CutAxles(const Value&, std::byte* record, ReadCall&) {
 
 void FinishGate(const Value& data, std::byte* record, ReadCall& call) {
     auto& event = *reinterpret_cast<DEV_EVENT_TRAFFICGATE_INFO*>(record);
-    EVENT_FILE_INFO& file = event.stuFileInfo;
     if (const Value& times = data["SnapTimes"]; !times.isNull())
-        file.byCount = static_cast<std::uint8_t>(times.asInt());
-    if (const Value& index = data["IndexInGroup"]; !index.isNull())
-        file.byIndex = static_cast<std::uint8_t>(index.asInt());
+        event.stuFileInfo.byCount = static_cast<std::uint8_t>(times.asInt());
     const Value& car = data["TrafficCar"];
     if (!car.isNull() && car["VehicleSize"].isNull()) {
         std::memcpy(event.stuTrafficCar.szVehicleSize, event.stuVehicle.szObjectSubType,

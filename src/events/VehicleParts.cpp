@@ -199,14 +199,6 @@ bool SetObjectColor(std::uint32_t& color, std::string_view name, std::uint8_t& i
     return true;
 }
 
-void GroupOfCar(const Value& car, EVENT_FILE_INFO& fileInfo) noexcept {
-    if (const Value& group = car["GroupID"]; !group.isNull()) fileInfo.nGroupID = AnyIntegerOf(group);
-    if (const Value& count = car["CountInGroup"]; !count.isNull())
-        fileInfo.byCount = static_cast<std::uint8_t>(count.asInt());
-    if (const Value& index = car["IndexInGroup"]; !index.isNull())
-        fileInfo.byIndex = static_cast<std::uint8_t>(index.asInt());
-}
-
 void CarOverObjects(const Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& object, EVENT_OBJECT_INFO& vehicle,
                     EVENT_FILE_INFO& fileInfo) noexcept {
     if (car.isNull()) return;
@@ -224,7 +216,7 @@ void CarOverObjects(const Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& 
         if (!text.empty()) std::memcpy(object.szObjectSubType, text.data(), text.size());
     }
     if (!car["VehicleColor"].isNull()) SetObjectColor(vehicle.rgbaMainColor, texts.vehicleColor, vehicle.bColor);
-    GroupOfCar(car, fileInfo);
+    ReadGroup(car, fileInfo);
 }
 
 } // namespace orrery::events

@@ -166,7 +166,6 @@ struct CarTexts {
 };
 void CarOverObjects(const json::Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& object,
                     EVENT_OBJECT_INFO& vehicle, EVENT_FILE_INFO& fileInfo) noexcept;
-void GroupOfCar(const json::Value& car, EVENT_FILE_INFO& fileInfo) noexcept;
 
 // The same as a table's last step.
 template <class R>

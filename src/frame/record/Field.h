@@ -205,11 +205,7 @@ struct Field {
     // A list with the key "": its elements are those members of the record's own object that are objects with members
     // of their own, whatever their names. An element's defaults are set when it is read, so that slots that no member
     // took stay clear. On writing the names go in order among the record's keys; a name that is a key hides the key.
-    constexpr Field AmongKeys() const {
-        auto f = Keyed();
-        f.amongKeys = true;
-        return f;
-    }
+    constexpr Field AmongKeys() const { return With(Keyed(), &Field::amongKeys, true); }
     constexpr Field OnNull(Nulls rule) const { return With(*this, &Field::nulls, rule); }
     // An element that its table does not take is treated as this rule treats a null.
     constexpr Field OnRefused(Nulls rule) const { return With(*this, &Field::refused, rule); }
