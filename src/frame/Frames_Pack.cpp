@@ -98,13 +98,17 @@ Outcome DeliverOrKeep(const Content& content, Capacity capacity, const PackReque
     json::TextWriter out(nearby, sizeof nearby);
     if (const Outcome outcome = WriteText(content, out); outcome != Outcome::Done) return outcome;
     if (!Fits(capacity, out.length(), room)) return Outcome::TextTooLong;
-    if (out.fits()) {
-        std::memcpy(request.textBuffer, nearby, out.length());
-    } else {
-        // Now that it is known to fit, it can go straight to its place.
-        json::TextWriter again(request.textBuffer, room);
+    StackArena<16> arena;
+    const char* text = nearby;
+    if (!out.fits()) {
+        // Not straight to its place: memory may end in the second pass too.
+        auto* const block = arena.Array<char>(out.length());
+        if (block == nullptr) return Outcome::OutOfMemory;
+        json::TextWriter again(block, out.length());
         if (const Outcome outcome = WriteText(content, again); outcome != Outcome::Done) return outcome;
+        text = block;
     }
+    std::memcpy(request.textBuffer, text, out.length());
     Terminate(capacity, out.length(), request.textBuffer, room);
     return Outcome::Done;
 }

@@ -160,6 +160,26 @@ TEST(FamilyPack, AFailedCallMayLeaveTheText) {
     EXPECT_EQ(Pack(kItem, keeps, kItems, 8, text.size() + 4).bytes, text + '\0' + "###");
 }
 
+// A text too long for the stack, whose row refuses the second time that it is asked.
+int timesAsked = 0;
+void WriteLong(const record::Field&, const std::byte*, record::WriteCall& call) {
+    call.Key();
+    call.out.String(std::string(20000, 'x'));
+    if (++timesAsked == 2) call.refused = true;
+}
+constexpr record::CustomCodec kLongCodec{nullptr, WriteLong};
+TABLE(kLong, Item, FIELD(id, "Id", Custom(kLongCodec)), FIELD(level, "Level", Int));
+
+TEST(FamilyPack, AFailedCallLeavesTheTextHoweverLateItFails) {
+    timesAsked = 0;
+    const Written late = Pack(kLong, kPack.KeepsText(), kItems, 8, 30000);
+    EXPECT_EQ(late.outcome, Outcome::RowRefused);
+    EXPECT_TRUE(late.isUntouched());
+    timesAsked = 2;
+    const std::string text = "{ \"Id\" : \"" + std::string(20000, 'x') + "\", \"Level\" : 2 }\n";
+    EXPECT_TRUE(Pack(kLong, kPack.KeepsText(), kItems, 8, text.size() + 1).bytes == text + '\0');
+}
+
 bool IsPositive(const std::byte* record) {
     return MEMBER(record, Item, id) > 0;
 }
