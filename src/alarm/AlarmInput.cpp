@@ -10,44 +10,78 @@ using namespace record;
 
 namespace {
 
-constexpr Name kSensorTypeRows[] = {{CFG_SENSOR_NORMALLY_CLOSED, "NC"}, {CFG_SENSOR_NORMALLY_OPEN, "NO"}};
-constexpr NameTable kSensorTypes = FoldedNames(kSensorTypeRows).Unknown(CFG_SENSOR_NORMALLY_OPEN).OutsideWrites("NO");
+NAMES(kSensorTypes, kFolded.Unknown(CFG_SENSOR_NORMALLY_OPEN).OutsideWrites("NO"),
+      {
+          {CFG_SENSOR_NORMALLY_CLOSED, "NC"},
+          {CFG_SENSOR_NORMALLY_OPEN, "NO"},
+      });
 
-constexpr Name kEnableControlRows[] = {
-    {CFG_ENABLE_NORMAL, "Normal"},
-    {CFG_ENABLE_ALWAYS, "EnableAlways"},
-    {CFG_ENABLE_DISABLE_ONCE, "DisableOnce"},
-    {CFG_ENABLE_DISABLE_ALWAYS, "DisableAlways"},
-};
-constexpr NameTable kEnableControls = FoldedNames(kEnableControlRows).Unknown(CFG_ENABLE_NORMAL);
+NAMES(kEnableControls, kFolded.Unknown(CFG_ENABLE_NORMAL),
+      {
+          {CFG_ENABLE_NORMAL, "Normal"},
+          {CFG_ENABLE_ALWAYS, "EnableAlways"},
+          {CFG_ENABLE_DISABLE_ONCE, "DisableOnce"},
+          {CFG_ENABLE_DISABLE_ALWAYS, "DisableAlways"},
+      });
 
 } // namespace
 
-TABLE(kAlarmInput, CFG_ALARM_INPUT_INFO, FIELD(nChannel, "params/channel", Int).FromRoot(),
-      FIELD(bEnable, "Enable", Bool), FIELD(szName, "Name", Text),
-      FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
-      FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always(), FIELD(abDeviceID, "ID", Presence),
-      FIELD(szDeviceID, "ID", Text), FIELD(nPole, "Pole", Int),
-      FIELD(emSenseMethod, "SenseMethod", Names(kSenseMethods)).Absent(EM_SENSE_UNKNOWN),
-      FIELD(emEnableControl, "EnableControl", Names(kEnableControls)), FIELD(nDisableDelay, "DisableDelay", Int),
-      FIELD(emDefenceAreaType, "DefenceAreaType", Names(kDefenceAreaTypes)), FIELD(nEnableDelay, "EnableDelay", Int),
-      FIELD(nSlot, "Slot", Int).Absent(-1).Unless(-1), FIELD(nLevel1, "Level1", Int).Absent(-1).Unless(-1),
-      FIELD(abLevel2), FIELD(nLevel2, "Level2", Int).Absent(-1).Flag(AT(abLevel2)));
+TABLE(kAlarmInput, CFG_ALARM_INPUT_INFO,
+      {
+          FIELD(nChannel, "params/channel", Int).FromRoot(),
+          FIELD(bEnable, "Enable", Bool),
+          FIELD(szName, "Name", Text),
+          FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always(),
+          FIELD(abDeviceID, "ID", Presence),
+          FIELD(szDeviceID, "ID", Text),
+          FIELD(nPole, "Pole", Int),
+          FIELD(emSenseMethod, "SenseMethod", Names(kSenseMethods)).Absent(EM_SENSE_UNKNOWN),
+          FIELD(emEnableControl, "EnableControl", Names(kEnableControls)),
+          FIELD(nDisableDelay, "DisableDelay", Int),
+          FIELD(emDefenceAreaType, "DefenceAreaType", Names(kDefenceAreaTypes)),
+          FIELD(nEnableDelay, "EnableDelay", Int),
+          FIELD(nSlot, "Slot", Int).Absent(-1).WriteUnless(-1),
+          FIELD(nLevel1, "Level1", Int).Absent(-1).WriteUnless(-1),
+          FIELD(abLevel2),
+          FIELD(nLevel2, "Level2", Int).Absent(-1).SetsAndNeeds(AT(abLevel2)),
+      });
 
-TABLE(kNetAlarm, CFG_NET_ALARM_INFO, FIELD(nChannel), FIELD(bEnable, "Enable", Bool), FIELD(szName, "Name", Text),
-      FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
-      FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always());
+TABLE(kNetAlarm, CFG_NET_ALARM_INFO,
+      {
+          FIELD(nChannel),
+          FIELD(bEnable, "Enable", Bool),
+          FIELD(szName, "Name", Text),
+          FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always(),
+      });
 
-TABLE(kLossDetect, CFG_LOSS_DETECT_INFO, FIELD(nChannel), FIELD(bEnable, "Enable", Bool).TrueAtOne(),
-      FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always());
+TABLE(kLossDetect, CFG_LOSS_DETECT_INFO,
+      {
+          FIELD(nChannel),
+          FIELD(bEnable, "Enable", Bool).TrueAtOne(),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always(),
+      });
 
-TABLE(kBlindDetect, CFG_BLIND_DETECT_INFO, FIELD(nChannel), FIELD(bEnable, "Enable", Bool).TrueAtOne(),
-      FIELD(nLevel, "Level", Int), FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always());
+TABLE(kBlindDetect, CFG_BLIND_DETECT_INFO,
+      {
+          FIELD(nChannel),
+          FIELD(bEnable, "Enable", Bool).TrueAtOne(),
+          FIELD(nLevel, "Level", Int),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always(),
+      });
 
-TABLE(kStorageAlarm, CFG_STORAGE_ALARM_INFO, FIELD(bEnable, "Enable", Bool),
-      FIELD(stuEventHandler, "EventHandler", Record(kEventHandler)).Always());
+TABLE(kStorageAlarm, CFG_STORAGE_ALARM_INFO,
+      {
+          FIELD(bEnable, "Enable", Bool),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandler)).Always(),
+      });
 
-TABLE(kStorageLowSpace, CFG_STORAGE_LOWSPACE_INFO, FIELD(bEnable, "Enable", Bool),
-      FIELD(nLowerLimit, "LowerLimit", Int), FIELD(stuEventHandler, "EventHandler", Record(kEventHandler)).Always());
+TABLE(kStorageLowSpace, CFG_STORAGE_LOWSPACE_INFO,
+      {
+          FIELD(bEnable, "Enable", Bool),
+          FIELD(nLowerLimit, "LowerLimit", Int),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandler)).Always(),
+      });
 
 } // namespace orrery

@@ -11,34 +11,44 @@ namespace linkage {
 
 using namespace record;
 
-inline constexpr Name kPtzLinkRows[] = {
-    {CFG_PTZ_LINK_NONE, "None"},
-    {CFG_PTZ_LINK_PRESET, "Preset"},
-    {CFG_PTZ_LINK_TOUR, "Tour"},
-    {CFG_PTZ_LINK_PATTERN, "Pattern"},
-};
-inline constexpr NameTable kPtzLinks = FoldedNames(kPtzLinkRows).Unknown(CFG_PTZ_LINK_NONE);
+NAMES(kPtzLinks, kFolded.Unknown(CFG_PTZ_LINK_NONE),
+      {
+          {CFG_PTZ_LINK_NONE, "None"},
+          {CFG_PTZ_LINK_PRESET, "Preset"},
+          {CFG_PTZ_LINK_TOUR, "Tour"},
+          {CFG_PTZ_LINK_PATTERN, "Pattern"},
+      });
 
-inline constexpr Name kAttachmentRows[] = {{CFG_ATTACHMENT_PICTURE, "picture"}, {CFG_ATTACHMENT_VIDEO, "video"}};
-inline constexpr NameTable kAttachments = FoldedNames(kAttachmentRows).UnknownLeaves();
+NAMES(kAttachments, kFolded.UnknownLeaves(),
+      {
+          {CFG_ATTACHMENT_PICTURE, "picture"},
+          {CFG_ATTACHMENT_VIDEO, "video"},
+      });
 
-inline constexpr Name kTourSplitRows[] = {{0, "Split1"}, {1, "Split8"}};
-inline constexpr NameTable kTourSplits = FoldedNames(kTourSplitRows).UnknownLeaves();
+NAMES(kTourSplits, kFolded.UnknownLeaves(),
+      {
+          {0, "Split1"},
+          {1, "Split8"},
+      });
 
-inline constexpr Name kTalkbackCallerRows[] = {{0, "Device"}};
-inline constexpr NameTable kTalkbackCallers = ExactNames(kTalkbackCallerRows).UnknownLeaves().OutsideWritesNull();
+NAMES(kTalkbackCallers, kExact.UnknownLeaves().OutsideWritesNull(),
+      {
+          {0, "Device"},
+      });
 
-inline constexpr Name kTalkbackProtocolRows[] = {{0, "Cellular"}};
-inline constexpr NameTable kTalkbackProtocols = ExactNames(kTalkbackProtocolRows).UnknownLeaves().OutsideWritesNull();
+NAMES(kTalkbackProtocols, kExact.UnknownLeaves().OutsideWritesNull(),
+      {
+          {0, "Cellular"},
+      });
 
-inline constexpr Name kDoorActionRows[] = {
-    {CFG_ACCESS_CONTROL_AUTO, "Auto"},
-    {CFG_ACCESS_CONTROL_OPEN, "Open"},
-    {CFG_ACCESS_CONTROL_CLOSE, "Close"},
-    {CFG_ACCESS_CONTROL_OPEN_ALWAYS, "OpenAlways"},
-    {CFG_ACCESS_CONTROL_CLOSE_ALWAYS, "CloseAlways"},
-};
-inline constexpr NameTable kDoorActions = ExactNames(kDoorActionRows).UnknownLeaves();
+NAMES(kDoorActions, kExact.UnknownLeaves(),
+      {
+          {CFG_ACCESS_CONTROL_AUTO, "Auto"},
+          {CFG_ACCESS_CONTROL_OPEN, "Open"},
+          {CFG_ACCESS_CONTROL_CLOSE, "Close"},
+          {CFG_ACCESS_CONTROL_OPEN_ALWAYS, "OpenAlways"},
+          {CFG_ACCESS_CONTROL_CLOSE_ALWAYS, "CloseAlways"},
+      });
 
 // Door actions: [ { "Operation" : "Open" }, ... ] into one number a door.
 extern const CustomCodec kDoorActionList;
@@ -54,20 +64,40 @@ bool IsPtzLinkV2(const std::byte* record);
 
 // ---- Parts that both forms share ----
 
-PART(kPtzLink, CFG_PTZ_LINK, FIELD(emType, "", Names(kPtzLinks)), FIELD(nValue, "", Int), FIELD(nParam1, "", Int),
-     FIELD(nParam2, "", Int), FIELD(nParam3, "", Int))
+PART(kPtzLink, CFG_PTZ_LINK,
+     {
+         FIELD(emType, "", Names(kPtzLinks)),
+         FIELD(nValue, "", Int),
+         FIELD(nParam1, "", Int),
+         FIELD(nParam2, "", Int),
+         FIELD(nParam3, "", Int),
+     })
     .As(Shape::Tuple)
     .Writes(IsPtzLink);
 
-PART(kEventTitle, CFG_EVENT_TITLE, FIELD(szText, "Text", Text), FIELD(stuPoint, "Point", Record(kPoint)),
-     FIELD(stuSize, "Size", Record(kSize)), FIELD(stuFrontColor, "FrontColor", Record(kColor)),
-     FIELD(stuBackColor, "BackColor", Record(kColor)));
+PART(kEventTitle, CFG_EVENT_TITLE,
+     {
+         FIELD(szText, "Text", Text),
+         FIELD(stuPoint, "Point", Record(kPoint)),
+         FIELD(stuSize, "Size", Record(kSize)),
+         FIELD(stuFrontColor, "FrontColor", Record(kColor)),
+         FIELD(stuBackColor, "BackColor", Record(kColor)),
+     });
 
-PART(kMailDetail, CFG_MAIL_DETAIL, FIELD(emAttachmentType, "AttachmentType", Names(kAttachments)),
-     FIELD(nMaxSize, "MaxSize", Int), FIELD(nMaxTimeLength, "MaxTimeLength", Int));
+PART(kMailDetail, CFG_MAIL_DETAIL,
+     {
+         FIELD(emAttachmentType, "AttachmentType", Names(kAttachments)),
+         FIELD(nMaxSize, "MaxSize", Int),
+         FIELD(nMaxTimeLength, "MaxTimeLength", Int),
+     });
 
-PART(kMonitorTour, CFG_MONITOR_TOUR, FIELD(bEnable, "Enable", Bool), FIELD(nSplit, "Split", SplitMode),
-     FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)).AnyShape(), FIELD(nChannelCount));
+PART(kMonitorTour, CFG_MONITOR_TOUR,
+     {
+         FIELD(bEnable, "Enable", Bool),
+         FIELD(nSplit, "Split", SplitMode),
+         FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)).AnyShape(),
+         FIELD(nChannelCount),
+     });
 
 // ---- The current form ----
 
@@ -130,78 +160,85 @@ struct EventHandlerRows {
         FIELD(abFlashLatch),
         FIELD(nRecordChannelNum, "SDK_RecordChannel", Int).ReadOnly(),
         FIELD(nAlarmOutChannelNum, "SDK_AlarmOutChannel", Int).ReadOnly(),
-        FIELD(dwRecordMask, "RecordChannels", BitMask).Flag(AT(abRecordMask)),
-        FIELD(bRecordEnable, "RecordEnable", Bool).Flag(AT(abRecordEnable)).Always(),
-        FIELD(nRecordLatch, "RecordLatch", Int).Flag(AT(abRecordLatch)),
-        FIELD(dwAlarmOutMask, "AlarmOutChannels", BitMask).Flag(AT(abAlarmOutMask)).WhenEmpty(Empty::Null),
-        FIELD(bAlarmOutEn, "AlarmOutEnable", Bool).Flag(AT(abAlarmOutEn)).Always(),
-        FIELD(nAlarmOutLatch, "AlarmOutLatch", Int).Flag(AT(abAlarmOutLatch)),
-        FIELD(dwExAlarmOutMask, "ExAlarmOutChannels", BitMask).Flag(AT(abExAlarmOutMask)).WhenEmpty(Empty::Null),
-        FIELD(bExAlarmOutEn, "ExAlarmOutEnable", Bool).Flag(AT(abExAlarmOutEn)),
-        FIELD(bPtzLinkEn, "PtzLinkEnable", Bool).Flag(AT(abPtzLinkEn)),
-        FIELD(dwTourMask, "TourChannels", BitMaskLoose).Flag(AT(abTourMask)).AnyShape(),
-        FIELD(bTourEnable, "TourEnable", Bool).Flag(AT(abTourEnable)).TrueAtOne(),
-        FIELD(dwSnapshot, "SnapshotChannels", BitMask).Flag(AT(abSnapshot)),
-        FIELD(bSnapshotEn, "SnapshotEnable", Bool).Flag(AT(abSnapshotEn)),
-        FIELD(nSnapshotPeriod, "SnapshotPeriod", Int).Flag(AT(abSnapshotPeriod)),
-        FIELD(nSnapshotTimes, "SnapshotTimes", Int).Flag(AT(abSnapshotTimes)),
-        FIELD(bTipEnable, "TipEnable", Bool).Flag(AT(abTipEnable)),
-        FIELD(bMailEnable, "MailEnable", Bool).Flag(AT(abMailEnable)),
-        FIELD(bMessageEnable, "MessageEnable", Bool).Flag(AT(abMessageEnable)),
-        FIELD(bBeepEnable, "BeepEnable", Bool).Flag(AT(abBeepEnable)),
-        FIELD(bVoiceEnable, "VoiceEnable", Bool).Flag(AT(abVoiceEnable)),
-        FIELD(dwMatrixMask, "MatrixChannels", BitMaskLoose).Flag(AT(abMatrixMask)).AnyShape(),
-        FIELD(nMatrixEnable, "MatrixEnable", Int).WrittenAs(Bool).TrueAtOne().Flag(AT(abMatrixEnable)),
-        FIELD(nDejitter, "Dejitter", Int).Flag(AT(abDejitter)),
-        FIELD(bLogEnable, "LogEnable", Bool).Flag(AT(abLogEnable)),
-        FIELD(nDelay, "Delay", Int).Flag(AT(abDelay)),
-        FIELD(bVideoMessageEn, "OnVideoMessageEn", Bool).WriteOnly().TrueAtOne().Flag(AT(abVideoMessageEn)),
-        FIELD(bMMSEnable, "MMSEnable", Bool).Flag(AT(abMMSEnable)),
-        FIELD(nMessageToNetEn, "MessageToNetEnable", Int).WrittenAs(Bool).TrueAtOne().Flag(AT(abMessageToNetEn)),
-        FIELD(nTourSplit, "TourSplit", Names(kTourSplits)).ReadOnly().Flag(AT(abTourSplit)),
-        FIELD(bSnapshotTitleEn, "SnapshotTitleEnable", Bool).Flag(AT(abSnapshotTitleEn)),
+        FIELD(dwRecordMask, "RecordChannels", BitMask).SetsAndNeeds(AT(abRecordMask)),
+        FIELD(bRecordEnable, "RecordEnable", Bool).SetsAndNeeds(AT(abRecordEnable)).Always(),
+        FIELD(nRecordLatch, "RecordLatch", Int).SetsAndNeeds(AT(abRecordLatch)),
+        FIELD(dwAlarmOutMask, "AlarmOutChannels", BitMask).SetsAndNeeds(AT(abAlarmOutMask)).WriteEmpty(Empty::Null),
+        FIELD(bAlarmOutEn, "AlarmOutEnable", Bool).SetsAndNeeds(AT(abAlarmOutEn)).Always(),
+        FIELD(nAlarmOutLatch, "AlarmOutLatch", Int).SetsAndNeeds(AT(abAlarmOutLatch)),
+        FIELD(dwExAlarmOutMask, "ExAlarmOutChannels", BitMask)
+            .SetsAndNeeds(AT(abExAlarmOutMask))
+            .WriteEmpty(Empty::Null),
+        FIELD(bExAlarmOutEn, "ExAlarmOutEnable", Bool).SetsAndNeeds(AT(abExAlarmOutEn)),
+        FIELD(bPtzLinkEn, "PtzLinkEnable", Bool).SetsAndNeeds(AT(abPtzLinkEn)),
+        FIELD(dwTourMask, "TourChannels", BitMaskLoose).SetsAndNeeds(AT(abTourMask)).AnyShape(),
+        FIELD(bTourEnable, "TourEnable", Bool).SetsAndNeeds(AT(abTourEnable)).TrueAtOne(),
+        FIELD(dwSnapshot, "SnapshotChannels", BitMask).SetsAndNeeds(AT(abSnapshot)),
+        FIELD(bSnapshotEn, "SnapshotEnable", Bool).SetsAndNeeds(AT(abSnapshotEn)),
+        FIELD(nSnapshotPeriod, "SnapshotPeriod", Int).SetsAndNeeds(AT(abSnapshotPeriod)),
+        FIELD(nSnapshotTimes, "SnapshotTimes", Int).SetsAndNeeds(AT(abSnapshotTimes)),
+        FIELD(bTipEnable, "TipEnable", Bool).SetsAndNeeds(AT(abTipEnable)),
+        FIELD(bMailEnable, "MailEnable", Bool).SetsAndNeeds(AT(abMailEnable)),
+        FIELD(bMessageEnable, "MessageEnable", Bool).SetsAndNeeds(AT(abMessageEnable)),
+        FIELD(bBeepEnable, "BeepEnable", Bool).SetsAndNeeds(AT(abBeepEnable)),
+        FIELD(bVoiceEnable, "VoiceEnable", Bool).SetsAndNeeds(AT(abVoiceEnable)),
+        FIELD(dwMatrixMask, "MatrixChannels", BitMaskLoose).SetsAndNeeds(AT(abMatrixMask)).AnyShape(),
+        FIELD(nMatrixEnable, "MatrixEnable", Int).WrittenAs(Bool).TrueAtOne().SetsAndNeeds(AT(abMatrixEnable)),
+        FIELD(nDejitter, "Dejitter", Int).SetsAndNeeds(AT(abDejitter)),
+        FIELD(bLogEnable, "LogEnable", Bool).SetsAndNeeds(AT(abLogEnable)),
+        FIELD(nDelay, "Delay", Int).SetsAndNeeds(AT(abDelay)),
+        FIELD(bVideoMessageEn, "OnVideoMessageEn", Bool).WriteOnly().TrueAtOne().SetsAndNeeds(AT(abVideoMessageEn)),
+        FIELD(bMMSEnable, "MMSEnable", Bool).SetsAndNeeds(AT(abMMSEnable)),
+        FIELD(nMessageToNetEn, "MessageToNetEnable", Int)
+            .WrittenAs(Bool)
+            .TrueAtOne()
+            .SetsAndNeeds(AT(abMessageToNetEn)),
+        FIELD(nTourSplit, "TourSplit", Names(kTourSplits)).ReadOnly().SetsAndNeeds(AT(abTourSplit)),
+        FIELD(bSnapshotTitleEn, "SnapshotTitleEnable", Bool).SetsAndNeeds(AT(abSnapshotTitleEn)),
         FIELD(nPtzLinkNum),
-        FIELD(stuPtzLink, "PtzLink", Record(kPtzLink)).Flag(AT(abPtzLink)).Count(AT(nPtzLinkNum)),
+        FIELD(stuPtzLink, "PtzLink", Record(kPtzLink)).SetsAndNeeds(AT(abPtzLink)).Count(AT(nPtzLinkNum)),
         FIELD(nSnapshotTitleNum),
         FIELD(stuSnapshotTitle, "SnapshotTitle", Record(kEventTitle))
-            .Flag(AT(abSnapshotTitle))
+            .SetsAndNeeds(AT(abSnapshotTitle))
             .Count(AT(nSnapshotTitleNum)),
-        FIELD(stuMailDetail, "MailDetail", Record(kMailDetail)).Flag(AT(abMailDetail)),
-        FIELD(bVideoTitleEn, "VideoTitleEnable", Bool).Flag(AT(abVideoTitleEn)),
+        FIELD(stuMailDetail, "MailDetail", Record(kMailDetail)).SetsAndNeeds(AT(abMailDetail)),
+        FIELD(bVideoTitleEn, "VideoTitleEnable", Bool).SetsAndNeeds(AT(abVideoTitleEn)),
         FIELD(nVideoTitleNum),
-        FIELD(stuVideoTitle, "VideoTitle", Record(kEventTitle)).Flag(AT(abVideoTitle)).Count(AT(nVideoTitleNum)),
+        FIELD(stuVideoTitle, "VideoTitle", Record(kEventTitle))
+            .SetsAndNeeds(AT(abVideoTitle))
+            .Count(AT(nVideoTitleNum)),
         FIELD(nTourNum),
-        FIELD(stuTour, "MonitorTour", Record(kMonitorTour)).Flag(AT(abTour)).Count(AT(nTourNum)),
+        FIELD(stuTour, "MonitorTour", Record(kMonitorTour)).SetsAndNeeds(AT(abTour)).Count(AT(nTourNum)),
         FIELD(nDBKeysNum),
-        FIELD(szDBKeys, "DB", Text).Flag(AT(abDBKeys)).Count(AT(nDBKeysNum)).AnyShape(),
-        FIELD(szJpegSummary, "JpegSummary", RawText).Flag(AT(abJpegSummary)),
-        FIELD(bFlashEnable, "FlashEnable", Bool).Flag(AT(abFlashEnable)).TrueAtOne(),
-        FIELD(nFlashLatch, "FlashLatch", Int).Flag(AT(abFlashLatch)),
+        FIELD(szDBKeys, "DB", Text).SetsAndNeeds(AT(abDBKeys)).Count(AT(nDBKeysNum)).AnyShape(),
+        FIELD(szJpegSummary, "JpegSummary", RawText).SetsAndNeeds(AT(abJpegSummary)),
+        FIELD(bFlashEnable, "FlashEnable", Bool).SetsAndNeeds(AT(abFlashEnable)).TrueAtOne(),
+        FIELD(nFlashLatch, "FlashLatch", Int).SetsAndNeeds(AT(abFlashLatch)),
         FIELD(abAudioFileName),
         FIELD(abAlarmBellEn),
         FIELD(abAccessControlEn),
         FIELD(abAccessControl),
-        FIELD(szAudioFileName, "Voice/AudioFileName", Text).Flag(AT(abAudioFileName)),
-        FIELD(bAlarmBellEn, "AlarmBellEnable", Bool).Flag(AT(abAlarmBellEn)),
-        FIELD(bAccessControlEn, "AccessControlEnable", Bool).Flag(AT(abAccessControlEn)),
+        FIELD(szAudioFileName, "Voice/AudioFileName", Text).SetsAndNeeds(AT(abAudioFileName)),
+        FIELD(bAlarmBellEn, "AlarmBellEnable", Bool).SetsAndNeeds(AT(abAlarmBellEn)),
+        FIELD(bAccessControlEn, "AccessControlEnable", Bool).SetsAndNeeds(AT(abAccessControlEn)),
         FIELD(nAccessControlNum),
         FIELD(emAccessControl, "AccessControls", Custom(kDoorActionList))
             .Coded(kDoorActions)
-            .Flag(AT(abAccessControl))
+            .SetsAndNeeds(AT(abAccessControl))
             .Count(AT(nAccessControlNum)),
         FIELD(abTalkback, "Talkback", Presence),
-        FIELD(bTalkbackCallEn, "Talkback/CallEnable", Bool).WhenSet(AT(abTalkback)),
-        FIELD(emTalkbackCaller, "Talkback/Caller", Names(kTalkbackCallers)).WhenSet(AT(abTalkback)),
-        FIELD(emTalkbackProtocol, "Talkback/CallProtocol", Names(kTalkbackProtocols)).WhenSet(AT(abTalkback)),
+        FIELD(bTalkbackCallEn, "Talkback/CallEnable", Bool).WriteIf(AT(abTalkback)),
+        FIELD(emTalkbackCaller, "Talkback/Caller", Names(kTalkbackCallers)).WriteIf(AT(abTalkback)),
+        FIELD(emTalkbackProtocol, "Talkback/CallProtocol", Names(kTalkbackProtocols)).WriteIf(AT(abTalkback)),
         FIELD(abPSTNAlarmServer, "PSTNAlarmServer", Presence),
-        FIELD(bNeedReport, "PSTNAlarmServer/NeedReport", Bool).WhenSet(AT(abPSTNAlarmServer)),
+        FIELD(bNeedReport, "PSTNAlarmServer/NeedReport", Bool).WriteIf(AT(abPSTNAlarmServer)),
         FIELD(nDestinationNum),
         FIELD(byDestination, "PSTNAlarmServer/Destination", UInt)
             .Count(AT(nDestinationNum))
-            .WhenSet(AT(abPSTNAlarmServer)),
+            .WriteIf(AT(abPSTNAlarmServer)),
         FIELD(stuTimeSectionEx, "TimeSection", HolidaySchedule).Writable(Week == WeekIn::Schedule),
         FIELD(abAlarmBellLatch),
-        FIELD(nAlarmBellLatch, "AlarmBellLatch", Int).Flag(AT(abAlarmBellLatch)),
+        FIELD(nAlarmBellLatch, "AlarmBellLatch", Int).SetsAndNeeds(AT(abAlarmBellLatch)),
         Week == WeekIn::Linkage ? FIELD(stuTimeSection, "TimeSection", TimeSection).ReadOnly() : FIELD(stuTimeSection),
         MakeVirtual("TimeSection", Custom(Week == WeekIn::Rule ? kRuleWeekOverSchedule : kWeekOverSchedule))
             .Writable(Week != WeekIn::Schedule),
@@ -210,30 +247,69 @@ struct EventHandlerRows {
 
 // ---- The form with size words ----
 
-PART(kTimeSectionV2, CFG_TIME_SECTION_V2, FIELD(dwSize, nullptr, Size), FIELD(stuSection, "", TimeSection)).Guarded();
-PART(kPointV2, CFG_POINT_V2, FIELD(dwSize, nullptr, Size), FIELD(nX, "", Int), FIELD(nY, "", Int))
+PART(kTimeSectionV2, CFG_TIME_SECTION_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(stuSection, "", TimeSection),
+     })
+    .Guarded();
+PART(kPointV2, CFG_POINT_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(nX, "", Int),
+         FIELD(nY, "", Int),
+     })
     .As(Shape::Tuple)
     .Guarded();
-PART(kSizeV2, CFG_SIZE_V2, FIELD(dwSize, nullptr, Size), FIELD(nWidth, "", Int), FIELD(nHeight, "", Int))
+PART(kSizeV2, CFG_SIZE_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(nWidth, "", Int),
+         FIELD(nHeight, "", Int),
+     })
     .As(Shape::Tuple)
     .Guarded();
-PART(kColorV2, CFG_COLOR_V2, FIELD(dwSize, nullptr, Size), FIELD(nRed, "", Int), FIELD(nGreen, "", Int),
-     FIELD(nBlue, "", Int), FIELD(nAlpha, "", Int))
+PART(kColorV2, CFG_COLOR_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(nRed, "", Int),
+         FIELD(nGreen, "", Int),
+         FIELD(nBlue, "", Int),
+         FIELD(nAlpha, "", Int),
+     })
     .As(Shape::Tuple)
     .Guarded();
 
-PART(kPtzLinkV2, CFG_PTZ_LINK_V2, FIELD(dwSize, nullptr, Size), FIELD(emType, "", Names(kPtzLinks)),
-     FIELD(nValue, "", Int), FIELD(nParam1, "", Int), FIELD(nParam2, "", Int), FIELD(nParam3, "", Int))
+PART(kPtzLinkV2, CFG_PTZ_LINK_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(emType, "", Names(kPtzLinks)),
+         FIELD(nValue, "", Int),
+         FIELD(nParam1, "", Int),
+         FIELD(nParam2, "", Int),
+         FIELD(nParam3, "", Int),
+     })
     .As(Shape::Tuple)
     .Writes(IsPtzLinkV2);
 
-PART(kEventTitleV2, CFG_EVENT_TITLE_V2, FIELD(dwSize, nullptr, Size), FIELD(szText, "Text", Text),
-     FIELD(stuPoint, "Point", Record(kPointV2)), FIELD(stuSize, "Size", Record(kSizeV2)),
-     FIELD(stuFrontColor, "FrontColor", Record(kColorV2)), FIELD(stuBackColor, "BackColor", Record(kColorV2)));
+PART(kEventTitleV2, CFG_EVENT_TITLE_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(szText, "Text", Text),
+         FIELD(stuPoint, "Point", Record(kPointV2)),
+         FIELD(stuSize, "Size", Record(kSizeV2)),
+         FIELD(stuFrontColor, "FrontColor", Record(kColorV2)),
+         FIELD(stuBackColor, "BackColor", Record(kColorV2)),
+     });
 
-PART(kMonitorTourV2, CFG_MONITOR_TOUR_V2, FIELD(dwSize, nullptr, Size), FIELD(bEnable, "Enable", Bool),
-     FIELD(nSplit, "Split", SplitMode), FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)).AnyShape(),
-     FIELD(nChannelCount));
+PART(kMonitorTourV2, CFG_MONITOR_TOUR_V2,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(bEnable, "Enable", Bool),
+         FIELD(nSplit, "Split", SplitMode),
+         FIELD(nChannels, "Channels", Int).Count(AT(nChannelCount)).AnyShape(),
+         FIELD(nChannelCount),
+     });
 
 static_assert(sizeof(CFG_TIME_SECTION_V2) == 32 && sizeof(CFG_POINT_V2) == 12 && sizeof(CFG_SIZE_V2) == 12);
 static_assert(sizeof(CFG_COLOR_V2) == 20 && sizeof(CFG_PTZ_LINK_V2) == 24);
@@ -247,20 +323,20 @@ struct EventHandlerV2Rows {
         FIELD(bRecordEnable, "RecordEnable", Bool).Always(),
         FIELD(nRecordChannels, "RecordChannels", Switches),
         FIELD(abRecordLatch),
-        FIELD(nRecordLatch, "RecordLatch", Int).Flag(AT(abRecordLatch)),
+        FIELD(nRecordLatch, "RecordLatch", Int).SetsAndNeeds(AT(abRecordLatch)),
         FIELD(bAlarmOutEnable, "AlarmOutEnable", Bool).Always(),
         FIELD(nAlarmOutChannels, "AlarmOutChannels", Switches),
         FIELD(abAlarmOutLatch),
-        FIELD(nAlarmOutLatch, "AlarmOutLatch", Int).Flag(AT(abAlarmOutLatch)),
+        FIELD(nAlarmOutLatch, "AlarmOutLatch", Int).SetsAndNeeds(AT(abAlarmOutLatch)),
         FIELD(bExAlarmOutEnable, "ExAlarmOutEnable", Bool).Always(),
         FIELD(nExAlarmOutChannels, "ExAlarmOutChannels", Switches),
         FIELD(bPtzLinkEnable, "PtzLinkEnable", Bool).Always(),
         FIELD(nPtzLinkNum),
-        FIELD(stuPtzLink, "PtzLink", Record(kPtzLinkV2)).Count(AT(nPtzLinkNum)).OnSkipped(Skipped::ClosesUp),
+        FIELD(stuPtzLink, "PtzLink", Record(kPtzLinkV2)).Count(AT(nPtzLinkNum)).WriteSkipped(Skipped::ClosesUp),
         FIELD(bSnapshotEnable, "SnapshotEnable", Bool).Always(),
         FIELD(nSnapshotChannels, "SnapshotChannels", Switches),
         FIELD(abSnapshotPeriod),
-        FIELD(nSnapshotPeriod, "SnapshotPeriod", Int).Flag(AT(abSnapshotPeriod)),
+        FIELD(nSnapshotPeriod, "SnapshotPeriod", Int).SetsAndNeeds(AT(abSnapshotPeriod)),
         FIELD(abSnapshotTimes),
         FIELD(nSnapshotTimes),
         FIELD(bSnapshotTitleEnable, "SnapshotTitleEnable", Bool).Always(),
@@ -272,10 +348,10 @@ struct EventHandlerV2Rows {
         FIELD(bBeepEnable, "BeepEnable", Bool).Always(),
         FIELD(bVoiceEnable, "VoiceEnable", Bool).Always(),
         FIELD(abDejitter),
-        FIELD(nDejitter, "Dejitter", Int).Flag(AT(abDejitter)),
+        FIELD(nDejitter, "Dejitter", Int).SetsAndNeeds(AT(abDejitter)),
         FIELD(bLogEnable, "LogEnable", Bool).Always(),
         FIELD(abDelay),
-        FIELD(nDelay, "Delay", Int).Flag(AT(abDelay)),
+        FIELD(nDelay, "Delay", Int).SetsAndNeeds(AT(abDelay)),
         FIELD(bVideoTitleEnable, "VideoTitleEnable", Bool).Always(),
         FIELD(nVideoTitleNum),
         FIELD(stuVideoTitle, "VideoTitle", Record(kEventTitleV2)).Count(AT(nVideoTitleNum)),

@@ -63,8 +63,12 @@ void WriteGrid(const std::byte* grid, std::uint32_t rows, std::uint32_t cols, bo
 // Missing numbers read as 0.
 constexpr TypedTable<CFG_RECT> kWindowRect = kRect.As(Shape::LooseTuple);
 
-PART(kMotionWindow, CFG_MOTION_WINDOW, FIELD(nThreshold, "Threshold", Int), FIELD(nSensitive, "Sensitive", Int),
-     FIELD(stuWindow, "Window", Record(kWindowRect)));
+PART(kMotionWindow, CFG_MOTION_WINDOW,
+     {
+         FIELD(nThreshold, "Threshold", Int),
+         FIELD(nSensitive, "Sensitive", Int),
+         FIELD(stuWindow, "Window", Record(kWindowRect)),
+     });
 
 // Leftmost cell in the highest of the 22 bits.
 void ReadWindowGrid(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
@@ -89,9 +93,16 @@ void WriteWindowGrid(const Field& field, const std::byte* record, WriteCall& cal
 
 constexpr CustomCodec kWindowGrid{ReadWindowGrid, WriteWindowGrid, "[4194303,5,0]"};
 
-PART(kMotionRegionWindow, CFG_MOTION_REGION_WINDOW, FIELD(nId, "Id", Int), FIELD(szName, "Name", Text),
-     FIELD(nThreshold, "Threshold", Int), FIELD(nSensitive, "Sensitive", Int), FIELD(nRow), FIELD(nCol),
-     FIELD(byRegion, "Region", Custom(kWindowGrid)).Count(AT(nRow)));
+PART(kMotionRegionWindow, CFG_MOTION_REGION_WINDOW,
+     {
+         FIELD(nId, "Id", Int),
+         FIELD(szName, "Name", Text),
+         FIELD(nThreshold, "Threshold", Int),
+         FIELD(nSensitive, "Sensitive", Int),
+         FIELD(nRow),
+         FIELD(nCol),
+         FIELD(byRegion, "Region", Custom(kWindowGrid)).Count(AT(nRow)),
+     });
 
 constexpr std::size_t kWindowsAt = offsetof(CFG_MOTION_DETECT_INFO, stuWindow);
 constexpr std::size_t kRegionWindowsAt = offsetof(CFG_MOTION_DETECT_INFO, stuRegionWindow);
@@ -203,17 +214,30 @@ void MarkMotionDetectRead(std::byte* record) {
     SET_MEMBER(record, CFG_MOTION_DETECT_INFO, bRead, 1);
 }
 
-TABLE(kMotionDetect, CFG_MOTION_DETECT_INFO, MakeVirtual("DetectVersion", Custom(kVersion)), FIELD(nChannel),
-      FIELD(bEnable, "Enable", Bool), FIELD(nLevel, "Level", Int).Flag(AT(abLevel)).When(IsWholePicture),
-      FIELD(nRow, "Row", Int).AtMost(ORRERY_MOTION_ROWS).When(IsWholePicture),
-      FIELD(nCol, "Col", Int).AtMost(ORRERY_MOTION_COLS).When(IsWholePicture),
-      FIELD(byRegion, "Region", Custom(kGrid)).Count(AT(nRow)).When(IsWholePicture),
-      FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)), FIELD(bRead), FIELD(abLevel),
-      FIELD(abVolumeRatio), FIELD(nVolumeRatio, "VolumeRatio", Int).Flag(AT(abVolumeRatio)), FIELD(abSubRatio),
-      FIELD(nSubRatio, "SubRatio", Int).Flag(AT(abSubRatio)), FIELD(abWindow), FIELD(nWindowNum),
-      FIELD(stuWindow, nullptr, Record(kMotionWindow)).Count(AT(nWindowNum)), FIELD(abRegionWindow),
-      FIELD(nRegionWindowNum), FIELD(stuRegionWindow, nullptr, Record(kMotionRegionWindow)).Count(AT(nRegionWindowNum)),
-      MakeVirtual("MotionDetectWindow", Custom(kWindows)))
+TABLE(kMotionDetect, CFG_MOTION_DETECT_INFO,
+      {
+          MakeVirtual("DetectVersion", Custom(kVersion)),
+          FIELD(nChannel),
+          FIELD(bEnable, "Enable", Bool),
+          FIELD(nLevel, "Level", Int).SetsAndNeeds(AT(abLevel)).WriteIf(IsWholePicture),
+          FIELD(nRow, "Row", Int).WriteAtMost(ORRERY_MOTION_ROWS).WriteIf(IsWholePicture),
+          FIELD(nCol, "Col", Int).WriteAtMost(ORRERY_MOTION_COLS).WriteIf(IsWholePicture),
+          FIELD(byRegion, "Region", Custom(kGrid)).Count(AT(nRow)).WriteIf(IsWholePicture),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)),
+          FIELD(bRead),
+          FIELD(abLevel),
+          FIELD(abVolumeRatio),
+          FIELD(nVolumeRatio, "VolumeRatio", Int).SetsAndNeeds(AT(abVolumeRatio)),
+          FIELD(abSubRatio),
+          FIELD(nSubRatio, "SubRatio", Int).SetsAndNeeds(AT(abSubRatio)),
+          FIELD(abWindow),
+          FIELD(nWindowNum),
+          FIELD(stuWindow, nullptr, Record(kMotionWindow)).Count(AT(nWindowNum)),
+          FIELD(abRegionWindow),
+          FIELD(nRegionWindowNum),
+          FIELD(stuRegionWindow, nullptr, Record(kMotionRegionWindow)).Count(AT(nRegionWindowNum)),
+          MakeVirtual("MotionDetectWindow", Custom(kWindows)),
+      })
     .AfterRead(FillGridSize);
 
 } // namespace orrery

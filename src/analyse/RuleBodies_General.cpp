@@ -7,240 +7,557 @@ namespace orrery::rules {
 
 namespace {
 
-constexpr Name kLineDirectionRows[] = {
-    {CFG_LINE_LEFT_TO_RIGHT, "LeftToRight"}, {CFG_LINE_RIGHT_TO_LEFT, "RightToLeft"}, {CFG_LINE_BOTH, "Both"}};
-constexpr NameTable kLineDirections = ExactNames(kLineDirectionRows);
+NAMES(kLineDirections, kExact,
+      {
+          {CFG_LINE_LEFT_TO_RIGHT, "LeftToRight"},
+          {CFG_LINE_RIGHT_TO_LEFT, "RightToLeft"},
+          {CFG_LINE_BOTH, "Both"},
+      });
 
-constexpr Name kRegionDirectionRows[] = {
-    {CFG_REGION_ENTER, "Enter"}, {CFG_REGION_LEAVE, "Leave"}, {CFG_REGION_BOTH, "Both"}};
-constexpr NameTable kRegionDirections = ExactNames(kRegionDirectionRows);
+NAMES(kRegionDirections, kExact,
+      {
+          {CFG_REGION_ENTER, "Enter"},
+          {CFG_REGION_LEAVE, "Leave"},
+          {CFG_REGION_BOTH, "Both"},
+      });
 
-constexpr Name kRegionActionRows[] = {{CFG_REGION_ACTION_APPEAR, "Appear"},
-                                      {CFG_REGION_ACTION_DISAPPEAR, "Disappear"},
-                                      {CFG_REGION_ACTION_INSIDE, "Inside"},
-                                      {CFG_REGION_ACTION_CROSS, "Cross"}};
-constexpr NameTable kRegionActions = ExactNames(kRegionActionRows);
+NAMES(kRegionActions, kExact,
+      {
+          {CFG_REGION_ACTION_APPEAR, "Appear"},
+          {CFG_REGION_ACTION_DISAPPEAR, "Disappear"},
+          {CFG_REGION_ACTION_INSIDE, "Inside"},
+          {CFG_REGION_ACTION_CROSS, "Cross"},
+      });
 
-constexpr Name kAbnormalityRows[] = {{CFG_ABNORMAL_LOSS, "Loss"},
-                                     {CFG_ABNORMAL_COVER, "Cover"},
-                                     {CFG_ABNORMAL_FROZEN, "Frozen"},
-                                     {CFG_ABNORMAL_LIGHT, "Light"},
-                                     {CFG_ABNORMAL_DARK, "Dark"},
-                                     {CFG_ABNORMAL_SCENE_CHANGE, "SceneChange"},
-                                     {CFG_ABNORMAL_STRIATION, "Striation"},
-                                     {CFG_ABNORMAL_NOISE, "Noise"},
-                                     {CFG_ABNORMAL_UNBALANCE, "Unbalance"},
-                                     {CFG_ABNORMAL_BLUR, "Blur"},
-                                     {CFG_ABNORMAL_CONTRAST, "Contrast"},
-                                     {CFG_ABNORMAL_MOTION, "Motion"},
-                                     {CFG_ABNORMAL_FILCKERING, "Filckering"},
-                                     {CFG_ABNORMAL_COLOR, "Color"},
-                                     {CFG_ABNORMAL_UN_FOCUS, "UnFocus"},
-                                     {CFG_ABNORMAL_OVER_EXPOSURE, "OverExposure"}};
-constexpr NameTable kAbnormalities = ExactNames(kAbnormalityRows);
+NAMES(kAbnormalities, kExact,
+      {
+          {CFG_ABNORMAL_LOSS, "Loss"},
+          {CFG_ABNORMAL_COVER, "Cover"},
+          {CFG_ABNORMAL_FROZEN, "Frozen"},
+          {CFG_ABNORMAL_LIGHT, "Light"},
+          {CFG_ABNORMAL_DARK, "Dark"},
+          {CFG_ABNORMAL_SCENE_CHANGE, "SceneChange"},
+          {CFG_ABNORMAL_STRIATION, "Striation"},
+          {CFG_ABNORMAL_NOISE, "Noise"},
+          {CFG_ABNORMAL_UNBALANCE, "Unbalance"},
+          {CFG_ABNORMAL_BLUR, "Blur"},
+          {CFG_ABNORMAL_CONTRAST, "Contrast"},
+          {CFG_ABNORMAL_MOTION, "Motion"},
+          {CFG_ABNORMAL_FILCKERING, "Filckering"},
+          {CFG_ABNORMAL_COLOR, "Color"},
+          {CFG_ABNORMAL_UN_FOCUS, "UnFocus"},
+          {CFG_ABNORMAL_OVER_EXPOSURE, "OverExposure"},
+      });
 
-constexpr Name kRecognitionModeRows[] = {
-    {CFG_RECOGNITION_NORMAL, "Normal"}, {CFG_RECOGNITION_AREA, "Area"}, {CFG_RECOGNITION_AUTO, "Auto"}};
-constexpr NameTable kRecognitionModes = ExactNames(kRecognitionModeRows);
+NAMES(kRecognitionModes, kExact,
+      {
+          {CFG_RECOGNITION_NORMAL, "Normal"},
+          {CFG_RECOGNITION_AREA, "Area"},
+          {CFG_RECOGNITION_AUTO, "Auto"},
+      });
 
-constexpr Name kFaceAreaRows[] = {{CFG_FACE_AREA_EYEBROW, "Eyebrow"}, {CFG_FACE_AREA_EYE, "Eye"},
-                                  {CFG_FACE_AREA_NOSE, "Nose"},       {CFG_FACE_AREA_MOUTH, "Mouth"},
-                                  {CFG_FACE_AREA_CHEEK, "Cheek"},     {CFG_FACE_AREA_EYEBROW, "Eyebrow "}};
-constexpr NameTable kFaceAreas = ExactNames(kFaceAreaRows);
+NAMES(kFaceAreas, kExact,
+      {
+          {CFG_FACE_AREA_EYEBROW, "Eyebrow"},
+          {CFG_FACE_AREA_EYE, "Eye"},
+          {CFG_FACE_AREA_NOSE, "Nose"},
+          {CFG_FACE_AREA_MOUTH, "Mouth"},
+          {CFG_FACE_AREA_CHEEK, "Cheek"},
+          {CFG_FACE_AREA_EYEBROW, "Eyebrow "},
+      });
 
-constexpr Name kFightModeRows[] = {
-    {CFG_FIGHT_UNSET, ""}, {CFG_FIGHT_BY_VIDEO, "ByVideo"}, {CFG_FIGHT_BY_AUDIO, "ByAudio"}, {CFG_FIGHT_BOTH, "Both"}};
-constexpr NameTable kFightModes = ExactNames(kFightModeRows).Unknown(CFG_FIGHT_UNKNOWN);
+NAMES(kFightModes, kExact.Unknown(CFG_FIGHT_UNKNOWN),
+      {
+          {CFG_FIGHT_UNSET, ""},
+          {CFG_FIGHT_BY_VIDEO, "ByVideo"},
+          {CFG_FIGHT_BY_AUDIO, "ByAudio"},
+          {CFG_FIGHT_BOTH, "Both"},
+      });
 
-constexpr Name kMoveTypeRows[] = {{CFG_MOTION_FAST, "FastMove"},
-                                  {CFG_MOTION_ABRUPT_SPEEDUP, "AbruptSpeedup"},
-                                  {CFG_MOTION_ABRUPT_SLOWDOWN, "AbruptSlowdown"}};
-constexpr NameTable kMoveTypes = ExactNames(kMoveTypeRows);
+NAMES(kMoveTypes, kExact,
+      {
+          {CFG_MOTION_FAST, "FastMove"},
+          {CFG_MOTION_ABRUPT_SPEEDUP, "AbruptSpeedup"},
+          {CFG_MOTION_ABRUPT_SLOWDOWN, "AbruptSlowdown"},
+      });
 
-constexpr Name kRunTypeRows[] = {{CFG_MOTION_FAST, "FastRun"},
-                                 {CFG_MOTION_ABRUPT_SPEEDUP, "AbruptSpeedup"},
-                                 {CFG_MOTION_ABRUPT_SLOWDOWN, "AbruptSlowdown"}};
-constexpr NameTable kRunTypes = ExactNames(kRunTypeRows);
+NAMES(kRunTypes, kExact,
+      {
+          {CFG_MOTION_FAST, "FastRun"},
+          {CFG_MOTION_ABRUPT_SPEEDUP, "AbruptSpeedup"},
+          {CFG_MOTION_ABRUPT_SLOWDOWN, "AbruptSlowdown"},
+      });
 
-constexpr Name kNumberStatTypeRows[] = {
-    {CFG_NUMBERSTAT_REGION, "Region"}, {CFG_NUMBERSTAT_ENTRANCE, "Entrance"}, {CFG_NUMBERSTAT_UNSET, ""}};
-constexpr NameTable kNumberStatTypes = ExactNames(kNumberStatTypeRows).UnknownLeaves();
+NAMES(kNumberStatTypes, kExact.UnknownLeaves(),
+      {
+          {CFG_NUMBERSTAT_REGION, "Region"},
+          {CFG_NUMBERSTAT_ENTRANCE, "Entrance"},
+          {CFG_NUMBERSTAT_UNSET, ""},
+      });
 
-constexpr Name kLeaveModeRows[] = {
-    {CFG_LEAVE_UNSET, ""}, {CFG_LEAVE_BY_PATROL, "ByPatrol"}, {CFG_LEAVE_BY_SENTRY, "BySentry"}};
-constexpr NameTable kLeaveModes = ExactNames(kLeaveModeRows).Unknown(CFG_LEAVE_UNKNOWN);
+NAMES(kLeaveModes, kExact.Unknown(CFG_LEAVE_UNKNOWN),
+      {
+          {CFG_LEAVE_UNSET, ""},
+          {CFG_LEAVE_BY_PATROL, "ByPatrol"},
+          {CFG_LEAVE_BY_SENTRY, "BySentry"},
+      });
 
-constexpr Name kLeaveTriggerRows[] = {{CFG_LEAVE_TRIGGER_NO_PERSON, "NoPerson"},
-                                      {CFG_LEAVE_TRIGGER_LEAVE, "Leave"},
-                                      {CFG_LEAVE_TRIGGER_STATIC, "Static"}};
-constexpr NameTable kLeaveTriggers = ExactNames(kLeaveTriggerRows).OutsideWrites("Unknown");
+NAMES(kLeaveTriggers, kExact.OutsideWrites("Unknown"),
+      {
+          {CFG_LEAVE_TRIGGER_NO_PERSON, "NoPerson"},
+          {CFG_LEAVE_TRIGGER_LEAVE, "Leave"},
+          {CFG_LEAVE_TRIGGER_STATIC, "Static"},
+      });
 
 // Read only as a whole.
 constexpr TypedTable<CFG_RULE_BOX> kExactBox = kBox.As(Shape::Tuple);
 
-PART(kCrowdRegion, CFG_RULE_CROWD_REGION, FIELD(stuRegion, "Region", Record(kAnyCorner)),
-     FIELD(nPeopleNumLimit, "PeopleNumLimit", UInt));
+PART(kCrowdRegion, CFG_RULE_CROWD_REGION,
+     {
+         FIELD(stuRegion, "Region", Record(kAnyCorner)),
+         FIELD(nPeopleNumLimit, "PeopleNumLimit", UInt),
+     });
 
 } // namespace
 
-TABLE(kCrossLine, CFG_RULE_CROSSLINE_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS,
-      CONFIG(nDirection, "Direction", Names(kLineDirections)), CONFIG_LINE, RULE_LINKAGE, FIELD(bClearTimeSection),
-      RULE_PRESET, CONFIG_FILTER, CONFIG_POSITIONS, CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kCrossLine, CFG_RULE_CROSSLINE_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG(nDirection, "Direction", Names(kLineDirections)),
+          CONFIG_LINE,
+          RULE_LINKAGE,
+          FIELD(bClearTimeSection),
+          RULE_PRESET,
+          CONFIG_FILTER,
+          CONFIG_POSITIONS,
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kCrossFence, CFG_RULE_CROSSFENCE_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS,
-      CONFIG(nDirection, "Direction", Names(kLineDirections)),
-      CONFIG_SHAPE(nUpstairsLinePoint, stuUpstairsLine, "UpstairsLine"),
-      CONFIG_SHAPE(nDownstairsLinePoint, stuDownstairsLine, "DownstairsLine"), RULE_TAIL, CONFIG_FILTER,
-      CONFIG_POSITIONS, CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kCrossFence, CFG_RULE_CROSSFENCE_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG(nDirection, "Direction", Names(kLineDirections)),
+          CONFIG_SHAPE(nUpstairsLinePoint, stuUpstairsLine, "UpstairsLine"),
+          CONFIG_SHAPE(nDownstairsLinePoint, stuDownstairsLine, "DownstairsLine"),
+          RULE_TAIL,
+          CONFIG_FILTER,
+          CONFIG_POSITIONS,
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kCrossRegion, CFG_RULE_CROSSREGION_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS,
-      CONFIG(nDirection, "Direction", Names(kRegionDirections)), CONFIG_REGION, RULE_LINKAGE, FIELD(bClearTimeSection),
-      RULE_PRESET, CONFIG_FILTER, CONFIG_CODES(nActionNum, byAction, "Action", kRegionActions),
-      CONFIG(nMinTargets, "MinTargets", Int), CONFIG(nMaxTargets, "MaxTargets", Int),
-      CONFIG(nMinDuration, "MinDuration", Int), CONFIG(nReportInterval, "ReportInterval", Int),
-      CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kCrossRegion, CFG_RULE_CROSSREGION_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG(nDirection, "Direction", Names(kRegionDirections)),
+          CONFIG_REGION,
+          RULE_LINKAGE,
+          FIELD(bClearTimeSection),
+          RULE_PRESET,
+          CONFIG_FILTER,
+          CONFIG_CODES(nActionNum, byAction, "Action", kRegionActions),
+          CONFIG(nMinTargets, "MinTargets", Int),
+          CONFIG(nMaxTargets, "MaxTargets", Int),
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG(nReportInterval, "ReportInterval", Int),
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kFire, CFG_RULE_FIRE_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG(nMinDuration, "MinDuration", Int), CONFIG_REGION,
-      CONFIG(nSensitivity, "Sensitivity", Int), RULE_TAIL);
+TABLE(kFire, CFG_RULE_FIRE_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          CONFIG(nSensitivity, "Sensitivity", Int),
+          RULE_TAIL,
+      });
 
-TABLE(kPreservation, CFG_RULE_PRESERVATION_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG(nMinDuration, "MinDuration", Int),
-      CONFIG_REGION, RULE_TAIL);
+TABLE(kPreservation, CFG_RULE_PRESERVATION_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          RULE_TAIL,
+      });
 
-TABLE(kFight, CFG_RULE_FIGHT_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG(nMinDuration, "MinDuration", Int), CONFIG_REGION,
-      CONFIG(nSensitivity, "Sensitivity", Int), CONFIG(nDetectMode, "DetectMode", Names(kFightModes)), RULE_TAIL);
+TABLE(kFight, CFG_RULE_FIGHT_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          CONFIG(nSensitivity, "Sensitivity", Int),
+          CONFIG(nDetectMode, "DetectMode", Names(kFightModes)),
+          RULE_TAIL,
+      });
 
-TABLE(kMove, CFG_RULE_MOVE_INFO, RULE_HEAD, RULE_TRACK, CONFIG(bySensitivity, "Sensitivity", Int), RULE_OBJECTS,
-      CONFIG(nMinDuration, "MinDuration", Int), CONFIG_REGION, CONFIG(nTriggerSpeed, "TriggerSpeed", Int), RULE_TAIL,
-      CONFIG_POSITIONS, CONFIG_FILTER, CONFIG_CODES(nDetectTypeNum, byDetectType, "DetectType", kMoveTypes),
-      CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kMove, CFG_RULE_MOVE_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          CONFIG(nTriggerSpeed, "TriggerSpeed", Int),
+          RULE_TAIL,
+          CONFIG_POSITIONS,
+          CONFIG_FILTER,
+          CONFIG_CODES(nDetectTypeNum, byDetectType, "DetectType", kMoveTypes),
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kStay, CFG_RULE_STAY_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS, CONFIG(nMinDuration, "MinDuration", Int),
-      CONFIG_REGION, RULE_TAIL, CONFIG_POSITIONS, CONFIG(nTriggerTargetsNumber, "TriggerTargetsNumber", Int),
-      CONFIG(nReportInterval, "ReportInterval", Int), CONFIG_FILTER, CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kStay, CFG_RULE_STAY_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          RULE_TAIL,
+          CONFIG_POSITIONS,
+          CONFIG(nTriggerTargetsNumber, "TriggerTargetsNumber", Int),
+          CONFIG(nReportInterval, "ReportInterval", Int),
+          CONFIG_FILTER,
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kLeft, CFG_RULE_LEFT_INFO, RULE_HEAD, RULE_TRACK_READ_ONLY, RULE_OBJECTS,
-      CONFIG(nMinDuration, "MinDuration", Int), CONFIG_REGION, RULE_TAIL, CONFIG_POSITIONS, CONFIG_FILTER,
-      CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kLeft, CFG_RULE_LEFT_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK_READ_ONLY,
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          RULE_TAIL,
+          CONFIG_POSITIONS,
+          CONFIG_FILTER,
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kRioter, CFG_RULE_RIOTER_INFO, RULE_HEAD, RULE_TRACK, CONFIG(byAreaPercent, "AreaPercent", Int),
-      CONFIG(bySensitivity, "Sensitivity", Int), RULE_OBJECTS, CONFIG(nMinDuration, "MinDuration", Int), CONFIG_REGION,
-      CONFIG(nReportInterval, "ReportInterval", UInt), CONFIG(stuMinDetectRect, "MinDetectRect", Record(kExactBox)),
-      RULE_TAIL, CONFIG(nTrackDuration, "TrackDuration", Int));
+TABLE(kRioter, CFG_RULE_RIOTER_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          CONFIG(byAreaPercent, "AreaPercent", Int),
+          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          CONFIG(nReportInterval, "ReportInterval", UInt),
+          CONFIG(stuMinDetectRect, "MinDetectRect", Record(kExactBox)),
+          RULE_TAIL,
+          CONFIG(nTrackDuration, "TrackDuration", Int),
+      });
 
-TABLE(kFlowStat, CFG_RULE_FLOWSTAT_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG(nUpperLimit, "UpperLimit", Int),
-      CONFIG(nPeriod, "Period", Int), CONFIG_LINE, RULE_TAIL);
+TABLE(kFlowStat, CFG_RULE_FLOWSTAT_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(nUpperLimit, "UpperLimit", Int),
+          CONFIG(nPeriod, "Period", Int),
+          CONFIG_LINE,
+          RULE_TAIL,
+      });
 
-TABLE(kNumberStat, CFG_RULE_NUMBERSTAT_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG(nUpperLimit, "UpperLimit", Int),
-      CONFIG(nPeriod, "ReportInterval", Int), CONFIG_REGION, RULE_TAIL, CONFIG(nType, "Type", Names(kNumberStatTypes)),
-      CONFIG(stuDirection, "Direction", Record(kAnyCorner)), CONFIG(nRecordInterval, "RecordInterval", Int),
-      CONFIG(nEnterThreshold, "EnterThreshold", Int), CONFIG(nExitThreshold, "ExitThreshold", Int),
-      CONFIG(nInsideThreshold, "InsideThreshold", Int), CONFIG(nPlanId, "PlanId", UInt).Unless(0));
+TABLE(kNumberStat, CFG_RULE_NUMBERSTAT_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(nUpperLimit, "UpperLimit", Int),
+          CONFIG(nPeriod, "ReportInterval", Int),
+          CONFIG_REGION,
+          RULE_TAIL,
+          CONFIG(nType, "Type", Names(kNumberStatTypes)),
+          CONFIG(stuDirection, "Direction", Record(kAnyCorner)),
+          CONFIG(nRecordInterval, "RecordInterval", Int),
+          CONFIG(nEnterThreshold, "EnterThreshold", Int),
+          CONFIG(nExitThreshold, "ExitThreshold", Int),
+          CONFIG(nInsideThreshold, "InsideThreshold", Int),
+          CONFIG(nPlanId, "PlanId", UInt).WriteUnless(0),
+      });
 
-TABLE(kRetrograde, CFG_RULE_RETROGRADE_INFO, RULE_HEAD, CONFIG(bySensitivity, "Sensitivity", Int), RULE_OBJECTS,
-      CONFIG_REGION, CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"), RULE_TAIL, CONFIG_FILTER,
-      CONFIG_POSITIONS);
+TABLE(kRetrograde, CFG_RULE_RETROGRADE_INFO,
+      {
+          RULE_HEAD,
+          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"),
+          RULE_TAIL,
+          CONFIG_FILTER,
+          CONFIG_POSITIONS,
+      });
 
-TABLE(kDensity, CFG_RULE_DENSITY_INFO, RULE_HEAD, CONFIG(byUnit, "Unit", Int),
-      CONFIG(bySensitivity, "Sensitivity", Int), CONFIG(byMinAlarmDensity, "MinAlarmDensity", Int), RULE_OBJECTS,
-      CONFIG(nMinDuration, "MinDuration", Int).WriteOnly(), CONFIG_REGION, RULE_TAIL);
+TABLE(kDensity, CFG_RULE_DENSITY_INFO,
+      {
+          RULE_HEAD,
+          CONFIG(byUnit, "Unit", Int),
+          CONFIG(bySensitivity, "Sensitivity", Int),
+          CONFIG(byMinAlarmDensity, "MinAlarmDensity", Int),
+          RULE_OBJECTS,
+          CONFIG(nMinDuration, "MinDuration", Int).WriteOnly(),
+          CONFIG_REGION,
+          RULE_TAIL,
+      });
 
-TABLE(kRun, CFG_RULE_RUN_INFO, RULE_HEAD, RULE_TRACK, CONFIG(bySensitivity, "Sensitivity", Int), RULE_OBJECTS,
-      CONFIG_REGION, RULE_TAIL, CONFIG_FILTER, CONFIG_POSITIONS,
-      CONFIG_CODES(nDetectTypeNum, byDetectType, "DetectType", kRunTypes), CONFIG(nTriggerSpeed, "TriggerSpeed", Int),
-      CONFIG(nMinDuration, "MinDuration", Int));
+TABLE(kRun, CFG_RULE_RUN_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          RULE_TAIL,
+          CONFIG_FILTER,
+          CONFIG_POSITIONS,
+          CONFIG_CODES(nDetectTypeNum, byDetectType, "DetectType", kRunTypes),
+          CONFIG(nTriggerSpeed, "TriggerSpeed", Int),
+          CONFIG(nMinDuration, "MinDuration", Int),
+      });
 
-TABLE(kVideoAbnormal, CFG_RULE_VIDEOABNORMAL_INFO, RULE_HEAD, CONFIG(bySensitivity, "Sensitivity", Int), RULE_OBJECTS,
-      CONFIG_CODES(nDetectTypeNum, byDetectType, "DetectType", kAbnormalities),
-      CONFIG(nMinDuration, "MinDuration", Int), CONFIG_REGION, FIELD(nThresholdNum),
-      CONFIG(nThreshold, "Threshold", Int).Count(AT(nThresholdNum)), RULE_TAIL);
+TABLE(kVideoAbnormal, CFG_RULE_VIDEOABNORMAL_INFO,
+      {
+          RULE_HEAD,
+          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_OBJECTS,
+          CONFIG_CODES(nDetectTypeNum, byDetectType, "DetectType", kAbnormalities),
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG_REGION,
+          FIELD(nThresholdNum),
+          CONFIG(nThreshold, "Threshold", Int).Count(AT(nThresholdNum)),
+          RULE_TAIL,
+      });
 
-TABLE(kFaceRecognition, CFG_RULE_FACERECOGNITION_INFO, RULE_HEAD, CONFIG(bySimilarity, "Similarity", Int),
-      CONFIG(byAccuracy, "Accuracy", Int), CONFIG(byMode, "Mode", Names(kRecognitionModes)),
-      CONFIG(byImportant, "Important", Int), RULE_OBJECTS, CONFIG_CODES(nAreaNum, byAreas, "Areas", kFaceAreas),
-      CONFIG(nMaxCandidate, "MaxCandidate", Int), RULE_TAIL);
+TABLE(kFaceRecognition, CFG_RULE_FACERECOGNITION_INFO,
+      {
+          RULE_HEAD,
+          CONFIG(bySimilarity, "Similarity", Int),
+          CONFIG(byAccuracy, "Accuracy", Int),
+          CONFIG(byMode, "Mode", Names(kRecognitionModes)),
+          CONFIG(byImportant, "Important", Int),
+          RULE_OBJECTS,
+          CONFIG_CODES(nAreaNum, byAreas, "Areas", kFaceAreas),
+          CONFIG(nMaxCandidate, "MaxCandidate", Int),
+          RULE_TAIL,
+      });
 
-TABLE(kFaceDetection, CFG_RULE_FACEDETECTION_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION, FIELD(nHumanFaceTypeNum),
-      CONFIG(szHumanFaceTypes, "HumanFaceTypes", Text)
-          .Count(AT(nHumanFaceTypeNum))
-          .OnNull(Nulls::CloseUp)
-          .FirstBytes(kMostTextBytes),
-      RULE_TAIL, CONFIG(nMinDuration, "MinDuration", Int), CONFIG(nSensitivity, "Sensitivity", Int),
-      CONFIG(nReportInterval, "ReportInterval", Int), CONFIG_FILTER, CONFIG(bFeatureEnable, "FeatureEnable", Bool),
-      CONFIG_ALL_CODES(nFeatureNum, nFeatures, "FeatureList", kFaceFeatures));
+TABLE(kFaceDetection, CFG_RULE_FACEDETECTION_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          FIELD(nHumanFaceTypeNum),
+          CONFIG(szHumanFaceTypes, "HumanFaceTypes", Text)
+              .Count(AT(nHumanFaceTypeNum))
+              .NullElement(Nulls::CloseUp)
+              .FirstBytes(kMostTextBytes),
+          RULE_TAIL,
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG(nSensitivity, "Sensitivity", Int),
+          CONFIG(nReportInterval, "ReportInterval", Int),
+          CONFIG_FILTER,
+          CONFIG(bFeatureEnable, "FeatureEnable", Bool),
+          CONFIG_ALL_CODES(nFeatureNum, nFeatures, "FeatureList", kFaceFeatures),
+      });
 
-TABLE(kFaceAnalysis, CFG_RULE_FACEANALYSIS_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG(nSensitivity, "Sensitivity", Int), RULE_TAIL, CONFIG_FILTER, CONFIG(bFeatureEnable, "FeatureEnable", Bool),
-      CONFIG_ALL_CODES(nFeatureNum, nFeatures, "FeatureList", kFaceFeatures));
+TABLE(kFaceAnalysis, CFG_RULE_FACEANALYSIS_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG(nSensitivity, "Sensitivity", Int),
+          RULE_TAIL,
+          CONFIG_FILTER,
+          CONFIG(bFeatureEnable, "FeatureEnable", Bool),
+          CONFIG_ALL_CODES(nFeatureNum, nFeatures, "FeatureList", kFaceFeatures),
+      });
 
-TABLE(kPrisonerRise, CFG_RULE_PRISONERRISE_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG(stuDirection, "Direction", Record(kAnyCorner)),
-      CONFIG(stuBedMiddleLine, "BedMiddleLine", Record(kAnyCorner)), CONFIG(nBedSide, "BedSide", Int),
-      CONFIG(nMinDuration, "MinDuration", Int), CONFIG(nReportInterval, "ReportInterval", Int), RULE_TAIL,
-      CONFIG_FILTER);
+TABLE(kPrisonerRise, CFG_RULE_PRISONERRISE_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG(stuDirection, "Direction", Record(kAnyCorner)),
+          CONFIG(stuBedMiddleLine, "BedMiddleLine", Record(kAnyCorner)),
+          CONFIG(nBedSide, "BedSide", Int),
+          CONFIG(nMinDuration, "MinDuration", Int),
+          CONFIG(nReportInterval, "ReportInterval", Int),
+          RULE_TAIL,
+          CONFIG_FILTER,
+      });
 
-TABLE(kQueue, CFG_RULE_QUEUE_INFO, RULE_HEAD, RULE_OBJECTS,
-      CONFIG(stuDetectLine, "DetectLine", Record(kAnyCorner)).Exactly(),
-      CONFIG(nOccupyLineMargin, "OccupyLineMargin", Int), CONFIG(nTriggerTime, "TriggerTime", Int), RULE_TAIL);
+TABLE(kQueue, CFG_RULE_QUEUE_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(stuDetectLine, "DetectLine", Record(kAnyCorner)).Exactly(),
+          CONFIG(nOccupyLineMargin, "OccupyLineMargin", Int),
+          CONFIG(nTriggerTime, "TriggerTime", Int),
+          RULE_TAIL,
+      });
 
-TABLE(kAudioAbnormal, CFG_RULE_AUDIOABNORMAL_INFO, RULE_NAME, CONFIG(nDecibel, "Decibel", Int),
-      CONFIG(nFrequency, "Frequency", Int), CONFIG(nMinDuration, "MinDuration", Int),
-      FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerRule)), RULE_WEEK);
+TABLE(kAudioAbnormal, CFG_RULE_AUDIOABNORMAL_INFO,
+      {
+          RULE_NAME,
+          CONFIG(nDecibel, "Decibel", Int),
+          CONFIG(nFrequency, "Frequency", Int),
+          CONFIG(nMinDuration, "MinDuration", Int),
+          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerRule)),
+          RULE_WEEK,
+      });
 
-TABLE(kClimb, CFG_RULE_CLIMB_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_LINE, RULE_TAIL, CONFIG_FILTER);
+TABLE(kClimb, CFG_RULE_CLIMB_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_LINE,
+          RULE_TAIL,
+          CONFIG_FILTER,
+      });
 
-TABLE(kLeave, CFG_RULE_LEAVE_INFO, RULE_HEAD, RULE_OBJECTS,
-      CONFIG(nMode, "Mode", Names(kLeaveModes)).AtMost(CFG_LEAVE_BY_SENTRY), CONFIG(nMinDuration, "MinDuration", UInt),
-      CONFIG(nReportInterval, "ReportInterval", UInt), RULE_TAIL, CONFIG_FILTER, CONFIG_REGION,
-      CONFIG_ALL_CODES(nTriggerModeNum, nTriggerMode, "TriggerMode", kLeaveTriggers));
+TABLE(kLeave, CFG_RULE_LEAVE_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG(nMode, "Mode", Names(kLeaveModes)).WriteAtMost(CFG_LEAVE_BY_SENTRY),
+          CONFIG(nMinDuration, "MinDuration", UInt),
+          CONFIG(nReportInterval, "ReportInterval", UInt),
+          RULE_TAIL,
+          CONFIG_FILTER,
+          CONFIG_REGION,
+          CONFIG_ALL_CODES(nTriggerModeNum, nTriggerMode, "TriggerMode", kLeaveTriggers),
+      });
 
-TABLE(kGetOutBed, CFG_RULE_GETOUTBED_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG(nMinDuration, "MinDuration", Int).Only(OnlyType::Integer),
-      CONFIG(nReportInterval, "ReportInterval", Int).Only(OnlyType::Integer),
-      CONFIG_SHAPE(nAssisDectLinePoint, stuAssisDectLine, "AssisDectLine"), RULE_TAIL);
+TABLE(kGetOutBed, CFG_RULE_GETOUTBED_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG(nMinDuration, "MinDuration", Int).Only(OnlyType::Integer),
+          CONFIG(nReportInterval, "ReportInterval", Int).Only(OnlyType::Integer),
+          CONFIG_SHAPE(nAssisDectLinePoint, stuAssisDectLine, "AssisDectLine"),
+          RULE_TAIL,
+      });
 
-TABLE(kPatrol, CFG_RULE_PATROL_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG(nMinDuration, "MinDuration", Int).Only(OnlyType::Integer),
-      CONFIG(nReportInterval, "ReportInterval", Int).Only(OnlyType::Integer),
-      CONFIG(nPatrolTime, "PatrolTime", Int).Only(OnlyType::Integer), RULE_TAIL, CONFIG_FILTER);
+TABLE(kPatrol, CFG_RULE_PATROL_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG(nMinDuration, "MinDuration", Int).Only(OnlyType::Integer),
+          CONFIG(nReportInterval, "ReportInterval", Int).Only(OnlyType::Integer),
+          CONFIG(nPatrolTime, "PatrolTime", Int).Only(OnlyType::Integer),
+          RULE_TAIL,
+          CONFIG_FILTER,
+      });
 
-TABLE(kOnDuty, CFG_RULE_ONDUTY_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG(nMinDuration, "MinDuration", Int).Only(OnlyType::Integer),
-      CONFIG(nReportInterval, "ReportInterval", Int).Only(OnlyType::Integer), FIELD(nTemplateRegionNum),
-      CONFIG(stuTemplateRegion, "TemplateRegion", Record(kBox))
-          .Count(AT(nTemplateRegionNum))
-          .OnNull(Nulls::CloseUp)
-          .OnRefused(Nulls::CloseUp),
-      RULE_TAIL);
+TABLE(kOnDuty, CFG_RULE_ONDUTY_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG(nMinDuration, "MinDuration", Int).Only(OnlyType::Integer),
+          CONFIG(nReportInterval, "ReportInterval", Int).Only(OnlyType::Integer),
+          FIELD(nTemplateRegionNum),
+          CONFIG(stuTemplateRegion, "TemplateRegion", Record(kBox))
+              .Count(AT(nTemplateRegionNum))
+              .NullElement(Nulls::CloseUp)
+              .RefusedElement(Nulls::CloseUp),
+          RULE_TAIL,
+      });
 
-TABLE(kHeatMap, CFG_RULE_HEATMAP_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION, RULE_TAIL, CONFIG_FILTER,
-      CONFIG(nPlanId, "PlanId", UInt));
+TABLE(kHeatMap, CFG_RULE_HEATMAP_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          RULE_TAIL,
+          CONFIG_FILTER,
+          CONFIG(nPlanId, "PlanId", UInt),
+      });
 
-TABLE(kStandUp, CFG_RULE_STANDUP_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"), CONFIG(stuRegionMax, "Region/Max", Record(kRect)),
-      CONFIG(stuRegionMin, "Region/Min", Record(kRect)), RULE_TAIL);
+TABLE(kStandUp, CFG_RULE_STANDUP_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"),
+          CONFIG(stuRegionMax, "Region/Max", Record(kRect)),
+          CONFIG(stuRegionMin, "Region/Min", Record(kRect)),
+          RULE_TAIL,
+      });
 
-TABLE(kShootingScore, CFG_RULE_SHOOTINGSCORE_INFO, RULE_HEAD, RULE_OBJECTS, CONFIG_REGION,
-      CONFIG(nRound, "Round", Int).Only(OnlyType::Integer),
-      CONFIG(nSensitivity, "Sensitivity", Int).Only(OnlyType::Integer),
-      CONFIG(nCaliber, "Caliber", Int).Only(OnlyType::Integer), RULE_TAIL);
+TABLE(kShootingScore, CFG_RULE_SHOOTINGSCORE_INFO,
+      {
+          RULE_HEAD,
+          RULE_OBJECTS,
+          CONFIG_REGION,
+          CONFIG(nRound, "Round", Int).Only(OnlyType::Integer),
+          CONFIG(nSensitivity, "Sensitivity", Int).Only(OnlyType::Integer),
+          CONFIG(nCaliber, "Caliber", Int).Only(OnlyType::Integer),
+          RULE_TAIL,
+      });
 
-TABLE(kLeTrack, CFG_RULE_LETRACK_INFO, RULE_HEAD, kNoConfigRow, RULE_OBJECTS, RULE_TAIL);
+TABLE(kLeTrack, CFG_RULE_LETRACK_INFO,
+      {
+          RULE_HEAD,
+          kNoConfigRow,
+          RULE_OBJECTS,
+          RULE_TAIL,
+      });
 
-TABLE(kManStand, CFG_RULE_MANSTAND_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS, CONFIG_LINE, CONFIG_REGION,
-      CONFIG(nThreshold, "Threshold", Int), CONFIG(nDetectType, "DetectType", Int),
-      CONFIG(nSensitivity, "Sensitivity", Int), CONFIG(nMaxHeight, "MaxHeight", Int),
-      CONFIG(nMinHeight, "MinHeight", Int), RULE_TAIL);
+TABLE(kManStand, CFG_RULE_MANSTAND_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG_LINE,
+          CONFIG_REGION,
+          CONFIG(nThreshold, "Threshold", Int),
+          CONFIG(nDetectType, "DetectType", Int),
+          CONFIG(nSensitivity, "Sensitivity", Int),
+          CONFIG(nMaxHeight, "MaxHeight", Int),
+          CONFIG(nMinHeight, "MinHeight", Int),
+          RULE_TAIL,
+      });
 
-TABLE(kStereoNumberStat, CFG_RULE_STEREONUMBERSTAT_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS, CONFIG_LINE,
-      CONFIG_REGION, CONFIG(nSensitivity, "Sensitivity", Int), CONFIG(nMaxHeight, "MaxHeight", Int),
-      CONFIG(nMinHeight, "MinHeight", Int), CONFIG(nEnterThreshold, "EnterThreshold", Int),
-      CONFIG(nExitThreshold, "ExitThreshold", Int), CONFIG(nInsideThreshold, "InsideThreshold", Int),
-      CONFIG(szDirection, "Direction", Text), RULE_TAIL);
+TABLE(kStereoNumberStat, CFG_RULE_STEREONUMBERSTAT_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG_LINE,
+          CONFIG_REGION,
+          CONFIG(nSensitivity, "Sensitivity", Int),
+          CONFIG(nMaxHeight, "MaxHeight", Int),
+          CONFIG(nMinHeight, "MinHeight", Int),
+          CONFIG(nEnterThreshold, "EnterThreshold", Int),
+          CONFIG(nExitThreshold, "ExitThreshold", Int),
+          CONFIG(nInsideThreshold, "InsideThreshold", Int),
+          CONFIG(szDirection, "Direction", Text),
+          RULE_TAIL,
+      });
 
-TABLE(kCrowd, CFG_RULE_CROWD_INFO, RULE_HEAD, RULE_TRACK, RULE_OBJECTS,
-      CONFIG(bGeneralAlarmEnable, "GeneralAlarmEnable", Bool), CONFIG(nCrowdDensity, "CrowdDensity", UInt),
-      CONFIG(bRegionAlarmEnable, "RegionAlarmEnable", Bool), FIELD(nPeopleStatRegionNum),
-      CONFIG(stuPeopleStatRegions, "PeopleStatRegions", Record(kCrowdRegion)).Count(AT(nPeopleStatRegionNum)),
-      CONFIG(bSlaveTrackEnable, "SlaveTrackEnable", Bool), RULE_TAIL);
+TABLE(kCrowd, CFG_RULE_CROWD_INFO,
+      {
+          RULE_HEAD,
+          RULE_TRACK,
+          RULE_OBJECTS,
+          CONFIG(bGeneralAlarmEnable, "GeneralAlarmEnable", Bool),
+          CONFIG(nCrowdDensity, "CrowdDensity", UInt),
+          CONFIG(bRegionAlarmEnable, "RegionAlarmEnable", Bool),
+          FIELD(nPeopleStatRegionNum),
+          CONFIG(stuPeopleStatRegions, "PeopleStatRegions", Record(kCrowdRegion)).Count(AT(nPeopleStatRegionNum)),
+          CONFIG(bSlaveTrackEnable, "SlaveTrackEnable", Bool),
+          RULE_TAIL,
+      });
 
 } // namespace orrery::rules

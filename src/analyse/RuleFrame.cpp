@@ -16,10 +16,24 @@ namespace orrery {
 using namespace record;
 using json::Value;
 
-TABLE(kRuleGeneral, CFG_RULE_GENERAL_INFO, FIELD(byId), FIELD(nClass), FIELD(bReserved));
-TABLE(kRuleInfo, CFG_RULE_INFO, FIELD(dwRuleType), FIELD(nRuleSize),
-      FIELD(stuRuleGeneral, nullptr, Record(kRuleGeneral)));
-TABLE(kAnalyseRules, CFG_ANALYSERULES_INFO, FIELD(nRuleCount), FIELD(pRuleBuf).PointsTo(kRuleInfo), FIELD(nRuleLen));
+TABLE(kRuleGeneral, CFG_RULE_GENERAL_INFO,
+      {
+          FIELD(byId),
+          FIELD(nClass),
+          FIELD(bReserved),
+      });
+TABLE(kRuleInfo, CFG_RULE_INFO,
+      {
+          FIELD(dwRuleType),
+          FIELD(nRuleSize),
+          FIELD(stuRuleGeneral, nullptr, Record(kRuleGeneral)),
+      });
+TABLE(kAnalyseRules, CFG_ANALYSERULES_INFO,
+      {
+          FIELD(nRuleCount),
+          FIELD(pRuleBuf).PointsTo(kRuleInfo),
+          FIELD(nRuleLen),
+      });
 
 namespace {
 

@@ -36,7 +36,7 @@ inline constexpr Field kNoConfigRow = MakeVirtual("Config", Custom(kNoConfigCode
 #define RULE_HEAD kClassRow, kIdRow, RULE_NAME
 #define RULE_OBJECTS FIELD(nObjectTypeNum), FIELD(szObjectTypes, "ObjectTypes", Text).Count(AT(nObjectTypeNum))
 #define RULE_WEEK FIELD(stuTimeSection, "EventHandler/TimeSection", Schedule).ReadOnly()
-#define RULE_LINKAGE FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerRule)).WhenLinked(), RULE_WEEK
+#define RULE_LINKAGE FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerRule)).WriteIfLinked(), RULE_WEEK
 #define RULE_PRESET FIELD(nPtzPresetId, "PtzPresetId", Int)
 #define RULE_TAIL RULE_LINKAGE, RULE_PRESET
 
@@ -49,33 +49,50 @@ inline constexpr Field kNoConfigRow = MakeVirtual("Config", Custom(kNoConfigCode
 
 #define CONFIG(member, key, ...) FIELD(member, "Config/" key, __VA_ARGS__).KeepsObject()
 #define CONFIG_SHAPE(count, points, key)                                                                               \
-    FIELD(count),                                                                                                      \
-        CONFIG(points, key, Record(kCorner)).Count(AT(count)).OnNull(Nulls::LeaveHole).OnRefused(Nulls::LeaveHole)
+    FIELD(count), CONFIG(points, key, Record(kCorner))                                                                 \
+                      .Count(AT(count))                                                                                \
+                      .NullElement(Nulls::LeaveHole)                                                                   \
+                      .RefusedElement(Nulls::LeaveHole)
 #define CONFIG_REGION CONFIG_SHAPE(nDetectRegionPoint, stuDetectRegion, "DetectRegion")
 #define CONFIG_LINE CONFIG_SHAPE(nDetectLinePoint, stuDetectLine, "DetectLine")
-#define CONFIG_FILTER FIELD(bSizeFilter), CONFIG(stuSizeFilter, "SizeFilter", Record(kSizeFilter)).Flag(AT(bSizeFilter))
+#define CONFIG_FILTER                                                                                                  \
+    FIELD(bSizeFilter), CONFIG(stuSizeFilter, "SizeFilter", Record(kSizeFilter)).SetsAndNeeds(AT(bSizeFilter))
 // A list of codes: a null leaves its place 0, uncounted; a code without a text is a null in its place.
 #define CONFIG_CODES(count, codes, key, names)                                                                         \
-    FIELD(count), CONFIG(codes, key, Names(names)).Count(AT(count)).OnNull(Nulls::LeaveHole).OnSkipped(Skipped::Hole)
+    FIELD(count),                                                                                                      \
+        CONFIG(codes, key, Names(names)).Count(AT(count)).NullElement(Nulls::LeaveHole).WriteSkipped(Skipped::Hole)
 // The same where every element counts, since a place of 0 stands for a text that is not known.
 #define CONFIG_ALL_CODES(count, codes, key, names)                                                                     \
-    FIELD(count), CONFIG(codes, key, Names(names)).Count(AT(count)).OnSkipped(Skipped::Hole)
+    FIELD(count), CONFIG(codes, key, Names(names)).Count(AT(count)).WriteSkipped(Skipped::Hole)
 #define CONFIG_POSITIONS CONFIG_CODES(nTriggerPosition, byTriggerPosition, "TriggerPosition", kTriggerPositions)
 // Devices count texts in bytes before they convert them.
 #define CONFIG_TEXTS(count, texts, key)                                                                                \
-    FIELD(count), CONFIG(texts, key, Text).Count(AT(count)).OnNull(Nulls::LeaveHole).FirstBytes(kMostTextBytes)
+    FIELD(count), CONFIG(texts, key, Text).Count(AT(count)).NullElement(Nulls::LeaveHole).FirstBytes(kMostTextBytes)
 inline constexpr std::uint16_t kMostTextBytes = 192;
 
 // ---- Parts ----
 
 // A corner needs both its numbers.
-PART(kCorner, CFG_POLYGON, FIELD(nX, "", Int), FIELD(nY, "", Int)).As(Shape::LongTuple);
+PART(kCorner, CFG_POLYGON,
+     {
+         FIELD(nX, "", Int),
+         FIELD(nY, "", Int),
+     })
+    .As(Shape::LongTuple);
 // A missing number is 0.
 inline constexpr TypedTable<CFG_POLYGON> kAnyCorner = kCorner.As(Shape::LooseTuple);
 
-PART(kUnsignedCorner, CFG_POLYGON, FIELD(nX, "", UInt), FIELD(nY, "", UInt)).As(Shape::LongTuple);
-PART(kBox, CFG_RULE_BOX, FIELD(stuLeftTop, "", Record(kUnsignedCorner)),
-     FIELD(stuRightBottom, "", Record(kUnsignedCorner)))
+PART(kUnsignedCorner, CFG_POLYGON,
+     {
+         FIELD(nX, "", UInt),
+         FIELD(nY, "", UInt),
+     })
+    .As(Shape::LongTuple);
+PART(kBox, CFG_RULE_BOX,
+     {
+         FIELD(stuLeftTop, "", Record(kUnsignedCorner)),
+         FIELD(stuRightBottom, "", Record(kUnsignedCorner)),
+     })
     .As(Shape::LongTuple);
 
 // Two limits of speed under one key, in the order of the text or against it.
@@ -85,19 +102,27 @@ extern const CustomCodec kUnsignedSpeedsDescending;
 
 // ---- Texts of enumerations; case counts ----
 
-inline constexpr Name kTriggerPositionRows[] = {{CFG_TRIGGER_CENTER, "Center"},
-                                                {CFG_TRIGGER_LEFT_CENTER, "LeftCenter"},
-                                                {CFG_TRIGGER_TOP_CENTER, "TopCenter"},
-                                                {CFG_TRIGGER_RIGHT_CENTER, "RightCenter"},
-                                                {CFG_TRIGGER_BOTTOM_CENTER, "BottomCenter"}};
-inline constexpr NameTable kTriggerPositions = ExactNames(kTriggerPositionRows);
+NAMES(kTriggerPositions, kExact,
+      {
+          {CFG_TRIGGER_CENTER, "Center"},
+          {CFG_TRIGGER_LEFT_CENTER, "LeftCenter"},
+          {CFG_TRIGGER_TOP_CENTER, "TopCenter"},
+          {CFG_TRIGGER_RIGHT_CENTER, "RightCenter"},
+          {CFG_TRIGGER_BOTTOM_CENTER, "BottomCenter"},
+      });
 
-inline constexpr Name kFaceFeatureRows[] = {
-    {CFG_FACE_FEATURE_SEX, "Sex"},         {CFG_FACE_FEATURE_AGE, "Age"},
-    {CFG_FACE_FEATURE_EMOTION, "Emotion"}, {CFG_FACE_FEATURE_GLASSES, "Glasses"},
-    {CFG_FACE_FEATURE_RACE, "Race"},       {CFG_FACE_FEATURE_EYE, "Eye"},
-    {CFG_FACE_FEATURE_MOUTH, "Mouth"},     {CFG_FACE_FEATURE_MASK, "Mask"},
-    {CFG_FACE_FEATURE_BEARD, "Beard"},     {CFG_FACE_FEATURE_ATTRACTIVE, "Attractive"}};
-inline constexpr NameTable kFaceFeatures = ExactNames(kFaceFeatureRows);
+NAMES(kFaceFeatures, kExact,
+      {
+          {CFG_FACE_FEATURE_SEX, "Sex"},
+          {CFG_FACE_FEATURE_AGE, "Age"},
+          {CFG_FACE_FEATURE_EMOTION, "Emotion"},
+          {CFG_FACE_FEATURE_GLASSES, "Glasses"},
+          {CFG_FACE_FEATURE_RACE, "Race"},
+          {CFG_FACE_FEATURE_EYE, "Eye"},
+          {CFG_FACE_FEATURE_MOUTH, "Mouth"},
+          {CFG_FACE_FEATURE_MASK, "Mask"},
+          {CFG_FACE_FEATURE_BEARD, "Beard"},
+          {CFG_FACE_FEATURE_ATTRACTIVE, "Attractive"},
+      });
 
 } // namespace orrery::rules

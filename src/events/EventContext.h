@@ -96,6 +96,6 @@ extern const CustomCodec kSourceDevice;
 #define POINT_ROW(points, count, key)                                                                                  \
     FIELD(points, key, Record(::orrery::events::kEventPoint))                                                          \
         .Count(AT(count))                                                                                              \
-        .OnNull(::orrery::record::Nulls::LeaveHole)                                                                    \
-        .OnRefused(::orrery::record::Nulls::LeaveHole)
+        .NullElement(::orrery::record::Nulls::LeaveHole)                                                               \
+        .RefusedElement(::orrery::record::Nulls::LeaveHole)
 #define POINTS(points, count, key) FIELD(count), POINT_ROW(points, count, key)

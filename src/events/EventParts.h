@@ -40,63 +40,121 @@ inline constexpr NameTable kSceneClasses = [] {
 }();
 inline constexpr NameTable kSceneClassesWithTraffic = ExactNames(kSceneClassRows);
 
-inline constexpr Name kTimeTypeRows[] = {{EVENT_TIME_ABSOLUTE, "Absolute"}, {EVENT_TIME_RELATIVE, "Relative"}};
-inline constexpr NameTable kTimeTypes = FoldedNames(kTimeTypeRows);
+NAMES(kTimeTypes, kFolded,
+      {
+          {EVENT_TIME_ABSOLUTE, "Absolute"},
+          {EVENT_TIME_RELATIVE, "Relative"},
+      });
 
-inline constexpr Name kObjectActionRows[] = {
-    {EVENT_OBJECT_ACTION_APPEAR, "Appear"},       {EVENT_OBJECT_ACTION_MOVE, "Move"},
-    {EVENT_OBJECT_ACTION_STAY, "Stay"},           {EVENT_OBJECT_ACTION_REMOVE, "Remove"},
-    {EVENT_OBJECT_ACTION_DISAPPEAR, "Disappear"}, {EVENT_OBJECT_ACTION_SPLIT, "Split"},
-    {EVENT_OBJECT_ACTION_MERGE, "Merge"},         {EVENT_OBJECT_ACTION_RENAME, "Rename"},
-};
-inline constexpr NameTable kObjectActions = FoldedNames(kObjectActionRows);
+NAMES(kObjectActions, kFolded,
+      {
+          {EVENT_OBJECT_ACTION_APPEAR, "Appear"},
+          {EVENT_OBJECT_ACTION_MOVE, "Move"},
+          {EVENT_OBJECT_ACTION_STAY, "Stay"},
+          {EVENT_OBJECT_ACTION_REMOVE, "Remove"},
+          {EVENT_OBJECT_ACTION_DISAPPEAR, "Disappear"},
+          {EVENT_OBJECT_ACTION_SPLIT, "Split"},
+          {EVENT_OBJECT_ACTION_MERGE, "Merge"},
+          {EVENT_OBJECT_ACTION_RENAME, "Rename"},
+      });
 
-inline constexpr Name kSimilarColorRows[] = {
-    {EVENT_COLOR_RED, "Red"},     {EVENT_COLOR_YELLOW, "Yellow"}, {EVENT_COLOR_GREEN, "Green"},
-    {EVENT_COLOR_CYAN, "Cyan"},   {EVENT_COLOR_BLUE, "Blue"},     {EVENT_COLOR_PURPLE, "Purple"},
-    {EVENT_COLOR_BLACK, "Black"}, {EVENT_COLOR_WHITE, "White"},
-};
-inline constexpr NameTable kSimilarColors = ExactNames(kSimilarColorRows);
+NAMES(kSimilarColors, kExact,
+      {
+          {EVENT_COLOR_RED, "Red"},
+          {EVENT_COLOR_YELLOW, "Yellow"},
+          {EVENT_COLOR_GREEN, "Green"},
+          {EVENT_COLOR_CYAN, "Cyan"},
+          {EVENT_COLOR_BLUE, "Blue"},
+          {EVENT_COLOR_PURPLE, "Purple"},
+          {EVENT_COLOR_BLACK, "Black"},
+          {EVENT_COLOR_WHITE, "White"},
+      });
 
-inline constexpr Name kPersonDirectionRows[] = {{EVENT_PERSON_LEFT_TO_RIGHT, "LeftToRight"},
-                                                {EVENT_PERSON_RIGHT_TO_LEFT, "RightToLeft"}};
-inline constexpr NameTable kPersonDirections = ExactNames(kPersonDirectionRows);
+NAMES(kPersonDirections, kExact,
+      {
+          {EVENT_PERSON_LEFT_TO_RIGHT, "LeftToRight"},
+          {EVENT_PERSON_RIGHT_TO_LEFT, "RightToLeft"},
+      });
 
-inline constexpr Name kGpsSourceRows[] = {{0, "GPS"}, {1, "InertialNavigation"}};
-inline constexpr NameTable kGpsSources = FoldedNames(kGpsSourceRows);
+NAMES(kGpsSources, kFolded,
+      {
+          {0, "GPS"},
+          {1, "InertialNavigation"},
+      });
 
 // ---- Moments, points, rectangles ---------------------------------------------------------------------------------
 
-PART(kEventTime, EVENT_TIME, FIELD(dwYear), FIELD(dwMonth), FIELD(dwDay), FIELD(dwHour), FIELD(dwMinute),
-     FIELD(dwSecond), FIELD(dwMillisecond), FIELD(dwReserved));
+PART(kEventTime, EVENT_TIME,
+     {
+         FIELD(dwYear),
+         FIELD(dwMonth),
+         FIELD(dwDay),
+         FIELD(dwHour),
+         FIELD(dwMinute),
+         FIELD(dwSecond),
+         FIELD(dwMillisecond),
+         FIELD(dwReserved),
+     });
 
 } // namespace orrery::events
 template <>
 inline constexpr const orrery::record::Table* orrery::record::kLayoutOf<EVENT_TIME> = &orrery::events::kEventTime;
 namespace orrery::events {
-PART(kEventCalendar, EVENT_CALENDAR, FIELD(dwYear), FIELD(dwMonth), FIELD(dwDay), FIELD(dwHour), FIELD(dwMinute),
-     FIELD(dwSecond));
+PART(kEventCalendar, EVENT_CALENDAR,
+     {
+         FIELD(dwYear),
+         FIELD(dwMonth),
+         FIELD(dwDay),
+         FIELD(dwHour),
+         FIELD(dwMinute),
+         FIELD(dwSecond),
+     });
 
 } // namespace orrery::events
 template <>
 inline constexpr const orrery::record::Table* orrery::record::kLayoutOf<EVENT_CALENDAR> =
     &orrery::events::kEventCalendar;
 namespace orrery::events {
-PART(kFileInfo, EVENT_FILE_INFO, FIELD(byCount), FIELD(byIndex), FIELD(byFileTag), FIELD(byPictureType),
-     FIELD(stuFileTime), FIELD(nGroupID));
+PART(kFileInfo, EVENT_FILE_INFO,
+     {
+         FIELD(byCount),
+         FIELD(byIndex),
+         FIELD(byFileTag),
+         FIELD(byPictureType),
+         FIELD(stuFileTime),
+         FIELD(nGroupID),
+     });
 
 } // namespace orrery::events
 template <>
 inline constexpr const orrery::record::Table* orrery::record::kLayoutOf<EVENT_FILE_INFO> = &orrery::events::kFileInfo;
 namespace orrery::events {
 
-PART(kEventPoint, EVENT_POINT, FIELD(nX, "", Int), FIELD(nY, "", Int)).As(Shape::LongTuple);
+PART(kEventPoint, EVENT_POINT,
+     {
+         FIELD(nX, "", Int),
+         FIELD(nY, "", Int),
+     })
+    .As(Shape::LongTuple);
 // The first four numbers of an array, for rows that say how many it must have.
-PART(kBox, CFG_RECT, FIELD(nLeft, "", Int), FIELD(nTop, "", Int), FIELD(nRight, "", Int), FIELD(nBottom, "", Int))
+PART(kBox, CFG_RECT,
+     {
+         FIELD(nLeft, "", Int),
+         FIELD(nTop, "", Int),
+         FIELD(nRight, "", Int),
+         FIELD(nBottom, "", Int),
+     })
     .As(Shape::LongTuple);
 // [ year, month, day, hour, minute, second ]
-PART(kSixNumbers, NET_TIME, FIELD(dwYear, "", Int), FIELD(dwMonth, "", Int), FIELD(dwDay, "", Int),
-     FIELD(dwHour, "", Int), FIELD(dwMinute, "", Int), FIELD(dwSecond, "", Int))
+PART(kSixNumbers, NET_TIME,
+     {
+         FIELD(dwYear, "", Int),
+         FIELD(dwMonth, "", Int),
+         FIELD(dwDay, "", Int),
+         FIELD(dwHour, "", Int),
+         FIELD(dwMinute, "", Int),
+         FIELD(dwSecond, "", Int),
+     })
     .As(Shape::LooseTuple);
 
 // ---- Described objects -------------------------------------------------------------------------------------------
@@ -111,7 +169,7 @@ void StampMillisecondsEx(const json::Value& value, std::byte* record, ReadCall& 
         FIELD(nConfidence, "Confidence", Int), FIELD(nAction, "Action", Custom(kObjectAction)),                        \
         FIELD(stuBoundingBox, "BoundingBox", Record(kBox)), FIELD(stuCenter, "Center", Record(kEventPoint)),           \
         FIELD(nPolygonNum), FIELD(stuContour, "Contour", Record(kEventPoint)).Count(AT(nPolygonNum)),                  \
-        FIELD(rgbaMainColor, "MainColor", PackedColor).AtLeast(4).Flag(AT(bColor))
+        FIELD(rgbaMainColor, "MainColor", PackedColor).AtLeast(4).SetsAndNeeds(AT(bColor))
 #define ORRERY_OBJECT_ROWS_IMAGE                                                                                       \
     FIELD(bPicEnable, "Image", Presence), FIELD(dwOffset, "Image/Offset", UInt),                                       \
         FIELD(dwFileLength, "Image/Length", UInt), FIELD(wWidth, "Image/Width", Int),                                  \
@@ -129,43 +187,91 @@ void StampMillisecondsEx(const json::Value& value, std::byte* record, ReadCall& 
         FIELD(byLowerBodyColorSimilar, "LowerBodyColorSimilar", ByKeys(kSimilarColors)),                               \
         FIELD(nRelativeID, "RelativeID", Int), FIELD(szSubText, "SubText", FullText)
 
-PART(kObject, EVENT_OBJECT_INFO, ORRERY_OBJECT_ROWS_FRONT, FIELD(szText, "Text", FullText),
-     FIELD(szObjectSubType, "Category", FullText), FIELD(wCarLogoIndex, "CarLogoIndex", Int),
-     FIELD(wSubBrand, "SubBrand", Int), ORRERY_OBJECT_ROWS_IMAGE, FIELD(wBrandYear, "BrandYear", Int))
+PART(kObject, EVENT_OBJECT_INFO,
+     {
+         ORRERY_OBJECT_ROWS_FRONT,
+         FIELD(szText, "Text", FullText),
+         FIELD(szObjectSubType, "Category", FullText),
+         FIELD(wCarLogoIndex, "CarLogoIndex", Int),
+         FIELD(wSubBrand, "SubBrand", Int),
+         ORRERY_OBJECT_ROWS_IMAGE,
+         FIELD(wBrandYear, "BrandYear", Int),
+     })
     .AfterRead(StampMilliseconds);
 
-PART(kObjectEx, EVENT_OBJECT_INFO_EX, FIELD(dwSize, nullptr, Size), ORRERY_OBJECT_ROWS_FRONT,
-     FIELD(rgbaLowerBodyColor, "LowerBodyColor", PackedColor).AtLeast(4), FIELD(szText, "Text", FullText),
-     FIELD(szObjectSubType, "Category", FullText), ORRERY_OBJECT_ROWS_IMAGE, FIELD(nStature, "Person/Stature", Int),
-     FIELD(emDirection, "Person/Direction", Names(kPersonDirections)), FIELD(byReserved))
+PART(kObjectEx, EVENT_OBJECT_INFO_EX,
+     {
+         FIELD(dwSize, nullptr, Size),
+         ORRERY_OBJECT_ROWS_FRONT,
+         FIELD(rgbaLowerBodyColor, "LowerBodyColor", PackedColor).AtLeast(4),
+         FIELD(szText, "Text", FullText),
+         FIELD(szObjectSubType, "Category", FullText),
+         ORRERY_OBJECT_ROWS_IMAGE,
+         FIELD(nStature, "Person/Stature", Int),
+         FIELD(emDirection, "Person/Direction", Names(kPersonDirections)),
+         FIELD(byReserved),
+     })
     .AfterRead(StampMillisecondsEx)
     .StartsWhenRead();
 
-PART(kBulletHole, EVENT_BULLET_HOLE_INFO, FIELD(nObjectID, "ObjectID", Int), FIELD(szObjectType, "ObjectType", Text),
-     FIELD(stuBoundingBox, "BoundingBox", Record(kBox)), FIELD(stuCenter, "Center", Record(kEventPoint)),
-     FIELD(nSequence, "Sequence", Int), FIELD(nScore, "Score", Int));
+PART(kBulletHole, EVENT_BULLET_HOLE_INFO,
+     {
+         FIELD(nObjectID, "ObjectID", Int),
+         FIELD(szObjectType, "ObjectType", Text),
+         FIELD(stuBoundingBox, "BoundingBox", Record(kBox)),
+         FIELD(stuCenter, "Center", Record(kEventPoint)),
+         FIELD(nSequence, "Sequence", Int),
+         FIELD(nScore, "Score", Int),
+     });
 
 // ---- Images and positions ----------------------------------------------------------------------------------------
 
-PART(kImage, EVENT_IMAGE_INFO, FIELD(dwOffset, "Offset", UInt), FIELD(dwLength, "Length", UInt),
-     FIELD(wWidth, "Width", Int), FIELD(wHeight, "Height", Int), FIELD(szFilePath, "FilePath", Text),
-     FIELD(bDetected, "IsDetected", Bool));
-PART(kPersonImage, EVENT_PERSON_IMAGE, FIELD(dwOffset, "Offset", UInt), FIELD(dwLength, "Length", UInt),
-     FIELD(wWidth, "Width", Int), FIELD(wHeight, "Height", Int), FIELD(pszFilePath, "FilePath", OwnedText),
-     FIELD(bDetected, "IsDetected", Bool));
+PART(kImage, EVENT_IMAGE_INFO,
+     {
+         FIELD(dwOffset, "Offset", UInt),
+         FIELD(dwLength, "Length", UInt),
+         FIELD(wWidth, "Width", Int),
+         FIELD(wHeight, "Height", Int),
+         FIELD(szFilePath, "FilePath", Text),
+         FIELD(bDetected, "IsDetected", Bool),
+     });
+PART(kPersonImage, EVENT_PERSON_IMAGE,
+     {
+         FIELD(dwOffset, "Offset", UInt),
+         FIELD(dwLength, "Length", UInt),
+         FIELD(wWidth, "Width", Int),
+         FIELD(wHeight, "Height", Int),
+         FIELD(pszFilePath, "FilePath", OwnedText),
+         FIELD(bDetected, "IsDetected", Bool),
+     });
 
-PART(kGpsPoint, EVENT_GPS_POINT, FIELD(dwLongitude, "Longitude", Degrees), FIELD(dwLatitude, "Latitude", Degrees),
-     FIELD(dAltitude, "Altitude", Real), FIELD(dSpeed, "Speed", Real), FIELD(dBearing, "Bearing", Real));
+PART(kGpsPoint, EVENT_GPS_POINT,
+     {
+         FIELD(dwLongitude, "Longitude", Degrees),
+         FIELD(dwLatitude, "Latitude", Degrees),
+         FIELD(dAltitude, "Altitude", Real),
+         FIELD(dSpeed, "Speed", Real),
+         FIELD(dBearing, "Bearing", Real),
+     });
 
 extern const CustomCodec kAlarmPoints;
-PART(kGpsStatus, EVENT_GPS_STATUS, FIELD(stuTime, "Time", Record(kSixNumbers)).AtLeast(6),
-     FIELD(dLongitude, "Longitude", Degrees), FIELD(dLatitude, "Latitude", Degrees), FIELD(dAltitude, "Altitude", Real),
-     FIELD(dBearing, "Bearing", Real), FIELD(dSpeed, "Speed", Real), FIELD(nSatelliteCount, "SatelliteCount", Int),
-     FIELD(byAntennasStatus, "AntennasStatus", Bool).Absent(EVENT_STATE_UNKNOWN),
-     FIELD(byPositioningResult, "PositioningResult", Bool).Absent(EVENT_STATE_UNKNOWN),
-     FIELD(byWorkStatus, "WorkStatus", Int), FIELD(nAlarmPointNum),
-     FIELD(dwAlarmPoints, "AlarmPoints", Custom(kAlarmPoints)).Count(AT(nAlarmPointNum)), FIELD(bySNR, "SNR", Int),
-     FIELD(emSource, "Source", Names(kGpsSources)))
+PART(kGpsStatus, EVENT_GPS_STATUS,
+     {
+         FIELD(stuTime, "Time", Record(kSixNumbers)).AtLeast(6),
+         FIELD(dLongitude, "Longitude", Degrees),
+         FIELD(dLatitude, "Latitude", Degrees),
+         FIELD(dAltitude, "Altitude", Real),
+         FIELD(dBearing, "Bearing", Real),
+         FIELD(dSpeed, "Speed", Real),
+         FIELD(nSatelliteCount, "SatelliteCount", Int),
+         FIELD(byAntennasStatus, "AntennasStatus", Bool).Absent(EVENT_STATE_UNKNOWN),
+         FIELD(byPositioningResult, "PositioningResult", Bool).Absent(EVENT_STATE_UNKNOWN),
+         FIELD(byWorkStatus, "WorkStatus", Int),
+         FIELD(nAlarmPointNum),
+         FIELD(dwAlarmPoints, "AlarmPoints", Custom(kAlarmPoints)).Count(AT(nAlarmPointNum)),
+         FIELD(bySNR, "SNR", Int),
+         FIELD(emSource, "Source", Names(kGpsSources)),
+     })
     .StartsWhenRead();
 
 } // namespace orrery::events

@@ -5,11 +5,17 @@
 
 namespace orrery::events {
 
-inline constexpr Name kFaceSexRows[] = {{EVENT_SEX_MALE, "Man"}, {EVENT_SEX_FEMALE, "Woman"}};
-inline constexpr NameTable kFaceSexes = FoldedNames(kFaceSexRows);
+NAMES(kFaceSexes, kFolded,
+      {
+          {EVENT_SEX_MALE, "Man"},
+          {EVENT_SEX_FEMALE, "Woman"},
+      });
 // Of people who are known, or seen as a whole.
-inline constexpr Name kPersonSexRows[] = {{EVENT_SEX_MALE, "Male"}, {EVENT_SEX_FEMALE, "Female"}};
-inline constexpr NameTable kPersonSexes = FoldedNames(kPersonSexRows);
+NAMES(kPersonSexes, kFolded,
+      {
+          {EVENT_SEX_MALE, "Male"},
+          {EVENT_SEX_FEMALE, "Female"},
+      });
 
 #define ORRERY_FEATURE_ROWS(noGlasses)                                                                                 \
     {EVENT_FEATURE_WEAR_GLASSES, "WearGlasses"}, {EVENT_FEATURE_SMILE, "Smile"}, {EVENT_FEATURE_ANGER, "Anger"},       \
@@ -19,11 +25,15 @@ inline constexpr NameTable kPersonSexes = FoldedNames(kPersonSexRows);
         {EVENT_FEATURE_SCREAM, "Scream"}, {                                                                            \
         EVENT_FEATURE_SUN_GLASSES, "SunGlasses"                                                                        \
     }
-inline constexpr Name kFeatureRows[] = {ORRERY_FEATURE_ROWS("NoGlasses")};
-inline constexpr NameTable kFeatures = ExactNames(kFeatureRows);
+NAMES(kFeatures, kExact,
+      {
+          ORRERY_FEATURE_ROWS("NoGlasses"),
+      });
 // As devices that see whole people spell them: in their own case, which therefore counts in both lists.
-inline constexpr Name kTraitFeatureRows[] = {ORRERY_FEATURE_ROWS("Noglasses")};
-inline constexpr NameTable kTraitFeatures = ExactNames(kTraitFeatureRows);
+NAMES(kTraitFeatures, kExact,
+      {
+          ORRERY_FEATURE_ROWS("Noglasses"),
+      });
 #undef ORRERY_FEATURE_ROWS
 
 } // namespace orrery::events

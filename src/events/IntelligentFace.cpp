@@ -7,21 +7,36 @@ using json::Value;
 
 namespace {
 
-PART(kFace, EVENT_FACE_INFO, FIELD(nObjectID, "ObjectID", Int), FIELD(szObjectType, "ObjectType", Text),
-     FIELD(nRelativeID, "nRelativeID", Int), FIELD(stuBoundingBox, "BoundingBox", Record(kBox)).AtLeast(4),
-     FIELD(stuCenter, "Center", Record(kEventPoint)).AtLeast(2));
+PART(kFace, EVENT_FACE_INFO,
+     {
+         FIELD(nObjectID, "ObjectID", Int),
+         FIELD(szObjectType, "ObjectType", Text),
+         FIELD(nRelativeID, "nRelativeID", Int),
+         FIELD(stuBoundingBox, "BoundingBox", Record(kBox)).AtLeast(4),
+         FIELD(stuCenter, "Center", Record(kEventPoint)).AtLeast(2),
+     });
 
 // ---- Known people ----
 
-constexpr Name kPersonTypeRows[] = {
-    {EVENT_PERSON_NORMAL, "Normal"}, {EVENT_PERSON_SUSPICION, "Suspicion"},  {EVENT_PERSON_THIEF, "Thief"},
-    {EVENT_PERSON_VIP, "VIP"},       {EVENT_PERSON_FATE_CHECK, "FateCheck"}, {EVENT_PERSON_STAFF, "Staff"},
-};
-constexpr NameTable kPersonTypes = FoldedNames(kPersonTypeRows);
-constexpr Name kCertificateRows[] = {{EVENT_CERTIFICATE_IC, "IC"}, {EVENT_CERTIFICATE_PASSPORT, "Passport"}};
-constexpr NameTable kCertificates = FoldedNames(kCertificateRows);
-constexpr Name kGlassesRows[] = {{EVENT_GLASSES_SUN_GLASSES, "SunGlasses"}, {EVENT_GLASSES_GLASSES, "Glasses"}};
-constexpr NameTable kGlasses = FoldedNames(kGlassesRows);
+NAMES(kPersonTypes, kFolded,
+      {
+          {EVENT_PERSON_NORMAL, "Normal"},
+          {EVENT_PERSON_SUSPICION, "Suspicion"},
+          {EVENT_PERSON_THIEF, "Thief"},
+          {EVENT_PERSON_VIP, "VIP"},
+          {EVENT_PERSON_FATE_CHECK, "FateCheck"},
+          {EVENT_PERSON_STAFF, "Staff"},
+      });
+NAMES(kCertificates, kFolded,
+      {
+          {EVENT_CERTIFICATE_IC, "IC"},
+          {EVENT_CERTIFICATE_PASSPORT, "Passport"},
+      });
+NAMES(kGlasses, kFolded,
+      {
+          {EVENT_GLASSES_SUN_GLASSES, "SunGlasses"},
+          {EVENT_GLASSES_GLASSES, "Glasses"},
+      });
 
 // A date over three members: year, month, day.
 void ReadBirthday(const Field& field, const Value& value, std::byte* record, ReadCall&) {
@@ -63,9 +78,18 @@ void KeepCustomType(const Value& value, std::byte* record, ReadCall& call) {
             .Always(),                                                                                                 \
         FIELD(emEmotion, "Emotion", Names(kFeatures))
 
-PART(kPerson, EVENT_PERSON_INFO, PERSON_ROWS).AfterRead(KeepCustomType<EVENT_PERSON_INFO>);
-PART(kPersonEx, EVENT_PERSON_INFO_EX, PERSON_ROWS, FIELD(szHomeAddress, "HomeAddress", Text),
-     FIELD(emGlassesType, "GlassesType", Names(kGlasses)), FACE_STATES(""))
+PART(kPerson, EVENT_PERSON_INFO,
+     {
+         PERSON_ROWS,
+     })
+    .AfterRead(KeepCustomType<EVENT_PERSON_INFO>);
+PART(kPersonEx, EVENT_PERSON_INFO_EX,
+     {
+         PERSON_ROWS,
+         FIELD(szHomeAddress, "HomeAddress", Text),
+         FIELD(emGlassesType, "GlassesType", Names(kGlasses)),
+         FACE_STATES(""),
+     })
     .AfterRead(KeepCustomType<EVENT_PERSON_INFO_EX>);
 
 #define CANDIDATE_ROWS(person)                                                                                         \
@@ -74,20 +98,51 @@ PART(kPersonEx, EVENT_PERSON_INFO_EX, PERSON_ROWS, FIELD(szHomeAddress, "HomeAdd
         FIELD(bIsHit, "IsHit", Bool), FIELD(stuSceneImage, "SceneImage", Record(kImage)),                              \
         FIELD(nChannelID, "Channel", Int)
 
-PART(kCandidate, EVENT_CANDIDATE_INFO, CANDIDATE_ROWS(kPerson));
-PART(kCandidateEx, EVENT_CANDIDATE_INFO_EX, CANDIDATE_ROWS(kPersonEx), FIELD(szFilePath, "SceneImage/FilePath", Text));
+PART(kCandidate, EVENT_CANDIDATE_INFO,
+     {
+         CANDIDATE_ROWS(kPerson),
+     });
+PART(kCandidateEx, EVENT_CANDIDATE_INFO_EX,
+     {
+         CANDIDATE_ROWS(kPersonEx),
+         FIELD(szFilePath, "SceneImage/FilePath", Text),
+     });
 
 } // namespace
 
-TABLE(kFaceDetection, DEV_EVENT_FACEDETECTION_INFO, HEAD_A, OBJECT, FILE_INFO, ACTION_AND_REPEAT, DETECT_REGION,
-      FLAG_MASK, FIELD(szAddress, "Address", Text), COUNT, FACE_PERSON(""), FIELD(nFaceNum),
-      FIELD(stuFaces, "Faces", Record(kFace)).Count(AT(nFaceNum)), EVENT_CLASS, FACE_LOOKS(""));
+TABLE(kFaceDetection, DEV_EVENT_FACEDETECTION_INFO,
+      {
+          HEAD_A,
+          OBJECT,
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          DETECT_REGION,
+          FLAG_MASK,
+          FIELD(szAddress, "Address", Text),
+          COUNT,
+          FACE_PERSON(""),
+          FIELD(nFaceNum),
+          FIELD(stuFaces, "Faces", Record(kFace)).Count(AT(nFaceNum)),
+          EVENT_CLASS,
+          FACE_LOOKS(""),
+      });
 
 // Both lists are read from the same key.
-TABLE(kFaceRecognition, DEV_EVENT_FACERECOGNITION_INFO, HEAD_A, OBJECT, FIELD(nCandidateNum),
-      FIELD(stuCandidates, "Candidates", Record(kCandidate)).Count(AT(nCandidateNum)),
-      FIELD(stuCandidatesEx, "Candidates", Record(kCandidateEx)), ACTION_AND_REPEAT,
-      FIELD(bIsGlobalScene, "IsGlobalScene", Bool), FIELD(stuSceneImage, "SceneImage", Record(kPersonImage)),
-      FIELD(szAddress, "Address", Text), COUNT, EVENT_CLASS, FACE_PERSON("Face/"), FACE_LOOKS("Face/"));
+TABLE(kFaceRecognition, DEV_EVENT_FACERECOGNITION_INFO,
+      {
+          HEAD_A,
+          OBJECT,
+          FIELD(nCandidateNum),
+          FIELD(stuCandidates, "Candidates", Record(kCandidate)).Count(AT(nCandidateNum)),
+          FIELD(stuCandidatesEx, "Candidates", Record(kCandidateEx)),
+          ACTION_AND_REPEAT,
+          FIELD(bIsGlobalScene, "IsGlobalScene", Bool),
+          FIELD(stuSceneImage, "SceneImage", Record(kPersonImage)),
+          FIELD(szAddress, "Address", Text),
+          COUNT,
+          EVENT_CLASS,
+          FACE_PERSON("Face/"),
+          FACE_LOOKS("Face/"),
+      });
 
 } // namespace orrery::events

@@ -20,26 +20,65 @@ void ReadCrowdAlarm(const Field& field, const Value& value, std::byte* record, R
 }
 constexpr CustomCodec kCrowdAlarm{ReadCrowdAlarm};
 
-PART(kCrowd, EVENT_CROWD_INFO, FIELD(stuCenter, "Center", Record(kEventPoint)).AtLeast(2),
-     FIELD(dwRadius, "Radius", UInt));
-PART(kCrowdRegion, EVENT_CROWD_REGION_INFO, FIELD(dwRegionID, "RegionID", UInt), FIELD(dwPeopleNum, "PeopleNum", UInt));
+PART(kCrowd, EVENT_CROWD_INFO,
+     {
+         FIELD(stuCenter, "Center", Record(kEventPoint)).AtLeast(2),
+         FIELD(dwRadius, "Radius", UInt),
+     });
+PART(kCrowdRegion, EVENT_CROWD_REGION_INFO,
+     {
+         FIELD(dwRegionID, "RegionID", UInt),
+         FIELD(dwPeopleNum, "PeopleNum", UInt),
+     });
 
 } // namespace
 
-TABLE(kFlowStat, DEV_EVENT_FLOWSTAT_INFO, HEAD_A, FIELD(nLeft, "Left", Int), FIELD(nRight, "Right", Int), FILE_INFO,
-      ACTION_AND_REPEAT, FLAG_MASK);
+TABLE(kFlowStat, DEV_EVENT_FLOWSTAT_INFO,
+      {
+          HEAD_A,
+          FIELD(nLeft, "Left", Int),
+          FIELD(nRight, "Right", Int),
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FLAG_MASK,
+      });
 
-TABLE(kNumberStat, DEV_EVENT_NUMBERSTAT_INFO, HEAD_A, FIELD(nNumber, "Number", Int),
-      FIELD(nUpperLimit, "UpperLimit", Int), FILE_INFO, ACTION_AND_REPEAT, FIELD(nEnteredNumber, "EnteredNumber", Int),
-      FIELD(nExitedNumber, "ExitedNumber", Int), FLAG_MASK, COUNT);
+TABLE(kNumberStat, DEV_EVENT_NUMBERSTAT_INFO,
+      {
+          HEAD_A,
+          FIELD(nNumber, "Number", Int),
+          FIELD(nUpperLimit, "UpperLimit", Int),
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FIELD(nEnteredNumber, "EnteredNumber", Int),
+          FIELD(nExitedNumber, "ExitedNumber", Int),
+          FLAG_MASK,
+          COUNT,
+      });
 
-TABLE(kQueueDetection, DEV_EVENT_QUEUEDETECTION_INFO, HEAD_A, FILE_INFO, ACTION_AND_REPEAT,
-      POINTS(stuDetectLine, nDetectLineNum, "DetectLine"), COUNT)
+TABLE(kQueueDetection, DEV_EVENT_QUEUEDETECTION_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
+          COUNT,
+      })
     .AfterRead(ForgetOtherLines);
 
-TABLE(kCrowdDetection, DEV_EVENT_CROWDDETECTION_INFO, CHANNEL, EVENT_ID, TIME_STAMP, UTC, ACTION_NUMBER,
-      FIELD(emAlarmType, "AlarmMask", Custom(kCrowdAlarm)), RULE_NAME, FIELD(nCrowdListNum),
-      FIELD(stuCrowdList, "CrowdList", Record(kCrowd)).Count(AT(nCrowdListNum)), FIELD(nRegionListNum),
-      FIELD(stuRegionList, "RegionList", Record(kCrowdRegion)).Count(AT(nRegionListNum)));
+TABLE(kCrowdDetection, DEV_EVENT_CROWDDETECTION_INFO,
+      {
+          CHANNEL,
+          EVENT_ID,
+          TIME_STAMP,
+          UTC,
+          ACTION_NUMBER,
+          FIELD(emAlarmType, "AlarmMask", Custom(kCrowdAlarm)),
+          RULE_NAME,
+          FIELD(nCrowdListNum),
+          FIELD(stuCrowdList, "CrowdList", Record(kCrowd)).Count(AT(nCrowdListNum)),
+          FIELD(nRegionListNum),
+          FIELD(stuRegionList, "RegionList", Record(kCrowdRegion)).Count(AT(nRegionListNum)),
+      });
 
 } // namespace orrery::events

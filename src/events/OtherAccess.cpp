@@ -7,8 +7,11 @@ using json::Value;
 
 namespace {
 
-constexpr Name kPassageRows[] = {{EVENT_ACCESS_ENTRY, "Entry"}, {EVENT_ACCESS_EXIT, "Exit"}};
-constexpr NameTable kPassages = FoldedNames(kPassageRows);
+NAMES(kPassages, kFolded,
+      {
+          {EVENT_ACCESS_ENTRY, "Entry"},
+          {EVENT_ACCESS_EXIT, "Exit"},
+      });
 
 void ReadCardType(const Field& field, const Value& value, std::byte* record, ReadCall&) {
     const std::int32_t type = value.asInt();
@@ -51,49 +54,119 @@ void ReadTagState(const Value&, std::byte* record, ReadCall& call) {
     event.nState = EventOf(call).fields.nAction == EVENT_ACTION_START ? 0 : 1;
 }
 
-PART(kCitizenImage, EVENT_CITIZEN_IMAGE, FIELD(dwOffset, "Offset", UInt), FIELD(dwLength, "Length", UInt),
-     FIELD(wWidth, "Width", Int), FIELD(wHeight, "Height", Int));
+PART(kCitizenImage, EVENT_CITIZEN_IMAGE,
+     {
+         FIELD(dwOffset, "Offset", UInt),
+         FIELD(dwLength, "Length", UInt),
+         FIELD(wWidth, "Width", Int),
+         FIELD(wHeight, "Height", Int),
+     });
 
 } // namespace
 
-TABLE(kAccessControl, DEV_EVENT_ACCESSCONTROL_INFO, HEAD_A, FIELD(nChannelID, "Index", Int).FromRoot().Alias(), OBJECT,
-      FILE_INFO, FIELD(emEventType, "Type", Names(kPassages)), FIELD(bStatus, "Status", Bool).Absent(1),
-      FIELD(emCardType, "CardType", Custom(kCardType)).Absent(EVENT_ACCESS_CARD_UNKNOWN),
-      FIELD(emOpenMethod, "Method", Custom(kOpenMethod)), FIELD(szCardNo, "CardNo", Text),
-      FIELD(szPassword, "Password", Text), FIELD(szReaderID, "ReaderID", Text), FIELD(szUserID, "UserID", Text),
-      FIELD(szSnapURL, "SnapURL", Text), FIELD(nErrorCode, "ErrorCode", Int), FIELD(nRecNo, "RecNo", Int),
-      FIELD(nNumbers, "Numbers", Int), REPEAT, FLAG_MASK, FIELD(nAttendanceState, "AttendanceState", Int),
-      FIELD(szClassNumber, "ClassNumber", Text).Only(OnlyType::String),
-      FIELD(szPhoneNumber, "PhoneNumber", Text).Only(OnlyType::String),
-      FIELD(szCardName, "CardName", Text).Only(OnlyType::String))
+TABLE(kAccessControl, DEV_EVENT_ACCESSCONTROL_INFO,
+      {
+          HEAD_A,
+          FIELD(nChannelID, "Index", Int).FromRoot().Alias(),
+          OBJECT,
+          FILE_INFO,
+          FIELD(emEventType, "Type", Names(kPassages)),
+          FIELD(bStatus, "Status", Bool).Absent(1),
+          FIELD(emCardType, "CardType", Custom(kCardType)).Absent(EVENT_ACCESS_CARD_UNKNOWN),
+          FIELD(emOpenMethod, "Method", Custom(kOpenMethod)),
+          FIELD(szCardNo, "CardNo", Text),
+          FIELD(szPassword, "Password", Text),
+          FIELD(szReaderID, "ReaderID", Text),
+          FIELD(szUserID, "UserID", Text),
+          FIELD(szSnapURL, "SnapURL", Text),
+          FIELD(nErrorCode, "ErrorCode", Int),
+          FIELD(nRecNo, "RecNo", Int),
+          FIELD(nNumbers, "Numbers", Int),
+          REPEAT,
+          FLAG_MASK,
+          FIELD(nAttendanceState, "AttendanceState", Int),
+          FIELD(szClassNumber, "ClassNumber", Text).Only(OnlyType::String),
+          FIELD(szPhoneNumber, "PhoneNumber", Text).Only(OnlyType::String),
+          FIELD(szCardName, "CardName", Text).Only(OnlyType::String),
+      })
     .AfterRead(CountCaptures);
 
-TABLE(kInstallCardReader, DEV_EVENT_INSTALLCARDREADER_INFO, HEAD_A);
+TABLE(kInstallCardReader, DEV_EVENT_INSTALLCARDREADER_INFO,
+      {
+          HEAD_A,
+      });
 
-TABLE(kCitizenIDCard, DEV_EVENT_CITIZENIDCARD_INFO, HEAD_C, FIELD(nGroupID, "GroupID", Int).Only(OnlyType::Integer),
-      FIELD(nCountInGroup, "CountInGroup", Int).Only(OnlyType::Integer),
-      FIELD(nIndexInGroup, "IndexInGroup", Int).Only(OnlyType::Integer), FIELD(szCitizen, "Citizen", Text), SEX,
-      FIELD(nEthnicity, "Ethnicity", Int), FIELD(stuBirth, "Birth", Date), FIELD(szAddress, "Address", Text),
-      FIELD(szNumber, "Number", Text), FIELD(szAuthority, "Authority", Text), FIELD(stuStart, "Start", Date),
-      FIELD(bLongTerm, "End", Custom(kLongTerm)), FIELD(stuEnd, "End", Date));
+TABLE(kCitizenIDCard, DEV_EVENT_CITIZENIDCARD_INFO,
+      {
+          HEAD_C,
+          FIELD(nGroupID, "GroupID", Int).Only(OnlyType::Integer),
+          FIELD(nCountInGroup, "CountInGroup", Int).Only(OnlyType::Integer),
+          FIELD(nIndexInGroup, "IndexInGroup", Int).Only(OnlyType::Integer),
+          FIELD(szCitizen, "Citizen", Text),
+          SEX,
+          FIELD(nEthnicity, "Ethnicity", Int),
+          FIELD(stuBirth, "Birth", Date),
+          FIELD(szAddress, "Address", Text),
+          FIELD(szNumber, "Number", Text),
+          FIELD(szAuthority, "Authority", Text),
+          FIELD(stuStart, "Start", Date),
+          FIELD(bLongTerm, "End", Custom(kLongTerm)),
+          FIELD(stuEnd, "End", Date),
+      });
 
-TABLE(kCitizenPictureCompare, DEV_EVENT_CITIZENPICTURECOMPARE_INFO, CHANNEL, ACTION, TIME_STAMP, RULE_NAME, UTC,
-      FIELD(byCompareResult, "CompareResult", Int), FIELD(bySimilarity, "Similarity", Int),
-      FIELD(byThreshold, "Threshold", Int), SEX, FIELD(dwEthnicity, "Ethnicity", UInt),
-      FIELD(szCitizen, "Citizen", Text), FIELD(szAddress, "Address", Text), FIELD(szNumber, "Number", Text),
-      FIELD(szAuthority, "Authority", Text), FIELD(stuBirth, "Birth", NetTime), FIELD(stuStart, "Start", NetTime),
-      FIELD(stuEnd, "End", NetTime), FIELD(bLongTerm, "End", Custom(kLongTerm)),
-      FIELD(stuImage, "ImageInfo", Record(kCitizenImage)).AtLeast(2), EXTENSION);
+TABLE(kCitizenPictureCompare, DEV_EVENT_CITIZENPICTURECOMPARE_INFO,
+      {
+          CHANNEL,
+          ACTION,
+          TIME_STAMP,
+          RULE_NAME,
+          UTC,
+          FIELD(byCompareResult, "CompareResult", Int),
+          FIELD(bySimilarity, "Similarity", Int),
+          FIELD(byThreshold, "Threshold", Int),
+          SEX,
+          FIELD(dwEthnicity, "Ethnicity", UInt),
+          FIELD(szCitizen, "Citizen", Text),
+          FIELD(szAddress, "Address", Text),
+          FIELD(szNumber, "Number", Text),
+          FIELD(szAuthority, "Authority", Text),
+          FIELD(stuBirth, "Birth", NetTime),
+          FIELD(stuStart, "Start", NetTime),
+          FIELD(stuEnd, "End", NetTime),
+          FIELD(bLongTerm, "End", Custom(kLongTerm)),
+          FIELD(stuImage, "ImageInfo", Record(kCitizenImage)).AtLeast(2),
+          EXTENSION,
+      });
 
-TABLE(kNetPlayCheck, DEV_EVENT_NETPLAYCHECK_INFO, HEAD_C, FILE_TIME, FIELD(szIC, "IC", Text),
-      FIELD(szNetBarName, "NetBarName", Text), FIELD(szNetBarID, "NetBarID", Text), FIELD(szAddress, "Address", Text));
+TABLE(kNetPlayCheck, DEV_EVENT_NETPLAYCHECK_INFO,
+      {
+          HEAD_C,
+          FILE_TIME,
+          FIELD(szIC, "IC", Text),
+          FIELD(szNetBarName, "NetBarName", Text),
+          FIELD(szNetBarID, "NetBarID", Text),
+          FIELD(szAddress, "Address", Text),
+      });
 
-TABLE(kRFIDInfo, DEV_EVENT_RFIDINFO_INFO, HEAD_A, FIELD(nState), FIELD(nRFIDNum),
-      FIELD(szRFID, "RFID", Text).Count(AT(nRFIDNum)))
+TABLE(kRFIDInfo, DEV_EVENT_RFIDINFO_INFO,
+      {
+          HEAD_A,
+          FIELD(nState),
+          FIELD(nRFIDNum),
+          FIELD(szRFID, "RFID", Text).Count(AT(nRFIDNum)),
+      })
     .AfterRead(ReadTagState);
 
-TABLE(kShootingScoreRecognition, DEV_EVENT_SHOOTINGSCORERECOGNITION_INFO, HEAD_A, FILE_INFO, ACTION,
-      FIELD(stuDetectRegion, "DetectRegion", Record(kEventPoint)).AtLeast(2), FIELD(nBulletHolesNum),
-      FIELD(stuBulletHoles, "BulletHoles", Record(kBulletHole)).Count(AT(nBulletHolesNum)), REPEAT, FLAG_MASK);
+TABLE(kShootingScoreRecognition, DEV_EVENT_SHOOTINGSCORERECOGNITION_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          ACTION,
+          FIELD(stuDetectRegion, "DetectRegion", Record(kEventPoint)).AtLeast(2),
+          FIELD(nBulletHolesNum),
+          FIELD(stuBulletHoles, "BulletHoles", Record(kBulletHole)).Count(AT(nBulletHolesNum)),
+          REPEAT,
+          FLAG_MASK,
+      });
 
 } // namespace orrery::events

@@ -57,19 +57,31 @@ constexpr Name kSensorRows[] = {
 static_assert(std::size(kSensorRows) == EVENT_SENSE_AMBIENT_LIGHT + 1);
 constexpr NameTable kSensors = FoldedNames(kSensorRows).Unknown(EVENT_SENSE_UNKNOWN);
 
-constexpr Name kAnalogStatusRows[] = {
-    {EVENT_ANALOG_NORMAL, "normal"},     {EVENT_ANALOG_INVALID, "invalid"},   {EVENT_ANALOG_UPPER1, "upper1"},
-    {EVENT_ANALOG_UPPER1 + 1, "upper2"}, {EVENT_ANALOG_UPPER1 + 2, "upper3"}, {EVENT_ANALOG_UPPER4, "upper4"},
-    {EVENT_ANALOG_LOWER1, "lower1"},     {EVENT_ANALOG_LOWER1 + 1, "lower2"}, {EVENT_ANALOG_LOWER1 + 2, "lower3"},
-    {EVENT_ANALOG_LOWER4, "lower4"},
-};
-constexpr NameTable kAnalogStatuses = FoldedNames(kAnalogStatusRows).Unknown(EVENT_ANALOG_UNKNOWN);
+NAMES(kAnalogStatuses, kFolded.Unknown(EVENT_ANALOG_UNKNOWN),
+      {
+          {EVENT_ANALOG_NORMAL, "normal"},
+          {EVENT_ANALOG_INVALID, "invalid"},
+          {EVENT_ANALOG_UPPER1, "upper1"},
+          {EVENT_ANALOG_UPPER1 + 1, "upper2"},
+          {EVENT_ANALOG_UPPER1 + 2, "upper3"},
+          {EVENT_ANALOG_UPPER4, "upper4"},
+          {EVENT_ANALOG_LOWER1, "lower1"},
+          {EVENT_ANALOG_LOWER1 + 1, "lower2"},
+          {EVENT_ANALOG_LOWER1 + 2, "lower3"},
+          {EVENT_ANALOG_LOWER4, "lower4"},
+      });
 
-constexpr Name kSceneModeRows[] = {{EVENT_SCENE_INDOOR, "Indoor"}, {EVENT_SCENE_OUTDOOR, "Outdoor"}};
-constexpr NameTable kSceneModes = FoldedNames(kSceneModeRows);
+NAMES(kSceneModes, kFolded,
+      {
+          {EVENT_SCENE_INDOOR, "Indoor"},
+          {EVENT_SCENE_OUTDOOR, "Outdoor"},
+      });
 
-constexpr Name kPassPictureRows[] = {{EVENT_PASS_PICTURE_PASS, "Pass"}, {EVENT_PASS_PICTURE_REAL, "Real"}};
-constexpr NameTable kPassPictures = FoldedNames(kPassPictureRows);
+NAMES(kPassPictures, kFolded,
+      {
+          {EVENT_PASS_PICTURE_PASS, "Pass"},
+          {EVENT_PASS_PICTURE_REAL, "Real"},
+      });
 
 // Another event by its name, which is cut as the field of a name would cut it.
 void ReadEventName(const Field& field, const Value& value, std::byte* record, ReadCall&) {
@@ -78,46 +90,129 @@ void ReadEventName(const Field& field, const Value& value, std::byte* record, Re
 }
 constexpr CustomCodec kEventName{ReadEventName};
 
-PART(kLinkSource, EVENT_LINK_SOURCE_INFO, FIELD(szSrcEvent, "SrcEvent", Text), FIELD(stuSrcTime, "SrcTime", NetTimeEx),
-     FIELD(nSrcChannel, "SrcChannel", Int));
+PART(kLinkSource, EVENT_LINK_SOURCE_INFO,
+     {
+         FIELD(szSrcEvent, "SrcEvent", Text),
+         FIELD(stuSrcTime, "SrcTime", NetTimeEx),
+         FIELD(nSrcChannel, "SrcChannel", Int),
+     });
 
 } // namespace
 
-TABLE(kVideoMotion, DEV_EVENT_VIDEOMOTION_INFO, HEAD_A, FILE_INFO, COMM_INFO);
-TABLE(kAlarmLocal, DEV_EVENT_ALARMLOCAL_INFO, HEAD_A, FILE_INFO, COMM_INFO);
-TABLE(kMultiSceneSwitch, DEV_EVENT_MULTISCENESWITCH_INFO, HEAD_A, ACTION);
+TABLE(kVideoMotion, DEV_EVENT_VIDEOMOTION_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          COMM_INFO,
+      });
+TABLE(kAlarmLocal, DEV_EVENT_ALARMLOCAL_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          COMM_INFO,
+      });
+TABLE(kMultiSceneSwitch, DEV_EVENT_MULTISCENESWITCH_INFO,
+      {
+          HEAD_A,
+          ACTION,
+      });
 
-TABLE(kAnalogAlarm, DEV_EVENT_ANALOGALARM_INFO, HEAD_A, FILE_INFO, FIELD(nIndex, "Index", Int).FromRoot(),
-      FIELD(emSenseMethod, "SenseMethod", Names(kSensors)),
-      FIELD(emStatus, "status", Names(kAnalogStatuses)).Absent(EVENT_ANALOG_UNKNOWN), FIELD(dValue, "value", Real),
-      FIELD(stuTime, "time", UtcTime), FLAG_MASK, ACTION);
+TABLE(kAnalogAlarm, DEV_EVENT_ANALOGALARM_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          FIELD(nIndex, "Index", Int).FromRoot(),
+          FIELD(emSenseMethod, "SenseMethod", Names(kSensors)),
+          FIELD(emStatus, "status", Names(kAnalogStatuses)).Absent(EVENT_ANALOG_UNKNOWN),
+          FIELD(dValue, "value", Real),
+          FIELD(stuTime, "time", UtcTime),
+          FLAG_MASK,
+          ACTION,
+      });
 
-TABLE(kVideoBlind, DEV_EVENT_VIDEOBLIND_INFO, HEAD_A, FILE_TIME);
-TABLE(kSnapByTime, DEV_EVENT_SNAPBYTIME_INFO, HEAD_A, FILE_TIME);
-TABLE(kSnapManual, DEV_EVENT_SNAPMANUAL_INFO, HEAD_A, FILE_INFO, REPEAT, FLAG_MASK);
+TABLE(kVideoBlind, DEV_EVENT_VIDEOBLIND_INFO,
+      {
+          HEAD_A,
+          FILE_TIME,
+      });
+TABLE(kSnapByTime, DEV_EVENT_SNAPBYTIME_INFO,
+      {
+          HEAD_A,
+          FILE_TIME,
+      });
+TABLE(kSnapManual, DEV_EVENT_SNAPMANUAL_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          REPEAT,
+          FLAG_MASK,
+      });
 
-TABLE(kVideoStatic, DEV_EVENT_VIDEOSTATIC_INFO, HEAD_C, FIELD(emMode, "Mode", Names(kSceneModes)), ACTION);
-TABLE(kVideoTiming, DEV_EVENT_VIDEOTIMING_INFO, HEAD_C, ACTION);
+TABLE(kVideoStatic, DEV_EVENT_VIDEOSTATIC_INFO,
+      {
+          HEAD_C,
+          FIELD(emMode, "Mode", Names(kSceneModes)),
+          ACTION,
+      });
+TABLE(kVideoTiming, DEV_EVENT_VIDEOTIMING_INFO,
+      {
+          HEAD_C,
+          ACTION,
+      });
 
-TABLE(kPicInfo, DEV_EVENT_PICINFO_INFO, HEAD_C, FIELD(stuTime, "Time", NetTimeEx),
-      FIELD(nType, "Type", Custom(kEventName)), FIELD(nSpeed, "Speed", Int),
-      FIELD(nSpeedHighLine, "SpeedHighLine", Int), FIELD(nDisk, "Disk", Int), FIELD(nCluster, "Cluster", Int),
-      FIELD(nPartition, "Partition", Int), FIELD(szHappenAddress, "HappenAddress", Text), FIELD(szPicID, "PicID", Text),
-      FIELD(szPlate, "Plate", Text));
+TABLE(kPicInfo, DEV_EVENT_PICINFO_INFO,
+      {
+          HEAD_C,
+          FIELD(stuTime, "Time", NetTimeEx),
+          FIELD(nType, "Type", Custom(kEventName)),
+          FIELD(nSpeed, "Speed", Int),
+          FIELD(nSpeedHighLine, "SpeedHighLine", Int),
+          FIELD(nDisk, "Disk", Int),
+          FIELD(nCluster, "Cluster", Int),
+          FIELD(nPartition, "Partition", Int),
+          FIELD(szHappenAddress, "HappenAddress", Text),
+          FIELD(szPicID, "PicID", Text),
+          FIELD(szPlate, "Plate", Text),
+      });
 
 // The preset's name, unlike a rule's, always ends in a terminator.
-TABLE(kPtzPreset, DEV_EVENT_PTZPRESET_INFO, HEAD_A, FIELD(szName, "Name", Text).Alias(),
-      FIELD(fPosition, "Position", Real).AtLeast(3), FIELD(nPresetID, "PresetID", Int));
+TABLE(kPtzPreset, DEV_EVENT_PTZPRESET_INFO,
+      {
+          HEAD_A,
+          FIELD(szName, "Name", Text).Alias(),
+          FIELD(fPosition, "Position", Real).AtLeast(3),
+          FIELD(nPresetID, "PresetID", Int),
+      });
 
-TABLE(kSceneChange, DEV_EVENT_SCENECHANGE_INFO, CHANNEL, ACTION, TIME_STAMP, UTC, EVENT_ID, FILE_INFO, REPEAT,
-      FLAG_MASK);
+TABLE(kSceneChange, DEV_EVENT_SCENECHANGE_INFO,
+      {
+          CHANNEL,
+          ACTION,
+          TIME_STAMP,
+          UTC,
+          EVENT_ID,
+          FILE_INFO,
+          REPEAT,
+          FLAG_MASK,
+      });
 
-TABLE(kLinkSD, DEV_EVENT_LINKSD_INFO, HEAD_C, FIELD(pSrcInfo, "SrcInfo", OwnedRecord(kLinkSource)),
-      FIELD(stuStartTime, "StartTime", NetTimeEx), FIELD(stuEndTime, "EndTime", NetTimeEx),
-      FIELD(nPresetID, "PresetID", Int));
+TABLE(kLinkSD, DEV_EVENT_LINKSD_INFO,
+      {
+          HEAD_C,
+          FIELD(pSrcInfo, "SrcInfo", OwnedRecord(kLinkSource)),
+          FIELD(stuStartTime, "StartTime", NetTimeEx),
+          FIELD(stuEndTime, "EndTime", NetTimeEx),
+          FIELD(nPresetID, "PresetID", Int),
+      });
 
-TABLE(kPassChange, DEV_EVENT_PASSCHANGE_INFO, HEAD_A, FIELD(nPresetID, "PresetID", Int),
-      FIELD(nGroupID, "GroupID", Int), FIELD(nCountInGroup, "CountInGroup", Int),
-      FIELD(nIndexInGroup, "IndexInGroup", Int), FIELD(emPictureType, "PictureType", Names(kPassPictures)));
+TABLE(kPassChange, DEV_EVENT_PASSCHANGE_INFO,
+      {
+          HEAD_A,
+          FIELD(nPresetID, "PresetID", Int),
+          FIELD(nGroupID, "GroupID", Int),
+          FIELD(nCountInGroup, "CountInGroup", Int),
+          FIELD(nIndexInGroup, "IndexInGroup", Int),
+          FIELD(emPictureType, "PictureType", Names(kPassPictures)),
+      });
 
 } // namespace orrery::events

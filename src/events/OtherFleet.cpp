@@ -5,70 +5,177 @@ namespace orrery::events {
 
 namespace {
 
-constexpr Name kSupplyRows[] = {{EVENT_SUPPLY_ON, "On"}};
-constexpr NameTable kSupplies = FoldedNames(kSupplyRows).Unknown(EVENT_SUPPLY_OFF);
+NAMES(kSupplies, kFolded.Unknown(EVENT_SUPPLY_OFF),
+      {
+          {EVENT_SUPPLY_ON, "On"},
+      });
 
-constexpr Name kFuelRows[] = {
-    {EVENT_FUEL_98, "98#"},        {EVENT_FUEL_97, "97#"},        {EVENT_FUEL_95, "95#"},
-    {EVENT_FUEL_93, "93#"},        {EVENT_FUEL_90, "90#"},        {EVENT_FUEL_PLUS_10, "10#"},
-    {EVENT_FUEL_PLUS_5, "5#"},     {EVENT_FUEL_0, "0#"},          {EVENT_FUEL_MINUS_10, "-10#"},
-    {EVENT_FUEL_MINUS_20, "-20#"}, {EVENT_FUEL_MINUS_35, "-35#"}, {EVENT_FUEL_MINUS_50, "-50#"},
-};
-constexpr NameTable kFuels = FoldedNames(kFuelRows);
+NAMES(kFuels, kFolded,
+      {
+          {EVENT_FUEL_98, "98#"},
+          {EVENT_FUEL_97, "97#"},
+          {EVENT_FUEL_95, "95#"},
+          {EVENT_FUEL_93, "93#"},
+          {EVENT_FUEL_90, "90#"},
+          {EVENT_FUEL_PLUS_10, "10#"},
+          {EVENT_FUEL_PLUS_5, "5#"},
+          {EVENT_FUEL_0, "0#"},
+          {EVENT_FUEL_MINUS_10, "-10#"},
+          {EVENT_FUEL_MINUS_20, "-20#"},
+          {EVENT_FUEL_MINUS_35, "-35#"},
+          {EVENT_FUEL_MINUS_50, "-50#"},
+      });
 
 } // namespace
 
 // ---- State of the vehicle ----------------------------------------------------------------------------------------
 
-TABLE(kVehicleACC, DEV_EVENT_VEHICLEACC_INFO, HEAD_A, GPS_STATUS, FIELD(emACCStatus, "Status", Names(kSupplies)),
-      ACTION, FIELD(emConstantElectric, "ConstantElectricStatus", Names(kSupplies)));
+TABLE(kVehicleACC, DEV_EVENT_VEHICLEACC_INFO,
+      {
+          HEAD_A,
+          GPS_STATUS,
+          FIELD(emACCStatus, "Status", Names(kSupplies)),
+          ACTION,
+          FIELD(emConstantElectric, "ConstantElectricStatus", Names(kSupplies)),
+      });
 
 #define ACCIDENT_ROWS HEAD_A, GPS_STATUS, FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT
-TABLE(kVehicleTurnover, DEV_EVENT_VEHICLETURNOVER_INFO, ACCIDENT_ROWS);
-TABLE(kVehicleCollision, DEV_EVENT_VEHICLECOLLISION_INFO, ACCIDENT_ROWS);
+TABLE(kVehicleTurnover, DEV_EVENT_VEHICLETURNOVER_INFO,
+      {
+          ACCIDENT_ROWS,
+      });
+TABLE(kVehicleCollision, DEV_EVENT_VEHICLECOLLISION_INFO,
+      {
+          ACCIDENT_ROWS,
+      });
 #undef ACCIDENT_ROWS
 
-TABLE(kAccOffSnap, DEV_EVENT_ACCOFFSNAP_INFO, HEAD_A);
-TABLE(kBusSharpTurn, DEV_EVENT_BUSSHARPTURN_INFO, HEAD_A, ACTION, GPS_STATUS);
+TABLE(kAccOffSnap, DEV_EVENT_ACCOFFSNAP_INFO,
+      {
+          HEAD_A,
+      });
+TABLE(kBusSharpTurn, DEV_EVENT_BUSSHARPTURN_INFO,
+      {
+          HEAD_A,
+          ACTION,
+          GPS_STATUS,
+      });
 
-TABLE(kHighSpeed, DEV_EVENT_HIGHSPEED_INFO, CHANNEL, ORRERY_SAME_FROM_EVENT(nAction), UTC, TIME_STAMP, GPS_STATUS,
-      FIELD(nSpeedLimit, "SpeedLimit", Int), FIELD(nCurSpeed, "CurSpeed", Int), FIELD(nMaxSpeed, "MaxSpeed", Int),
-      FIELD(stuStartTime, "StartTime", NetTimeEx).Only(OnlyType::String));
+TABLE(kHighSpeed, DEV_EVENT_HIGHSPEED_INFO,
+      {
+          CHANNEL,
+          ORRERY_SAME_FROM_EVENT(nAction),
+          UTC,
+          TIME_STAMP,
+          GPS_STATUS,
+          FIELD(nSpeedLimit, "SpeedLimit", Int),
+          FIELD(nCurSpeed, "CurSpeed", Int),
+          FIELD(nMaxSpeed, "MaxSpeed", Int),
+          FIELD(stuStartTime, "StartTime", NetTimeEx).Only(OnlyType::String),
+      });
 
 #define FLEET_ROWS CHANNEL, UTC, ACTION, REPEAT, FLAG_MASK, RESOLUTION, COMM_INFO_ALONE
-TABLE(kNotClearCar, DEV_EVENT_NOTCLEARCAR_INFO, FLEET_ROWS);
-TABLE(kSOSAlert, DEV_EVENT_SOSALERT_INFO, FLEET_ROWS);
-TABLE(kOverLoad, DEV_EVENT_OVERLOAD_INFO, FLEET_ROWS);
-TABLE(kNonWorkingTime, DEV_EVENT_NONWORKINGTIME_INFO, FLEET_ROWS);
+TABLE(kNotClearCar, DEV_EVENT_NOTCLEARCAR_INFO,
+      {
+          FLEET_ROWS,
+      });
+TABLE(kSOSAlert, DEV_EVENT_SOSALERT_INFO,
+      {
+          FLEET_ROWS,
+      });
+TABLE(kOverLoad, DEV_EVENT_OVERLOAD_INFO,
+      {
+          FLEET_ROWS,
+      });
+TABLE(kNonWorkingTime, DEV_EVENT_NONWORKINGTIME_INFO,
+      {
+          FLEET_ROWS,
+      });
 #undef FLEET_ROWS
 
 // ---- The driver --------------------------------------------------------------------------------------------------
 
-TABLE(kTiredPhysiological, DEV_EVENT_TIREDPHYSIOLOGICAL_INFO, HEAD_A, ACTION, GPS_STATUS);
-TABLE(kTrafficDriverLowerHead, DEV_EVENT_TRAFFICDRIVERLOWERHEAD_INFO, HEAD_A, GPS_STATUS);
-TABLE(kTrafficDriverLookAround, DEV_EVENT_TRAFFICDRIVERLOOKAROUND_INFO, HEAD_A, GPS_STATUS);
-TABLE(kTrafficDriverLeavePost, DEV_EVENT_TRAFFICDRIVERLEAVEPOST_INFO, HEAD_A, GPS_STATUS);
-TABLE(kTrafficDriverYawn, DEV_EVENT_TRAFFICDRIVERYAWN_INFO, HEAD_A, GPS_STATUS);
+TABLE(kTiredPhysiological, DEV_EVENT_TIREDPHYSIOLOGICAL_INFO,
+      {
+          HEAD_A,
+          ACTION,
+          GPS_STATUS,
+      });
+TABLE(kTrafficDriverLowerHead, DEV_EVENT_TRAFFICDRIVERLOWERHEAD_INFO,
+      {
+          HEAD_A,
+          GPS_STATUS,
+      });
+TABLE(kTrafficDriverLookAround, DEV_EVENT_TRAFFICDRIVERLOOKAROUND_INFO,
+      {
+          HEAD_A,
+          GPS_STATUS,
+      });
+TABLE(kTrafficDriverLeavePost, DEV_EVENT_TRAFFICDRIVERLEAVEPOST_INFO,
+      {
+          HEAD_A,
+          GPS_STATUS,
+      });
+TABLE(kTrafficDriverYawn, DEV_EVENT_TRAFFICDRIVERYAWN_INFO,
+      {
+          HEAD_A,
+          GPS_STATUS,
+      });
 
-TABLE(kDrivingWithoutCard, DEV_EVENT_DRIVINGWITHOUTCARD_INFO, CHANNEL, ACTION, TIME_STAMP, UTC);
+TABLE(kDrivingWithoutCard, DEV_EVENT_DRIVINGWITHOUTCARD_INFO,
+      {
+          CHANNEL,
+          ACTION,
+          TIME_STAMP,
+          UTC,
+      });
 
 // ---- Fuel, size, tag ---------------------------------------------------------------------------------------------
 
-TABLE(kTrafficFcc, DEV_EVENT_TRAFFICFCC_INFO, HEAD_A_WITH(FIELD(nTriggerID, "TriggerID", Int)),
-      FIELD(dwNum, "Num", AnyInteger), FIELD(dwLitre, "Litre", AnyInteger), FIELD(emType, "Type", Names(kFuels)),
-      FIELD(dwMoney, "Money", AnyInteger), FIELD(szText, "Text", Text), FIELD(szTime, "Time", Text),
-      FIELD(dwOffset, "Object/Image/Offset", UInt), FIELD(dwLength, "Object/Image/Length", UInt),
-      FIELD(wWidth, "Object/Image/Width", Int), FIELD(wHeight, "Object/Image/Height", Int));
+TABLE(kTrafficFcc, DEV_EVENT_TRAFFICFCC_INFO,
+      {
+          HEAD_A_WITH(FIELD(nTriggerID, "TriggerID", Int)),
+          FIELD(dwNum, "Num", AnyInteger),
+          FIELD(dwLitre, "Litre", AnyInteger),
+          FIELD(emType, "Type", Names(kFuels)),
+          FIELD(dwMoney, "Money", AnyInteger),
+          FIELD(szText, "Text", Text),
+          FIELD(szTime, "Time", Text),
+          FIELD(dwOffset, "Object/Image/Offset", UInt),
+          FIELD(dwLength, "Object/Image/Length", UInt),
+          FIELD(wWidth, "Object/Image/Width", Int),
+          FIELD(wHeight, "Object/Image/Height", Int),
+      });
 
-TABLE(kTransfinite, DEV_EVENT_TRANSFINITE_INFO, HEAD_A, FILE_INFO, ACTION, FIELD(szText, "Text", Text),
-      FIELD(szTime, "Time", Text), FIELD(dLong, "Long", Real), FIELD(dWidth, "Width", Real),
-      FIELD(dHeight, "Height", Real), FIELD(szViolationCode, "ViolationCode", Text),
-      FIELD(szDescribe, "Describe", Text), REPEAT, FLAG_MASK);
+TABLE(kTransfinite, DEV_EVENT_TRANSFINITE_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          ACTION,
+          FIELD(szText, "Text", Text),
+          FIELD(szTime, "Time", Text),
+          FIELD(dLong, "Long", Real),
+          FIELD(dWidth, "Width", Real),
+          FIELD(dHeight, "Height", Real),
+          FIELD(szViolationCode, "ViolationCode", Text),
+          FIELD(szDescribe, "Describe", Text),
+          REPEAT,
+          FLAG_MASK,
+      });
 
-TABLE(kOil4GFlowRate, DEV_EVENT_OIL4GFLOWRATE_INFO, HEAD_A, FIELD(dwFlowRate, "FlowRate", UInt));
+TABLE(kOil4GFlowRate, DEV_EVENT_OIL4GFLOWRATE_INFO,
+      {
+          HEAD_A,
+          FIELD(dwFlowRate, "FlowRate", UInt),
+      });
 
-TABLE(kTrafficEleTagInfo, DEV_EVENT_TRAFFICELETAGINFO_INFO, HEAD_A, ACTION,
-      FIELD(stuRFIDTag, "RFIDEleTagInfo", Record(kRfidTag)), FIELD(nLinkChannelNum),
-      FIELD(nLinkChannel, "LinkChannel", Int).Count(AT(nLinkChannelNum)));
+TABLE(kTrafficEleTagInfo, DEV_EVENT_TRAFFICELETAGINFO_INFO,
+      {
+          HEAD_A,
+          ACTION,
+          FIELD(stuRFIDTag, "RFIDEleTagInfo", Record(kRfidTag)),
+          FIELD(nLinkChannelNum),
+          FIELD(nLinkChannel, "LinkChannel", Int).Count(AT(nLinkChannelNum)),
+      });
 
 } // namespace orrery::events

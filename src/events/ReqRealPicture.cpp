@@ -58,16 +58,28 @@ std::int32_t CReqRealPicture::deserialize(const char* text, std::size_t) noexcep
 
 namespace {
 
-constexpr record::Name kTransferModeRows[] = {{CReqRealPicture::kRealtime, "Realtime"},
-                                              {CReqRealPicture::kOffline, "Offline"},
-                                              {CReqRealPicture::kOfflineOver, "OfflineOver"}};
-constexpr record::NameTable kTransferModes = record::FoldedNames(kTransferModeRows).Unknown(-1);
+NAMES(kTransferModes, record::kFolded.Unknown(-1),
+      {
+          {CReqRealPicture::kRealtime, "Realtime"},
+          {CReqRealPicture::kOffline, "Offline"},
+          {CReqRealPicture::kOfflineOver, "OfflineOver"},
+      });
 // The bit of each.
-constexpr record::Name kFlagRows[] = {{0, "*"},     {1, "Timing"}, {2, "Manual"}, {3, "Marked"},
-                                      {4, "Event"}, {5, "Mosaic"}, {6, "Cutout"}};
-constexpr record::NameTable kFlags = record::FoldedNames(kFlagRows).UnknownLeaves();
-constexpr record::Name kFileTagRows[] = {{1, "ATMBeforePaste"}, {2, "ATMAfterPaste"}};
-constexpr record::NameTable kFileTags = record::FoldedNames(kFileTagRows);
+NAMES(kFlags, record::kFolded.UnknownLeaves(),
+      {
+          {0, "*"},
+          {1, "Timing"},
+          {2, "Manual"},
+          {3, "Marked"},
+          {4, "Event"},
+          {5, "Mosaic"},
+          {6, "Cutout"},
+      });
+NAMES(kFileTags, record::kFolded,
+      {
+          {1, "ATMBeforePaste"},
+          {2, "ATMAfterPaste"},
+      });
 
 // A flag that stands twice carries into the next bit: clients know the sum, not the union.
 std::uint32_t FlagMask(const Value& flags) noexcept {

@@ -15,9 +15,12 @@ using json::Value;
 namespace {
 
 constexpr std::uint32_t kMostEvents = 128;
-constexpr record::Name kActionRows[] = {
-    {EVENT_ACTION_PULSE, "Pulse"}, {EVENT_ACTION_START, "Start"}, {EVENT_ACTION_STOP, "Stop"}};
-constexpr record::NameTable kActions = record::FoldedNames(kActionRows).UnknownLeaves();
+NAMES(kActions, record::kFolded.UnknownLeaves(),
+      {
+          {EVENT_ACTION_PULSE, "Pulse"},
+          {EVENT_ACTION_START, "Start"},
+          {EVENT_ACTION_STOP, "Stop"},
+      });
 
 std::uint32_t CodeOf(const Value& event) noexcept {
     constexpr std::size_t kLongestName = 127;

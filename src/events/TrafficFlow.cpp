@@ -10,25 +10,44 @@ using json::Value;
 
 namespace {
 
-constexpr Name kFlowDirectionRows[] = {{EVENT_FLOW_STRAIGHT, "Straight"},
-                                       {EVENT_FLOW_TURN_LEFT, "TurnLeft"},
-                                       {EVENT_FLOW_TURN_RIGHT, "TurnRight"},
-                                       {EVENT_FLOW_U_TURN, "U-Turn"}};
-constexpr NameTable kFlowDirections = FoldedNames(kFlowDirectionRows);
-constexpr Name kHeadingRows[] = {{1, "Approach"}, {2, "Leave"}};
-constexpr NameTable kHeadings = FoldedNames(kHeadingRows);
-constexpr Name kRankRows[] = {{EVENT_RANK_RAPID, "Rapid"},
-                              {EVENT_RANK_TRUNK, "Trunk"},
-                              {EVENT_RANK_SUB_TRUNK, "SubTrunk"},
-                              {EVENT_RANK_BRANCH, "Branch"}};
-constexpr NameTable kRanks = FoldedNames(kRankRows);
+NAMES(kFlowDirections, kFolded,
+      {
+          {EVENT_FLOW_STRAIGHT, "Straight"},
+          {EVENT_FLOW_TURN_LEFT, "TurnLeft"},
+          {EVENT_FLOW_TURN_RIGHT, "TurnRight"},
+          {EVENT_FLOW_U_TURN, "U-Turn"},
+      });
+NAMES(kHeadings, kFolded,
+      {
+          {1, "Approach"},
+          {2, "Leave"},
+      });
+NAMES(kRanks, kFolded,
+      {
+          {EVENT_RANK_RAPID, "Rapid"},
+          {EVENT_RANK_TRUNK, "Trunk"},
+          {EVENT_RANK_SUB_TRUNK, "SubTrunk"},
+          {EVENT_RANK_BRANCH, "Branch"},
+      });
 
-PART(kSignal, EVENT_SIGNAL_INFO, FIELD(bySpeed, "Speed", Int), FIELD(byType, "Type", Int),
-     FIELD(fRedTime, "RedTime", Real), FIELD(fCapTime, "CapTime", Real), FIELD(byCarLength, "CarLength", Int),
-     FIELD(bySigSequence, "SigSequence", Int), FIELD(byDirection, "Direction", Int),
-     FIELD(byLightColor, "LightColor", Int), FIELD(szSnapFlag, "SnapFlag", Text));
-PART(kCarWay, EVENT_CAR_WAY_INFO, FIELD(byLane), FIELD(bySignalNum),
-     FIELD(stuSignal, "SigInfo", Record(kSignal)).Count(AT(bySignalNum)).OnNull(Nulls::CloseUp));
+PART(kSignal, EVENT_SIGNAL_INFO,
+     {
+         FIELD(bySpeed, "Speed", Int),
+         FIELD(byType, "Type", Int),
+         FIELD(fRedTime, "RedTime", Real),
+         FIELD(fCapTime, "CapTime", Real),
+         FIELD(byCarLength, "CarLength", Int),
+         FIELD(bySigSequence, "SigSequence", Int),
+         FIELD(byDirection, "Direction", Int),
+         FIELD(byLightColor, "LightColor", Int),
+         FIELD(szSnapFlag, "SnapFlag", Text),
+     });
+PART(kCarWay, EVENT_CAR_WAY_INFO,
+     {
+         FIELD(byLane),
+         FIELD(bySignalNum),
+         FIELD(stuSignal, "SigInfo", Record(kSignal)).Count(AT(bySignalNum)).NullElement(Nulls::CloseUp),
+     });
 
 } // namespace
 } // namespace orrery::events
@@ -51,21 +70,35 @@ void ReadLanes(const Field&, const Value& value, std::byte* record, ReadCall& ca
 }
 constexpr CustomCodec kLanes{ReadLanes};
 
-PART(kFlowState, EVENT_FLOW_STATE, FIELD(nLane, "Lane", Int), FIELD(nState, "State", Int), FIELD(nFlow, "Flow", Int),
-     FIELD(nPeriod, "Period", Int), FIELD(nPeriodByMili, "PeriodByMili", Int),
-     FIELD(emJamState, "JamState", Names(kJamStates)));
+PART(kFlowState, EVENT_FLOW_STATE,
+     {
+         FIELD(nLane, "Lane", Int),
+         FIELD(nState, "State", Int),
+         FIELD(nFlow, "Flow", Int),
+         FIELD(nPeriod, "Period", Int),
+         FIELD(nPeriodByMili, "PeriodByMili", Int),
+         FIELD(emJamState, "JamState", Names(kJamStates)),
+     });
 
 #define ORRERY_VEHICLES(type) FIELD(n##type##Vehicles, #type "Vehicles", Int)
-PART(kVehicleTypeFlow, EVENT_VEHICLE_TYPE_FLOW, ORRERY_VEHICLES(PassengerCar), ORRERY_VEHICLES(LargeTruck),
-     ORRERY_VEHICLES(MidTruck), ORRERY_VEHICLES(SaloonCar), ORRERY_VEHICLES(Microbus), ORRERY_VEHICLES(MicroTruck),
-     ORRERY_VEHICLES(Tricycle), ORRERY_VEHICLES(Motorcycle), ORRERY_VEHICLES(Passerby), ORRERY_VEHICLES(Bus),
-     ORRERY_VEHICLES(MPV), ORRERY_VEHICLES(MidPassengerCar), ORRERY_VEHICLES(MiniCarriage),
-     ORRERY_VEHICLES(OilTankTruck), ORRERY_VEHICLES(Pickup), ORRERY_VEHICLES(SUV), ORRERY_VEHICLES(SuvMpv),
-     ORRERY_VEHICLES(TankCar), ORRERY_VEHICLES(Unknown));
+PART(kVehicleTypeFlow, EVENT_VEHICLE_TYPE_FLOW,
+     {
+         ORRERY_VEHICLES(PassengerCar), ORRERY_VEHICLES(LargeTruck),   ORRERY_VEHICLES(MidTruck),
+         ORRERY_VEHICLES(SaloonCar),    ORRERY_VEHICLES(Microbus),     ORRERY_VEHICLES(MicroTruck),
+         ORRERY_VEHICLES(Tricycle),     ORRERY_VEHICLES(Motorcycle),   ORRERY_VEHICLES(Passerby),
+         ORRERY_VEHICLES(Bus),          ORRERY_VEHICLES(MPV),          ORRERY_VEHICLES(MidPassengerCar),
+         ORRERY_VEHICLES(MiniCarriage), ORRERY_VEHICLES(OilTankTruck), ORRERY_VEHICLES(Pickup),
+         ORRERY_VEHICLES(SUV),          ORRERY_VEHICLES(SuvMpv),       ORRERY_VEHICLES(TankCar),
+         ORRERY_VEHICLES(Unknown),
+     });
 #undef ORRERY_VEHICLES
 
-PART(kFlowHeading, EVENT_FLOW_DIRECTION, FIELD(emDirection, "", Names(kHeadings)), FIELD(szFrom, "", Text),
-     FIELD(szTo, "", Text))
+PART(kFlowHeading, EVENT_FLOW_DIRECTION,
+     {
+         FIELD(emDirection, "", Names(kHeadings)),
+         FIELD(szFrom, "", Text),
+         FIELD(szTo, "", Text),
+     })
     .As(Shape::LooseTuple);
 
 // The car is not part of the record, but whoever follows the log sees it read.
@@ -89,52 +122,136 @@ void ReadDelay(const Value& data, std::byte* record, ReadCall&) {
 #define CAR_TEXT(member, key) FIELD(member, "TrafficCar/" key, Text).FirstBytes(sizeof(EVENT_TRAFFIC_CAR_INFO::member))
 #define CAR_TEXTS CAR_TEXT(szMachineName, "MachineName"), CAR_TEXT(szRoadwayNo, "RoadwayNo")
 
-TABLE(kTrafficControl, DEV_EVENT_TRAFFICCONTROL_INFO, HEAD_A, OBJECT, ACTION, GPS);
+TABLE(kTrafficControl, DEV_EVENT_TRAFFICCONTROL_INFO,
+      {
+          HEAD_A,
+          OBJECT,
+          ACTION,
+          GPS,
+      });
 
-TABLE(kTrafficAccident, DEV_EVENT_TRAFFICACCIDENT_INFO, HEAD_A, FIELD(nObjectNum),
-      FIELD(stuObjects, "Objects", Record(kObject)).Count(AT(nObjectNum)), FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK,
-      WIDTH, HEIGHT, CAR_TEXTS)
+TABLE(kTrafficAccident, DEV_EVENT_TRAFFICACCIDENT_INFO,
+      {
+          HEAD_A,
+          FIELD(nObjectNum),
+          FIELD(stuObjects, "Objects", Record(kObject)).Count(AT(nObjectNum)),
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FLAG_MASK,
+          WIDTH,
+          HEIGHT,
+          CAR_TEXTS,
+      })
     .AfterRead(LogCarAside);
 
-TABLE(kTrafficSnapshot, DEV_EVENT_TRAFFICSNAPSHOT_INFO, HEAD_A, FIELD(nLaneNum),
-      FIELD(stuLane, "CarWayInfo", Custom(kLanes)).Count(AT(nLaneNum)), FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK, WIDTH,
-      HEIGHT, COMM_INFO);
+TABLE(kTrafficSnapshot, DEV_EVENT_TRAFFICSNAPSHOT_INFO,
+      {
+          HEAD_A,
+          FIELD(nLaneNum),
+          FIELD(stuLane, "CarWayInfo", Custom(kLanes)).Count(AT(nLaneNum)),
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FLAG_MASK,
+          WIDTH,
+          HEIGHT,
+          COMM_INFO,
+      });
 
-TABLE(kTrafficJam, DEV_EVENT_TRAFFICJAM_INFO, HEAD_A, FILE_INFO, ACTION_AND_REPEAT, FIELD(nLane, "Lane", Int),
-      FIELD(stuStartJamTime, "StartJaming", UtcTime), FIELD(nAlarmInterval, "AlarmInterval", Int),
-      FIELD(nSequence, "Sequence", Int), FLAG_MASK, WIDTH, HEIGHT, CAR, FIELD(byJamLenght, "JamLenght", Int),
-      FIELD(nJamRealLength, "JamRealLength", Int), COMM_INFO, EXTENSION);
+TABLE(kTrafficJam, DEV_EVENT_TRAFFICJAM_INFO,
+      {
+          HEAD_A,
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FIELD(nLane, "Lane", Int),
+          FIELD(stuStartJamTime, "StartJaming", UtcTime),
+          FIELD(nAlarmInterval, "AlarmInterval", Int),
+          FIELD(nSequence, "Sequence", Int),
+          FLAG_MASK,
+          WIDTH,
+          HEIGHT,
+          CAR,
+          FIELD(byJamLenght, "JamLenght", Int),
+          FIELD(nJamRealLength, "JamRealLength", Int),
+          COMM_INFO,
+          EXTENSION,
+      });
 
 #define DETAIL(member, key, ...) FIELD(member, "DetailInfo/" key, __VA_ARGS__)
-TABLE(kTrafficFlowStat, DEV_EVENT_TRAFFICFLOWSTAT_INFO, HEAD_A, FIELD(nSequence, "Sequence", Int), FIELD(nStateNum),
-      FIELD(stuStates, "FlowStates", Record(kFlowState)).Count(AT(nStateNum)), DETAIL(nVehicles, "Vehicles", Int),
-      DETAIL(nLeftVehicles, "LeftVehicles", Int), DETAIL(nRightVehicles, "RightVehicles", Int),
-      DETAIL(nStraightVehicles, "StraightVehicles", Int), DETAIL(nUTurnVehicles, "UTurnVehicles", Int),
-      DETAIL(fAverageSpeed, "AverageSpeed", Real), DETAIL(fAverageLength, "AverageLength", Real),
-      DETAIL(fTimeOccupyRatio, "TimeOccupyRatio", Real), DETAIL(fSpaceOccupyRatio, "SpaceOccupyRatio", Real),
-      DETAIL(fSpaceHeadway, "SpaceHeadway", Real), DETAIL(fTimeHeadway, "TimeHeadway", Real),
-      DETAIL(fDensity, "Density", Real), DETAIL(nOverSpeedVehicles, "OverSpeedVehicles", Int),
-      DETAIL(nUnderSpeedVehicles, "UnderSpeedVehicles", Int), DETAIL(nLargeVehicles, "LargeVehicles", Int),
-      DETAIL(nMediumVehicles, "MediumVehicles", Int), DETAIL(nSmallVehicles, "SmallVehicles", Int),
-      DETAIL(nMotoVehicles, "MotoVehicles", Int), DETAIL(nLongVehicles, "LongVehicles", Int),
-      DETAIL(nVolume, "Volume", Int), DETAIL(nFlowRate, "FlowRate", Int), DETAIL(nTravelTime, "TravelTime", Int),
-      DETAIL(dBackOfQueue, "BackOfQueue", Real), DETAIL(nBackOfQueue, "BackOfQueue", WholeReal), FIELD(nDelay),
-      DETAIL(byDirection, "Direction", Names(kFlowDirections)),
-      DETAIL(stuVehicleTypeFlow, "VehicleTypeFlow", Record(kVehicleTypeFlow)),
-      DETAIL(stuDrivingDirection, "DrivingDirection", Record(kFlowHeading)), DETAIL(emRank, "Rank", Names(kRanks)),
-      DETAIL(nState, "State", Int), DETAIL(bOccupyHeadCoil, "Occupyheadcoil", Bool),
-      DETAIL(bOccupyTailCoil, "OccupyTailcoil", Bool), DETAIL(bStatistics, "Statistics", Bool),
-      DETAIL(stuQueueEnd, "QueueEnd", Record(kEventPoint)), DETAIL(emClass, "Class", Names(kSceneClasses)))
+TABLE(kTrafficFlowStat, DEV_EVENT_TRAFFICFLOWSTAT_INFO,
+      {
+          HEAD_A,
+          FIELD(nSequence, "Sequence", Int),
+          FIELD(nStateNum),
+          FIELD(stuStates, "FlowStates", Record(kFlowState)).Count(AT(nStateNum)),
+          DETAIL(nVehicles, "Vehicles", Int),
+          DETAIL(nLeftVehicles, "LeftVehicles", Int),
+          DETAIL(nRightVehicles, "RightVehicles", Int),
+          DETAIL(nStraightVehicles, "StraightVehicles", Int),
+          DETAIL(nUTurnVehicles, "UTurnVehicles", Int),
+          DETAIL(fAverageSpeed, "AverageSpeed", Real),
+          DETAIL(fAverageLength, "AverageLength", Real),
+          DETAIL(fTimeOccupyRatio, "TimeOccupyRatio", Real),
+          DETAIL(fSpaceOccupyRatio, "SpaceOccupyRatio", Real),
+          DETAIL(fSpaceHeadway, "SpaceHeadway", Real),
+          DETAIL(fTimeHeadway, "TimeHeadway", Real),
+          DETAIL(fDensity, "Density", Real),
+          DETAIL(nOverSpeedVehicles, "OverSpeedVehicles", Int),
+          DETAIL(nUnderSpeedVehicles, "UnderSpeedVehicles", Int),
+          DETAIL(nLargeVehicles, "LargeVehicles", Int),
+          DETAIL(nMediumVehicles, "MediumVehicles", Int),
+          DETAIL(nSmallVehicles, "SmallVehicles", Int),
+          DETAIL(nMotoVehicles, "MotoVehicles", Int),
+          DETAIL(nLongVehicles, "LongVehicles", Int),
+          DETAIL(nVolume, "Volume", Int),
+          DETAIL(nFlowRate, "FlowRate", Int),
+          DETAIL(nTravelTime, "TravelTime", Int),
+          DETAIL(dBackOfQueue, "BackOfQueue", Real),
+          DETAIL(nBackOfQueue, "BackOfQueue", WholeReal),
+          FIELD(nDelay),
+          DETAIL(byDirection, "Direction", Names(kFlowDirections)),
+          DETAIL(stuVehicleTypeFlow, "VehicleTypeFlow", Record(kVehicleTypeFlow)),
+          DETAIL(stuDrivingDirection, "DrivingDirection", Record(kFlowHeading)),
+          DETAIL(emRank, "Rank", Names(kRanks)),
+          DETAIL(nState, "State", Int),
+          DETAIL(bOccupyHeadCoil, "Occupyheadcoil", Bool),
+          DETAIL(bOccupyTailCoil, "OccupyTailcoil", Bool),
+          DETAIL(bStatistics, "Statistics", Bool),
+          DETAIL(stuQueueEnd, "QueueEnd", Record(kEventPoint)),
+          DETAIL(emClass, "Class", Names(kSceneClasses)),
+      })
     .AfterRead(ReadDelay);
 #undef DETAIL
 
-TABLE(kTrafficPedestrain, DEV_EVENT_TRAFFICPEDESTRAIN_INFO, HEAD_A, FIELD(nLane, "Lane", Int), OBJECT, FILE_INFO,
-      ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT, CAR_TEXTS, FIELD(szVehicleCategory, "Vehicle/Category", Text),
-      COMM_INFO)
+TABLE(kTrafficPedestrain, DEV_EVENT_TRAFFICPEDESTRAIN_INFO,
+      {
+          HEAD_A,
+          FIELD(nLane, "Lane", Int),
+          OBJECT,
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FLAG_MASK,
+          WIDTH,
+          HEIGHT,
+          CAR_TEXTS,
+          FIELD(szVehicleCategory, "Vehicle/Category", Text),
+          COMM_INFO,
+      })
     .AfterRead(LogCarAside);
 
-TABLE(kTrafficThrow, DEV_EVENT_TRAFFICTHROW_INFO, HEAD_A, FIELD(nLane, "Lane", Int), OBJECT, FILE_INFO,
-      ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT, GPS, CAR_TEXTS, COMM_INFO)
+TABLE(kTrafficThrow, DEV_EVENT_TRAFFICTHROW_INFO,
+      {
+          HEAD_A,
+          FIELD(nLane, "Lane", Int),
+          OBJECT,
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FLAG_MASK,
+          WIDTH,
+          HEIGHT,
+          GPS,
+          CAR_TEXTS,
+          COMM_INFO,
+      })
     .AfterRead(LogCarAside);
 #undef CAR_TEXTS
 #undef CAR_TEXT
@@ -142,19 +259,46 @@ TABLE(kTrafficThrow, DEV_EVENT_TRAFFICTHROW_INFO, HEAD_A, FIELD(nLane, "Lane", I
 #define FEATURE_AREA                                                                                                   \
     FIELD(nFeaturePicAreaNum),                                                                                         \
         FIELD(stuFeaturePicArea, "ParkingInfo/FeaturePicArea", Record(kEventPoint)).Count(AT(nFeaturePicAreaNum))
-TABLE(kTrafficParkingSpaceParking, DEV_EVENT_TRAFFICPARKINGSPACEPARKING_INFO, HEAD_A, OBJECT, VEHICLE,
-      FIELD(nLane, "Lane", Int), FIELD(nSequence, "Sequence", Int), CAR, FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK, WIDTH,
-      HEIGHT, FIELD(nParkingSpaceStatus, "ParkingSpaceStatus", Int), FIELD(byTextSource, "TextSource", Int),
-      FEATURE_AREA, COMM_INFO)
+TABLE(kTrafficParkingSpaceParking, DEV_EVENT_TRAFFICPARKINGSPACEPARKING_INFO,
+      {
+          HEAD_A,
+          OBJECT,
+          VEHICLE,
+          FIELD(nLane, "Lane", Int),
+          FIELD(nSequence, "Sequence", Int),
+          CAR,
+          FILE_INFO,
+          ACTION_AND_REPEAT,
+          FLAG_MASK,
+          WIDTH,
+          HEIGHT,
+          FIELD(nParkingSpaceStatus, "ParkingSpaceStatus", Int),
+          FIELD(byTextSource, "TextSource", Int),
+          FEATURE_AREA,
+          COMM_INFO,
+      })
     .AfterRead(CarRule<DEV_EVENT_TRAFFICPARKINGSPACEPARKING_INFO>);
 
-TABLE(kTrafficVideoAnalysePreSnap, DEV_EVENT_TRAFFICVIDEOANALYSEPRESNAP_INFO, HEAD_A, FIELD(nGroupID, "GroupID", Int),
-      FIELD(nCountInGroup, "CountInGroup", Int), FIELD(nIndexInGroup, "IndexInGroup", Int), OBJECT, VEHICLE,
-      FIELD(nMark, "Mark", Int), FIELD(nSource, "Source", Int), FIELD(nFrameSequence, "FrameSequence", Int),
-      FIELD(nLane, "Lane", Int), FIELD(nSequence, "Sequence", Int), CAR,
-      FIELD(emParkingSpaceStatus, "ParkingSpaceStatus", CountedFromOne),
-      FIELD(emCurrentParkingSpaceStatus, "CurrentParkingSpaceStatus", CountedFromOne), FEATURE_AREA, FILE_INFO,
-      COMM_INFO)
+TABLE(kTrafficVideoAnalysePreSnap, DEV_EVENT_TRAFFICVIDEOANALYSEPRESNAP_INFO,
+      {
+          HEAD_A,
+          FIELD(nGroupID, "GroupID", Int),
+          FIELD(nCountInGroup, "CountInGroup", Int),
+          FIELD(nIndexInGroup, "IndexInGroup", Int),
+          OBJECT,
+          VEHICLE,
+          FIELD(nMark, "Mark", Int),
+          FIELD(nSource, "Source", Int),
+          FIELD(nFrameSequence, "FrameSequence", Int),
+          FIELD(nLane, "Lane", Int),
+          FIELD(nSequence, "Sequence", Int),
+          CAR,
+          FIELD(emParkingSpaceStatus, "ParkingSpaceStatus", CountedFromOne),
+          FIELD(emCurrentParkingSpaceStatus, "CurrentParkingSpaceStatus", CountedFromOne),
+          FEATURE_AREA,
+          FILE_INFO,
+          COMM_INFO,
+      })
     .AfterRead(CarRule<DEV_EVENT_TRAFFICVIDEOANALYSEPRESNAP_INFO>);
 #undef FEATURE_AREA
 

@@ -56,7 +56,7 @@ constexpr bool TakesOneRecord(Take take) {
 }
 
 // What a null or absent value does.
-enum class OnNull : std::uint8_t {
+enum class NullValue : std::uint8_t {
     Fails,
     LengthZero,      // succeeds, reply length 0
     LengthUntouched, // succeeds, reply length not assigned
@@ -90,7 +90,7 @@ struct ParseFrame {
     const char* name = ""; // of the member, for Params and Top
     ResultTest result = ResultTest::MustBeTrue;
     Take take = Take::One;
-    OnNull onNull = OnNull::Fails;
+    NullValue nullValue = NullValue::Fails;
     Clearing clearing = Clearing::Buffer;
     ReplyLength length = ReplyLength::OneRecord;
     Stride stride = Stride::Record;
@@ -116,7 +116,7 @@ struct ParseFrame {
     }
     constexpr ParseFrame Result(ResultTest test) const { return With(*this, &ParseFrame::result, test); }
     constexpr ParseFrame Takes(Take what) const { return With(*this, &ParseFrame::take, what); }
-    constexpr ParseFrame Null(OnNull what) const { return With(*this, &ParseFrame::onNull, what); }
+    constexpr ParseFrame Null(NullValue what) const { return With(*this, &ParseFrame::nullValue, what); }
     constexpr ParseFrame Clears(Clearing what) const { return With(*this, &ParseFrame::clearing, what); }
     constexpr ParseFrame Length(ReplyLength what) const { return With(*this, &ParseFrame::length, what); }
     constexpr ParseFrame Strides(Stride what) const { return With(*this, &ParseFrame::stride, what); }

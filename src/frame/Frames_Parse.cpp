@@ -197,15 +197,15 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     Holds holds = ShapeOf(frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take, value);
     // An empty array of records says as much as no array at all.
     if (value.isNull() || (holds == Holds::Elements && value.size() == 0)) {
-        switch (frame.onNull) {
-        case OnNull::Fails:
+        switch (frame.nullValue) {
+        case NullValue::Fails:
             return Outcome::NoValue;
-        case OnNull::LengthZero:
+        case NullValue::LengthZero:
             setLength(0);
             return Outcome::Done;
-        case OnNull::LengthUntouched:
+        case NullValue::LengthUntouched:
             return Outcome::Done;
-        case OnNull::OneRecord:
+        case NullValue::OneRecord:
             holds = Holds::OneRecord;
             break;
         }

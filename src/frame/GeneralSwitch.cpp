@@ -4,6 +4,9 @@ namespace orrery {
 
 using namespace record;
 
-TABLE(kEnable, CFG_ENABLE_INFO, FIELD(bEnable, "Enable", Bool).Always());
+TABLE(kEnable, CFG_ENABLE_INFO,
+      {
+          FIELD(bEnable, "Enable", Bool).Always(),
+      });
 
 } // namespace orrery

@@ -12,19 +12,33 @@ using namespace record;
 
 namespace {
 
-constexpr Name kStreamTypeRows[] = {
-    {CFG_MULTICAST_STREAM_MAIN, "Main"},         {CFG_MULTICAST_STREAM_EXTRA1, "Extra1"},
-    {CFG_MULTICAST_STREAM_EXTRA2, "Extra2"},     {CFG_MULTICAST_STREAM_EXTRA3, "Extra3"},
-    {CFG_MULTICAST_STREAM_SNAPSHOT, "Snapshot"}, {CFG_MULTICAST_STREAM_OBJECT, "Object"},
-};
-constexpr NameTable kStreamTypes = FoldedNames(kStreamTypeRows).OutsideWrites("Main");
+NAMES(kStreamTypes, kFolded.OutsideWrites("Main"),
+      {
+          {CFG_MULTICAST_STREAM_MAIN, "Main"},
+          {CFG_MULTICAST_STREAM_EXTRA1, "Extra1"},
+          {CFG_MULTICAST_STREAM_EXTRA2, "Extra2"},
+          {CFG_MULTICAST_STREAM_EXTRA3, "Extra3"},
+          {CFG_MULTICAST_STREAM_SNAPSHOT, "Snapshot"},
+          {CFG_MULTICAST_STREAM_OBJECT, "Object"},
+      });
 
-PART(kMulticastItem, CFG_MULTICAST_ITEM, FIELD(dwSize, nullptr, Size), FIELD(bEnable, "Enable", Bool),
-     FIELD(szMulticastAddr, "MulticastAddr", Text), FIELD(nPort, "Port", Int), FIELD(szLocalAddr, "LocalAddr", Text),
-     FIELD(nChannel, "Channel", Int), FIELD(emStreamType, "StreamType", Names(kStreamTypes)));
+PART(kMulticastItem, CFG_MULTICAST_ITEM,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(bEnable, "Enable", Bool),
+         FIELD(szMulticastAddr, "MulticastAddr", Text),
+         FIELD(nPort, "Port", Int),
+         FIELD(szLocalAddr, "LocalAddr", Text),
+         FIELD(nChannel, "Channel", Int),
+         FIELD(emStreamType, "StreamType", Names(kStreamTypes)),
+     });
 
-PART(kMulticastStream, CFG_MULTICAST_STREAM, FIELD(dwSize, nullptr, Size),
-     FIELD(stuItem, "", Record(kMulticastItem)).Count(AT(nCount)), FIELD(nCount));
+PART(kMulticastStream, CFG_MULTICAST_STREAM,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(stuItem, "", Record(kMulticastItem)).Count(AT(nCount)),
+         FIELD(nCount),
+     });
 
 // True when a caller's record, by the size word that it begins with, reaches to `end`.
 bool Reaches(const std::byte* record, std::size_t end) noexcept {
@@ -94,9 +108,14 @@ constexpr CustomCodec kStream{
 template <>
 inline constexpr const Table* record::kLayoutOf<CFG_MULTICAST_STREAM> = &kMulticastStream;
 
-TABLE(kMulticast, CFG_MULTICAST_INFO, FIELD(dwSize, nullptr, Size), FIELD(stuTS, "TS", Custom(kStream)).Always(),
-      FIELD(stuRTP, "RTP", Custom(kStream)).Always(), FIELD(stuQVII, "QVII", Custom(kStream)).Always(),
-      FIELD(stuRTPAudio, "RTPAudio", Custom(kStream)).Always());
+TABLE(kMulticast, CFG_MULTICAST_INFO,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(stuTS, "TS", Custom(kStream)).Always(),
+          FIELD(stuRTP, "RTP", Custom(kStream)).Always(),
+          FIELD(stuQVII, "QVII", Custom(kStream)).Always(),
+          FIELD(stuRTPAudio, "RTPAudio", Custom(kStream)).Always(),
+      });
 
 Outcome ParseMulticast(const ParseRequest& request) noexcept {
     if (request.bufferSize < sizeof(CFG_MULTICAST_INFO)) return Outcome::BufferTooSmall;

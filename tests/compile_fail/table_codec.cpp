@@ -10,8 +10,16 @@ struct Door {
 };
 
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(name, "Name", Text), FIELD(number, "Number", Int));
+TABLE(kDoor, Door,
+      {
+          FIELD(name, "Name", Text),
+          FIELD(number, "Number", Int),
+      });
 #else
-TABLE(kDoor, Door, FIELD(name, "Name", Text), FIELD(number, "Number", Text));
+TABLE(kDoor, Door,
+      {
+          FIELD(name, "Name", Text),
+          FIELD(number, "Number", Text),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

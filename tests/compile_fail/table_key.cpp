@@ -9,8 +9,14 @@ struct Door {
 };
 
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(number, "Number", Int));
+TABLE(kDoor, Door,
+      {
+          FIELD(number, "Number", Int),
+      });
 #else
-TABLE(kDoor, Door, FIELD(number, "Num\"ber", Int));
+TABLE(kDoor, Door,
+      {
+          FIELD(number, "Num\"ber", Int),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

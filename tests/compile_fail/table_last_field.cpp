@@ -10,8 +10,15 @@ struct Door {
 };
 
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(number, "Number", Int), FIELD(name, "Name", Text));
+TABLE(kDoor, Door,
+      {
+          FIELD(number, "Number", Int),
+          FIELD(name, "Name", Text),
+      });
 #else
-TABLE(kDoor, Door, FIELD(number, "Number", Int));
+TABLE(kDoor, Door,
+      {
+          FIELD(number, "Number", Int),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

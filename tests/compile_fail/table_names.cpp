@@ -8,11 +8,20 @@ struct Door {
     std::int32_t state;
 };
 
-constexpr Name kStateRows[] = {{0, "Open"}, {1, "Closed"}};
-constexpr NameTable kStates = FoldedNames(kStateRows);
+NAMES(kStates, kFolded,
+      {
+          {0, "Open"},
+          {1, "Closed"},
+      });
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(state, "State", Names(kStates)));
+TABLE(kDoor, Door,
+      {
+          FIELD(state, "State", Names(kStates)),
+      });
 #else
-TABLE(kDoor, Door, FIELD(state, "State", Names(kStates.Unknown(1))));
+TABLE(kDoor, Door,
+      {
+          FIELD(state, "State", Names(kStates.Unknown(1))),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

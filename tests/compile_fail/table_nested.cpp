@@ -11,10 +11,19 @@ struct Door {
     Lock lock;
 };
 
-TABLE(kLock, Lock, FIELD(code, "Code", Int));
+TABLE(kLock, Lock,
+      {
+          FIELD(code, "Code", Int),
+      });
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(lock, "Lock", Record(kLock)));
+TABLE(kDoor, Door,
+      {
+          FIELD(lock, "Lock", Record(kLock)),
+      });
 #else
-TABLE(kDoor, Door, FIELD(lock));
+TABLE(kDoor, Door,
+      {
+          FIELD(lock),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

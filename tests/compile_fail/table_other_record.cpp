@@ -14,12 +14,24 @@ struct Door {
     Lock lock;
 };
 
-TABLE(kLock, Lock, FIELD(code, "Code", Int));
-TABLE(kBell, Bell, FIELD(code, "Code", Int));
+TABLE(kLock, Lock,
+      {
+          FIELD(code, "Code", Int),
+      });
+TABLE(kBell, Bell,
+      {
+          FIELD(code, "Code", Int),
+      });
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(lock, "Lock", Record(kLock)));
+TABLE(kDoor, Door,
+      {
+          FIELD(lock, "Lock", Record(kLock)),
+      });
 #else
-TABLE(kDoor, Door, FIELD(lock, "Lock", Record(kBell)));
+TABLE(kDoor, Door,
+      {
+          FIELD(lock, "Lock", Record(kBell)),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));
 static_assert(kBell.size == sizeof(Bell));

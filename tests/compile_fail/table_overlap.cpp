@@ -10,8 +10,18 @@ struct Door {
 };
 
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(number, "Number", Int), FIELD(number, "No", Int).Alias(), FIELD(floor, "Floor", Int));
+TABLE(kDoor, Door,
+      {
+          FIELD(number, "Number", Int),
+          FIELD(number, "No", Int).Alias(),
+          FIELD(floor, "Floor", Int),
+      });
 #else
-TABLE(kDoor, Door, FIELD(number, "Number", Int), FIELD(number, "No", Int), FIELD(floor, "Floor", Int));
+TABLE(kDoor, Door,
+      {
+          FIELD(number, "Number", Int),
+          FIELD(number, "No", Int),
+          FIELD(floor, "Floor", Int),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

@@ -13,10 +13,23 @@ struct Door {
     std::int32_t count;
 };
 
-TABLE(kLock, Lock, FIELD(code, "Code", Int));
+TABLE(kLock, Lock,
+      {
+          FIELD(code, "Code", Int),
+      });
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(locks, "Locks", Record(kLock)).Count(AT(count)).Capacity(AT(room)), FIELD(room), FIELD(count));
+TABLE(kDoor, Door,
+      {
+          FIELD(locks, "Locks", Record(kLock)).Count(AT(count)).Capacity(AT(room)),
+          FIELD(room),
+          FIELD(count),
+      });
 #else
-TABLE(kDoor, Door, FIELD(locks, "Locks", Record(kLock)).Count(AT(count)), FIELD(room), FIELD(count));
+TABLE(kDoor, Door,
+      {
+          FIELD(locks, "Locks", Record(kLock)).Count(AT(count)),
+          FIELD(room),
+          FIELD(count),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

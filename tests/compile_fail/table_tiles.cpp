@@ -12,8 +12,19 @@ struct Door {
 };
 
 #ifdef GOOD
-TABLE(kDoor, Door, FIELD(name, "Name", Text), FIELD(number, "Number", Int), FIELD(floor), FIELD(side));
+TABLE(kDoor, Door,
+      {
+          FIELD(name, "Name", Text),
+          FIELD(number, "Number", Int),
+          FIELD(floor),
+          FIELD(side),
+      });
 #else
-TABLE(kDoor, Door, FIELD(name, "Name", Text), FIELD(number, "Number", Int), FIELD(side));
+TABLE(kDoor, Door,
+      {
+          FIELD(name, "Name", Text),
+          FIELD(number, "Number", Int),
+          FIELD(side),
+      });
 #endif
 static_assert(kDoor.size == sizeof(Door));

@@ -32,19 +32,38 @@ struct WORDS {
     std::int32_t place;
     std::int32_t within;
 };
-constexpr record::Name kBitRows[] = {{1, "One"}, {4, "Three"}, {4, "Third"}};
-constexpr record::NameTable kBits = record::FoldedNames(kBitRows);
-constexpr record::Name kShareRows[] = {{0, "Low"}, {2, "High"}, {9, "Beyond"}};
-constexpr record::NameTable kShares = record::ExactNames(kShareRows);
+NAMES(kBits, record::kFolded,
+      {
+          {1, "One"},
+          {4, "Three"},
+          {4, "Third"},
+      });
+NAMES(kShares, record::kExact,
+      {
+          {0, "Low"},
+          {2, "High"},
+          {9, "Beyond"},
+      });
 
-PART(kWords, WORDS, FIELD(color, "color", PackedColor), FIELD(whole32, "whole", WholeReal),
-     FIELD(whole64, "whole", WholeReal), FIELD(whole8, "whole", WholeReal), FIELD(degrees, "degrees", Degrees),
-     FIELD(realDegrees, "degrees", Degrees), FIELD(thousandths, "milli", Thousandths),
-     FIELD(signedThousandths, "milli", SignedThousandths), FIELD(any, "any", AnyInteger),
-     FIELD(firstNumber, "pair", FirstNumber), FIELD(secondNumber, "pair", SecondNumber),
-     FIELD(fromOne, "state", CountedFromOne), FIELD(bits, "bits", NamedBits(kBits)),
-     FIELD(shares, "shares", ByKeys(kShares)), FIELD(place, "place", PlaceIn<1, 7, 5, 9>),
-     FIELD(within, "within", Within<-3, 100>).Absent(-50));
+PART(kWords, WORDS,
+     {
+         FIELD(color, "color", PackedColor),
+         FIELD(whole32, "whole", WholeReal),
+         FIELD(whole64, "whole", WholeReal),
+         FIELD(whole8, "whole", WholeReal),
+         FIELD(degrees, "degrees", Degrees),
+         FIELD(realDegrees, "degrees", Degrees),
+         FIELD(thousandths, "milli", Thousandths),
+         FIELD(signedThousandths, "milli", SignedThousandths),
+         FIELD(any, "any", AnyInteger),
+         FIELD(firstNumber, "pair", FirstNumber),
+         FIELD(secondNumber, "pair", SecondNumber),
+         FIELD(fromOne, "state", CountedFromOne),
+         FIELD(bits, "bits", NamedBits(kBits)),
+         FIELD(shares, "shares", ByKeys(kShares)),
+         FIELD(place, "place", PlaceIn<1, 7, 5, 9>),
+         FIELD(within, "within", Within<-3, 100>).Absent(-50),
+     });
 
 std::string Object(const std::string& key, const std::string& value) {
     return "{ \"" + key + "\" : " + value + " }";
@@ -136,9 +155,17 @@ struct BLOCKS {
     const char* fixed;
     const NOTE* note;
 };
-PART(kNote, NOTE, FIELD(number, "No", Int), FIELD(text, "Text", OwnedText));
-PART(kBlocks, BLOCKS, FIELD(text, "text", OwnedText), FIELD(fixed, "fixed", TextBlock<4>).Owned("no room").Always(),
-     FIELD(note, "note", OwnedRecord(kNote)));
+PART(kNote, NOTE,
+     {
+         FIELD(number, "No", Int),
+         FIELD(text, "Text", OwnedText),
+     });
+PART(kBlocks, BLOCKS,
+     {
+         FIELD(text, "text", OwnedText),
+         FIELD(fixed, "fixed", TextBlock<4>).Owned("no room").Always(),
+         FIELD(note, "note", OwnedRecord(kNote)),
+     });
 
 using KeptBlocks = test::KeptRecord<BLOCKS>;
 

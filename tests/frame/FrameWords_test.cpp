@@ -24,8 +24,16 @@ void StoreIndex(const Field&, const json::Value&, std::byte* record, ReadCall& c
 }
 constexpr CustomCodec kIndex{StoreIndex, nullptr};
 
-PART(kPair, Pair, FIELD(nChannel, "params/channel", Int).FromRoot(), FIELD(nValue, "Value", Int));
-PART(kNumbered, Pair, FIELD(nChannel), FIELD(nValue, "index", Custom(kIndex)).FromRoot().Always());
+PART(kPair, Pair,
+     {
+         FIELD(nChannel, "params/channel", Int).FromRoot(),
+         FIELD(nValue, "Value", Int),
+     });
+PART(kNumbered, Pair,
+     {
+         FIELD(nChannel),
+         FIELD(nValue, "index", Custom(kIndex)).FromRoot().Always(),
+     });
 
 constexpr std::uint32_t kSize = sizeof(Pair);
 constexpr std::uint32_t kNoLength = 777;

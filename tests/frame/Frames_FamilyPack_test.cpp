@@ -15,14 +15,22 @@ struct Item {
     std::int32_t level;
 };
 
-TABLE(kItem, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int).Absent(-1));
+TABLE(kItem, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int).Absent(-1),
+      });
 
 struct Named {
     char name[8];
     std::int32_t id;
 };
 
-TABLE(kNamed, Named, FIELD(name, nullptr, MemberName), FIELD(id, "Id", Int));
+TABLE(kNamed, Named,
+      {
+          FIELD(name, nullptr, MemberName),
+          FIELD(id, "Id", Int),
+      });
 
 struct Versioned {
     std::uint32_t dwSize;
@@ -31,8 +39,13 @@ struct Versioned {
     std::int32_t level;
 };
 
-TABLE(kVersioned, Versioned, FIELD(dwSize, nullptr, Size), FIELD(id, "Id", Int), FIELD(name, "Name", Text),
-      FIELD(level, "Level", Int));
+TABLE(kVersioned, Versioned,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(id, "Id", Int),
+          FIELD(name, "Name", Text),
+          FIELD(level, "Level", Int),
+      });
 
 constexpr PackFrame kPack;
 
@@ -71,7 +84,12 @@ bool HasNumber(const std::byte* record) {
     return MEMBER(record, Named, id) != 0;
 }
 
-TABLE(kNumberedNames, Named, FIELD(name, nullptr, MemberName), FIELD(id, "Id", Int)).Writes(HasNumber);
+TABLE(kNumberedNames, Named,
+      {
+          FIELD(name, nullptr, MemberName),
+          FIELD(id, "Id", Int),
+      })
+    .Writes(HasNumber);
 
 TEST(FamilyPack, MembersThatTheirTableHoldsBackLeaveNoTrace) {
     const PackFrame frame = kPack.As(Form::ByMember);
@@ -89,7 +107,11 @@ void RefuseBelowZero(const Field&, const std::byte* record, WriteCall& call) {
 }
 constexpr CustomCodec kLevel{nullptr, RefuseBelowZero};
 
-TABLE(kRefusing, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Custom(kLevel)));
+TABLE(kRefusing, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Custom(kLevel)),
+      });
 
 TEST(FamilyPack, ARowMayEndTheCall) {
     const Item refused{1, -2};
@@ -168,7 +190,11 @@ void WriteLong(const record::Field&, const std::byte*, record::WriteCall& call) 
     if (++timesAsked == 2) call.refused = true;
 }
 constexpr record::CustomCodec kLongCodec{nullptr, WriteLong};
-TABLE(kLong, Item, FIELD(id, "Id", Custom(kLongCodec)), FIELD(level, "Level", Int));
+TABLE(kLong, Item,
+      {
+          FIELD(id, "Id", Custom(kLongCodec)),
+          FIELD(level, "Level", Int),
+      });
 
 TEST(FamilyPack, AFailedCallLeavesTheTextHoweverLateItFails) {
     timesAsked = 0;
@@ -184,7 +210,12 @@ bool IsPositive(const std::byte* record) {
     return MEMBER(record, Item, id) > 0;
 }
 
-TABLE(kPositive, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int)).Writes(IsPositive);
+TABLE(kPositive, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int),
+      })
+    .Writes(IsPositive);
 
 TEST(FamilyPack, RecordsThatTheirTableHoldsBack) {
     const Item items[] = {{0, 0}, {1, 2}, {0, 0}};

@@ -15,7 +15,11 @@ struct Item {
     std::int32_t level;
 };
 
-TABLE(kItem, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int).Absent(-1));
+TABLE(kItem, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int).Absent(-1),
+      });
 
 constexpr ParseFrame kParse;
 constexpr std::uint32_t kBefore = 1000000; // what the length holds before a call
@@ -37,7 +41,7 @@ TEST(FamilyParse, OneRecord) {
 
 TEST(FamilyParse, TheLengthMayBeNull) {
     Item item{};
-    for (const OnNull rule : {OnNull::LengthZero, OnNull::OneRecord}) {
+    for (const NullValue rule : {NullValue::LengthZero, NullValue::OneRecord}) {
         EXPECT_EQ(ParseFamily(kItem, kParse.Null(rule), {Reply("null").c_str(), &item, sizeof item, nullptr}),
                   Outcome::Done);
     }
@@ -183,7 +187,7 @@ void ExpectElements(Take take) {
     EXPECT_TRUE(cut.isCleared(sizeof(Item)));
     // An empty list says as much as none.
     EXPECT_EQ(Parse(kParse.Takes(take), Reply("[ ]")).outcome, Outcome::NoValue);
-    EXPECT_EQ(Parse(kParse.Takes(take).Null(OnNull::LengthZero), Reply("[ ]")).length, 0u);
+    EXPECT_EQ(Parse(kParse.Takes(take).Null(NullValue::LengthZero), Reply("[ ]")).length, 0u);
 }
 
 void ExpectOneRecord(Take take, const std::string& value, std::int32_t id) {
@@ -245,7 +249,11 @@ struct List {
     std::int32_t count;
 };
 
-TABLE(kListRecord, List, FIELD(ids, "", Int).Count(AT(count)), FIELD(count));
+TABLE(kListRecord, List,
+      {
+          FIELD(ids, "", Int).Count(AT(count)),
+          FIELD(count),
+      });
 
 TEST(FamilyParse, TakesAListInOneRecord) {
     const ParseFrame frame = kParse.Takes(Take::List);
@@ -266,7 +274,11 @@ struct Named {
     std::int32_t id;
 };
 
-TABLE(kNamed, Named, FIELD(name, nullptr, MemberName), FIELD(id, "Id", Int));
+TABLE(kNamed, Named,
+      {
+          FIELD(name, nullptr, MemberName),
+          FIELD(id, "Id", Int),
+      });
 
 TEST(FamilyParse, TakesMembersInTheOrderOfTheirNames) {
     const ParseFrame frame = kParse.Takes(Take::ByMember).Length(ReplyLength::PerRecord);
@@ -297,16 +309,16 @@ TEST(FamilyParse, TakesMembersInTheOrderOfTheirNames) {
 TEST(FamilyParse, ANullValue) {
     for (const char* value : {"null", "[ ]"}) {
         const ParseFrame frame = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
-        EXPECT_EQ(Parse(frame.Null(OnNull::Fails), Reply(value)).outcome, Outcome::NoValue);
-        EXPECT_EQ(Parse(frame.Null(OnNull::Fails), Reply(value)).length, kBefore);
-        const auto zero = Parse(frame.Null(OnNull::LengthZero), Reply(value));
+        EXPECT_EQ(Parse(frame.Null(NullValue::Fails), Reply(value)).outcome, Outcome::NoValue);
+        EXPECT_EQ(Parse(frame.Null(NullValue::Fails), Reply(value)).length, kBefore);
+        const auto zero = Parse(frame.Null(NullValue::LengthZero), Reply(value));
         EXPECT_EQ(zero.outcome, Outcome::Done);
         EXPECT_EQ(zero.length, 0u);
         EXPECT_TRUE(zero.isCleared());
-        const auto untouched = Parse(frame.Null(OnNull::LengthUntouched), Reply(value));
+        const auto untouched = Parse(frame.Null(NullValue::LengthUntouched), Reply(value));
         EXPECT_EQ(untouched.outcome, Outcome::Done);
         EXPECT_EQ(untouched.length, kBefore);
-        const auto one = Parse(frame.Null(OnNull::OneRecord), Reply(value));
+        const auto one = Parse(frame.Null(NullValue::OneRecord), Reply(value));
         EXPECT_EQ(one.outcome, Outcome::Done);
         EXPECT_EQ(one.length, sizeof(Item));
         EXPECT_EQ(one[0].level, -1); // what reading nothing gives
@@ -320,7 +332,11 @@ TEST(FamilyParse, ReplyLengths) {
     EXPECT_EQ(Parse(frame.Length(ReplyLength::None), Reply(kList), kRoom).length, kBefore);
 }
 
-TABLE(kRefusing, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int))
+TABLE(kRefusing, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int),
+      })
     .AfterRead([](const json::Value&, std::byte* record, ReadCall& call) {
         if (MEMBER(record, Item, id) < 0) call.refused = true;
     });
@@ -358,8 +374,13 @@ struct Versioned {
     std::int32_t level;
 };
 
-TABLE(kVersioned, Versioned, FIELD(dwSize, nullptr, Size), FIELD(id, "Id", Int), FIELD(name, "Name", Text),
-      FIELD(level, "Level", Int));
+TABLE(kVersioned, Versioned,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(id, "Id", Int),
+          FIELD(name, "Name", Text),
+          FIELD(level, "Level", Int),
+      });
 
 constexpr ParseFrame kByWord =
     ParseFrame().Strides(Stride::SizeWord).Clears(Clearing::Kept).Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);

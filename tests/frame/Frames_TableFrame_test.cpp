@@ -18,7 +18,11 @@ struct Item {
     std::int32_t level;
 };
 
-TABLE(kItem, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int));
+TABLE(kItem, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int),
+      });
 
 // A record that is itself a list.
 struct Row {
@@ -26,7 +30,11 @@ struct Row {
     std::int32_t count;
 };
 
-TABLE(kRow, Row, FIELD(cells, "", Int).Count(AT(count)), FIELD(count));
+TABLE(kRow, Row,
+      {
+          FIELD(cells, "", Int).Count(AT(count)),
+          FIELD(count),
+      });
 
 auto Parse(const TableFrame& frame, const std::string& text, std::size_t size = sizeof(Item)) {
     return test::Parse<Item>(kItem, frame, text, size);
@@ -206,7 +214,11 @@ void WriteLevel(const Field&, const std::byte* record, WriteCall& call) {
 }
 constexpr CustomCodec kLevel{ReadLevel, WriteLevel};
 
-TABLE(kRefusing, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Custom(kLevel)));
+TABLE(kRefusing, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Custom(kLevel)),
+      });
 
 TEST(TableFrame, ARefusedRecordIsCountedLikeTheOthers) {
     const auto f = test::Parse<Item>(
@@ -222,7 +234,11 @@ void ReadIndex(const Field&, const json::Value&, std::byte* record, ReadCall& ca
 }
 constexpr CustomCodec kIndex{ReadIndex, nullptr};
 
-TABLE(kNumbered, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Custom(kIndex)).Always());
+TABLE(kNumbered, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Custom(kIndex)).Always(),
+      });
 
 TEST(TableFrame, RowsAreToldWhichRecordTheyRead) {
     const auto f = test::Parse<Item>(kNumbered, kMany, Reply("[ { }, null, { } ]"), 3 * sizeof(Item));
@@ -289,7 +305,12 @@ bool IsPositive(const std::byte* record) {
     return MEMBER(record, Item, id) > 0;
 }
 
-TABLE(kPositive, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int)).Writes(IsPositive);
+TABLE(kPositive, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int),
+      })
+    .Writes(IsPositive);
 
 TEST(TableFrame, RecordsThatTheirTableHoldsBackKeepTheirPlaces) {
     const Item items[] = {{0, 1}, {1, 2}, {-1, 3}};

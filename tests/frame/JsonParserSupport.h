@@ -12,9 +12,9 @@
 
 namespace orrery::test {
 
-class Document {
+class ParsedText {
   public:
-    explicit Document(std::string text) : text_(std::move(text)) {
+    explicit ParsedText(std::string text) : text_(std::move(text)) {
         EXPECT_TRUE(json::Parse(text_, arena_, root_)) << text_;
     }
     const json::Value& root() const { return root_; }

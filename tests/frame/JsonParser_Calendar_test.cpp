@@ -9,7 +9,7 @@
 namespace orrery {
 namespace {
 
-using test::Document;
+using test::ParsedText;
 using test::StringValue;
 using test::TextOf;
 
@@ -39,7 +39,7 @@ TEST(NetTime, SixFields) {
     EXPECT_TRUE(Is(time, {2026, 11, 20, kBefore, kBefore, kBefore}));
     time = kUnset;
     for (const char* text : {"5", "null", "\"\"", "[ \"2026-11-20 09:30:05\" ]", "true", "\"never\""}) {
-        EXPECT_FALSE(JsonParser::GetNetTime(Document(text).root(), &time)) << text;
+        EXPECT_FALSE(JsonParser::GetNetTime(ParsedText(text).root(), &time)) << text;
         EXPECT_TRUE(Is(time, {kBefore, kBefore, kBefore, kBefore, kBefore, kBefore})) << text;
     }
     EXPECT_FALSE(JsonParser::GetNetTime(StringValue("2026-11-20 09:30:05"), nullptr));
@@ -76,7 +76,7 @@ TEST(ClockTime, LeavesTheDate) {
     EXPECT_TRUE(Is(time, {kBefore, kBefore, kBefore, 9, 30, 5}));
     EXPECT_FALSE(JsonParser::GetClockTime(StringValue("10:31"), &time));
     EXPECT_TRUE(Is(time, {kBefore, kBefore, kBefore, 10, 31, 5}));
-    EXPECT_FALSE(JsonParser::GetClockTime(Document("5").root(), &time));
+    EXPECT_FALSE(JsonParser::GetClockTime(ParsedText("5").root(), &time));
     EXPECT_FALSE(JsonParser::GetClockTime(StringValue("9:30:05"), nullptr));
     EXPECT_EQ(TextOf([&](json::TextWriter& out) { JsonParser::SetClockTime(out, &time); }), "\"10:31:05\"");
 }
@@ -89,7 +89,7 @@ TEST(Date, LeavesTheTime) {
     EXPECT_TRUE(Is(time, {2025, 12, 31, kBefore, kBefore, kBefore}));
     EXPECT_FALSE(JsonParser::GetDate(StringValue("2024/12/31"), &time));
     EXPECT_TRUE(Is(time, {2024, 12, 31, kBefore, kBefore, kBefore}));
-    EXPECT_FALSE(JsonParser::GetDate(Document("null").root(), &time));
+    EXPECT_FALSE(JsonParser::GetDate(ParsedText("null").root(), &time));
     EXPECT_FALSE(JsonParser::GetDate(StringValue("2026-11-20"), nullptr));
 }
 

@@ -6,7 +6,7 @@
 namespace orrery {
 namespace {
 
-using test::Document;
+using test::ParsedText;
 using test::TextOf;
 
 constexpr std::int32_t kBefore = 77; // what stood in a field that must stay
@@ -14,19 +14,19 @@ constexpr std::int32_t kBefore = 77; // what stood in a field that must stay
 TEST(FixedArrays, APointHasExactlyTwoElements) {
     CFG_POINT point{kBefore, kBefore};
     for (const char* text : {"[ 1 ]", "[ 1, 2, 3 ]", "[  ]", "null", "5", "\"1,2\"", "{ \"a\" : 1, \"b\" : 2 }"}) {
-        EXPECT_FALSE(JsonParser::GetPoint(Document(text).root(), &point)) << text;
+        EXPECT_FALSE(JsonParser::GetPoint(ParsedText(text).root(), &point)) << text;
     }
     EXPECT_EQ(point.nX, kBefore);
     EXPECT_EQ(point.nY, kBefore);
-    EXPECT_TRUE(JsonParser::GetPoint(Document("[ -3, 8191 ]").root(), &point));
+    EXPECT_TRUE(JsonParser::GetPoint(ParsedText("[ -3, 8191 ]").root(), &point));
     EXPECT_EQ(point.nX, -3);
     EXPECT_EQ(point.nY, 8191);
-    EXPECT_FALSE(JsonParser::GetPoint(Document("[ 1, 2 ]").root(), nullptr));
+    EXPECT_FALSE(JsonParser::GetPoint(ParsedText("[ 1, 2 ]").root(), nullptr));
 }
 
 TEST(FixedArrays, ElementsAreTakenAsIntegersWhateverTheyAre) {
     CFG_RECT rect{kBefore, kBefore, kBefore, kBefore};
-    EXPECT_TRUE(JsonParser::GetRect(Document("[ 1.9, true, \"7\", null ]").root(), &rect));
+    EXPECT_TRUE(JsonParser::GetRect(ParsedText("[ 1.9, true, \"7\", null ]").root(), &rect));
     EXPECT_EQ(rect.nLeft, 1);
     EXPECT_EQ(rect.nTop, 1);
     EXPECT_EQ(rect.nRight, 0);
@@ -35,11 +35,11 @@ TEST(FixedArrays, ElementsAreTakenAsIntegersWhateverTheyAre) {
 
 TEST(FixedArrays, ARectangleOfFiveNumbersIsNotRead) {
     CFG_RECT rect{kBefore, kBefore, kBefore, kBefore};
-    EXPECT_FALSE(JsonParser::GetRect(Document("[ 1, 2, 3, 4, 5 ]").root(), &rect));
-    EXPECT_FALSE(JsonParser::GetRect(Document("[ 1, 2, 3 ]").root(), &rect));
+    EXPECT_FALSE(JsonParser::GetRect(ParsedText("[ 1, 2, 3, 4, 5 ]").root(), &rect));
+    EXPECT_FALSE(JsonParser::GetRect(ParsedText("[ 1, 2, 3 ]").root(), &rect));
     EXPECT_EQ(rect.nLeft, kBefore);
     EXPECT_EQ(rect.nBottom, kBefore);
-    EXPECT_TRUE(JsonParser::GetRect(Document("[ 1, 2, 3, 4 ]").root(), &rect));
+    EXPECT_TRUE(JsonParser::GetRect(ParsedText("[ 1, 2, 3, 4 ]").root(), &rect));
     EXPECT_EQ(rect.nLeft, 1);
     EXPECT_EQ(rect.nTop, 2);
     EXPECT_EQ(rect.nRight, 3);
@@ -48,9 +48,9 @@ TEST(FixedArrays, ARectangleOfFiveNumbersIsNotRead) {
 
 TEST(FixedArrays, AColour) {
     CFG_COLOR color{kBefore, kBefore, kBefore, kBefore};
-    EXPECT_FALSE(JsonParser::GetColor(Document("[ 255, 128, 0 ]").root(), &color));
+    EXPECT_FALSE(JsonParser::GetColor(ParsedText("[ 255, 128, 0 ]").root(), &color));
     EXPECT_EQ(color.nRed, kBefore);
-    EXPECT_TRUE(JsonParser::GetColor(Document("[ 255, 128, 0, 64 ]").root(), &color));
+    EXPECT_TRUE(JsonParser::GetColor(ParsedText("[ 255, 128, 0, 64 ]").root(), &color));
     EXPECT_EQ(color.nRed, 255);
     EXPECT_EQ(color.nGreen, 128);
     EXPECT_EQ(color.nBlue, 0);
@@ -59,9 +59,9 @@ TEST(FixedArrays, AColour) {
 
 TEST(FixedArrays, ASizeDropsFractionsOnTheWayIn) {
     CFG_SIZE size{0.5f, 0.5f};
-    EXPECT_FALSE(JsonParser::GetSize(Document("[ 3 ]").root(), &size));
+    EXPECT_FALSE(JsonParser::GetSize(ParsedText("[ 3 ]").root(), &size));
     EXPECT_EQ(size.fWidth, 0.5f);
-    EXPECT_TRUE(JsonParser::GetSize(Document("[ 3.75, -2 ]").root(), &size));
+    EXPECT_TRUE(JsonParser::GetSize(ParsedText("[ 3.75, -2 ]").root(), &size));
     EXPECT_EQ(size.fWidth, 3.0f);
     EXPECT_EQ(size.fHeight, -2.0f);
 }
@@ -83,7 +83,7 @@ TEST(FixedArrays, AreWrittenElementByElement) {
 TEST(FixedArrays, LieAtAnyAddress) {
     alignas(8) char room[32];
     std::memset(room, '#', sizeof room);
-    EXPECT_TRUE(JsonParser::GetRect(Document("[ 1, 2, 3, 4 ]").root(), reinterpret_cast<CFG_RECT*>(room + 1)));
+    EXPECT_TRUE(JsonParser::GetRect(ParsedText("[ 1, 2, 3, 4 ]").root(), reinterpret_cast<CFG_RECT*>(room + 1)));
     const std::int32_t expected[] = {1, 2, 3, 4};
     EXPECT_EQ(std::memcmp(room + 1, expected, sizeof expected), 0);
     EXPECT_EQ(room[0], '#');
@@ -94,7 +94,7 @@ TEST(FixedArrays, LieAtAnyAddress) {
 }
 
 TEST(PointList, ABadElementLeavesAHoleAndIsNotCounted) {
-    const Document document("[ [ 1, 2 ], null, [ 3 ], [ 4, 5, 6 ], 7, [ 8, 9 ] ]");
+    const ParsedText document("[ [ 1, 2 ], null, [ 3 ], [ 4, 5, 6 ], 7, [ 8, 9 ] ]");
     CFG_POLYGON points[7];
     for (CFG_POLYGON& point : points)
         point = {kBefore, kBefore};
@@ -108,7 +108,7 @@ TEST(PointList, ABadElementLeavesAHoleAndIsNotCounted) {
 
 TEST(PointList, AnObjectOfTwoMembersIsAPointAtZero) {
     // Two elements are all that is asked for; that they cannot be reached by number is another matter.
-    const Document document(R"([ { "a" : 1, "b" : 2 }, { "a" : 1 }, [ 3, 4 ] ])");
+    const ParsedText document(R"([ { "a" : 1, "b" : 2 }, { "a" : 1 }, [ 3, 4 ] ])");
     CFG_POLYGON points[3] = {{kBefore, kBefore}, {kBefore, kBefore}, {kBefore, kBefore}};
     int count = 99;
     JsonParser::GetPointList(document.root(), 3, points, &count);
@@ -118,7 +118,7 @@ TEST(PointList, AnObjectOfTwoMembersIsAPointAtZero) {
 }
 
 TEST(PointList, StopsAtTheCallersCount) {
-    const Document document("[ [ 1, 2 ], [ 3, 4 ], [ 5, 6 ] ]");
+    const ParsedText document("[ [ 1, 2 ], [ 3, 4 ], [ 5, 6 ] ]");
     CFG_POLYGON points[3] = {{kBefore, kBefore}, {kBefore, kBefore}, {kBefore, kBefore}};
     int count = 99;
     JsonParser::GetPointList(document.root(), 2, points, &count);
@@ -132,7 +132,7 @@ TEST(PointList, StopsAtTheCallersCount) {
     }
     EXPECT_EQ(points[2].nX, kBefore);
     count = 99;
-    JsonParser::GetPointList(Document("5").root(), 3, points, &count);
+    JsonParser::GetPointList(ParsedText("5").root(), 3, points, &count);
     EXPECT_EQ(count, 0);
     JsonParser::GetPointList(document.root(), 3, nullptr, &count);
     JsonParser::GetPointList(document.root(), 3, points, nullptr);
@@ -153,29 +153,30 @@ TEST(PointList, IsWrittenAsPairs) {
 
 TEST(Gps, DegreesMinutesSeconds) {
     // 120 + 30/60 + 36/3600 = 120.51
-    EXPECT_NEAR(JsonParser::GpsDegreesToMicro(Document("[ 120, 30, 36 ]").root()), 120510000.0, 1e-6);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicro(Document("[ 1, 0, 0 ]").root()), 1000000.0);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicro(Document("[ 0, 30, 0.0 ]").root()), 500000.0) << "minutes are no integers";
-    EXPECT_EQ(JsonParser::GpsDegreesToMicro(Document("[ 0, 0, 1.8 ]").root()), 500.0);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicro(Document("[ 2, 0, 0, 9 ]").root()), 2000000.0) << "a fourth is ignored";
+    EXPECT_NEAR(JsonParser::GpsDegreesToMicro(ParsedText("[ 120, 30, 36 ]").root()), 120510000.0, 1e-6);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicro(ParsedText("[ 1, 0, 0 ]").root()), 1000000.0);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicro(ParsedText("[ 0, 30, 0.0 ]").root()), 500000.0)
+        << "minutes are no integers";
+    EXPECT_EQ(JsonParser::GpsDegreesToMicro(ParsedText("[ 0, 0, 1.8 ]").root()), 500.0);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicro(ParsedText("[ 2, 0, 0, 9 ]").root()), 2000000.0) << "a fourth is ignored";
     for (const char* text : {"[ 1, 2 ]", "[  ]", "null", "5", "\"abc\"", "{ \"a\" : 1, \"b\" : 1, \"c\" : 1 }"}) {
-        EXPECT_EQ(JsonParser::GpsDegreesToMicro(Document(text).root()), 0.0) << text;
-        EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document(text).root()), 0) << text;
+        EXPECT_EQ(JsonParser::GpsDegreesToMicro(ParsedText(text).root()), 0.0) << text;
+        EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText(text).root()), 0) << text;
     }
 }
 
 TEST(Gps, TheIntegerTruncatesTowardZero) {
     // 0.0019 s and 0.0055 s are 0.53 and 1.53 millionths of a degree.
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 0, 0, 0.0019 ]").root()), 0);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 0, 0, 0.0055 ]").root()), 1);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 0, 0, -0.0055 ]").root()), -1);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 90, 0, 0 ]").root()), 90000000);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 0, 0, 0.0019 ]").root()), 0);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 0, 0, 0.0055 ]").root()), 1);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 0, 0, -0.0055 ]").root()), -1);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 90, 0, 0 ]").root()), 90000000);
 }
 
 TEST(Gps, WhatFitsNoIntegerBecomesTheNearest) {
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 4000000000, 0, 0 ]").root()), INT_MAX);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 0, 0, 1e300 ]").root()), INT_MAX);
-    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(Document("[ 0, 0, -1e300 ]").root()), INT_MIN);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 4000000000, 0, 0 ]").root()), INT_MAX);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 0, 0, 1e300 ]").root()), INT_MAX);
+    EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(ParsedText("[ 0, 0, -1e300 ]").root()), INT_MIN);
     const double nan = std::numeric_limits<double>::quiet_NaN();
     json::Value parts[3] = {json::Value::OfUInt(1), json::Value::OfUInt(1), json::Value::OfReal(nan)};
     EXPECT_EQ(JsonParser::GpsDegreesToMicroInt(json::Value::OfArray(parts, 3)), 0);

@@ -6,7 +6,7 @@
 namespace orrery {
 namespace {
 
-using test::Document;
+using test::ParsedText;
 using test::StringValue;
 using test::TextOf;
 
@@ -20,7 +20,7 @@ class JsonParserText : public testing::Test {
 TEST_F(JsonParserText, AWrongTypeClearsTheField) {
     const std::string cleared(64, '\0');
     for (const char* text : {"5", "true", "null", "1.5", "[ \"a\" ]", "{ \"a\" : \"b\" }"}) {
-        const Document document(text);
+        const ParsedText document(text);
         std::string field(64, '#');
         EXPECT_FALSE(parser_.GetJsonString(document.root(), field.data(), 64, true)) << text;
         EXPECT_EQ(field, cleared) << text;
@@ -28,7 +28,7 @@ TEST_F(JsonParserText, AWrongTypeClearsTheField) {
         EXPECT_FALSE(parser_.GetJsonString(document.root(), field.data(), 64, false)) << text;
         EXPECT_EQ(field, cleared) << text;
     }
-    const Document named("{ \"Name\" : 5 }");
+    const ParsedText named("{ \"Name\" : 5 }");
     std::string field(64, '#');
     EXPECT_FALSE(parser_.GetJsonString(named.root()["Name"], field.data(), 64, true));
     EXPECT_EQ(field, cleared);
@@ -60,7 +60,7 @@ TEST_F(JsonParserText, EveryByteOfTheCapacityIsCleared) {
 }
 
 TEST_F(JsonParserText, AnAbsentTextLeavesTheFieldIfPresentIsAsked) {
-    const Document document("{ \"A\" : \"x\", \"B\" : null, \"C\" : 5 }");
+    const ParsedText document("{ \"A\" : \"x\", \"B\" : null, \"C\" : 5 }");
     char field[4] = {'#', '#', '#', '#'};
     EXPECT_FALSE(parser_.GetJsonStringIfPresent(document.root()["B"], field, 4));
     EXPECT_FALSE(parser_.GetJsonStringIfPresent(document.root()["Z"], field, 4));
@@ -82,8 +82,8 @@ TEST_F(JsonParserText, BoundedTakesAtMostTheLimit) {
     EXPECT_EQ(std::memcmp(field, "abc\0####", 8), 0) << "never past the room";
     std::memset(field, '#', sizeof field);
     EXPECT_TRUE(parser_.GetJsonStringBounded(StringValue(""), field, 6, 8));
-    EXPECT_FALSE(parser_.GetJsonStringBounded(Document("7").root(), field, 6, 8));
-    EXPECT_FALSE(parser_.GetJsonStringBounded(Document("true").root(), field, 6, 8));
+    EXPECT_FALSE(parser_.GetJsonStringBounded(ParsedText("7").root(), field, 6, 8));
+    EXPECT_FALSE(parser_.GetJsonStringBounded(ParsedText("true").root(), field, 6, 8));
     EXPECT_EQ(std::memcmp(field, "########", 8), 0);
 }
 

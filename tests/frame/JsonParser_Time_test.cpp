@@ -6,7 +6,7 @@
 namespace orrery {
 namespace {
 
-using test::Document;
+using test::ParsedText;
 using test::StringValue;
 using test::TextOf;
 
@@ -61,7 +61,7 @@ TEST(TimeSection, IsReadInFieldOrder) {
 TEST(TimeSection, AnEmptyTextLeavesTheSection) {
     CFG_TIME_SECTION section = Filled(kBefore);
     for (const char* text : {"\"\"", "null", "5", "[ \"1 08:00:00-17:30:00\" ]", "{ \"a\" : 1 }", "true", "\"bad\""}) {
-        EXPECT_FALSE(JsonParser::GetTimeSection(Document(text).root(), &section)) << text;
+        EXPECT_FALSE(JsonParser::GetTimeSection(ParsedText(text).root(), &section)) << text;
         EXPECT_TRUE(section == Filled(kBefore)) << text;
     }
     EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("1 08:00:00-17:30:00"), nullptr));
@@ -85,14 +85,15 @@ TEST(TimeSection, TheNarrowFormatTakesTwoDigitsTheWideOneAll) {
     EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("1 08:00:00-9:00:00"), &section));
     EXPECT_TRUE(section == (CFG_TIME_SECTION{1, 8, 0, 0, 9, 0, 0}));
     CFG_TIME_SECTION wide = Filled(kBefore);
-    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document("[ [ \"1 08:00:00-9:00:00\" ] ]").root(), &wide, 1, 1, nullptr));
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(ParsedText("[ [ \"1 08:00:00-9:00:00\" ] ]").root(), &wide, 1, 1, nullptr));
     EXPECT_TRUE(wide == section);
 
     section = Filled(kBefore);
     EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("1 008:00:00-9:00:00"), &section));
     EXPECT_TRUE(section == (CFG_TIME_SECTION{1, 0, kBefore, kBefore, kBefore, kBefore, kBefore}));
     wide = Filled(kBefore);
-    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document("[ [ \"1 008:00:00-9:00:00\" ] ]").root(), &wide, 1, 1, nullptr));
+    EXPECT_TRUE(
+        JsonParser::GetTimeSchedule(ParsedText("[ [ \"1 008:00:00-9:00:00\" ] ]").root(), &wide, 1, 1, nullptr));
     EXPECT_TRUE(wide == (CFG_TIME_SECTION{1, 8, 0, 0, 9, 0, 0}));
 }
 
@@ -111,7 +112,7 @@ TEST(TimeSection, IsWrittenWithTwoDigitsAField) {
 // ---- Schedules ----
 
 TEST(TimeSchedule, ReadsAMatrixRowByRow) {
-    const Document document("[ [ \"1 8:0:0-17:30:0\", \"0 00:00:00-01:00:00\" ], [ \"2 1:2:3-4:5:6\" ] ]");
+    const ParsedText document("[ [ \"1 8:0:0-17:30:0\", \"0 00:00:00-01:00:00\" ], [ \"2 1:2:3-4:5:6\" ] ]");
     CFG_TIME_SECTION sections[2][3];
     for (auto& row : sections) {
         for (CFG_TIME_SECTION& section : row)
@@ -134,13 +135,13 @@ TEST(TimeSchedule, StopsAtTheCallersBounds) {
             section = Filled(kBefore);
     }
     int rows = 99;
-    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document(Matrix(9, 9)).root(), &sections[0][0], 1, 2, &rows));
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(ParsedText(Matrix(9, 9)).root(), &sections[0][0], 1, 2, &rows));
     EXPECT_EQ(rows, 1);
     EXPECT_TRUE(sections[0][0] == kWorkday);
     EXPECT_TRUE(sections[0][1] == kWorkday);
     EXPECT_TRUE(sections[1][0] == Filled(kBefore));
     rows = 99;
-    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document(Matrix(1, 1)).root(), &sections[0][0], INT_MAX, INT_MAX, &rows));
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(ParsedText(Matrix(1, 1)).root(), &sections[0][0], INT_MAX, INT_MAX, &rows));
     EXPECT_EQ(rows, 1) << "the document is the bound";
 }
 
@@ -149,9 +150,9 @@ TEST(TimeSchedule, RefusesWhatIsNoMatrixWithNothingTouched) {
     int rows = 99;
     for (const char* text :
          {"null", "[  ]", "5", "\"1 08:00:00-17:30:00\"", "{ \"a\" : [ \"1 08:00:00-17:30:00\" ] }"}) {
-        EXPECT_FALSE(JsonParser::GetTimeSchedule(Document(text).root(), &section, 1, 1, &rows)) << text;
+        EXPECT_FALSE(JsonParser::GetTimeSchedule(ParsedText(text).root(), &section, 1, 1, &rows)) << text;
     }
-    const Document good(Matrix(1, 1));
+    const ParsedText good(Matrix(1, 1));
     EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), nullptr, 1, 1, &rows));
     EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), &section, 0, 1, &rows));
     EXPECT_FALSE(JsonParser::GetTimeSchedule(good.root(), &section, 1, 0, &rows));
@@ -162,7 +163,7 @@ TEST(TimeSchedule, RefusesWhatIsNoMatrixWithNothingTouched) {
 }
 
 TEST(TimeSchedule, SkipsRowsThatAreNone) {
-    const Document document("[ null, [  ], 5, \"text\", { \"a\" : \"b\" }, [ \"1 08:00:00-17:30:00\" ] ]");
+    const ParsedText document("[ null, [  ], 5, \"text\", { \"a\" : \"b\" }, [ \"1 08:00:00-17:30:00\" ] ]");
     CFG_TIME_SECTION sections[6];
     for (CFG_TIME_SECTION& section : sections)
         section = Filled(kBefore);
@@ -175,8 +176,8 @@ TEST(TimeSchedule, SkipsRowsThatAreNone) {
 }
 
 TEST(TimeSchedule, ABadCellEndsItWithWhatWasRead) {
-    const Document document("[ [ \"1 08:00:00-17:30:00\", \"2 03:04\", \"1 08:00:00-17:30:00\" ],"
-                            " [ \"1 08:00:00-17:30:00\" ] ]");
+    const ParsedText document("[ [ \"1 08:00:00-17:30:00\", \"2 03:04\", \"1 08:00:00-17:30:00\" ],"
+                              " [ \"1 08:00:00-17:30:00\" ] ]");
     CFG_TIME_SECTION sections[2][3];
     for (auto& row : sections) {
         for (CFG_TIME_SECTION& section : row)
@@ -190,7 +191,7 @@ TEST(TimeSchedule, ABadCellEndsItWithWhatWasRead) {
     EXPECT_TRUE(sections[0][2] == Filled(kBefore));
     EXPECT_TRUE(sections[1][0] == Filled(kBefore));
     for (const char* text : {"[ [ \"bad\" ] ]", "[ [ null ] ]", "[ [ 5 ] ]", "[ [ [ \"1 08:00:00-17:30:00\" ] ] ]"}) {
-        EXPECT_FALSE(JsonParser::GetTimeSchedule(Document(text).root(), &sections[0][0], 2, 3, nullptr)) << text;
+        EXPECT_FALSE(JsonParser::GetTimeSchedule(ParsedText(text).root(), &sections[0][0], 2, 3, nullptr)) << text;
     }
 }
 
@@ -224,7 +225,7 @@ TEST(HolidaySchedule, NeedsAWeek) {
     } kCases[] = {{6, false, 0}, {7, true, 0}, {8, true, 1}, {9, true, 1}};
     for (const auto& c : kCases) {
         std::memset(&schedule, 0x55, sizeof schedule);
-        EXPECT_EQ(JsonParser::GetHolidaySchedule(Document(Matrix(c.rows, 6)).root(), &schedule), c.read) << c.rows;
+        EXPECT_EQ(JsonParser::GetHolidaySchedule(ParsedText(Matrix(c.rows, 6)).root(), &schedule), c.read) << c.rows;
         EXPECT_EQ(schedule.bEnableHoliday, c.holiday) << c.rows;
         for (int row = 0; row < 8; ++row) {
             EXPECT_TRUE(sections[row][5] == (row < c.rows ? kWorkday : Filled(0))) << c.rows << ' ' << row;
@@ -237,10 +238,10 @@ TEST(HolidaySchedule, IsClearedEvenWhenNothingIsRead) {
     for (const char* text : {"null", "5", "[  ]", "[ [ \"bad\" ] ]"}) {
         CFG_TIME_SCHEDULE schedule;
         std::memset(&schedule, 0x55, sizeof schedule);
-        EXPECT_FALSE(JsonParser::GetHolidaySchedule(Document(text).root(), &schedule)) << text;
+        EXPECT_FALSE(JsonParser::GetHolidaySchedule(ParsedText(text).root(), &schedule)) << text;
         EXPECT_EQ(std::memcmp(&schedule, &cleared, sizeof schedule), 0) << text;
     }
-    EXPECT_FALSE(JsonParser::GetHolidaySchedule(Document(Matrix(7, 6)).root(), nullptr));
+    EXPECT_FALSE(JsonParser::GetHolidaySchedule(ParsedText(Matrix(7, 6)).root(), nullptr));
 }
 
 TEST(HolidaySchedule, WritesTheEighthRowOnlyWhenInUse) {
@@ -263,7 +264,7 @@ TEST(HolidaySchedule, WritesTheEighthRowOnlyWhenInUse) {
 // ---- Flat lists ----
 
 TEST(TimeSectionList, PassesOverWhatIsNoSection) {
-    const Document document("[ \"1 08:00:00-17:30:00\", \"bad\", null, \"2 03:04\", \"1 008:0:0-17:30:0\" ]");
+    const ParsedText document("[ \"1 08:00:00-17:30:00\", \"bad\", null, \"2 03:04\", \"1 008:0:0-17:30:0\" ]");
     CFG_TIME_SECTION sections[6];
     for (CFG_TIME_SECTION& section : sections)
         section = Filled(kBefore);
@@ -275,17 +276,17 @@ TEST(TimeSectionList, PassesOverWhatIsNoSection) {
     EXPECT_TRUE(sections[4] == kWorkday);
     EXPECT_TRUE(sections[5] == Filled(kBefore));
     // The same text that ends a schedule: a list of one list carries on.
-    EXPECT_TRUE(JsonParser::GetTimeSectionList(Document("[ [ \"bad\" ] ]").root(), sections, 6));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(ParsedText("[ [ \"bad\" ] ]").root(), sections, 6));
 }
 
 TEST(TimeSectionList, StopsAtItsLimit) {
-    const Document document("[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\" ]");
+    const ParsedText document("[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\" ]");
     CFG_TIME_SECTION sections[2] = {Filled(kBefore), Filled(kBefore)};
     EXPECT_FALSE(JsonParser::GetTimeSectionList(document.root(), nullptr, 2));
     EXPECT_FALSE(JsonParser::GetTimeSectionList(document.root(), sections, 0));
     EXPECT_FALSE(JsonParser::GetTimeSectionList(document.root(), sections, INT_MIN));
-    EXPECT_TRUE(JsonParser::GetTimeSectionList(Document("null").root(), sections, 2));
-    EXPECT_TRUE(JsonParser::GetTimeSectionList(Document("7").root(), sections, 2));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(ParsedText("null").root(), sections, 2));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(ParsedText("7").root(), sections, 2));
     EXPECT_TRUE(sections[0] == Filled(kBefore));
     EXPECT_TRUE(JsonParser::GetTimeSectionList(document.root(), sections, 1));
     EXPECT_TRUE(sections[0] == kWorkday);
@@ -307,7 +308,7 @@ TEST(TimeSectionList, IsWrittenFlat) {
 TEST(TimeSchedule, LiesAtAnyAddress) {
     std::vector<char> room(sizeof(CFG_TIME_SCHEDULE) + 8, '#');
     auto* const schedule = reinterpret_cast<CFG_TIME_SCHEDULE*>(room.data() + 1);
-    EXPECT_TRUE(JsonParser::GetHolidaySchedule(Document(Matrix(8, 6)).root(), schedule));
+    EXPECT_TRUE(JsonParser::GetHolidaySchedule(ParsedText(Matrix(8, 6)).root(), schedule));
     CFG_TIME_SCHEDULE copy;
     std::memcpy(&copy, room.data() + 1, sizeof copy);
     EXPECT_EQ(copy.bEnableHoliday, 1);
@@ -320,7 +321,7 @@ TEST(TimeSchedule, LiesAtAnyAddress) {
     EXPECT_EQ(written(schedule), written(&copy));
     char countRoom[8];
     auto* const rows = reinterpret_cast<int*>(countRoom + 1);
-    EXPECT_TRUE(JsonParser::GetTimeSchedule(Document(Matrix(3, 1)).root(),
+    EXPECT_TRUE(JsonParser::GetTimeSchedule(ParsedText(Matrix(3, 1)).root(),
                                             reinterpret_cast<CFG_TIME_SECTION*>(room.data() + 3), 8, 6, rows));
     int count = 0;
     std::memcpy(&count, countRoom + 1, sizeof count);

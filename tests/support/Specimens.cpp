@@ -80,10 +80,20 @@ struct Everything {
     std::int32_t bPresent;
 };
 
-PART(kItem, Item, FIELD(szName, nullptr, MemberName), FIELD(nValue, "Value", Int), FIELD(bEnable, "Enable", Bool),
-     FIELD(nShort, "Short", Int), FIELD(wWord, "Word", UInt));
-PART(kInner, Inner, FIELD(dwSize, nullptr, Size), FIELD(szText, "Text", Text),
-     FIELD(nNumber, "Number", Int).Absent(-1).UnlessNegative())
+PART(kItem, Item,
+     {
+         FIELD(szName, nullptr, MemberName),
+         FIELD(nValue, "Value", Int),
+         FIELD(bEnable, "Enable", Bool),
+         FIELD(nShort, "Short", Int),
+         FIELD(wWord, "Word", UInt),
+     });
+PART(kInner, Inner,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(szText, "Text", Text),
+         FIELD(nNumber, "Number", Int).Absent(-1).WriteUnlessNegative(),
+     })
     .Guarded();
 
 constexpr TypedTable<CFG_RECT> kLooseRect = kRect.As(Shape::LooseTuple);
@@ -92,30 +102,59 @@ constexpr Name kKindRows[] = {{0, "None"}, {1, "First"}, {7, "Seventh"}, {7, "Ag
 constexpr NameTable kKinds = FoldedNames(kKindRows).Unknown(1).OutsideWrites("Other");
 constexpr NameTable kKindsOrNull = ExactNames(kKindRows).UnknownLeaves().OutsideWritesNull();
 
-TABLE(kEverything, Everything, FIELD(dwSize, nullptr, Size), FIELD(n8, "N8", Int).Always(), FIELD(u8, "U8", Bool),
-      FIELD(n16, "Numbers/N16", Int).Unless(5), FIELD(u16, "Numbers/U16", UInt), FIELD(n64, "Numbers/Deep/N64", Int),
-      FIELD(u64, "Numbers/Deep/U64", UInt), FIELD(f32, "F32", Real), FIELD(f64, "F64", Real),
-      FIELD(fDefault, "FDefault", Real).Absent(-1), FIELD(nWhole, "Whole", UInt).AtMost(50),
-      FIELD(nRoot, "params/more/root", Int).FromRoot(), FIELD(nDepth, "Depth", Int).WriteOnly(),
-      FIELD(emKind, "Kind", Names(kKinds)), FIELD(byReserved),
-      FIELD(emKinds, "Kinds", Names(kKindsOrNull)).OnSkipped(Skipped::Hole).WhenEmpty(Empty::Array),
-      FIELD(szRaw, "Raw", RawText), FIELD(szTexts, "Texts", Text).Count(AT(nTextCount)).WhenEmpty(Empty::Array),
-      FIELD(nTextCount), FIELD(nMatrix, "Matrix", Int), FIELD(dCube, "Cube", Real),
-      FIELD(nExactly, "Exactly", Int).Exactly(),
-      FIELD(nStop, "Stop", Int).Count(AT(nStopCount)).OnNull(Nulls::Stop).WhenEmpty(Empty::Null), FIELD(nStopCount),
-      FIELD(nClose, "Close", Int).Count(AT(nCloseCount)).OnNull(Nulls::CloseUp), FIELD(nCloseCount),
-      FIELD(nHole, "Hole", Int).Count(AT(nHoleCount)).OnNull(Nulls::LeaveHole), FIELD(nHoleCount), FIELD(wReserved),
-      FIELD(nUncapped, "Uncapped", Int).CountUncapped(AT(nUncappedCount)), FIELD(nUncappedCount),
-      FIELD(nSwitches, "Switches", Switches), FIELD(dwMask, "Mask", BitMaskLoose).AnyShape(),
-      FIELD(stuWeek, "Week", Schedule), FIELD(stuList, "Sections", SectionList), FIELD(stuOne, "One", TimeSection),
-      FIELD(stuSchedule, "Schedule", HolidaySchedule), FIELD(stuTime, "Time", NetTime),
-      FIELD(stuTimeEx, "TimeEx", NetTimeEx), FIELD(stuClock, "Clock", ClockTime),
-      FIELD(stuDate, "Date", Date).ReadOnly(), FIELD(nSplit, "Split", SplitMode), FIELD(stuRect, "Rect", Record(kRect)),
-      FIELD(stuLoose, "Loose", Record(kLooseRect)),
-      FIELD(stuKeyed, "Keyed", Record(kItem)).Count(AT(nKeyedCount)).Keyed().WhenEmpty(Empty::Array),
-      FIELD(nKeyedCount), FIELD(stuInner, "Inner", Record(kInner)),
-      FIELD(nOnlyInteger, "OnlyInteger", Int).Only(OnlyType::Integer),
-      FIELD(nOnlyBool, "OnlyBool", Bool).Only(OnlyType::Bool), FIELD(bPresent, "Group", Presence));
+TABLE(kEverything, Everything,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(n8, "N8", Int).Always(),
+          FIELD(u8, "U8", Bool),
+          FIELD(n16, "Numbers/N16", Int).WriteUnless(5),
+          FIELD(u16, "Numbers/U16", UInt),
+          FIELD(n64, "Numbers/Deep/N64", Int),
+          FIELD(u64, "Numbers/Deep/U64", UInt),
+          FIELD(f32, "F32", Real),
+          FIELD(f64, "F64", Real),
+          FIELD(fDefault, "FDefault", Real).Absent(-1),
+          FIELD(nWhole, "Whole", UInt).WriteAtMost(50),
+          FIELD(nRoot, "params/more/root", Int).FromRoot(),
+          FIELD(nDepth, "Depth", Int).WriteOnly(),
+          FIELD(emKind, "Kind", Names(kKinds)),
+          FIELD(byReserved),
+          FIELD(emKinds, "Kinds", Names(kKindsOrNull)).WriteSkipped(Skipped::Hole).WriteEmpty(Empty::Array),
+          FIELD(szRaw, "Raw", RawText),
+          FIELD(szTexts, "Texts", Text).Count(AT(nTextCount)).WriteEmpty(Empty::Array),
+          FIELD(nTextCount),
+          FIELD(nMatrix, "Matrix", Int),
+          FIELD(dCube, "Cube", Real),
+          FIELD(nExactly, "Exactly", Int).Exactly(),
+          FIELD(nStop, "Stop", Int).Count(AT(nStopCount)).NullElement(Nulls::Stop).WriteEmpty(Empty::Null),
+          FIELD(nStopCount),
+          FIELD(nClose, "Close", Int).Count(AT(nCloseCount)).NullElement(Nulls::CloseUp),
+          FIELD(nCloseCount),
+          FIELD(nHole, "Hole", Int).Count(AT(nHoleCount)).NullElement(Nulls::LeaveHole),
+          FIELD(nHoleCount),
+          FIELD(wReserved),
+          FIELD(nUncapped, "Uncapped", Int).CountUncapped(AT(nUncappedCount)),
+          FIELD(nUncappedCount),
+          FIELD(nSwitches, "Switches", Switches),
+          FIELD(dwMask, "Mask", BitMaskLoose).AnyShape(),
+          FIELD(stuWeek, "Week", Schedule),
+          FIELD(stuList, "Sections", SectionList),
+          FIELD(stuOne, "One", TimeSection),
+          FIELD(stuSchedule, "Schedule", HolidaySchedule),
+          FIELD(stuTime, "Time", NetTime),
+          FIELD(stuTimeEx, "TimeEx", NetTimeEx),
+          FIELD(stuClock, "Clock", ClockTime),
+          FIELD(stuDate, "Date", Date).ReadOnly(),
+          FIELD(nSplit, "Split", SplitMode),
+          FIELD(stuRect, "Rect", Record(kRect)),
+          FIELD(stuLoose, "Loose", Record(kLooseRect)),
+          FIELD(stuKeyed, "Keyed", Record(kItem)).Count(AT(nKeyedCount)).Keyed().WriteEmpty(Empty::Array),
+          FIELD(nKeyedCount),
+          FIELD(stuInner, "Inner", Record(kInner)),
+          FIELD(nOnlyInteger, "OnlyInteger", Int).Only(OnlyType::Integer),
+          FIELD(nOnlyBool, "OnlyBool", Bool).Only(OnlyType::Bool),
+          FIELD(bPresent, "Group", Presence),
+      });
 
 // Arrays of the caller's own.
 struct WithPointers {
@@ -132,11 +171,20 @@ struct WithPointers {
     std::int32_t bEnable;
 };
 
-TABLE(kWithPointers, WithPointers, FIELD(dwSize, nullptr, Size), FIELD(nMostItems), FIELD(nItems), FIELD(nMostInners),
-      FIELD(pItems, "Items", Record(kItem)).Capacity(AT(nMostItems)).Count(AT(nItems)),
-      FIELD(pInners, "Inners", Record(kInner)).Capacity(AT(nMostInners)).Count(AT(nInners)).Zeroed(), FIELD(nInners),
-      FIELD(nKeyed), FIELD(pKeyed, "Keyed", Record(kItem)).Capacity(AT(nMostKeyed)).Count(AT(nKeyed)).Keyed(),
-      FIELD(nMostKeyed), FIELD(bEnable, "Enable", Bool));
+TABLE(kWithPointers, WithPointers,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(nMostItems),
+          FIELD(nItems),
+          FIELD(nMostInners),
+          FIELD(pItems, "Items", Record(kItem)).Capacity(AT(nMostItems)).Count(AT(nItems)),
+          FIELD(pInners, "Inners", Record(kInner)).Capacity(AT(nMostInners)).Count(AT(nInners)).Zeroed(),
+          FIELD(nInners),
+          FIELD(nKeyed),
+          FIELD(pKeyed, "Keyed", Record(kItem)).Capacity(AT(nMostKeyed)).Count(AT(nKeyed)).Keyed(),
+          FIELD(nMostKeyed),
+          FIELD(bEnable, "Enable", Bool),
+      });
 
 struct WithLinkage {
     std::uint32_t dwSize;
@@ -144,15 +192,23 @@ struct WithLinkage {
     CFG_EVENT_HANDLER_V2_INFO stuHandler;
 };
 
-TABLE(kWithLinkage, WithLinkage, FIELD(dwSize, nullptr, Size), FIELD(bEnable, "Enable", Bool),
-      FIELD(stuHandler, "EventHandler", Record(kEventHandlerV2)));
+TABLE(kWithLinkage, WithLinkage,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(bEnable, "Enable", Bool),
+          FIELD(stuHandler, "EventHandler", Record(kEventHandlerV2)),
+      });
 
 struct Numbers {
     std::int32_t nNumber[4];
     std::int32_t nCount;
 };
 
-TABLE(kNumbers, Numbers, FIELD(nNumber, "", Int).Count(AT(nCount)), FIELD(nCount));
+TABLE(kNumbers, Numbers,
+      {
+          FIELD(nNumber, "", Int).Count(AT(nCount)),
+          FIELD(nCount),
+      });
 
 Command Both(std::string_view name, const Table& table, ParseFrame parse, PackFrame pack) {
     Command command;
@@ -183,7 +239,7 @@ const std::vector<Command>& Specimens() {
         Both("specimen.oneOrMany", kEverything,
              parse.From(Source::CapsOrParams)
                  .Takes(Take::OneOrMany)
-                 .Null(OnNull::LengthZero)
+                 .Null(NullValue::LengthZero)
                  .Length(ReplyLength::PerRecord),
              pack.As(Form::BareIfOne).Fits(Capacity::Raw)),
         Both("specimen.anyOrMany", kItem,
@@ -199,7 +255,7 @@ const std::vector<Command>& Specimens() {
         Both("specimen.byMember", kItem,
              parse.Takes(Take::ByMember).Length(ReplyLength::PerRecord).Result(ResultTest::ExactBool),
              pack.As(Form::ByMember).Fits(Capacity::Loose)),
-        Both("specimen.byMemberOrNone", kItem, parse.Takes(Take::ByMemberOrNone).Null(OnNull::LengthUntouched),
+        Both("specimen.byMemberOrNone", kItem, parse.Takes(Take::ByMemberOrNone).Null(NullValue::LengthUntouched),
              pack.As(Form::ByMember)),
         Both("specimen.pointers", kWithPointers, parse.Clears(Clearing::Kept), pack.ExactSize()),
         Both("specimen.block", kEverything,

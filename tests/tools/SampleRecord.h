@@ -34,8 +34,12 @@ struct SAMPLE_INFO {
     SAMPLE_ITEM stuGrid[2][3];
 };
 
-inline constexpr record::Name kColorRows[] = {{1, "Red"}, {2, "Green"}, {-3, "Blue", record::Compare::Exact}};
-inline constexpr record::NameTable kColors = record::FoldedNames(kColorRows).Unknown(7);
+NAMES(kColors, record::kFolded.Unknown(7),
+      {
+          {1, "Red"},
+          {2, "Green"},
+          {-3, "Blue", record::Compare::Exact},
+      });
 
 using record::Bool;
 using record::Int;
@@ -47,15 +51,35 @@ using record::SplitMode;
 using record::Text;
 using record::UInt;
 
-PART(kSampleItem, SAMPLE_ITEM, FIELD(dwSize, nullptr, Size), FIELD(nValue, "Value", Int), FIELD(szName, "Name", Text));
+PART(kSampleItem, SAMPLE_ITEM,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(nValue, "Value", Int),
+         FIELD(szName, "Name", Text),
+     });
 
-PART(kSample, SAMPLE_INFO, FIELD(dwSize, nullptr, Size), FIELD(nTiny, "Tiny", Int), FIELD(byTiny, "UTiny", UInt),
-     FIELD(nShort, "Short", Int), FIELD(wShort, "UShort", UInt), FIELD(szName, "Name", Text), FIELD(nLong, "Long", Int),
-     FIELD(dwLong, "ULong", UInt), FIELD(fReal, "Real", Real), FIELD(bEnable, "Enable", Bool),
-     FIELD(dReal, "Double", Real), FIELD(emColor, "Color", Names(kColors)), FIELD(nSplit, "Split", SplitMode),
-     FIELD(nNumberCount), FIELD(nNumbers, "Numbers", Int).Count(AT(nNumberCount)), FIELD(nMaxItems), FIELD(nItemCount),
-     FIELD(szTexts, "Texts", Text),
-     FIELD(pstuItems, "Items", Record(kSampleItem)).Capacity(AT(nMaxItems)).Count(AT(nItemCount)),
-     FIELD(stuGrid, "Grid", Record(kSampleItem)));
+PART(kSample, SAMPLE_INFO,
+     {
+         FIELD(dwSize, nullptr, Size),
+         FIELD(nTiny, "Tiny", Int),
+         FIELD(byTiny, "UTiny", UInt),
+         FIELD(nShort, "Short", Int),
+         FIELD(wShort, "UShort", UInt),
+         FIELD(szName, "Name", Text),
+         FIELD(nLong, "Long", Int),
+         FIELD(dwLong, "ULong", UInt),
+         FIELD(fReal, "Real", Real),
+         FIELD(bEnable, "Enable", Bool),
+         FIELD(dReal, "Double", Real),
+         FIELD(emColor, "Color", Names(kColors)),
+         FIELD(nSplit, "Split", SplitMode),
+         FIELD(nNumberCount),
+         FIELD(nNumbers, "Numbers", Int).Count(AT(nNumberCount)),
+         FIELD(nMaxItems),
+         FIELD(nItemCount),
+         FIELD(szTexts, "Texts", Text),
+         FIELD(pstuItems, "Items", Record(kSampleItem)).Capacity(AT(nMaxItems)).Count(AT(nItemCount)),
+         FIELD(stuGrid, "Grid", Record(kSampleItem)),
+     });
 
 } // namespace orrery::tool

@@ -16,13 +16,21 @@ struct SHAPE_POINT {
     std::int32_t nX;
     std::int32_t nY;
 };
-PART(kPlace, SHAPE_POINT, FIELD(nX, "X", Int), FIELD(nY, "Y", Int));
+PART(kPlace, SHAPE_POINT,
+     {
+         FIELD(nX, "X", Int),
+         FIELD(nY, "Y", Int),
+     });
 
 struct SHAPE_ENTRY {
     char szName[8];
     std::int32_t nValue;
 };
-PART(kEntry, SHAPE_ENTRY, FIELD(szName, "", record::MemberName), FIELD(nValue, "Value", Int));
+PART(kEntry, SHAPE_ENTRY,
+     {
+         FIELD(szName, "", record::MemberName),
+         FIELD(nValue, "Value", Int),
+     });
 
 Command Make(const record::Table& table, ParseFrame parse, PackFrame pack = {}) {
     Command command;
@@ -74,7 +82,7 @@ TEST(Shapes, WrongShapesAreNamed) {
     EXPECT_EQ(ParseText(Make(kPlace, ParseFrame().From(Source::Top, "info")), R"({"result":true})").err,
               "orrery: no \"info\" in the reply (it has \"result\")\n");
     const Result nothing =
-        ParseText(Make(kPlace, kMany.Null(OnNull::LengthUntouched)), R"({"result":true,"params":{}})");
+        ParseText(Make(kPlace, kMany.Null(NullValue::LengthUntouched)), R"({"result":true,"params":{}})");
     EXPECT_EQ(nothing.out, "[]\n");
     EXPECT_EQ(nothing.err, "orrery: note: the reply has no \"params.table\"; no record was read\n");
 }

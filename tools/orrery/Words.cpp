@@ -87,7 +87,7 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(!field.writable && !field.fromRoot, "ReadOnly");
     add(field.writable && field.fromRoot, "Writable");
     add(field.only != OnlyType::Any, Call("Only", Word(field.only, kOnlyWords)));
-    slot("Flag", field.flag);
+    slot("SetsAndNeeds", field.flag);
     slot(field.countUncapped ? "CountUncapped" : "Count", field.count);
     slot("Capacity", field.capacity);
     add(field.anyShape, "AnyShape");
@@ -98,20 +98,20 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.amongKeys, "AmongKeys");
     add(field.untilEmpty, "UntilEmpty");
     add(field.zeroed, "Zeroed");
-    add(field.nulls != Nulls::Count, Call("OnNull", Word(field.nulls, kNullsWords)));
-    add(field.refused != Nulls::Count, Call("OnRefused", Word(field.refused, kNullsWords)));
-    slot("ReadWith", field.readCondition);
+    add(field.nulls != Nulls::Count, Call("NullElement", Word(field.nulls, kNullsWords)));
+    add(field.refused != Nulls::Count, Call("RefusedElement", Word(field.refused, kNullsWords)));
+    slot("ReadIf", field.readCondition);
     add(field.firstBytes != 0, Call("FirstBytes", std::to_string(field.firstBytes)));
     add(field.trueAtOne, "TrueAtOne");
-    add(field.hasUnless, Call("Unless", std::to_string(field.unless)));
-    add(field.notNegative, "UnlessNegative");
-    add(field.atMost != Field::kNoLimit, Call("AtMost", std::to_string(field.atMost)));
-    slot("WhenSet", field.condition);
-    add(field.when != nullptr, "When(function)");
-    add(field.linkage, "WhenLinked");
-    add(field.empty != Empty::NoKey, Call("WhenEmpty", Word(field.empty, kEmptyWords)));
-    add(field.skipped != Skipped::StaysNull, Call("OnSkipped", Word(field.skipped, kSkippedWords)));
-    add(field.unlessBare, "UnlessBare");
+    add(field.hasUnless, Call("WriteUnless", std::to_string(field.unless)));
+    add(field.notNegative, "WriteUnlessNegative");
+    add(field.atMost != Field::kNoLimit, Call("WriteAtMost", std::to_string(field.atMost)));
+    slot("WriteIf", field.condition);
+    add(field.when != nullptr, "WriteIf(function)");
+    add(field.linkage, "WriteIfLinked");
+    add(field.empty != Empty::NoKey, Call("WriteEmpty", Word(field.empty, kEmptyWords)));
+    add(field.skipped != Skipped::StaysNull, Call("WriteSkipped", Word(field.skipped, kSkippedWords)));
+    add(field.unlessBare, "WriteUnlessBare");
     add(field.keepsObject, "KeepsObject");
     add(field.fullCapacity, "WritesCapacity");
     add(field.alias, "Alias");
@@ -221,7 +221,7 @@ std::string ParseWords(const Command& command) {
     words += " "
              + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List",
                                                "ListOrNone", "ListOrLists", "ByMember", "ByMemberOrNone"}));
-    words += " " + Call("Null", Word(frame.onNull, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
+    words += " " + Call("Null", Word(frame.nullValue, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
     words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Read", "Kept"}));
     words += " " + Call("Length", Word(frame.length, {"OneRecord", "PerRecord", "OneOfList", "Told", "None"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));

@@ -14,12 +14,14 @@ namespace {
 
 using json::Value;
 
-constexpr record::Name kOptionRows[] = {
-    {CFG_OPTION_NEED_RESTART, "NeedRestart"},        {CFG_OPTION_NEED_REBOOT, "NeedReboot"},
-    {CFG_OPTION_WRITE_FILE_ERROR, "WriteFileError"}, {CFG_OPTION_CAPS_NOT_SUPPORT, "CapsNotSupport"},
-    {CFG_OPTION_VALIDATE_FAILED, "ValidateFailed"},
-};
-constexpr record::NameTable kOptions = record::FoldedNames(kOptionRows).Unknown(0);
+NAMES(kOptions, record::kFolded.Unknown(0),
+      {
+          {CFG_OPTION_NEED_RESTART, "NeedRestart"},
+          {CFG_OPTION_NEED_REBOOT, "NeedReboot"},
+          {CFG_OPTION_WRITE_FILE_ERROR, "WriteFileError"},
+          {CFG_OPTION_CAPS_NOT_SUPPORT, "CapsNotSupport"},
+          {CFG_OPTION_VALIDATE_FAILED, "ValidateFailed"},
+      });
 constexpr std::uint32_t kMostOptions = 32;
 
 // Added, not joined: an option that a device repeats counts twice.

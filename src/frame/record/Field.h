@@ -182,7 +182,8 @@ struct Field {
     constexpr Field Absent(std::int32_t value) const {
         return With(With(*this, &Field::hasDefault, true), &Field::defaultValue, value);
     }
-    constexpr Field Flag(Slot slot) const { return With(*this, &Field::flag, slot); }
+    // A presence flag: reading sets it to whether the key was there, writing leaves the key out unless it is set.
+    constexpr Field SetsAndNeeds(Slot slot) const { return With(*this, &Field::flag, slot); }
     constexpr Field Count(Slot slot) const { return With(*this, &Field::count, slot); }
     // The count is stored as the text has it; slots end at the member's end all the same.
     constexpr Field CountUncapped(Slot slot) const {
@@ -206,11 +207,11 @@ struct Field {
     // of their own, whatever their names. An element's defaults are set when it is read, so that slots that no member
     // took stay clear. On writing the names go in order among the record's keys; a name that is a key hides the key.
     constexpr Field AmongKeys() const { return With(Keyed(), &Field::amongKeys, true); }
-    constexpr Field OnNull(Nulls rule) const { return With(*this, &Field::nulls, rule); }
+    constexpr Field NullElement(Nulls rule) const { return With(*this, &Field::nulls, rule); }
     // An element that its table does not take is treated as this rule treats a null.
-    constexpr Field OnRefused(Nulls rule) const { return With(*this, &Field::refused, rule); }
+    constexpr Field RefusedElement(Nulls rule) const { return With(*this, &Field::refused, rule); }
     // Read only when the member is set, by a key that stands before this one in key order.
-    constexpr Field ReadWith(Slot slot) const { return With(*this, &Field::readCondition, slot); }
+    constexpr Field ReadIf(Slot slot) const { return With(*this, &Field::readCondition, slot); }
     // Only so many bytes of a text are converted.
     constexpr Field FirstBytes(std::uint16_t bytes) const { return With(*this, &Field::firstBytes, bytes); }
     constexpr Field Only(OnlyType type) const { return With(*this, &Field::only, type); }
@@ -219,23 +220,25 @@ struct Field {
     constexpr Field Writable(bool does) const { return With(*this, &Field::writable, does); }
     constexpr Field WriteOnly() const { return With(*this, &Field::readable, false); }
     constexpr Field TrueAtOne() const { return With(*this, &Field::trueAtOne, true); }
-    constexpr Field Unless(std::int32_t value) const {
+    // The key is left out at this value.
+    constexpr Field WriteUnless(std::int32_t value) const {
         return With(With(*this, &Field::hasUnless, true), &Field::unless, value);
     }
-    constexpr Field UnlessNegative() const { return With(*this, &Field::notNegative, true); }
-    constexpr Field AtMost(std::int32_t value) const { return With(*this, &Field::atMost, value); }
+    constexpr Field WriteUnlessNegative() const { return With(*this, &Field::notNegative, true); }
+    // A larger number is written as this one.
+    constexpr Field WriteAtMost(std::int32_t value) const { return With(*this, &Field::atMost, value); }
     // Written only when the member is set (reading neither looks at it nor sets it).
-    constexpr Field WhenSet(Slot slot) const { return With(*this, &Field::condition, slot); }
+    constexpr Field WriteIf(Slot slot) const { return With(*this, &Field::condition, slot); }
     // Written only when the function says so.
-    constexpr Field When(bool (*test)(const std::byte* record)) const { return With(*this, &Field::when, test); }
+    constexpr Field WriteIf(bool (*test)(const std::byte* record)) const { return With(*this, &Field::when, test); }
     // A list of texts without a count of its own: the first empty one ends it on writing.
     constexpr Field UntilEmpty() const { return With(*this, &Field::untilEmpty, true); }
     // Left out by a call that writes without linkage.
-    constexpr Field WhenLinked() const { return With(*this, &Field::linkage, true); }
-    constexpr Field WhenEmpty(Empty rule) const { return With(*this, &Field::empty, rule); }
-    constexpr Field OnSkipped(Skipped rule) const { return With(*this, &Field::skipped, rule); }
+    constexpr Field WriteIfLinked() const { return With(*this, &Field::linkage, true); }
+    constexpr Field WriteEmpty(Empty rule) const { return With(*this, &Field::empty, rule); }
+    constexpr Field WriteSkipped(Skipped rule) const { return With(*this, &Field::skipped, rule); }
     // A nested record of which nothing is written leaves no key.
-    constexpr Field UnlessBare() const { return With(*this, &Field::unlessBare, true); }
+    constexpr Field WriteUnlessBare() const { return With(*this, &Field::unlessBare, true); }
     // The object that holds the key, "A" of "A/B", is written also when nothing is in it, as null.
     constexpr Field KeepsObject() const { return With(*this, &Field::keepsObject, true); }
     // As many elements are written as the caller's array has room for; the count is only what reading found.

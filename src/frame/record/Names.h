@@ -65,21 +65,38 @@ struct NameTable {
 };
 
 template <std::size_t N>
-constexpr NameTable FoldedNames(const Name (&rows)[N]) {
-    NameTable table;
-    table.rows = rows;
-    table.count = N;
-    table.countsUp = true;
+constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy) {
+    policy.rows = rows;
+    policy.count = N;
+    policy.countsUp = true;
     for (std::size_t i = 1; i < N; ++i)
-        table.countsUp = table.countsUp && rows[i].code == std::int64_t{rows[i - 1].code} + 1;
-    return table;
+        policy.countsUp = policy.countsUp && rows[i].code == std::int64_t{rows[i - 1].code} + 1;
+    return policy;
 }
 
+// How a name table compares; its other words follow.
+inline constexpr NameTable kFolded;
+inline constexpr NameTable kExact = With(NameTable{}, &NameTable::compare, Compare::Exact);
+
+// For a second table over the same rows.
+template <std::size_t N>
+constexpr NameTable FoldedNames(const Name (&rows)[N]) {
+    return NamesOver(rows, kFolded);
+}
 template <std::size_t N>
 constexpr NameTable ExactNames(const Name (&rows)[N]) {
-    NameTable table = FoldedNames(rows);
-    table.compare = Compare::Exact;
-    return table;
+    return NamesOver(rows, kExact);
 }
 
 } // namespace orrery::record
+
+// A name table in one statement:
+//
+//     NAMES(kSensorTypes, kFolded.Unknown(1).OutsideWrites("NO"),
+//           {
+//               {0, "NC"},
+//               {1, "NO"},
+//           });
+#define NAMES(table, policy, ...)                                                                                      \
+    inline constexpr ::orrery::record::Name table##Rows[] = __VA_ARGS__;                                               \
+    inline constexpr ::orrery::record::NameTable table = ::orrery::record::NamesOver(table##Rows, policy)

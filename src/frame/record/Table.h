@@ -1,10 +1,12 @@
 // A record table: all fields of one record, in record order, made when the library is compiled.
 //
 //     TABLE(kAlarmInput, CFG_ALARM_INPUT_INFO,
-//           FIELD(nChannel, "params/channel", Int).FromRoot(),
-//           FIELD(bEnable, "Enable", Bool),
-//           FIELD(szName, "Name", Text),
-//           FIELD(nSlot, "Slot", Int).Absent(-1).Unless(-1));
+//           {
+//               FIELD(nChannel, "params/channel", Int).FromRoot(),
+//               FIELD(bEnable, "Enable", Bool),
+//               FIELD(szName, "Name", Text),
+//               FIELD(nSlot, "Slot", Int).Absent(-1).WriteUnless(-1),
+//           });
 //
 // The rows must tile the record from its first byte to its last: a forgotten field does not compile.
 #pragma once
@@ -462,7 +464,7 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
 #define ORRERY_ROWS_OF(name, recordType, ...)                                                                          \
     struct RowsOf_##name {                                                                                             \
         using R = recordType;                                                                                          \
-        static constexpr ::orrery::record::Field rows[] = {__VA_ARGS__};                                               \
+        static constexpr ::orrery::record::Field rows[] = __VA_ARGS__;                                                 \
     }
 
 #include "frame/record/SharedRecords.h"

@@ -55,8 +55,15 @@ struct Versioned {
 constexpr std::uint32_t kSize = 32;
 static_assert(sizeof(Versioned) == kSize);
 
-TABLE(kVersioned, Versioned, FIELD(dwSize, nullptr, Size), FIELD(id, "Id", Int), FIELD(name, "Name", Text),
-      FIELD(tags, "Tags", Text), FIELD(level, "Level", Int), FIELD(point, "Point", Record(kPoint)));
+TABLE(kVersioned, Versioned,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(id, "Id", Int),
+          FIELD(name, "Name", Text),
+          FIELD(tags, "Tags", Text),
+          FIELD(level, "Level", Int),
+          FIELD(point, "Point", Record(kPoint)),
+      });
 
 const std::byte* Bytes(const Versioned& record) {
     return reinterpret_cast<const std::byte*>(&record);

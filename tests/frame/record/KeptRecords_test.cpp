@@ -25,7 +25,11 @@ struct Outer {
     Inner* pstuItems;
 };
 
-PART(kInner, Inner, FIELD(abDepth), FIELD(nDepth, "Depth", Int).Flag(AT(abDepth)));
+PART(kInner, Inner,
+     {
+         FIELD(abDepth),
+         FIELD(nDepth, "Depth", Int).SetsAndNeeds(AT(abDepth)),
+     });
 
 struct OuterRows {
     using R = Outer;
@@ -34,8 +38,8 @@ struct OuterRows {
         FIELD(abInner),
         FIELD(nCount),
         FIELD(nRoom),
-        FIELD(nName, "Name", Int).Flag(AT(abName)),
-        FIELD(stuInner, "Inner", Record(kInner)).Flag(AT(abInner)).UnlessBare(),
+        FIELD(nName, "Name", Int).SetsAndNeeds(AT(abName)),
+        FIELD(stuInner, "Inner", Record(kInner)).SetsAndNeeds(AT(abInner)).WriteUnlessBare(),
         FIELD(stuTwo, "Two", Record(kInner)),
         FIELD(pstuItems, "Items", Record(kInner)).Capacity(AT(nRoom)).Count(AT(nCount)).WritesCapacity(),
     };

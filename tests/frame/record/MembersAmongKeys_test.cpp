@@ -23,11 +23,20 @@ struct Switch {
     Port stuPorts[3];
 };
 
-PART(kPort, Port, FIELD(szName, nullptr, MemberName), FIELD(nSpeed, "Speed", Int),
-     FIELD(nRole, "Role", Int).Absent(-1).Unless(-1));
-PART(kSwitch, Switch, FIELD(nAge, "Age", Int), FIELD(szLabels, "Labels", Text).UntilEmpty(),
-     FIELD(nUplink, "Uplink/Port", Int), FIELD(nPortNum),
-     FIELD(stuPorts, "", Record(kPort)).AmongKeys().Count(AT(nPortNum)));
+PART(kPort, Port,
+     {
+         FIELD(szName, nullptr, MemberName),
+         FIELD(nSpeed, "Speed", Int),
+         FIELD(nRole, "Role", Int).Absent(-1).WriteUnless(-1),
+     });
+PART(kSwitch, Switch,
+     {
+         FIELD(nAge, "Age", Int),
+         FIELD(szLabels, "Labels", Text).UntilEmpty(),
+         FIELD(nUplink, "Uplink/Port", Int),
+         FIELD(nPortNum),
+         FIELD(stuPorts, "", Record(kPort)).AmongKeys().Count(AT(nPortNum)),
+     });
 
 constexpr ParseFrame kParse;
 constexpr PackFrame kPack;

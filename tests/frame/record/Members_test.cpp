@@ -11,7 +11,11 @@ struct Inner {
     std::int32_t level;
 };
 
-TABLE(kInner, Inner, FIELD(size, nullptr, Size), FIELD(level, "Level", Int).Absent(-1));
+TABLE(kInner, Inner,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(level, "Level", Int).Absent(-1),
+      });
 
 struct Outer {
     std::uint32_t size;
@@ -23,9 +27,16 @@ struct Outer {
     Inner* caller;
 };
 
-TABLE(kOuter, Outer, FIELD(size, nullptr, Size), FIELD(one, "One", Record(kInner)), FIELD(many, "Many", Record(kInner)),
-      FIELD(ratio, "Ratio", Real).Absent(3), FIELD(code, "Code", Int).Absent(-2), FIELD(room),
-      FIELD(caller, "Caller", Record(kInner)).Capacity(AT(room)));
+TABLE(kOuter, Outer,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(one, "One", Record(kInner)),
+          FIELD(many, "Many", Record(kInner)),
+          FIELD(ratio, "Ratio", Real).Absent(3),
+          FIELD(code, "Code", Int).Absent(-2),
+          FIELD(room),
+          FIELD(caller, "Caller", Record(kInner)).Capacity(AT(room)),
+      });
 
 TEST(Members, DefaultsAndSizeWordsOfAllLevels) {
     Inner callers{7, 7};
@@ -99,8 +110,15 @@ struct Keys {
     std::int32_t f;
 };
 
-TABLE(kKeys, Keys, FIELD(a, "z", Int), FIELD(b, "g/y", Int), FIELD(c, "g", Presence), FIELD(d, "B", Int),
-      FIELD(e, "g/x", Int).Always(), FIELD(f, "p/q", Int).FromRoot());
+TABLE(kKeys, Keys,
+      {
+          FIELD(a, "z", Int),
+          FIELD(b, "g/y", Int),
+          FIELD(c, "g", Presence),
+          FIELD(d, "B", Int),
+          FIELD(e, "g/x", Int).Always(),
+          FIELD(f, "p/q", Int).FromRoot(),
+      });
 
 TEST(Table, KeysStandInTheOrderOfTheirBytes) {
     ASSERT_EQ(kKeys.members.count, 4); // "B", "g" itself, the object "g", "z"

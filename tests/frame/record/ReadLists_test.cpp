@@ -33,14 +33,25 @@ struct Lists {
     std::int32_t matrix[2][3];
 };
 
-TABLE(kLists, Lists, FIELD(counted, "Counted", Int).Count(AT(count)), FIELD(count),
-      FIELD(uncapped, "Uncapped", Int).CountUncapped(AT(uncappedCount)), FIELD(uncappedCount),
-      FIELD(any, "Any", Int).Count(AT(anyCount)).Flag(AT(anyFlag)).AnyShape(), FIELD(anyCount), FIELD(anyFlag),
-      FIELD(exact, "Exact", Int).Flag(AT(exactFlag)).Exactly(), FIELD(exactFlag),
-      FIELD(hole, "Hole", Int).Count(AT(holeCount)).OnNull(Nulls::LeaveHole), FIELD(holeCount),
-      FIELD(close, "Close", Int).Count(AT(closeCount)).OnNull(Nulls::CloseUp), FIELD(closeCount),
-      FIELD(stop, "Stop", Int).Count(AT(stopCount)).OnNull(Nulls::Stop), FIELD(stopCount),
-      FIELD(matrix, "Matrix", Int));
+TABLE(kLists, Lists,
+      {
+          FIELD(counted, "Counted", Int).Count(AT(count)),
+          FIELD(count),
+          FIELD(uncapped, "Uncapped", Int).CountUncapped(AT(uncappedCount)),
+          FIELD(uncappedCount),
+          FIELD(any, "Any", Int).Count(AT(anyCount)).SetsAndNeeds(AT(anyFlag)).AnyShape(),
+          FIELD(anyCount),
+          FIELD(anyFlag),
+          FIELD(exact, "Exact", Int).SetsAndNeeds(AT(exactFlag)).Exactly(),
+          FIELD(exactFlag),
+          FIELD(hole, "Hole", Int).Count(AT(holeCount)).NullElement(Nulls::LeaveHole),
+          FIELD(holeCount),
+          FIELD(close, "Close", Int).Count(AT(closeCount)).NullElement(Nulls::CloseUp),
+          FIELD(closeCount),
+          FIELD(stop, "Stop", Int).Count(AT(stopCount)).NullElement(Nulls::Stop),
+          FIELD(stopCount),
+          FIELD(matrix, "Matrix", Int),
+      });
 
 TEST(Read, AListIsCutAtItsRoomAndCounted) {
     const auto r = Read(kLists, R"({ "Counted" : [ 1, "x", 3, 4 ], "Uncapped" : [ 1, 2, 3, 4, 5 ] })");
@@ -127,8 +138,13 @@ struct Masks {
     std::int32_t switches[4];
 };
 
-TABLE(kMasks, Masks, FIELD(mask, "Mask", BitMask).Flag(AT(maskFlag)), FIELD(maskFlag),
-      FIELD(loose, "Loose", BitMaskLoose).AnyShape(), FIELD(switches, "Switches", Switches));
+TABLE(kMasks, Masks,
+      {
+          FIELD(mask, "Mask", BitMask).SetsAndNeeds(AT(maskFlag)),
+          FIELD(maskFlag),
+          FIELD(loose, "Loose", BitMaskLoose).AnyShape(),
+          FIELD(switches, "Switches", Switches),
+      });
 
 TEST(Read, AMaskTakesNumbersOfItsBits) {
     const auto r = Read(kMasks, R"({ "Mask" : [ 0, 31, 32, 63, 64, -1, "x", 1.9 ] })");
@@ -170,9 +186,16 @@ struct Grouped {
     std::int32_t channel;
 };
 
-TABLE(kGrouped, Grouped, FIELD(plain, "a", Int), FIELD(inner, "g/b", Int), FIELD(deep, "g/h/c", Int),
-      FIELD(isThere, "g", Presence), FIELD(always, "g/z", Bool).Always(),
-      FIELD(channel, "params/channel", Int).FromRoot(), FIELD(plain, "A", Int).Alias());
+TABLE(kGrouped, Grouped,
+      {
+          FIELD(plain, "a", Int),
+          FIELD(inner, "g/b", Int),
+          FIELD(deep, "g/h/c", Int),
+          FIELD(isThere, "g", Presence),
+          FIELD(always, "g/z", Bool).Always(),
+          FIELD(channel, "params/channel", Int).FromRoot(),
+          FIELD(plain, "A", Int).Alias(),
+      });
 
 TEST(Read, KeysInsideInnerObjects) {
     const auto r = Read(kGrouped, R"({ "a" : 1, "g" : { "b" : 2, "h" : { "c" : 3 }, "z" : 1 } })");
@@ -211,7 +234,11 @@ struct Self {
     std::int32_t key;
 };
 
-TABLE(kSelf, Self, FIELD(number, "", Int).Only(OnlyType::Integer), FIELD(key, "Key", Int));
+TABLE(kSelf, Self,
+      {
+          FIELD(number, "", Int).Only(OnlyType::Integer),
+          FIELD(key, "Key", Int),
+      });
 
 TEST(Read, AFieldThatIsTheValueItself) {
     EXPECT_EQ(Read(kSelf, "12").number, 12);
@@ -227,9 +254,26 @@ struct Pair {
     char second[4];
 };
 
-TABLE(kTuple, Pair, FIELD(size, nullptr, Size), FIELD(first, "", Int), FIELD(second, "", Text)).As(Shape::Tuple);
-TABLE(kLoose, Pair, FIELD(size, nullptr, Size), FIELD(first, "", Int), FIELD(second, "", Text)).As(Shape::LooseTuple);
-TABLE(kGuarded, Pair, FIELD(size, nullptr, Size), FIELD(first, "", Int), FIELD(second, "", Text))
+TABLE(kTuple, Pair,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(first, "", Int),
+          FIELD(second, "", Text),
+      })
+    .As(Shape::Tuple);
+TABLE(kLoose, Pair,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(first, "", Int),
+          FIELD(second, "", Text),
+      })
+    .As(Shape::LooseTuple);
+TABLE(kGuarded, Pair,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(first, "", Int),
+          FIELD(second, "", Text),
+      })
     .As(Shape::Tuple)
     .Guarded();
 
@@ -280,14 +324,22 @@ struct Item {
     std::int32_t level;
 };
 
-TABLE(kItem, Item, FIELD(id, "Id", Int), FIELD(level, "Level", Int).Absent(-1));
+TABLE(kItem, Item,
+      {
+          FIELD(id, "Id", Int),
+          FIELD(level, "Level", Int).Absent(-1),
+      });
 
 struct Named {
     char name[8];
     std::int32_t id;
 };
 
-TABLE(kNamed, Named, FIELD(name, nullptr, MemberName), FIELD(id, "Id", Int));
+TABLE(kNamed, Named,
+      {
+          FIELD(name, nullptr, MemberName),
+          FIELD(id, "Id", Int),
+      });
 
 struct Nest {
     Item one;
@@ -308,10 +360,20 @@ void Sum(const json::Value& value, std::byte* record, ReadCall& call) {
     if (value["Bad"].asBool()) call.refused = true;
 }
 
-TABLE(kNest, Nest, FIELD(one, "One", Record(kItem)), FIELD(many, "Many", Record(kItem)).Count(AT(manyCount)),
-      FIELD(manyCount), FIELD(named, "Named", Record(kNamed)).Count(AT(namedCount)).Keyed(), FIELD(namedCount),
-      FIELD(room), FIELD(caller, "Caller", Record(kItem)).Capacity(AT(room)).Count(AT(used)), FIELD(used),
-      FIELD(zeroedRoom), FIELD(zeroed, "Zeroed", Record(kItem)).Capacity(AT(zeroedRoom)).Zeroed(), FIELD(sum))
+TABLE(kNest, Nest,
+      {
+          FIELD(one, "One", Record(kItem)),
+          FIELD(many, "Many", Record(kItem)).Count(AT(manyCount)),
+          FIELD(manyCount),
+          FIELD(named, "Named", Record(kNamed)).Count(AT(namedCount)).Keyed(),
+          FIELD(namedCount),
+          FIELD(room),
+          FIELD(caller, "Caller", Record(kItem)).Capacity(AT(room)).Count(AT(used)),
+          FIELD(used),
+          FIELD(zeroedRoom),
+          FIELD(zeroed, "Zeroed", Record(kItem)).Capacity(AT(zeroedRoom)).Zeroed(),
+          FIELD(sum),
+      })
     .AfterRead(Sum);
 
 TEST(Read, DefaultsReachNestedRecords) {
@@ -403,8 +465,16 @@ void ReadSum(const Field& field, const json::Value& value, std::byte* record, Re
 
 constexpr CustomCodec kSum{ReadSum, nullptr};
 
-TABLE(kOwn, Own, FIELD(sum, "Sum", Custom(kSum)), FIELD(runs));
-TABLE(kOwnAlways, Own, FIELD(sum, "Sum", Custom(kSum)).Always(), FIELD(runs));
+TABLE(kOwn, Own,
+      {
+          FIELD(sum, "Sum", Custom(kSum)),
+          FIELD(runs),
+      });
+TABLE(kOwnAlways, Own,
+      {
+          FIELD(sum, "Sum", Custom(kSum)).Always(),
+          FIELD(runs),
+      });
 
 TEST(Read, AFunctionOfTheRowsOwn) {
     EXPECT_EQ(Read(kOwn, R"({ "Sum" : [ 1, 2, 4 ] })").sum, 7);
@@ -427,9 +497,17 @@ struct Times {
     std::int32_t split;
 };
 
-TABLE(kTimes, Times, FIELD(section, "Section", TimeSection), FIELD(week, "Week", Schedule),
-      FIELD(list, "List", SectionList), FIELD(time, "Time", NetTime), FIELD(timeEx, "TimeEx", NetTimeEx),
-      FIELD(clock, "Clock", ClockTime), FIELD(date, "Date", Date), FIELD(split, "Split", SplitMode));
+TABLE(kTimes, Times,
+      {
+          FIELD(section, "Section", TimeSection),
+          FIELD(week, "Week", Schedule),
+          FIELD(list, "List", SectionList),
+          FIELD(time, "Time", NetTime),
+          FIELD(timeEx, "TimeEx", NetTimeEx),
+          FIELD(clock, "Clock", ClockTime),
+          FIELD(date, "Date", Date),
+          FIELD(split, "Split", SplitMode),
+      });
 
 TEST(Read, TimesAndSplits) {
     const auto r = Read(kTimes, R"({ "Section" : "1 02:03:04-05:06:07", "Week" : [ [ "1 1:1:1-2:2:2" ], [ "x" ] ],

@@ -26,15 +26,45 @@ struct Numbers {
     double f64;
 };
 
-TABLE(kInts, Numbers, FIELD(i8, "i8", Int), FIELD(u8, "u8", Int), FIELD(i16, "i16", Int), FIELD(u16, "u16", Int),
-      FIELD(i32, "i32", Int), FIELD(u32, "u32", Int), FIELD(i64, "i64", Int), FIELD(u64, "u64", Int),
-      FIELD(f32, "f32", Int), FIELD(f64, "f64", Int));
-TABLE(kUInts, Numbers, FIELD(i8, "i8", UInt), FIELD(u8, "u8", UInt), FIELD(i16, "i16", UInt), FIELD(u16, "u16", UInt),
-      FIELD(i32, "i32", UInt), FIELD(u32, "u32", UInt), FIELD(i64, "i64", UInt), FIELD(u64, "u64", UInt),
-      FIELD(f32, "f32", UInt), FIELD(f64, "f64", UInt));
-TABLE(kBools, Numbers, FIELD(i8, "i8", Bool), FIELD(u8, "u8", Bool), FIELD(i16, "i16", Bool), FIELD(u16, "u16", Bool),
-      FIELD(i32, "i32", Bool), FIELD(u32, "u32", Bool), FIELD(i64, "i64", Bool), FIELD(u64, "u64", Bool), FIELD(f32),
-      FIELD(f64, "f64", Real));
+TABLE(kInts, Numbers,
+      {
+          FIELD(i8, "i8", Int),
+          FIELD(u8, "u8", Int),
+          FIELD(i16, "i16", Int),
+          FIELD(u16, "u16", Int),
+          FIELD(i32, "i32", Int),
+          FIELD(u32, "u32", Int),
+          FIELD(i64, "i64", Int),
+          FIELD(u64, "u64", Int),
+          FIELD(f32, "f32", Int),
+          FIELD(f64, "f64", Int),
+      });
+TABLE(kUInts, Numbers,
+      {
+          FIELD(i8, "i8", UInt),
+          FIELD(u8, "u8", UInt),
+          FIELD(i16, "i16", UInt),
+          FIELD(u16, "u16", UInt),
+          FIELD(i32, "i32", UInt),
+          FIELD(u32, "u32", UInt),
+          FIELD(i64, "i64", UInt),
+          FIELD(u64, "u64", UInt),
+          FIELD(f32, "f32", UInt),
+          FIELD(f64, "f64", UInt),
+      });
+TABLE(kBools, Numbers,
+      {
+          FIELD(i8, "i8", Bool),
+          FIELD(u8, "u8", Bool),
+          FIELD(i16, "i16", Bool),
+          FIELD(u16, "u16", Bool),
+          FIELD(i32, "i32", Bool),
+          FIELD(u32, "u32", Bool),
+          FIELD(i64, "i64", Bool),
+          FIELD(u64, "u64", Bool),
+          FIELD(f32),
+          FIELD(f64, "f64", Real),
+      });
 
 TEST(Read, IntsAreCutToTheFieldsWidth) {
     const auto r = Read(kInts, R"({ "i8" : 300, "u8" : -1, "i16" : 70000, "u16" : -2, "i32" : -7, "u32" : -1,
@@ -145,17 +175,28 @@ struct Given {
     std::int32_t absentEach[2][2];
 };
 
-constexpr Name kGivenRows[] = {{3, "three"}};
-constexpr NameTable kGiven3 = FoldedNames(kGivenRows).Unknown(-1);
+NAMES(kGiven3, kFolded.Unknown(-1),
+      {
+          {3, "three"},
+      });
 
-TABLE(kGiven, Given, FIELD(always, "Always", Bool).Always().Flag(AT(alwaysFlag)), FIELD(alwaysFlag),
-      FIELD(absent, "Absent", Int).Absent(-1).Flag(AT(absentFlag)), FIELD(absentFlag),
-      FIELD(flagged, "Flagged", Int).Flag(AT(flag64)), FIELD(flag64), FIELD(present, "Present", Presence),
-      FIELD(onlyText, "OnlyText", Names(kGiven3)).Only(OnlyType::String),
-      FIELD(onlyBool, "OnlyBool", Bool).Only(OnlyType::Bool),
-      FIELD(onlyInteger, "OnlyInteger", Int).Only(OnlyType::Integer), FIELD(writeOnly, "WriteOnly", Int).WriteOnly(),
-      FIELD(readOnly, "ReadOnly", Int).ReadOnly(), FIELD(absentReal, "AbsentReal", Real).Absent(-1),
-      FIELD(absentEach, "AbsentEach", Int).Absent(-2));
+TABLE(kGiven, Given,
+      {
+          FIELD(always, "Always", Bool).Always().SetsAndNeeds(AT(alwaysFlag)),
+          FIELD(alwaysFlag),
+          FIELD(absent, "Absent", Int).Absent(-1).SetsAndNeeds(AT(absentFlag)),
+          FIELD(absentFlag),
+          FIELD(flagged, "Flagged", Int).SetsAndNeeds(AT(flag64)),
+          FIELD(flag64),
+          FIELD(present, "Present", Presence),
+          FIELD(onlyText, "OnlyText", Names(kGiven3)).Only(OnlyType::String),
+          FIELD(onlyBool, "OnlyBool", Bool).Only(OnlyType::Bool),
+          FIELD(onlyInteger, "OnlyInteger", Int).Only(OnlyType::Integer),
+          FIELD(writeOnly, "WriteOnly", Int).WriteOnly(),
+          FIELD(readOnly, "ReadOnly", Int).ReadOnly(),
+          FIELD(absentReal, "AbsentReal", Real).Absent(-1),
+          FIELD(absentEach, "AbsentEach", Int).Absent(-2),
+      });
 
 TEST(Read, NothingGiven) {
     const auto r = Read(kGiven, "{ }");
@@ -226,12 +267,21 @@ struct Texts {
     std::int32_t zero;
 };
 
-constexpr Name kLeavingRows[] = {{1, "one"}, {0, "zero"}};
-constexpr NameTable kLeaving = FoldedNames(kLeavingRows).UnknownLeaves();
+NAMES(kLeaving, kFolded.UnknownLeaves(),
+      {
+          {1, "one"},
+          {0, "zero"},
+      });
 
-TABLE(kTexts, Texts, FIELD(text, "Text", Text), FIELD(raw, "Raw", RawText),
-      FIELD(list, "List", Text).Count(AT(listCount)), FIELD(listCount), FIELD(leaves, "Leaves", Names(kLeaving)),
-      FIELD(zero, "Zero", Names(kGiven3)));
+TABLE(kTexts, Texts,
+      {
+          FIELD(text, "Text", Text),
+          FIELD(raw, "Raw", RawText),
+          FIELD(list, "List", Text).Count(AT(listCount)),
+          FIELD(listCount),
+          FIELD(leaves, "Leaves", Names(kLeaving)),
+          FIELD(zero, "Zero", Names(kGiven3)),
+      });
 
 TEST(Read, TextsAreCutAndTerminated) {
     const auto r = Read(kTexts, R"({ "Text" : "abcdef", "Raw" : "abcd", "List" : [ "x", "wxyz", "no" ] })");

@@ -13,14 +13,22 @@ namespace {
 using test::Document;
 
 enum : std::int32_t { LOW = 1, HIGH = 2 };
-constexpr Name kLevelRows[] = {{LOW, "Low"}, {HIGH, "High"}};
-constexpr NameTable kLevels = ExactNames(kLevelRows);
+NAMES(kLevels, kExact,
+      {
+          {LOW, "Low"},
+          {HIGH, "High"},
+      });
 
 struct PAIR {
     std::int32_t a;
     std::int32_t b;
 };
-PART(kLongPair, PAIR, FIELD(a, "", Int), FIELD(b, "", Int)).As(Shape::LongTuple);
+PART(kLongPair, PAIR,
+     {
+         FIELD(a, "", Int),
+         FIELD(b, "", Int),
+     })
+    .As(Shape::LongTuple);
 
 struct LISTS {
     std::int32_t holeNum;
@@ -39,14 +47,24 @@ struct LISTS {
     std::int32_t level;
     std::int32_t link;
 };
-PART(kLists, LISTS, FIELD(holeNum),
-     FIELD(holes, "Holes", Record(kLongPair)).Count(AT(holeNum)).OnRefused(Nulls::LeaveHole), FIELD(closedNum),
-     FIELD(closed, "Closed", Record(kLongPair)).Count(AT(closedNum)).OnRefused(Nulls::CloseUp), FIELD(stoppedNum),
-     FIELD(stopped, "Stopped", Record(kLongPair)).Count(AT(stoppedNum)).OnRefused(Nulls::Stop), FIELD(countedNum),
-     FIELD(counted, "Counted", Record(kLongPair)).Count(AT(countedNum)), FIELD(one, "One", Record(kLongPair)),
-     FIELD(hasA), FIELD(switchA, "A", Bool).Flag(AT(hasA)), FIELD(b, "B", Int).ReadWith(AT(hasA)),
-     FIELD(text, "Text", Text).FirstBytes(5), FIELD(level, "Level", Names(kLevels)).AtMost(HIGH),
-     FIELD(link, "Link", Int).WhenLinked());
+PART(kLists, LISTS,
+     {
+         FIELD(holeNum),
+         FIELD(holes, "Holes", Record(kLongPair)).Count(AT(holeNum)).RefusedElement(Nulls::LeaveHole),
+         FIELD(closedNum),
+         FIELD(closed, "Closed", Record(kLongPair)).Count(AT(closedNum)).RefusedElement(Nulls::CloseUp),
+         FIELD(stoppedNum),
+         FIELD(stopped, "Stopped", Record(kLongPair)).Count(AT(stoppedNum)).RefusedElement(Nulls::Stop),
+         FIELD(countedNum),
+         FIELD(counted, "Counted", Record(kLongPair)).Count(AT(countedNum)),
+         FIELD(one, "One", Record(kLongPair)),
+         FIELD(hasA),
+         FIELD(switchA, "A", Bool).SetsAndNeeds(AT(hasA)),
+         FIELD(b, "B", Int).ReadIf(AT(hasA)),
+         FIELD(text, "Text", Text).FirstBytes(5),
+         FIELD(level, "Level", Names(kLevels)).WriteAtMost(HIGH),
+         FIELD(link, "Link", Int).WriteIfLinked(),
+     });
 
 LISTS Read(const std::string& json) {
     Document document(json);

@@ -32,9 +32,16 @@ struct TAKER {
     std::int32_t last;
     std::uint8_t small;
 };
-PART(kTaker, TAKER, FIELD(first, SUPPLIED(CARRIED, first)), FIELD(second, SUPPLIED(CARRIED, second)),
-     FIELD(own, "own", Int), FIELD(text, SUPPLIED(CARRIED, text)), FIELD(last, SUPPLIED(CARRIED, last)),
-     FIELD(small, SUPPLIED(CARRIED, small)), FIELD(second, "second", Int).Alias());
+PART(kTaker, TAKER,
+     {
+         FIELD(first, SUPPLIED(CARRIED, first)),
+         FIELD(second, SUPPLIED(CARRIED, second)),
+         FIELD(own, "own", Int),
+         FIELD(text, SUPPLIED(CARRIED, text)),
+         FIELD(last, SUPPLIED(CARRIED, last)),
+         FIELD(small, SUPPLIED(CARRIED, small)),
+         FIELD(second, "second", Int).Alias(),
+     });
 
 TAKER Take(const std::string& json, const CARRIED* carried) {
     Document document(json);
@@ -89,9 +96,19 @@ struct BUS {
     SEAT driver;
     std::int32_t corners[2];
 };
-PART(kSeat, SEAT, FIELD(enabled).Absent(1), FIELD(number, "No", Int)).StartsWhenRead();
-PART(kBus, BUS, FIELD(seatNum), FIELD(seats, "Seats", Record(kSeat)).Owned().Count(AT(seatNum)),
-     FIELD(driver, "Driver", Record(kSeat)), FIELD(corners, "Corners", Int).AtLeast(2));
+PART(kSeat, SEAT,
+     {
+         FIELD(enabled).Absent(1),
+         FIELD(number, "No", Int),
+     })
+    .StartsWhenRead();
+PART(kBus, BUS,
+     {
+         FIELD(seatNum),
+         FIELD(seats, "Seats", Record(kSeat)).Owned().Count(AT(seatNum)),
+         FIELD(driver, "Driver", Record(kSeat)),
+         FIELD(corners, "Corners", Int).AtLeast(2),
+     });
 
 using KeptBus = test::KeptRecord<BUS>;
 
@@ -136,7 +153,11 @@ struct SEEN {
     char full[4];
     NET_TIME moment;
 };
-PART(kSeen, SEEN, FIELD(full, "full", FullText), FIELD(moment, "at", UtcTime));
+PART(kSeen, SEEN,
+     {
+         FIELD(full, "full", FullText),
+         FIELD(moment, "at", UtcTime),
+     });
 
 TEST(FullText, MayTakeTheLastByteToo) {
     const SEEN fits = Read(kSeen, R"({ "full" : "abcd" })");
@@ -178,10 +199,21 @@ struct KEYS {
     std::int32_t v0, v1, v2, v3, v4, v5, v6, v7, v8;
     std::int32_t always0, always1, always2;
 };
-PART(kKeys, KEYS, FIELD(v0, "a", Int), FIELD(v1, "ab", Int), FIELD(v2, "abcdefgh", Int), FIELD(v3, "abcdefghi", Int),
-     FIELD(v4, "abcdefghijklmnop", Int), FIELD(v5, "abcdefghijklmnopq", Int), FIELD(v6, "abcdefghijklmnopr", Int),
-     FIELD(v7, "abx", Int), FIELD(v8, "z", Int), FIELD(always0, "abcd", Int).Always(),
-     FIELD(always1, "abcdefghijklmnopqr", Int).Always(), FIELD(always2, "zz", Int).Always());
+PART(kKeys, KEYS,
+     {
+         FIELD(v0, "a", Int),
+         FIELD(v1, "ab", Int),
+         FIELD(v2, "abcdefgh", Int),
+         FIELD(v3, "abcdefghi", Int),
+         FIELD(v4, "abcdefghijklmnop", Int),
+         FIELD(v5, "abcdefghijklmnopq", Int),
+         FIELD(v6, "abcdefghijklmnopr", Int),
+         FIELD(v7, "abx", Int),
+         FIELD(v8, "z", Int),
+         FIELD(always0, "abcd", Int).Always(),
+         FIELD(always1, "abcdefghijklmnopqr", Int).Always(),
+         FIELD(always2, "zz", Int).Always(),
+     });
 constexpr const char* kTexts[] = {
     "a", "ab", "abcdefgh", "abcdefghi", "abcdefghijklmnop", "abcdefghijklmnopq", "abcdefghijklmnopr", "abx", "z"};
 

@@ -22,12 +22,28 @@ struct Numbers {
     double f64;
 };
 
-TABLE(kNumbers, Numbers, FIELD(i8, "i8", Int), FIELD(u8, "u8", UInt), FIELD(i16, "i16", Bool), FIELD(i32, "i32", Int),
-      FIELD(u32, "u32", UInt), FIELD(i64, "i64", Int), FIELD(f32, "f32", Real), FIELD(f64, "f64", Real));
-TABLE(kCrossed, Numbers, FIELD(i8, "i8", Int).WrittenAs(Bool), FIELD(u8, "u8", UInt).WrittenAs(Int),
-      FIELD(i16, "i16", Bool).WrittenAs(Int), FIELD(i32, "i32", Int).WrittenAs(UInt),
-      FIELD(u32, "u32", UInt).WrittenAs(Int), FIELD(i64, "i64", Int).WrittenAs(Bool),
-      FIELD(f32, "f32", Int).WrittenAs(Real), FIELD(f64, "f64", Real).WrittenAs(Int));
+TABLE(kNumbers, Numbers,
+      {
+          FIELD(i8, "i8", Int),
+          FIELD(u8, "u8", UInt),
+          FIELD(i16, "i16", Bool),
+          FIELD(i32, "i32", Int),
+          FIELD(u32, "u32", UInt),
+          FIELD(i64, "i64", Int),
+          FIELD(f32, "f32", Real),
+          FIELD(f64, "f64", Real),
+      });
+TABLE(kCrossed, Numbers,
+      {
+          FIELD(i8, "i8", Int).WrittenAs(Bool),
+          FIELD(u8, "u8", UInt).WrittenAs(Int),
+          FIELD(i16, "i16", Bool).WrittenAs(Int),
+          FIELD(i32, "i32", Int).WrittenAs(UInt),
+          FIELD(u32, "u32", UInt).WrittenAs(Int),
+          FIELD(i64, "i64", Int).WrittenAs(Bool),
+          FIELD(f32, "f32", Int).WrittenAs(Real),
+          FIELD(f64, "f64", Real).WrittenAs(Int),
+      });
 
 TEST(Write, NumbersInKeyOrder) {
     const Numbers r{-128, 255, -3, INT32_MIN, UINT32_MAX, -5, 0.5f, 1.0};
@@ -81,14 +97,24 @@ bool IsEven(const std::byte* record) {
     return MEMBER(record, Optional, tested) % 2 == 0;
 }
 
-TABLE(kOptional, Optional, FIELD(flagged, "Flagged", Int).Flag(AT(flag)), FIELD(flag),
-      FIELD(conditional, "Conditional", Int).WhenSet(AT(condition)), FIELD(condition),
-      FIELD(tested, "Tested", Int).When(IsEven), FIELD(unless, "Unless", Int).Unless(-1),
-      FIELD(unlessReal, "UnlessReal", Real).Unless(0), FIELD(notNegative, "NotNegative", Int).UnlessNegative(),
-      FIELD(notNegativeReal, "NotNegativeReal", Real).UnlessNegative(), FIELD(atMost, "AtMost", Int).AtMost(32),
-      FIELD(atMostUnsigned, "AtMostUnsigned", UInt).AtMost(32), FIELD(atOne, "AtOne", Bool).TrueAtOne(),
-      FIELD(readOnly, "ReadOnly", Int).ReadOnly(), FIELD(presence, "Presence", Presence),
-      FIELD(writeOnly, "WriteOnly", Int).WriteOnly());
+TABLE(kOptional, Optional,
+      {
+          FIELD(flagged, "Flagged", Int).SetsAndNeeds(AT(flag)),
+          FIELD(flag),
+          FIELD(conditional, "Conditional", Int).WriteIf(AT(condition)),
+          FIELD(condition),
+          FIELD(tested, "Tested", Int).WriteIf(IsEven),
+          FIELD(unless, "Unless", Int).WriteUnless(-1),
+          FIELD(unlessReal, "UnlessReal", Real).WriteUnless(0),
+          FIELD(notNegative, "NotNegative", Int).WriteUnlessNegative(),
+          FIELD(notNegativeReal, "NotNegativeReal", Real).WriteUnlessNegative(),
+          FIELD(atMost, "AtMost", Int).WriteAtMost(32),
+          FIELD(atMostUnsigned, "AtMostUnsigned", UInt).WriteAtMost(32),
+          FIELD(atOne, "AtOne", Bool).TrueAtOne(),
+          FIELD(readOnly, "ReadOnly", Int).ReadOnly(),
+          FIELD(presence, "Presence", Presence),
+          FIELD(writeOnly, "WriteOnly", Int).WriteOnly(),
+      });
 
 TEST(Write, WhatIsLeftOut) {
     Optional r{};
@@ -130,14 +156,24 @@ struct Texts {
     std::int32_t count;
 };
 
-constexpr Name kNameRows[] = {{0, "zero"}, {1, "one"}};
-constexpr NameTable kNames = FoldedNames(kNameRows);
+NAMES(kNames, kFolded,
+      {
+          {0, "zero"},
+          {1, "one"},
+      });
 constexpr NameTable kOrNull = kNames.OutsideWritesNull();
 constexpr NameTable kOrOther = kNames.OutsideWrites("other");
 
-TABLE(kTexts, Texts, FIELD(text, "Text", Text), FIELD(raw, "Raw", RawText), FIELD(noKey, "NoKey", Names(kNames)),
-      FIELD(null, "Null", Names(kOrNull)), FIELD(text3, "Text3", Names(kOrOther)),
-      FIELD(names, "Names", Names(kNames)).Count(AT(count)), FIELD(count));
+TABLE(kTexts, Texts,
+      {
+          FIELD(text, "Text", Text),
+          FIELD(raw, "Raw", RawText),
+          FIELD(noKey, "NoKey", Names(kNames)),
+          FIELD(null, "Null", Names(kOrNull)),
+          FIELD(text3, "Text3", Names(kOrOther)),
+          FIELD(names, "Names", Names(kNames)).Count(AT(count)),
+          FIELD(count),
+      });
 
 TEST(Write, NamesAndCodesOutsideTheirTable) {
     Texts r{{}, {}, 1, 0, 1, {0, 5, 1}, 3};
@@ -170,10 +206,19 @@ struct Lists {
     std::int32_t rowCount;
 };
 
-TABLE(kLists, Lists, FIELD(plain, "Plain", Int), FIELD(noKey, "NoKey", Int).Count(AT(noKeyCount)), FIELD(noKeyCount),
-      FIELD(array, "Array", Int).Count(AT(arrayCount)).WhenEmpty(Empty::Array), FIELD(arrayCount),
-      FIELD(null, "Null", Int).CountUncapped(AT(nullCount)).WhenEmpty(Empty::Null), FIELD(nullCount),
-      FIELD(matrix, "Matrix", Int), FIELD(rows, "Rows", Int).Count(AT(rowCount)), FIELD(rowCount));
+TABLE(kLists, Lists,
+      {
+          FIELD(plain, "Plain", Int),
+          FIELD(noKey, "NoKey", Int).Count(AT(noKeyCount)),
+          FIELD(noKeyCount),
+          FIELD(array, "Array", Int).Count(AT(arrayCount)).WriteEmpty(Empty::Array),
+          FIELD(arrayCount),
+          FIELD(null, "Null", Int).CountUncapped(AT(nullCount)).WriteEmpty(Empty::Null),
+          FIELD(nullCount),
+          FIELD(matrix, "Matrix", Int),
+          FIELD(rows, "Rows", Int).Count(AT(rowCount)),
+          FIELD(rowCount),
+      });
 
 TEST(Write, ListsByTheirCounts) {
     const Lists r{{1, 2}, {3, 4}, 1, {5, 6}, 2, {7, 8}, 1, {{1, 2}, {3, 4}}, {{5, 6}, {7, 8}}, 1};
@@ -206,8 +251,13 @@ struct Masks {
     std::int32_t switches[3];
 };
 
-TABLE(kMasks, Masks, FIELD(noKey, "NoKey", BitMask), FIELD(null, "Null", BitMaskLoose).WhenEmpty(Empty::Null),
-      FIELD(array, "Array", BitMask).WhenEmpty(Empty::Array), FIELD(switches, "Switches", Switches));
+TABLE(kMasks, Masks,
+      {
+          FIELD(noKey, "NoKey", BitMask),
+          FIELD(null, "Null", BitMaskLoose).WriteEmpty(Empty::Null),
+          FIELD(array, "Array", BitMask).WriteEmpty(Empty::Array),
+          FIELD(switches, "Switches", Switches),
+      });
 
 TEST(Write, MasksAscend) {
     const Masks r{{0x80000001u, 1}, {0, 0x80000000u}, {2, 0}, {-1, 0, 2}};
@@ -229,7 +279,11 @@ bool IsPositive(const std::byte* record) {
     return MEMBER(record, Item, id) > 0;
 }
 
-TABLE(kItem, Item, FIELD(id, "Id", Int).Unless(99)).Writes(IsPositive);
+TABLE(kItem, Item,
+      {
+          FIELD(id, "Id", Int).WriteUnless(99),
+      })
+    .Writes(IsPositive);
 
 struct Items {
     Item stays[3];
@@ -241,10 +295,16 @@ struct Items {
     Item one;
 };
 
-TABLE(kItems, Items, FIELD(stays, "Stays", Record(kItem)).Count(AT(staysCount)), FIELD(staysCount),
-      FIELD(hole, "Hole", Record(kItem)).Count(AT(holeCount)).OnSkipped(Skipped::Hole), FIELD(holeCount),
-      FIELD(closes, "Closes", Record(kItem)).Count(AT(closesCount)).OnSkipped(Skipped::ClosesUp), FIELD(closesCount),
-      FIELD(one, "One", Record(kItem)));
+TABLE(kItems, Items,
+      {
+          FIELD(stays, "Stays", Record(kItem)).Count(AT(staysCount)),
+          FIELD(staysCount),
+          FIELD(hole, "Hole", Record(kItem)).Count(AT(holeCount)).WriteSkipped(Skipped::Hole),
+          FIELD(holeCount),
+          FIELD(closes, "Closes", Record(kItem)).Count(AT(closesCount)).WriteSkipped(Skipped::ClosesUp),
+          FIELD(closesCount),
+          FIELD(one, "One", Record(kItem)),
+      });
 
 TEST(Write, ElementsThatTheirTableHoldsBack) {
     const Items r{{{0}, {1}, {0}}, 3, {{0}, {1}, {0}, {0}}, 4, {{0}, {1}, {0}, {2}}, 4, {0}};
@@ -267,16 +327,27 @@ struct Named {
     std::int32_t id;
 };
 
-TABLE(kNamed, Named, FIELD(name, nullptr, MemberName), FIELD(id, "Id", Int));
+TABLE(kNamed, Named,
+      {
+          FIELD(name, nullptr, MemberName),
+          FIELD(id, "Id", Int),
+      });
 
 struct Keyed {
     Named named[4];
     std::int32_t count;
 };
 
-TABLE(kKeyed, Keyed, FIELD(named, "Named", Record(kNamed)).Count(AT(count)).Keyed(), FIELD(count));
-TABLE(kKeyedEmpty, Keyed, FIELD(named, "Named", Record(kNamed)).Count(AT(count)).Keyed().WhenEmpty(Empty::Array),
-      FIELD(count));
+TABLE(kKeyed, Keyed,
+      {
+          FIELD(named, "Named", Record(kNamed)).Count(AT(count)).Keyed(),
+          FIELD(count),
+      });
+TABLE(kKeyedEmpty, Keyed,
+      {
+          FIELD(named, "Named", Record(kNamed)).Count(AT(count)).Keyed().WriteEmpty(Empty::Array),
+          FIELD(count),
+      });
 
 TEST(Write, RecordsUnderTheirNamesInTheOrderOfTheNames) {
     const Keyed r{{{"b", 1}, {"a", 2}, {"b", 3}, {{'l', 'o', 'n', 'g'}, 4}}, 9};
@@ -300,10 +371,17 @@ struct Pair {
     std::int32_t second;
 };
 
-constexpr Name kPairRows[] = {{1, "one"}};
-constexpr NameTable kPairNames = FoldedNames(kPairRows);
+NAMES(kPairNames, kFolded,
+      {
+          {1, "one"},
+      });
 
-TABLE(kTuple, Pair, FIELD(size, nullptr, Size), FIELD(first, "", Int), FIELD(second, "", Names(kPairNames)))
+TABLE(kTuple, Pair,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(first, "", Int),
+          FIELD(second, "", Names(kPairNames)),
+      })
     .As(Shape::Tuple);
 
 TEST(Write, Tuples) {
@@ -311,7 +389,12 @@ TEST(Write, Tuples) {
     EXPECT_EQ(Write(kTuple, {0, 5, 2}), "[ 5, null ]");
 }
 
-TABLE(kGuarded, Pair, FIELD(size, nullptr, Size), FIELD(first, "", Int), FIELD(second, "", Int))
+TABLE(kGuarded, Pair,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(first, "", Int),
+          FIELD(second, "", Int),
+      })
     .As(Shape::Tuple)
     .Guarded();
 
@@ -320,7 +403,11 @@ struct Guards {
     Pair many[2];
 };
 
-TABLE(kGuards, Guards, FIELD(one, "One", Record(kGuarded)), FIELD(many, "Many", Record(kGuarded)));
+TABLE(kGuards, Guards,
+      {
+          FIELD(one, "One", Record(kGuarded)),
+          FIELD(many, "Many", Record(kGuarded)),
+      });
 
 TEST(Write, AGuardedRecordOfAnotherSizeIsNull) {
     EXPECT_EQ(Write(kGuards, {{8, 1, 2}, {{12, 3, 4}, {0, 5, 6}}}), R"({ "Many" : [ [ 3, 4 ], null ], "One" : null })");
@@ -334,8 +421,12 @@ struct Caller {
     Item* items;
 };
 
-TABLE(kCaller, Caller, FIELD(room), FIELD(used),
-      FIELD(items, "Items", Record(kItem)).Capacity(AT(room)).Count(AT(used)));
+TABLE(kCaller, Caller,
+      {
+          FIELD(room),
+          FIELD(used),
+          FIELD(items, "Items", Record(kItem)).Capacity(AT(room)).Count(AT(used)),
+      });
 
 TEST(Write, RecordsFromTheCallersArray) {
     Item items[2] = {{1}, {2}};
@@ -356,9 +447,15 @@ struct Grouped {
     std::int32_t channel;
 };
 
-TABLE(kGrouped, Grouped, FIELD(plain, "m", Int).Unless(0), FIELD(inner, "g/b", Int).Flag(AT(flag)),
-      FIELD(deep, "g/h/c", Int).Unless(0), FIELD(flag), FIELD(channel, "params/channel", Int).FromRoot(),
-      FIELD(plain, "A", Int).Alias().Unless(0));
+TABLE(kGrouped, Grouped,
+      {
+          FIELD(plain, "m", Int).WriteUnless(0),
+          FIELD(inner, "g/b", Int).SetsAndNeeds(AT(flag)),
+          FIELD(deep, "g/h/c", Int).WriteUnless(0),
+          FIELD(flag),
+          FIELD(channel, "params/channel", Int).FromRoot(),
+          FIELD(plain, "A", Int).Alias().WriteUnless(0),
+      });
 
 TEST(Write, InnerObjectsAreOpenedByTheirFirstKey) {
     EXPECT_EQ(Write(kGrouped, {1, 2, 3, 1, 9}), R"({ "A" : 1, "g" : { "b" : 2, "h" : { "c" : 3 } }, "m" : 1 })");
@@ -371,7 +468,10 @@ struct Self {
     std::int32_t number;
 };
 
-TABLE(kSelf, Self, FIELD(number, "", Int));
+TABLE(kSelf, Self,
+      {
+          FIELD(number, "", Int),
+      });
 
 TEST(Write, AFieldThatIsTheValueItself) {
     EXPECT_EQ(Write(kSelf, {-4}), "-4");
@@ -391,7 +491,11 @@ void WriteFixed(const Field&, const std::byte*, WriteCall& call) {
 constexpr CustomCodec kTwice{nullptr, WriteTwice};
 constexpr CustomCodec kFixed{nullptr, WriteFixed};
 
-TABLE(kCustom, Self, FIELD(number, "g/Twice", Custom(kTwice)), MakeVirtual("Version", Custom(kFixed)));
+TABLE(kCustom, Self,
+      {
+          FIELD(number, "g/Twice", Custom(kTwice)),
+          MakeVirtual("Version", Custom(kFixed)),
+      });
 
 TEST(Write, FunctionsOfTheRowsOwn) {
     EXPECT_EQ(Write(kCustom, {4}), R"({ "Version" : "fixed", "g" : { "Twice" : 8 } })");
@@ -411,11 +515,17 @@ struct Times {
     std::int32_t split;
 };
 
-TABLE(kTimes, Times, FIELD(section, "Section", TimeSection), FIELD(week, "Week", Schedule),
-      FIELD(list, "List", SectionList),
-      FIELD(holidays, "Holidays", HolidaySchedule).When([](const std::byte*) { return false; }),
-      FIELD(time, "Time", NetTime), FIELD(timeEx, "TimeEx", NetTimeEx), FIELD(clock, "Clock", ClockTime),
-      FIELD(split, "Split", SplitMode));
+TABLE(kTimes, Times,
+      {
+          FIELD(section, "Section", TimeSection),
+          FIELD(week, "Week", Schedule),
+          FIELD(list, "List", SectionList),
+          FIELD(holidays, "Holidays", HolidaySchedule).WriteIf([](const std::byte*) { return false; }),
+          FIELD(time, "Time", NetTime),
+          FIELD(timeEx, "TimeEx", NetTimeEx),
+          FIELD(clock, "Clock", ClockTime),
+          FIELD(split, "Split", SplitMode),
+      });
 
 TEST(Write, TimesAndSplits) {
     Times r{};

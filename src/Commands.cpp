@@ -95,7 +95,7 @@ constexpr Command kCommands[] = {
     // Alarm inputs
     Both("Alarm", kAlarmInput, kUntested, kLoose),
     Both("NetAlarm", kNetAlarm, kUntested, kLoose),
-    Both("MotionDetect", kMotionDetect, kParse.Null(OnNull::OneRecord).OnceParsed(MarkMotionDetectRead),
+    Both("MotionDetect", kMotionDetect, kParse.Null(NullValue::OneRecord).OnceParsed(MarkMotionDetectRead),
          kPack.KeepsText()),
     Both("LossDetect", kLossDetect, kUntested, kLoose),
     Both("BlindDetect", kBlindDetect, kUntested, kLoose),
@@ -107,33 +107,45 @@ constexpr Command kCommands[] = {
     Both("MacConflict", kStorageAlarm, kUntested, kLoose),
     Both("PSTNBreakLine", kStorageAlarm, kUntested, kLoose),
 
+    // Alarm devices
+
     // Alarm capabilities
     Reply("alarm.getAlarmCaps", kAlarmCaps, kCapsTextTrue),
     Reply("alarm.getExAlarmCaps", kExAlarmCaps, kCapsTextTrue),
     Reply("alarm.getExAlarmBoxCaps", kExAlarmBoxCaps, kCapsTextTrue),
     Reply("AnalogAlarm.getCaps", kAnalogAlarmCaps, kCaps),
 
+    // Access control
+
+    // Video talk
+
+    // Device settings
+
+    // Services
+
+    // Remote devices
+
     // Encoding
     Both("Encode", kEncode,
          kParse.TakesBy(EncodeTakes)
-             .Null(OnNull::LengthZero)
+             .Null(NullValue::LengthZero)
              .Clears(Clearing::Kept)
              .ReadsNulls()
              .Length(ReplyLength::PerRecord),
          kLoose.As(Form::BareIfExact)),
     Both("EncodePlan", kEncodePlan,
-         kUntested.Takes(Take::ManyOrNone).Null(OnNull::LengthZero).Length(ReplyLength::PerRecord),
+         kUntested.Takes(Take::ManyOrNone).Null(NullValue::LengthZero).Length(ReplyLength::PerRecord),
          kLoose.As(Form::Array)),
     Both("EncodeAdapt", kEncodeAdapt, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord),
          kPack.As(Form::BareIfExact)),
     Both("SmartEncode", kSmartEncode,
-         kParse.Takes(Take::AnyOrMany).Null(OnNull::LengthZero).Length(ReplyLength::PerRecord),
+         kParse.Takes(Take::AnyOrMany).Null(NullValue::LengthZero).Length(ReplyLength::PerRecord),
          kLoose.As(Form::BareIfExact)),
     Both("EncodeEncrypt", kEncodeEncrypt, kUntested.Takes(Take::ListOrNone).Clears(Clearing::Kept).RootKeysFirst(),
          kLoose),
     Both("NvrEncrypt", kNvrEncrypt,
          kParse.Takes(Take::ListOrLists)
-             .Null(OnNull::LengthUntouched)
+             .Null(NullValue::LengthUntouched)
              .Clears(Clearing::Read)
              .RootKeysFirst()
              .ReadsNulls()
@@ -142,11 +154,25 @@ constexpr Command kCommands[] = {
          kPack.FormBy(NvrEncryptForm).Fits(Capacity::Raw)),
     Both("CompressPlay", kCompressPlay, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord),
          kPack.As(Form::BareIfExact)),
-    Both("StroboscopicLamp", kStroboscopicLamp, kParse.Null(OnNull::LengthUntouched).LengthBy(StroboscopicLampLength),
-         kPack.Fits(Capacity::Raw)),
+    Both("StroboscopicLamp", kStroboscopicLamp,
+         kParse.Null(NullValue::LengthUntouched).LengthBy(StroboscopicLampLength), kPack.Fits(Capacity::Raw)),
+
+    // Overlays and snapshots
+
+    // Encoder capabilities
+
+    // Video input
+
+    // Pan, tilt, zoom
+
+    // Master and slave trackers
+
+    // Display and matrix
+
+    // Audio
 
     // Network
-    Both("Network", kNetwork, kParse.Null(OnNull::OneRecord).AnySize().NeedsText(), kPack),
+    Both("Network", kNetwork, kParse.Null(NullValue::OneRecord).AnySize().NeedsText(), kPack),
     Both("RTSP", kRtsp, kUntested, kLoose),
     OwnParse("Multicast", kMulticast, ParseMulticast, kUntested.Clears(Clearing::Kept), kLoose),
     Both("DVRIP", kDvrip, kParse, kPack),
@@ -157,6 +183,30 @@ constexpr Command kCommands[] = {
     Reply("LowRateWPAN.getCaps", kLowRateWpanCaps, kCaps),
     Generic("WLan", kWlan, kOneCleared),
     Generic("Https", kHttps, kOneCleared),
+
+    // Recording
+
+    // Storage
+
+    // Heat imaging and measuring
+
+    // Home automation
+
+    // Later settings
+
+    // Parking and lane screens
+
+    // Scenes
+
+    // Analysis modules
+
+    // Traffic
+
+    // Analysis capabilities
+
+    // Grouped rules
+
+    // Video diagnosis
 
     // Analysis rules
     Own("VideoAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),
