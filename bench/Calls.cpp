@@ -1,6 +1,7 @@
 #include "bench/Calls.h"
 
 #include "bench/Events.h"
+#include "bench/Members.h"
 #include "bench/Readers.h"
 #include "bench/Rules.h"
 
@@ -133,6 +134,8 @@ bool SelfTest() {
                 && SameBothWays(motion) && SameBothWays(switches) && SameBothWays(caps) && SameBothWays(encode);
     for (const int rules : {8, 16, 32})
         good = good && RuleBench(rules).SameBothWays();
+    for (const MemberRow& row : MemberRows())
+        good = good && MemberBench(row).IsGood();
     for (const std::size_t size : {200, 2000, 60000})
         good = good && AllReadersRead(size);
     return good;

@@ -3,6 +3,7 @@
 #include "bench/Calls.h"
 #include "bench/Events.h"
 #include "bench/Heap.h"
+#include "bench/Members.h"
 #include "bench/Readers.h"
 #include "bench/Rules.h"
 
@@ -156,6 +157,19 @@ void RuleCalls(const Table& table, RuleBench& bench) {
         [&](std::size_t i) { return bench.WriteAndClear(i); });
 }
 
+void Members(const Table& table, MemberBench& bench) {
+    const std::string name = std::string("member.") + bench.name;
+    const auto parse = [&](std::size_t i) { return bench.Parse(i); };
+    table.Line(name + ".parse.rapidjson_text_and_clear", 1, bench.texts.size(), parse,
+               [&](std::size_t i) { return bench.ParseTextAndClear(i); });
+    table.Line(name + ".parse.simdjson_and_clear", 0, bench.texts.size(), parse,
+               [&](std::size_t i) { return bench.ParseSimdJsonAndClear(i); });
+    if (!bench.packs) return;
+    table.Line(
+        name + ".pack.rapidjson_write_and_clear", 3, bench.records(), [&](std::size_t i) { return bench.Pack(i); },
+        [&](std::size_t i) { return bench.WriteAndClear(i); });
+}
+
 double MeanSize(const Texts& texts) {
     double sum = 0;
     for (const auto& text : texts)
@@ -285,6 +299,13 @@ void HeapOfEvents(EventBench& bench) {
              Worst(bench.texts.size(), [&](std::size_t i) { bench.Decode(i); }), false);
 }
 
+void HeapOfMembers(MemberBench& bench) {
+    const std::string name = std::string("member.") + bench.name;
+    HeapLine(name + ".parse (" + std::to_string(bench.texts[0].size()) + " B)",
+             Worst(bench.texts.size(), [&](std::size_t i) { bench.Parse(i); }), false);
+    if (bench.packs) HeapLine(name + ".pack", Worst(bench.records(), [&](std::size_t i) { bench.Pack(i); }), false);
+}
+
 void HeapOfReaders(const std::string& size, std::size_t bytes) {
     ReaderBench bench(bytes, 12);
     const std::size_t variants = bench.texts.size();
@@ -317,6 +338,10 @@ void PrintTables(bool quick) {
     HeapOfRules(rules);
     HeapOfEvents(junction);
     HeapOfEvents(manyEvents);
+    for (const MemberRow& row : MemberRows()) {
+        MemberBench bench(row);
+        HeapOfMembers(bench);
+    }
     HeapOfReaders("200B", 200);
     HeapOfReaders("2KB", 2000);
     HeapOfReaders("4KB", 3900);
@@ -339,6 +364,10 @@ void PrintTables(bool quick) {
     RuleCalls(table, rules);
     Events(table, junction);
     Events(table, manyEvents);
+    for (const MemberRow& row : MemberRows()) {
+        MemberBench bench(row);
+        Members(table, bench);
+    }
     Lengths(table);
     RuleCounts(table);
     const auto make = [] { return MakeAlarmBench(3); };

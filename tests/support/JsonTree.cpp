@@ -1,5 +1,7 @@
 #include "support/JsonTree.h"
 
+#include <algorithm>
+
 namespace orrery::test {
 
 namespace {
@@ -46,6 +48,15 @@ std::vector<JsonTree*> JsonTree::Places() {
             places.push_back(&entry.second);
     }
     return places;
+}
+
+void JsonTree::Sort() {
+    if (kind_ == Kind::Object) {
+        std::stable_sort(entries_.begin(), entries_.end(),
+                         [](const auto& left, const auto& right) { return left.first < right.first; });
+    }
+    for (auto& entry : entries_)
+        entry.second.Sort();
 }
 
 std::string JsonTree::Text() const {

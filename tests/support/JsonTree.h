@@ -42,6 +42,9 @@ class JsonTree {
             entry.second.Thin(random, keepPercent);
     }
 
+    // Puts the members of every object in key order, as devices send them.
+    void Sort();
+
     std::string Text() const;
 
   private:

@@ -1,0 +1,171 @@
+#include "bench/Members.h"
+
+#include "support/TableText.h"
+
+#include "orrery/orrery.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include <rapidjson/writer.h>
+
+namespace orrery::bench {
+
+namespace {
+
+constexpr unsigned kVariants = 12;
+constexpr std::size_t kRecords = 4;
+
+constexpr MemberRow kRows[] = {
+    {"Email"},
+};
+
+const Command& CommandNamed(const char* name) {
+    const Command* const command = FindCommand(name);
+    if (command == nullptr) {
+        std::fprintf(stderr, "bench: there is no command \"%s\"\n", name);
+        std::abort();
+    }
+    return *command;
+}
+
+// Blanks where devices put them.
+std::string AsDevicesWrite(const std::string& compact) {
+    std::string text;
+    bool quoted = false;
+    for (std::size_t i = 0; i < compact.size(); ++i) {
+        const char c = compact[i];
+        if (quoted && c == '\\') text += compact[i++];
+        if (c == '"') quoted = !quoted;
+        if (quoted || c == '"')
+            text += compact[i];
+        else if (c == ':')
+            text += " : ";
+        else if (c == ',')
+            text += ", ";
+        else if (c == '{' || c == '[')
+            (text += c) += ' ';
+        else if (c == '}' || c == ']')
+            (text += ' ') += c;
+        else
+            text += c;
+    }
+    return text;
+}
+
+// Builds as a client would: keys and texts by reference, nodes from the document's pool.
+byhand::Value Build(const rapidjson::Value& from, byhand::Pool& pool) {
+    byhand::Value value;
+    if (from.IsObject()) {
+        value.SetObject();
+        for (const auto& member : from.GetObject()) {
+            value.AddMember(rapidjson::StringRef(member.name.GetString(), member.name.GetStringLength()),
+                            Build(member.value, pool), pool);
+        }
+    } else if (from.IsArray()) {
+        value.SetArray();
+        value.Reserve(from.Size(), pool);
+        for (const auto& element : from.GetArray())
+            value.PushBack(Build(element, pool), pool);
+    } else if (from.IsString()) {
+        value.SetString(rapidjson::StringRef(from.GetString(), from.GetStringLength()));
+    } else {
+        value.CopyFrom(from, pool);
+    }
+    return value;
+}
+
+} // namespace
+
+std::span<const MemberRow> MemberRows() {
+    return kRows;
+}
+
+MemberBench::MemberBench(const MemberRow& row)
+    : name(row.command), packs(CommandNamed(row.command).packs()), command_(CommandNamed(row.command)) {
+    size_ = command_.table->size * row.records;
+    buffer_ = std::make_unique<std::byte[]>(size_);
+    memory_.PrepareBuffer(command_, buffer_.get(), size_);
+    std::size_t longest = 0;
+    for (unsigned i = 0; i < kVariants; ++i) {
+        test::JsonTree tree = test::ReplyTree(command_, {.seed = i + 1, .most = row.most, .records = row.records});
+        tree.Sort();
+        texts.push_back(AsDevicesWrite(tree.Text()));
+        padded_.emplace_back(texts.back());
+        longest = std::max(longest, texts.back().size());
+    }
+    room_ = 2 * longest + 4096;
+    packed_ = std::make_unique<char[]>(room_);
+    if (!packs) return;
+    for (std::size_t i = 0; i < kRecords; ++i) {
+        kept_.push_back(std::make_unique<std::byte[]>(size_));
+        keptMemory_.push_back(std::make_unique<test::CallerMemory>());
+        keptMemory_.back()->PrepareBuffer(command_, kept_.back().get(), size_);
+        CLIENT_ParseData(name, texts[i].c_str(), kept_.back().get(), size_, nullptr);
+        due_.push_back(std::make_unique<rapidjson::Document>());
+        if (Pack(i)) due_.back()->Parse(packed_.get());
+    }
+}
+
+bool MemberBench::Parse(std::size_t i) {
+    uint32_t length = 0;
+    const bool done = CLIENT_ParseData(name, texts[i].c_str(), buffer_.get(), size_, &length) != 0;
+    benchmark::ClobberMemory();
+    return done;
+}
+
+bool MemberBench::Clear(std::size_t) {
+    // What a call clears, so that pointers of the caller's own stay.
+    if (!test::HasPointers(*command_.table) && !command_.table->hasSizeWords) std::memset(buffer_.get(), 0, size_);
+    benchmark::ClobberMemory();
+    return true;
+}
+
+bool MemberBench::ParseTextAndClear(std::size_t i) {
+    Clear(i);
+    byhand::LocalDocument document;
+    document->Parse(texts[i].c_str());
+    benchmark::DoNotOptimize(document);
+    return !document->HasParseError();
+}
+
+bool MemberBench::ParseSimdJsonAndClear(std::size_t i) {
+    Clear(i);
+    simdjson::dom::element root;
+    const auto error = parser_.parse(padded_[i]).get(root);
+    benchmark::DoNotOptimize(root);
+    return error == simdjson::SUCCESS;
+}
+
+bool MemberBench::Pack(std::size_t i) {
+    const bool done = CLIENT_PacketData(name, kept_[i].get(), size_, packed_.get(), static_cast<uint32_t>(room_)) != 0;
+    benchmark::ClobberMemory();
+    return done;
+}
+
+bool MemberBench::WriteAndClear(std::size_t i) {
+    byhand::LocalDocument document;
+    static_cast<byhand::Value&>(*document) = Build(*due_[i], document->GetAllocator());
+    rapidjson::StringBuffer out;
+    byhand::Write(*document, out);
+    benchmark::DoNotOptimize(out.GetString());
+    std::memset(packed_.get(), 0, room_);
+    benchmark::ClobberMemory();
+    return true;
+}
+
+bool MemberBench::IsGood() {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (Parse(i) && ParseTextAndClear(i) && ParseSimdJsonAndClear(i)) continue;
+        std::fprintf(stderr, "%s: text %zu is not read\n%s\n", name, i, texts[i].c_str());
+        return false;
+    }
+    for (std::size_t i = 0; i < records(); ++i) {
+        if (Pack(i) && !due_[i]->HasParseError() && !due_[i]->IsNull()) continue;
+        std::fprintf(stderr, "%s: record %zu is not packed\n", name, i);
+        return false;
+    }
+    return true;
+}
+
+} // namespace orrery::bench
