@@ -73,6 +73,7 @@ enum class Clearing : std::uint8_t {
 enum class ReplyLength : std::uint8_t {
     OneRecord,
     PerRecord,
+    PerFilled, // of each record that was read: a null element leaves its place and is not counted
     OneOfList, // one record; 0 for a list of lists, though its records are filled
     Told,      // what the command's function tells
     None,
@@ -98,8 +99,9 @@ struct ParseFrame {
     bool readsNulls = false;
     bool rootKeysFirst = false;
     bool allMustFit = false;
-    bool anySize = false;   // a buffer below one record takes as much of the record as it holds
-    bool needsText = false; // an empty text fails before anything is cleared
+    bool anySize = false;      // a buffer below one record takes as much of the record as it holds
+    bool zeroesLength = false; // the reply length is 0 also when the call fails later
+    bool needsText = false;    // an empty text fails before anything is cleared
     // Tests the caller's own input before anything else; false fails the call with nothing touched.
     bool (*accepts)(const std::byte* buffer, std::uint32_t size) = nullptr;
     // Runs once the text has parsed, before "result" is looked at.
@@ -134,6 +136,8 @@ struct ParseFrame {
         return With(With(*this, &ParseFrame::length, ReplyLength::Told), &ParseFrame::lengthBy, function);
     }
     constexpr ParseFrame AnySize() const { return With(*this, &ParseFrame::anySize, true); }
+    // The reply length is set to 0 once the buffer is known to be large enough, and so when the call fails later.
+    constexpr ParseFrame ZeroesLength() const { return With(*this, &ParseFrame::zeroesLength, true); }
     constexpr ParseFrame NeedsText() const { return With(*this, &ParseFrame::needsText, true); }
     constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
         return With(*this, &ParseFrame::accepts, test);

@@ -98,6 +98,8 @@ class Records {
     bool isFull() const noexcept { return used_ == room_; }
     // Records walked, whether something was read into them or not.
     std::uint32_t used() const noexcept { return used_; }
+    // Those that something was read into.
+    std::uint32_t filled() const noexcept { return filled_; }
 
     // Nothing is written for a null: its record stays as the buffer was cleared.
     void Skip() noexcept { ++used_; }
@@ -105,6 +107,7 @@ class Records {
     void Read(const Value& value, std::string_view memberName) noexcept {
         std::byte* const at = first_ + std::size_t{used_} * stride_;
         call_.index = used_++;
+        ++filled_;
         if (frame_.clearing == Clearing::Read) std::memset(at, 0, stride_);
         if (frame_.stride == Stride::Record) return record::ReadRecord(table_, value, at, call_, memberName);
         if (local_ == nullptr) return;
@@ -132,6 +135,7 @@ class Records {
     std::uint32_t stride_;
     std::uint32_t room_;
     std::uint32_t used_ = 0;
+    std::uint32_t filled_ = 0;
     std::byte* local_ = nullptr;
     ReadCall& call_;
 };
@@ -177,6 +181,10 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;
     if (frame.needsText && request.text[0] == '\0') return Outcome::NoJson;
     if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
+    const auto setLength = [&](std::uint32_t length) {
+        if (request.returnedLength != nullptr) *request.returnedLength = length;
+    };
+    if (frame.zeroesLength) setLength(0);
     const auto clear = [&] {
         if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
         if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
@@ -190,9 +198,6 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     if (frame.rootKeysFirst) record::ReadRootFields(table, buffer, call);
     if (!Passes(frame.result, document.root["result"])) return Outcome::Refused;
 
-    const auto setLength = [&](std::uint32_t length) {
-        if (request.returnedLength != nullptr) *request.returnedLength = length;
-    };
     const Value& value = Find(frame, document.root);
     Holds holds = ShapeOf(frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take, value);
     // An empty array of records says as much as no array at all.
@@ -236,6 +241,9 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         break;
     case ReplyLength::PerRecord:
         setLength(records.used() * stride);
+        break;
+    case ReplyLength::PerFilled:
+        setLength(records.filled() * stride);
         break;
     case ReplyLength::OneOfList:
         setLength(holds == Holds::OneRecord ? stride : 0);

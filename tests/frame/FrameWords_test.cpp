@@ -70,6 +70,50 @@ TEST(FrameWords, ListOrNoneSucceedsWithoutALengthOnWhatIsNoList) {
     EXPECT_EQ(Call(frame, Reply("null")).outcome, Outcome::NoValue);
 }
 
+TEST(FrameWords, PerFilledCountsNoNullThoughItKeepsItsPlace) {
+    const ParseFrame frame = ParseFrame{}.Takes(Take::OneOrMany).Length(ReplyLength::PerFilled);
+    const Call call(frame, Reply(R"([{"Value":1},null,{"Value":3}])"));
+    EXPECT_EQ(call.length, 2 * kSize);
+    EXPECT_EQ(call.records[0].nValue, 1);
+    EXPECT_EQ(call.records[1].nValue, 0);
+    EXPECT_EQ(call.records[2].nValue, 3);
+    EXPECT_EQ(Call(frame, Reply("[null]")).length, 0u);
+    EXPECT_EQ(Call(frame, Reply("{}")).length, kSize);
+    EXPECT_EQ(Call(frame.ReadsNulls(), Reply("[null,{}]")).length, 2 * kSize); // it reads them
+}
+
+TEST(FrameWords, ZeroesLengthHoldsForCallsThatFail) {
+    const ParseFrame frame = ParseFrame{}.ZeroesLength();
+    EXPECT_EQ(Call(frame, Reply("{}")).length, kSize);
+    for (const char* failing : {"null", "no JSON"}) {
+        const Call call(frame, Reply(failing));
+        EXPECT_NE(call.outcome, Outcome::Done) << failing;
+        EXPECT_EQ(call.length, 0u) << failing;
+    }
+    EXPECT_EQ(Call(frame, R"({"result":false,"params":{"table":{}}})").length, 0u);
+    // A buffer that is too small is not looked at any further.
+    Pair record{};
+    std::uint32_t length = kNoLength;
+    EXPECT_EQ(ParseFamily(kPair, frame, {Reply("{}").c_str(), &record, kSize - 1, &length}), Outcome::BufferTooSmall);
+    EXPECT_EQ(length, kNoLength);
+}
+
+TEST(FrameWords, TakesFirstReadsAnObjectOrTheFirstElementOfAnArray) {
+    constexpr auto table = kPair.TakesFirst();
+    const auto valueOf = [&](const char* text) {
+        const Call call(ParseFrame{}, Reply(text, R"("channel":4,)"), table);
+        EXPECT_EQ(call.outcome, Outcome::Done) << text;
+        EXPECT_EQ(call.length, kSize) << text;
+        EXPECT_EQ(call.records[0].nChannel, 4) << text;
+        return call.records[0].nValue;
+    };
+    EXPECT_EQ(valueOf(R"({"Value":1})"), 1);
+    EXPECT_EQ(valueOf(R"([{"Value":2}])"), 2);
+    EXPECT_EQ(valueOf(R"([{"Value":3},{"Value":4}])"), 3);
+    for (const char* none : {"[]", "[null]", "[1]", R"([[{"Value":5}]])", R"([null,{"Value":6}])", "7"})
+        EXPECT_EQ(valueOf(none), 0) << none;
+}
+
 TEST(FrameWords, ListOrListsIsSettledByTheFirstElement) {
     const ParseFrame frame = ParseFrame{}.Takes(Take::ListOrLists).Length(ReplyLength::OneOfList);
     EXPECT_EQ(Call(frame, Reply("[{}]")).length, kSize);

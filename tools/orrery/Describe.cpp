@@ -105,6 +105,7 @@ std::string DescribeTable(const Tables& tables, const Table& table) {
     if (table.shape == Shape::Tuple) text += "; in the text an array of exactly its keyless values";
     if (table.shape == Shape::LooseTuple) text += "; in the text an array of its values, missing ones read as nothing";
     if (table.guarded) text += "; used only while its size word is right";
+    if (table.takesFirst) text += "; also the first element of an array";
     if (table.clearsFlags) text += "; the flags of absent keys become 0";
     if (table.writes != nullptr) text += "; a function tells which are written";
     if (table.afterRead != nullptr) text += "; a function completes what was read";

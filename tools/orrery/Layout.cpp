@@ -36,6 +36,7 @@ std::string TableText(const Tables& tables, const Table& table) {
     if (table.shape == Shape::Tuple) text += " Tuple";
     if (table.shape == Shape::LooseTuple) text += " LooseTuple";
     if (table.guarded) text += " Guarded";
+    if (table.takesFirst) text += " TakesFirst";
     if (table.clearsFlags) text += " ClearsFlags";
     if (table.startsWhenRead) text += " StartsWhenRead";
     if (table.writes != nullptr) text += " Writes(function)";

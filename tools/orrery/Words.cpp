@@ -223,10 +223,12 @@ std::string ParseWords(const Command& command) {
                                                "ListOrNone", "ListOrLists", "ByMember", "ByMemberOrNone"}));
     words += " " + Call("Null", Word(frame.nullValue, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
     words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Read", "Kept"}));
-    words += " " + Call("Length", Word(frame.length, {"OneRecord", "PerRecord", "OneOfList", "Told", "None"}));
+    words +=
+        " " + Call("Length", Word(frame.length, {"OneRecord", "PerRecord", "PerFilled", "OneOfList", "Told", "None"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.exactSize) words += " ExactSize";
     if (frame.anySize) words += " AnySize";
+    if (frame.zeroesLength) words += " ZeroesLength";
     if (frame.needsText) words += " NeedsText";
     if (frame.accepts != nullptr) words += " Accepts(function)";
     if (frame.readsNulls) words += " ReadsNulls";

@@ -320,6 +320,11 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
 
 bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
+    if (table.takesFirst && value.type() == json::Type::Array) {
+        // An array in an array is no object: it has no members.
+        const Value& first = value[0];
+        return ReadFields(table, first.type() == json::Type::Array ? json::kNull : first, record, call);
+    }
     if (table.clearsFlags) ClearFlags(table, record);
     if (call.context != nullptr) {
         const auto* const context = static_cast<const std::byte*>(call.context);

@@ -91,6 +91,7 @@ struct Table {
     bool hasSizeWords = false;   // some field, nested ones included, is a size word
     bool startsWhenRead = false; // defaults and size words are set by reading it: what is not read stays zero
     bool guarded = false;        // neither read nor written unless the size word holds exactly the record's size
+    bool takesFirst = false;     // of an array the first element is read
     bool clearsFlags = false;    // presence flags, nested ones included, start at 0 in a record that keeps its values
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
@@ -109,6 +110,8 @@ struct TypedTable : Table {
     constexpr TypedTable As(Shape what) const { return With(*this, &TypedTable::shape, what); }
     // The record's size word is tested: with another value the record is neither read nor written.
     constexpr TypedTable Guarded() const { return With(*this, &TypedTable::guarded, true); }
+    // An object, or an array whose first element it is: some devices wrap a single record.
+    constexpr TypedTable TakesFirst() const { return With(*this, &TypedTable::takesFirst, true); }
     // The record's presence flags tell of the text just read alone, though absent keys keep the caller's values.
     constexpr TypedTable ClearsFlags() const { return With(*this, &TypedTable::clearsFlags, true); }
     // As a part of another record: its defaults and size words are set when it is read, and not before.
