@@ -29,10 +29,10 @@ extern "C" {
 #define ORRERY_RULE_TRIGGER_MODES 32 /* what starts a snapshot at a junction or gate */
 #define ORRERY_FACE_FEATURES 32      /* features of a face */
 
-/* The descriptor of a rule buffer; bufferSize and recordSize of the calls are its size.
- * Reading: pRuleBuf and nRuleLen are the caller's and stay. When the reply holds more than fits, or a rule of a type
- * that is not known, the call gives 0 and nRuleCount stays too; the buffer is untouched when it is too small, and is
- * cleared whole before the first rule is read. No "table" gives no rule.
+/* "VideoAnalyseRule", "AudioAnalyseRule", "IVSFramRule" (read only): the descriptor of a rule buffer; bufferSize and
+ * recordSize of the calls are its size. Reading: pRuleBuf and nRuleLen are the caller's and stay. When the reply holds
+ * more than fits, or a rule of a type that is not known, the call gives 0 and nRuleCount stays too; the buffer is
+ * untouched when it is too small, and is cleared whole before the first rule is read. No "table" gives no rule.
  * Writing: items as above; nRuleSize may be larger than the type's record, never smaller. No rules give the empty list,
  * also for a negative count or a null pRuleBuf, but then the call gives 0. The text may fill its buffer to the last
  * byte, where the terminator takes the place of its newline. */
@@ -86,9 +86,9 @@ typedef struct CFG_RULE_GENERAL_INFO {
 
 /* The head of an item. */
 typedef struct CFG_RULE_INFO {
-    uint32_t dwRuleType; /* "Type": ORRERY_RULE_... */
-    int32_t nRuleSize;   /* bytes of the record that follows */
-    CFG_RULE_GENERAL_INFO stuRuleGeneral;
+    uint32_t dwRuleType;                  /* "Type": ORRERY_RULE_... */
+    int32_t nRuleSize;                    /* bytes of the record that follows */
+    CFG_RULE_GENERAL_INFO stuRuleGeneral; /* what the record itself has no room for */
 } CFG_RULE_INFO;
 
 /* ---- What the records of the types share. "Name", "Enable", "TrackEnable", "ObjectTypes", "PtzPresetId" and
@@ -96,28 +96,25 @@ typedef struct CFG_RULE_INFO {
  * 0; a number or a code is always written, whether it was there or not, and a code that is none of those named leaves
  * its key out. ---- */
 
-/* nObjectTypeNum: entries of szObjectTypes in use.
- * szObjectTypes: "ObjectTypes": kinds of object, such as "Human" and "Vehicle". */
+/* Kinds of object that a rule looks for. */
 #define ORRERY_RULE_OBJECTS                                                                                            \
-    int32_t nObjectTypeNum;                                                                                            \
-    char szObjectTypes[ORRERY_RULE_OBJECT_TYPES][ORRERY_RULE_TEXT]
+    int32_t nObjectTypeNum;                                        /* entries of szObjectTypes in use */               \
+    char szObjectTypes[ORRERY_RULE_OBJECT_TYPES][ORRERY_RULE_TEXT] /* "ObjectTypes": such as "Human" and "Vehicle" */
 
-/* szRuleName: "Name". bRuleEnable: "Enable". */
 #define ORRERY_RULE_HEAD                                                                                               \
-    char szRuleName[ORRERY_RULE_TEXT];                                                                                 \
-    uint8_t bRuleEnable
+    char szRuleName[ORRERY_RULE_TEXT]; /* "Name" */                                                                    \
+    uint8_t bRuleEnable                /* "Enable" */
 
-/* stuEventHandler: "EventHandler": what an alarm of the rule does; its own stuTimeSection is not used.
- * stuTimeSection: "EventHandler"."TimeSection": when the rule is armed, 7 days of 10 sections, Sunday first. It is
- * written from here, and a holiday row from the linkage's stuTimeSectionEx. */
+/* What an alarm of the rule does, whose own stuTimeSection is not used, and when the rule is armed: 7 days of 10
+ * sections, Sunday first. The week is written from here, and a holiday row from the linkage's stuTimeSectionEx. */
 #define ORRERY_RULE_LINKAGE                                                                                            \
-    CFG_EVENT_HANDLER_INFO stuEventHandler;                                                                            \
-    CFG_TIME_SECTION stuTimeSection[ORRERY_WEEK_DAYS][ORRERY_RULE_DAY_SECTIONS]
+    CFG_EVENT_HANDLER_INFO stuEventHandler;                                     /* "EventHandler" */                   \
+    CFG_TIME_SECTION stuTimeSection[ORRERY_WEEK_DAYS][ORRERY_RULE_DAY_SECTIONS] /* "EventHandler"."TimeSection" */
 
-/* The linkage and, behind it, nPtzPresetId: "PtzPresetId": preset of the camera at which the rule holds. */
+/* The linkage and, behind it, the preset of the camera at which the rule holds. */
 #define ORRERY_RULE_TAIL                                                                                               \
     ORRERY_RULE_LINKAGE;                                                                                               \
-    int32_t nPtzPresetId
+    int32_t nPtzPresetId /* "PtzPresetId" */
 
 /* A line or a region: the count and up to 20 corners. A corner of the text that has fewer than two numbers leaves its
  * entry zero and is not counted, so that the count can be smaller than the last entry in use; the first entries up to
@@ -126,11 +123,10 @@ typedef struct CFG_RULE_INFO {
     int32_t count;                                                                                                     \
     CFG_POLYGON points[ORRERY_RULE_POINTS]
 
-/* nTriggerPosition: entries in use; a null of the text leaves its entry 0 and is not counted.
- * byTriggerPosition: "TriggerPosition": CFG_TRIGGER_...: which points of an object have to be inside. */
+/* Which points of an object have to be inside. */
 #define ORRERY_RULE_POSITIONS                                                                                          \
-    int32_t nTriggerPosition;                                                                                          \
-    uint8_t byTriggerPosition[ORRERY_TRIGGER_POSITIONS]
+    int32_t nTriggerPosition; /* entries in use; a null of the text leaves its entry 0 and is not counted */           \
+    uint8_t byTriggerPosition[ORRERY_TRIGGER_POSITIONS] /* "TriggerPosition": CFG_TRIGGER_... */
 
 enum {
     CFG_TRIGGER_CENTER = 0, /* "Center", and any other text on reading */
@@ -140,10 +136,9 @@ enum {
     CFG_TRIGGER_BOTTOM_CENTER = 4
 };
 
-/* bSizeFilter: "SizeFilter" is there, and written. stuSizeFilter: "SizeFilter". */
 #define ORRERY_RULE_FILTER                                                                                             \
-    int32_t bSizeFilter;                                                                                               \
-    CFG_SIZE_FILTER_INFO stuSizeFilter
+    int32_t bSizeFilter;               /* "SizeFilter" is there, and written */                                        \
+    CFG_SIZE_FILTER_INFO stuSizeFilter /* "SizeFilter" */
 
 /* A box that tells how large an object looks at a place. */
 typedef struct CFG_CALIBRATE_BOX {

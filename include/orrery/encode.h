@@ -274,7 +274,7 @@ typedef struct CFG_NVR_ENCRYPT_INFO {
     int32_t nChannel; /* the reply's "channel", 0 when absent, in the first record, whatever the reply's table; not
                          written, but -1 puts the list into an outer list */
     uint32_t nCount;  /* items in use, at most 4 */
-    CFG_NVR_ENCRYPT_ITEM stuItems[ORRERY_NVR_ENCRYPT_ITEMS];
+    CFG_NVR_ENCRYPT_ITEM stuItems[ORRERY_NVR_ENCRYPT_ITEMS]; /* the list itself */
 } CFG_NVR_ENCRYPT_INFO;
 
 #define ORRERY_STROBE_LAMPS 8
@@ -301,8 +301,8 @@ typedef struct CFG_STROBOSCOPIC_LAMP {
 /* "StroboscopicLamp": flash lamps of a traffic camera. The length of a reply is this whole record's times nCount, which
  * may be more than was filled. */
 typedef struct CFG_STROBOSCOPIC_LAMP_INFO {
-    uint32_t nCount; /* lamps in use, at most 8 */
-    CFG_STROBOSCOPIC_LAMP stuLamps[ORRERY_STROBE_LAMPS];
+    uint32_t nCount;                                     /* lamps in use, at most 8 */
+    CFG_STROBOSCOPIC_LAMP stuLamps[ORRERY_STROBE_LAMPS]; /* the list itself */
 } CFG_STROBOSCOPIC_LAMP_INFO;
 
 #ifdef __cplusplus

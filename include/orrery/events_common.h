@@ -15,17 +15,17 @@ extern "C" {
 
 /* A moment in UTC. From a count of seconds since 1970 unless told otherwise; all 0 when it is out of range. */
 typedef struct EVENT_TIME {
-    uint32_t dwYear;
-    uint32_t dwMonth; /* 1 to 12 */
-    uint32_t dwDay;   /* 1 to 31 */
-    uint32_t dwHour;
-    uint32_t dwMinute;
-    uint32_t dwSecond;
-    uint32_t dwMillisecond;
+    uint32_t dwYear;        /* such as 2026 */
+    uint32_t dwMonth;       /* 1 to 12 */
+    uint32_t dwDay;         /* 1 to 31 */
+    uint32_t dwHour;        /* 0 to 23 */
+    uint32_t dwMinute;      /* 0 to 59 */
+    uint32_t dwSecond;      /* 0 to 59 */
+    uint32_t dwMillisecond; /* 0 to 999 */
     uint32_t dwReserved[2];
 } EVENT_TIME;
 
-/* The same without milliseconds. */
+/* The same without milliseconds. Members are as in EVENT_TIME. */
 typedef struct EVENT_CALENDAR {
     uint32_t dwYear;
     uint32_t dwMonth;
@@ -58,10 +58,13 @@ typedef struct EVENT_FILE_INFO {
 
 /* ---- Heads: the first fields of every record ---- */
 
-/* nChannelID      channel of the notification; -1 when the text is none
+/*
+ * nChannelID      channel of the notification; -1 when the text is none
  * szName          "Name", full: of the rule that fired
  * byReservedHead  zero in most records
  * dPTS            "PTS": time stamp of the frame
+ * dwPTS           "PTS" without its fraction, its low 32 bits
+ * nTriggerType    "TriggerType"
  * stuUTC          "UTC" and "UTCMS"
  * nEventID        "EventID" */
 #define ORRERY_EVENT_HEAD_A_WITH(spare)                                                                                \
@@ -73,7 +76,6 @@ typedef struct EVENT_FILE_INFO {
     int32_t nEventID
 #define ORRERY_EVENT_HEAD_A ORRERY_EVENT_HEAD_A_WITH(uint8_t byReservedHead[4])
 
-/* nTriggerType "TriggerType"; dwPTS "PTS" without its fraction, its low 32 bits. */
 #define ORRERY_EVENT_HEAD_B                                                                                            \
     int32_t nChannelID;                                                                                                \
     char szName[128];                                                                                                  \
@@ -200,7 +202,7 @@ typedef struct EVENT_OBJECT_INFO {
     CFG_RECT stuBoundingBox;                      /* "BoundingBox", at least 4 numbers */
     EVENT_POINT stuCenter;                        /* "Center", at least 2 numbers */
     int32_t nPolygonNum;                          /* points of "Contour", at most 16 */
-    EVENT_POINT stuContour[ORRERY_EVENT_CONTOUR]; /* a point of fewer than 2 numbers is zero and counts */
+    EVENT_POINT stuContour[ORRERY_EVENT_CONTOUR]; /* "Contour"; a point of fewer than 2 numbers is zero and counts */
     uint32_t rgbaMainColor;                       /* "MainColor", at least 4 numbers: 0xRRGGBBAA */
     char szText[128];                             /* "Text", full; of a car's object: its plate number */
     char szObjectSubType[64];                     /* "Category", full; of a car's object: its "PlateType" */
@@ -217,27 +219,27 @@ typedef struct EVENT_OBJECT_INFO {
     uint8_t byTimeType;                           /* "TimeType": "Absolute" 0, "Relative" 1 */
     /* "CurrentTimeStamp"."UTC"; its milliseconds are the "UTCMS" of the last of the three stamps that has one */
     EVENT_TIME stuCurrentTimeStamp;
-    EVENT_TIME stuStartTimeStamp;    /* "StartTimeStamp"."UTC" */
-    EVENT_TIME stuEndTimeStamp;      /* "EndTimeStamp"."UTC" */
-    CFG_RECT stuOriginalBoundingBox; /* "OriginalBoundingBox", exactly 4 numbers */
-    CFG_RECT stuSignBoundingBox;     /* "Sign"."BoundingBox", exactly 4 numbers */
-    uint32_t dwCurrentSequence;      /* "CurrentSequence" */
-    uint32_t dwBeginSequence;        /* "BeginSequence" */
-    uint32_t dwEndSequence;          /* "EndSequence" */
-    uint64_t llBeginFileOffset;      /* "BeginFileOffset" */
-    uint64_t llEndFileOffset;        /* "EndFileOffset" */
-    /* "ColorSimilar", "UpperBodyColorSimilar", "LowerBodyColorSimilar": likeness under the keys "Red" to "White" */
-    uint8_t byColorSimilar[EVENT_COLOR_COUNT];
-    uint8_t byUpperBodyColorSimilar[EVENT_COLOR_COUNT];
-    uint8_t byLowerBodyColorSimilar[EVENT_COLOR_COUNT];
-    int32_t nRelativeID; /* "RelativeID" */
-    char szSubText[20];  /* "SubText", full */
-    uint16_t wBrandYear; /* "BrandYear": model year */
+    EVENT_TIME stuStartTimeStamp;                       /* "StartTimeStamp"."UTC" */
+    EVENT_TIME stuEndTimeStamp;                         /* "EndTimeStamp"."UTC" */
+    CFG_RECT stuOriginalBoundingBox;                    /* "OriginalBoundingBox", exactly 4 numbers */
+    CFG_RECT stuSignBoundingBox;                        /* "Sign"."BoundingBox", exactly 4 numbers */
+    uint32_t dwCurrentSequence;                         /* "CurrentSequence" */
+    uint32_t dwBeginSequence;                           /* "BeginSequence" */
+    uint32_t dwEndSequence;                             /* "EndSequence" */
+    uint64_t llBeginFileOffset;                         /* "BeginFileOffset" */
+    uint64_t llEndFileOffset;                           /* "EndFileOffset" */
+    uint8_t byColorSimilar[EVENT_COLOR_COUNT];          /* "ColorSimilar": likeness under the keys "Red" to "White" */
+    uint8_t byUpperBodyColorSimilar[EVENT_COLOR_COUNT]; /* "UpperBodyColorSimilar", the same */
+    uint8_t byLowerBodyColorSimilar[EVENT_COLOR_COUNT]; /* "LowerBodyColorSimilar", the same */
+    int32_t nRelativeID;                                /* "RelativeID" */
+    char szSubText[20];                                 /* "SubText", full */
+    uint16_t wBrandYear;                                /* "BrandYear": model year */
 } EVENT_OBJECT_INFO;
 
 enum { EVENT_PERSON_DIRECTION_UNKNOWN = 0, EVENT_PERSON_LEFT_TO_RIGHT = 1, EVENT_PERSON_RIGHT_TO_LEFT = 2 };
 
-/* The same with what is known of a person, without the make of a car. Fields without a word are as above. */
+/* The same with what is known of a person, without the make of a car. Members without a word are as in
+ * EVENT_OBJECT_INFO. */
 typedef struct EVENT_OBJECT_INFO_EX {
     uint32_t dwSize; /* 704 once the object has been read */
     int32_t nObjectID;
@@ -303,6 +305,7 @@ typedef struct EVENT_IMAGE_INFO {
     uint8_t bDetected;   /* "IsDetected" */
 } EVENT_IMAGE_INFO;
 
+/* The same, of a person. Members without a word are as in EVENT_IMAGE_INFO. */
 typedef struct EVENT_PERSON_IMAGE {
     uint32_t dwOffset;
     uint32_t dwLength;

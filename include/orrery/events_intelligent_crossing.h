@@ -38,8 +38,8 @@ enum { EVENT_DEED_APPEAR = 0, EVENT_DEED_DISAPPEAR = 1, EVENT_DEED_INSIDE = 2, E
 
 /* One path of a thing. */
 typedef struct EVENT_TRACK_LINE {
-    int32_t nPointNum; /* points in use, without holes */
-    EVENT_POINT stuPoint[ORRERY_EVENT_POINTS];
+    int32_t nPointNum;                         /* points in use, without holes */
+    EVENT_POINT stuPoint[ORRERY_EVENT_POINTS]; /* the list itself */
 } EVENT_TRACK_LINE;
 
 /* "CrossLineDetection" (2): something crossed a line. One with a list of objects or a person is code 337. */

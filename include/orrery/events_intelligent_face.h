@@ -87,10 +87,10 @@ enum { EVENT_GLASSES_UNKNOWN = 0, EVENT_GLASSES_SUN_GLASSES = 1, EVENT_GLASSES_G
 
 /* "Person". The four texts behind pointers are there, empty at least, unless memory ran out. */
 typedef struct EVENT_PERSON_INFO {
-    char szCustomType[16]; /* "Type" when "IsCustomType" is 1 */
-    uint16_t wYear;        /* "Birthday", "2026-11-20" */
-    uint8_t byMonth;
-    uint8_t byDay;
+    char szCustomType[16];                                   /* "Type" when "IsCustomType" is 1 */
+    uint16_t wYear;                                          /* "Birthday", "2026-11-20" */
+    uint8_t byMonth;                                         /* of "Birthday" */
+    uint8_t byDay;                                           /* of "Birthday" */
     char szID[32];                                           /* "ID" */
     uint8_t byImportant;                                     /* "Important" */
     uint8_t bySex;                                           /* "Sex": "Male" 1, "Female" 2 */
@@ -113,7 +113,7 @@ typedef struct EVENT_PERSON_INFO {
     int32_t emEmotion;                                       /* "Emotion": EVENT_FEATURE_... */
 } EVENT_PERSON_INFO;
 
-/* The same with more. Fields without a word are as above. */
+/* The same with more. Members without a word are as in EVENT_PERSON_INFO. */
 typedef struct EVENT_PERSON_INFO_EX {
     char szCustomType[16];
     uint16_t wYear;
@@ -141,11 +141,11 @@ typedef struct EVENT_PERSON_INFO_EX {
     int32_t emEmotion;
     char szHomeAddress[64]; /* "HomeAddress" */
     int32_t emGlassesType;  /* "GlassesType": "SunGlasses" 1, "Glasses" 2 */
-    int32_t emRace;         /* "Race", and so on, as in "FaceDetection" */
-    int32_t emEye;
-    int32_t emMouth;
-    int32_t emMask;
-    int32_t emBeard;
+    int32_t emRace;         /* "Race"; this and what follows as in DEV_EVENT_FACEDETECTION_INFO */
+    int32_t emEye;          /* "Eye" */
+    int32_t emMouth;        /* "Mouth" */
+    int32_t emMask;         /* "Mask" */
+    int32_t emBeard;        /* "Beard" */
 } EVENT_PERSON_INFO_EX;
 
 /* Someone whom the face may be. */
@@ -160,6 +160,7 @@ typedef struct EVENT_CANDIDATE_INFO {
     int32_t nChannelID;             /* "Channel" */
 } EVENT_CANDIDATE_INFO;
 
+/* The same with more of the person. Members without a word are as in EVENT_CANDIDATE_INFO. */
 typedef struct EVENT_CANDIDATE_INFO_EX {
     EVENT_PERSON_INFO_EX stuPerson;
     uint8_t bySimilarity;
@@ -180,25 +181,25 @@ typedef struct DEV_EVENT_FACERECOGNITION_INFO {
     EVENT_OBJECT_INFO stuObject;                                      /* "Object" */
     int32_t nCandidateNum;                                            /* candidates in use, in both lists */
     EVENT_CANDIDATE_INFO stuCandidates[ORRERY_EVENT_CANDIDATES];      /* "Candidates" */
-    EVENT_CANDIDATE_INFO_EX stuCandidatesEx[ORRERY_EVENT_CANDIDATES]; /* the same, with more */
+    EVENT_CANDIDATE_INFO_EX stuCandidatesEx[ORRERY_EVENT_CANDIDATES]; /* "Candidates" too, with more */
     ORRERY_EVENT_ACTION_AND_REPEAT;
     uint32_t bIsGlobalScene;          /* "IsGlobalScene" */
     EVENT_PERSON_IMAGE stuSceneImage; /* "SceneImage" */
     char szAddress[260];              /* "Address" */
     uint32_t dwCount;
     int32_t emClass; /* "Class" */
-    /* Inside "Face", as in "FaceDetection" */
-    int32_t emSex;
-    int32_t nAge;
+    /* What follows stands inside "Face" and is as in DEV_EVENT_FACEDETECTION_INFO. */
+    int32_t emSex; /* "Face"."Sex" */
+    int32_t nAge;  /* "Face"."Age" */
     int32_t nFeatureNum;
-    int32_t emFeature[ORRERY_EVENT_FEATURES];
-    int32_t emRace;
-    int32_t emEye;
-    int32_t emMouth;
-    int32_t emMask;
-    int32_t emBeard;
-    int32_t nAttractive;
-    char szUID[32];
+    int32_t emFeature[ORRERY_EVENT_FEATURES]; /* "Face"."Feature" */
+    int32_t emRace;                           /* "Face"."Race" */
+    int32_t emEye;                            /* "Face"."Eye" */
+    int32_t emMouth;                          /* "Face"."Mouth" */
+    int32_t emMask;                           /* "Face"."Mask" */
+    int32_t emBeard;                          /* "Face"."Beard" */
+    int32_t nAttractive;                      /* "Face"."Attractive" */
+    char szUID[32];                           /* "Face"."UID" */
 } DEV_EVENT_FACERECOGNITION_INFO;
 
 #ifdef __cplusplus

@@ -13,7 +13,7 @@ typedef struct DEV_EVENT_PERSONFEATURE_INFO {
     ORRERY_EVENT_HEAD_SHORT;
     EVENT_FILE_INFO stuFileInfo;
     uint8_t byEventAction;
-    char szSourceDevice[260];    /* as among the closing fields */
+    char szSourceDevice[260];
     uint8_t bySex;               /* "Sex": "Male" 1, "Female" 2 */
     uint8_t byAge;               /* "Age" */
     uint8_t byCall;              /* "Call": on the phone */
@@ -32,7 +32,8 @@ typedef struct DEV_EVENT_PERSONFEATURE_INFO {
     uint32_t dwFlagMask;
 } DEV_EVENT_PERSONFEATURE_INFO;
 
-/* "NonMotorFeature" (374): what a rider looks like. Fields without a word are as above. */
+/* "NonMotorFeature" (374): what a rider looks like. Members without a word are as in
+ * DEV_EVENT_PERSONFEATURE_INFO. */
 typedef struct DEV_EVENT_NONMOTORFEATURE_INFO {
     ORRERY_EVENT_HEAD_SHORT;
     EVENT_FILE_INFO stuFileInfo;

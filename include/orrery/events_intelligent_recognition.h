@@ -76,32 +76,33 @@ enum {
 };
 #define ORRERY_EVENT_CAR_DIFFERENCES 16
 
-/* A known vehicle and its owner. All but the differences stands inside "Vehicle". */
+/* A known vehicle and its owner. */
 typedef struct EVENT_CAR_CANDIDATE {
     int32_t nDifferenceNum;                             /* differences in use */
     int32_t emDifference[ORRERY_EVENT_CAR_DIFFERENCES]; /* "DifferentAttributres": EVENT_CAR_DIFFERENCE_... */
-    uint32_t dwUID;                                     /* "UID" */
-    char szGroupID[64];                                 /* "GroupID" */
-    char szGroupName[128];                              /* "GroupName" */
-    char szPlateNumber[64];                             /* "PlateNumber" */
-    char szPlateCountry[4];                             /* "PlateCountry" */
-    uint32_t dwPlateType;                               /* "PlateType" */
-    uint32_t dwType;                                    /* "Type" */
-    uint32_t dwBrand;                                   /* "Brand" */
-    uint32_t dwSerie;                                   /* "Serie" */
-    uint32_t dwCarSeriesModelYearIndex;                 /* "CarSeriesModelYearIndex" */
-    CFG_COLOR stuVehicleColor;                          /* "VehicleColor", exactly 4 numbers */
-    CFG_COLOR stuPlateColor;                            /* "PlateColor", exactly 4 numbers */
-    char szName[64];                                    /* "Name": of the owner */
-    int32_t emSex;             /* "Sex": "Unknown" 0, "Male" 1, "Female" 2, 3 for other texts */
-    int32_t emCertificateType; /* "CertificateType": "Unknown" 0, "IC" 1, "Passport" 2, "Military" 3, 4 for others */
-    char szID[32];             /* "ID" */
-    char szCountry[4];         /* "Country" */
-    char szProvince[64];       /* "Province" */
-    char szCity[64];           /* "City" */
-    char szHomeAddress[128];   /* "HomeAddress" */
-    char szEmail[32];          /* "Email" */
-    char szPhoneNo[128];       /* "PhoneNo" */
+    uint32_t dwUID;                                     /* "Vehicle"."UID" */
+    char szGroupID[64];                                 /* "Vehicle"."GroupID" */
+    char szGroupName[128];                              /* "Vehicle"."GroupName" */
+    char szPlateNumber[64];                             /* "Vehicle"."PlateNumber" */
+    char szPlateCountry[4];                             /* "Vehicle"."PlateCountry" */
+    uint32_t dwPlateType;                               /* "Vehicle"."PlateType" */
+    uint32_t dwType;                                    /* "Vehicle"."Type" */
+    uint32_t dwBrand;                                   /* "Vehicle"."Brand" */
+    uint32_t dwSerie;                                   /* "Vehicle"."Serie" */
+    uint32_t dwCarSeriesModelYearIndex;                 /* "Vehicle"."CarSeriesModelYearIndex" */
+    CFG_COLOR stuVehicleColor;                          /* "Vehicle"."VehicleColor", exactly 4 numbers */
+    CFG_COLOR stuPlateColor;                            /* "Vehicle"."PlateColor", exactly 4 numbers */
+    char szName[64];                                    /* "Vehicle"."Name": of the owner */
+    int32_t emSex;             /* "Vehicle"."Sex": "Unknown" 0, "Male" 1, "Female" 2, 3 for other texts */
+    int32_t emCertificateType; /* "Vehicle"."CertificateType": "Unknown" 0, "IC" 1, "Passport" 2, "Military" 3, 4 for
+                                  others */
+    char szID[32];             /* "Vehicle"."ID" */
+    char szCountry[4];         /* "Vehicle"."Country" */
+    char szProvince[64];       /* "Vehicle"."Province" */
+    char szCity[64];           /* "Vehicle"."City" */
+    char szHomeAddress[128];   /* "Vehicle"."HomeAddress" */
+    char szEmail[32];          /* "Vehicle"."Email" */
+    char szPhoneNo[128];       /* "Vehicle"."PhoneNo" */
 } EVENT_CAR_CANDIDATE;
 
 #define ORRERY_EVENT_CAR_CANDIDATES 50

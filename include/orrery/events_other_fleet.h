@@ -157,7 +157,7 @@ enum {
 
 /* "TrafficFcc" (363): a vehicle was filled with fuel. */
 typedef struct DEV_EVENT_TRAFFICFCC_INFO {
-    ORRERY_EVENT_HEAD_A_WITH(int32_t nTriggerID); /* "TriggerID" */
+    ORRERY_EVENT_HEAD_A_WITH(int32_t nTriggerID); /* nTriggerID: "TriggerID" */
     uint32_t dwNum;                               /* "Num" */
     uint32_t dwLitre;                             /* "Litre" */
     int32_t emType;                               /* "Type": EVENT_FUEL_..., 0 for others */

@@ -109,7 +109,7 @@ typedef struct DEV_EVENT_TRAFFICUNDERSPEED_INFO {
     EVENT_FILE_INFO stuFileInfo;
     int32_t nSpeed;           /* "Speed": km/h */
     int32_t nUpperSpeedLimit; /* second number of "SpeedLimit", an array of at least 2: km/h */
-    int32_t nLowerSpeedLimit; /* its first */
+    int32_t nLowerSpeedLimit; /* the first of "SpeedLimit" */
     int32_t nSequence;        /* "Sequence" */
     ORRERY_EVENT_ACTION_AND_REPEAT;
     int32_t nUnderSpeedingPercentage; /* "UnderSpeedingPercentage" */

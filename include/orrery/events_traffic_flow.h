@@ -97,32 +97,32 @@ typedef struct EVENT_FLOW_STATE {
 
 /* Vehicles by type, "VehicleTypeFlow". */
 typedef struct EVENT_VEHICLE_TYPE_FLOW {
-    int32_t nPassengerCarVehicles; /* "PassengerCarVehicles", and so on */
-    int32_t nLargeTruckVehicles;
-    int32_t nMidTruckVehicles;
-    int32_t nSaloonCarVehicles;
-    int32_t nMicrobusVehicles;
-    int32_t nMicroTruckVehicles;
-    int32_t nTricycleVehicles;
-    int32_t nMotorcycleVehicles;
-    int32_t nPasserbyVehicles;
-    int32_t nBusVehicles;
-    int32_t nMPVVehicles;
-    int32_t nMidPassengerCarVehicles;
-    int32_t nMiniCarriageVehicles;
-    int32_t nOilTankTruckVehicles;
-    int32_t nPickupVehicles;
-    int32_t nSUVVehicles;
-    int32_t nSuvMpvVehicles;
-    int32_t nTankCarVehicles;
-    int32_t nUnknownVehicles;
+    int32_t nPassengerCarVehicles;    /* "PassengerCarVehicles" */
+    int32_t nLargeTruckVehicles;      /* "LargeTruckVehicles" */
+    int32_t nMidTruckVehicles;        /* "MidTruckVehicles" */
+    int32_t nSaloonCarVehicles;       /* "SaloonCarVehicles" */
+    int32_t nMicrobusVehicles;        /* "MicrobusVehicles" */
+    int32_t nMicroTruckVehicles;      /* "MicroTruckVehicles" */
+    int32_t nTricycleVehicles;        /* "TricycleVehicles" */
+    int32_t nMotorcycleVehicles;      /* "MotorcycleVehicles" */
+    int32_t nPasserbyVehicles;        /* "PasserbyVehicles" */
+    int32_t nBusVehicles;             /* "BusVehicles" */
+    int32_t nMPVVehicles;             /* "MPVVehicles" */
+    int32_t nMidPassengerCarVehicles; /* "MidPassengerCarVehicles" */
+    int32_t nMiniCarriageVehicles;    /* "MiniCarriageVehicles" */
+    int32_t nOilTankTruckVehicles;    /* "OilTankTruckVehicles" */
+    int32_t nPickupVehicles;          /* "PickupVehicles" */
+    int32_t nSUVVehicles;             /* "SUVVehicles" */
+    int32_t nSuvMpvVehicles;          /* "SuvMpvVehicles" */
+    int32_t nTankCarVehicles;         /* "TankCarVehicles" */
+    int32_t nUnknownVehicles;         /* "UnknownVehicles" */
 } EVENT_VEHICLE_TYPE_FLOW;
 
 /* [ "Approach", "North", "South" ] */
 typedef struct EVENT_FLOW_DIRECTION {
     int32_t emDirection; /* "Approach" 1, "Leave" 2 */
-    char szFrom[16];
-    char szTo[16];
+    char szFrom[16];     /* where the traffic comes from */
+    char szTo[16];       /* where it goes */
 } EVENT_FLOW_DIRECTION;
 
 enum {
@@ -137,47 +137,47 @@ enum { EVENT_FLOW_TURN_LEFT = 1, EVENT_FLOW_TURN_RIGHT = 2, EVENT_FLOW_STRAIGHT 
 #define ORRERY_EVENT_FLOW_STATES 8
 #define ORRERY_EVENT_FLOW_DIRECTIONS 16
 
-/* "TrafficFlowStat" (281): what passed. Behind the states all keys stand in "DetailInfo". */
+/* "TrafficFlowStat" (281): what passed. */
 typedef struct DEV_EVENT_TRAFFICFLOWSTAT_INFO {
     ORRERY_EVENT_HEAD_A;
     int32_t nSequence;                                    /* "Sequence" */
     int32_t nStateNum;                                    /* states in use */
     EVENT_FLOW_STATE stuStates[ORRERY_EVENT_FLOW_STATES]; /* "FlowStates" */
-    int32_t nVehicles;                                    /* "Vehicles" */
-    int32_t nLeftVehicles;                                /* "LeftVehicles" */
-    int32_t nRightVehicles;                               /* "RightVehicles" */
-    int32_t nStraightVehicles;                            /* "StraightVehicles" */
-    int32_t nUTurnVehicles;                               /* "UTurnVehicles" */
-    float fAverageSpeed;                                  /* "AverageSpeed": km/h */
-    float fAverageLength;                                 /* "AverageLength": metres */
-    float fTimeOccupyRatio;                               /* "TimeOccupyRatio": percent */
-    float fSpaceOccupyRatio;                              /* "SpaceOccupyRatio": percent */
-    float fSpaceHeadway;                                  /* "SpaceHeadway": metres */
-    float fTimeHeadway;                                   /* "TimeHeadway": seconds */
-    float fDensity;                                       /* "Density": vehicles a kilometre */
-    int32_t nOverSpeedVehicles;                           /* "OverSpeedVehicles" */
-    int32_t nUnderSpeedVehicles;                          /* "UnderSpeedVehicles" */
-    int32_t nLargeVehicles;                               /* "LargeVehicles" */
-    int32_t nMediumVehicles;                              /* "MediumVehicles" */
-    int32_t nSmallVehicles;                               /* "SmallVehicles" */
-    int32_t nMotoVehicles;                                /* "MotoVehicles" */
-    int32_t nLongVehicles;                                /* "LongVehicles" */
-    int32_t nVolume;                                      /* "Volume" */
-    int32_t nFlowRate;                                    /* "FlowRate" */
-    int32_t nTravelTime;                                  /* "TravelTime" */
-    double dBackOfQueue;                                  /* "BackOfQueue": metres */
-    int32_t nBackOfQueue;                                 /* the same without its fraction */
-    int32_t nDelay;                                       /* "Delay " with a blank, and only beside "Delay" without */
-    uint8_t byDirection[ORRERY_EVENT_FLOW_DIRECTIONS];    /* "Direction": EVENT_FLOW_..., 0 behind the last */
-    EVENT_VEHICLE_TYPE_FLOW stuVehicleTypeFlow;           /* "VehicleTypeFlow" */
-    EVENT_FLOW_DIRECTION stuDrivingDirection;             /* "DrivingDirection" */
-    int32_t emRank;                                       /* "Rank": "Rapid" 1, "Trunk" 2, "SubTrunk" 3, "Branch" 4 */
-    int32_t nState;                                       /* "State" */
-    int32_t bOccupyHeadCoil;                              /* "Occupyheadcoil" */
-    int32_t bOccupyTailCoil;                              /* "OccupyTailcoil" */
-    int32_t bStatistics;                                  /* "Statistics" */
-    EVENT_POINT stuQueueEnd;                              /* "QueueEnd", at least 2 numbers */
-    int32_t emClass;                                      /* "Class" */
+    int32_t nVehicles;                                    /* "DetailInfo"."Vehicles" */
+    int32_t nLeftVehicles;                                /* "DetailInfo"."LeftVehicles" */
+    int32_t nRightVehicles;                               /* "DetailInfo"."RightVehicles" */
+    int32_t nStraightVehicles;                            /* "DetailInfo"."StraightVehicles" */
+    int32_t nUTurnVehicles;                               /* "DetailInfo"."UTurnVehicles" */
+    float fAverageSpeed;                                  /* "DetailInfo"."AverageSpeed": km/h */
+    float fAverageLength;                                 /* "DetailInfo"."AverageLength": metres */
+    float fTimeOccupyRatio;                               /* "DetailInfo"."TimeOccupyRatio": percent */
+    float fSpaceOccupyRatio;                              /* "DetailInfo"."SpaceOccupyRatio": percent */
+    float fSpaceHeadway;                                  /* "DetailInfo"."SpaceHeadway": metres */
+    float fTimeHeadway;                                   /* "DetailInfo"."TimeHeadway": seconds */
+    float fDensity;                                       /* "DetailInfo"."Density": vehicles a kilometre */
+    int32_t nOverSpeedVehicles;                           /* "DetailInfo"."OverSpeedVehicles" */
+    int32_t nUnderSpeedVehicles;                          /* "DetailInfo"."UnderSpeedVehicles" */
+    int32_t nLargeVehicles;                               /* "DetailInfo"."LargeVehicles" */
+    int32_t nMediumVehicles;                              /* "DetailInfo"."MediumVehicles" */
+    int32_t nSmallVehicles;                               /* "DetailInfo"."SmallVehicles" */
+    int32_t nMotoVehicles;                                /* "DetailInfo"."MotoVehicles" */
+    int32_t nLongVehicles;                                /* "DetailInfo"."LongVehicles" */
+    int32_t nVolume;                                      /* "DetailInfo"."Volume" */
+    int32_t nFlowRate;                                    /* "DetailInfo"."FlowRate" */
+    int32_t nTravelTime;                                  /* "DetailInfo"."TravelTime" */
+    double dBackOfQueue;                                  /* "DetailInfo"."BackOfQueue": metres */
+    int32_t nBackOfQueue;                                 /* "DetailInfo"."BackOfQueue" without its fraction */
+    int32_t nDelay; /* from "Delay " with a blank, and only beside "Delay" without, of "DetailInfo" */
+    uint8_t byDirection[ORRERY_EVENT_FLOW_DIRECTIONS]; /* "DetailInfo"."Direction": EVENT_FLOW_..., 0 behind the last */
+    EVENT_VEHICLE_TYPE_FLOW stuVehicleTypeFlow;        /* "DetailInfo"."VehicleTypeFlow" */
+    EVENT_FLOW_DIRECTION stuDrivingDirection;          /* "DetailInfo"."DrivingDirection" */
+    int32_t emRank;          /* "DetailInfo"."Rank": "Rapid" 1, "Trunk" 2, "SubTrunk" 3, "Branch" 4 */
+    int32_t nState;          /* "DetailInfo"."State" */
+    int32_t bOccupyHeadCoil; /* "DetailInfo"."Occupyheadcoil" */
+    int32_t bOccupyTailCoil; /* "DetailInfo"."OccupyTailcoil" */
+    int32_t bStatistics;     /* "DetailInfo"."Statistics" */
+    EVENT_POINT stuQueueEnd; /* "DetailInfo"."QueueEnd", at least 2 numbers */
+    int32_t emClass;         /* "DetailInfo"."Class" */
 } DEV_EVENT_TRAFFICFLOWSTAT_INFO;
 
 /* ---- People and things on the road ---- */

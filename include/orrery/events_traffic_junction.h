@@ -36,7 +36,8 @@ typedef struct DEV_EVENT_TRAFFICJUNCTION_INFO {
     ORRERY_EVENT_HEAD_A_WITH(uint8_t byMainSeatBelt;     /* "MainSeat": EVENT_SAFE_BELT_... */
                              uint8_t bySlaveSeatBelt;    /* "SlaveSeat" */
                              uint8_t byVehicleDirection; /* "VehicleDirection": "Head" 1, "Tail" 2 */
-                             uint8_t byOpenStrobeState); /* "OpenStrobeState": "Close" 1, "Auto" 2, "Manual" 3 */
+                             uint8_t byOpenStrobeState); /* byOpenStrobeState: "OpenStrobeState": "Close" 1,
+ "Auto" 2, "Manual" 3 */
     EVENT_OBJECT_INFO stuObject;                         /* "Object": the plate */
     int32_t nLane;                                       /* "Lane" */
     uint32_t dwBreakingRule;                             /* "Breaking": EVENT_JUNCTION_... */
@@ -55,18 +56,18 @@ typedef struct DEV_EVENT_TRAFFICJUNCTION_INFO {
     EVENT_WEIGH_INFO stuWeigh;                   /* "Custom"."WeighInfo" */
     uint32_t dwTextSource;                       /* "TextSource" */
     EVENT_GPS_POINT stuGPS;                      /* "Custom"."GPS" */
-    uint8_t bNonMotorFeature;                    /* 1 when "NonMotorFeature" is there; what follows stands in it */
-    uint8_t byBag;                               /* "Bag" */
-    uint8_t byUmbrella;                          /* "Umbrella" */
-    uint8_t byCarrierBag;                        /* "CarrierBag" */
-    uint8_t byHat;                               /* "Hat" */
-    uint8_t byHelmet;                            /* "Helmet" */
-    uint8_t bySex;                               /* "Sex": "Male" 1, "Female" 2 */
-    uint8_t byAge;                               /* "Age" */
-    CFG_COLOR stuUpperBodyColor;                 /* "UpperBodyColor", exactly 4 numbers */
-    CFG_COLOR stuLowerBodyColor;                 /* "LowerBodyColor", exactly 4 numbers */
-    uint8_t byUpClothes;                         /* "UpClothes" */
-    uint8_t byDownClothes;                       /* "DownClothes" */
+    uint8_t bNonMotorFeature;                    /* 1 when "NonMotorFeature" is there */
+    uint8_t byBag;                               /* "NonMotorFeature"."Bag" */
+    uint8_t byUmbrella;                          /* "NonMotorFeature"."Umbrella" */
+    uint8_t byCarrierBag;                        /* "NonMotorFeature"."CarrierBag" */
+    uint8_t byHat;                               /* "NonMotorFeature"."Hat" */
+    uint8_t byHelmet;                            /* "NonMotorFeature"."Helmet" */
+    uint8_t bySex;                               /* "NonMotorFeature"."Sex": "Male" 1, "Female" 2 */
+    uint8_t byAge;                               /* "NonMotorFeature"."Age" */
+    CFG_COLOR stuUpperBodyColor;                 /* "NonMotorFeature"."UpperBodyColor", exactly 4 numbers */
+    CFG_COLOR stuLowerBodyColor;                 /* "NonMotorFeature"."LowerBodyColor", exactly 4 numbers */
+    uint8_t byUpClothes;                         /* "NonMotorFeature"."UpClothes" */
+    uint8_t byDownClothes;                       /* "NonMotorFeature"."DownClothes" */
     int32_t nTriggerType;                        /* "TriggerType", an integer */
     EVENT_TRAFFIC_CAR_INFO stuTrafficCar;        /* "TrafficCar" */
     int32_t nCardNum;                            /* cards in use */
@@ -80,14 +81,14 @@ typedef struct DEV_EVENT_TRAFFICJUNCTION_INFO {
 
 #define ORRERY_EVENT_AXLES 8
 
-/* "QSYTrafficCarWeight" (360): a vehicle was weighed at a junction. The weights stand in "CarWeightInfo". */
+/* "QSYTrafficCarWeight" (360): a vehicle was weighed at a junction. */
 typedef struct DEV_EVENT_QSYTRAFFICCARWEIGHT_INFO {
     DEV_EVENT_TRAFFICJUNCTION_INFO stuJunction;        /* all that the event tells of the junction */
-    uint32_t dwAxleNum;                                /* "AxleNum": at most 8 */
-    uint32_t dwMaxDistance;                            /* "MaxDistance" */
-    uint32_t dwAxleWeightInfo[ORRERY_EVENT_AXLES];     /* "AxleWeightInfo", one an axle */
-    uint32_t dwAxleLengthInfo[ORRERY_EVENT_AXLES - 1]; /* "AxleLengthInfo", one between two axles */
-    uint32_t dwOverWeight;                             /* "OverWeight" */
+    uint32_t dwAxleNum;                                /* "CarWeightInfo"."AxleNum": at most 8 */
+    uint32_t dwMaxDistance;                            /* "CarWeightInfo"."MaxDistance" */
+    uint32_t dwAxleWeightInfo[ORRERY_EVENT_AXLES];     /* "CarWeightInfo"."AxleWeightInfo", one an axle */
+    uint32_t dwAxleLengthInfo[ORRERY_EVENT_AXLES - 1]; /* "CarWeightInfo"."AxleLengthInfo", one between two axles */
+    uint32_t dwOverWeight;                             /* "CarWeightInfo"."OverWeight" */
 } DEV_EVENT_QSYTRAFFICCARWEIGHT_INFO;
 
 /* Bits of DEV_EVENT_TRAFFICGATE_INFO.dwBreakingRule. */
@@ -141,7 +142,7 @@ typedef struct DEV_EVENT_TRAFFICGATE_INFO {
     int32_t nLane;                     /* "Lane" */
     int32_t nSpeed;                    /* "Speed": km/h */
     int32_t nSpeedLowerLimit;          /* first number of "SpeedLimit", an array of at least 2: km/h */
-    int32_t nSpeedUpperLimit;          /* its second */
+    int32_t nSpeedUpperLimit;          /* the second of "SpeedLimit" */
     uint32_t dwBreakingRule;           /* "Breaking": EVENT_GATE_... */
     EVENT_FILE_INFO stuFileInfo;       /* byCount from "SnapTimes" and byIndex from "IndexInGroup", when present */
     EVENT_OBJECT_INFO stuVehicle;      /* "Vehicle" */
@@ -210,7 +211,7 @@ typedef struct DEV_EVENT_TRAFFICOVERSPEED_INFO {
     EVENT_FILE_INFO stuFileInfo;
     int32_t nSpeed;           /* "Speed": km/h */
     int32_t nUpperSpeedLimit; /* second number of "SpeedLimit", an array of at least 2: km/h */
-    int32_t nLowerSpeedLimit; /* its first */
+    int32_t nLowerSpeedLimit; /* the first of "SpeedLimit" */
     int32_t nSequence;        /* "Sequence" */
     ORRERY_EVENT_ACTION_AND_REPEAT;
     uint32_t dwFlagMask;

@@ -130,8 +130,8 @@ typedef struct DEV_EVENT_TRAFFICCOMPAREPLATE_INFO {
     char szBackPlateNumber[32];  /* "PlateInfo"."BackPlateNumber" */
     int32_t emFrontPlateColor;   /* "PlateInfo"."FrontPlateColor": EVENT_PLATE_COLOR_... */
     int32_t emBackPlateColor;    /* "PlateInfo"."BackPlateColor" */
-    EVENT_TIME stuFrontUTC;      /* "SnapTimeInfo"."FrontUTC" and "FrontUTCMS" */
-    EVENT_TIME stuBackUTC;       /* "SnapTimeInfo"."BackUTC" and "BackUTCMS" */
+    EVENT_TIME stuFrontUTC;      /* "SnapTimeInfo"."FrontUTC" and "SnapTimeInfo"."FrontUTCMS" */
+    EVENT_TIME stuBackUTC;       /* "SnapTimeInfo"."BackUTC" and "SnapTimeInfo"."BackUTCMS" */
 } DEV_EVENT_TRAFFICCOMPAREPLATE_INFO;
 
 #ifdef __cplusplus

@@ -25,11 +25,11 @@ enum {
 
 /* Text form: [ "Preset", value, param1, param2, param3 ], exactly five elements. */
 typedef struct CFG_PTZ_LINK {
-    int32_t emType; /* CFG_PTZ_LINK_... */
-    int32_t nValue;
-    int32_t nParam1;
-    int32_t nParam2;
-    int32_t nParam3;
+    int32_t emType;  /* CFG_PTZ_LINK_... */
+    int32_t nValue;  /* number of the preset, tour or pattern */
+    int32_t nParam1; /* the device's own */
+    int32_t nParam2; /* the device's own */
+    int32_t nParam3; /* the device's own */
 } CFG_PTZ_LINK;
 
 /* A title shown in the picture. */
@@ -194,10 +194,11 @@ typedef struct CFG_EVENT_HANDLER_INFO {
  * point, a size or a colour with another size word is written as null. */
 
 typedef struct CFG_TIME_SECTION_V2 {
-    uint32_t dwSize; /* 32 */
-    CFG_TIME_SECTION stuSection;
+    uint32_t dwSize;             /* 32 */
+    CFG_TIME_SECTION stuSection; /* the period */
 } CFG_TIME_SECTION_V2;
 
+/* Members are as in CFG_POINT. */
 typedef struct CFG_POINT_V2 {
     uint32_t dwSize; /* 12 */
     int32_t nX;
@@ -206,10 +207,11 @@ typedef struct CFG_POINT_V2 {
 
 typedef struct CFG_SIZE_V2 {
     uint32_t dwSize; /* 12 */
-    int32_t nWidth;
-    int32_t nHeight;
+    int32_t nWidth;  /* first number */
+    int32_t nHeight; /* second number */
 } CFG_SIZE_V2;
 
+/* Members are as in CFG_COLOR. */
 typedef struct CFG_COLOR_V2 {
     uint32_t dwSize; /* 20 */
     int32_t nRed;
@@ -218,6 +220,7 @@ typedef struct CFG_COLOR_V2 {
     int32_t nAlpha;
 } CFG_COLOR_V2;
 
+/* Members are as in CFG_PTZ_LINK. */
 typedef struct CFG_PTZ_LINK_V2 {
     uint32_t dwSize; /* 24 */
     int32_t emType;  /* CFG_PTZ_LINK_...; only 1 to 3 are written */

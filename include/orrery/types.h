@@ -12,11 +12,11 @@ extern "C" {
 typedef struct CFG_TIME_SECTION {
     int32_t dwMask;     /* leading number: a flag or mask word, 0 (off) or 1 (on) for most users */
     int32_t nBeginHour; /* 0 to 24 */
-    int32_t nBeginMin;
-    int32_t nBeginSec;
-    int32_t nEndHour;
-    int32_t nEndMin;
-    int32_t nEndSec;
+    int32_t nBeginMin;  /* 0 to 59 */
+    int32_t nBeginSec;  /* 0 to 59 */
+    int32_t nEndHour;   /* 0 to 24 */
+    int32_t nEndMin;    /* 0 to 59 */
+    int32_t nEndSec;    /* 0 to 59 */
 } CFG_TIME_SECTION;
 
 #define ORRERY_WEEK_DAYS 7          /* rows of a week, Sunday first */
@@ -27,7 +27,7 @@ typedef struct CFG_TIME_SECTION {
 /* A week of sections and a holiday row. Text form: an array of 7 or 8 arrays of sections. */
 typedef struct CFG_TIME_SCHEDULE {
     int32_t bEnableHoliday; /* non-zero when the eighth row is in use */
-    CFG_TIME_SECTION stuTimeSection[ORRERY_SCHEDULE_DAYS][ORRERY_DAY_SECTIONS];
+    CFG_TIME_SECTION stuTimeSection[ORRERY_SCHEDULE_DAYS][ORRERY_DAY_SECTIONS]; /* Sunday to Saturday, holidays */
 } CFG_TIME_SCHEDULE;
 
 /* A rectangle. Text form: [ left, top, right, bottom ], exactly four numbers. */
@@ -40,8 +40,8 @@ typedef struct CFG_RECT {
 
 /* A point. Text form: [ x, y ], exactly two numbers. */
 typedef struct CFG_POINT {
-    int32_t nX;
-    int32_t nY;
+    int32_t nX; /* from the left */
+    int32_t nY; /* from the top */
 } CFG_POINT;
 
 /* A size. Text form: [ width, height ], exactly two numbers; fractions of the text are dropped on reading. */
@@ -52,10 +52,10 @@ typedef struct CFG_SIZE {
 
 /* A colour. Text form: [ red, green, blue, alpha ], exactly four numbers from 0 to 255. */
 typedef struct CFG_COLOR {
-    int32_t nRed;
-    int32_t nGreen;
-    int32_t nBlue;
-    int32_t nAlpha;
+    int32_t nRed;   /* 0 to 255 */
+    int32_t nGreen; /* 0 to 255 */
+    int32_t nBlue;  /* 0 to 255 */
+    int32_t nAlpha; /* 0 to 255 */
 } CFG_COLOR;
 
 /* A corner of a polygon. Text form of a polygon: an array of [ x, y ]. */
@@ -66,15 +66,15 @@ typedef struct CFG_POLYGON {
 
 /* A moment in calendar fields. Text form: "2026-11-20 09:30:00". */
 typedef struct NET_TIME {
-    int32_t dwYear;
-    int32_t dwMonth; /* 1 to 12 */
-    int32_t dwDay;   /* 1 to 31 */
-    int32_t dwHour;
-    int32_t dwMinute;
-    int32_t dwSecond;
+    int32_t dwYear;   /* such as 2026 */
+    int32_t dwMonth;  /* 1 to 12 */
+    int32_t dwDay;    /* 1 to 31 */
+    int32_t dwHour;   /* 0 to 23 */
+    int32_t dwMinute; /* 0 to 59 */
+    int32_t dwSecond; /* 0 to 59 */
 } NET_TIME;
 
-/* A moment with milliseconds. Text form: "2026-11-20 09:30:00.250". */
+/* A moment with milliseconds, otherwise as in NET_TIME. Text form: "2026-11-20 09:30:00.250". */
 typedef struct NET_TIME_EX {
     int32_t dwYear;
     int32_t dwMonth;
@@ -82,14 +82,14 @@ typedef struct NET_TIME_EX {
     int32_t dwHour;
     int32_t dwMinute;
     int32_t dwSecond;
-    int32_t dwMillisecond;
+    int32_t dwMillisecond; /* 0 to 999 */
 } NET_TIME_EX;
 
 /* A moment that begins with its size. With another size word it is neither read nor written: null stands in its place.
  */
 typedef struct NET_TIME_V2 {
-    uint32_t dwSize; /* 28 */
-    NET_TIME stuTime;
+    uint32_t dwSize;  /* 28 */
+    NET_TIME stuTime; /* as a text of its own: "2026-11-20 09:30:00" */
 } NET_TIME_V2;
 
 /* Kinds of sensor behind an alarm input ("SenseMethod"). */

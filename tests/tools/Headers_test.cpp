@@ -1,0 +1,227 @@
+// The public headers are a second source: what a member's comment quotes is held against the row that reads and writes
+// it. Neither is made from the other.
+//
+//     int32_t nPort;    /* "Port": the first quoted name is the member's key */
+//     int32_t nSlot;    /* "Address"."Slot": of the object "Address" */
+//     int32_t nLinks;   /* entries of stuLinks in use: without a key no comment begins with a quote */
+//     int32_t bIsOpen;  /* "IsOpen" or, of older devices, "Open": a second key stands behind the first */
+#include "tools/Headers.h"
+
+#include "frame/Commands.h"
+#include "orrery/Tables.h"
+#include "orrery/Words.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+
+namespace orrery::tool {
+namespace {
+
+using record::Field;
+using record::Kind;
+using record::Slot;
+using record::Table;
+
+struct HeaderTexts {
+    std::map<std::string, test::HeaderRecord> records;
+    std::map<std::string, std::string> shared;
+};
+
+const HeaderTexts& Headers() {
+    static const auto headers = [] {
+        const std::string include = std::string(ORRERY_SOURCE_DIR) + "/include";
+        const std::string command =
+            std::string(ORRERY_COMPILER) + " -x c++ -E -CC -I '" + include + "' '" + include + "/orrery/orrery.h'";
+        std::string text;
+        if (std::FILE* const pipe = popen(command.c_str(), "r"); pipe != nullptr) {
+            char part[65536];
+            for (std::size_t got = 0; (got = std::fread(part, 1, sizeof part, pipe)) > 0;)
+                text.append(part, got);
+            EXPECT_EQ(pclose(pipe), 0) << command;
+        }
+        const test::HeaderScanner scanner(text);
+        HeaderTexts texts;
+        for (const test::HeaderRecord& record : scanner.records)
+            texts.records.emplace(record.name, record);
+        texts.shared = scanner.shared;
+        return texts;
+    }();
+    return headers;
+}
+
+// What the headers say of a member: behind or above it; else in the record that the comment above its own names
+// ("members without a word are as in EVENT_OBJECT_INFO"); else, in an event, among its head and its closing fields.
+std::string WordOf(const test::HeaderRecord& record, const test::HeaderMember& member) {
+    for (const test::HeaderMember& each : record.members) { // "byName: ..." behind a macro that declares byName
+        if (each.behind.starts_with(member.name + ": ")) return each.behind.substr(member.name.size() + 2);
+    }
+    const bool isOfAnother =
+        record.Find(member.behind.substr(0, std::min(member.behind.find(':'), member.behind.size())));
+    if (!member.behind.empty() && !isOfAnother) return member.behind;
+    constexpr std::string_view kAsIn = "as in ";
+    if (const std::size_t at = record.comment.find(kAsIn); at != std::string::npos) {
+        std::string name = record.comment.substr(at + kAsIn.size());
+        name.resize(std::min(name.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ_0123456789"), name.size()));
+        const auto other = Headers().records.find(name);
+        const test::HeaderMember* const same =
+            other == Headers().records.end() ? nullptr : other->second.Find(member.name);
+        if (same != nullptr) return WordOf(other->second, *same);
+    }
+    if (record.name.starts_with("DEV_EVENT_")) {
+        const auto shared = Headers().shared.find(member.name);
+        if (shared != Headers().shared.end()) return shared->second;
+    }
+    return member.above;
+}
+
+// A row whose value stands in the text.
+bool HasKey(const Field& field) {
+    return field.key != nullptr && field.key[0] != '\0';
+}
+
+// Members that other rows use, and those without meaning: their kind says all that there is to say.
+bool IsOfNamedKind(const Table& table, const Field& field) {
+    if (field.kind == Kind::Size || table.shape != record::Shape::Object) return true;
+    if (std::string_view(field.name).find("Reserved") != std::string_view::npos) return true;
+    return std::any_of(table.begin(), table.end(), [&](const Field& other) {
+        const Slot slots[] = {other.flag, other.count, other.capacity};
+        return std::any_of(std::begin(slots), std::end(slots), [&](const Slot& slot) {
+            return slot.exists() && slot.offset == field.offset && field.size != 0;
+        });
+    });
+}
+
+// Whether a comment's key is the row's.
+bool Names(const std::string& quoted, const Table& table, const Field& field) {
+    const std::string_view key = field.key;
+    if (quoted == key) return true;
+    // What functions read inside the value of a row.
+    if (field.kind == Kind::Custom && quoted.starts_with(std::string(key) + "/")) return true;
+    // "params/channel", read beside the table, is the reply's "channel".
+    if (field.fromRoot && key.ends_with("/" + quoted)) return true;
+    // Told once above the records of rules: what is not the rule's own stands in its "Config".
+    return std::string_view(table.record).starts_with("CFG_RULE_") && "Config/" + quoted == key;
+}
+
+void Compare(const Table& table, std::vector<std::string>& findings) {
+    const auto found = Headers().records.find(table.record);
+    if (found == Headers().records.end()) {
+        findings.push_back(std::string(table.record) + " stands in no header");
+        return;
+    }
+    // Where no row has one, a function of the record's fills it.
+    const bool hasKeys = std::any_of(table.begin(), table.end(), HasKey);
+    for (const Field& field : table) {
+        if (field.size == 0 || field.name[0] == '\0') continue; // no member
+        const std::string place = std::string(table.record) + "." + field.name;
+        const test::HeaderMember* const member =
+            found->second.Find(std::string_view(field.name).substr(0, std::string_view(field.name).find('.')));
+        if (member == nullptr) {
+            findings.push_back(place + " stands in no header");
+            continue;
+        }
+        const std::string word = WordOf(found->second, *member);
+        const std::vector<std::string> quoted = test::QuotedKeys(word);
+        if (HasKey(field)) {
+            const bool isSecond = field.alias || field.kind == Kind::Presence || member->name != field.name;
+            const bool named = isSecond
+                                   ? std::any_of(quoted.begin(), quoted.end(),
+                                                 [&](const std::string& each) { return Names(each, table, field); })
+                                   : !quoted.empty() && Names(quoted.front(), table, field);
+            if (!named) {
+                findings.push_back(place + " has the key \"" + field.key + "\", but its comment says: " + word);
+            }
+        } else if (word.empty()) {
+            if (!IsOfNamedKind(table, field)) {
+                findings.push_back(place + " has neither key nor comment");
+            }
+        } else if (word.starts_with('"') && hasKeys) {
+            // It may tell of the key of another row, whose function or flag it is.
+            const bool isOfTable = std::any_of(table.begin(), table.end(), [&](const Field& other) {
+                return HasKey(other)
+                       && (Names(quoted.front(), table, other)
+                           || std::string_view(other.key).starts_with(quoted.front() + "/"));
+            });
+            if (!isOfTable) findings.push_back(place + " has no key, but its comment says: " + word);
+        }
+    }
+}
+
+TEST(Headers, AreReadAsWritten) {
+    const test::HeaderScanner scanner(R"(
+extern "C" {
+/*
+ * nShared, nOther  "Told once",
+ *                  on two lines */
+# 7 "file.h"
+/* "Command": first
+ * and second line. */
+typedef struct FIRST_INFO {
+    int32_t nPort; /* "Port": 1 to
+                      65535 */
+    /* Above. */
+    char szName[64 /* of a constant */];
+    int32_t nSlot[2]; /* "Address"."Slot", "Old" */ uint8_t bLast /* of a macro's last member */;
+    const char* pszText;
+} FIRST_INFO;
+typedef struct SECOND_INFO { int32_t nChannels[4][2]; /* "Lists"[..]."Channel" */ } SECOND_INFO;
+}
+)");
+    ASSERT_EQ(scanner.records.size(), 2U);
+    const test::HeaderRecord& first = scanner.records[0];
+    EXPECT_EQ(first.name, "FIRST_INFO");
+    EXPECT_TRUE(first.comment.ends_with("\"Command\": first and second line."));
+    ASSERT_EQ(first.members.size(), 5U);
+    EXPECT_EQ(first.Find("nPort")->behind, "\"Port\": 1 to 65535");
+    EXPECT_EQ(first.Find("szName")->behind, "");
+    EXPECT_EQ(first.Find("szName")->above, "Above.");
+    EXPECT_EQ(test::QuotedKeys(first.Find("nSlot")->behind), (std::vector<std::string>{"Address/Slot", "Old"}));
+    EXPECT_EQ(first.Find("bLast")->behind, "of a macro's last member");
+    EXPECT_EQ(first.Find("pszText")->behind, "");
+    EXPECT_EQ(test::QuotedKeys(scanner.records[1].Find("nChannels")->behind),
+              std::vector<std::string>{"Lists/Channel"});
+    EXPECT_EQ(scanner.shared.at("nShared"), "\"Told once\", on two lines");
+    EXPECT_EQ(scanner.shared.at("nOther"), "\"Told once\", on two lines");
+}
+
+TEST(Headers, QuoteEachMembersKey) {
+    ASSERT_GT(Headers().records.size(), 200U);
+    std::vector<std::string> findings;
+    const Tables tables;
+    for (const Table* const table : tables.all)
+        Compare(*table, findings);
+    std::sort(findings.begin(), findings.end()); // several tables may describe one record
+    findings.erase(std::unique(findings.begin(), findings.end()), findings.end());
+    for (const std::string& finding : findings)
+        ADD_FAILURE() << finding;
+}
+
+// Also in records that no table describes, such as those that functions read.
+TEST(Headers, SayAWordOfEachMember) {
+    const Tables tables;
+    for (const auto& [name, record] : Headers().records) {
+        const bool isOurs = name.starts_with("CFG_") || name.starts_with("EVENT_") || name.starts_with("NET_");
+        if (!isOurs || !tables.Of(name).empty()) continue;
+        for (const test::HeaderMember& member : record.members) {
+            const bool isFlag = member.name.starts_with("ab") && record.Find("n" + member.name.substr(2)) != nullptr;
+            if (isFlag || member.name.find("Reserved") != std::string::npos || member.name == "dwSize") continue;
+            EXPECT_NE(WordOf(record, member), "") << name << "." << member.name;
+        }
+    }
+}
+
+// Who looks for a command finds its record, and there what the command does otherwise than all.
+TEST(Headers, NameEachCommandAboveItsRecord) {
+    for (const Command& command : Commands()) {
+        const auto record = Headers().records.find(command.table->record);
+        ASSERT_NE(record, Headers().records.end()) << command.name;
+        EXPECT_NE(record->second.comment.find("\"" + std::string(command.name) + "\""), std::string::npos)
+            << command.table->record << " serves \"" << command.name
+            << "\", but the comment above it says: " << record->second.comment;
+    }
+}
+
+} // namespace
+} // namespace orrery::tool
