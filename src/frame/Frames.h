@@ -82,7 +82,7 @@ enum class ReplyLength : std::uint8_t {
 // How far apart a caller's records are.
 enum class Stride : std::uint8_t {
     Record,          // the record's own size
-    SizeWord,        // the caller's first size word; each record passes through a local one, as a block
+    SizeWord,        // the caller's first size word: each record passes through a local one, which moves as a block
     SizeWordByField, // the same, moved field by field
 };
 
@@ -121,7 +121,13 @@ struct ParseFrame {
     constexpr ParseFrame Null(NullValue what) const { return With(*this, &ParseFrame::nullValue, what); }
     constexpr ParseFrame Clears(Clearing what) const { return With(*this, &ParseFrame::clearing, what); }
     constexpr ParseFrame Length(ReplyLength what) const { return With(*this, &ParseFrame::length, what); }
-    constexpr ParseFrame Strides(Stride what) const { return With(*this, &ParseFrame::stride, what); }
+    // With a size word each record is read into a fresh local one, so that absent keys give their defaults and flags
+    // tell of this text alone; of the caller's record only its size word and its pointers count. Nothing else is
+    // cleared.
+    constexpr ParseFrame Strides(Stride what) const {
+        return With(With(*this, &ParseFrame::stride, what), &ParseFrame::clearing,
+                    what == Stride::Record ? clearing : Clearing::Kept);
+    }
     constexpr ParseFrame ExactSize() const { return With(*this, &ParseFrame::exactSize, true); }
     // A null element is read as a record without keys, where others leave its slot alone.
     constexpr ParseFrame ReadsNulls() const { return With(*this, &ParseFrame::readsNulls, true); }

@@ -4,7 +4,7 @@
 #include "frame/Deliver.h"
 #include "frame/JsonParser.h"
 #include "frame/LocalText.h"
-#include "frame/Platform/ParamConvert.h"
+#include "frame/Platform/Versioned.h"
 #include "frame/record/Engine.h"
 
 #include <cstring>
@@ -22,9 +22,7 @@ constexpr std::size_t kNearbyText = std::size_t{8} << 10;
 // What is written: records at a stride, in one of the forms.
 struct Content {
     const record::Table& table;
-    const std::byte* first;
-    std::uint32_t stride;
-    std::uint32_t count;
+    record::RecordList records;
     Form form; // One, Array, ByMember or Nothing
     std::string_view quotedKey;
     bool everyPlace = false; // of an array: also a null behind the last record that is written
@@ -33,15 +31,16 @@ struct Content {
 // Records that their table holds back are null in their place; behind the last one written there is no place, and a
 // list that nothing was put in is null itself.
 void WriteArray(const Content& content, WriteCall& call) noexcept {
-    const auto record = [&](std::uint32_t i) { return content.first + std::size_t{i} * content.stride; };
-    std::uint32_t end = content.count;
-    while (!content.everyPlace && end > 0 && !record::IsWritten(content.table, record(end - 1)))
+    const record::RecordList& records = content.records;
+    std::uint32_t end = records.count;
+    while (!content.everyPlace && end > 0 && !record::IsWritten(content.table, records[end - 1]))
         --end;
     if (end == 0) return call.out.Null();
     call.out.BeginArray();
     for (std::uint32_t i = 0; i < end; ++i) {
-        if (record::IsWritten(content.table, record(i)))
-            record::WriteRecord(content.table, record(i), call);
+        const std::byte* const record = records[i];
+        if (record::IsWritten(content.table, record))
+            record::WriteRecord(content.table, record, call);
         else
             call.out.Null();
     }
@@ -50,9 +49,9 @@ void WriteArray(const Content& content, WriteCall& call) noexcept {
 
 // The records that their table lets out, under their names; without any the value is null, as a list's is.
 void WriteMembers(const Content& content, WriteCall& call) noexcept {
-    for (std::uint32_t i = 0; i < content.count; ++i) {
-        if (!record::IsWritten(content.table, content.first + std::size_t{i} * content.stride)) continue;
-        return record::WriteByName(content.table, content.first, content.count, content.stride, call);
+    for (std::uint32_t i = 0; i < content.records.count; ++i) {
+        if (!record::IsWrittenByName(content.table, content.records[i])) continue;
+        return record::WriteByName(content.table, content.records, call);
     }
     call.out.Null();
 }
@@ -79,8 +78,8 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
         out.Null();
         break;
     default:
-        if (record::IsWritten(content.table, content.first))
-            record::WriteRecord(content.table, content.first, call);
+        if (const std::byte* const record = content.records[0]; record::IsWritten(content.table, record))
+            record::WriteRecord(content.table, record, call);
         else
             out.Null();
         break;
@@ -118,51 +117,54 @@ Outcome Deliver(const Content& content, const PackFrame& frame, const PackReques
     return DeliverText([&](json::TextWriter& out) { return WriteText(content, out); }, frame.capacity, request);
 }
 
+// Where callers' records of another layout pass through.
+struct LocalRecord {
+    VersionedRecords versioned;
+    std::byte* record;
+};
+
+const std::byte* TakeRecord(const void* context, const std::byte* caller) noexcept {
+    const auto& local = *static_cast<const LocalRecord*>(context);
+    local.versioned.Take(caller, local.record);
+    return local.record;
+}
+
 } // namespace
 
 Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const PackRequest& request) noexcept {
     const auto* const first = static_cast<const std::byte*>(request.record);
     std::uint32_t stride = table.size;
     if (frame.stride != Stride::Record) {
-        if (request.recordSize < sizeof stride) return Outcome::RecordTooSmall;
-        stride = record::Load<std::uint32_t>(first);
-        if (stride == 0 || stride > request.recordSize) return Outcome::RecordTooSmall;
+        stride = StrideByWord(frame.stride, first, request.recordSize);
+        if (stride == 0) return Outcome::RecordTooSmall;
     }
     if (frame.exactSize ? request.recordSize != stride : request.recordSize < stride) return Outcome::RecordTooSmall;
     if (frame.accepts != nullptr && !frame.accepts(first, request.recordSize)) return Outcome::NotAccepted;
 
-    Content content{table, first, stride, request.recordSize / stride, frame.form, frame.quotedKey};
-    if (frame.form == Form::BareIfOne) content.form = content.count == 1 ? Form::One : Form::Array;
-    if (frame.formBy != nullptr) content.form = frame.formBy(first, content.count);
+    Content content{table, {first, request.recordSize / stride, stride}, frame.form, frame.quotedKey};
+    std::uint32_t& count = content.records.count;
+    if (frame.form == Form::BareIfOne) content.form = count == 1 ? Form::One : Form::Array;
+    if (frame.formBy != nullptr) content.form = frame.formBy(first, count);
     if (frame.form == Form::BareIfExact) content.form = request.recordSize == stride ? Form::One : Form::Array;
-    if (content.form == Form::One) content.count = 1;
+    if (content.form == Form::One) count = 1;
     if (frame.stride == Stride::Record) return Deliver(content, frame, request);
 
-    // Callers' records of another layout pass through local ones of this library's.
     StackArena<std::size_t{4} << 10> arena;
-    auto* const locals = arena.Array<std::byte>(std::size_t{content.count} * table.size);
-    if (locals == nullptr) return Outcome::OutOfMemory;
-    std::memset(locals, 0, std::size_t{content.count} * table.size);
-    for (std::uint32_t i = 0; i < content.count; ++i) {
-        std::byte* const local = locals + std::size_t{i} * table.size;
-        const std::byte* const source = first + std::size_t{i} * stride;
-        record::SetSizeWords(table, local);
-        if (frame.stride == Stride::SizeWord)
-            ParamConvert(source, stride, local, table.size);
-        else
-            ConvertFields(table, source, stride, local, table.size);
-    }
-    content.first = locals;
-    content.stride = table.size;
+    const LocalRecord local{{table, frame.stride, stride}, arena.Array<std::byte>(table.size)};
+    if (local.record == nullptr) return Outcome::OutOfMemory;
+    local.versioned.Prepare(local.record);
+    content.records.take = TakeRecord;
+    content.records.context = &local;
     return Deliver(content, frame, request);
 }
 
 Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept {
     const auto* const first = static_cast<const std::byte*>(request.record);
-    Content content{table, first, table.size, 1, Form::One, {}, true};
-    if (frame.arrayForm) content.count = request.recordSize / table.size;
-    if (frame.alwaysArray || content.count >= 2) content.form = Form::Array;
-    if (content.count == 0) content.form = Form::Array; // no record: the text of a list that nothing was put in
+    Content content{table, {first, 1, table.size}, Form::One, {}, true};
+    std::uint32_t& count = content.records.count;
+    if (frame.arrayForm) count = request.recordSize / table.size;
+    if (frame.alwaysArray || count >= 2) content.form = Form::Array;
+    if (count == 0) content.form = Form::Array; // no record: the text of a list that nothing was put in
 
     StackArena<std::size_t{4} << 10> arena;
     if (!frame.arrayForm && request.recordSize < table.size) {
@@ -171,7 +173,7 @@ Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, co
         if (whole == nullptr) return Outcome::OutOfMemory;
         std::memset(whole, 0, table.size);
         std::memcpy(whole, first, request.recordSize);
-        content.first = whole;
+        content.records.first = whole;
     }
     // What a row's function thinks of its record is not asked here, as it is not when reading: what it wrote stands.
     const auto write = [&](json::TextWriter& out) {

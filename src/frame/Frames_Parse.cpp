@@ -1,11 +1,12 @@
 #include "frame/Frames.h"
 
 #include "frame/Document.h"
-#include "frame/Platform/ParamConvert.h"
+#include "frame/Platform/Versioned.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace orrery {
 
@@ -90,9 +91,10 @@ class Records {
   public:
     Records(const record::Table& table, const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride,
             ReadCall& call) noexcept
-        : table_(table), frame_(frame), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
-          room_(request.bufferSize / stride), call_(call) {
-        if (frame.stride != Stride::Record) local_ = call.parser.text().arena().Array<std::byte>(table.size);
+        : table_(table), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
+          room_(request.bufferSize / stride), clears_(frame.clearing == Clearing::Read),
+          isVersioned_(frame.stride != Stride::Record), versioned_(table, frame.stride, stride), call_(call) {
+        if (isVersioned_) local_ = call.parser.text().arena().Array<std::byte>(table.size);
     }
 
     bool isFull() const noexcept { return used_ == room_; }
@@ -108,34 +110,31 @@ class Records {
         std::byte* const at = first_ + std::size_t{used_} * stride_;
         call_.index = used_++;
         ++filled_;
-        if (frame_.clearing == Clearing::Read) std::memset(at, 0, stride_);
-        if (frame_.stride == Stride::Record) return record::ReadRecord(table_, value, at, call_, memberName);
-        if (local_ == nullptr) return;
-        // The local record picks up what the caller set, pointers and capacities above all.
-        std::memset(local_, 0, table_.size);
-        record::SetSizeWords(table_, local_);
-        Convert(at, stride_, local_, table_.size);
-        record::ReadRecord(table_, value, local_, call_, memberName);
-        Convert(local_, table_.size, at, stride_);
+        if (isVersioned_) return ReadVersioned(value, at, memberName);
+        if (clears_) std::memset(at, 0, stride_);
+        record::ReadRecord(table_, value, at, call_, memberName);
     }
 
   private:
-    void Convert(const std::byte* source, std::uint32_t sourceSize, std::byte* destination,
-                 std::uint32_t destinationSize) const noexcept {
-        // A size that cannot be converted has been logged; the call goes on with what there is.
-        if (frame_.stride == Stride::SizeWord)
-            ParamConvert(source, sourceSize, destination, destinationSize);
-        else
-            ConvertFields(table_, source, sourceSize, destination, destinationSize);
+    // A record that ends the call stays as the caller had it.
+    void ReadVersioned(const Value& value, std::byte* at, std::string_view memberName) noexcept {
+        if (local_ == nullptr) return;
+        const bool wasRefused = std::exchange(call_.refused, false);
+        versioned_.Start(at, local_);
+        record::ReadRecord(table_, value, local_, call_, memberName);
+        if (!call_.refused) versioned_.Return(local_, at);
+        call_.refused = call_.refused || wasRefused;
     }
 
     const record::Table& table_;
-    const ParseFrame& frame_;
     std::byte* first_;
     std::uint32_t stride_;
     std::uint32_t room_;
     std::uint32_t used_ = 0;
     std::uint32_t filled_ = 0;
+    bool clears_;
+    bool isVersioned_;
+    VersionedRecords versioned_;
     std::byte* local_ = nullptr;
     ReadCall& call_;
 };
@@ -173,9 +172,8 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     auto* const buffer = static_cast<std::byte*>(request.buffer);
     std::uint32_t stride = table.size;
     if (frame.stride != Stride::Record) {
-        if (request.bufferSize < sizeof stride) return Outcome::BufferTooSmall;
-        stride = record::Load<std::uint32_t>(buffer);
-        if (stride == 0 || stride > request.bufferSize) return Outcome::BufferTooSmall;
+        stride = StrideByWord(frame.stride, buffer, request.bufferSize);
+        if (stride == 0) return Outcome::BufferTooSmall;
     }
     const bool isShort = request.bufferSize < stride;
     if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;

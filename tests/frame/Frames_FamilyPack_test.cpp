@@ -241,7 +241,7 @@ TEST(FamilyPack, CallersOfOtherLayouts) {
         EXPECT_EQ(Pack(kVersioned, frame, newer, sizeof newer).text(), "[ " + first + ", " + second + " ]\n");
         EXPECT_EQ(Pack(kVersioned, frame, &older, 8).text(), "{ \"Id\" : 7, \"Level\" : 0, \"Name\" : \"\" }\n");
     }
-    for (const std::uint32_t word : {0u, 21u}) {
+    for (const std::uint32_t word : {0u, 1u, 3u, 21u}) {
         const Versioned bad{word, 1, "", 0};
         EXPECT_EQ(Pack(kVersioned, kPackByWord, &bad, sizeof bad).outcome, Outcome::RecordTooSmall) << word;
         EXPECT_TRUE(Pack(kVersioned, kPackByWord, &bad, sizeof bad).isUntouched());

@@ -383,7 +383,7 @@ TABLE(kVersioned, Versioned,
       });
 
 constexpr ParseFrame kByWord =
-    ParseFrame().Strides(Stride::SizeWord).Clears(Clearing::Kept).Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
+    ParseFrame().Strides(Stride::SizeWord).Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
 constexpr ParseFrame kByField = kByWord.Strides(Stride::SizeWordByField);
 const std::string kVersionedText = R"({ "Id" : 1, "Name" : "abcdefgh", "Level" : 3 })";
 
@@ -447,23 +447,54 @@ TEST(FamilyParse, RecordsStandAtTheCallersStride) {
     EXPECT_EQ(c.word(4), 1);
     EXPECT_EQ(c.text(24, 24), std::string(24, '\xCD'));
     EXPECT_EQ(c.word(48 + 4), 3);
-    EXPECT_EQ(c.word(48 + 16), static_cast<std::int32_t>(0xCDCDCDCD)); // the caller's value stands for a missing key
+    EXPECT_EQ(c.word(48), static_cast<std::int32_t>(0xCDCDCDCD)); // later size words are neither read nor written
+    EXPECT_EQ(c.word(48 + 16), 0);                                // what a missing key gives, not what stood there
+    EXPECT_EQ(c.text(48 + 20, 7), std::string(7, '\xCD'));
 }
 
 TEST(FamilyParse, SizeWordsThatCannotBe) {
-    for (const std::uint32_t word : {0u, 21u, 0xFFFFFFFFu}) {
-        const auto c = ParseSized(kByWord, kVersionedText, word, 20);
-        EXPECT_EQ(c.outcome, Outcome::BufferTooSmall) << word;
+    for (const ParseFrame& frame : {kByWord, kByField}) {
+        for (const std::uint32_t word : {0u, 1u, 3u, 21u, 0xFFFFFFFFu}) {
+            const auto c = ParseSized(frame, kVersionedText, word, 20);
+            EXPECT_EQ(c.outcome, Outcome::BufferTooSmall) << word;
+            EXPECT_EQ(c.length, kBefore) << word;
+            EXPECT_EQ(c.word(0), static_cast<std::int32_t>(word));
+            EXPECT_EQ(c.text(4, 16), std::string(16, '\xCD'));
+        }
+        EXPECT_EQ(ParseSized(frame, kVersionedText, 0, 3).outcome, Outcome::BufferTooSmall);
+        // A word of 4 moves no field; the call goes on.
+        const auto c = ParseSized(frame, kVersionedText, 4, 20);
+        EXPECT_EQ(c.outcome, Outcome::Done);
+        EXPECT_EQ(c.length, 4u);
         EXPECT_EQ(c.text(4, 16), std::string(16, '\xCD'));
     }
-    EXPECT_EQ(ParseSized(kByWord, kVersionedText, 0, 3).outcome, Outcome::BufferTooSmall);
-    // A word of 1 to 4 moves no field; the call goes on.
-    for (const std::uint32_t word : {1u, 3u, 4u}) {
-        const auto c = ParseSized(kByWord, kVersionedText, word, 20);
-        EXPECT_EQ(c.outcome, Outcome::Done) << word;
-        EXPECT_EQ(c.length, word);
-        EXPECT_EQ(c.text(4, 16), std::string(16, '\xCD')) << word;
-    }
+}
+
+bool IsLevelNine(const json::Value& value) {
+    return value["Level"].asInt() == 9;
+}
+
+TABLE(kRefusesNine, Versioned,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(id, "Id", Int),
+          FIELD(name, "Name", Text),
+          FIELD(level, "Level", Int),
+      })
+    .AfterRead([](const json::Value& value, std::byte*, record::ReadCall& call) {
+        call.refused = call.refused || IsLevelNine(value);
+    });
+
+TEST(FamilyParse, ARecordThatEndsTheCallStaysAsTheCallerHadIt) {
+    std::vector<unsigned char> bytes(60, 0xCD);
+    const std::uint32_t word = 20;
+    std::memcpy(bytes.data(), &word, sizeof word);
+    const std::string text = Reply(R"([ { "Id" : 1 }, { "Id" : 2, "Level" : 9 }, { "Id" : 3 } ])");
+    EXPECT_EQ(ParseFamily(kRefusesNine, kByWord, {text.c_str(), bytes.data(), 60, nullptr}), Outcome::RowRefused);
+    const auto id = [&](std::size_t record) { return static_cast<int>(bytes[record * 20 + 4]); };
+    EXPECT_EQ(id(0), 1);
+    EXPECT_EQ(id(1), 0xCD);
+    EXPECT_EQ(id(2), 3);
 }
 
 } // namespace

@@ -206,6 +206,7 @@ bool IsBothWays(const Field& field) {
     case Kind::Size:
     case Kind::Presence:
     case Kind::MemberName:
+    case Kind::MemberCode:
     case Kind::Date:
     case Kind::UtcTime:
         return false;

@@ -186,6 +186,65 @@ TABLE(kWithPointers, WithPointers,
           FIELD(bEnable, "Enable", Bool),
       });
 
+// Records that stand under a name, in the layout that their caller knows.
+struct Named {
+    std::uint32_t dwSize;
+    char szId[12];
+    std::int32_t nLevel;
+    std::int32_t abLevel;
+    char szTexts[2][5];
+    std::uint16_t wTexts;
+    Inner stuInner[2];
+    std::int32_t nMost;
+    Item* pItems;
+    std::int32_t nItems;
+    std::int32_t nLast;
+};
+
+TABLE(kNamed, Named,
+      {
+          FIELD(dwSize, nullptr, Size),
+          FIELD(szId, nullptr, MemberName),
+          FIELD(nLevel, "Level", Int).Absent(-7).SetsAndNeeds(AT(abLevel)),
+          FIELD(abLevel),
+          FIELD(szTexts, "Texts", Text).Count(AT(wTexts)),
+          FIELD(wTexts),
+          FIELD(stuInner, "Inner", Record(kInner)),
+          FIELD(nMost),
+          FIELD(pItems, "Items", Record(kItem)).Capacity(AT(nMost)).Count(AT(nItems)),
+          FIELD(nItems),
+          FIELD(nLast, "Last", Int).Absent(-9),
+      });
+
+NAMES(kSlots, kExact.Unknown(3),
+      {
+          {0, "First"},
+          {1, "Second"},
+          {2, "Other/Third"},
+      });
+
+struct Slotted {
+    std::int32_t emSlot;
+    std::int32_t nValue;
+};
+
+PART(kSlotted, Slotted,
+     {
+         FIELD(emSlot, nullptr, MemberCode(kSlots)),
+         FIELD(nValue, "Value", Int),
+     });
+
+struct Slots {
+    std::int32_t nCount;
+    Slotted stuSlots[4];
+};
+
+TABLE(kSlotList, Slots,
+      {
+          FIELD(nCount),
+          FIELD(stuSlots, "Slots", Record(kSlotted)).Count(AT(nCount)).Keyed(),
+      });
+
 struct WithLinkage {
     std::uint32_t dwSize;
     std::int32_t bEnable;
@@ -258,14 +317,26 @@ const std::vector<Command>& Specimens() {
         Both("specimen.byMemberOrNone", kItem, parse.Takes(Take::ByMemberOrNone).Null(NullValue::LengthUntouched),
              pack.As(Form::ByMember)),
         Both("specimen.pointers", kWithPointers, parse.Clears(Clearing::Kept), pack.ExactSize()),
+        Both("specimen.memberCodes", kSlotList, parse, pack),
+        Both("specimen.slots", kSlotted, parse.Takes(Take::ByMember).Length(ReplyLength::PerRecord),
+             pack.As(Form::ByMember)),
         Both("specimen.block", kEverything,
-             parse.Takes(Take::ManyOrNone)
-                 .Strides(Stride::SizeWord)
-                 .Clears(Clearing::Kept)
-                 .Length(ReplyLength::PerRecord),
+             parse.Takes(Take::ManyOrNone).Strides(Stride::SizeWord).Length(ReplyLength::PerRecord),
              pack.As(Form::Array).Strides(Stride::SizeWord)),
-        Both("specimen.byField", kWithPointers, parse.Strides(Stride::SizeWordByField).Clears(Clearing::Kept),
+        Both("specimen.byField", kWithPointers, parse.Strides(Stride::SizeWordByField),
              pack.Strides(Stride::SizeWordByField)),
+        Both("specimen.blocks", kNamed,
+             parse.Takes(Take::OneOrMany)
+                 .Null(NullValue::LengthZero)
+                 .Strides(Stride::SizeWord)
+                 .Length(ReplyLength::PerRecord),
+             pack.As(Form::BareIfOne).Strides(Stride::SizeWord)),
+        Both("specimen.blocksByName", kNamed,
+             parse.Takes(Take::ByMember).Strides(Stride::SizeWord).Length(ReplyLength::PerRecord),
+             pack.As(Form::ByMember).Strides(Stride::SizeWord)),
+        Both("specimen.fieldsByName", kNamed,
+             parse.Takes(Take::ByMember).Strides(Stride::SizeWordByField).Length(ReplyLength::PerRecord),
+             pack.As(Form::ByMember).Strides(Stride::SizeWordByField)),
         Both("specimen.linkage", kWithLinkage, parse.ExactSize(), pack),
         Generic("specimen.table", kEverything, {.arrayForm = true, .zeroBuffer = true, .alwaysArray = true}),
         Generic("specimen.tableOfLists", kNumbers, {.arrayForm = true, .dimension = 1}),

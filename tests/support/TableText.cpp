@@ -18,6 +18,14 @@ using record::OnlyType;
 using record::Shape;
 using record::Table;
 
+// The name of the i-th record of an object: of its own, or the i-th name of a code.
+std::string MemberNameOf(const Table& table, const char* prefix, std::uint32_t i) {
+    const Field* const name = table.memberName;
+    if (name != nullptr && name->kind == Kind::MemberCode && i < name->names->count)
+        return std::string(name->names->rows[i].text);
+    return prefix + std::to_string(i);
+}
+
 class Maker {
   public:
     explicit Maker(const TextOptions& options) : options_(options), state_(options.seed * 2 + 1) {}
@@ -111,8 +119,12 @@ class Maker {
 
     void AddElements(JsonTree& object, const Field& field, std::uint32_t count) {
         if (object.kind() != JsonTree::Kind::Object) return;
+        // A name that stands for no code does not come back.
+        const Field* const name = field.table->memberName;
+        const bool isCode = name != nullptr && name->kind == Kind::MemberCode;
+        if (isCode && options_.values == Values::Typical) count = std::min<std::uint32_t>(count, name->names->count);
         for (std::uint32_t i = 0; i < count; ++i)
-            object.Add("Item" + std::to_string(i), One(field));
+            object.Add(MemberNameOf(*field.table, "Item", i), One(field));
     }
     void AddElements(JsonTree& object, const Field& field) {
         AddElements(object, field, std::min(field.dims[0], options_.most));
@@ -322,7 +334,7 @@ JsonTree ReplyTree(const Command& command, const TextOptions& options) {
     } else if (TakesMembers(command)) {
         value = JsonTree::Object();
         for (unsigned i = 0; i < options.records; ++i)
-            value.Add("Record" + std::to_string(i), maker.OneRecord(*command.table));
+            value.Add(MemberNameOf(*command.table, "Record", i), maker.OneRecord(*command.table));
     } else {
         value = JsonTree::Array();
         for (unsigned i = 0; i < options.records; ++i)

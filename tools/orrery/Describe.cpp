@@ -32,6 +32,7 @@ const char* KindSentence(Kind kind) {
     case Kind::Presence:
         return "1 when the key is there";
     case Kind::MemberName:
+    case Kind::MemberCode:
         return "the name under which the record stands";
     case Kind::Bool:
         return "true or false";

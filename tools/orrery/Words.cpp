@@ -38,11 +38,11 @@ const char* TypeWord(Cell cell) {
 }
 
 const char* KindWord(Kind kind) {
-    return Word(kind, {"None",         "Size",        "Presence", "MemberName",      "Bool",        "Int",
-                       "UInt",         "Real",        "Text",     "RawText",         "FullText",    "Names",
-                       "Record",       "TimeSection", "Schedule", "HolidaySchedule", "SectionList", "NetTime",
-                       "NetTimeEx",    "ClockTime",   "Date",     "UtcTime",         "SplitMode",   "BitMask",
-                       "BitMaskLoose", "Switches",    "Supplied", "Custom"});
+    return Word(kind, {"None",    "Size",         "Presence",    "MemberName", "MemberCode",      "Bool",
+                       "Int",     "UInt",         "Real",        "Text",       "RawText",         "FullText",
+                       "Names",   "Record",       "TimeSection", "Schedule",   "HolidaySchedule", "SectionList",
+                       "NetTime", "NetTimeEx",    "ClockTime",   "Date",       "UtcTime",         "SplitMode",
+                       "BitMask", "BitMaskLoose", "Switches",    "Supplied",   "Custom"});
 }
 
 std::vector<std::uint32_t> DimsOf(const Field& field) {

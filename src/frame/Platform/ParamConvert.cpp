@@ -8,12 +8,16 @@
 
 namespace orrery {
 
+void LogSizeWord() noexcept {
+    LogSetPosition("Platform/ParamConvert", 103, E_LOG_LEVEL_ERROR);
+    LogTrace(E_LOG_CODE_RECORD_SIZE, "_ParamConvert: invalid dwSize");
+}
+
 bool ParamConvert(const std::byte* source, std::uint32_t sourceSize, std::byte* destination,
                   std::uint32_t destinationSize) noexcept {
     constexpr std::uint32_t kWord = sizeof(std::uint32_t);
     if (sourceSize < kWord || destinationSize < kWord) {
-        LogSetPosition("Platform/ParamConvert", 103, E_LOG_LEVEL_ERROR);
-        LogTrace(E_LOG_CODE_RECORD_SIZE, "_ParamConvert: invalid dwSize");
+        LogSizeWord();
         return false;
     }
     std::memmove(destination + kWord, source + kWord, std::min(sourceSize, destinationSize) - kWord);

@@ -14,6 +14,9 @@ namespace orrery {
 bool ParamConvert(const std::byte* source, std::uint32_t sourceSize, std::byte* destination,
                   std::uint32_t destinationSize) noexcept;
 
+// Tells the log of a size word below its own size.
+void LogSizeWord() noexcept;
+
 // Moves field by field, in record order, each only if both sizes reach past its end. Does nothing when a pointer is
 // null or a size 0. Texts are cleared first and keep their last byte for the terminator.
 void ConvertFields(const record::Table& table, const std::byte* source, std::uint32_t sourceSize,

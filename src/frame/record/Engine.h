@@ -29,6 +29,22 @@ struct OpenObject {
 // Length of a quoted key without the key itself: `"" : `.
 inline constexpr std::size_t kQuotesAndColon = 5;
 
+// Records to be written, one behind the other.
+struct RecordList {
+    const std::byte* first = nullptr;
+    std::uint32_t count = 0;
+    std::uint32_t stride = 0;
+    // Records of another layout: brings one into a record of this library's, which holds it until the next is asked
+    // for.
+    const std::byte* (*take)(const void* context, const std::byte* record) noexcept = nullptr;
+    const void* context = nullptr;
+
+    const std::byte* operator[](std::uint32_t index) const noexcept {
+        const std::byte* const record = first + std::size_t{index} * stride;
+        return take == nullptr ? record : take(context, record);
+    }
+};
+
 // What a writing call carries along.
 struct WriteCall {
     JsonParser& parser;
@@ -83,12 +99,13 @@ void ReadField(const Field& field, const json::Value& value, std::byte* record, 
 // Writes a record as one value; null when none of its rows writes anything.
 void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept;
 // Writes records as one object, each under its member name, in the order of the names. Of equal names the last stands.
-void WriteByName(const Table& table, const std::byte* first, std::uint32_t recordCount, std::uint32_t stride,
-                 WriteCall& call) noexcept;
+void WriteByName(const Table& table, const RecordList& records, WriteCall& call) noexcept;
 // Writes the record's keys into the object that is open in `call`.
 void WriteFields(const Table& table, const std::byte* record, WriteCall& call) noexcept;
 // False for a record that its table does not let out.
 bool IsWritten(const Table& table, const std::byte* record) noexcept;
+// The same for one that stands under its member name: a code that has no name has no member either.
+bool IsWrittenByName(const Table& table, const std::byte* record) noexcept;
 // The text of the record's member name; empty when it has none.
 std::string_view MemberNameOf(const Table& table, const std::byte* record) noexcept;
 

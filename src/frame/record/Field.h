@@ -31,6 +31,7 @@ enum class Kind : std::uint8_t {
     Size,            // the record's size word: set before reading, tested by the table
     Presence,        // read only: 1 when the key is present
     MemberName,      // the name under which the record itself stands in its parent object
+    MemberCode,      // the same, through a name table
     Bool,            // asBool as 0 or 1; non-zero writes true
     Int,             // asInt, cut to the field's width
     UInt,            // asUInt, cut to the field's width
@@ -321,6 +322,18 @@ struct Names {
     const NameTable* table;
     constexpr explicit Names(const NameTable& itsTable) : table(&itsTable) {}
     explicit Names(const NameTable&&) = delete; // the row points to the table
+};
+
+// The name under which the record itself stands, through a name table. A code that the table writes no text for gives
+// the record no member.
+struct MemberCode {
+    static constexpr Kind kind = Kind::MemberCode;
+    static constexpr bool wholeMember = false;
+    template <class T>
+    static constexpr bool accepts = kIsInteger<T>;
+    const NameTable* names;
+    constexpr explicit MemberCode(const NameTable& itsNames) : names(&itsNames) {}
+    explicit MemberCode(const NameTable&&) = delete; // the row points to the table
 };
 
 // Object or tuple through another table. The table's record must be the member's type (or what it points to).

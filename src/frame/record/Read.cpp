@@ -70,8 +70,13 @@ bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& 
                std::string_view memberName) noexcept {
     if (table.startsWhenRead && table.hasDefaults) SetDefaults(table, at);
     if (const Field* const name = table.memberName; name != nullptr) {
-        call.parser.GetJsonString(Value::OfString(memberName), reinterpret_cast<char*>(at + name->offset),
-                                  name->elementSize, true);
+        std::byte* const place = at + name->offset;
+        if (name->kind == Kind::MemberCode) {
+            if (const auto code = name->names->CodeOf(memberName)) StoreInteger(name->cell, place, *code);
+        } else {
+            call.parser.GetJsonString(Value::OfString(memberName), reinterpret_cast<char*>(place), name->elementSize,
+                                      true);
+        }
     }
     return ReadFields(table, value, at, call);
 }
@@ -83,6 +88,7 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
     case Kind::None:
     case Kind::Size:
     case Kind::MemberName:
+    case Kind::MemberCode:
     case Kind::Supplied:
     case Kind::Custom:
         break;

@@ -89,6 +89,7 @@ struct Table {
     Shape shape = Shape::Object;
     bool hasDefaults = false;    // some field, nested ones included, starts at something other than zero
     bool hasSizeWords = false;   // some field, nested ones included, is a size word
+    bool hasPointers = false;    // some field, nested ones included, is a pointer
     bool startsWhenRead = false; // defaults and size words are set by reading it: what is not read stays zero
     bool guarded = false;        // neither read nor written unless the size word holds exactly the record's size
     bool takesFirst = false;     // of an array the first element is read
@@ -432,11 +433,13 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !row.owned) {
             build::a_pointer_needs_its_capacity();
         }
+        if (row.cell == Cell::Pointer) table.hasPointers = true;
         if (row.amongKeys) table.amongKeys = &row;
-        if (row.kind == Kind::MemberName) table.memberName = &row;
+        if (row.kind == Kind::MemberName || row.kind == Kind::MemberCode) table.memberName = &row;
         if (row.cell == Cell::Record) {
             if (row.table->hasDefaults && !row.amongKeys && !row.table->startsWhenRead) table.hasDefaults = true;
             if (row.table->hasSizeWords) table.hasSizeWords = true;
+            if (row.table->hasPointers) table.hasPointers = true;
         }
     }
     return table;

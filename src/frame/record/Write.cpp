@@ -87,6 +87,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
     case Kind::Size:
     case Kind::Presence:
     case Kind::MemberName:
+    case Kind::MemberCode:
     case Kind::Date: // read only
     case Kind::UtcTime:
     case Kind::Supplied:
@@ -196,6 +197,13 @@ std::string_view ToUtf8(std::string_view local, std::size_t capacity, LocalText&
     return {room, static_cast<std::size_t>(size)};
 }
 
+std::string_view Copied(std::string_view text, Arena& arena) noexcept {
+    char* const room = arena.Array<char>(text.size());
+    if (room == nullptr) return {};
+    std::copy(text.begin(), text.end(), room);
+    return {room, text.size()};
+}
+
 // Records that stand under their names.
 struct NamedRecord {
     std::string_view name;
@@ -204,16 +212,18 @@ struct NamedRecord {
 
 // What is written of an array of such records, in the order of their names; of equal names the last. A name becomes at
 // most `growth` halves of its length. Empty when memory ran out: the arena tells.
-std::span<const NamedRecord> SortedByName(const Table& table, const std::byte* first, std::uint32_t recordCount,
-                                          std::uint32_t stride, std::size_t growth, LocalText& text) noexcept {
-    NamedRecord* const entries = text.arena().Array<NamedRecord>(recordCount);
+std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& records, std::size_t growth,
+                                          LocalText& text) noexcept {
+    NamedRecord* const entries = text.arena().Array<NamedRecord>(records.count);
     if (entries == nullptr) return {};
+    const bool isKept = records.take == nullptr; // else the next record takes the place of its name
     std::uint32_t count = 0;
-    for (std::uint32_t i = 0; i < recordCount; ++i) {
-        const std::byte* const at = first + std::size_t{i} * stride;
-        if (!IsWritten(table, at)) continue;
+    for (std::uint32_t i = 0; i < records.count; ++i) {
+        const std::byte* const at = records[i];
+        if (!IsWrittenByName(table, at)) continue;
         const std::string_view name = MemberNameOf(table, at);
-        entries[count++] = {ToUtf8(name, name.size() * growth / 2 + 1, text), i};
+        const std::string_view utf8 = ToUtf8(name, name.size() * growth / 2 + 1, text);
+        entries[count++] = {isKept ? utf8 : Copied(utf8, text.arena()), i};
     }
     std::sort(entries, entries + count, [](const NamedRecord& left, const NamedRecord& right) {
         return left.name != right.name ? left.name < right.name : left.index < right.index;
@@ -249,7 +259,7 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     }
     if (field.keyed) {
         call.Key();
-        return WriteByName(*field.table, elements.first, elements.count, stride, call);
+        return WriteByName(*field.table, {elements.first, elements.count, stride}, call);
     }
     const int inner = field.cell == Cell::Pointer ? field.rank : 1;
     std::uint32_t end = elements.count;
@@ -320,6 +330,7 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
     case Kind::Size:
     case Kind::Presence:
     case Kind::MemberName:
+    case Kind::MemberCode:
     case Kind::Date:
     case Kind::UtcTime:
         return;
@@ -379,12 +390,12 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
 void WriteAmongKeys(const Table& table, const std::byte* record, WriteCall& call) noexcept {
     const Field& list = *table.amongKeys;
     const Elements elements = ElementsOf(list, record);
-    const auto named = SortedByName(*list.table, elements.first, elements.count, list.elementSize, kGrowthAmongKeys,
-                                    call.parser.text());
+    const RecordList records{elements.first, elements.count, list.elementSize};
+    const auto named = SortedByName(*list.table, records, kGrowthAmongKeys, call.parser.text());
     auto next = named.begin();
     const auto writeNext = [&] {
         call.Member(next->name);
-        WriteRecord(*list.table, elements.first + std::size_t{next->index} * list.elementSize, call);
+        WriteRecord(*list.table, records[next->index], call);
         ++next;
     };
     for (std::uint16_t i = 0; i < table.members.count; ++i) {
@@ -414,18 +425,29 @@ bool IsWritten(const Table& table, const std::byte* record) noexcept {
     return table.writes == nullptr || table.writes(record);
 }
 
-std::string_view MemberNameOf(const Table& table, const std::byte* record) noexcept {
+bool IsWrittenByName(const Table& table, const std::byte* record) noexcept {
     const Field* const name = table.memberName;
-    return name != nullptr ? TextAt(record + name->offset, name->elementSize) : std::string_view();
+    if (name != nullptr && name->kind == Kind::MemberCode && name->names->outside != NameTable::Outside::Text
+        && NameAt(*name, record + name->offset) == nullptr) {
+        return false;
+    }
+    return IsWritten(table, record);
 }
 
-void WriteByName(const Table& table, const std::byte* first, std::uint32_t recordCount, std::uint32_t stride,
-                 WriteCall& call) noexcept {
+std::string_view MemberNameOf(const Table& table, const std::byte* record) noexcept {
+    const Field* const name = table.memberName;
+    if (name == nullptr) return {};
+    const std::byte* const at = record + name->offset;
+    if (name->kind != Kind::MemberCode) return TextAt(at, name->elementSize);
+    const Name* const row = NameAt(*name, at);
+    return row != nullptr ? row->text : name->names->outsideText;
+}
+
+void WriteByName(const Table& table, const RecordList& records, WriteCall& call) noexcept {
     call.out.BeginObject();
-    for (const NamedRecord& entry :
-         SortedByName(table, first, recordCount, stride, kGrowthOfTexts, call.parser.text())) {
+    for (const NamedRecord& entry : SortedByName(table, records, kGrowthOfTexts, call.parser.text())) {
         call.out.Key(entry.name);
-        WriteRecord(table, first + std::size_t{entry.index} * stride, call);
+        WriteRecord(table, records[entry.index], call);
     }
     call.out.EndObject();
 }

@@ -176,28 +176,40 @@ TEST(ConvertFields, TextsAreClearedAndTerminated) {
 
 // ---- In a call ----
 
-constexpr ParseFrame kParse = ParseFrame().Strides(Stride::SizeWord).Clears(Clearing::Kept);
-
-TEST(ParamConvert, ARefusedSizeOnTheWayInAndOutIsLoggedAndTheCallGoesOn) {
-    LineSink sink;
-    Versioned record = kDestination;
-    record.dwSize = 3;
+TEST(ParamConvert, ASizeWordBelowItsOwnSizeEndsTheCallAndIsLoggedOnce) {
     const std::string text = test::Reply(R"({ "Id" : 7 })");
-    EXPECT_EQ(ParseFamily(kVersioned, kParse, {text.c_str(), &record, sizeof record, nullptr}), Outcome::Done);
-    EXPECT_TRUE(SameBehindTheWord(record, kDestination));
-    std::vector<std::string> twice = kRefusal;
-    twice.insert(twice.end(), kRefusal.begin(), kRefusal.end());
-    EXPECT_EQ(sink.lines, twice);
-}
-
-TEST(ParamConvert, ARefusedSizeOfAPackIsLoggedOnce) {
+    for (const std::uint32_t word : {1u, 3u}) {
+        LineSink sink;
+        Versioned record = kDestination;
+        record.dwSize = word;
+        const ParseFrame frame = ParseFrame().Strides(Stride::SizeWord);
+        EXPECT_EQ(ParseFamily(kVersioned, frame, {text.c_str(), &record, sizeof record, nullptr}),
+                  Outcome::BufferTooSmall);
+        EXPECT_TRUE(SameBehindTheWord(record, kDestination));
+        EXPECT_EQ(sink.lines, kRefusal);
+    }
     LineSink sink;
     Versioned record = kSource;
     record.dwSize = 3;
     const auto written = test::Pack(kVersioned, PackFrame().Strides(Stride::SizeWord), &record, sizeof record);
-    EXPECT_EQ(written.outcome, Outcome::Done);
-    EXPECT_EQ(written.text().find(R"("Id" : 1)"), std::string::npos); // zeros are packed
+    EXPECT_EQ(written.outcome, Outcome::RecordTooSmall);
+    EXPECT_TRUE(written.isUntouched());
     EXPECT_EQ(sink.lines, kRefusal);
+}
+
+TEST(ParamConvert, NoOtherSizeWordIsLogged) {
+    LineSink sink;
+    const std::string text = test::Reply(R"({ "Id" : 7 })");
+    for (const Stride stride : {Stride::SizeWord, Stride::SizeWordByField}) {
+        for (const std::uint32_t word : {0u, 3u, 4u, 5u, 0x7FFFFFFFu}) {
+            if (word == 3 && stride == Stride::SizeWord) continue;
+            Versioned record = kSource;
+            record.dwSize = word;
+            ParseFamily(kVersioned, ParseFrame().Strides(stride), {text.c_str(), &record, sizeof record, nullptr});
+            test::Pack(kVersioned, PackFrame().Strides(stride), &record, sizeof record);
+        }
+    }
+    EXPECT_TRUE(sink.lines.empty());
 }
 
 } // namespace

@@ -1,0 +1,92 @@
+#include "frame/Platform/Versioned.h"
+
+#include "frame/Platform/ParamConvert.h"
+#include "frame/record/Engine.h"
+
+#include <cstring>
+
+namespace orrery {
+
+namespace {
+
+using record::Cell;
+using record::Field;
+using record::Slot;
+using record::Table;
+
+constexpr std::uint32_t SizeOf(Cell cell) noexcept {
+    switch (cell) {
+    case Cell::I8:
+    case Cell::U8:
+    case Cell::Char:
+        return 1;
+    case Cell::I16:
+    case Cell::U16:
+        return 2;
+    case Cell::I64:
+    case Cell::U64:
+    case Cell::F64:
+        return 8;
+    case Cell::Pointer:
+        return sizeof(void*);
+    default:
+        return 4;
+    }
+}
+
+// Calls `input(offset, size)` for every pointer of the record, nested ones included, and for the room behind it.
+template <class Input>
+void ForEachInput(const Table& table, std::uint32_t at, const Input& input) noexcept {
+    if (!table.hasPointers) return;
+    for (const Field& field : table) {
+        if (field.cell == Cell::Record) {
+            for (std::uint32_t part = 0; part < field.size; part += field.table->size)
+                ForEachInput(*field.table, at + field.offset + part, input);
+            continue;
+        }
+        if (field.cell == Cell::Pointer) input(at + field.offset, field.size);
+        if (field.capacity.exists()) input(at + field.capacity.offset, SizeOf(field.capacity.cell));
+    }
+}
+
+} // namespace
+
+std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t bufferSize) noexcept {
+    constexpr std::uint32_t kWord = sizeof(std::uint32_t);
+    if (bufferSize < kWord) return 0;
+    const auto word = record::Load<std::uint32_t>(first);
+    if (word == 0 || word > bufferSize) return 0;
+    if (word >= kWord) return word;
+    if (how == Stride::SizeWord) LogSizeWord();
+    return 0;
+}
+
+void VersionedRecords::Prepare(std::byte* local) const noexcept {
+    std::memset(local, 0, table_.size);
+    record::SetSizeWords(table_, local);
+}
+
+void VersionedRecords::Start(const std::byte* caller, std::byte* local) const noexcept {
+    Prepare(local);
+    ForEachInput(table_, 0, [&](std::uint32_t at, std::uint32_t size) {
+        if (at + size <= stride_) std::memcpy(local + at, caller + at, size);
+    });
+}
+
+void VersionedRecords::Return(const std::byte* local, std::byte* caller) const noexcept {
+    if (how_ == Stride::SizeWord)
+        ParamConvert(local, table_.size, caller, stride_);
+    else
+        ConvertFields(table_, local, table_.size, caller, stride_);
+}
+
+void VersionedRecords::Take(const std::byte* caller, std::byte* local) const noexcept {
+    if (how_ == Stride::SizeWordByField) return ConvertFields(table_, caller, stride_, local, table_.size);
+    ParamConvert(caller, stride_, local, table_.size);
+    // The first bytes of a pointer lead nowhere.
+    ForEachInput(table_, 0, [&](std::uint32_t at, std::uint32_t size) {
+        if (at + size > stride_) std::memset(local + at, 0, size);
+    });
+}
+
+} // namespace orrery

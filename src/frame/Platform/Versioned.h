@@ -1,0 +1,37 @@
+// The records of one call whose caller may have been compiled with another layout: the first record's size word says
+// how far apart they are, and each passes through a local record of this library's own layout.
+#pragma once
+
+#include "frame/Frames.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace orrery {
+
+// The caller's size word, which is the stride of all records of a buffer; 0 when no record can be that large. A word
+// below its own size is told to the log where records move as blocks.
+std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t bufferSize) noexcept;
+
+class VersionedRecords {
+  public:
+    VersionedRecords(const record::Table& table, Stride how, std::uint32_t stride) noexcept
+        : table_(table), how_(how), stride_(stride) {}
+
+    // Makes the local record as reading finds it: clear, with its size words, and with the pointers of the caller's
+    // record and the room behind them. What else the caller's record holds never shows through.
+    void Start(const std::byte* caller, std::byte* local) const noexcept;
+    // Moves what both layouts have into the caller's record; its size word stays.
+    void Return(const std::byte* local, std::byte* caller) const noexcept;
+    // Makes the local record that writing goes through; each of the caller's then brings into it what both layouts
+    // have.
+    void Prepare(std::byte* local) const noexcept;
+    void Take(const std::byte* caller, std::byte* local) const noexcept;
+
+  private:
+    const record::Table& table_;
+    Stride how_;
+    std::uint32_t stride_;
+};
+
+} // namespace orrery
