@@ -144,11 +144,11 @@ typedef struct DEV_EVENT_SNAPBYTIME_INFO {
     EVENT_TIME stuFileTime; /* of the notification */
 } DEV_EVENT_SNAPBYTIME_INFO;
 
-/* "PtzPreset" (357): the camera reached a preset. szName, the preset's, is always terminated here. */
+/* "PtzPreset" (357): the camera reached a preset. */
 typedef struct DEV_EVENT_PTZPRESET_INFO {
-    ORRERY_EVENT_HEAD_A;
-    float fPosition[3]; /* "Position", at least 3 numbers */
-    int32_t nPresetID;  /* "PresetID" */
+    ORRERY_EVENT_HEAD_A; /* szName: "Name": of the preset; always terminated here */
+    float fPosition[3];  /* "Position", at least 3 numbers */
+    int32_t nPresetID;   /* "PresetID" */
 } DEV_EVENT_PTZPRESET_INFO;
 
 /* "SceneChange" (365): the camera sees another scene than before. */

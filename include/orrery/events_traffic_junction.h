@@ -34,7 +34,7 @@ typedef struct EVENT_WEIGH_INFO {
 /* "TrafficJunction" (23): a vehicle passed a junction. */
 typedef struct DEV_EVENT_TRAFFICJUNCTION_INFO {
     ORRERY_EVENT_HEAD_A_WITH(uint8_t byMainSeatBelt;     /* "MainSeat": EVENT_SAFE_BELT_... */
-                             uint8_t bySlaveSeatBelt;    /* "SlaveSeat" */
+                             uint8_t bySlaveSeatBelt;    /* "SlaveSeat": EVENT_SAFE_BELT_... */
                              uint8_t byVehicleDirection; /* "VehicleDirection": "Head" 1, "Tail" 2 */
                              uint8_t byOpenStrobeState); /* byOpenStrobeState: "OpenStrobeState": "Close" 1,
  "Auto" 2, "Manual" 3 */

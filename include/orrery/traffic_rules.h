@@ -76,7 +76,8 @@ typedef struct CFG_RULE_TRAFFICGATE_INFO {
     int32_t nSpeedLowerLimit; /* "SpeedLimit", first number: lowest */
     int32_t nDirection;       /* "Direction" */
     int32_t nTriggerModeNum;  /* entries in use; a null keeps its entry, uncounted */
-    char szTriggerMode[ORRERY_RULE_TRIGGER_MODES][ORRERY_RULE_TEXT]; /* "TriggerMode": what starts a snapshot */
+    char szTriggerMode[ORRERY_RULE_TRIGGER_MODES][ORRERY_RULE_TEXT]; /* "TriggerMode": what starts a snapshot,
+ bytes as they stand */
     ORRERY_RULE_TAIL;
 } CFG_RULE_TRAFFICGATE_INFO;
 

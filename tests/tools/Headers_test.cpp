@@ -5,7 +5,7 @@
 //     int32_t nSlot;    /* "Address"."Slot": of the object "Address" */
 //     int32_t nLinks;   /* entries of stuLinks in use: without a key no comment begins with a quote */
 //     int32_t bIsOpen;  /* "IsOpen" or, of older devices, "Open": a second key stands behind the first */
-#include "tools/Headers.h"
+#include "tools/HeaderTexts.h"
 
 #include "frame/Commands.h"
 #include "orrery/Tables.h"
@@ -23,58 +23,6 @@ using record::Field;
 using record::Kind;
 using record::Slot;
 using record::Table;
-
-struct HeaderTexts {
-    std::map<std::string, test::HeaderRecord> records;
-    std::map<std::string, std::string> shared;
-};
-
-const HeaderTexts& Headers() {
-    static const auto headers = [] {
-        const std::string include = std::string(ORRERY_SOURCE_DIR) + "/include";
-        const std::string command =
-            std::string(ORRERY_COMPILER) + " -x c++ -E -CC -I '" + include + "' '" + include + "/orrery/orrery.h'";
-        std::string text;
-        if (std::FILE* const pipe = popen(command.c_str(), "r"); pipe != nullptr) {
-            char part[65536];
-            for (std::size_t got = 0; (got = std::fread(part, 1, sizeof part, pipe)) > 0;)
-                text.append(part, got);
-            EXPECT_EQ(pclose(pipe), 0) << command;
-        }
-        const test::HeaderScanner scanner(text);
-        HeaderTexts texts;
-        for (const test::HeaderRecord& record : scanner.records)
-            texts.records.emplace(record.name, record);
-        texts.shared = scanner.shared;
-        return texts;
-    }();
-    return headers;
-}
-
-// What the headers say of a member: behind or above it; else in the record that the comment above its own names
-// ("members without a word are as in EVENT_OBJECT_INFO"); else, in an event, among its head and its closing fields.
-std::string WordOf(const test::HeaderRecord& record, const test::HeaderMember& member) {
-    for (const test::HeaderMember& each : record.members) { // "byName: ..." behind a macro that declares byName
-        if (each.behind.starts_with(member.name + ": ")) return each.behind.substr(member.name.size() + 2);
-    }
-    const bool isOfAnother =
-        record.Find(member.behind.substr(0, std::min(member.behind.find(':'), member.behind.size())));
-    if (!member.behind.empty() && !isOfAnother) return member.behind;
-    constexpr std::string_view kAsIn = "as in ";
-    if (const std::size_t at = record.comment.find(kAsIn); at != std::string::npos) {
-        std::string name = record.comment.substr(at + kAsIn.size());
-        name.resize(std::min(name.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ_0123456789"), name.size()));
-        const auto other = Headers().records.find(name);
-        const test::HeaderMember* const same =
-            other == Headers().records.end() ? nullptr : other->second.Find(member.name);
-        if (same != nullptr) return WordOf(other->second, *same);
-    }
-    if (record.name.starts_with("DEV_EVENT_")) {
-        const auto shared = Headers().shared.find(member.name);
-        if (shared != Headers().shared.end()) return shared->second;
-    }
-    return member.above;
-}
 
 // A row whose value stands in the text.
 bool HasKey(const Field& field) {
@@ -106,8 +54,8 @@ bool Names(const std::string& quoted, const Table& table, const Field& field) {
 }
 
 void Compare(const Table& table, std::vector<std::string>& findings) {
-    const auto found = Headers().records.find(table.record);
-    if (found == Headers().records.end()) {
+    const auto found = test::Headers().records.find(table.record);
+    if (found == test::Headers().records.end()) {
         findings.push_back(std::string(table.record) + " stands in no header");
         return;
     }
@@ -122,7 +70,7 @@ void Compare(const Table& table, std::vector<std::string>& findings) {
             findings.push_back(place + " stands in no header");
             continue;
         }
-        const std::string word = WordOf(found->second, *member);
+        const std::string word = test::WordOf(found->second, *member);
         const std::vector<std::string> quoted = test::QuotedKeys(word);
         if (HasKey(field)) {
             const bool isSecond = field.alias || field.kind == Kind::Presence || member->name != field.name;
@@ -187,7 +135,7 @@ typedef struct SECOND_INFO { int32_t nChannels[4][2]; /* "Lists"[..]."Channel" *
 }
 
 TEST(Headers, QuoteEachMembersKey) {
-    ASSERT_GT(Headers().records.size(), 200U);
+    ASSERT_GT(test::Headers().records.size(), 200U);
     std::vector<std::string> findings;
     const Tables tables;
     for (const Table* const table : tables.all)
@@ -201,13 +149,13 @@ TEST(Headers, QuoteEachMembersKey) {
 // Also in records that no table describes, such as those that functions read.
 TEST(Headers, SayAWordOfEachMember) {
     const Tables tables;
-    for (const auto& [name, record] : Headers().records) {
+    for (const auto& [name, record] : test::Headers().records) {
         const bool isOurs = name.starts_with("CFG_") || name.starts_with("EVENT_") || name.starts_with("NET_");
         if (!isOurs || !tables.Of(name).empty()) continue;
         for (const test::HeaderMember& member : record.members) {
             const bool isFlag = member.name.starts_with("ab") && record.Find("n" + member.name.substr(2)) != nullptr;
             if (isFlag || member.name.find("Reserved") != std::string::npos || member.name == "dwSize") continue;
-            EXPECT_NE(WordOf(record, member), "") << name << "." << member.name;
+            EXPECT_NE(test::WordOf(record, member), "") << name << "." << member.name;
         }
     }
 }
@@ -215,8 +163,8 @@ TEST(Headers, SayAWordOfEachMember) {
 // Who looks for a command finds its record, and there what the command does otherwise than all.
 TEST(Headers, NameEachCommandAboveItsRecord) {
     for (const Command& command : Commands()) {
-        const auto record = Headers().records.find(command.table->record);
-        ASSERT_NE(record, Headers().records.end()) << command.name;
+        const auto record = test::Headers().records.find(command.table->record);
+        ASSERT_NE(record, test::Headers().records.end()) << command.name;
         EXPECT_NE(record->second.comment.find("\"" + std::string(command.name) + "\""), std::string::npos)
             << command.table->record << " serves \"" << command.name
             << "\", but the comment above it says: " << record->second.comment;
