@@ -3,102 +3,24 @@
 #include "bench/Calls.h"
 #include "bench/Events.h"
 #include "bench/Heap.h"
+#include "bench/Hot.h"
 #include "bench/Members.h"
+#include "bench/Pairs.h"
 #include "bench/Readers.h"
 #include "bench/Rules.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <ctime>
 #include <thread>
 
 namespace orrery::bench {
 
 namespace {
 
-// What this thread has had of a processor, so that other programs' turns do not count.
-double ThreadSeconds() {
-    timespec now;
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
 double WallSeconds() {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
-
-double Median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
-}
-
-// Runs `count` calls, text after text in rotation from `first`; returns the seconds that a call took.
-template <class Call>
-double Run(Call& call, std::size_t variants, std::size_t first, std::size_t count) {
-    std::size_t i = first % variants;
-    const double start = ThreadSeconds();
-    for (std::size_t k = 0; k < count; ++k) {
-        benchmark::DoNotOptimize(call(i));
-        if (++i == variants) i = 0;
-    }
-    return (ThreadSeconds() - start) / static_cast<double>(count);
-}
-
-struct Ratio {
-    double ratio; // theirs to ours: above 1 ours is faster
-    double ours;  // seconds a call
-    double theirs;
-};
-
-class Table {
-  public:
-    explicit Table(bool quick) : pairs_(quick ? 3 : 101), time_(quick ? 0.0002 : 0.002) {}
-
-    // Ours and theirs in turn, each pair over the same texts, so that a machine that slows down slows both; the ratio
-    // is the median of the pairs' own. Before each sample one call goes untimed: what the other side left of the caches
-    // and of the heap is not what a sample is about.
-    template <class Ours, class Theirs>
-    Ratio Compare(std::size_t variants, Ours ours, Theirs theirs) const {
-        // Once through all texts, to warm up and to find how many calls make a sample.
-        const double once = std::max(Run(ours, variants, 0, variants), Run(theirs, variants, 0, variants));
-        const auto count = static_cast<std::size_t>(std::max(1.0, time_ / once));
-        const double sample = 2 * once * static_cast<double>(count + 1);
-        const auto pairs = std::clamp<std::size_t>(static_cast<std::size_t>(kMostSeconds / sample), 3, pairs_);
-        std::vector<double> a, b, ratios;
-        for (std::size_t pair = 0; pair < pairs; ++pair) {
-            Run(ours, variants, pair * count + variants - 1, 1);
-            a.push_back(Run(ours, variants, pair * count, count));
-            Run(theirs, variants, pair * count + variants - 1, 1);
-            b.push_back(Run(theirs, variants, pair * count, count));
-            ratios.push_back(b.back() / a.back());
-        }
-        return {Median(ratios), Median(a), Median(b)};
-    }
-
-    template <class Ours, class Theirs>
-    void Line(const std::string& name, double bar, std::size_t variants, Ours ours, Theirs theirs) const {
-        Print(name, Compare(variants, ours, theirs), bar);
-    }
-
-    static void Print(const std::string& name, const Ratio& r, double bar) {
-        std::printf("%-44s %7.2f   ", name.c_str(), r.ratio);
-        if (bar > 0)
-            std::printf("bar %5.2f %-6s", bar, r.ratio >= bar ? "met" : "MISSED");
-        else
-            std::printf("%-16s", "no bar");
-        std::printf("   %10.0f ns %10.0f ns\n", r.ours * 1e9, r.theirs * 1e9);
-        std::fflush(stdout);
-    }
-
-    std::size_t pairs() const { return pairs_; }
-    double time() const { return time_; }
-
-  private:
-    static constexpr double kMostSeconds = 3; // for one line
-    std::size_t pairs_;
-    double time_; // of a sample
-};
 
 void Readers(const Table& table, const std::string& size, ReaderBench& bench, double rapidjson, double jsoncpp) {
     const std::size_t variants = bench.texts.size();
@@ -170,28 +92,12 @@ void Members(const Table& table, MemberBench& bench) {
         [&](std::size_t i) { return bench.WriteAndClear(i); });
 }
 
-double MeanSize(const Texts& texts) {
-    double sum = 0;
-    for (const auto& text : texts)
-        sum += static_cast<double>(text.size());
-    return sum / static_cast<double>(texts.size());
-}
-
-// Cost per byte of a short text to that of a long one: 1 is flat, below 1 length costs extra.
-constexpr double kFlat = 1 / 1.5;
-
-template <class Short, class Long>
-void Flat(const Table& table, const std::string& name, std::size_t variants, double shortBytes, double longBytes,
-          Short shortCall, Long longCall) {
-    Ratio r = table.Compare(variants, longCall, shortCall);
-    r.ratio *= longBytes / shortBytes;
-    Table::Print(name, r, kFlat);
-}
-
 void Lengths(const Table& table) {
     constexpr int kVariants = 24;
     const Texts base = TextsOfSize(2000, kVariants);
-    for (const auto& [name, size] : {std::pair{"20KB", 20000}, {"200KB", 200000}, {"1MB", 1000000}}) {
+    for (const auto& [name, size] :
+         {std::pair{"20KB", 20000}, {"200KB", 200000}, {"1MB", 1000000}, {"10MB", 10000000}}) {
+        if (!table.Wants(std::string("flat.reader.") + name)) continue;
         const Texts longer = TextsOfSize(static_cast<std::size_t>(size), kVariants);
         Flat(table, std::string("flat.reader.") + name, kVariants, MeanSize(base), MeanSize(longer), OrreryReader{base},
              OrreryReader{longer});
@@ -318,8 +224,8 @@ void HeapOfReaders(const std::string& size, std::size_t bytes) {
 
 } // namespace
 
-void PrintTables(bool quick) {
-    const Table table(quick);
+void PrintTables(bool quick, const std::string& only) {
+    const Table table(quick, only);
     auto alarm = MakeAlarmBench(48);
     auto motion = MakeMotionBench(48);
     auto switches = MakeSwitchBench(48);
@@ -329,24 +235,28 @@ void PrintTables(bool quick) {
     auto junction = MakeJunctionBench(48);
     auto manyEvents = MakeManyEventsBench(24);
 
-    std::printf("\nheap use of one call, the worst of its texts\n\n");
-    HeapOfCalls(alarm);
-    HeapOfCalls(motion);
-    HeapOfCalls(switches);
-    HeapOfCalls(caps);
-    HeapOfCalls(encode);
-    HeapOfRules(rules);
-    HeapOfEvents(junction);
-    HeapOfEvents(manyEvents);
-    for (const MemberRow& row : MemberRows()) {
-        MemberBench bench(row);
-        HeapOfMembers(bench);
+    if (only.empty()) {
+        std::printf("\nheap use of one call, the worst of its texts\n\n");
+        HeapOfCalls(alarm);
+        HeapOfCalls(motion);
+        HeapOfCalls(switches);
+        HeapOfCalls(caps);
+        HeapOfCalls(encode);
+        HeapOfRules(rules);
+        HeapOfEvents(junction);
+        HeapOfEvents(manyEvents);
+        for (const MemberRow& row : MemberRows()) {
+            MemberBench bench(row);
+            HeapOfMembers(bench);
+        }
+        HeapOfReaders("200B", 200);
+        HeapOfReaders("2KB", 2000);
+        HeapOfReaders("4KB", 3900);
+        HeapOfReaders("60KB", 60000);
+        HeapOfReaders("1MB", 1000000);
     }
-    HeapOfReaders("200B", 200);
-    HeapOfReaders("2KB", 2000);
-    HeapOfReaders("4KB", 3900);
-    HeapOfReaders("60KB", 60000);
-    HeapOfReaders("1MB", 1000000);
+    PrintHeapBars(only);
+    PrintSystemCalls(only);
 
     std::printf("\nname and ratio, peer's time to ours: above 1 is faster than the peer; then ours and the peer's\n\n");
     {
@@ -368,8 +278,10 @@ void PrintTables(bool quick) {
         MemberBench bench(row);
         Members(table, bench);
     }
+    HotLines(table, alarm, encode, rules, junction, manyEvents);
     Lengths(table);
     RuleCounts(table);
+    if (!only.empty()) return;
     const auto make = [] { return MakeAlarmBench(3); };
     Threads(table, "threads.2_to_1.Alarm.parse", make, [](AlarmBench& bench, std::size_t i) { return bench.Parse(i); });
     Threads(table, "threads.2_to_1.Alarm.pack", make, [](AlarmBench& bench, std::size_t i) { return bench.Pack(i); });

@@ -1,5 +1,5 @@
 // orrery_bench [--benchmark_...]: every call on its own, in nanoseconds, by Google Benchmark.
-// orrery_bench --table [--quick]: heap use, then the table of ratios.
+// orrery_bench --table [--quick] [--only=PART]: heap use, then the table of ratios; of the lines whose names have PART.
 #include "bench/Calls.h"
 #include "bench/Events.h"
 #include "bench/Readers.h"
@@ -71,12 +71,15 @@ void RegisterEvents(const char* name, EventBench& bench) {
 
 int main(int argc, char** argv) {
     bool table = false, quick = false;
+    const char* only = "";
     int kept = 0;
     for (int i = 0; i < argc; ++i) {
         if (std::strcmp(argv[i], "--table") == 0)
             table = true;
         else if (std::strcmp(argv[i], "--quick") == 0)
             quick = true;
+        else if (std::strncmp(argv[i], "--only=", 7) == 0)
+            only = argv[i] + 7;
         else
             argv[kept++] = argv[i];
     }
@@ -87,7 +90,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     if (table) {
-        PrintTables(quick);
+        PrintTables(quick, only);
         return 0;
     }
 
