@@ -5,11 +5,13 @@
 namespace orrery {
 
 namespace {
-constexpr std::size_t kHeader = 16; // keeps what follows a chunk's header aligned
 constexpr std::size_t kLargestStep = std::size_t{8} << 20;
 // The last chunk is then most of the memory: an allocator that has seen it given back keeps as much at hand, where
 // smaller steps have it return everything to the system after each call and fault it in again for the next.
-constexpr std::size_t kGrowth = 4;
+constexpr std::size_t kGrowth = 2; // of all chunks so far
+// The C library asks the system for each block of this size on its own, until it has seen one given back; from then on
+// it keeps twice as much. Blocks only little smaller it would give back after each call.
+constexpr std::size_t kKept = std::size_t{136} << 10;
 } // namespace
 
 void* Arena::AllocateSlow(std::size_t bytes) noexcept {
@@ -18,12 +20,14 @@ void* Arena::AllocateSlow(std::size_t bytes) noexcept {
     // Chunks grow, so that a large document costs few of them; an outsized request gets a chunk of its own size.
     std::size_t room = chunkSize_;
     if (room < rounded) room = rounded;
-    auto* const chunk = static_cast<Chunk*>(std::malloc(kHeader + room));
+    if (room > kKept / 2 && room < kKept) room = kKept;
+    auto* const chunk = static_cast<Chunk*>(std::malloc(kBlockHeader + room));
     if (chunk == nullptr) return Fail<void>();
     chunk->previous = chunks_;
     chunks_ = chunk;
-    if (chunkSize_ < kLargestStep) chunkSize_ *= kGrowth;
-    auto* const begin = reinterpret_cast<std::byte*>(chunk) + kHeader;
+    total_ += room;
+    chunkSize_ = total_ < kLargestStep / kGrowth ? total_ * kGrowth : kLargestStep;
+    auto* const begin = reinterpret_cast<std::byte*>(chunk) + kBlockHeader;
     const auto left = room - rounded;
     // Keep filling the chunk that has more room left.
     if (left >= static_cast<std::size_t>(end_ - next_)) {

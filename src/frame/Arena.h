@@ -33,6 +33,21 @@ class Arena {
         return static_cast<T*>(Allocate(count * sizeof(T)));
     }
 
+    // How long the text is that the call is about, so that its document takes one chunk of the heap, if any.
+    void Expect(std::size_t textSize) noexcept {
+        constexpr std::size_t kMost = std::size_t{1} << 32;
+        if (chunks_ == nullptr && textSize < kMost && chunkSize_ < kPerByte * textSize)
+            chunkSize_ = kPerByte * textSize;
+    }
+
+    // Takes over a block of malloc's, whose first kBlockHeader bytes are the arena's.
+    static constexpr std::size_t kBlockHeader = 16; // keeps what follows it aligned
+    void Adopt(void* block) noexcept {
+        auto* const chunk = static_cast<Chunk*>(block);
+        chunk->previous = chunks_;
+        chunks_ = chunk;
+    }
+
     // The allocation that nobody could have granted: a size beyond all counting.
     void Exhaust() noexcept { failed_ = true; }
 
@@ -59,10 +74,14 @@ class Arena {
     void* AllocateSlow(std::size_t bytes) noexcept;
     void Release() noexcept;
 
+    // Documents of devices have up to twice as many bytes as their texts.
+    static constexpr std::size_t kPerByte = 2;
+
     std::byte* next_;
     std::byte* end_;
     Chunk* chunks_ = nullptr;
-    std::size_t chunkSize_ = std::size_t{32} << 10;
+    std::size_t chunkSize_ = std::size_t{32} << 10; // of the next one
+    std::size_t total_ = 0;                         // of all chunks so far
     bool failed_ = false;
     alignas(16) std::byte spare_[kSpareSize];
 };

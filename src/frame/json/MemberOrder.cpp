@@ -9,20 +9,20 @@ namespace {
 constexpr std::size_t kRun = 8; // short enough to be sorted by insertion
 
 // `prefix` is the left key's.
-bool Below(std::uint64_t prefix, std::string_view left, std::string_view right) noexcept {
+bool Below(std::uint64_t prefix, const Member& left, const Member& right) noexcept {
     const std::uint64_t rightPrefix = KeyPrefix(right);
-    return prefix != rightPrefix ? prefix < rightPrefix : CompareKeys(left, right) < 0;
+    return prefix != rightPrefix ? prefix < rightPrefix : CompareKeys(left.key(), right.key()) < 0;
 }
 bool MemberBelow(const Member& left, const Member& right) noexcept {
-    return Below(KeyPrefix(left.key()), left.key(), right.key());
+    return Below(KeyPrefix(left), left, right);
 }
 
 void InsertionSort(Member* first, Member* last) noexcept {
     for (Member* next = first + 1; next < last; ++next) {
         const Member member = *next;
-        const std::uint64_t prefix = KeyPrefix(member.key());
+        const std::uint64_t prefix = KeyPrefix(member);
         Member* hole = next;
-        for (; hole != first && Below(prefix, member.key(), hole[-1].key()); --hole)
+        for (; hole != first && Below(prefix, member, hole[-1]); --hole)
             *hole = hole[-1];
         *hole = member;
     }

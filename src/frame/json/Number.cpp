@@ -43,7 +43,7 @@ bool IsHuge(const char* p, const char* end) noexcept {
 #if FLT_EVAL_METHOD == 0
 // Digits, a point, digits: up to 15 of them are exact in a double, and so is the power of ten, so that one division
 // rounds right. That is nearly every real a device sends. Null when the token is of another form.
-const char* ReadShortDecimal(const char* token, const char* end, Value& value) noexcept {
+const char* ReadShortDecimal(const char* token, const char* end, void* at) noexcept {
     static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     constexpr std::ptrdiff_t kDigits = 15;
@@ -60,7 +60,7 @@ const char* ReadShortDecimal(const char* token, const char* end, Value& value) n
         digits = digits * 10 + static_cast<unsigned>(*p++ - '0');
     if (p - begin > kDigits + 1 || (p != end && kNumberByte[static_cast<unsigned char>(*p)])) return nullptr;
     const double magnitude = static_cast<double>(digits) / kPowers[p - point - 1];
-    value = Value::OfReal(negative ? -magnitude : magnitude);
+    Value::PutReal(at, negative ? -magnitude : magnitude);
     return p;
 }
 #endif
@@ -73,9 +73,9 @@ const char* NumberTokenEnd(const char* token, const char* end) noexcept {
     return token;
 }
 
-const char* ReadReal(const char* token, const char* end, Value& value) noexcept {
+const char* ReadReal(const char* token, const char* end, void* at) noexcept {
 #if FLT_EVAL_METHOD == 0
-    if (const char* const after = ReadShortDecimal(token, end, value)) return after;
+    if (const char* const after = ReadShortDecimal(token, end, at)) return after;
 #endif
     const char* const tokenEnd = NumberTokenEnd(token, end);
     double number = 0.0;
@@ -85,7 +85,7 @@ const char* ReadReal(const char* token, const char* end, Value& value) noexcept 
         number = IsHuge(token, stop) ? std::numeric_limits<double>::infinity() : 0.0;
         if (*token == '-') number = -number;
     }
-    value = Value::OfReal(number);
+    Value::PutReal(at, number);
     return tokenEnd;
 }
 

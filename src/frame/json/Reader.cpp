@@ -5,6 +5,7 @@
 #include "frame/json/Scan.h"
 #include "frame/json/StringDecoder.h"
 
+#include <cstdlib>
 #include <limits>
 
 namespace orrery::json {
@@ -24,16 +25,33 @@ enum class Around : std::uint8_t { Nothing, Array, Object };
 
 // Stands in the slot of a container's value while its elements are read, to find the way back out.
 struct Enclosing {
-    std::size_t distance; // in bytes, from the enclosing container's first entry to this one's
+    std::uint64_t prefix;   // of the enclosing object's key
+    std::uint32_t distance; // in values, from the enclosing container's first entry to this one's
     Around around;
     bool sorted;
 };
 static_assert(sizeof(Enclosing) <= sizeof(Value));
 
-// KeyPrefix without a look at how long a short key is: eight bytes must be loadable.
-std::uint64_t LoadablePrefix(const char* key, std::size_t size) noexcept {
-    const auto bytes = BigEndian<std::uint64_t>(key);
-    return size >= 8 ? bytes : bytes & ~(~std::uint64_t{0} >> (8 * size));
+// Whether the characters of `pattern` stand at `p`, by one compare.
+template <std::size_t Size>
+bool Stands(const char* p, const char* end, const char (&pattern)[Size]) noexcept {
+    static_assert(Size == 3 || Size == 5, "of two or four bytes, which are one load");
+    return end - p >= static_cast<std::ptrdiff_t>(Size - 1) && std::memcmp(p, pattern, Size - 1) == 0;
+}
+
+// Entries that have only just been stored, value by value: wider loads would have to wait for them.
+void MoveEntries(std::byte* to, const std::byte* from, std::size_t bytes) noexcept {
+#if ORRERY_SSE2
+    constexpr std::size_t kFew = 512;
+    if (bytes <= kFew) {
+        for (const std::byte* const stop = from + bytes; from != stop; from += sizeof(Value), to += sizeof(Value)) {
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_loadu_si128(reinterpret_cast<const __m128i*>(from)));
+            asm volatile("" ::: "memory"); // or it becomes a call of memcpy
+        }
+        return;
+    }
+#endif
+    std::memcpy(to, from, bytes);
 }
 
 // Elements and members pile up on a stack of their own, wherever their container stands in the document, and move to
@@ -43,6 +61,9 @@ class Reader {
   public:
     Reader(std::string_view text, Arena& arena, SyntaxError* error) noexcept
         : begin_(text.data()), end_(begin_ + text.size()), arena_(arena), error_(error) {}
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+    ~Reader() { std::free(block_); }
 
     bool Read(Value& root) noexcept;
 
@@ -56,71 +77,84 @@ class Reader {
         return Fail(decoded.stop, decoded.unterminated ? unterminated : decoded.message);
     }
     bool Grow(std::byte*& top, std::byte*& start, std::byte*& limit) noexcept;
-    bool InOrder(const Member& before, const Member& after, bool loadable) const noexcept;
+    bool HandOver(std::size_t bytes, std::byte*& start, std::byte*& limit) noexcept;
 
     // Room that is kept free above `top`: a member and what it opens.
-    static constexpr std::ptrdiff_t kHeadroom = 64;
+    static constexpr std::size_t kHeadroom = 64;
     static constexpr std::size_t kStackSize = std::size_t{16} << 10;
 
     const char* const begin_;
     const char* const end_;
     Arena& arena_;
     SyntaxError* const error_;
-    StackArena<kStackSize> stack_;
-    std::byte* bottom_ = nullptr;
+    void* block_ = nullptr; // the stack behind an arena's header, once it has outgrown `near_`
+    std::byte* bottom_ = near_;
+    alignas(16) std::byte near_[kStackSize]; // left uninitialised on purpose
 };
 
 bool Reader::Grow(std::byte*& top, std::byte*& start, std::byte*& limit) noexcept {
     const auto used = static_cast<std::size_t>(top - bottom_);
-    const auto room = static_cast<std::size_t>(limit - bottom_) * 2;
-    auto* const larger = static_cast<std::byte*>(stack_.Allocate(room));
-    if (larger == nullptr) {
+    const auto before = static_cast<std::size_t>(start - bottom_);
+    // A value takes two bytes of text, itself and what separates it, so this is enough, but for brackets that are
+    // opened and never closed.
+    const std::size_t enough = static_cast<std::size_t>(end_ - begin_ + 1) / 2 * sizeof(Value) + 2 * kHeadroom;
+    std::size_t room = static_cast<std::size_t>(limit - bottom_) * 2;
+    if (room > enough && used + kHeadroom <= enough) room = enough;
+    const bool isNear = block_ == nullptr;
+    void* const block = std::realloc(block_, Arena::kBlockHeader + room);
+    if (block == nullptr) {
         arena_.Exhaust();
         return false;
     }
-    std::memcpy(larger, bottom_, used);
-    start = larger + (start - bottom_);
-    top = larger + used;
-    limit = larger + room;
-    bottom_ = larger;
+    block_ = block;
+    bottom_ = static_cast<std::byte*>(block) + Arena::kBlockHeader;
+    if (isNear) std::memcpy(bottom_, near_, used);
+    start = bottom_ + before;
+    top = bottom_ + used;
+    limit = bottom_ + room;
     return true;
 }
 
-// Whether the two keys are in order and different. `loadable`: eight bytes may be loaded from each.
-bool Reader::InOrder(const Member& before, const Member& after, bool loadable) const noexcept {
-    if (loadable) {
-        const std::uint64_t left = LoadablePrefix(before.keyText, before.keySize);
-        const std::uint64_t right = LoadablePrefix(after.keyText, after.keySize);
-        if (left != right) return left < right;
-    }
-    return CompareKeys(before.key(), after.key()) < 0;
+// Leaves a long container's entries where they are and gives the whole stack to the arena, so that the longest of all
+// is not held twice. False when it is not worth it.
+bool Reader::HandOver(std::size_t bytes, std::byte*& start, std::byte*& limit) noexcept {
+    const auto below = static_cast<std::size_t>(start - bottom_);
+    if (block_ == nullptr || bytes < static_cast<std::size_t>(limit - bottom_) / 2) return false;
+    if (below + bytes < kStackSize || below > kStackSize - kHeadroom) return false;
+    arena_.Adopt(block_);
+    block_ = nullptr;
+    std::memcpy(near_, bottom_, below);
+    bottom_ = near_;
+    start = near_ + below;
+    limit = near_ + kStackSize;
+    return true;
 }
 
 bool Reader::Read(Value& root) noexcept {
     const char* const end = end_;
-    bottom_ = static_cast<std::byte*>(stack_.Allocate(kStackSize));
     std::byte* top = bottom_;
     std::byte* limit = bottom_ + kStackSize;
     std::byte* start = top; // the first entry of the innermost open container
     Around around = Around::Nothing;
     bool sorted = true;
+    std::uint64_t prefix = 0; // of the key before in the innermost open object
     const char* p = SkipBlanks(begin_, end);
 
     for (;;) {
-        // One value, into the slot at `top`; `p` is at its first byte.
+        // One value, into the slot at `top`; `p` is at its first byte or at blanks before it.
         if (p == end) return Fail(p, kValueExpected);
         switch (*p) {
         case '"': {
             const char* const text = p + 1;
             const char* const stop = FindQuoteOrBackslash(text, end);
             if (stop != end && *stop == '"') [[likely]] {
-                new (top) Value(Value::OfString({text, static_cast<std::size_t>(stop - text)}));
+                Value::PutString(top, text, static_cast<std::size_t>(stop - text));
                 p = stop + 1;
                 break;
             }
             const DecodedString decoded = DecodeString(text, stop, end, arena_);
             if (decoded.text.data() == nullptr) return FailString(decoded, kValueExpected);
-            new (top) Value(Value::OfString(decoded.text));
+            Value::PutString(top, decoded.text.data(), decoded.text.size());
             p = decoded.stop;
             break;
         }
@@ -129,40 +163,44 @@ bool Reader::Read(Value& root) noexcept {
             const bool object = *p == '{';
             p = SkipBlanks(p + 1, end);
             if (p != end && *p == (object ? '}' : ']')) {
-                new (top) Value(object ? Value::OfObject(nullptr, 0) : Value::OfArray(nullptr, 0));
+                object ? Value::PutObject(top, nullptr, 0) : Value::PutArray(top, nullptr, 0);
                 ++p;
                 break;
             }
-            new (top) Enclosing{static_cast<std::size_t>(top + sizeof(Value) - start), around, sorted};
+            const auto distance = static_cast<std::size_t>(top + sizeof(Value) - start) / sizeof(Value);
+            new (top) Enclosing{prefix, static_cast<std::uint32_t>(distance), around, sorted};
             top += sizeof(Value);
             start = top;
             around = object ? Around::Object : Around::Array;
             sorted = true;
-            if (limit - top < kHeadroom && !Grow(top, start, limit)) return false;
+            if (static_cast<std::size_t>(limit - top) < kHeadroom && !Grow(top, start, limit)) return false;
             if (object) goto memberName;
             continue;
         }
         case 't':
-            if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return Fail(p, kValueExpected);
-            new (top) Value(Value::OfBool(true));
+            if (!Stands(p, end, "true")) return Fail(p, kValueExpected);
+            Value::PutBool(top, true);
             p += 4;
             break;
         case 'f':
             if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return Fail(p, kValueExpected);
-            new (top) Value(Value::OfBool(false));
+            Value::PutBool(top, false);
             p += 5;
             break;
         case 'n':
-            if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return Fail(p, kValueExpected);
-            new (top) Value;
+            if (!Stands(p, end, "null")) return Fail(p, kValueExpected);
+            Value::PutNull(top);
             p += 4;
             break;
         default: {
-            if (*p != '-' && (*p < '0' || *p > '9')) return Fail(p, kValueExpected);
-            Value number;
-            const char* const after = ReadNumber(p, end, number);
+            if (*p != '-' && (*p < '0' || *p > '9')) {
+                const char* const next = SkipBlanksAndComments(p, end);
+                if (next == p) return Fail(p, kValueExpected);
+                p = next;
+                continue;
+            }
+            const char* const after = ReadNumber(p, end, top);
             if (after == nullptr) return Fail(NumberTokenEnd(p, end), kNotANumber);
-            new (top) Value(number);
             p = after;
             break;
         }
@@ -175,64 +213,83 @@ bool Reader::Read(Value& root) noexcept {
                 return true;
             }
             top += sizeof(Value);
+            if (Stands(p, end, ", ")) [[likely]] {
+                p += 2;
+                break;
+            }
             p = SkipBlanks(p, end);
             if (p != end && *p == ',') {
                 p = SkipBlanks(p + 1, end);
                 break;
             }
-            Value closed;
-            const auto bytes = static_cast<std::size_t>(top - start);
-            if (around == Around::Array) {
-                if (p == end || *p != ']') return Fail(p, kArrayUnfinished);
-                void* const elements = arena_.Allocate(bytes);
-                if (elements == nullptr) return false;
-                std::memcpy(elements, start, bytes);
-                closed =
-                    Value::OfArray(static_cast<Value*>(elements), static_cast<std::uint32_t>(bytes / sizeof(Value)));
-            } else {
-                if (p == end || *p != '}') return Fail(p, kObjectUnfinished);
-                void* const members = arena_.Allocate(bytes);
-                if (members == nullptr) return false;
-                std::memcpy(members, start, bytes);
-                auto count = static_cast<std::uint32_t>(bytes / sizeof(Member));
-                if (!sorted) {
-                    count = SortMembers(static_cast<Member*>(members), reinterpret_cast<Member*>(start), count);
-                }
-                closed = Value::OfObject(static_cast<Member*>(members), count);
-            }
+            const bool object = around == Around::Object;
+            if (p == end || *p != (object ? '}' : ']')) return Fail(p, object ? kObjectUnfinished : kArrayUnfinished);
             ++p;
+            const auto bytes = static_cast<std::size_t>(top - start);
+            std::byte* entries = start;
+            if (!sorted || !HandOver(bytes, start, limit)) {
+                entries = static_cast<std::byte*>(arena_.Allocate(bytes));
+                if (entries == nullptr) return false;
+                MoveEntries(entries, start, bytes);
+            }
+            const std::byte* const from = start;
             top = start - sizeof(Value);
             const Enclosing enclosing = *std::launder(reinterpret_cast<const Enclosing*>(top));
-            start -= enclosing.distance;
+            start -= std::size_t{enclosing.distance} * sizeof(Value);
+            if (object) {
+                auto count = static_cast<std::uint32_t>(bytes / sizeof(Member));
+                auto* const members = reinterpret_cast<Member*>(entries);
+                if (!sorted) {
+                    auto* const scratch = reinterpret_cast<Member*>(const_cast<std::byte*>(from));
+                    count = SortMembers(members, scratch, count);
+                }
+                Value::PutObject(top, members, count);
+            } else {
+                Value::PutArray(top, reinterpret_cast<const Value*>(entries), bytes / sizeof(Value));
+            }
             around = enclosing.around;
             sorted = enclosing.sorted;
-            new (top) Value(closed);
+            prefix = enclosing.prefix;
         }
-        if (limit - top < kHeadroom && !Grow(top, start, limit)) return false;
+        if (static_cast<std::size_t>(limit - top) < kHeadroom && !Grow(top, start, limit)) return false;
         if (around == Around::Array) continue;
 
     memberName:
-        if (p == end || *p != '"') return Fail(p, kNameMissing);
-        auto* const member = reinterpret_cast<Member*>(top);
+        if (p == end || *p != '"') {
+            p = SkipBlanks(p, end);
+            if (p == end || *p != '"') return Fail(p, kNameMissing);
+        }
         {
-            const char* const key = p + 1;
-            const char* const stop = FindQuoteOrBackslash(key, end);
-            const bool loadable = end - key >= 8; // so it is from the key before, which lies in front of this one
-            if (stop != end && *stop == '"') [[likely]] {
-                member->keyText = key;
-                member->keySize = static_cast<std::uint32_t>(stop - key);
-                p = stop + 1;
-            } else {
+            const char* key = p + 1;
+            const char* stop = FindQuoteOrBackslash(key, end);
+            auto size = static_cast<std::size_t>(stop - key);
+            if (stop == end || *stop != '"') [[unlikely]] {
                 const DecodedString decoded = DecodeString(key, stop, end, arena_);
                 if (decoded.text.data() == nullptr) return FailString(decoded, kNameMissing);
-                member->keyText = decoded.text.data();
-                member->keySize = static_cast<std::uint32_t>(decoded.text.size());
-                p = decoded.stop;
+                key = decoded.text.data();
+                size = decoded.text.size();
+                stop = decoded.stop - 1;
+            } else if (end - key < static_cast<std::ptrdiff_t>(kKeySlack)) [[unlikely]] {
+                auto* const copy = arena_.Array<char>(size + kKeySlack);
+                if (copy == nullptr) return false;
+                std::memcpy(copy, key, size);
+                std::memset(copy + size, 0, kKeySlack);
+                key = copy;
             }
-            if (top != start && sorted) sorted = InOrder(member[-1], *member, loadable);
+            auto* const member = reinterpret_cast<Member*>(top);
+            Member::PutKey(member, key, static_cast<std::uint32_t>(size));
+            const std::uint64_t before = prefix;
+            prefix = KeyPrefix(key, size);
+            if (prefix <= before && top != start && sorted) {
+                sorted = prefix == before && CompareKeys(member[-1].key(), {key, size}) < 0;
+            }
+            top += offsetof(Member, value);
+            if (Stands(stop, end, "\" : ")) [[likely]] {
+                p = stop + 4;
+                continue;
+            }
+            p = SkipBlanks(stop + 1, end);
         }
-        top = reinterpret_cast<std::byte*>(&member->value);
-        p = SkipBlanks(p, end);
         if (p == end || *p != ':') return Fail(p, kColonMissing);
         p = SkipBlanks(p + 1, end);
     }
@@ -266,6 +323,7 @@ bool Parse(std::string_view text, Arena& arena, Value& root, SyntaxError* error)
         if (error != nullptr) *error = {kTextTooLong, 0};
         return false;
     }
+    arena.Expect(text.size());
     return Reader(text, arena, error).Read(root);
 }
 

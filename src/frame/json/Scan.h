@@ -1,17 +1,12 @@
 // Looking at text sixteen bytes at a time. Nothing here loads a byte outside [p, end).
 #pragma once
 
+#include "frame/json/Value.h"
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#define ORRERY_SSE2 1
-#else
-#define ORRERY_SSE2 0
-#endif
 
 namespace orrery::json {
 

@@ -14,7 +14,7 @@ struct DecodedString {
     bool unterminated = false; // the text ended before the string did
     bool exhausted = false;    // the arena has failed
 
-    static constexpr std::size_t kSlack = 8;
+    static constexpr std::size_t kSlack = kKeySlack;
 };
 
 // Reads the string that begins at `begin`, behind its quote, and whose first backslash is at `backslash`.

@@ -152,8 +152,9 @@ Value& Value::At(Arena& arena, std::string_view key) noexcept {
         arena.Exhaust();
         return NobodyReads(arena);
     }
-    char* const text = arena.Array<char>(key.size());
+    char* const text = arena.Array<char>(key.size() + kKeySlack);
     if (text == nullptr) return NobodyReads(arena);
+    std::memset(text + key.size(), 0, kKeySlack);
     if (!key.empty()) std::memcpy(text, key.data(), key.size());
     if (size_ == Capacity()) {
         Member* const room = Enlarge(arena, payload_.members, size_, size_, growth_);

@@ -16,6 +16,13 @@
 #include <string_view>
 #include <type_traits>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#define ORRERY_SSE2 1
+#else
+#define ORRERY_SSE2 0
+#endif
+
 namespace orrery::json {
 
 enum class Type : std::uint8_t { Null, Int, UInt, Real, String, Bool, Array, Object };
@@ -63,6 +70,27 @@ class Value {
         return value;
     }
 
+    // Makes a value at `at` by a single store, where the hot path makes and reads one at once: a value put together
+    // piece by piece, and copied before all pieces have arrived, stalls the processor.
+    static void PutNull(void* at) noexcept { Put(at, Type::Null, 0, 0); }
+    static void PutInt(void* at, std::int32_t number) noexcept {
+        Put(at, Type::Int, 0, Leading(static_cast<std::uint32_t>(number), 4));
+    }
+    static void PutUInt(void* at, std::uint32_t number) noexcept { Put(at, Type::UInt, 0, Leading(number, 4)); }
+    static void PutReal(void* at, double number) noexcept {
+        Put(at, Type::Real, 0, std::bit_cast<std::uint64_t>(number));
+    }
+    static void PutBool(void* at, bool flag) noexcept { Put(at, Type::Bool, 0, Leading(flag, 1)); }
+    static void PutString(void* at, const char* text, std::size_t size) noexcept {
+        Put(at, Type::String, static_cast<std::uint32_t>(size), Address(text));
+    }
+    static void PutArray(void* at, const Value* elements, std::size_t count) noexcept {
+        Put(at, Type::Array, static_cast<std::uint32_t>(count), Address(elements));
+    }
+    static void PutObject(void* at, const Member* members, std::size_t count) noexcept {
+        Put(at, Type::Object, static_cast<std::uint32_t>(count), Address(members));
+    }
+
     Type type() const noexcept { return type_; }
     bool isNull() const noexcept { return type_ == Type::Null; }
     // Null passes for both, as the device's "nothing here" is an empty list and an empty object alike.
@@ -107,6 +135,8 @@ class Value {
     Value& At(Arena& arena, std::uint32_t index) noexcept;
 
   private:
+    friend struct Member;
+
     union Payload {
         std::int32_t number;
         std::uint32_t unsignedNumber;
@@ -116,6 +146,29 @@ class Value {
         Value* elements;
         Member* members;
     };
+
+    static constexpr bool kLittle = std::endian::native == std::endian::little;
+
+    // A number of `bytes` bytes as the first of a payload's eight.
+    static std::uint64_t Leading(std::uint64_t number, unsigned bytes) noexcept {
+        return kLittle ? number : number << (64 - 8 * bytes);
+    }
+    static std::uint64_t Address(const void* at) noexcept {
+        return Leading(reinterpret_cast<std::uintptr_t>(at), sizeof at);
+    }
+    static void PutWords(void* at, std::uint64_t first, std::uint64_t second) noexcept {
+#if ORRERY_SSE2
+        _mm_storeu_si128(static_cast<__m128i*>(at),
+                         _mm_set_epi64x(static_cast<std::int64_t>(second), static_cast<std::int64_t>(first)));
+#else
+        const std::uint64_t words[2] = {first, second};
+        std::memcpy(at, words, sizeof words);
+#endif
+    }
+    static void Put(void* at, Type type, std::uint32_t size, std::uint64_t payload) noexcept {
+        const auto code = static_cast<std::uint64_t>(type);
+        PutWords(at, kLittle ? code | std::uint64_t{size} << 32 : code << 56 | size, payload);
+    }
 
     explicit Value(Type type, std::uint32_t size = 0) noexcept : type_(type), growth_(0), size_(size), payload_{} {}
 
@@ -134,14 +187,19 @@ class Value {
 static_assert(sizeof(Value) == 16);
 
 struct Member {
-    const char* keyText;
+    const char* keyText; // kKeySlack bytes may be loaded, however short the key is
     std::uint32_t keySize;
     Value value;
 
     std::string_view key() const noexcept { return {keyText, keySize}; }
+    // The key of a member at `at`, by a single store as well.
+    static void PutKey(void* at, const char* text, std::uint32_t size) noexcept {
+        Value::PutWords(at, Value::Address(text), Value::Leading(size, sizeof size));
+    }
 };
 
 static_assert(sizeof(Member) == 32);
+inline constexpr std::size_t kKeySlack = 8;
 
 // A number of a text's bytes, the first one uppermost, so that numbers order like texts.
 template <class Number>
@@ -183,6 +241,15 @@ constexpr std::uint64_t KeyPrefix(std::string_view key) noexcept {
                | std::uint64_t{BigEndian<std::uint16_t>(key.data() + size - 2)} << unused;
     }
     return size == 0 ? 0 : std::uint64_t{static_cast<unsigned char>(key[0])} << 56;
+}
+
+// The same of a member's key, which is loaded without a look at its length.
+inline std::uint64_t KeyPrefix(const char* key, std::size_t size) noexcept {
+    const auto bytes = BigEndian<std::uint64_t>(key);
+    return size >= 8 ? bytes : bytes & ~(~std::uint64_t{0} >> (8 * size));
+}
+inline std::uint64_t KeyPrefix(const Member& member) noexcept {
+    return KeyPrefix(member.keyText, member.keySize);
 }
 
 // The shared null value that misses yield.
