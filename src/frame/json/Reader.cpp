@@ -100,15 +100,16 @@ bool Reader::Grow(std::byte*& top, std::byte*& start, std::byte*& limit) noexcep
     const std::size_t enough = static_cast<std::size_t>(end_ - begin_ + 1) / 2 * sizeof(Value) + 2 * kHeadroom;
     std::size_t room = static_cast<std::size_t>(limit - bottom_) * 2;
     if (room > enough && used + kHeadroom <= enough) room = enough;
-    const bool isNear = block_ == nullptr;
-    void* const block = std::realloc(block_, Arena::kBlockHeader + room);
+    void* const block = std::malloc(Arena::kBlockHeader + room);
     if (block == nullptr) {
         arena_.Exhaust();
         return false;
     }
+    auto* const larger = static_cast<std::byte*>(block) + Arena::kBlockHeader;
+    std::memcpy(larger, bottom_, used);
+    std::free(block_);
     block_ = block;
-    bottom_ = static_cast<std::byte*>(block) + Arena::kBlockHeader;
-    if (isNear) std::memcpy(bottom_, near_, used);
+    bottom_ = larger;
     start = bottom_ + before;
     top = bottom_ + used;
     limit = bottom_ + room;

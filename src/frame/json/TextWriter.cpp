@@ -44,7 +44,7 @@ unsigned Suspects(__m128i bytes) noexcept {
 // Digits of a real: `digits` holds the 16 significant ones, of which the first stands in front of the decimal point
 // when the decimal exponent is 0.
 constexpr int kPrecision = 16;
-constexpr std::size_t kRealRoom = 32;
+constexpr std::size_t kRealRoom = 48;
 constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out without a search for their digits
 
 // Lays the digits out as "%#.16g" does: plainly for exponents from -4 to 15, otherwise with an exponent.
@@ -87,8 +87,7 @@ void TextWriter::Real(double number) noexcept {
         char* const point = std::to_chars(out, text + kRealRoom, static_cast<std::uint32_t>(magnitude)).ptr;
         *point = '.';
         std::memset(point + 1, '0', kPrecision);
-        Separate();
-        return Append(text, static_cast<std::size_t>(out + kPrecision + 1 - text));
+        return Scalar(text, static_cast<std::size_t>(out + kPrecision + 1 - text));
     }
     if (!std::isfinite(number)) {
         Separate();
@@ -110,8 +109,48 @@ void TextWriter::Real(double number) noexcept {
         std::memcpy(digits + 1, out + 2, kPrecision - 1);
         last = LayOut(digits, exponent, out);
     }
+    Scalar(text, static_cast<std::size_t>(last - text));
+}
+
+// Whether a text of 32 bytes or less is known to need no escape.
+bool TextWriter::IsClean(std::string_view text) noexcept {
+    const char* const p = text.data();
+    const std::size_t size = text.size();
+#if ORRERY_SSE2
+    if (size >= 16) {
+        const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + size - 16));
+        return (Suspects(low) | Suspects(high)) == 0;
+    }
+    if (size >= 8) {
+        const __m128i low = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+        const __m128i high = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p + size - 8));
+        return Suspects(_mm_unpacklo_epi64(low, high)) == 0;
+    }
+    if (size >= 4) {
+        std::uint32_t low, high;
+        std::memcpy(&low, p, 4);
+        std::memcpy(&high, p + size - 4, 4);
+        return Suspects(_mm_set1_epi64x(static_cast<std::int64_t>(std::uint64_t{high} << 32 | low))) == 0;
+    }
+#endif
+    char any = 0;
+    for (const char byte : text)
+        any |= EscapeOf(byte);
+    return any == 0;
+}
+
+void TextWriter::String(std::string_view text) noexcept {
+    constexpr std::size_t kShort = 32;
+    if (text.size() <= kShort && IsClean(text)) {
+        if (char* const at = Room(text.size() + 2)) [[likely]] {
+            next_ = Quoted(Separated(at), text);
+            first_ = false;
+            return;
+        }
+    }
     Separate();
-    Append(text, static_cast<std::size_t>(last - text));
+    Quote(text);
 }
 
 void TextWriter::Quote(std::string_view text) noexcept {

@@ -26,14 +26,10 @@ class TextWriter {
     // The digits of printf's "%#.16g", whatever the locale.
     void Real(double number) noexcept;
     // Quoted, with `"`, `\`, `/` and the bytes 8, 9, 10, 12, 13 escaped; every other byte as it stands.
-    void String(std::string_view text) noexcept {
-        Separate();
-        Quote(text);
-    }
+    void String(std::string_view text) noexcept;
 
     void BeginArray() noexcept {
-        Separate();
-        Append("[ ", 2);
+        Scalar("[ ", 2);
         first_ = true;
     }
     void EndArray() noexcept {
@@ -41,8 +37,7 @@ class TextWriter {
         first_ = false;
     }
     void BeginObject() noexcept {
-        Separate();
-        Append("{ ", 2);
+        Scalar("{ ", 2);
         first_ = true;
     }
     void EndObject() noexcept {
@@ -60,6 +55,46 @@ class TextWriter {
         Scalar(quoted.data(), quoted.size());
         first_ = true;
     }
+    // Such a key with its value.
+    void RawMember(std::string_view quoted, bool flag) noexcept {
+        if (char* const at = Room(quoted.size() + 5)) {
+            char* const p = CopyShort(Separated(at), quoted.data(), quoted.size());
+            std::memcpy(p, flag ? "true" : "fals", 4);
+            p[4] = 'e'; // of "false"; nothing behind "true", where the next bytes go
+            next_ = p + (flag ? 4 : 5);
+            first_ = false;
+            return;
+        }
+        RawKey(quoted);
+        Bool(flag);
+    }
+    void RawMember(std::string_view quoted, std::int32_t number) noexcept {
+        if (char* const at = Room(quoted.size() + kIntegerRoom)) {
+            next_ = Digits(CopyShort(Separated(at), quoted.data(), quoted.size()), number);
+            first_ = false;
+            return;
+        }
+        RawKey(quoted);
+        Int(number);
+    }
+    void RawMember(std::string_view quoted, std::string_view clean) noexcept {
+        if (char* const at = Room(quoted.size() + clean.size() + 2)) {
+            next_ = Quoted(CopyShort(Separated(at), quoted.data(), quoted.size()), clean);
+            first_ = false;
+            return;
+        }
+        RawKey(quoted);
+        CleanString(clean);
+    }
+    // A string with nothing to escape in it.
+    void CleanString(std::string_view clean) noexcept {
+        if (char* const at = Room(clean.size() + 2)) {
+            next_ = Quoted(Separated(at), clean);
+            first_ = false;
+            return;
+        }
+        String(clean);
+    }
     // A string with nothing to escape in it that is quoted already.
     void RawString(std::string_view quoted) noexcept { Scalar(quoted.data(), quoted.size()); }
 
@@ -76,7 +111,7 @@ class TextWriter {
 
   private:
     // Longer than any 32-bit number.
-    static constexpr std::ptrdiff_t kIntegerRoom = 12;
+    static constexpr std::size_t kIntegerRoom = 12;
     static constexpr std::size_t kSeparator = 2;
 
     void Append(const char* text, std::size_t size) noexcept {
@@ -91,16 +126,33 @@ class TextWriter {
         if (!first_) Append(", ", kSeparator);
         first_ = false;
     }
-    // The same where there is room for it.
-    void SeparateWithin() noexcept {
-        if (!first_) {
-            std::memcpy(next_, ", ", kSeparator);
-            next_ += kSeparator;
+    // Where the next bytes go when there is room for a separator and `size` bytes more; null when there is not. Whoever
+    // writes there keeps the place in a variable of its own: any byte stored might, for all the compiler knows, be part
+    // of `next_`.
+    char* Room(std::size_t size) const noexcept {
+        return size + kSeparator <= static_cast<std::size_t>(end_ - next_) ? next_ : nullptr;
+    }
+    char* Separated(char* at) const noexcept {
+        if (first_) return at;
+        std::memcpy(at, ", ", kSeparator);
+        return at + kSeparator;
+    }
+    static char* Quoted(char* at, std::string_view clean) noexcept {
+        *at = '"';
+        char* const end = CopyShort(at + 1, clean.data(), clean.size());
+        *end = '"';
+        return end + 1;
+    }
+    template <class Number>
+    static char* Digits(char* at, Number number) noexcept {
+        if (number >= 0 && number < 10) {
+            *at = static_cast<char>('0' + number);
+            return at + 1;
         }
-        first_ = false;
+        return std::to_chars(at, at + kIntegerRoom, number).ptr;
     }
     // Texts of a few bytes, as keys and words are: two stores that overlap instead of a call.
-    static void CopyShort(char* out, const char* text, std::size_t size) noexcept {
+    static char* CopyShort(char* out, const char* text, std::size_t size) noexcept {
         if (size > 32) {
             std::memcpy(out, text, size);
         } else if (size >= 16) {
@@ -116,12 +168,12 @@ class TextWriter {
             for (std::size_t i = 0; i < size; ++i)
                 out[i] = text[i];
         }
+        return out + size;
     }
     void Scalar(const char* text, std::size_t size) noexcept {
-        if (size + kSeparator <= static_cast<std::size_t>(end_ - next_)) [[likely]] {
-            SeparateWithin();
-            CopyShort(next_, text, size);
-            next_ += size;
+        if (char* const at = Room(size)) [[likely]] {
+            next_ = CopyShort(Separated(at), text, size);
+            first_ = false;
         } else {
             Separate();
             Append(text, size);
@@ -129,12 +181,9 @@ class TextWriter {
     }
     template <class Number>
     void Integer(Number number) noexcept {
-        if (end_ - next_ >= kIntegerRoom + static_cast<std::ptrdiff_t>(kSeparator)) [[likely]] {
-            SeparateWithin();
-            if (number >= 0 && number < 10)
-                *next_++ = static_cast<char>('0' + number);
-            else
-                next_ = std::to_chars(next_, end_, number).ptr;
+        if (char* const at = Room(kIntegerRoom)) [[likely]] {
+            next_ = Digits(Separated(at), number);
+            first_ = false;
         } else {
             Separate();
             char digits[kIntegerRoom];
@@ -143,6 +192,7 @@ class TextWriter {
     }
     void AppendPart(const char* text, std::size_t size) noexcept;
     void Quote(std::string_view text) noexcept;
+    static bool IsClean(std::string_view text) noexcept;
     void Escaped(const char* p, const char* end) noexcept;
 
     char* begin_;

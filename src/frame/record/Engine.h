@@ -66,6 +66,10 @@ struct WriteCall {
         if (!object->opened) Open(*object);
         out.RawKey(quoted);
     }
+    // Such a member with its value; `clean` has nothing to escape in it.
+    void Bool(std::string_view quoted, bool flag) noexcept { Whole(quoted, flag); }
+    void Int(std::string_view quoted, std::int32_t number) noexcept { Whole(quoted, number); }
+    void Clean(std::string_view quoted, std::string_view clean) noexcept { Whole(quoted, clean); }
     // Opens a member whose name is known only now.
     void Member(std::string_view name) noexcept {
         if (!object->opened) Open(*object);
@@ -73,6 +77,11 @@ struct WriteCall {
     }
 
   private:
+    template <class T>
+    void Whole(std::string_view quoted, T value) noexcept {
+        if (!object->opened) Open(*object);
+        out.RawMember(quoted, value);
+    }
     void Open(OpenObject& closed) noexcept;
 };
 

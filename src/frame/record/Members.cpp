@@ -70,13 +70,15 @@ void SetSizeWords(const Table& table, std::byte* record) noexcept {
     Prepare(table, record, false);
 }
 void ClearFlags(const Table& table, std::byte* record) noexcept {
-    for (const Field& field : table) {
-        StoreSlot(field.flag, record, 0);
-        if (field.kind != Kind::Record || field.cell == Cell::Pointer) continue;
-        const std::uint32_t count = ElementCount(field);
-        for (std::uint32_t i = 0; i < count; ++i) {
-            ClearFlags(*field.table, record + field.offset + std::size_t{i} * field.elementSize);
+    for (std::uint16_t i = 0; i < table.flagRunCount; ++i) {
+        const FlagRun& run = table.flagRuns[i];
+        if (run.row == FlagRun::kNone) {
+            std::memset(record + run.offset, 0, run.size);
+            continue;
         }
+        const Table& inner = *table.rows[run.row].table;
+        for (std::uint32_t at = 0; at < run.size; at += inner.size)
+            ClearFlags(inner, record + run.offset + at);
     }
 }
 

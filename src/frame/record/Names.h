@@ -3,6 +3,8 @@
 
 #include "frame/With.h"
 
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -22,21 +24,63 @@ constexpr std::uint64_t FoldedPrefix(std::string_view text) {
     return prefix;
 }
 
+// Whether a text goes out as it stands.
+constexpr bool NeedsNoEscape(std::string_view text) {
+    for (const char c : text) {
+        if (c == '"' || c == '\\' || c == '/' || (c >= 8 && c <= 13)) return false;
+    }
+    return true;
+}
+
 struct Name {
     std::int32_t code;
     Compare compare; // Exact: case counts in this one text, whatever the table says
+    bool clean;      // nothing in it is escaped when it is written
     std::string_view text;
     std::uint64_t prefix; // FoldedPrefix(text)
 
     constexpr Name(std::int32_t itsCode, std::string_view itsText, Compare itsCompare = Compare::Folded)
-        : code(itsCode), compare(itsCompare), text(itsText), prefix(FoldedPrefix(itsText)) {}
+        : code(itsCode), compare(itsCompare), clean(NeedsNoEscape(itsText)), text(itsText), prefix(FoldedPrefix(itsText)) {}
+};
+
+// Where to look for a text or a code first: places of rows, from 1 on, in two tables of hashes; what is not at its place
+// comes right behind it, in the order of the rows.
+struct NameHashes {
+    static constexpr std::uint32_t OfText(std::uint64_t prefix, std::size_t size) {
+        return static_cast<std::uint32_t>((prefix + size * 0xD6E8FEB86659FD93u) * 0x9E3779B97F4A7C15u >> 40);
+    }
+    static constexpr std::uint32_t OfCode(std::int32_t code) {
+        return static_cast<std::uint32_t>(code) * 0x9E3779B1u >> 12;
+    }
+};
+template <std::size_t N>
+struct NameIndex {
+    static constexpr std::size_t kSize = std::bit_ceil(2 * N);
+    std::array<std::uint16_t, 2 * kSize> places{}; // by text, then by code
+
+    constexpr explicit NameIndex(const Name (&rows)[N]) {
+        static_assert(N < 0xFFFF);
+        for (std::size_t i = 0; i < N; ++i) {
+            Put(0, NameHashes::OfText(rows[i].prefix, rows[i].text.size()), i);
+            Put(kSize, NameHashes::OfCode(rows[i].code), i);
+        }
+    }
+
+  private:
+    constexpr void Put(std::size_t first, std::size_t hash, std::size_t row) {
+        while (places[first + hash % kSize] != 0)
+            ++hash;
+        places[first + hash % kSize] = static_cast<std::uint16_t>(row + 1);
+    }
 };
 
 struct NameTable {
     enum class Outside : std::uint8_t { NoKey, Null, Text };
 
     const Name* rows = nullptr;
+    const std::uint16_t* index = nullptr; // a NameIndex; null: the rows are few and looked at one by one
     std::uint16_t count = 0;
+    std::uint16_t indexSize = 0; // of either half
     Compare compare = Compare::Folded;
     bool countsUp = false; // the codes go up by one from row to row, as those of nearly every table do
     bool unknownLeaves = false;
@@ -74,6 +118,16 @@ constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy) {
     return policy;
 }
 
+template <std::size_t N>
+constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy, const NameIndex<N>& index) {
+    constexpr std::size_t kFew = 3;
+    policy = NamesOver(rows, policy);
+    if (N <= kFew) return policy;
+    policy.index = index.places.data();
+    policy.indexSize = NameIndex<N>::kSize;
+    return policy;
+}
+
 // How a name table compares; its other words follow.
 inline constexpr NameTable kFolded;
 inline constexpr NameTable kExact = With(NameTable{}, &NameTable::compare, Compare::Exact);
@@ -99,4 +153,5 @@ constexpr NameTable ExactNames(const Name (&rows)[N]) {
 //           });
 #define NAMES(table, policy, ...)                                                                                      \
     inline constexpr ::orrery::record::Name table##Rows[] = __VA_ARGS__;                                               \
-    inline constexpr ::orrery::record::NameTable table = ::orrery::record::NamesOver(table##Rows, policy)
+    inline constexpr ::orrery::record::NameIndex table##Index{table##Rows};                                            \
+    inline constexpr ::orrery::record::NameTable table = ::orrery::record::NamesOver(table##Rows, policy, table##Index)

@@ -255,22 +255,47 @@ void ReadCustom(const Field& field, const Value& value, std::byte* record, ReadC
     if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
 }
 
-void ReadPlainly(Plainly how, const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
-    if (how == Plainly::Function) return ReadCustom(field, value, record, call);
-    StoreSlot(field.flag, record, 1);
-    std::byte* const at = record + field.offset;
-    if (how == Plainly::Element)
-        ReadElement(field, value, at, call, {});
-    else
-        Store(at, how == Plainly::Switch ? std::int32_t{value.asBool()} : value.asInt());
+void ReadPlainly(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (node.flag.exists()) StoreInteger(node.flag.cell, record + node.flag.offset, 1);
+    std::byte* const at = record + node.offset;
+    switch (node.readPlainly) {
+    case Plainly::Switch:
+        return Store(at, std::int32_t{value.asBool()});
+    case Plainly::Number:
+        return Store(at, value.asInt());
+    case Plainly::Integer:
+        if (node.kind == Kind::UInt) return StoreInteger(node.cell, at, value.asUInt());
+        return StoreInteger(node.cell, at, node.kind == Kind::Bool ? std::int32_t{value.asBool()} : value.asInt());
+    case Plainly::Fraction:
+        return StoreReal(node.cell, at, value.asDouble());
+    case Plainly::Local:
+    case Plainly::Raw:
+        call.parser.GetJsonString(value, reinterpret_cast<char*>(at), node.elementSize,
+                                  node.readPlainly == Plainly::Local);
+        return;
+    case Plainly::Named:
+        if (const auto code = table.namesOf(node).CodeOf(value.asString())) StoreInteger(node.cell, at, *code);
+        return;
+    case Plainly::Inner:
+        ReadNamed(table.tableOf(node), value, at, call, {});
+        return;
+    case Plainly::Element:
+        ReadElement(table.rows[node.row], value, at, call, {});
+        return;
+    case Plainly::Function:
+    case Plainly::No:
+        return;
+    }
 }
 
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept;
 
 void ReadNode(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (value.isNull() && !node.needsAbsent) return;
-    if (node.readPlainly != Plainly::No)
-        ReadPlainly(node.readPlainly, table.rows[node.row], value, record, call);
+    if (node.readPlainly == Plainly::Function)
+        ReadCustom(table.rows[node.row], value, record, call);
+    else if (node.readPlainly != Plainly::No)
+        ReadPlainly(table, node, value, record, call);
     else if (node.childCount > 0)
         ReadNodes(table, {node.firstChild, node.childCount, node.childLastAbsent}, value, record, call);
     else
@@ -282,7 +307,7 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
     const Node* node = table.nodes + range.first;
     const Node* const end = node + range.count;
     for (const json::Member& member : object.members()) {
-        const std::uint64_t prefix = json::KeyPrefix(member.key());
+        const std::uint64_t prefix = json::KeyPrefix(member);
         for (; node != end && node->prefix <= prefix; ++node) {
             const int order = node->prefix < prefix ? -1 : CompareTails(table, *node, member);
             if (order > 0) break;

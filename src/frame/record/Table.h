@@ -20,18 +20,25 @@
 
 namespace orrery::record {
 
-// Rows whose words say nothing of a direction go a short way in it: of all that a row holds only its place, codec and
-// flag need be looked at.
+// Rows whose words say nothing of a direction go a short way in it: what it needs of them stands in the node, and the
+// row itself is not looked at.
 enum class Plainly : std::uint8_t {
     No,
     Switch,   // a bool in a 32-bit member
     Number,   // an int in a 32-bit member
+    Integer,  // a bool, an int or an unsigned in a member of any width
+    Fraction, // a real in a member of either width
+    Local,    // a text, converted
+    Raw,      // a text as it stands
+    Named,    // through a name table
+    Inner,    // a record through another table
     Element,  // one value of another codec; on reading only
     Function, // the row's own function; on reading only
 };
 
 // One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
 // nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
+// A node holds no pointers, so that it needs no start-up of the library and no memory of a process's own.
 struct Node {
     std::uint64_t prefix = 0;   // json::KeyPrefix of the key
     std::uint16_t quotedAt = 0; // the text `"Key" : ` in the table's key texts
@@ -44,6 +51,22 @@ struct Node {
     bool staysNull = false;   // an object inside the object that is written as null when it has no keys
     Plainly readPlainly = Plainly::No;
     Plainly writePlainly = Plainly::No;
+    // Of the row, for the short way:
+    std::uint32_t offset = 0;
+    std::uint32_t elementSize = 0;
+    Slot flag;
+    std::uint16_t reference = 0; // of its name table or table among the table's references
+    Cell cell = Cell::I32;
+    Kind kind = Kind::None;
+};
+static_assert(sizeof(Node) == 48);
+
+// Presence flags that lie side by side; or, with `row`, those of the record in that row, which has its own.
+struct FlagRun {
+    static constexpr std::uint16_t kNone = 0xFFFF;
+    std::uint32_t offset = 0;
+    std::uint32_t size = 0;
+    std::uint16_t row = kNone;
 };
 
 struct NodeRange {
@@ -74,6 +97,9 @@ struct Table {
 
     const Node* nodes = nullptr;
     const char* keyTexts = nullptr;
+    const void* const* references = nullptr; // name tables and tables that nodes refer to
+    const FlagRun* flagRuns = nullptr;
+    std::uint16_t flagRunCount = 0;
     NodeRange members;  // keys of the record's object
     NodeRange fromRoot; // keys that start at the document
     NodeRange self;     // fields that are the value itself; a tuple's elements
@@ -101,6 +127,10 @@ struct Table {
     std::string_view quotedKeyOf(const Node& node) const {
         return {keyTexts + node.quotedAt, node.keySize + std::size_t{5}}; // the quotes and the colon
     }
+    const NameTable& namesOf(const Node& node) const {
+        return *static_cast<const NameTable*>(references[node.reference]);
+    }
+    const Table& tableOf(const Node& node) const { return *static_cast<const Table*>(references[node.reference]); }
     const Field* begin() const { return rows; }
     const Field* end() const { return rows + rowCount; }
 };
@@ -165,15 +195,35 @@ constexpr bool Before(std::string_view left, std::string_view right) {
     return leftParts < rightParts;
 }
 
-constexpr Plainly PlainNumber(const Field& row, Kind kind) {
-    if (row.rank > 0 || row.cell != Cell::I32) return Plainly::No;
-    return kind == Kind::Bool ? Plainly::Switch : kind == Kind::Int ? Plainly::Number : Plainly::No;
-}
-constexpr Plainly PlainValue(const Field& row) {
-    if (row.kind == Kind::Custom) return Plainly::Function;
+// How one value of a row without words goes, by its codec in either direction.
+constexpr Plainly PlainValue(const Field& row, Kind kind, Plainly other) {
     if (row.rank > 0 || row.cell == Cell::Pointer || row.wholeMember) return Plainly::No;
-    const Plainly number = PlainNumber(row, row.kind);
-    return number != Plainly::No ? number : Plainly::Element;
+    const bool isReal = row.cell == Cell::F32 || row.cell == Cell::F64;
+    switch (kind) {
+    case Kind::Bool:
+        return row.cell == Cell::I32 ? Plainly::Switch : isReal ? other : Plainly::Integer;
+    case Kind::Int:
+        return row.cell == Cell::I32 ? Plainly::Number : isReal ? other : Plainly::Integer;
+    case Kind::UInt:
+        return isReal ? other : Plainly::Integer;
+    case Kind::Real:
+        return Plainly::Fraction;
+    case Kind::Text:
+        return Plainly::Local;
+    case Kind::RawText:
+        return Plainly::Raw;
+    case Kind::Names:
+        return Plainly::Named;
+    case Kind::Record:
+        return Plainly::Inner;
+    default:
+        return other;
+    }
+}
+// The name table or the table that a row's node refers to.
+constexpr const void* ReferenceOf(const Field& row) {
+    if (row.kind == Kind::Names) return row.names;
+    return row.kind == Kind::Record ? static_cast<const void*>(row.table) : nullptr;
 }
 // The row with its place, codec and flag, and none of its other words.
 constexpr Field WithoutWords(const Field& row) {
@@ -214,7 +264,8 @@ constexpr Plainly ReadPlainly(const Field& row) {
     plain.custom = row.custom;
     plain.unlessBare = row.unlessBare;
     plain.keepsObject = row.keepsObject;
-    return plain == row ? PlainValue(row) : Plainly::No;
+    if (plain != row) return Plainly::No;
+    return row.kind == Kind::Custom ? Plainly::Function : PlainValue(row, row.kind, Plainly::Element);
 }
 constexpr Plainly WritePlainly(const Field& row) {
     Field plain = WithoutWords(row);
@@ -224,7 +275,27 @@ constexpr Plainly WritePlainly(const Field& row) {
     plain.readable = row.readable;
     plain.only = row.only;
     plain.keepsObject = row.keepsObject;
-    return plain == row ? PlainNumber(row, row.writtenAs) : Plainly::No;
+    plain.table = row.table;
+    plain.names = row.names;
+    plain.readCondition = row.readCondition;
+    plain.firstBytes = row.firstBytes;
+    return plain == row && row.kind == row.writtenAs ? PlainValue(row, row.kind, Plainly::No) : Plainly::No;
+}
+
+constexpr std::uint32_t SizeOf(Cell cell) {
+    switch (cell) {
+    case Cell::I8:
+    case Cell::U8:
+        return 1;
+    case Cell::I16:
+    case Cell::U16:
+        return 2;
+    case Cell::I64:
+    case Cell::U64:
+        return 8;
+    default:
+        return 4;
+    }
 }
 
 struct Limits {
@@ -232,7 +303,14 @@ struct Limits {
     std::size_t text = 1;
     std::size_t supplied = 1;
     std::size_t started = 1;
+    std::size_t references = 1;
+    std::size_t flags = 1;
 };
+
+// A row whose record has presence flags of its own.
+constexpr bool HasInnerFlags(const Field& row) {
+    return row.kind == Kind::Record && row.cell != Cell::Pointer && row.table != nullptr && row.table->flagRunCount > 0;
+}
 
 // A row that Prepare has to look at.
 constexpr bool IsStarted(const Field& row) {
@@ -247,6 +325,8 @@ consteval Limits LimitsOf() {
     for (const Field& row : Rows::rows) {
         limits.supplied += row.kind == Kind::Supplied;
         limits.started += IsStarted(row);
+        limits.references += ReferenceOf(row) != nullptr;
+        limits.flags += row.flag.exists() + HasInnerFlags(row);
         if (row.key == nullptr) continue;
         const auto parts = static_cast<std::size_t>(Parts(row.key));
         limits.nodes += parts;
@@ -255,12 +335,29 @@ consteval Limits LimitsOf() {
     return limits;
 }
 
+// What nodes refer to, each once.
+template <std::size_t Most>
+struct References {
+    std::array<const void*, Most> all{};
+    std::uint16_t count = 0;
+
+    constexpr std::uint16_t Find(const void* wanted) {
+        for (std::uint16_t i = 0; i < count; ++i) {
+            if (all[i] == wanted) return i;
+        }
+        all[count] = wanted;
+        return count++;
+    }
+};
+
 template <Limits Most>
 struct Tree {
     std::array<Node, Most.nodes> nodes{};
     std::array<char, Most.text> texts{};
     std::array<Copy, Most.supplied> supplied{};
     std::array<std::uint16_t, Most.started> started{};
+    std::array<FlagRun, Most.flags> flagRuns{};
+    std::uint16_t flagRunCount = 0;
     std::uint16_t suppliedCount = 0;
     std::uint16_t startedCount = 0;
     std::uint16_t nodeCount = 0;
@@ -308,12 +405,44 @@ struct Tree {
                 for (std::size_t k = i; k < end && depth == 0; ++k)
                     nodes[index].staysNull = nodes[index].staysNull || rows[order[k]].keepsObject;
             } else {
-                nodes[index].readPlainly = ReadPlainly(rows[order[i]]);
-                nodes[index].writePlainly = WritePlainly(rows[order[i]]);
+                SetRow(nodes[index], rows[order[i]]);
             }
             i = end;
         }
         return range;
+    }
+
+    constexpr void SetRow(Node& node, const Field& row) {
+        node.readPlainly = ReadPlainly(row);
+        node.writePlainly = WritePlainly(row);
+        node.offset = row.offset;
+        node.elementSize = row.elementSize;
+        node.flag = row.flag;
+        node.cell = row.cell;
+        node.kind = row.kind;
+    }
+
+    // In the order of their places, so that neighbours become one run.
+    constexpr void AddFlag(FlagRun run) {
+        std::uint16_t at = flagRunCount++;
+        for (; at > 0 && flagRuns[at - 1u].offset > run.offset; --at)
+            flagRuns[at] = flagRuns[at - 1u];
+        flagRuns[at] = run;
+    }
+    constexpr void JoinFlags() {
+        std::uint16_t kept = 0;
+        for (std::uint16_t i = 0; i < flagRunCount; ++i) {
+            const FlagRun run = flagRuns[i];
+            if (kept > 0 && run.row == FlagRun::kNone) {
+                FlagRun& last = flagRuns[kept - 1u];
+                if (last.row == FlagRun::kNone && last.offset + last.size >= run.offset) {
+                    last.size = std::max(last.size, run.offset + run.size - last.offset);
+                    continue;
+                }
+            }
+            flagRuns[kept++] = run;
+        }
+        flagRunCount = kept;
     }
 
     constexpr void AddSupplied(const Field& row) {
@@ -371,11 +500,22 @@ consteval auto BuildTree() {
         if (rows[i].key == nullptr || rows[i].key[0] != '\0') continue;
         Node& node = tree.Add("");
         node.row = static_cast<std::uint16_t>(i);
-        node.readPlainly = ReadPlainly(rows[i]);
-        node.writePlainly = WritePlainly(rows[i]);
+        tree.SetRow(node, rows[i]);
         node.needsAbsent = true;
         ++tree.self.count;
     }
+    References<limits.references> references;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (rows[i].flag.exists()) tree.AddFlag({rows[i].flag.offset, SizeOf(rows[i].flag.cell)});
+        if (HasInnerFlags(rows[i])) tree.AddFlag({rows[i].offset, rows[i].size, static_cast<std::uint16_t>(i)});
+        const void* const wanted = ReferenceOf(rows[i]);
+        if (wanted == nullptr) continue;
+        const std::uint16_t place = references.Find(wanted);
+        for (Node& node : tree.nodes) {
+            if (node.row == i && node.childCount == 0) node.reference = place;
+        }
+    }
+    tree.JoinFlags();
     return tree;
 }
 
@@ -401,6 +541,17 @@ consteval bool Tile() {
 template <class Rows>
 inline constexpr auto kTree = BuildTree<Rows>();
 
+// Apart from the tree, which has no pointers.
+template <class Rows>
+inline constexpr auto kReferences = [] {
+    constexpr Limits limits = LimitsOf<Rows>();
+    References<limits.references> references;
+    for (const Field& row : Rows::rows) {
+        if (const void* const wanted = ReferenceOf(row)) references.Find(wanted);
+    }
+    return references.all;
+}();
+
 } // namespace build
 
 template <class Rows>
@@ -416,6 +567,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     table.rowCount = sizeof(Rows::rows) / sizeof(Rows::rows[0]);
     table.nodes = tree.nodes.data();
     table.keyTexts = tree.texts.data();
+    table.references = build::kReferences<Rows>.data();
+    table.flagRuns = tree.flagRuns.data();
+    table.flagRunCount = tree.flagRunCount;
     table.members = tree.members;
     table.fromRoot = tree.fromRoot;
     table.self = tree.self;

@@ -117,7 +117,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
     case Kind::Names: {
         const Name* const row = NameAt(field, at);
         if (row != nullptr)
-            out.String(row->text);
+            row->clean ? out.CleanString(row->text) : out.String(row->text);
         else if (field.names->outside == NameTable::Outside::Text)
             out.String(field.names->outsideText);
         else
@@ -357,20 +357,70 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         call.out.Null();
 }
 
+std::int64_t LoadPlain(const Node& node, const std::byte* record) noexcept {
+    return LoadInteger(node.cell, record + node.offset);
+}
+
+// A row whose words say nothing of writing. `key` is empty for a value that stands on its own.
+void WritePlainly(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept {
+    if (node.flag.exists() && LoadInteger(node.flag.cell, record + node.flag.offset) == 0) return;
+    const std::string_view key = table.quotedKeyOf(node);
+    const std::byte* const at = record + node.offset;
+    switch (node.writePlainly) {
+    case Plainly::Switch:
+        return call.Bool(key, Load<std::int32_t>(at) != 0);
+    case Plainly::Number:
+        return call.Int(key, Load<std::int32_t>(at));
+    case Plainly::Integer:
+        if (node.kind == Kind::Bool) return call.Bool(key, LoadPlain(node, record) != 0);
+        if (node.kind == Kind::Int) return call.Int(key, static_cast<std::int32_t>(LoadPlain(node, record)));
+        call.Quoted(key);
+        return call.out.UInt(static_cast<std::uint32_t>(LoadPlain(node, record)));
+    case Plainly::Fraction:
+        call.Quoted(key);
+        return call.out.Real(node.cell == Cell::F32 ? double{Load<float>(at)} : Load<double>(at));
+    case Plainly::Local:
+    case Plainly::Raw:
+        call.Quoted(key);
+        call.parser.SetJsonString(call.out, reinterpret_cast<const char*>(at), node.elementSize,
+                                  node.writePlainly == Plainly::Local);
+        return;
+    case Plainly::Named: {
+        const NameTable& names = table.namesOf(node);
+        const Name* const row = names.RowOf(static_cast<std::int32_t>(LoadPlain(node, record)));
+        if (row == nullptr) {
+            if (names.outside == NameTable::Outside::NoKey) return;
+            call.Quoted(key);
+            return names.outside == NameTable::Outside::Text ? call.out.String(names.outsideText) : call.out.Null();
+        }
+        if (row->clean) return call.Clean(key, row->text);
+        call.Quoted(key);
+        return call.out.String(row->text);
+    }
+    case Plainly::Inner: {
+        const Table& inner = table.tableOf(node);
+        call.Quoted(key);
+        if (!IsWritten(inner, at)) return call.out.Null();
+        call.quotedKey = key;
+        return WriteRecord(inner, at, call);
+    }
+    case Plainly::No:
+    case Plainly::Element:
+    case Plainly::Function:
+        return;
+    }
+}
+
 void WriteNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call) noexcept {
     const Node* const end = table.nodes + range.first + range.count;
     for (const Node* node = table.nodes + range.first; node != end; ++node) {
         if (node->childCount == 0) {
-            const Field& field = table.rows[node->row];
             if (node->writePlainly != Plainly::No) {
-                if (field.flag.exists() && LoadSlot(field.flag, record) == 0) continue;
-                call.Quoted(table.quotedKeyOf(*node));
-                const auto number = Load<std::int32_t>(record + field.offset);
-                node->writePlainly == Plainly::Switch ? call.out.Bool(number != 0) : call.out.Int(number);
+                WritePlainly(table, *node, record, call);
                 continue;
             }
             call.quotedKey = table.quotedKeyOf(*node);
-            WriteField(field, record, call);
+            WriteField(table.rows[node->row], record, call);
             continue;
         }
         OpenObject inner{call.object, table.quotedKeyOf(*node), false};

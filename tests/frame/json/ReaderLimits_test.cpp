@@ -162,7 +162,8 @@ std::string LargeText() {
     std::string text = "{\"z\":[";
     for (int i = 0; i < 4000; ++i)
         text += R"({"b":"te\nxt","a":[1,2,3],"\u0063":{}},)";
-    return text + "[1]],\"a\":" + std::string(5000, '[') + std::string(5000, ']') + "}";
+    return text + "[1]],\"y\":[" + Repeated("[1],", 20000) + "[1]],\"a\":" + std::string(5000, '[')
+           + std::string(5000, ']') + "}";
 }
 
 TEST(ReaderLimits, FailsQuietlyWhicheverAllocationFails) {
