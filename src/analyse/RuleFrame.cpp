@@ -115,7 +115,7 @@ bool ReadHead(const Value& rule, Head& head) noexcept {
     return true;
 }
 
-// The buffer is clear and has room for the item.
+// The item is clear.
 bool Place(const Head& head, const Value& rule, std::byte* item, ReadCall& call) noexcept {
     const RuleBody* const body = FindRuleBody(head.code);
     if (body == nullptr || !body->isRead) {
@@ -203,13 +203,18 @@ Outcome ReadRuleArray(const Value& array, CFG_ANALYSERULES_INFO& rules, ReadCall
     }
     if (needed > rules.nRuleLen) return Outcome::BufferTooSmall;
     if (rules.pRuleBuf == nullptr) return count == 0 ? Outcome::Done : Outcome::BadArguments;
+    // Each item is cleared just before it is read, while it is at hand, and what is behind the last one afterwards.
     auto* item = reinterpret_cast<std::byte*>(rules.pRuleBuf);
-    std::memset(item, 0, static_cast<std::size_t>(rules.nRuleLen));
-    for (std::uint32_t i = 0; i < count; ++i) {
-        if (!Place(heads[i], array[i], item, call)) return Outcome::BadItem;
-        item += kHeadSize + heads[i].size;
+    const std::byte* const end = item + rules.nRuleLen;
+    Outcome outcome = Outcome::Done;
+    for (std::uint32_t i = 0; i < count && outcome == Outcome::Done; ++i) {
+        const std::size_t size = kHeadSize + std::size_t{heads[i].size};
+        std::memset(item, 0, size);
+        if (!Place(heads[i], array[i], item, call)) outcome = Outcome::BadItem;
+        item += size;
     }
-    return Outcome::Done;
+    std::memset(item, 0, static_cast<std::size_t>(end - item));
+    return outcome;
 }
 
 Outcome WriteRuleArray(const CFG_ANALYSERULES_INFO& rules, WriteCall& call) noexcept {

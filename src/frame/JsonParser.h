@@ -13,7 +13,9 @@
 #include "orrery/types.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -119,7 +121,21 @@ class JsonParser {
 
 // Equal but for the case of the ASCII letters: how commands and most enumerated texts compare.
 bool EqualsFolded(std::string_view left, std::string_view right) noexcept;
+// Eight bytes with their ASCII capitals made small; bytes of 128 and above stay.
+inline std::uint64_t Folded(std::uint64_t word) noexcept {
+    constexpr std::uint64_t kEach = 0x0101010101010101u;
+    const std::uint64_t low = word & (0x7F * kEach);
+    const std::uint64_t fromA = low + (0x80 - 'A') * kEach;
+    const std::uint64_t pastZ = low + (0x80 - 'Z' - 1) * kEach;
+    const std::uint64_t capital = fromA & ~pastZ & ~word & (0x80 * kEach);
+    return word | capital >> 2;
+}
 // The eight bytes at `text` with their ASCII capitals made small, the first in the lowest byte.
-std::uint64_t FoldedWord(const char* text) noexcept;
+inline std::uint64_t FoldedWord(const char* text) noexcept {
+    std::uint64_t word;
+    std::memcpy(&word, text, sizeof word);
+    if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
+    return Folded(word);
+}
 
 } // namespace orrery

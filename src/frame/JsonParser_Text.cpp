@@ -14,16 +14,6 @@ int Bounded(std::size_t size) noexcept {
     return static_cast<int>(std::min<std::size_t>(size, INT_MAX / 2));
 }
 
-// Eight bytes with their ASCII capitals made small; bytes of 128 and above stay.
-std::uint64_t Folded(std::uint64_t word) noexcept {
-    constexpr std::uint64_t kEach = 0x0101010101010101u;
-    const std::uint64_t low = word & (0x7F * kEach);
-    const std::uint64_t fromA = low + (0x80 - 'A') * kEach;
-    const std::uint64_t pastZ = low + (0x80 - 'Z' - 1) * kEach;
-    const std::uint64_t capital = fromA & ~pastZ & ~word & (0x80 * kEach);
-    return word | capital >> 2;
-}
-
 std::uint64_t Word(const char* text) noexcept {
     std::uint64_t word;
     std::memcpy(&word, text, sizeof word);
@@ -108,12 +98,6 @@ bool JsonParser::SetJsonString(json::TextWriter& out, const char* source, std::s
                                                      static_cast<int>(std::min<std::size_t>(room, INT_MAX)));
     out.String({converted, static_cast<std::size_t>(count)});
     return true;
-}
-
-std::uint64_t FoldedWord(const char* text) noexcept {
-    std::uint64_t word = Word(text);
-    if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
-    return Folded(word);
 }
 
 bool EqualsFolded(std::string_view left, std::string_view right) noexcept {

@@ -9,50 +9,64 @@ namespace orrery::record {
 namespace {
 
 // FoldedPrefix of a short text, of which nothing behind it may be loaded: its two ends, which overlap.
-std::uint64_t FoldedShort(std::string_view text) noexcept {
-    if constexpr (std::endian::native == std::endian::big) return FoldedPrefix(text);
-    const std::size_t size = text.size();
-    char bytes[8] = {};
+std::uint64_t FoldedShort(const char* text, std::size_t size) noexcept {
+    if constexpr (std::endian::native == std::endian::big) return FoldedPrefix({text, size});
     if (size >= 4) {
         std::uint32_t low, high;
-        std::memcpy(&low, text.data(), 4);
-        std::memcpy(&high, text.data() + size - 4, 4);
-        const std::uint64_t word = std::uint64_t{low} | std::uint64_t{high} << 8 * (size - 4);
-        std::memcpy(bytes, &word, 8);
-        return FoldedWord(bytes);
+        std::memcpy(&low, text, 4);
+        std::memcpy(&high, text + size - 4, 4);
+        return Folded(std::uint64_t{low} | std::uint64_t{high} << 8 * (size - 4));
     }
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[i] = text[i];
-    return FoldedWord(bytes);
+    if (size == 0) return 0;
+    const auto byte = [text](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(text[i])}; };
+    return Folded(byte(0) | byte(size / 2) << 8 * (size / 2) | byte(size - 1) << 8 * (size - 1));
+}
+
+template <class Word>
+bool SameEnds(const char* left, const char* right, std::size_t size) noexcept {
+    Word words[4];
+    std::memcpy(&words[0], left, sizeof(Word));
+    std::memcpy(&words[1], right, sizeof(Word));
+    std::memcpy(&words[2], left + size - sizeof(Word), sizeof(Word));
+    std::memcpy(&words[3], right + size - sizeof(Word), sizeof(Word));
+    return ((words[0] ^ words[1]) | (words[2] ^ words[3])) == 0;
+}
+
+// Of names, which are short as a rule.
+bool Same(const char* left, const char* right, std::size_t size) noexcept {
+    if (size > 16) return std::memcmp(left, right, size) == 0;
+    if (size >= 8) return SameEnds<std::uint64_t>(left, right, size);
+    if (size >= 4) return SameEnds<std::uint32_t>(left, right, size);
+    if (size >= 2) return SameEnds<std::uint16_t>(left, right, size);
+    return size == 0 || *left == *right;
 }
 
 bool Fits(const Name& row, Compare compare, std::uint64_t prefix, std::string_view text) noexcept {
     if (row.prefix != prefix || row.text.size() != text.size()) return false;
-    if (compare == Compare::Exact || row.compare == Compare::Exact) return row.text == text;
+    if (compare == Compare::Exact || row.compare == Compare::Exact)
+        return Same(row.text.data(), text.data(), text.size());
     return text.size() <= 8 || EqualsFolded(row.text, text);
 }
 
 } // namespace
 
-std::optional<std::int32_t> NameTable::CodeOf(std::string_view text) const noexcept {
-    const std::uint64_t prefix = text.size() < 8 ? FoldedShort(text) : FoldedWord(text.data());
+const Name* NameTable::Find(std::string_view text) const noexcept {
+    const std::uint64_t prefix = text.size() < 8 ? FoldedShort(text.data(), text.size()) : FoldedWord(text.data());
     const Name* found = nullptr;
     if (index != nullptr) {
         const std::size_t mask = indexSize - 1u;
         for (std::size_t at = NameHashes::OfText(prefix, text.size()) & mask; index[at] != 0; at = (at + 1) & mask) {
             const Name& row = rows[index[at] - 1];
             if (!Fits(row, compare, prefix, text)) continue;
+            if (!lastWins) return &row;
             found = &row;
-            if (!lastWins) break;
         }
-    } else {
-        for (std::uint16_t i = 0; i < count && (found == nullptr || lastWins); ++i) {
-            if (Fits(rows[i], compare, prefix, text)) found = &rows[i];
-        }
+        return found;
     }
-    if (found != nullptr) return found->code;
-    if (unknownLeaves) return std::nullopt;
-    return unknownCode;
+    for (std::uint16_t i = 0; i < count && (found == nullptr || lastWins); ++i) {
+        if (Fits(rows[i], compare, prefix, text)) found = &rows[i];
+    }
+    return found;
 }
 
 const Name* NameTable::RowOf(std::int32_t code) const noexcept {

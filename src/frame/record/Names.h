@@ -40,11 +40,12 @@ struct Name {
     std::uint64_t prefix; // FoldedPrefix(text)
 
     constexpr Name(std::int32_t itsCode, std::string_view itsText, Compare itsCompare = Compare::Folded)
-        : code(itsCode), compare(itsCompare), clean(NeedsNoEscape(itsText)), text(itsText), prefix(FoldedPrefix(itsText)) {}
+        : code(itsCode), compare(itsCompare), clean(NeedsNoEscape(itsText)), text(itsText),
+          prefix(FoldedPrefix(itsText)) {}
 };
 
-// Where to look for a text or a code first: places of rows, from 1 on, in two tables of hashes; what is not at its place
-// comes right behind it, in the order of the rows.
+// Where to look for a text or a code first: places of rows, from 1 on, in two tables of hashes; what is not at its
+// place comes right behind it, in the order of the rows.
 struct NameHashes {
     static constexpr std::uint32_t OfText(std::uint64_t prefix, std::size_t size) {
         return static_cast<std::uint32_t>((prefix + size * 0xD6E8FEB86659FD93u) * 0x9E3779B97F4A7C15u >> 40);
@@ -103,7 +104,12 @@ struct NameTable {
     constexpr NameTable OutsideWritesNull() const { return With(*this, &NameTable::outside, Outside::Null); }
 
     // The code of a text: that of the first (or last) row that matches, else what Unknown says.
-    std::optional<std::int32_t> CodeOf(std::string_view text) const noexcept;
+    std::optional<std::int32_t> CodeOf(std::string_view text) const noexcept {
+        if (const Name* const row = Find(text)) return row->code;
+        return unknownLeaves ? std::nullopt : std::optional(unknownCode);
+    }
+    // The row of a text; null when there is none.
+    const Name* Find(std::string_view text) const noexcept;
     // The row whose text a code writes: the first with that code; null when there is none.
     const Name* RowOf(std::int32_t code) const noexcept;
 };
