@@ -103,6 +103,28 @@ bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
     return true;
 }
 
+// Elements of a list of which those that are equal to the one before repeat its text.
+class Repeated {
+  public:
+    explicit Repeated(json::TextWriter& out) noexcept : out_(out) {}
+
+    template <class Write>
+    void Put(const void* element, std::size_t size, Write write) noexcept {
+        const bool isFirst = before_ == nullptr;
+        if (!isFirst && std::memcmp(before_, element, size) == 0 && out_.Again(length_)) return;
+        before_ = element;
+        const std::size_t start = out_.length();
+        write();
+        constexpr std::size_t kSeparator = 2;
+        length_ = out_.length() - start - (isFirst ? 0 : kSeparator);
+    }
+
+  private:
+    json::TextWriter& out_;
+    const void* before_ = nullptr;
+    std::size_t length_ = 0; // of the text of the element before
+};
+
 // The least of a caller's bound and what the document has; the bound is at least 1 here.
 int Limit(int bound, std::uint32_t size) noexcept {
     return static_cast<int>(std::min(static_cast<std::uint32_t>(bound), size));
@@ -140,9 +162,14 @@ bool JsonParser::GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sec
 bool JsonParser::SetTimeSchedule(json::TextWriter& out, const CFG_TIME_SECTION* sections, int rows,
                                  int columns) noexcept {
     if (sections == nullptr || rows < 1 || columns < 1) return false;
+    // Most days of a week are like the day before.
     out.BeginArray();
-    for (int row = 0; row < rows; ++row)
-        SetTimeSectionList(out, sections + std::ptrdiff_t{row} * columns, columns);
+    Repeated day(out);
+    const auto size = static_cast<std::size_t>(columns) * sizeof *sections;
+    for (int row = 0; row < rows; ++row) {
+        const CFG_TIME_SECTION* const at = sections + std::ptrdiff_t{row} * columns;
+        day.Put(at, size, [&] { SetTimeSectionList(out, at, columns); });
+    }
     out.EndArray();
     return true;
 }
@@ -182,8 +209,9 @@ bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* 
 bool JsonParser::SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
     if (sections == nullptr || count < 1) return false;
     out.BeginArray();
+    Repeated section(out);
     for (int i = 0; i < count; ++i)
-        SetTimeSection(out, sections + i);
+        section.Put(sections + i, sizeof *sections, [&] { SetTimeSection(out, sections + i); });
     out.EndArray();
     return true;
 }

@@ -293,6 +293,16 @@ TEST(TimeSectionList, StopsAtItsLimit) {
     EXPECT_TRUE(sections[1] == Filled(kBefore));
 }
 
+TEST(TimeSectionList, WritesEqualSectionsAndDaysAlike) {
+    const CFG_TIME_SECTION other = {1, 7, 0, 0, 8, 0, 100};
+    const CFG_TIME_SECTION days[3][3] = {{kWorkday, kWorkday, other}, {kWorkday, kWorkday, other}, {other, other, {}}};
+    const auto text =
+        TextOf([&](json::TextWriter& out) { EXPECT_TRUE(JsonParser::SetTimeSchedule(out, &days[0][0], 3, 3)); });
+    EXPECT_EQ(text, "[ [ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\", \"1 07:00:00-08:00:100\" ], "
+                    "[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\", \"1 07:00:00-08:00:100\" ], "
+                    "[ \"1 07:00:00-08:00:100\", \"1 07:00:00-08:00:100\", \"0 00:00:00-00:00:00\" ] ]");
+}
+
 TEST(TimeSectionList, IsWrittenFlat) {
     const CFG_TIME_SECTION sections[2] = {kWorkday, {}};
     EXPECT_EQ(TextOf([&](json::TextWriter& out) { EXPECT_TRUE(JsonParser::SetTimeSectionList(out, sections, 2)); }),

@@ -370,11 +370,11 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
         if (table.shape == Shape::LongTuple && value.size() < table.self.count) return false;
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
             const Node& node = table.nodes[table.self.first + i];
-            const Field& field = table.rows[node.row];
             if (node.readPlainly == Plainly::Number) {
-                Store(record + field.offset, value[i].asInt());
+                Store(record + node.offset, value[i].asInt());
                 continue;
             }
+            const Field& field = table.rows[node.row];
             // A null among the numbers reads as 0, as every other element of the wrong type does.
             ReadElement(field, value[i], record + field.offset, call, {});
         }

@@ -513,12 +513,12 @@ void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) n
         call.out.BeginArray();
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
             const Node& node = table.nodes[table.self.first + i];
-            const Field& field = table.rows[node.row];
-            const std::byte* const at = record + field.offset;
+            const std::byte* const at = record + node.offset;
             if (node.writePlainly == Plainly::Number) {
                 call.out.Int(Load<std::int32_t>(at));
                 continue;
             }
+            const Field& field = table.rows[node.row];
             if (IsElementWritten(field, at))
                 WriteElement(field, at, call);
             else

@@ -30,6 +30,27 @@ std::string ReadString(std::string_view text) {
     return std::string(document.root.asString());
 }
 
+TEST(Reader, TakesAnyBlanksAndCommentsAtTheUsualSeparators) {
+    const std::string due = "{ \"a\" : 1, \"b\" : [ 2, 3 ], \"c\" : true }";
+    for (const char* text :
+         {R"({ "a" : 1, "b" : [ 2, 3 ], "c" : true })", R"({"a":1,"b":[2,3],"c":true})",
+          R"({ "a" :  1,  "b" :  [ 2,  3 ],  "c" :  true })", R"({ "a" : /*x*/ 1, /*y*/ "b" : [ 2, /*z*/ 3 ], //
+           "c" : // w
+           true })",
+          "{ \"a\" : \n1, \n\"b\" : \t[ 2, \t3 ], \r\"c\" : true }"})
+        EXPECT_EQ(Read(text), due) << text;
+}
+
+// Whatever stands at the end of the text: nothing behind it is looked at.
+TEST(Reader, ReadsKeysOfAllLengthsAtTheEndOfTheText) {
+    for (std::size_t size = 0; size <= 12; ++size) {
+        const std::string key(size, 'k');
+        EXPECT_EQ(Read("{\"" + key + "\":0}"), "{ \"" + key + "\" : 0 }");
+        EXPECT_EQ(Read("{\"z\":1,\"" + key + "\":0}"), "{ \"" + key + "\" : 0, \"z\" : 1 }");
+        EXPECT_EQ(Read("{\"" + key + "k\":1,\"" + key + "\":0}"), "{ \"" + key + "\" : 0, \"" + key + "k\" : 1 }");
+    }
+}
+
 TEST(Reader, ReadsAnyValueAsRoot) {
     EXPECT_EQ(Read("null"), "null");
     EXPECT_EQ(Read("true"), "true");

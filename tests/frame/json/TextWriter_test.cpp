@@ -265,6 +265,47 @@ TEST(TextWriter, WritesNoByteBeyondItsRoomAndCountsOn) {
     EXPECT_FALSE(nowhere.fits());
 }
 
+// A member at once, words and names that need no escape, and elements that are like the one before.
+TEST(TextWriter, WritesMembersAtOnceAndRepeatsElementsWithinItsRoom) {
+    const auto write = [](TextWriter& writer) {
+        writer.BeginObject();
+        writer.RawMember("\"Enable\" : ", true);
+        writer.RawMember("\"Loop\" : ", false);
+        writer.RawMember("\"N\" : ", std::int32_t{-2147483647 - 1});
+        writer.RawMember("\"One\" : ", std::int32_t{7});
+        writer.RawMember("\"Mode\" : ", std::string_view("Absolute"));
+        writer.RawKey("\"Week\" : ");
+        writer.BeginArray();
+        for (int i = 0; i < 3; ++i) {
+            if (i == 0 || !writer.Again(13)) writer.CleanString("08:30:00-17");
+        }
+        writer.EndArray();
+        writer.EndObject();
+    };
+    const std::string whole = "{ \"Enable\" : true, \"Loop\" : false, \"N\" : -2147483648, \"One\" : 7, "
+                              "\"Mode\" : \"Absolute\", "
+                              "\"Week\" : [ \"08:30:00-17\", \"08:30:00-17\", \"08:30:00-17\" ] }";
+    for (std::size_t capacity = 0; capacity <= whole.size() + 20; ++capacity) {
+        const test::GuardedBuffer room(capacity);
+        TextWriter writer(room.data(), capacity);
+        write(writer);
+        EXPECT_EQ(writer.length(), whole.size());
+        const std::size_t kept = std::min(capacity, whole.size());
+        EXPECT_EQ(std::string_view(room.data(), kept), std::string_view(whole).substr(0, kept)) << capacity;
+    }
+}
+
+TEST(TextWriter, EscapesAtEveryPlaceOfAShortText) {
+    for (std::size_t size = 1; size <= 40; ++size) {
+        for (std::size_t at = 0; at < size; ++at) {
+            std::string text(size, 'x');
+            text[at] = '/';
+            const std::string due = '"' + std::string(at, 'x') + "\\/" + std::string(size - at - 1, 'x') + '"';
+            EXPECT_EQ(Written([&](TextWriter& writer) { writer.String(text); }), due);
+        }
+    }
+}
+
 TEST(TextWriter, WritesWholeValues) {
     for (const char* text : {"null", "true", "false", "-5", "4294967289", "1.500000000000000", "\"a\"", "[  ]", "{  }",
                              "[ 1, [ 2, [ 3 ] ], { \"a\" : {  }, \"b\" : [ null ] } ]"}) {

@@ -25,6 +25,57 @@ TEST(Names, AnExactTableInsistsOnTheCaseOfAll) {
     EXPECT_EQ(kExactLamps.Unknown(-1).CodeOf("on"), -1);
 }
 
+// Many rows, which are looked up by a hash: texts that begin alike, that differ in case, that come twice.
+NAMES(kMany, kFolded.Unknown(-7),
+      {
+          {40, "TrafficJunction"},
+          {10, "TrafficJunctioN"},
+          {30, "TrafficJunctions"},
+          {20, "TrafficParking"},
+          {50, "A"},
+          {60, "a", Compare::Exact},
+          {70, "Ab"},
+          {80, "abc"},
+          {90, "abcd"},
+          {100, "abcdefg"},
+          {110, "abcdefgh"},
+          {10, "Again"},
+          {120, ""},
+      });
+inline constexpr NameTable kManyLast = kMany.LastWins();
+inline constexpr NameTable kManyExact = With(kMany, &NameTable::compare, Compare::Exact);
+
+TEST(Names, ManyRowsAreFoundByText) {
+    EXPECT_EQ(kMany.CodeOf("trafficjunction"), 40);
+    EXPECT_EQ(kManyLast.CodeOf("trafficjunction"), 10);
+    EXPECT_EQ(kManyExact.CodeOf("TrafficJunctioN"), 10);
+    EXPECT_EQ(kManyExact.CodeOf("trafficjunction"), -7);
+    EXPECT_EQ(kMany.CodeOf("TRAFFICJUNCTIONS"), 30);
+    EXPECT_EQ(kMany.CodeOf("TrafficParkinG"), 20);
+    EXPECT_EQ(kMany.CodeOf("a"), 50);
+    EXPECT_EQ(kManyLast.CodeOf("a"), 60);
+    EXPECT_EQ(kManyLast.CodeOf("A"), 50);
+    EXPECT_EQ(kMany.CodeOf("aB"), 70);
+    EXPECT_EQ(kMany.CodeOf("aBc"), 80);
+    EXPECT_EQ(kMany.CodeOf("abCD"), 90);
+    EXPECT_EQ(kMany.CodeOf("abcdefG"), 100);
+    EXPECT_EQ(kMany.CodeOf("abcdefGh"), 110);
+    EXPECT_EQ(kMany.CodeOf(""), 120);
+    for (const char* text : {"TrafficJunctio", "b", "ac", "abd", "abce", "abcdefh", "abcdefgi", "abcdefghi", "@"})
+        EXPECT_EQ(kMany.CodeOf(text), -7) << text;
+    EXPECT_EQ(kManyExact.CodeOf("aB"), -7);
+    EXPECT_EQ(kManyExact.CodeOf("abC"), -7);
+    EXPECT_EQ(kManyExact.CodeOf("abcdefgH"), -7);
+}
+
+TEST(Names, ManyRowsAreFoundByCode) {
+    EXPECT_EQ(kMany.RowOf(10)->text, "TrafficJunctioN");
+    EXPECT_EQ(kMany.RowOf(40)->text, "TrafficJunction");
+    EXPECT_EQ(kMany.RowOf(120)->text, "");
+    for (const std::int32_t code : {0, -7, 11, 121, INT32_MAX, INT32_MIN})
+        EXPECT_EQ(kMany.RowOf(code), nullptr) << code;
+}
+
 TEST(Names, NothingIsTrimmedAndNoPrefixMatches) {
     for (const char* text : {"On ", " On", "O", "Onn", ""})
         EXPECT_EQ(kLamps.Unknown(-1).CodeOf(text), -1) << text;
