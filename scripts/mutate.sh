@@ -2,6 +2,7 @@
 # Makes random changes to rows and words of the tables and tells which of them no test minds.
 # mutate.sh [COUNT [SEED]]: 200 changes with seed 1 by default. Each is made alone, in a copy of what is checked in, which
 # stays in build/mutants with the results; the golden layout has no say. No stage of scripts/test.sh runs this.
+# MUTATE_TREE names another checkout to work in, whose build/test is used; what is not checked in there may be lost.
 # Kinds: key (two rows swap keys), codec, default, flag, count, policy (a word goes), code (two names swap codes).
 # The last lines are the survivors and "N changes: N killed by tests, N by the compiler, N survived".
 set -euo pipefail
@@ -10,15 +11,14 @@ count=${1:-200}
 seed=${2:-1}
 jobs=$(nproc)
 work=$PWD/build/mutants
-tree=$work/tree
+tree=${MUTATE_TREE:-$work/tree}
 results=$work/results-$seed.txt
 
-mkdir -p "$tree"
-git archive HEAD | tar -x -C "$tree"
+mkdir -p "$work" "$tree"
+[ -n "${MUTATE_TREE:-}" ] || git archive HEAD | tar -x -C "$tree"
 if command -v ccache >/dev/null; then export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
-# Unoptimised: most of the time goes into compiling.
-cmake -S "$tree" --preset test -B "$work/build" -DCMAKE_BUILD_TYPE=Debug -DORRERY_WERROR=OFF >/dev/null
-build() { cmake --build "$work/build" -j "$jobs" --target orrery_tests orrery_tool_tests >"$work/build.log" 2>&1; }
+(cd "$tree" && cmake --preset test -DORRERY_WERROR=OFF >/dev/null)
+build() { cmake --build "$tree/build/test" -j "$jobs" --target orrery_tests orrery_tool_tests >"$work/build.log" 2>&1; }
 echo "mutate: building"
 build || { tail -20 "$work/build.log"; exit 1; }
 
@@ -91,9 +91,9 @@ PYTHON
 slow='Buffers.*:HostileText.*:Rows.*:Growth.*:Heap.*:*AgainstTheCLibrary*:Threads*:*Oracle*:RoundTrip.*:Packing.*'
 run() { timeout 600 "$@" --gtest_fail_fast --gtest_brief=1 >"$work/test.log" 2>&1; }
 tests() {
-    run "$work/build/tests/tools/orrery_tool_tests" --gtest_filter=-Layout.IsTheOneCheckedIn &&
-        run "$work/build/tests/orrery_tests" "--gtest_filter=-$slow" &&
-        run "$work/build/tests/orrery_tests" "--gtest_filter=$slow:-*AgainstTheCLibrary*:*Oracle*"
+    run "$tree/build/test/tests/tools/orrery_tool_tests" --gtest_filter=-Layout.IsTheOneCheckedIn &&
+        run "$tree/build/test/tests/orrery_tests" "--gtest_filter=-$slow" &&
+        run "$tree/build/test/tests/orrery_tests" "--gtest_filter=$slow:-*AgainstTheCLibrary*:*Oracle*"
 }
 echo "mutate: running the tests on the tree as it is"
 tests || { cat "$work/test.log"; echo "mutate: they fail without any change"; exit 1; }

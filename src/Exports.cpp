@@ -9,6 +9,10 @@
 using orrery::Command;
 using orrery::Outcome;
 
+ORRERY_EXPORT uint32_t ORRERY_Version() {
+    return ORRERY_VERSION_NUMBER;
+}
+
 ORRERY_EXPORT int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, uint32_t bufferSize,
                                        uint32_t* returnedLength) {
     if (command == nullptr || text == nullptr || buffer == nullptr || bufferSize == 0) return 0;

@@ -27,6 +27,16 @@
 extern "C" {
 #endif
 
+/* The version of these headers. Until 1.0 records may grow with each minor version: the library's file name then has
+ * both numbers, and a client runs with the minor version that it was compiled for. */
+#define ORRERY_VERSION_MAJOR 0
+#define ORRERY_VERSION_MINOR 1
+#define ORRERY_VERSION_PATCH 0
+#define ORRERY_VERSION_NUMBER (ORRERY_VERSION_MAJOR * 10000 + ORRERY_VERSION_MINOR * 100 + ORRERY_VERSION_PATCH)
+
+/* The version of the library that runs, as ORRERY_VERSION_NUMBER. */
+uint32_t ORRERY_Version(void);
+
 /* Reads a device's reply into the record, or the array of records, of a command.
  *
  * command         Name of a configuration ("Alarm") or of a remote method whose reply it is ("alarm.getAlarmCaps").

@@ -17,7 +17,7 @@ for header in "$source"/include/orrery/*.h; do
     want "include/orrery/$(basename "$header")"
 done
 want "lib*/liborrery.so"
-want "lib*/liborrery.so.[0-9]"
+want "lib*/liborrery.so.0.[0-9]"
 want "lib*/cmake/orrery/orreryConfig.cmake"
 want "lib*/pkgconfig/orrery.pc"
 [ -z "$companion" ] || want "bin/$companion"

@@ -1,6 +1,7 @@
 // Every command in caller's buffers of every size, each of which ends at an unreadable page.
 #include "support/CommandCalls.h"
 #include "support/Specimens.h"
+#include "support/SweepBudget.h"
 #include "support/TableText.h"
 
 #include <algorithm>
@@ -13,23 +14,20 @@ namespace {
 
 using namespace test;
 
-// Every size up to two records and a little, or, of large records, those around the edges and some between.
-std::vector<std::size_t> SizesFor(std::size_t record) {
+// Sizes up to two records and a little: those at the edges always, of the others as many as the budget has room for,
+// those near an edge first.
+std::vector<std::size_t> SizesFor(std::size_t record, const SweepBudget& budget) {
     constexpr std::size_t kEdge = 64;
     const std::size_t most = 2 * record + kEdge;
+    const std::size_t rounds = budget.Rounds(2 * most, 12, most);
     std::set<std::size_t> sizes;
-    if (record <= 2048) {
-        for (std::size_t size = 1; size <= most; ++size)
-            sizes.insert(size);
-        return {sizes.begin(), sizes.end()};
-    }
-    for (const std::size_t edge : {kEdge, record, 2 * record}) {
-        for (std::size_t size = edge - kEdge; size <= edge + kEdge; ++size)
-            sizes.insert(size);
+    for (std::size_t away = 0; away <= kEdge && sizes.size() < rounds; ++away) {
+        for (const std::size_t edge : {record, 2 * record, std::size_t{0}})
+            sizes.insert({edge + away, edge > away ? edge - away : 1});
     }
     std::mt19937 random(static_cast<unsigned>(record));
-    for (int i = 0; i < 64; ++i)
-        sizes.insert(random() % most);
+    while (sizes.size() < rounds)
+        sizes.insert(1 + random() % most);
     sizes.erase(0);
     return {sizes.begin(), sizes.end()};
 }
@@ -40,6 +38,7 @@ bool HasOwnStride(const Command& command) {
 }
 
 TEST(Buffers, EverySizeHoldsAsManyRecordsAsFit) {
+    const SweepBudget budget(std::size_t{3} << 30); // little is done with each byte
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
         const std::size_t record = command.table->size;
@@ -51,7 +50,7 @@ TEST(Buffers, EverySizeHoldsAsManyRecordsAsFit) {
         const bool exact = command.parse == Command::Frame::Family && command.parseFrame.exactSize;
 
         ParseCalls calls(command, 2 * record + 64);
-        for (const std::size_t size : SizesFor(record)) {
+        for (const std::size_t size : SizesFor(record, budget)) {
             const Outcome outcome = calls.Run(text.get(), size);
             if (HasOwnStride(command)) continue; // the caller says how large its records are
             const bool fits = exact ? size == record : size >= record || command.parseFrame.anySize;

@@ -2,6 +2,7 @@
 #include "support/CommandCalls.h"
 #include "support/FailingAllocator.h"
 #include "support/Specimens.h"
+#include "support/SweepBudget.h"
 #include "support/TableText.h"
 
 #include <algorithm>
@@ -71,10 +72,11 @@ TEST(Heap, ParsingSurvivesEachFailure) {
 }
 
 TEST(Heap, PackingSurvivesEachFailure) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.packs() || HasPointers(*command.table)) continue;
         // Many records, so that those that are sorted or converted need room.
-        const std::size_t count = std::min<std::size_t>(300, 1 + 3'000'000 / command.table->size);
+        const std::size_t count = budget.Rounds(8 * std::size_t{command.table->size}, 2, 300);
         std::vector<std::byte> records(count * command.table->size);
         for (std::size_t i = 0; i < count; ++i) {
             ParseCalls calls(command);

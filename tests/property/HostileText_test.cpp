@@ -2,6 +2,7 @@
 // checked by ParseCalls.
 #include "support/CommandCalls.h"
 #include "support/Specimens.h"
+#include "support/SweepBudget.h"
 #include "support/TableText.h"
 
 #include <algorithm>
@@ -23,12 +24,16 @@ TEST(HostileText, EveryCommandTakesTheReplyMadeFromItsTable) {
 
 // A reply is an object: no cut of it is JSON.
 TEST(HostileText, CutAtEveryByte) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
         const std::string text = ReplyText(command, {.most = 1, .records = 1});
         ParseCalls calls(command);
         const GuardedBuffer room(text.size() + 1);
+        const std::size_t cuts = budget.Rounds(text.size() / 2 + command.table->size, 16, text.size());
+        Spread spread(text.size(), cuts, text.size() / 2);
         for (std::size_t size = 0; size < text.size(); ++size) {
+            if (!spread.Takes()) continue;
             char* const cut = room.data() + room.size() - size - 1;
             std::memcpy(cut, text.data(), size);
             cut[size] = '\0';
@@ -42,16 +47,21 @@ TEST(HostileText, EveryValueReplacedByEveryType) {
                                        "-2147483648", "4294967295",  "1e999",        "0.5", "\"\"", "\"text\"",
                                        "[]",          "[1]",         "[null]",       "{}",  "[[]]", "[{}]",
                                        "{\"a\":[1]}", "\"\\u0000\"", "[[[1,\"x\"]]]"};
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
         JsonTree tree = ReplyTree(command, {.most = 1, .records = 1});
         ParseCalls calls(command);
         int turn = 0;
+        const std::size_t all = tree.Places().size() * std::size(kValues);
+        const std::size_t bytes = 2 * tree.Text().size() + 2 * command.table->size;
+        Spread spread(all, budget.Rounds(bytes, 2 * std::size(kValues), all), all / 2);
         // Deepest first, so that every place is still there when its turn comes.
         auto places = tree.Places();
         for (auto place = places.rbegin(); place != places.rend(); ++place) {
             JsonTree kept = std::move(**place);
             for (const char* const value : kValues) {
+                if (!spread.Takes()) continue;
                 **place = JsonTree(value);
                 const std::string text = tree.Text();
                 const Outcome outcome = calls.Run(text.c_str());
@@ -81,18 +91,21 @@ std::string WithoutMember(const std::string& text, char marker) {
 
 TEST(HostileText, ANullIsAsGoodAsNoKey) {
     constexpr char kMarker = '\x01';
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
         JsonTree tree = ReplyTree(command, {.most = 2, .records = 2});
         ParseCalls calls(command);
         std::size_t compared = 0;
         auto places = tree.Places();
+        const std::size_t cost = 3 * tree.Text().size() + 3 * command.table->size;
+        Spread spread(places.size(), budget.Rounds(cost, 12, places.size()), places.size() / 2);
         for (auto place = places.rbegin(); place != places.rend(); ++place) {
             JsonTree kept = std::move(**place);
             **place = JsonTree(std::string(1, kMarker));
             std::string text = tree.Text();
             const std::string without = WithoutMember(text, kMarker);
-            if (!without.empty()) {
+            if (!without.empty() && spread.Takes()) {
                 text.replace(text.find(kMarker), 1, "null");
                 const Outcome outcome = calls.Run(text.c_str());
                 const std::vector<std::byte> bytes(calls.bytes().begin(), calls.bytes().end());
@@ -109,10 +122,11 @@ TEST(HostileText, ANullIsAsGoodAsNoKey) {
 }
 
 TEST(HostileText, LimitsAndWildTypesEverywhere) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
         ParseCalls calls(command);
-        const unsigned rounds = command.table->size > 100'000 ? 40 : 150;
+        const std::size_t rounds = budget.Rounds(2 * ReplyText(command).size() + 4 * command.table->size, 4, 150);
         for (unsigned seed = 1; seed <= rounds; ++seed) {
             const TextOptions options{seed % 2 == 0 ? Values::Limits : Values::Wild, seed, 1 + seed % 5, 1 + seed % 3};
             JsonTree tree = ReplyTree(command, options);
@@ -132,11 +146,13 @@ TEST(HostileText, LimitsAndWildTypesEverywhere) {
 // Bytes of a reply changed, dropped and doubled: most are no JSON any more, some are another document.
 TEST(HostileText, BytesChanged) {
     std::mt19937 random(7);
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
         const std::string text = ReplyText(command, {.most = 1, .records = 1});
         ParseCalls calls(command);
-        for (int round = 0; round < 300; ++round) {
+        const std::size_t rounds = budget.Rounds(2 * text.size() + command.table->size, 8, 300);
+        for (std::size_t round = 0; round < rounds; ++round) {
             std::string bent = text;
             const auto changes = static_cast<unsigned>(1 + random() % 3);
             for (unsigned change = 0; change < changes; ++change) {

@@ -2,11 +2,13 @@
 #include "frame/record/Engine.h"
 #include "support/CommandCalls.h"
 #include "support/Specimens.h"
+#include "support/SweepBudget.h"
 #include "support/TableText.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
+#include <set>
 
 namespace orrery {
 namespace {
@@ -29,13 +31,14 @@ bool OutcomeIsPlausible(Outcome outcome) {
 }
 
 TEST(Packing, RecordsOfAnyBytes) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.packs()) continue;
         const std::size_t size = command.table->size;
         const GuardedBuffer buffer(size);
         auto* const record = reinterpret_cast<std::byte*>(buffer.data());
         CallerMemory memory;
-        const int rounds = size > 100'000 ? 3 : 24;
+        const int rounds = static_cast<int>(budget.Rounds(16 * size, 2, 24));
         constexpr int kPatterns[] = {0x00, 0x01, 0x20, 0x22, 0x7F, 0x80, 0xFF};
         std::mt19937_64 random(size);
         for (int round = 0; round < static_cast<int>(std::size(kPatterns)) + rounds; ++round) {
@@ -60,14 +63,16 @@ TEST(Packing, RecordsOfAnyBytes) {
 // Numbers from one end of their range to the other, above all in counts and sizes.
 TEST(Packing, WordsAtTheirLimits) {
     constexpr std::uint32_t kWords[] = {0, 1, 2, 5, 0x7F, 0xFF, 0x7FFF, 0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.packs()) continue;
         const std::size_t size = command.table->size;
         const GuardedBuffer buffer(size);
         auto* const record = reinterpret_cast<std::byte*>(buffer.data());
         CallerMemory memory;
+        const std::size_t rounds = budget.Rounds(16 * size, 2, 40);
         std::mt19937 random(static_cast<unsigned>(size));
-        for (int round = 0; round < (size > 100'000 ? 4 : 40); ++round) {
+        for (std::size_t round = 0; round < rounds; ++round) {
             for (std::size_t at = 0; at + 4 <= size; at += 4)
                 record::Store(record + at, kWords[random() % std::size(kWords)]);
             record::SetSizeWords(*command.table, record);
@@ -83,6 +88,7 @@ TEST(Packing, WordsAtTheirLimits) {
 }
 
 TEST(Packing, RecordsOfAnySize) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.packs()) continue;
         const std::size_t whole = command.table->size;
@@ -91,8 +97,11 @@ TEST(Packing, RecordsOfAnySize) {
         const std::vector<std::byte> one = twice;
         twice.insert(twice.end(), one.begin(), one.end());
         const GuardedBuffer buffer(twice.size());
-        const std::size_t step = whole > 4096 ? whole / 61 : 1;
-        for (std::size_t size = 0; size <= twice.size(); size += step) {
+        std::set<std::size_t> sizes = {0, 1, whole - 1, whole, whole + 1, 2 * whole - 1, 2 * whole};
+        const std::size_t some = budget.Rounds(8 * whole, 4, 2 * whole);
+        for (std::size_t i = 0; i < some; ++i)
+            sizes.insert(i * 2 * whole / some);
+        for (const std::size_t size : sizes) {
             char* const record = buffer.data() + buffer.size() - size;
             std::memcpy(record, twice.data(), size);
             const Packed packed = Pack(command, record, size);
@@ -129,6 +138,7 @@ std::string Expected(Capacity capacity, bool keeps, const std::string& text, std
 }
 
 TEST(Packing, TextsOfEveryCapacity) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.packs() || command.pack == Command::Frame::Own) continue;
         CallerMemory memory;
@@ -141,7 +151,7 @@ TEST(Packing, TextsOfEveryCapacity) {
 
         const std::size_t most = packed.text.size() + 2;
         const GuardedBuffer buffer(most + kFront);
-        const std::size_t step = most > 4096 ? most / 1024 : 1;
+        const std::size_t step = most / budget.Rounds(4 * most + 2 * record.size(), 16, most);
         for (std::size_t room = 0; room <= most; room += room + 64 < most && room > 64 ? step : 1) {
             std::memset(buffer.data(), static_cast<int>(kUntouched), buffer.size());
             char* const text = buffer.data() + buffer.size() - room;

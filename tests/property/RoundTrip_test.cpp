@@ -1,6 +1,7 @@
 // Every command that goes both ways: what its table can let out again comes back the same.
 #include "support/CommandCalls.h"
 #include "support/Specimens.h"
+#include "support/SweepBudget.h"
 #include "support/TableText.h"
 
 #include <algorithm>
@@ -49,9 +50,11 @@ void GoAround(const Command& command, const std::string& text) {
 }
 
 TEST(RoundTrip, EveryKeyOfEveryTable) {
+    const SweepBudget budget;
     for (const Command& command : AllCommands()) {
         if (!command.parses() || !command.packs()) continue;
-        for (unsigned seed = 1; seed <= 5; ++seed) {
+        const std::size_t rounds = budget.Rounds(40 * std::size_t{command.table->size}, 2, 5);
+        for (unsigned seed = 1; seed <= rounds; ++seed) {
             GoAround(command, ReplyText(command, {.seed = seed, .most = seed, .records = 1}));
             if (testing::Test::HasFatalFailure()) return;
         }
@@ -59,9 +62,11 @@ TEST(RoundTrip, EveryKeyOfEveryTable) {
 }
 
 TEST(RoundTrip, SomeKeysOfEveryTable) {
+    const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
         if (!command.parses() || !command.packs()) continue;
-        for (unsigned seed = 1; seed <= 30; ++seed) {
+        const std::size_t rounds = budget.Rounds(40 * std::size_t{command.table->size}, 3, 30);
+        for (unsigned seed = 1; seed <= rounds; ++seed) {
             std::mt19937 random(seed);
             JsonTree value = RecordTree(*command.table, {.seed = seed, .most = 3});
             value.Thin(random, seed % 3 == 0 ? 30 : 75);

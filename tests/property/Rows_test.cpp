@@ -4,6 +4,7 @@
 #include "support/CommandCalls.h"
 #include "support/JsonText.h"
 #include "support/Specimens.h"
+#include "support/SweepBudget.h"
 #include "support/TableText.h"
 
 #include <algorithm>
@@ -80,7 +81,9 @@ std::vector<bool> BytesOf(const Table& table, std::string_view key) {
 }
 
 TEST(Rows, AKeyTouchesItsRowsAndNothingElse) {
-    for (const Table* const table : AllTables()) {
+    const std::set<const Table*> all = AllTables();
+    const SweepBudget budget(std::size_t{600} << 20, all.size());
+    for (const Table* const table : all) {
         if (table->shape != record::Shape::Object || table->afterRead != nullptr) continue;
         // Bits that are set show on zeros only.
         const std::array<std::byte, 2> fillings{kUntouched, std::byte{0}};
@@ -95,7 +98,8 @@ TEST(Rows, AKeyTouchesItsRowsAndNothingElse) {
             });
             if (roams || !done.insert(FirstPart(field)).second) continue;
             const std::vector<bool> own = BytesOf(*table, FirstPart(field));
-            const unsigned rounds = table->size > 100'000 ? 3 : 12;
+            // Three kinds of values over two fillings.
+            const std::size_t rounds = budget.Rounds(4 * std::size_t{table->size} * table->rowCount, 2, 12);
             for (unsigned seed = 1; seed <= rounds; ++seed) {
                 JsonTree whole = RecordTree(*table, {seed % 3 == 0 ? Values::Wild : Values::Limits, seed, 3, 1});
                 const JsonTree* const value = whole.Find(FirstPart(field));

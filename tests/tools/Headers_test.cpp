@@ -7,6 +7,8 @@
 //     int32_t bIsOpen;  /* "IsOpen" or, of older devices, "Open": a second key stands behind the first */
 #include "tools/HeaderTexts.h"
 
+#include "orrery/orrery.h"
+
 #include "frame/Commands.h"
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
@@ -144,6 +146,14 @@ TEST(Headers, QuoteEachMembersKey) {
     findings.erase(std::unique(findings.begin(), findings.end()), findings.end());
     for (const std::string& finding : findings)
         ADD_FAILURE() << finding;
+}
+
+TEST(Headers, AreOfTheProjectsVersion) {
+    const std::string numbers = std::to_string(ORRERY_VERSION_MAJOR) + "." + std::to_string(ORRERY_VERSION_MINOR) + "."
+                                + std::to_string(ORRERY_VERSION_PATCH);
+    EXPECT_EQ(numbers, ORRERY_VERSION);
+    EXPECT_EQ(ORRERY_VERSION_NUMBER, 100U); // 0.1.0
+    EXPECT_EQ(ORRERY_Version(), static_cast<std::uint32_t>(ORRERY_VERSION_NUMBER));
 }
 
 // Also in records that no table describes, such as those that functions read.

@@ -1,5 +1,8 @@
 #include "orrery/Words.h"
 
+#include <initializer_list>
+#include <string_view>
+
 namespace orrery::tool {
 
 using namespace record;
@@ -13,8 +16,15 @@ const char* Word(Enum value, const char* const (&words)[N]) {
     return index < N ? words[index] : "?";
 }
 
-std::string Call(const char* word, const std::string& argument) {
-    return std::string(word) + "(" + argument + ")";
+std::string Joined(std::initializer_list<std::string_view> parts) {
+    std::string joined;
+    for (const std::string_view part : parts)
+        joined += part;
+    return joined;
+}
+
+std::string Call(std::string_view word, std::string_view argument) {
+    return Joined({word, "(", argument, ")"});
 }
 
 constexpr const char* kOnlyWords[] = {"Any", "String", "Bool", "Integer", "Unsigned", "Integral", "Array"};
@@ -30,7 +40,7 @@ std::string SlotName(const Table& table, const Slot& slot) {
         if (IsStored(field) && field.rank == 0 && field.offset == slot.offset && field.cell == slot.cell)
             return field.name;
     }
-    return "offset " + std::to_string(slot.offset);
+    return Joined({"offset ", std::to_string(slot.offset)});
 }
 
 const char* TypeWord(Cell cell) {
@@ -57,7 +67,7 @@ std::string TypeOf(const Field& field) {
         type = PointsToText(field) ? "char" : field.table->record;
     if (field.cell == Cell::Pointer) type += "*";
     for (const std::uint32_t dim : DimsOf(field))
-        type += "[" + std::to_string(dim) + "]";
+        type += Joined({"[", std::to_string(dim), "]"});
     return type;
 }
 
@@ -147,17 +157,17 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.only == OnlyType::Array, "read from lists only");
     if (field.flag.exists()) {
         const std::string flag = SlotName(table, field.flag);
-        rules.push_back("sets " + flag + " when read; written only when " + flag + " is set");
+        rules.push_back(Joined({"sets ", flag, " when read; written only when ", flag, " is set"}));
     }
     if (field.count.exists()) {
         rules.push_back("elements in use: " + SlotName(table, field.count)
                         + (field.countUncapped ? ", which may exceed the room" : ""));
     }
-    add(field.capacity.exists(), "room behind the pointer: " + SlotName(table, field.capacity));
+    add(field.capacity.exists(), Joined({"room behind the pointer: ", SlotName(table, field.capacity)}));
     add(field.zeroed, "each element is cleared before it is read");
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
-    add(field.atLeast != 0, "read only with at least " + std::to_string(field.atLeast) + " elements");
+    add(field.atLeast != 0, Joined({"read only with at least ", std::to_string(field.atLeast), " elements"}));
     add(field.owned, "in a block of its own, null when absent");
     add(field.keyed && !field.amongKeys, "an object in the text, one member an element");
     add(field.amongKeys, "each a member of the object beside its keys");
@@ -168,13 +178,13 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.refused == Nulls::LeaveHole, "an element of the wrong shape keeps its place and does not count");
     add(field.refused == Nulls::CloseUp, "elements of the wrong shape are passed over");
     add(field.refused == Nulls::Stop, "an element of the wrong shape ends the list");
-    add(field.readCondition.exists(), "read only when " + SlotName(table, field.readCondition) + " is set");
-    add(field.firstBytes != 0, "cut at " + std::to_string(field.firstBytes) + " bytes before it is converted");
+    add(field.readCondition.exists(), Joined({"read only when ", SlotName(table, field.readCondition), " is set"}));
+    add(field.firstBytes != 0, Joined({"cut at ", std::to_string(field.firstBytes), " bytes before it is converted"}));
     add(field.trueAtOne, "true at exactly 1");
-    add(field.hasUnless, "not written at " + std::to_string(field.unless));
+    add(field.hasUnless, Joined({"not written at ", std::to_string(field.unless)}));
     add(field.notNegative, "not written when negative");
-    add(field.atMost != Field::kNoLimit, "written as " + std::to_string(field.atMost) + " when larger");
-    add(field.condition.exists(), "written only when " + SlotName(table, field.condition) + " is set");
+    add(field.atMost != Field::kNoLimit, Joined({"written as ", std::to_string(field.atMost), " when larger"}));
+    add(field.condition.exists(), Joined({"written only when ", SlotName(table, field.condition), " is set"}));
     add(field.when != nullptr, "written only when a function of the record says so");
     add(field.empty == Empty::Array, "written as [ ] when empty");
     add(field.empty == Empty::Null, "written as null when empty");

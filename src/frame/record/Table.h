@@ -373,7 +373,7 @@ struct Tree {
         node.prefix = json::KeyPrefix(key);
         texts[textSize++] = '"';
         for (char c : key) {
-            if (c == '"' || c == '\\' || c == '/' || (c >= 0 && c < 32)) a_key_must_not_be_escaped();
+            if (c == '"' || c == '\\' || c == '/' || static_cast<unsigned char>(c) < 32) a_key_must_not_be_escaped();
             texts[textSize++] = c;
         }
         for (char c : std::string_view("\" : "))
