@@ -28,7 +28,7 @@ import glob, os, random, re, sys
 tree, count, seed = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
 files = sorted(f for pattern in ('*.cpp', '*.h') for f in glob.glob(tree + '/src/**/' + pattern, recursive=True)
                if '/frame/' not in f or f.endswith('SharedRecords.h'))
-KEY = re.compile(r'\b(?:FIELD|CONFIG)\((?:[^,()]|\([^()]*\))+, ("[^"]+"), (\w+)')
+KEY = re.compile(r'\b(?:FIELD|RULE_CONFIG)\((?:[^,()]|\([^()]*\))+, ("[^"]+"), (\w+)')
 NAME = re.compile(r'^\s*\{([\w-]+), ("[^"]*")[,}]')
 CODECS = {'Int': ['UInt', 'Bool'], 'UInt': ['Int'], 'Bool': ['Int'], 'Text': ['RawText', 'FullText'],
           'RawText': ['Text'], 'FullText': ['Text'], 'Real': ['Int'], 'NetTime': ['NetTimeEx'],

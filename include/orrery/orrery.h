@@ -10,6 +10,7 @@
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_rules.h"
 #include "orrery/encode.h"
+#include "orrery/event_codes.h"
 #include "orrery/event_types.h"
 #include "orrery/events_intelligent.h"
 #include "orrery/events_other.h"
@@ -75,9 +76,10 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
 int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
                           uint32_t textCapacity);
 
-/* Takes one decoded event. `eventType` is its code and tells which record `record` is: DEV_EVENT_<NAME>_INFO of the
- * events_... headers. `recordSize` is the record's size, unless its header says otherwise. The record and all that its
- * pointers lead to live only during the call. `reserved` and `sequence` are 0. The result is ignored. */
+/* Takes one decoded event. `eventType` is its code, ORRERY_EVENT_... of event_codes.h, and tells which record `record`
+ * is: DEV_EVENT_<NAME>_INFO of the events_... headers. `recordSize` is the record's size, unless its header says
+ * otherwise. The record and all that its pointers lead to live only during the call. `reserved` and `sequence` are 0.
+ * The result is ignored. */
 typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record, uint32_t recordSize, void* reserved,
                                          int32_t sequence, void* user);
 

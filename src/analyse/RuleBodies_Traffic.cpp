@@ -26,11 +26,11 @@ TABLE(kTrafficControl, CFG_RULE_TRAFFICCONTROL_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG_LINE,
-          CONFIG(stuTimeSchedule, "TimeSchedule", TimeSection),
-          CONFIG_TEXTS(nVehicleSizeNum, szVehicleSizes, "VehicleSizes"),
-          CONFIG_TEXTS(nPlateTypeNum, szPlateTypes, "PlateTypes"),
-          CONFIG(nPlateNumber, "PlateNumber", Names(kPlateNumbers)),
+          RULE_CONFIG_LINE,
+          RULE_CONFIG(stuTimeSchedule, "TimeSchedule", TimeSection),
+          RULE_CONFIG_TEXTS(nVehicleSizeNum, szVehicleSizes, "VehicleSizes"),
+          RULE_CONFIG_TEXTS(nPlateTypeNum, szPlateTypes, "PlateTypes"),
+          RULE_CONFIG(nPlateNumber, "PlateNumber", Names(kPlateNumbers)),
           RULE_TAIL,
       });
 
@@ -38,7 +38,7 @@ TABLE(kTrafficAccident, CFG_RULE_TRAFFICACCIDENT_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG_REGION,
+          RULE_CONFIG_REGION,
           RULE_TAIL,
       });
 
@@ -46,15 +46,15 @@ TABLE(kTrafficJunction, CFG_RULE_TRAFFICJUNCTION_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLane, "Lane", Int),
-          CONFIG(nDirection, "Direction", Int),
-          CONFIG_SHAPE(nPreLinePoint, stuPreLine, "PreLine"),
-          CONFIG_SHAPE(nMiddleLinePoint, stuMiddleLine, "MiddleLine"),
-          CONFIG_SHAPE(nPostLinePoint, stuPostLine, "PostLine"),
-          CONFIG(nFlowLimit, "FlowLimit", Int),
-          CONFIG(nSpeedLowerLimit, "SpeedLimit", Custom(kSpeedsAscending)),
+          RULE_CONFIG(nLane, "Lane", Int),
+          RULE_CONFIG(nDirection, "Direction", Int),
+          RULE_CONFIG_SHAPE(nPreLinePoint, stuPreLine, "PreLine"),
+          RULE_CONFIG_SHAPE(nMiddleLinePoint, stuMiddleLine, "MiddleLine"),
+          RULE_CONFIG_SHAPE(nPostLinePoint, stuPostLine, "PostLine"),
+          RULE_CONFIG(nFlowLimit, "FlowLimit", Int),
+          RULE_CONFIG(nSpeedLowerLimit, "SpeedLimit", Custom(kSpeedsAscending)),
           FIELD(nSpeedUpperLimit),
-          CONFIG_TEXTS(nTriggerModeNum, szTriggerMode, "TriggerMode"),
+          RULE_CONFIG_TEXTS(nTriggerModeNum, szTriggerMode, "TriggerMode"),
           RULE_TAIL,
       });
 
@@ -62,31 +62,31 @@ TABLE(kTrafficGate, CFG_RULE_TRAFFICGATE_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLane, "Lane", Int),
-          CONFIG_SHAPE(nDetectLine1Point, stuDetectLine1, "DetectLine1"),
-          CONFIG_SHAPE(nDetectLine2Point, stuDetectLine2, "DetectLine2"),
-          CONFIG_SHAPE(nLeftLinePoint, stuLeftLine, "LeftLine"),
-          CONFIG_SHAPE(nRightLinePoint, stuRightLine, "RightLine"),
-          CONFIG(nSpeedWeight, "SpeedWeight", Int),
-          CONFIG(dMetricDistance, "MetricDistance", Real),
-          CONFIG(nSpeedUpperLimit, "SpeedLimit", Custom(kSpeedsDescending)),
+          RULE_CONFIG(nLane, "Lane", Int),
+          RULE_CONFIG_SHAPE(nDetectLine1Point, stuDetectLine1, "DetectLine1"),
+          RULE_CONFIG_SHAPE(nDetectLine2Point, stuDetectLine2, "DetectLine2"),
+          RULE_CONFIG_SHAPE(nLeftLinePoint, stuLeftLine, "LeftLine"),
+          RULE_CONFIG_SHAPE(nRightLinePoint, stuRightLine, "RightLine"),
+          RULE_CONFIG(nSpeedWeight, "SpeedWeight", Int),
+          RULE_CONFIG(dMetricDistance, "MetricDistance", Real),
+          RULE_CONFIG(nSpeedUpperLimit, "SpeedLimit", Custom(kSpeedsDescending)),
           FIELD(nSpeedLowerLimit),
-          CONFIG(nDirection, "Direction", Int),
+          RULE_CONFIG(nDirection, "Direction", Int),
           FIELD(nTriggerModeNum),
-          CONFIG(szTriggerMode, "TriggerMode", RawText).Count(AT(nTriggerModeNum)).NullElement(Nulls::LeaveHole),
+          RULE_CONFIG(szTriggerMode, "TriggerMode", RawText).Count(AT(nTriggerModeNum)).NullElement(Nulls::LeaveHole),
           RULE_TAIL,
       });
 
 TABLE(kTrafficJam, CFG_RULE_TRAFFICJAM_INFO,
       {
           RULE_HEAD,
-          CONFIG(byJamLineMargin, "JamLineMargin", Int),
+          RULE_CONFIG(byJamLineMargin, "JamLineMargin", Int),
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nDelay, "Delay", Int),
-          CONFIG(nInterval, "Interval", Int),
-          CONFIG(nReportTimes, "ReportTimes", Int),
-          CONFIG_REGION,
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nDelay, "Delay", Int),
+          RULE_CONFIG(nInterval, "Interval", Int),
+          RULE_CONFIG(nReportTimes, "ReportTimes", Int),
+          RULE_CONFIG_REGION,
           RULE_TAIL,
       });
 
@@ -94,13 +94,13 @@ TABLE(kTrafficParking, CFG_RULE_TRAFFICPARKING_INFO,
       {
           RULE_HEAD,
           RULE_TRACK_IN_CONFIG,
-          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_CONFIG(bySensitivity, "Sensitivity", Int),
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nDelay, "Delay", Int),
-          CONFIG(nParkingAllowedTime, "ParkingAllowedTime", Int),
-          CONFIG(nReportTimes, "ReportTimes", Int),
-          CONFIG_REGION,
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nDelay, "Delay", Int),
+          RULE_CONFIG(nParkingAllowedTime, "ParkingAllowedTime", Int),
+          RULE_CONFIG(nReportTimes, "ReportTimes", Int),
+          RULE_CONFIG_REGION,
           RULE_TAIL,
       });
 
@@ -108,11 +108,11 @@ TABLE(kTrafficRunRed, CFG_RULE_TRAFFICRUNRED_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nDirection, "Direction", Int),
-          CONFIG_SHAPE(nPreLinePoint, stuPreLine, "PreLine"),
-          CONFIG_SHAPE(nMiddleLinePoint, stuMiddleLine, "MiddleLine"),
-          CONFIG_SHAPE(nPostLinePoint, stuPostLine, "PostLine"),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nDirection, "Direction", Int),
+          RULE_CONFIG_SHAPE(nPreLinePoint, stuPreLine, "PreLine"),
+          RULE_CONFIG_SHAPE(nMiddleLinePoint, stuMiddleLine, "MiddleLine"),
+          RULE_CONFIG_SHAPE(nPostLinePoint, stuPostLine, "PostLine"),
           RULE_TAIL,
       });
 
@@ -120,11 +120,11 @@ TABLE(kTrafficLane, CFG_RULE_TRAFFICLANE_INFO,
       {
           RULE_HEAD,
           RULE_TRACK_IN_CONFIG,
-          CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_CONFIG(bySensitivity, "Sensitivity", Int),
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG_REGION,
-          CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG_REGION,
+          RULE_CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"),
           RULE_TAIL,
       });
 
@@ -132,12 +132,12 @@ TABLE(kTrafficBusLane, CFG_RULE_TRAFFICBUSLANE_INFO,
       {
           RULE_HEAD,
           RULE_TRACK_IN_CONFIG,
-          CONFIG(byCarTypeInBusLane, "CarTypeInBusLane", Int),
-          CONFIG(bySensitivity, "Sensitivity", Int),
-          CONFIG(byEnclosure, "Enclosure", Int),
+          RULE_CONFIG(byCarTypeInBusLane, "CarTypeInBusLane", Int),
+          RULE_CONFIG(bySensitivity, "Sensitivity", Int),
+          RULE_CONFIG(byEnclosure, "Enclosure", Int),
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG_REGION,
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG_REGION,
           RULE_TAIL,
       });
 
@@ -145,8 +145,8 @@ TABLE(kTrafficOverYellow, CFG_RULE_TRAFFICOVERYELLOW_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG_REGION,
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG_REGION,
           RULE_TAIL,
       });
 
@@ -155,21 +155,21 @@ TABLE(kTrafficUTurn, CFG_RULE_TRAFFICUTURN_INFO,
           RULE_HEAD,
           RULE_TRACK_IN_CONFIG,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG_REGION,
-          CONFIG(nTriggerAngle, "TriggerAngle", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG_REGION,
+          RULE_CONFIG(nTriggerAngle, "TriggerAngle", Int),
           RULE_TAIL,
-          CONFIG_FILTER,
+          RULE_CONFIG_FILTER,
       });
 
 TABLE(kTrafficSpeed, CFG_RULE_TRAFFICSPEED_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nSpeedUpperLimit, "SpeedLimit", Custom(kUnsignedSpeedsDescending)),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nSpeedUpperLimit, "SpeedLimit", Custom(kUnsignedSpeedsDescending)),
           FIELD(nSpeedLowerLimit),
-          CONFIG(nMinDuration, "MinDuration", Int),
+          RULE_CONFIG(nMinDuration, "MinDuration", Int),
           RULE_TAIL,
       });
 
@@ -177,8 +177,8 @@ TABLE(kTrafficTollGate, CFG_RULE_TRAFFICTOLLGATE_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", UInt),
-          CONFIG_LINE,
+          RULE_CONFIG(nLaneNumber, "LaneNumber", UInt),
+          RULE_CONFIG_LINE,
           RULE_TAIL,
       });
 
@@ -187,11 +187,11 @@ TABLE(kTrafficRetrograde, CFG_RULE_TRAFFICRETROGRADE_INFO,
           RULE_HEAD,
           RULE_TRACK_IN_CONFIG,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", UInt),
-          CONFIG(bLegal, "Legal", Bool),
-          CONFIG_REGION,
-          CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"),
-          CONFIG(nMinDuration, "MinDuration", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", UInt),
+          RULE_CONFIG(bLegal, "Legal", Bool),
+          RULE_CONFIG_REGION,
+          RULE_CONFIG_SHAPE(nDirectionPoint, stuDirection, "Direction"),
+          RULE_CONFIG(nMinDuration, "MinDuration", Int),
           RULE_TAIL,
       });
 
@@ -199,7 +199,7 @@ TABLE(kTrafficPriority, CFG_RULE_TRAFFICPRIORITY_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
           RULE_TAIL,
       });
 
@@ -207,10 +207,10 @@ TABLE(kTrafficYellowBox, CFG_RULE_TRAFFICYELLOWBOX_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nInterval1, "Interval1", Int),
-          CONFIG(nInterval2, "Interval2", Int),
-          CONFIG(nFollowTime, "FollowTime", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nInterval1, "Interval1", Int),
+          RULE_CONFIG(nInterval2, "Interval2", Int),
+          RULE_CONFIG(nFollowTime, "FollowTime", Int),
           RULE_TAIL,
       });
 
@@ -218,18 +218,18 @@ TABLE(kTrafficParkingSpace, CFG_RULE_TRAFFICPARKINGSPACE_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nDelay, "Delay", Int),
-          CONFIG_REGION,
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nDelay, "Delay", Int),
+          RULE_CONFIG_REGION,
           RULE_TAIL,
       });
 
 TABLE(kTrafficSpaceOverLine, CFG_RULE_TRAFFICSPACEOVERLINE_INFO,
       {
           RULE_HEAD,
-          CONFIG(bAllowParkingSpaceParkingSnap, "AllowParkingSpaceParkingSnap", Bool),
+          RULE_CONFIG(bAllowParkingSpaceParkingSnap, "AllowParkingSpaceParkingSnap", Bool),
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
           RULE_TAIL,
       });
 
@@ -237,8 +237,8 @@ TABLE(kTrafficSafeBelt, CFG_RULE_TRAFFICSAFEBELT_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG_ALL_CODES(nSeatNum, nSeats, "Seats", kSeats),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG_ALL_CODES(nSeatNum, nSeats, "Seats", kSeats),
           RULE_TAIL,
       });
 
@@ -246,7 +246,7 @@ TABLE(kTrafficDriver, CFG_RULE_TRAFFICDRIVER_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int).Only(OnlyType::Integer),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int).Only(OnlyType::Integer),
           RULE_TAIL,
       });
 
@@ -254,9 +254,9 @@ TABLE(kTrafficPedestrain, CFG_RULE_TRAFFICPEDESTRAIN_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG_REGION,
-          CONFIG(nMinDuration, "MinDuration", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG_REGION,
+          RULE_CONFIG(nMinDuration, "MinDuration", Int),
           RULE_TAIL,
       });
 
@@ -264,8 +264,8 @@ TABLE(kTrafficPass, CFG_RULE_TRAFFICPASS_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG(nLaneNumber, "LaneNumber", Int),
-          CONFIG(nFollowTime, "FollowTime", Int),
+          RULE_CONFIG(nLaneNumber, "LaneNumber", Int),
+          RULE_CONFIG(nFollowTime, "FollowTime", Int),
           RULE_TAIL,
       });
 
@@ -273,18 +273,18 @@ TABLE(kVehicleAnalyse, CFG_RULE_VEHICLEANALYSE_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG_REGION,
+          RULE_CONFIG_REGION,
           RULE_TAIL,
-          CONFIG_FILTER,
+          RULE_CONFIG_FILTER,
       });
 
 TABLE(kRoadEvent, CFG_RULE_ROADEVENT_INFO,
       {
           RULE_HEAD,
           RULE_OBJECTS,
-          CONFIG_REGION,
-          CONFIG(nMinDuration, "MinDuration", Int),
-          CONFIG(nSensitivity, "Sensitivity", Int),
+          RULE_CONFIG_REGION,
+          RULE_CONFIG(nMinDuration, "MinDuration", Int),
+          RULE_CONFIG(nSensitivity, "Sensitivity", Int),
           RULE_TAIL,
       });
 

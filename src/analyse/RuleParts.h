@@ -43,31 +43,35 @@ inline constexpr Field kNoConfigRow = MakeVirtual("Config", Custom(kNoConfigCode
 // Whether an object is followed: some devices read the key where they write it, some elsewhere or not at all.
 #define RULE_TRACK FIELD(bTrackEnable, "TrackEnable", Bool)
 #define RULE_TRACK_READ_ONLY RULE_TRACK.ReadOnly()
-#define RULE_TRACK_IN_CONFIG RULE_TRACK.ReadOnly(), CONFIG(bTrackEnable, "TrackEnable", Bool).Alias().WriteOnly()
+#define RULE_TRACK_IN_CONFIG RULE_TRACK.ReadOnly(), RULE_CONFIG(bTrackEnable, "TrackEnable", Bool).Alias().WriteOnly()
 
 // ---- Rows under "Config" ----
 
-#define CONFIG(member, key, ...) FIELD(member, "Config/" key, __VA_ARGS__).KeepsObject()
-#define CONFIG_SHAPE(count, points, key)                                                                               \
-    FIELD(count), CONFIG(points, key, Record(kCorner))                                                                 \
+#define RULE_CONFIG(member, key, ...) FIELD(member, "Config/" key, __VA_ARGS__).KeepsObject()
+#define RULE_CONFIG_SHAPE(count, points, key)                                                                          \
+    FIELD(count), RULE_CONFIG(points, key, Record(kCorner))                                                            \
                       .Count(AT(count))                                                                                \
                       .NullElement(Nulls::LeaveHole)                                                                   \
                       .RefusedElement(Nulls::LeaveHole)
-#define CONFIG_REGION CONFIG_SHAPE(nDetectRegionPoint, stuDetectRegion, "DetectRegion")
-#define CONFIG_LINE CONFIG_SHAPE(nDetectLinePoint, stuDetectLine, "DetectLine")
-#define CONFIG_FILTER                                                                                                  \
-    FIELD(bSizeFilter), CONFIG(stuSizeFilter, "SizeFilter", Record(kSizeFilter)).SetsAndNeeds(AT(bSizeFilter))
+#define RULE_CONFIG_REGION RULE_CONFIG_SHAPE(nDetectRegionPoint, stuDetectRegion, "DetectRegion")
+#define RULE_CONFIG_LINE RULE_CONFIG_SHAPE(nDetectLinePoint, stuDetectLine, "DetectLine")
+#define RULE_CONFIG_FILTER                                                                                             \
+    FIELD(bSizeFilter), RULE_CONFIG(stuSizeFilter, "SizeFilter", Record(kSizeFilter)).SetsAndNeeds(AT(bSizeFilter))
 // A list of codes: a null leaves its place 0, uncounted; a code without a text is a null in its place.
-#define CONFIG_CODES(count, codes, key, names)                                                                         \
-    FIELD(count),                                                                                                      \
-        CONFIG(codes, key, Names(names)).Count(AT(count)).NullElement(Nulls::LeaveHole).WriteSkipped(Skipped::Hole)
+#define RULE_CONFIG_CODES(count, codes, key, names)                                                                    \
+    FIELD(count), RULE_CONFIG(codes, key, Names(names))                                                                \
+                      .Count(AT(count))                                                                                \
+                      .NullElement(Nulls::LeaveHole)                                                                   \
+                      .WriteSkipped(Skipped::Hole)
 // The same where every element counts, since a place of 0 stands for a text that is not known.
-#define CONFIG_ALL_CODES(count, codes, key, names)                                                                     \
-    FIELD(count), CONFIG(codes, key, Names(names)).Count(AT(count)).WriteSkipped(Skipped::Hole)
-#define CONFIG_POSITIONS CONFIG_CODES(nTriggerPosition, byTriggerPosition, "TriggerPosition", kTriggerPositions)
+#define RULE_CONFIG_ALL_CODES(count, codes, key, names)                                                                \
+    FIELD(count), RULE_CONFIG(codes, key, Names(names)).Count(AT(count)).WriteSkipped(Skipped::Hole)
+#define RULE_CONFIG_POSITIONS                                                                                          \
+    RULE_CONFIG_CODES(nTriggerPosition, byTriggerPosition, "TriggerPosition", kTriggerPositions)
 // Devices count texts in bytes before they convert them.
-#define CONFIG_TEXTS(count, texts, key)                                                                                \
-    FIELD(count), CONFIG(texts, key, Text).Count(AT(count)).NullElement(Nulls::LeaveHole).FirstBytes(kMostTextBytes)
+#define RULE_CONFIG_TEXTS(count, texts, key)                                                                           \
+    FIELD(count),                                                                                                      \
+        RULE_CONFIG(texts, key, Text).Count(AT(count)).NullElement(Nulls::LeaveHole).FirstBytes(kMostTextBytes)
 inline constexpr std::uint16_t kMostTextBytes = 192;
 
 // ---- Parts ----

@@ -55,47 +55,47 @@ extern const CustomCodec kSourceDevice;
 #define ORRERY_FROM_EVENT(member, source) FIELD(member, SUPPLIED(::orrery::events::EventContext, source))
 #define ORRERY_SAME_FROM_EVENT(member) ORRERY_FROM_EVENT(member, member)
 
-#define CHANNEL ORRERY_SAME_FROM_EVENT(nChannelID)
-#define FILE_INFO ORRERY_SAME_FROM_EVENT(stuFileInfo)
-#define ACTION ORRERY_SAME_FROM_EVENT(byEventAction)
-#define REPEAT ORRERY_SAME_FROM_EVENT(byRepeat)
-#define ACTION_AND_REPEAT ACTION, FIELD(byReservedAction), REPEAT
-#define FLAG_MASK ORRERY_SAME_FROM_EVENT(dwFlagMask)
-#define WIDTH ORRERY_SAME_FROM_EVENT(wWidth)
-#define HEIGHT ORRERY_SAME_FROM_EVENT(wHeight)
-#define RESOLUTION ORRERY_SAME_FROM_EVENT(dwResolution)
+#define EV_CHANNEL ORRERY_SAME_FROM_EVENT(nChannelID)
+#define EV_FILE_INFO ORRERY_SAME_FROM_EVENT(stuFileInfo)
+#define EV_ACTION ORRERY_SAME_FROM_EVENT(byEventAction)
+#define EV_REPEAT ORRERY_SAME_FROM_EVENT(byRepeat)
+#define EV_ACTION_AND_REPEAT EV_ACTION, FIELD(byReservedAction), EV_REPEAT
+#define EV_FLAG_MASK ORRERY_SAME_FROM_EVENT(dwFlagMask)
+#define EV_WIDTH ORRERY_SAME_FROM_EVENT(wWidth)
+#define EV_HEIGHT ORRERY_SAME_FROM_EVENT(wHeight)
+#define EV_RESOLUTION ORRERY_SAME_FROM_EVENT(dwResolution)
 
 // ---- Members that read the same in every record ------------------------------------------------------------------
 
-#define RULE_NAME FIELD(szName, "Name", FullText)
-#define TIME_STAMP FIELD(dPTS, "PTS", Real)
-#define WHOLE_TIME_STAMP FIELD(dwPTS, "PTS", WholeReal)
-#define UTC FIELD(stuUTC, "UTC", UtcTime), MILLISECONDS_OF(stuUTC, "UTCMS")
-#define INITIAL_UTC FIELD(dInitialUTC, "InitialUTC", Real)
-#define EVENT_ID FIELD(nEventID, "EventID", Int)
-#define SOURCE_DEVICE FIELD(szSourceDevice, "SourceDevice", Custom(::orrery::events::kSourceDevice))
-#define SOURCE FIELD(nSourceIndex, "SourceIndex", Int).Absent(-1), SOURCE_DEVICE
-#define COUNT FIELD(dwCount, "Count", UInt).Only(OnlyType::Integral)
-#define ALARM_RECORD                                                                                                   \
+#define EV_RULE_NAME FIELD(szName, "Name", FullText)
+#define EV_TIME_STAMP FIELD(dPTS, "PTS", Real)
+#define EV_WHOLE_TIME_STAMP FIELD(dwPTS, "PTS", WholeReal)
+#define EV_UTC FIELD(stuUTC, "UTC", UtcTime), EV_MILLISECONDS_OF(stuUTC, "UTCMS")
+#define EV_INITIAL_UTC FIELD(dInitialUTC, "InitialUTC", Real)
+#define EV_ID FIELD(nEventID, "EventID", Int)
+#define EV_SOURCE_DEVICE FIELD(szSourceDevice, "SourceDevice", Custom(::orrery::events::kSourceDevice))
+#define EV_SOURCE FIELD(nSourceIndex, "SourceIndex", Int).Absent(-1), EV_SOURCE_DEVICE
+#define EV_COUNT FIELD(dwCount, "Count", UInt).Only(OnlyType::Integral)
+#define EV_ALARM_RECORD                                                                                                \
     FIELD(bIsExistAlarmRecord, "IsExistAlarmRecord", Bool), FIELD(dwAlarmRecordSize, "AlarmRecordSize", UInt)
-#define ALARM_RECORD_PATH FIELD(szAlarmRecordPath, "AlarmRecordPath", Text)
+#define EV_ALARM_RECORD_PATH FIELD(szAlarmRecordPath, "AlarmRecordPath", Text)
 
 // The heads, field by field.
-#define HEAD_A_WITH(...) CHANNEL, RULE_NAME, __VA_ARGS__, TIME_STAMP, UTC, EVENT_ID
-#define HEAD_A HEAD_A_WITH(FIELD(byReservedHead))
-#define HEAD_B CHANNEL, RULE_NAME, FIELD(nTriggerType, "TriggerType", Int), WHOLE_TIME_STAMP, UTC, EVENT_ID
-#define HEAD_PTS CHANNEL, RULE_NAME, WHOLE_TIME_STAMP, UTC, EVENT_ID
-#define HEAD_C CHANNEL, RULE_NAME, FIELD(byReservedHead), WHOLE_TIME_STAMP, UTC, EVENT_ID
+#define EV_HEAD_A_WITH(...) EV_CHANNEL, EV_RULE_NAME, __VA_ARGS__, EV_TIME_STAMP, EV_UTC, EV_ID
+#define EV_HEAD_A EV_HEAD_A_WITH(FIELD(byReservedHead))
+#define EV_HEAD_B EV_CHANNEL, EV_RULE_NAME, FIELD(nTriggerType, "TriggerType", Int), EV_WHOLE_TIME_STAMP, EV_UTC, EV_ID
+#define EV_HEAD_PTS EV_CHANNEL, EV_RULE_NAME, EV_WHOLE_TIME_STAMP, EV_UTC, EV_ID
+#define EV_HEAD_C EV_CHANNEL, EV_RULE_NAME, FIELD(byReservedHead), EV_WHOLE_TIME_STAMP, EV_UTC, EV_ID
 
-#define OBJECT FIELD(stuObject, "Object", Record(::orrery::events::kObject))
-#define VEHICLE FIELD(stuVehicle, "Vehicle", Record(::orrery::events::kObject))
-#define EVENT_CLASS FIELD(emClass, "Class", Names(::orrery::events::kSceneClasses))
-#define GPS FIELD(stuGPS, "Custom/GPS", Record(::orrery::events::kGpsPoint))
-#define MILLISECONDS_OF(moment, key) FIELD(moment.dwMillisecond, key, UInt).Alias()
+#define EV_OBJECT FIELD(stuObject, "Object", Record(::orrery::events::kObject))
+#define EV_VEHICLE FIELD(stuVehicle, "Vehicle", Record(::orrery::events::kObject))
+#define EV_CLASS FIELD(emClass, "Class", Names(::orrery::events::kSceneClasses))
+#define EV_GPS FIELD(stuGPS, "Custom/GPS", Record(::orrery::events::kGpsPoint))
+#define EV_MILLISECONDS_OF(moment, key) FIELD(moment.dwMillisecond, key, UInt).Alias()
 // A list of points with its count in front: POINTS(stuTrack, nTrackNum, "Track").
-#define POINT_ROW(points, count, key)                                                                                  \
+#define EV_POINT_ROW(points, count, key)                                                                               \
     FIELD(points, key, Record(::orrery::events::kEventPoint))                                                          \
         .Count(AT(count))                                                                                              \
         .NullElement(::orrery::record::Nulls::LeaveHole)                                                               \
         .RefusedElement(::orrery::record::Nulls::LeaveHole)
-#define POINTS(points, count, key) FIELD(count), POINT_ROW(points, count, key)
+#define EV_POINTS(points, count, key) FIELD(count), EV_POINT_ROW(points, count, key)

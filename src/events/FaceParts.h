@@ -38,15 +38,15 @@ NAMES(kTraitFeatures, kExact,
 
 } // namespace orrery::events
 
-#define FEATURES(key, table) FIELD(nFeatureNum), FIELD(emFeature, key, Names(table)).Count(AT(nFeatureNum))
+#define EV_FEATURES(key, table) FIELD(nFeatureNum), FIELD(emFeature, key, Names(table)).Count(AT(nFeatureNum))
 // Inside the object `prefix`, which is "" or ends in a slash.
-#define FACE_PERSON(prefix)                                                                                            \
+#define EV_FACE_PERSON(prefix)                                                                                         \
     FIELD(emSex, prefix "Sex", Names(kFaceSexes)), FIELD(nAge, prefix "Age", Int).Only(OnlyType::Integer).Absent(-1),  \
-        FEATURES(prefix "Feature", kFeatures)
-#define FACE_STATES(prefix)                                                                                            \
+        EV_FEATURES(prefix "Feature", kFeatures)
+#define EV_FACE_STATES(prefix)                                                                                         \
     FIELD(emRace, prefix "Race", PlaceIn<1, 0, 1, 2, 3>), FIELD(emEye, prefix "Eye", PlaceIn<1, 0, 1, 2>),             \
         FIELD(emMouth, prefix "Mouth", PlaceIn<1, 0, 1, 2>), FIELD(emMask, prefix "Mask", PlaceIn<1, 0, 1, 2>),        \
         FIELD(emBeard, prefix "Beard", PlaceIn<1, 0, 1, 2>)
-#define FACE_LOOKS(prefix)                                                                                             \
-    FACE_STATES(prefix), FIELD(nAttractive, prefix "Attractive", Within<0, 100>).Absent(-1),                           \
+#define EV_FACE_LOOKS(prefix)                                                                                          \
+    EV_FACE_STATES(prefix), FIELD(nAttractive, prefix "Attractive", Within<0, 100>).Absent(-1),                        \
         FIELD(szUID, prefix "UID", Text)

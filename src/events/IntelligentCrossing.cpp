@@ -1,6 +1,8 @@
 // Intelligent events: lines and regions that things cross, and the paths they take.
 #include "events/IntelligentEvents.h"
 
+#include "orrery/event_codes.h"
+
 namespace orrery::events {
 
 using json::Value;
@@ -29,134 +31,133 @@ NAMES(kDeeds, kFolded,
 
 PART(kTrackLine, EVENT_TRACK_LINE,
      {
-         POINTS(stuPoint, nPointNum, ""),
+         EV_POINTS(stuPoint, nPointNum, ""),
      });
-
-constexpr std::uint32_t kCrossLine = 2;
-constexpr std::uint32_t kCrossLineExtended = 337;
 
 } // namespace
 
 std::uint32_t CrossLineCode(const Value& data) noexcept {
     const bool extended = !data["Objects"].isNull() || !data["Object"]["Person"].isNull();
-    return extended ? kCrossLineExtended : kCrossLine;
+    return extended ? ORRERY_EVENT_CROSS_LINE_EX : ORRERY_EVENT_CROSS_LINE_DETECTION;
 }
 
 // Points whose count stands behind them.
-#define COUNTED_POINTS(points, count, key) POINT_ROW(points, count, key), FIELD(count)
+#define EV_COUNTED_POINTS(points, count, key) EV_POINT_ROW(points, count, key), FIELD(count)
 // The four bytes that tell who did what.
-#define CROSSING(directions)                                                                                           \
-    ACTION, FIELD(byDirection, "Direction", Names(directions)), FIELD(byActionType, "Action", Names(kDeeds)), REPEAT
-#define CARGO FIELD(nCargoChannelNum), FIELD(nCargoChannel, "Custom/CargoChannelInfo", Int).Count(AT(nCargoChannelNum))
-#define TRACKS FIELD(nTrackLineNum), FIELD(stuTrackLine, "Tracks", Record(kTrackLine)).Count(AT(nTrackLineNum))
-#define PRESET FIELD(wPresetID, "PresetID", Int)
+#define EV_CROSSING(directions)                                                                                        \
+    EV_ACTION, FIELD(byDirection, "Direction", Names(directions)), FIELD(byActionType, "Action", Names(kDeeds)),       \
+        EV_REPEAT
+#define EV_CARGO                                                                                                       \
+    FIELD(nCargoChannelNum), FIELD(nCargoChannel, "Custom/CargoChannelInfo", Int).Count(AT(nCargoChannelNum))
+#define EV_TRACKS FIELD(nTrackLineNum), FIELD(stuTrackLine, "Tracks", Record(kTrackLine)).Count(AT(nTrackLineNum))
+#define EV_PRESET FIELD(wPresetID, "PresetID", Int)
 
 TABLE(kCrossLineDetection, DEV_EVENT_CROSSLINEDETECTION_INFO,
       {
-          HEAD_A,
-          OBJECT,
-          FILE_INFO,
-          COUNTED_POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
-          COUNTED_POINTS(stuTrack, nTrackNum, "Track"),
-          CROSSING(kLineDirections),
-          FLAG_MASK,
-          SOURCE,
-          COUNT,
-          CARGO,
-          EVENT_CLASS,
-          PRESET,
+          EV_HEAD_A,
+          EV_OBJECT,
+          EV_FILE_INFO,
+          EV_COUNTED_POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
+          EV_COUNTED_POINTS(stuTrack, nTrackNum, "Track"),
+          EV_CROSSING(kLineDirections),
+          EV_FLAG_MASK,
+          EV_SOURCE,
+          EV_COUNT,
+          EV_CARGO,
+          EV_CLASS,
+          EV_PRESET,
       });
 
 TABLE(kCrossLineEx, DEV_EVENT_CROSSLINE_EX_INFO,
       {
           FIELD(dwSize, nullptr, Size),
-          HEAD_A,
+          EV_HEAD_A,
           FIELD(stuObject, "Object", Record(kObjectEx)),
-          FILE_INFO,
-          COUNTED_POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
-          COUNTED_POINTS(stuTrack, nTrackNum, "Track"),
-          CROSSING(kLineDirections),
-          FLAG_MASK,
-          SOURCE,
-          COUNT,
-          ALL_OBJECTS,
-          EVENT_CLASS,
+          EV_FILE_INFO,
+          EV_COUNTED_POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
+          EV_COUNTED_POINTS(stuTrack, nTrackNum, "Track"),
+          EV_CROSSING(kLineDirections),
+          EV_FLAG_MASK,
+          EV_SOURCE,
+          EV_COUNT,
+          EV_ALL_OBJECTS,
+          EV_CLASS,
       });
 
 TABLE(kCrossRegionDetection, DEV_EVENT_CROSSREGIONDETECTION_INFO,
       {
-          HEAD_A,
-          OBJECT,
-          FILE_INFO,
-          COUNTED_POINTS(stuDetectRegion, nDetectRegionNum, "DetectRegion"),
-          COUNTED_POINTS(stuTrack, nTrackNum, "Track"),
-          CROSSING(kRegionDirections),
-          FLAG_MASK,
-          SOURCE,
-          COUNT,
-          CARGO,
-          OBJECTS,
-          TRACKS,
-          EVENT_CLASS,
-          PRESET,
+          EV_HEAD_A,
+          EV_OBJECT,
+          EV_FILE_INFO,
+          EV_COUNTED_POINTS(stuDetectRegion, nDetectRegionNum, "DetectRegion"),
+          EV_COUNTED_POINTS(stuTrack, nTrackNum, "Track"),
+          EV_CROSSING(kRegionDirections),
+          EV_FLAG_MASK,
+          EV_SOURCE,
+          EV_COUNT,
+          EV_CARGO,
+          EV_OBJECTS,
+          EV_TRACKS,
+          EV_CLASS,
+          EV_PRESET,
       });
 
 TABLE(kWanderDetection, DEV_EVENT_WANDERDETECTION_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
-          ACTION_AND_REPEAT,
-          OBJECTS,
-          TRACKS,
-          DETECT_REGION,
-          FLAG_MASK,
-          SOURCE,
-          COUNT,
-          EVENT_CLASS,
-          PRESET,
+          EV_HEAD_A,
+          EV_FILE_INFO,
+          EV_ACTION_AND_REPEAT,
+          EV_OBJECTS,
+          EV_TRACKS,
+          EV_DETECT_REGION,
+          EV_FLAG_MASK,
+          EV_SOURCE,
+          EV_COUNT,
+          EV_CLASS,
+          EV_PRESET,
           FIELD(szPresetName, "PresetName", Text),
       });
 
 TABLE(kCrossFenceDetection, DEV_EVENT_CROSSFENCEDETECTION_INFO,
       {
-          HEAD_A,
-          OBJECT,
-          POINTS(stuUpstairsLine, nUpstairsLineNum, "UpstairsLine"),
-          POINTS(stuDownstairsLine, nDownstairsLineNum, "DownstairsLine"),
-          TRACK,
-          FILE_INFO,
-          ACTION_AND_REPEAT,
-          FLAG_MASK,
-          SOURCE,
-          COUNT,
-          EVENT_CLASS,
+          EV_HEAD_A,
+          EV_OBJECT,
+          EV_POINTS(stuUpstairsLine, nUpstairsLineNum, "UpstairsLine"),
+          EV_POINTS(stuDownstairsLine, nDownstairsLineNum, "DownstairsLine"),
+          EV_TRACK,
+          EV_FILE_INFO,
+          EV_ACTION_AND_REPEAT,
+          EV_FLAG_MASK,
+          EV_SOURCE,
+          EV_COUNT,
+          EV_CLASS,
           FIELD(nPresetID, "PresetID", Int),
           FIELD(emDirection, "Direction", Names(kLineDirections)),
       });
 
 TABLE(kClimbDetection, DEV_EVENT_CLIMBDETECTION_INFO,
       {
-          HEAD_A,
-          GROUP_NUMBERS,
-          OBJECT,
-          POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
-          EVENT_CLASS,
-          ACTION,
-          RESOLUTION,
-          COUNT,
-          REPEAT,
+          EV_HEAD_A,
+          EV_GROUP_NUMBERS,
+          EV_OBJECT,
+          EV_POINTS(stuDetectLine, nDetectLineNum, "DetectLine"),
+          EV_CLASS,
+          EV_ACTION,
+          EV_RESOLUTION,
+          EV_COUNT,
+          EV_REPEAT,
       });
 
 TABLE(kLeaveDetection, DEV_EVENT_LEAVEDETECTION_INFO,
       {
-          HEAD_A,
-          GROUP_NUMBERS,
-          OBJECT,
-          DETECT_REGION,
-          EVENT_CLASS,
-          ACTION,
-          RESOLUTION,
-          REPEAT,
+          EV_HEAD_A,
+          EV_GROUP_NUMBERS,
+          EV_OBJECT,
+          EV_DETECT_REGION,
+          EV_CLASS,
+          EV_ACTION,
+          EV_RESOLUTION,
+          EV_REPEAT,
       });
 
 } // namespace orrery::events

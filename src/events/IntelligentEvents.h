@@ -58,19 +58,20 @@ std::uint32_t CrossLineCode(const json::Value& data) noexcept;
 // ---- Rows that several of these records have ----
 
 // The head of records that keep nothing behind the name.
-#define HEAD_SHORT CHANNEL, RULE_NAME, TIME_STAMP, UTC, EVENT_ID
+#define EV_HEAD_SHORT EV_CHANNEL, EV_RULE_NAME, EV_TIME_STAMP, EV_UTC, EV_ID
 // What opens records without a time.
-#define HEAD_UNTIMED CHANNEL, RULE_NAME, EVENT_ID
-#define ACTION_NUMBER ORRERY_FROM_EVENT(byEventAction, nAction)
-#define OBJECTS FIELD(nObjectNum), FIELD(stuObjects, "Objects", Record(::orrery::events::kObject)).Count(AT(nObjectNum))
+#define EV_HEAD_UNTIMED EV_CHANNEL, EV_RULE_NAME, EV_ID
+#define EV_ACTION_NUMBER ORRERY_FROM_EVENT(byEventAction, nAction)
+#define EV_OBJECTS                                                                                                     \
+    FIELD(nObjectNum), FIELD(stuObjects, "Objects", Record(::orrery::events::kObject)).Count(AT(nObjectNum))
 // As many objects as the text has, in a block of their own.
-#define ALL_OBJECTS                                                                                                    \
+#define EV_ALL_OBJECTS                                                                                                 \
     FIELD(nObjectNum), FIELD(pObjects, "Objects", Record(::orrery::events::kObjectEx))                                 \
                            .Owned("New pstObjectInfo Failed")                                                          \
                            .Count(AT(nObjectNum))
-#define DETECT_REGION POINTS(stuDetectRegion, nDetectRegionNum, "DetectRegion")
-#define TRACK POINTS(stuTrack, nTrackNum, "Track")
-#define EVENT_CLASS_OR_TRAFFIC FIELD(emClass, "Class", Names(::orrery::events::kSceneClassesWithTraffic))
-#define GROUP_NUMBERS                                                                                                  \
+#define EV_DETECT_REGION EV_POINTS(stuDetectRegion, nDetectRegionNum, "DetectRegion")
+#define EV_TRACK EV_POINTS(stuTrack, nTrackNum, "Track")
+#define EV_CLASS_OR_TRAFFIC FIELD(emClass, "Class", Names(::orrery::events::kSceneClassesWithTraffic))
+#define EV_GROUP_NUMBERS                                                                                               \
     FIELD(nGroupID, "GroupID", Int), FIELD(nCountInGroup, "CountInGroup", Int),                                        \
         FIELD(nIndexInGroup, "IndexInGroup", Int)

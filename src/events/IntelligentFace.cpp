@@ -60,7 +60,7 @@ void KeepCustomType(const Value& value, std::byte* record, ReadCall& call) {
     call.parser.GetJsonString(value["Type"], person.szCustomType, sizeof person.szCustomType, true);
 }
 
-#define PERSON_ROWS                                                                                                    \
+#define EV_PERSON_ROWS                                                                                                 \
     FIELD(szCustomType), FIELD(wYear, "Birthday", Custom(kBirthday)), FIELD(byMonth), FIELD(byDay),                    \
         FIELD(szID, "ID", Text), FIELD(byImportant, "Important", Int), FIELD(bySex, "Sex", Names(kPersonSexes)),       \
         FIELD(nImageNum), FIELD(stuImage, "Image", Record(kPersonImage)).Count(AT(nImageNum)),                         \
@@ -80,19 +80,19 @@ void KeepCustomType(const Value& value, std::byte* record, ReadCall& call) {
 
 PART(kPerson, EVENT_PERSON_INFO,
      {
-         PERSON_ROWS,
+         EV_PERSON_ROWS,
      })
     .AfterRead(KeepCustomType<EVENT_PERSON_INFO>);
 PART(kPersonEx, EVENT_PERSON_INFO_EX,
      {
-         PERSON_ROWS,
+         EV_PERSON_ROWS,
          FIELD(szHomeAddress, "HomeAddress", Text),
          FIELD(emGlassesType, "GlassesType", Names(kGlasses)),
-         FACE_STATES(""),
+         EV_FACE_STATES(""),
      })
     .AfterRead(KeepCustomType<EVENT_PERSON_INFO_EX>);
 
-#define CANDIDATE_ROWS(person)                                                                                         \
+#define EV_CANDIDATE_ROWS(person)                                                                                      \
     FIELD(stuPerson, "Person", Record(person)).Always(), FIELD(bySimilarity, "Similarity", Int),                       \
         FIELD(byRange, "Range", Int), FIELD(stuTime, "Time", NetTime), FIELD(szAddress, "Address", Text),              \
         FIELD(bIsHit, "IsHit", Bool), FIELD(stuSceneImage, "SceneImage", Record(kImage)),                              \
@@ -100,11 +100,11 @@ PART(kPersonEx, EVENT_PERSON_INFO_EX,
 
 PART(kCandidate, EVENT_CANDIDATE_INFO,
      {
-         CANDIDATE_ROWS(kPerson),
+         EV_CANDIDATE_ROWS(kPerson),
      });
 PART(kCandidateEx, EVENT_CANDIDATE_INFO_EX,
      {
-         CANDIDATE_ROWS(kPersonEx),
+         EV_CANDIDATE_ROWS(kPersonEx),
          FIELD(szFilePath, "SceneImage/FilePath", Text),
      });
 
@@ -112,37 +112,37 @@ PART(kCandidateEx, EVENT_CANDIDATE_INFO_EX,
 
 TABLE(kFaceDetection, DEV_EVENT_FACEDETECTION_INFO,
       {
-          HEAD_A,
-          OBJECT,
-          FILE_INFO,
-          ACTION_AND_REPEAT,
-          DETECT_REGION,
-          FLAG_MASK,
+          EV_HEAD_A,
+          EV_OBJECT,
+          EV_FILE_INFO,
+          EV_ACTION_AND_REPEAT,
+          EV_DETECT_REGION,
+          EV_FLAG_MASK,
           FIELD(szAddress, "Address", Text),
-          COUNT,
-          FACE_PERSON(""),
+          EV_COUNT,
+          EV_FACE_PERSON(""),
           FIELD(nFaceNum),
           FIELD(stuFaces, "Faces", Record(kFace)).Count(AT(nFaceNum)),
-          EVENT_CLASS,
-          FACE_LOOKS(""),
+          EV_CLASS,
+          EV_FACE_LOOKS(""),
       });
 
 // Both lists are read from the same key.
 TABLE(kFaceRecognition, DEV_EVENT_FACERECOGNITION_INFO,
       {
-          HEAD_A,
-          OBJECT,
+          EV_HEAD_A,
+          EV_OBJECT,
           FIELD(nCandidateNum),
           FIELD(stuCandidates, "Candidates", Record(kCandidate)).Count(AT(nCandidateNum)),
           FIELD(stuCandidatesEx, "Candidates", Record(kCandidateEx)),
-          ACTION_AND_REPEAT,
+          EV_ACTION_AND_REPEAT,
           FIELD(bIsGlobalScene, "IsGlobalScene", Bool),
           FIELD(stuSceneImage, "SceneImage", Record(kPersonImage)),
           FIELD(szAddress, "Address", Text),
-          COUNT,
-          EVENT_CLASS,
-          FACE_PERSON("Face/"),
-          FACE_LOOKS("Face/"),
+          EV_COUNT,
+          EV_CLASS,
+          EV_FACE_PERSON("Face/"),
+          EV_FACE_LOOKS("Face/"),
       });
 
 } // namespace orrery::events

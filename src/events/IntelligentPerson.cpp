@@ -47,46 +47,46 @@ PART(kFaceAttributes, EVENT_FACE_ATTRIBUTES,
          FIELD(nBeard, "Beard", Int),
          FIELD(nMask, "Mask", Int),
          FIELD(nFaceQuality, "FaceQuality", Int),
-         FEATURES("Feature", kTraitFeatures),
+         EV_FEATURES("Feature", kTraitFeatures),
          FIELD(emGlass, "Glass", PlaceIn<0, 0, 2, 1>),
          FIELD(emSex, "Sex", Names(kFaceSexes)),
      });
 
 } // namespace
 
-#define LOOKS                                                                                                          \
+#define EV_LOOKS                                                                                                       \
     FIELD(bySex, "Sex", Names(kPersonSexes)), FIELD(byAge, "Age", Int), FIELD(byCall, "Call", Int),                    \
         FIELD(byHat, "Hat", Int), FIELD(byBag, "Bag", Int), FIELD(byUmbrella, "Umbrella", Int),                        \
         FIELD(byGlasses, "Glasses", Int), FIELD(emEmotion, "Emotion", Names(kFeatures)),                               \
         FIELD(stuUpperBodyColor, "UpperBodyColor", Record(record::kColor)),                                            \
         FIELD(stuLowerBodyColor, "LowerBodyColor", Record(record::kColor)),                                            \
         FIELD(stuBoundingBox, "BoundingBox", Record(record::kRect)), FIELD(szImagePath, "Image/FilePath", Text),       \
-        FIELD(wImageWidth, "Image/Width", Int), FIELD(wImageHeight, "Image/Height", Int), REPEAT, FLAG_MASK
+        FIELD(wImageWidth, "Image/Width", Int), FIELD(wImageHeight, "Image/Height", Int), EV_REPEAT, EV_FLAG_MASK
 
 TABLE(kPersonFeature, DEV_EVENT_PERSONFEATURE_INFO,
       {
-          HEAD_SHORT,
-          FILE_INFO,
-          ACTION,
-          SOURCE_DEVICE,
-          LOOKS,
+          EV_HEAD_SHORT,
+          EV_FILE_INFO,
+          EV_ACTION,
+          EV_SOURCE_DEVICE,
+          EV_LOOKS,
       });
 
 TABLE(kNonMotorFeature, DEV_EVENT_NONMOTORFEATURE_INFO,
       {
-          HEAD_SHORT,
-          FILE_INFO,
-          ACTION,
-          SOURCE_DEVICE,
+          EV_HEAD_SHORT,
+          EV_FILE_INFO,
+          EV_ACTION,
+          EV_SOURCE_DEVICE,
           FIELD(szPlateNumber, "PlateNumber", Text),
-          LOOKS,
+          EV_LOOKS,
       });
 
 TABLE(kHumanTrait, DEV_EVENT_HUMANTRAIT_INFO,
       {
-          HEAD_UNTIMED,
+          EV_HEAD_UNTIMED,
           ORRERY_SAME_FROM_EVENT(dwAction),
-          EVENT_CLASS_OR_TRAFFIC,
+          EV_CLASS_OR_TRAFFIC,
           FIELD(nGroupID, "GroupID", Int).Only(OnlyType::Integer),
           FIELD(nCountInGroup, "CountInGroup", Int).Only(OnlyType::Integer),
           FIELD(nIndexInGroup, "IndexInGroup", Int).Only(OnlyType::Integer),

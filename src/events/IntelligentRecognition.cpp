@@ -23,11 +23,11 @@ NAMES(kInsideTypes, kFolded,
           {EVENT_INSIDE_EXPLOSIVE, "Explosive"},
       });
 
-#define GRADE Within<std::numeric_limits<std::int32_t>::min(), 2>
+#define EV_GRADE Within<std::numeric_limits<std::int32_t>::min(), 2>
 
 PART(kInside, EVENT_INSIDE_OBJECT,
      {
-         FIELD(nGrade, "Grade", GRADE).Absent(-1),
+         FIELD(nGrade, "Grade", EV_GRADE).Absent(-1),
          FIELD(emType, "Type", Names(kInsideTypes)),
      })
     .StartsWhenRead();
@@ -81,65 +81,65 @@ PART(kVehicleAttach, EVENT_VEHICLE_ATTACH,
          FIELD(stuBoundingBox, "BoundingBox", Record(kBox)).AtLeast(4),
      });
 
-#define OF_VEHICLE(member, key, ...) FIELD(member, "Vehicle/" key, __VA_ARGS__)
+#define EV_OF_VEHICLE(member, key, ...) FIELD(member, "Vehicle/" key, __VA_ARGS__)
 PART(kCarCandidate, EVENT_CAR_CANDIDATE,
      {
          FIELD(nDifferenceNum),
          FIELD(emDifference, "DifferentAttributres", Names(kDifferences)).Count(AT(nDifferenceNum)),
-         OF_VEHICLE(dwUID, "UID", UInt),
-         OF_VEHICLE(szGroupID, "GroupID", Text),
-         OF_VEHICLE(szGroupName, "GroupName", Text),
-         OF_VEHICLE(szPlateNumber, "PlateNumber", Text),
-         OF_VEHICLE(szPlateCountry, "PlateCountry", Text),
-         OF_VEHICLE(dwPlateType, "PlateType", UInt),
-         OF_VEHICLE(dwType, "Type", UInt),
-         OF_VEHICLE(dwBrand, "Brand", UInt),
-         OF_VEHICLE(dwSerie, "Serie", UInt),
-         OF_VEHICLE(dwCarSeriesModelYearIndex, "CarSeriesModelYearIndex", UInt),
-         OF_VEHICLE(stuVehicleColor, "VehicleColor", Record(record::kColor)),
-         OF_VEHICLE(stuPlateColor, "PlateColor", Record(record::kColor)),
-         OF_VEHICLE(szName, "Name", Text),
-         OF_VEHICLE(emSex, "Sex", Names(kOwnerSexes)).Only(OnlyType::String),
-         OF_VEHICLE(emCertificateType, "CertificateType", Names(kOwnerCertificates)).Only(OnlyType::String),
-         OF_VEHICLE(szID, "ID", Text),
-         OF_VEHICLE(szCountry, "Country", Text),
-         OF_VEHICLE(szProvince, "Province", Text),
-         OF_VEHICLE(szCity, "City", Text),
-         OF_VEHICLE(szHomeAddress, "HomeAddress", Text),
-         OF_VEHICLE(szEmail, "Email", Text),
-         OF_VEHICLE(szPhoneNo, "PhoneNo", Text),
+         EV_OF_VEHICLE(dwUID, "UID", UInt),
+         EV_OF_VEHICLE(szGroupID, "GroupID", Text),
+         EV_OF_VEHICLE(szGroupName, "GroupName", Text),
+         EV_OF_VEHICLE(szPlateNumber, "PlateNumber", Text),
+         EV_OF_VEHICLE(szPlateCountry, "PlateCountry", Text),
+         EV_OF_VEHICLE(dwPlateType, "PlateType", UInt),
+         EV_OF_VEHICLE(dwType, "Type", UInt),
+         EV_OF_VEHICLE(dwBrand, "Brand", UInt),
+         EV_OF_VEHICLE(dwSerie, "Serie", UInt),
+         EV_OF_VEHICLE(dwCarSeriesModelYearIndex, "CarSeriesModelYearIndex", UInt),
+         EV_OF_VEHICLE(stuVehicleColor, "VehicleColor", Record(record::kColor)),
+         EV_OF_VEHICLE(stuPlateColor, "PlateColor", Record(record::kColor)),
+         EV_OF_VEHICLE(szName, "Name", Text),
+         EV_OF_VEHICLE(emSex, "Sex", Names(kOwnerSexes)).Only(OnlyType::String),
+         EV_OF_VEHICLE(emCertificateType, "CertificateType", Names(kOwnerCertificates)).Only(OnlyType::String),
+         EV_OF_VEHICLE(szID, "ID", Text),
+         EV_OF_VEHICLE(szCountry, "Country", Text),
+         EV_OF_VEHICLE(szProvince, "Province", Text),
+         EV_OF_VEHICLE(szCity, "City", Text),
+         EV_OF_VEHICLE(szHomeAddress, "HomeAddress", Text),
+         EV_OF_VEHICLE(szEmail, "Email", Text),
+         EV_OF_VEHICLE(szPhoneNo, "PhoneNo", Text),
      });
 
 } // namespace
 
 TABLE(kXRayDetection, DEV_EVENT_XRAYDETECTION_INFO,
       {
-          HEAD_A,
-          EVENT_CLASS_OR_TRAFFIC,
-          FIELD(nPacketGrade, "Packet/Grade", GRADE).Absent(-1),
+          EV_HEAD_A,
+          EV_CLASS_OR_TRAFFIC,
+          FIELD(nPacketGrade, "Packet/Grade", EV_GRADE).Absent(-1),
           FIELD(nInsideNum),
           FIELD(stuInside, "Inside", Record(kInside)).Count(AT(nInsideNum)),
       });
 
 TABLE(kVehicleRecognition, DEV_EVENT_VEHICLERECOGNITION_INFO,
       {
-          RULE_NAME,
-          TIME_STAMP,
-          UTC,
-          EVENT_ID,
-          OF_VEHICLE(emAction, "Action", Names(kVehicleActions)),
-          OBJECT,
-          VEHICLE,
-          OF_VEHICLE(stuMainSeat, "MainSeat", Record(kVehicleSeat)),
-          OF_VEHICLE(stuSlaveSeat, "SlaveSeat", Record(kVehicleSeat)),
-          OF_VEHICLE(stuMainFace, "MainFace", Record(record::kRect)),
-          OF_VEHICLE(stuSlaveFace, "SlaveFace", Record(record::kRect)),
+          EV_RULE_NAME,
+          EV_TIME_STAMP,
+          EV_UTC,
+          EV_ID,
+          EV_OF_VEHICLE(emAction, "Action", Names(kVehicleActions)),
+          EV_OBJECT,
+          EV_VEHICLE,
+          EV_OF_VEHICLE(stuMainSeat, "MainSeat", Record(kVehicleSeat)),
+          EV_OF_VEHICLE(stuSlaveSeat, "SlaveSeat", Record(kVehicleSeat)),
+          EV_OF_VEHICLE(stuMainFace, "MainFace", Record(record::kRect)),
+          EV_OF_VEHICLE(stuSlaveFace, "SlaveFace", Record(record::kRect)),
           FIELD(nVehicleAttachNum),
-          OF_VEHICLE(stuVehicleAttach, "VehicleAttachs", Record(kVehicleAttach)).Count(AT(nVehicleAttachNum)),
+          EV_OF_VEHICLE(stuVehicleAttach, "VehicleAttachs", Record(kVehicleAttach)).Count(AT(nVehicleAttachNum)),
           FIELD(szCountry, "Object/Country", Text),
           FIELD(nCandidateNum),
           FIELD(stuCandidates, "CarCandidate", Record(kCarCandidate)).Count(AT(nCandidateNum)),
-          COMM_INFO,
+          EV_COMM_INFO,
       });
 
 } // namespace orrery::events

@@ -35,7 +35,7 @@ constexpr CustomCodec kOpenMethod{ReadOpenMethod};
 
 // The numbers that identity cards use, in the order of the codes.
 static_assert(EVENT_SEX_MALE == 1 && EVENT_SEX_FEMALE == 2 && EVENT_SEX_UNTOLD == 3 && EVENT_SEX_UNKNOWN == 0);
-#define SEX FIELD(emSex, "Sex", PlaceIn<EVENT_SEX_MALE, 1, 2, 9>).Only(OnlyType::Integer)
+#define EV_SEX FIELD(emSex, "Sex", PlaceIn<EVENT_SEX_MALE, 1, 2, 9>).Only(OnlyType::Integer)
 
 // A card that never expires says so instead of a date.
 void ReadLongTerm(const Field& field, const Value& value, std::byte* record, ReadCall&) {
@@ -66,10 +66,10 @@ PART(kCitizenImage, EVENT_CITIZEN_IMAGE,
 
 TABLE(kAccessControl, DEV_EVENT_ACCESSCONTROL_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
           FIELD(nChannelID, "Index", Int).FromRoot().Alias(),
-          OBJECT,
-          FILE_INFO,
+          EV_OBJECT,
+          EV_FILE_INFO,
           FIELD(emEventType, "Type", Names(kPassages)),
           FIELD(bStatus, "Status", Bool).Absent(1),
           FIELD(emCardType, "CardType", Custom(kCardType)).Absent(EVENT_ACCESS_CARD_UNKNOWN),
@@ -82,8 +82,8 @@ TABLE(kAccessControl, DEV_EVENT_ACCESSCONTROL_INFO,
           FIELD(nErrorCode, "ErrorCode", Int),
           FIELD(nRecNo, "RecNo", Int),
           FIELD(nNumbers, "Numbers", Int),
-          REPEAT,
-          FLAG_MASK,
+          EV_REPEAT,
+          EV_FLAG_MASK,
           FIELD(nAttendanceState, "AttendanceState", Int),
           FIELD(szClassNumber, "ClassNumber", Text).Only(OnlyType::String),
           FIELD(szPhoneNumber, "PhoneNumber", Text).Only(OnlyType::String),
@@ -93,17 +93,17 @@ TABLE(kAccessControl, DEV_EVENT_ACCESSCONTROL_INFO,
 
 TABLE(kInstallCardReader, DEV_EVENT_INSTALLCARDREADER_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
       });
 
 TABLE(kCitizenIDCard, DEV_EVENT_CITIZENIDCARD_INFO,
       {
-          HEAD_C,
+          EV_HEAD_C,
           FIELD(nGroupID, "GroupID", Int).Only(OnlyType::Integer),
           FIELD(nCountInGroup, "CountInGroup", Int).Only(OnlyType::Integer),
           FIELD(nIndexInGroup, "IndexInGroup", Int).Only(OnlyType::Integer),
           FIELD(szCitizen, "Citizen", Text),
-          SEX,
+          EV_SEX,
           FIELD(nEthnicity, "Ethnicity", Int),
           FIELD(stuBirth, "Birth", Date),
           FIELD(szAddress, "Address", Text),
@@ -116,15 +116,15 @@ TABLE(kCitizenIDCard, DEV_EVENT_CITIZENIDCARD_INFO,
 
 TABLE(kCitizenPictureCompare, DEV_EVENT_CITIZENPICTURECOMPARE_INFO,
       {
-          CHANNEL,
-          ACTION,
-          TIME_STAMP,
-          RULE_NAME,
-          UTC,
+          EV_CHANNEL,
+          EV_ACTION,
+          EV_TIME_STAMP,
+          EV_RULE_NAME,
+          EV_UTC,
           FIELD(byCompareResult, "CompareResult", Int),
           FIELD(bySimilarity, "Similarity", Int),
           FIELD(byThreshold, "Threshold", Int),
-          SEX,
+          EV_SEX,
           FIELD(dwEthnicity, "Ethnicity", UInt),
           FIELD(szCitizen, "Citizen", Text),
           FIELD(szAddress, "Address", Text),
@@ -135,13 +135,13 @@ TABLE(kCitizenPictureCompare, DEV_EVENT_CITIZENPICTURECOMPARE_INFO,
           FIELD(stuEnd, "End", NetTime),
           FIELD(bLongTerm, "End", Custom(kLongTerm)),
           FIELD(stuImage, "ImageInfo", Record(kCitizenImage)).AtLeast(2),
-          EXTENSION,
+          EV_EXTENSION,
       });
 
 TABLE(kNetPlayCheck, DEV_EVENT_NETPLAYCHECK_INFO,
       {
-          HEAD_C,
-          FILE_TIME,
+          EV_HEAD_C,
+          EV_FILE_TIME,
           FIELD(szIC, "IC", Text),
           FIELD(szNetBarName, "NetBarName", Text),
           FIELD(szNetBarID, "NetBarID", Text),
@@ -150,7 +150,7 @@ TABLE(kNetPlayCheck, DEV_EVENT_NETPLAYCHECK_INFO,
 
 TABLE(kRFIDInfo, DEV_EVENT_RFIDINFO_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
           FIELD(nState),
           FIELD(nRFIDNum),
           FIELD(szRFID, "RFID", Text).Count(AT(nRFIDNum)),
@@ -159,14 +159,14 @@ TABLE(kRFIDInfo, DEV_EVENT_RFIDINFO_INFO,
 
 TABLE(kShootingScoreRecognition, DEV_EVENT_SHOOTINGSCORERECOGNITION_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
-          ACTION,
+          EV_HEAD_A,
+          EV_FILE_INFO,
+          EV_ACTION,
           FIELD(stuDetectRegion, "DetectRegion", Record(kEventPoint)).AtLeast(2),
           FIELD(nBulletHolesNum),
           FIELD(stuBulletHoles, "BulletHoles", Record(kBulletHole)).Count(AT(nBulletHolesNum)),
-          REPEAT,
-          FLAG_MASK,
+          EV_REPEAT,
+          EV_FLAG_MASK,
       });
 
 } // namespace orrery::events

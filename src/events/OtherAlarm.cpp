@@ -101,68 +101,68 @@ PART(kLinkSource, EVENT_LINK_SOURCE_INFO,
 
 TABLE(kVideoMotion, DEV_EVENT_VIDEOMOTION_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
-          COMM_INFO,
+          EV_HEAD_A,
+          EV_FILE_INFO,
+          EV_COMM_INFO,
       });
 TABLE(kAlarmLocal, DEV_EVENT_ALARMLOCAL_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
-          COMM_INFO,
+          EV_HEAD_A,
+          EV_FILE_INFO,
+          EV_COMM_INFO,
       });
 TABLE(kMultiSceneSwitch, DEV_EVENT_MULTISCENESWITCH_INFO,
       {
-          HEAD_A,
-          ACTION,
+          EV_HEAD_A,
+          EV_ACTION,
       });
 
 TABLE(kAnalogAlarm, DEV_EVENT_ANALOGALARM_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
+          EV_HEAD_A,
+          EV_FILE_INFO,
           FIELD(nIndex, "Index", Int).FromRoot(),
           FIELD(emSenseMethod, "SenseMethod", Names(kSensors)),
           FIELD(emStatus, "status", Names(kAnalogStatuses)).Absent(EVENT_ANALOG_UNKNOWN),
           FIELD(dValue, "value", Real),
           FIELD(stuTime, "time", UtcTime),
-          FLAG_MASK,
-          ACTION,
+          EV_FLAG_MASK,
+          EV_ACTION,
       });
 
 TABLE(kVideoBlind, DEV_EVENT_VIDEOBLIND_INFO,
       {
-          HEAD_A,
-          FILE_TIME,
+          EV_HEAD_A,
+          EV_FILE_TIME,
       });
 TABLE(kSnapByTime, DEV_EVENT_SNAPBYTIME_INFO,
       {
-          HEAD_A,
-          FILE_TIME,
+          EV_HEAD_A,
+          EV_FILE_TIME,
       });
 TABLE(kSnapManual, DEV_EVENT_SNAPMANUAL_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
-          REPEAT,
-          FLAG_MASK,
+          EV_HEAD_A,
+          EV_FILE_INFO,
+          EV_REPEAT,
+          EV_FLAG_MASK,
       });
 
 TABLE(kVideoStatic, DEV_EVENT_VIDEOSTATIC_INFO,
       {
-          HEAD_C,
+          EV_HEAD_C,
           FIELD(emMode, "Mode", Names(kSceneModes)),
-          ACTION,
+          EV_ACTION,
       });
 TABLE(kVideoTiming, DEV_EVENT_VIDEOTIMING_INFO,
       {
-          HEAD_C,
-          ACTION,
+          EV_HEAD_C,
+          EV_ACTION,
       });
 
 TABLE(kPicInfo, DEV_EVENT_PICINFO_INFO,
       {
-          HEAD_C,
+          EV_HEAD_C,
           FIELD(stuTime, "Time", NetTimeEx),
           FIELD(nType, "Type", Custom(kEventName)),
           FIELD(nSpeed, "Speed", Int),
@@ -178,7 +178,7 @@ TABLE(kPicInfo, DEV_EVENT_PICINFO_INFO,
 // The preset's name, unlike a rule's, always ends in a terminator.
 TABLE(kPtzPreset, DEV_EVENT_PTZPRESET_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
           FIELD(szName, "Name", Text).Alias(),
           FIELD(fPosition, "Position", Real).AtLeast(3),
           FIELD(nPresetID, "PresetID", Int),
@@ -186,19 +186,19 @@ TABLE(kPtzPreset, DEV_EVENT_PTZPRESET_INFO,
 
 TABLE(kSceneChange, DEV_EVENT_SCENECHANGE_INFO,
       {
-          CHANNEL,
-          ACTION,
-          TIME_STAMP,
-          UTC,
-          EVENT_ID,
-          FILE_INFO,
-          REPEAT,
-          FLAG_MASK,
+          EV_CHANNEL,
+          EV_ACTION,
+          EV_TIME_STAMP,
+          EV_UTC,
+          EV_ID,
+          EV_FILE_INFO,
+          EV_REPEAT,
+          EV_FLAG_MASK,
       });
 
 TABLE(kLinkSD, DEV_EVENT_LINKSD_INFO,
       {
-          HEAD_C,
+          EV_HEAD_C,
           FIELD(pSrcInfo, "SrcInfo", OwnedRecord(kLinkSource)),
           FIELD(stuStartTime, "StartTime", NetTimeEx),
           FIELD(stuEndTime, "EndTime", NetTimeEx),
@@ -207,7 +207,7 @@ TABLE(kLinkSD, DEV_EVENT_LINKSD_INFO,
 
 TABLE(kPassChange, DEV_EVENT_PASSCHANGE_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
           FIELD(nPresetID, "PresetID", Int),
           FIELD(nGroupID, "GroupID", Int),
           FIELD(nCountInGroup, "CountInGroup", Int),

@@ -56,6 +56,6 @@ extern const TypedTable<DEV_EVENT_INSTALLCARDREADER_INFO> kInstallCardReader;
 
 } // namespace orrery::events
 
-#define GPS_STATUS FIELD(stuGPSStatus, "GPS", Record(::orrery::events::kGpsStatus))
+#define EV_GPS_STATUS FIELD(stuGPSStatus, "GPS", Record(::orrery::events::kGpsStatus))
 // Where and when the file of the notification was made.
-#define FILE_TIME ORRERY_FROM_EVENT(stuFileTime, stuFileInfo.stuFileTime)
+#define EV_FILE_TIME ORRERY_FROM_EVENT(stuFileTime, stuFileInfo.stuFileTime)

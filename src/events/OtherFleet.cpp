@@ -32,109 +32,109 @@ NAMES(kFuels, kFolded,
 
 TABLE(kVehicleACC, DEV_EVENT_VEHICLEACC_INFO,
       {
-          HEAD_A,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_GPS_STATUS,
           FIELD(emACCStatus, "Status", Names(kSupplies)),
-          ACTION,
+          EV_ACTION,
           FIELD(emConstantElectric, "ConstantElectricStatus", Names(kSupplies)),
       });
 
-#define ACCIDENT_ROWS HEAD_A, GPS_STATUS, FILE_INFO, ACTION_AND_REPEAT, FLAG_MASK, WIDTH, HEIGHT
+#define EV_ACCIDENT_ROWS EV_HEAD_A, EV_GPS_STATUS, EV_FILE_INFO, EV_ACTION_AND_REPEAT, EV_FLAG_MASK, EV_WIDTH, EV_HEIGHT
 TABLE(kVehicleTurnover, DEV_EVENT_VEHICLETURNOVER_INFO,
       {
-          ACCIDENT_ROWS,
+          EV_ACCIDENT_ROWS,
       });
 TABLE(kVehicleCollision, DEV_EVENT_VEHICLECOLLISION_INFO,
       {
-          ACCIDENT_ROWS,
+          EV_ACCIDENT_ROWS,
       });
-#undef ACCIDENT_ROWS
+#undef EV_ACCIDENT_ROWS
 
 TABLE(kAccOffSnap, DEV_EVENT_ACCOFFSNAP_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
       });
 TABLE(kBusSharpTurn, DEV_EVENT_BUSSHARPTURN_INFO,
       {
-          HEAD_A,
-          ACTION,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_ACTION,
+          EV_GPS_STATUS,
       });
 
 TABLE(kHighSpeed, DEV_EVENT_HIGHSPEED_INFO,
       {
-          CHANNEL,
+          EV_CHANNEL,
           ORRERY_SAME_FROM_EVENT(nAction),
-          UTC,
-          TIME_STAMP,
-          GPS_STATUS,
+          EV_UTC,
+          EV_TIME_STAMP,
+          EV_GPS_STATUS,
           FIELD(nSpeedLimit, "SpeedLimit", Int),
           FIELD(nCurSpeed, "CurSpeed", Int),
           FIELD(nMaxSpeed, "MaxSpeed", Int),
           FIELD(stuStartTime, "StartTime", NetTimeEx).Only(OnlyType::String),
       });
 
-#define FLEET_ROWS CHANNEL, UTC, ACTION, REPEAT, FLAG_MASK, RESOLUTION, COMM_INFO_ALONE
+#define EV_FLEET_ROWS EV_CHANNEL, EV_UTC, EV_ACTION, EV_REPEAT, EV_FLAG_MASK, EV_RESOLUTION, EV_COMM_INFO_ALONE
 TABLE(kNotClearCar, DEV_EVENT_NOTCLEARCAR_INFO,
       {
-          FLEET_ROWS,
+          EV_FLEET_ROWS,
       });
 TABLE(kSOSAlert, DEV_EVENT_SOSALERT_INFO,
       {
-          FLEET_ROWS,
+          EV_FLEET_ROWS,
       });
 TABLE(kOverLoad, DEV_EVENT_OVERLOAD_INFO,
       {
-          FLEET_ROWS,
+          EV_FLEET_ROWS,
       });
 TABLE(kNonWorkingTime, DEV_EVENT_NONWORKINGTIME_INFO,
       {
-          FLEET_ROWS,
+          EV_FLEET_ROWS,
       });
-#undef FLEET_ROWS
+#undef EV_FLEET_ROWS
 
 // ---- The driver --------------------------------------------------------------------------------------------------
 
 TABLE(kTiredPhysiological, DEV_EVENT_TIREDPHYSIOLOGICAL_INFO,
       {
-          HEAD_A,
-          ACTION,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_ACTION,
+          EV_GPS_STATUS,
       });
 TABLE(kTrafficDriverLowerHead, DEV_EVENT_TRAFFICDRIVERLOWERHEAD_INFO,
       {
-          HEAD_A,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_GPS_STATUS,
       });
 TABLE(kTrafficDriverLookAround, DEV_EVENT_TRAFFICDRIVERLOOKAROUND_INFO,
       {
-          HEAD_A,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_GPS_STATUS,
       });
 TABLE(kTrafficDriverLeavePost, DEV_EVENT_TRAFFICDRIVERLEAVEPOST_INFO,
       {
-          HEAD_A,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_GPS_STATUS,
       });
 TABLE(kTrafficDriverYawn, DEV_EVENT_TRAFFICDRIVERYAWN_INFO,
       {
-          HEAD_A,
-          GPS_STATUS,
+          EV_HEAD_A,
+          EV_GPS_STATUS,
       });
 
 TABLE(kDrivingWithoutCard, DEV_EVENT_DRIVINGWITHOUTCARD_INFO,
       {
-          CHANNEL,
-          ACTION,
-          TIME_STAMP,
-          UTC,
+          EV_CHANNEL,
+          EV_ACTION,
+          EV_TIME_STAMP,
+          EV_UTC,
       });
 
 // ---- Fuel, size, tag ---------------------------------------------------------------------------------------------
 
 TABLE(kTrafficFcc, DEV_EVENT_TRAFFICFCC_INFO,
       {
-          HEAD_A_WITH(FIELD(nTriggerID, "TriggerID", Int)),
+          EV_HEAD_A_WITH(FIELD(nTriggerID, "TriggerID", Int)),
           FIELD(dwNum, "Num", AnyInteger),
           FIELD(dwLitre, "Litre", AnyInteger),
           FIELD(emType, "Type", Names(kFuels)),
@@ -149,9 +149,9 @@ TABLE(kTrafficFcc, DEV_EVENT_TRAFFICFCC_INFO,
 
 TABLE(kTransfinite, DEV_EVENT_TRANSFINITE_INFO,
       {
-          HEAD_A,
-          FILE_INFO,
-          ACTION,
+          EV_HEAD_A,
+          EV_FILE_INFO,
+          EV_ACTION,
           FIELD(szText, "Text", Text),
           FIELD(szTime, "Time", Text),
           FIELD(dLong, "Long", Real),
@@ -159,20 +159,20 @@ TABLE(kTransfinite, DEV_EVENT_TRANSFINITE_INFO,
           FIELD(dHeight, "Height", Real),
           FIELD(szViolationCode, "ViolationCode", Text),
           FIELD(szDescribe, "Describe", Text),
-          REPEAT,
-          FLAG_MASK,
+          EV_REPEAT,
+          EV_FLAG_MASK,
       });
 
 TABLE(kOil4GFlowRate, DEV_EVENT_OIL4GFLOWRATE_INFO,
       {
-          HEAD_A,
+          EV_HEAD_A,
           FIELD(dwFlowRate, "FlowRate", UInt),
       });
 
 TABLE(kTrafficEleTagInfo, DEV_EVENT_TRAFFICELETAGINFO_INFO,
       {
-          HEAD_A,
-          ACTION,
+          EV_HEAD_A,
+          EV_ACTION,
           FIELD(stuRFIDTag, "RFIDEleTagInfo", Record(kRfidTag)),
           FIELD(nLinkChannelNum),
           FIELD(nLinkChannel, "LinkChannel", Int).Count(AT(nLinkChannelNum)),

@@ -286,7 +286,7 @@ void ReadSplitTime(std::string_view text, std::uint32_t (&fields)[6]) noexcept;
 
 } // namespace orrery::events
 
-#define CAR FIELD(stuTrafficCar, "TrafficCar", Record(::orrery::events::kTrafficCar))
-#define COMM_INFO FIELD(stuCommInfo, "CommInfo", Custom(::orrery::events::kCommInfoAndPaths)).Always()
-#define COMM_INFO_ALONE FIELD(stuCommInfo, "CommInfo", Record(::orrery::events::kCommInfo))
-#define EXTENSION FIELD(szEventLongID, "Extension/EventLongID", Text)
+#define EV_CAR FIELD(stuTrafficCar, "TrafficCar", Record(::orrery::events::kTrafficCar))
+#define EV_COMM_INFO FIELD(stuCommInfo, "CommInfo", Custom(::orrery::events::kCommInfoAndPaths)).Always()
+#define EV_COMM_INFO_ALONE FIELD(stuCommInfo, "CommInfo", Record(::orrery::events::kCommInfo))
+#define EV_EXTENSION FIELD(szEventLongID, "Extension/EventLongID", Text)

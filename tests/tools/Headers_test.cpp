@@ -9,12 +9,15 @@
 
 #include "orrery/orrery.h"
 
+#include "events/EventTable.h"
 #include "frame/Commands.h"
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
 #include <algorithm>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -146,6 +149,26 @@ TEST(Headers, QuoteEachMembersKey) {
     findings.erase(std::unique(findings.begin(), findings.end()), findings.end());
     for (const std::string& finding : findings)
         ADD_FAILURE() << finding;
+}
+
+// Events have constants of their own; each tells the event's name and record.
+TEST(Headers, NameEachEvent) {
+    std::ifstream file(std::string(ORRERY_SOURCE_DIR) + "/include/orrery/event_codes.h");
+    std::string text(std::istreambuf_iterator<char>(file), {});
+    std::map<std::uint32_t, std::string> told;
+    for (std::size_t at = 0; (at = text.find("ORRERY_EVENT_", at)) != std::string::npos; ++at) {
+        const std::size_t equals = text.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ_0123456789", at);
+        const std::size_t comment = text.find("/* ", at);
+        if (text.compare(equals, 2, " =") != 0) continue;
+        told[static_cast<std::uint32_t>(std::stoul(text.substr(equals + 2)))] =
+            text.substr(comment + 3, text.find("*/", comment) - comment - 1);
+    }
+    EXPECT_EQ(told.size(), events::Events().size());
+    for (const events::EventRow& event : events::Events()) {
+        const std::string& word = told[event.code];
+        EXPECT_TRUE(word.ends_with(": " + std::string(event.table->record) + " */")) << event.code << ": " << word;
+        EXPECT_TRUE(event.name.empty() || word.starts_with("\"" + std::string(event.name) + "\":")) << word;
+    }
 }
 
 TEST(Headers, AreOfTheProjectsVersion) {
