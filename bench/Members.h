@@ -5,7 +5,7 @@
 #include "bench/ByHand.h"
 #include "bench/Texts.h"
 
-#include "frame/Commands.h"
+#include "Commands.h"
 #include "support/CallerMemory.h"
 
 #include <cstddef>

@@ -1,11 +1,11 @@
-#include "frame/Commands.h"
+#include "Commands.h"
 
+#include "CommandWords.h"
 #include "alarm/AlarmCaps.h"
 #include "alarm/AlarmInput.h"
 #include "analyse/RuleFrame.h"
-#include "frame/GeneralSwitch.h"
-#include "frame/JsonParser.h"
-#include "frame/NameHash.h"
+#include "device/GeneralSwitch.h"
+#include "frame/CommandIndex.h"
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
@@ -15,76 +15,11 @@
 #include "network/Services.h"
 #include "network/Wlan.h"
 
-#include <array>
-
 namespace orrery {
 
 namespace {
 
-// Words of the rows below.
-constexpr ParseFrame kParse;
-constexpr PackFrame kPack;
-
-constexpr Command Generic(std::string_view name, const record::Table& table, TableFrame frame) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = command.pack = Command::Frame::Table;
-    command.tableFrame = frame;
-    return command;
-}
-
-constexpr Command Both(std::string_view name, const record::Table& table, ParseFrame parse, PackFrame pack) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = command.pack = Command::Frame::Family;
-    command.parseFrame = parse;
-    command.packFrame = pack;
-    return command;
-}
-
-constexpr Command Reply(std::string_view name, const record::Table& table, ParseFrame parse) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = Command::Frame::Family;
-    command.parseFrame = parse;
-    return command;
-}
-
-// A parse function of its own; the frame's words tell tools what it does.
-constexpr Command OwnParse(std::string_view name, const record::Table& table,
-                           Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
-    Command command = Both(name, table, like, pack);
-    command.parse = Command::Frame::Own;
-    command.ownParse = parse;
-    return command;
-}
-
-// A buffer of items, described by the caller's record: read by a function of its own and, where there is one, written.
-// The frame's words tell tools where the items stand.
-constexpr Command Own(std::string_view name, const record::Table& table, Outcome (*parse)(const ParseRequest&),
-                      Outcome (*pack)(const PackRequest&), ParseFrame like = kParse) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = Command::Frame::Own;
-    if (pack != nullptr) command.pack = Command::Frame::Own;
-    command.parseFrame = like;
-    command.ownParse = parse;
-    command.ownPack = pack;
-    return command;
-}
-
-// Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
-constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
-constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
-
-constexpr ParseFrame kCaps = kParse.From(Source::Caps);
-constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
-
-constexpr TableFrame kOneCleared{.zeroBuffer = true};
+using namespace words;
 
 constexpr Command kCommands[] = {
     // Switches
@@ -214,62 +149,7 @@ constexpr Command kCommands[] = {
     Own("IVSFramRule", kAnalyseRules, ParseFrameRules, nullptr, kParse.From(Source::Top, "VideoAnalyseRule")),
 };
 
-// ---- Look-up: an open-addressing index over the folded names, made when the library is compiled ----
-
-constexpr std::size_t kCommandCount = sizeof kCommands / sizeof kCommands[0];
-
-constexpr char Folded(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-constexpr bool SameFolded(std::string_view left, std::string_view right) {
-    if (left.size() != right.size()) return false;
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        if (Folded(left[i]) != Folded(right[i])) return false;
-    }
-    return true;
-}
-
-constexpr std::uint32_t Hash(std::string_view name) {
-    const std::string_view tail = name.size() < 8 ? name : name.substr(name.size() - 8);
-    return NameHash(record::FoldedPrefix(name), record::FoldedPrefix(tail), name.size());
-}
-// The same, eight bytes at a time.
-std::uint32_t HashNow(std::string_view name) noexcept {
-    if (name.size() < 8) return Hash(name);
-    return NameHash(FoldedWord(name.data()), FoldedWord(name.data() + name.size() - 8), name.size());
-}
-
-constexpr std::size_t SlotCount() {
-    std::size_t slots = 1;
-    while (slots < 2 * kCommandCount)
-        slots *= 2;
-    return slots;
-}
-
-constexpr std::uint16_t kFree = 0xffff;
-
-constexpr auto kIndex = [] {
-    std::array<std::uint16_t, SlotCount()> index{};
-    index.fill(kFree);
-    for (std::uint16_t i = 0; i < kCommandCount; ++i) {
-        std::size_t slot = Hash(kCommands[i].name) % index.size();
-        while (index[slot] != kFree)
-            slot = (slot + 1) % index.size();
-        index[slot] = i;
-    }
-    return index;
-}();
-
-constexpr bool NamesDiffer() {
-    for (std::size_t i = 0; i < kCommandCount; ++i) {
-        for (std::size_t k = i + 1; k < kCommandCount; ++k) {
-            if (SameFolded(kCommands[i].name, kCommands[k].name)) return false;
-        }
-    }
-    return true;
-}
-static_assert(NamesDiffer(), "a command stands in the table once");
+constexpr CommandIndex kIndex(kCommands);
 
 } // namespace
 
@@ -278,45 +158,7 @@ std::span<const Command> Commands() noexcept {
 }
 
 const Command* FindCommand(std::string_view name) noexcept {
-    for (std::size_t slot = HashNow(name) % kIndex.size(); kIndex[slot] != kFree; slot = (slot + 1) % kIndex.size()) {
-        const Command& command = kCommands[kIndex[slot]];
-        if (EqualsFolded(command.name, name)) return &command;
-    }
-    return nullptr;
-}
-
-const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
-    return &descriptor == &kAnalyseRules ? &kRuleItems : nullptr;
-}
-
-Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
-    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
-    switch (command.parse) {
-    case Command::Frame::None:
-        break;
-    case Command::Frame::Table:
-        return ParseTableFrame(*command.table, command.tableFrame, request);
-    case Command::Frame::Family:
-        return ParseFamily(*command.table, command.parseFrame, request);
-    case Command::Frame::Own:
-        return command.ownParse(request);
-    }
-    return Outcome::UnknownCommand;
-}
-
-Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
-    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
-    switch (command.pack) {
-    case Command::Frame::None:
-        break;
-    case Command::Frame::Table:
-        return PacketTableFrame(*command.table, command.tableFrame, request);
-    case Command::Frame::Family:
-        return PacketFamily(*command.table, command.packFrame, request);
-    case Command::Frame::Own:
-        return command.ownPack(request);
-    }
-    return Outcome::UnknownCommand;
+    return kIndex.Find(name);
 }
 
 } // namespace orrery

@@ -1,6 +1,6 @@
 // The exported translation functions: argument tests, and on to the command table.
+#include "Commands.h"
 #include "events/ReqRealPicture.h"
-#include "frame/Commands.h"
 
 #include "orrery/orrery.h"
 

@@ -5,8 +5,8 @@
 #include "analyse/RuleClasses.h"
 #include "analyse/RuleParts.h"
 #include "frame/Deliver.h"
-#include "frame/Document.h"
 #include "frame/Log.h"
+#include "frame/ReplySteps.h"
 
 #include <algorithm>
 #include <array>
@@ -28,13 +28,6 @@ TABLE(kRuleInfo, CFG_RULE_INFO,
           FIELD(nRuleSize),
           FIELD(stuRuleGeneral, nullptr, Record(kRuleGeneral)),
       });
-TABLE(kAnalyseRules, CFG_ANALYSERULES_INFO,
-      {
-          FIELD(nRuleCount),
-          FIELD(pRuleBuf).PointsTo(kRuleInfo),
-          FIELD(nRuleLen),
-      });
-
 namespace {
 
 ItemType TypeOf(const RuleBody& body) noexcept {
@@ -67,6 +60,14 @@ constexpr PackedItems kRuleItems{
     .typeAt = TypeAt,
     .typeOf = TypeOfCode,
 };
+
+TABLE(kAnalyseRules, CFG_ANALYSERULES_INFO,
+      {
+          FIELD(nRuleCount),
+          FIELD(pRuleBuf).PointsTo(kRuleInfo),
+          FIELD(nRuleLen),
+      })
+    .Describes(kRuleItems);
 
 namespace {
 
@@ -134,8 +135,7 @@ CFG_ANALYSERULES_INFO LoadRules(const void* record) noexcept {
     return Load<CFG_ANALYSERULES_INFO>(static_cast<const std::byte*>(record));
 }
 
-template <class Find>
-Outcome ParseRules(const ParseRequest& request, Find find) noexcept {
+Outcome ParseRules(const ParseRequest& request, Source source, const char* name) noexcept {
     if (request.bufferSize < sizeof(CFG_ANALYSERULES_INFO)) return Outcome::BufferTooSmall;
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
@@ -143,7 +143,7 @@ Outcome ParseRules(const ParseRequest& request, Find find) noexcept {
     // The caller's descriptor keeps its count until all is read.
     CFG_ANALYSERULES_INFO rules = LoadRules(record);
     ReadCall call{document.parser, document.root};
-    const Outcome outcome = ReadRuleArray(find(document.root), rules, call);
+    const Outcome outcome = ReadRuleArray(FindValue(source, name, document.root), rules, call);
     if (outcome != Outcome::Done) return outcome;
     if (document.arena.failed()) return Outcome::OutOfMemory;
     SET_MEMBER(record, CFG_ANALYSERULES_INFO, nRuleCount, rules.nRuleCount);
@@ -236,24 +236,21 @@ Outcome WriteRuleArray(const CFG_ANALYSERULES_INFO& rules, WriteCall& call) noex
 }
 
 Outcome ParseAnalyseRules(const ParseRequest& request) noexcept {
-    return ParseRules(request, [](const Value& root) -> const Value& { return root["params"]["table"]; });
+    return ParseRules(request, Source::Table, "");
 }
 
 Outcome ParseFrameRules(const ParseRequest& request) noexcept {
-    return ParseRules(request, [](const Value& root) -> const Value& { return root["VideoAnalyseRule"]; });
+    return ParseRules(request, Source::Top, "VideoAnalyseRule");
 }
 
 Outcome PackAnalyseRules(const PackRequest& request) noexcept {
     if (request.recordSize < sizeof(CFG_ANALYSERULES_INFO)) return Outcome::RecordTooSmall;
     const CFG_ANALYSERULES_INFO rules = LoadRules(request.record);
     const auto write = [&](json::TextWriter& out) {
-        StackArena<std::size_t{4} << 10> arena;
-        LocalText text(arena);
-        JsonParser parser(text);
-        WriteCall call{parser, out, nullptr, false, {}};
-        const Outcome outcome = WriteRuleArray(rules, call);
-        out.EndText();
-        return outcome == Outcome::Done && arena.failed() ? Outcome::OutOfMemory : outcome;
+        WrittenText written(out);
+        const Outcome outcome = WriteRuleArray(rules, written.call);
+        const Outcome ended = written.End();
+        return outcome == Outcome::Done ? ended : outcome;
     };
     const Outcome outcome = DeliverText(write, Capacity::Loose, request);
     if (outcome != Outcome::Done || rules.nRuleCount == 0) return outcome;

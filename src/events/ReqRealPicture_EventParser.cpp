@@ -45,6 +45,16 @@ void CReqRealPicture::parseAlarmEvent(const Value& events, Circumstances& around
         parseOne(event, around, common);
 }
 
+namespace {
+
+void LogMissingBlock(const record::Field& field) noexcept {
+    if (field.failure == nullptr) return;
+    LogSetPosition("Events", 0, E_LOG_LEVEL_ERROR);
+    LogTrace(E_LOG_CODE_NONE, "%s", field.failure);
+}
+
+} // namespace
+
 void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventCall& common) noexcept {
     const std::uint32_t code = CodeOf(event);
     const EventRow* row = events::FindEvent(code);
@@ -78,6 +88,7 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     if (row->reading != nullptr) ORRERY_EVENT_DETAIL("%s", row->reading);
     if (row->readingCar != nullptr && !data["TrafficCar"].isNull()) ORRERY_EVENT_DETAIL("%s", row->readingCar);
     record::ReadCall call{parser_, event};
+    call.noMemory = LogMissingBlock;
     call.context = &common;
     common.event = &event;
     record::ReadRecord(*row->table, data, record, call);

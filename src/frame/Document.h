@@ -1,4 +1,4 @@
-// Everything that one reading call needs besides the caller's buffers.
+// Everything that one call needs besides the caller's buffers: a document that is read, or a text that is written.
 #pragma once
 
 #include "frame/Arena.h"
@@ -6,6 +6,7 @@
 #include "frame/JsonParser.h"
 #include "frame/LocalText.h"
 #include "frame/json/Reader.h"
+#include "frame/record/Engine.h"
 
 namespace orrery {
 
@@ -19,6 +20,23 @@ struct Document {
     Outcome Parse(const char* source) noexcept {
         if (json::Parse(std::string_view(source), arena, root)) return Outcome::Done;
         return arena.failed() ? Outcome::OutOfMemory : Outcome::NoJson;
+    }
+};
+
+// One pass over a text on its way out.
+struct WrittenText {
+    StackArena<std::size_t{4} << 10> arena;
+    LocalText text{arena};
+    JsonParser parser{text};
+    record::WriteCall call;
+
+    explicit WrittenText(json::TextWriter& out) noexcept : call{parser, out, nullptr, false, {}} {}
+
+    // Ends the text. It is no good when memory ran out or a row's function refused.
+    Outcome End() noexcept {
+        call.out.EndText();
+        if (arena.failed()) return Outcome::OutOfMemory;
+        return call.refused ? Outcome::RowRefused : Outcome::Done;
     }
 };
 

@@ -1,9 +1,7 @@
 #include "frame/Frames.h"
 
-#include "frame/Arena.h"
 #include "frame/Deliver.h"
-#include "frame/JsonParser.h"
-#include "frame/LocalText.h"
+#include "frame/Document.h"
 #include "frame/Platform/Versioned.h"
 #include "frame/record/Engine.h"
 
@@ -58,10 +56,8 @@ void WriteMembers(const Content& content, WriteCall& call) noexcept {
 
 // Writes the whole text; fails when memory ran out or a row's function refused.
 Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
-    StackArena<std::size_t{4} << 10> arena;
-    LocalText text(arena);
-    JsonParser parser(text);
-    WriteCall call{parser, out, nullptr, false, {}};
+    WrittenText written(out);
+    WriteCall& call = written.call;
     OpenObject root;
     if (!content.quotedKey.empty()) {
         call.object = &root;
@@ -85,9 +81,7 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
         break;
     }
     if (root.opened) out.EndObject();
-    out.EndText();
-    if (arena.failed()) return Outcome::OutOfMemory;
-    return call.refused ? Outcome::RowRefused : Outcome::Done;
+    return written.End();
 }
 
 // Writes into the caller's buffer only what fits; a failure leaves it alone.

@@ -34,6 +34,8 @@ struct PackedItems {
 };
 
 // What stands behind a descriptor; null for a record that is none.
-const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept;
+inline const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
+    return descriptor.items;
+}
 
 } // namespace orrery

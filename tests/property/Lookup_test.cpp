@@ -1,5 +1,5 @@
 // Commands are found by their names, whatever the case of their letters, and by nothing else.
-#include "frame/Commands.h"
+#include "Commands.h"
 
 #include "orrery/orrery.h"
 

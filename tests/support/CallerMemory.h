@@ -1,7 +1,7 @@
 // What a caller prepares before a call: size words, and memory behind the pointers of a record.
 #pragma once
 
-#include "frame/Commands.h"
+#include "Commands.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Calls of a command in memory that ends at an unreadable page, with what every call promises about its buffers.
 #pragma once
 
-#include "frame/Commands.h"
+#include "Commands.h"
 #include "support/CallerMemory.h"
 #include "support/GuardedBuffer.h"
 

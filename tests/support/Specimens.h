@@ -2,7 +2,7 @@
 // tables and frames which no command uses yet.
 #pragma once
 
-#include "frame/Commands.h"
+#include "Commands.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 // sweeps the command table needs no sample of any command.
 #pragma once
 
-#include "frame/Commands.h"
+#include "Commands.h"
 #include "support/JsonTree.h"
 
 #include <cstdint>

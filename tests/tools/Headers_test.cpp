@@ -9,8 +9,8 @@
 
 #include "orrery/orrery.h"
 
+#include "Commands.h"
 #include "events/EventTable.h"
-#include "frame/Commands.h"
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 

@@ -1,7 +1,7 @@
 // Whole translations as the companion runs them, and what it says of those that the library refuses.
 #include "orrery/Run.h"
 
-#include "frame/Commands.h"
+#include "Commands.h"
 #include "frame/record/Engine.h"
 #include "support/JsonText.h"
 

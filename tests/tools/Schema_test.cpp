@@ -2,8 +2,8 @@
 #include "orrery/Documents.h"
 #include "tools/DebugInfo.h"
 
+#include "Commands.h"
 #include "events/EventTable.h"
-#include "frame/Commands.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // Why the library answered 0: the outcome of a call, put into words with a look of the companion's own at the text.
 #pragma once
 
+#include "Commands.h"
 #include "frame/Arena.h"
-#include "frame/Commands.h"
 #include "frame/json/Reader.h"
 
 #include <string>

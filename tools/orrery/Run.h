@@ -1,7 +1,7 @@
 // The two translations as the companion runs them: everything is done before anything is printed.
 #pragma once
 
-#include "frame/Commands.h"
+#include "Commands.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "orrery/Tables.h"
 
+#include "Commands.h"
 #include "events/EventTable.h"
-#include "frame/Commands.h"
 #include "frame/JsonParser.h"
 #include "frame/PackedItems.h"
 

@@ -1,7 +1,7 @@
 // The tables' vocabulary as words: short ones for machines and reviews, sentences for people.
 #pragma once
 
-#include "frame/Commands.h"
+#include "Commands.h"
 #include "frame/record/Table.h"
 
 #include <string>

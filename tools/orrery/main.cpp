@@ -6,8 +6,8 @@
 #include "orrery/Suggest.h"
 #include "orrery/Tables.h"
 
+#include "Commands.h"
 #include "events/EventTable.h"
-#include "frame/Commands.h"
 
 #include <CLI/CLI.hpp>
 

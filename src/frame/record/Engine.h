@@ -7,6 +7,7 @@
 #include "frame/record/Table.h"
 
 #include <cstring>
+#include <span>
 
 namespace orrery::record {
 
@@ -17,6 +18,7 @@ struct ReadCall {
     bool refused = false;          // a row's function ends the call with 0
     std::uint32_t index = 0;       // of the caller's record that is being read
     const void* context = nullptr; // what Supplied fields are copied from, of the type that their rows name
+    void (*noMemory)(const Field& field) noexcept = nullptr; // told of an owned block that there was no memory for
 };
 
 // An object on the way out. It is opened by its first key, so that an object without keys leaves no trace.
@@ -109,6 +111,15 @@ void ReadField(const Field& field, const json::Value& value, std::byte* record, 
 void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept;
 // Writes records as one object, each under its member name, in the order of the names. Of equal names the last stands.
 void WriteByName(const Table& table, const RecordList& records, WriteCall& call) noexcept;
+// Records that stand under their names, in UTF-8.
+struct NamedRecord {
+    std::string_view name;
+    std::uint32_t index;
+};
+// What is written of records, in the order of their names; of equal names the last. A name becomes at most `growth`
+// halves of its length. Empty when memory ran out: the arena tells.
+std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& records, std::size_t growth,
+                                          LocalText& text) noexcept;
 // Writes the record's keys into the object that is open in `call`.
 void WriteFields(const Table& table, const std::byte* record, WriteCall& call) noexcept;
 // False for a record that its table does not let out.

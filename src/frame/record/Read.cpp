@@ -1,7 +1,5 @@
 #include "frame/record/Engine.h"
 
-#include "frame/Log.h"
-
 #include <algorithm>
 
 namespace orrery::record {
@@ -222,10 +220,7 @@ void MakeOwnedBlock(const Field& field, const Value& value, std::byte* record, R
     std::byte* block = nullptr;
     if (count > 0) {
         block = static_cast<std::byte*>(call.parser.text().arena().Allocate(std::size_t{count} * size));
-        if (block == nullptr && field.failure != nullptr) {
-            LogSetPosition("Events", 0, E_LOG_LEVEL_ERROR);
-            LogTrace(E_LOG_CODE_NONE, "%s", field.failure);
-        }
+        if (block == nullptr && call.noMemory != nullptr) call.noMemory(field);
     }
     if (block != nullptr) std::memset(block, 0, std::size_t{count} * size);
     Store(record + field.offset, block);

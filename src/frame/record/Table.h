@@ -18,6 +18,10 @@
 #include <cstdint>
 #include <string_view>
 
+namespace orrery {
+struct PackedItems;
+}
+
 namespace orrery::record {
 
 // Rows whose words say nothing of a direction go a short way in it: what it needs of them stands in the node, and the
@@ -123,6 +127,8 @@ struct Table {
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
+    const PackedItems* items = nullptr; // what stands behind a descriptor's pointer to bytes; for tools and tests
+
     std::string_view keyOf(const Node& node) const { return {keyTexts + node.quotedAt + 1, node.keySize}; }
     std::string_view quotedKeyOf(const Node& node) const {
         return {keyTexts + node.quotedAt, node.keySize + std::size_t{5}}; // the quotes and the colon
@@ -151,6 +157,8 @@ struct TypedTable : Table {
     constexpr TypedTable Writes(bool (*test)(const std::byte* record)) const {
         return With(*this, &TypedTable::writes, test);
     }
+    // What the record's pointer to bytes leads to.
+    constexpr TypedTable Describes(const PackedItems& what) const { return With(*this, &TypedTable::items, &what); }
     // Runs once the rows have been read, for what depends on several of them.
     constexpr TypedTable AfterRead(void (*function)(const json::Value&, std::byte*, ReadCall&)) const {
         return With(*this, &TypedTable::afterRead, function);

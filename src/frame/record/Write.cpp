@@ -204,14 +204,8 @@ std::string_view Copied(std::string_view text, Arena& arena) noexcept {
     return {room, text.size()};
 }
 
-// Records that stand under their names.
-struct NamedRecord {
-    std::string_view name;
-    std::uint32_t index;
-};
+} // namespace
 
-// What is written of an array of such records, in the order of their names; of equal names the last. A name becomes at
-// most `growth` halves of its length. Empty when memory ran out: the arena tells.
 std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& records, std::size_t growth,
                                           LocalText& text) noexcept {
     NamedRecord* const entries = text.arena().Array<NamedRecord>(records.count);
@@ -234,6 +228,8 @@ std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& 
     }
     return {entries, unique};
 }
+
+namespace {
 
 constexpr std::size_t kGrowthOfTexts = 3;   // as for every other text on its way out
 constexpr std::size_t kGrowthAmongKeys = 4; // twice its length: a name must not lose its end

@@ -1,6 +1,6 @@
 // Which words of the frames a command has, by its name: what the sweeps over the command table take from its rows is
 // told here once more, from the commands' side.
-#include "frame/Commands.h"
+#include "Commands.h"
 #include "support/CommandCalls.h"
 #include "support/Specimens.h"
 #include "support/TableText.h"

@@ -1,4 +1,4 @@
-#include "frame/GeneralSwitch.h"
+#include "device/GeneralSwitch.h"
 
 namespace orrery {
 

@@ -1,9 +1,9 @@
-// The command table, the map of the system: every command's name, its record and the frames that serve it.
+// A command: its name, its record and the frames that serve it in each direction.
 #pragma once
 
 #include "frame/Frames.h"
 
-#include <span>
+#include <cstdint>
 #include <string_view>
 
 namespace orrery {
@@ -24,11 +24,6 @@ struct Command {
     bool parses() const { return parse != Frame::None; }
     bool packs() const { return pack != Frame::None; }
 };
-
-// All commands, in the order of the table.
-std::span<const Command> Commands() noexcept;
-// The command of that name, ASCII case folded and nothing else; null when there is none.
-const Command* FindCommand(std::string_view name) noexcept;
 
 Outcome RunParse(const Command& command, const ParseRequest& request) noexcept;
 Outcome RunPack(const Command& command, const PackRequest& request) noexcept;

@@ -1,4 +1,4 @@
-#include "frame/Commands.h"
+#include "Commands.h"
 
 #include "orrery/orrery.h"
 

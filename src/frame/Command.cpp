@@ -1,0 +1,35 @@
+#include "frame/Command.h"
+
+namespace orrery {
+
+Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
+    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
+    switch (command.parse) {
+    case Command::Frame::None:
+        break;
+    case Command::Frame::Table:
+        return ParseTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Family:
+        return ParseFamily(*command.table, command.parseFrame, request);
+    case Command::Frame::Own:
+        return command.ownParse(request);
+    }
+    return Outcome::UnknownCommand;
+}
+
+Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
+    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
+    switch (command.pack) {
+    case Command::Frame::None:
+        break;
+    case Command::Frame::Table:
+        return PacketTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Family:
+        return PacketFamily(*command.table, command.packFrame, request);
+    case Command::Frame::Own:
+        return command.ownPack(request);
+    }
+    return Outcome::UnknownCommand;
+}
+
+} // namespace orrery

@@ -1,0 +1,82 @@
+// The steps of a reply on its way into records, for frames of a command's own as for those that many share: whether the
+// device accepted the call, where the value stands, what it holds, and one record after the other.
+#pragma once
+
+#include "frame/Document.h"
+#include "frame/Frames.h"
+#include "frame/Platform/Versioned.h"
+#include "frame/record/Engine.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace orrery {
+
+bool ResultPasses(ResultTest test, const json::Value& result) noexcept;
+
+// `name` is that of the member, for Params and Top.
+const json::Value& FindValue(Source source, const char* name, const json::Value& root) noexcept;
+
+// What a value of the right shape holds.
+enum class Holds : std::uint8_t { Nothing, OneRecord, Elements, Members, NoList, WrongShape };
+Holds ShapeOf(Take take, const json::Value& value) noexcept;
+
+// The caller's records, one behind the other.
+class ReplyRecords {
+  public:
+    ReplyRecords(const record::Table& table, const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride,
+                 record::ReadCall& call) noexcept
+        : table_(table), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
+          room_(request.bufferSize / stride), clears_(frame.clearing == Clearing::Read),
+          isVersioned_(frame.stride != Stride::Record), versioned_(table, frame.stride, stride), call_(call) {
+        if (isVersioned_) local_ = call.parser.text().arena().Array<std::byte>(table.size);
+    }
+
+    bool isFull() const noexcept { return used_ == room_; }
+    // Records walked, whether something was read into them or not.
+    std::uint32_t used() const noexcept { return used_; }
+    // Those that something was read into.
+    std::uint32_t filled() const noexcept { return filled_; }
+
+    // Nothing is written for a null: its record stays as the buffer was cleared.
+    void Skip() noexcept { ++used_; }
+
+    void Read(const json::Value& value, std::string_view memberName) noexcept {
+        std::byte* const at = first_ + std::size_t{used_} * stride_;
+        call_.index = used_++;
+        ++filled_;
+        if (isVersioned_) return ReadVersioned(value, at, memberName);
+        if (clears_) std::memset(at, 0, stride_);
+        record::ReadRecord(table_, value, at, call_, memberName);
+    }
+
+  private:
+    // A record that ends the call stays as the caller had it.
+    void ReadVersioned(const json::Value& value, std::byte* at, std::string_view memberName) noexcept {
+        if (local_ == nullptr) return;
+        const bool wasRefused = std::exchange(call_.refused, false);
+        versioned_.Start(at, local_);
+        record::ReadRecord(table_, value, local_, call_, memberName);
+        if (!call_.refused) versioned_.Return(local_, at);
+        call_.refused = call_.refused || wasRefused;
+    }
+
+    const record::Table& table_;
+    std::byte* first_;
+    std::uint32_t stride_;
+    std::uint32_t room_;
+    std::uint32_t used_ = 0;
+    std::uint32_t filled_ = 0;
+    bool clears_;
+    bool isVersioned_;
+    VersionedRecords versioned_;
+    std::byte* local_ = nullptr;
+    record::ReadCall& call_;
+};
+
+void ReadAll(Holds holds, const json::Value& value, bool readsNulls, ReplyRecords& records) noexcept;
+
+} // namespace orrery
