@@ -22,7 +22,7 @@ constexpr Command Both(std::string_view name, const record::Table& table, ParseF
     command.name = name;
     command.table = &table;
     command.parse = command.pack = Command::Frame::Family;
-    command.parseFrame = parse;
+    command.parseFrame = Consistent(parse);
     command.packFrame = pack;
     return command;
 }
@@ -32,7 +32,7 @@ constexpr Command Reply(std::string_view name, const record::Table& table, Parse
     command.name = name;
     command.table = &table;
     command.parse = Command::Frame::Family;
-    command.parseFrame = parse;
+    command.parseFrame = Consistent(parse);
     return command;
 }
 

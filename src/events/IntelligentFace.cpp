@@ -105,7 +105,7 @@ PART(kCandidate, EVENT_CANDIDATE_INFO,
 PART(kCandidateEx, EVENT_CANDIDATE_INFO_EX,
      {
          EV_CANDIDATE_ROWS(kPersonEx),
-         FIELD(szFilePath, "SceneImage/FilePath", Text),
+         FIELD(szFilePath, "SceneImage/FilePath", Text).ReadOnly(),
      });
 
 } // namespace

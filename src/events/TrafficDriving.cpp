@@ -219,7 +219,7 @@ TABLE(kTrafficYellowPlateInLane, DEV_EVENT_TRAFFICYELLOWPLATEINLANE_INFO,
 TABLE(kTrafficNoPassing, DEV_EVENT_TRAFFICNOPASSING_INFO,
       {
           EV_HEAD_B,
-          FIELD(nUTCMS, "UTCMS", Int),
+          FIELD(nUTCMS, "UTCMS", Int).ReadOnly(),
           FIELD(nMark, "Mark", Int),
           FIELD(nSequence, "Sequence", Int),
           EV_FILE_INFO,

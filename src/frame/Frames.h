@@ -153,6 +153,23 @@ struct ParseFrame {
     }
 };
 
+// Declared only: a command that reaches one of these does not compile, and the name tells why.
+void a_word_that_does_not_go_with_a_size_word();
+void words_of_a_frame_that_contradict_each_other();
+
+// The frame, if its words go together.
+constexpr ParseFrame Consistent(const ParseFrame& frame) {
+    const bool reaches = frame.rootKeysFirst || frame.anySize || frame.parsed != nullptr || frame.lengthBy != nullptr
+                         || frame.clearing != Clearing::Kept;
+    if (frame.stride != Stride::Record && reaches) a_word_that_does_not_go_with_a_size_word();
+    const bool isNamed = frame.source == Source::Params || frame.source == Source::Top;
+    if (isNamed != (frame.name[0] != '\0') || (frame.exactSize && frame.anySize)
+        || (frame.length == ReplyLength::Told) != (frame.lengthBy != nullptr)) {
+        words_of_a_frame_that_contradict_each_other();
+    }
+    return frame;
+}
+
 // ---- The words of a command's text -------------------------------------------------------------------------------
 
 enum class Form : std::uint8_t {

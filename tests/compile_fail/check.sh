@@ -3,7 +3,11 @@
 set -euo pipefail
 file=$1
 shift
-phrase=$(sed -n 's|^.*must not compile: \(.*[^ */]\)[ */]*$|\1|p' "$file")
+case=
+for flag in "$@"; do
+    if [[ $flag == -DCASE=* ]]; then case=" ${flag#-DCASE=}"; fi
+done
+phrase=$(sed -n 's|^.*must not compile'"$case"': \(.*[^ */]\)[ */]*$|\1|p' "$file")
 [ -n "$phrase" ] || { echo "$file has no line 'must not compile: phrase'" >&2; exit 1; }
 
 if ! "$@" -DGOOD -fsyntax-only "$file"; then

@@ -11,6 +11,7 @@
 // The rows must tile the record from its first byte to its last: a forgotten field does not compile.
 #pragma once
 
+#include "frame/record/Check.h"
 #include "frame/record/Field.h"
 
 #include <algorithm>
@@ -566,6 +567,7 @@ template <class Rows>
 consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     using R = typename Rows::R;
     static_assert(std::is_standard_layout_v<R> && std::is_trivial_v<R>, "records are plain C structures");
+    if constexpr (build::kFlaw<Rows>.mistake != build::Mistake::None) build::Tell<build::kFlaw<Rows>>();
     static_assert(build::Tile<Rows>());
     constexpr auto& tree = build::kTree<Rows>;
     TypedTable<R> table;
