@@ -91,13 +91,14 @@ Node PrintElement(const Field& field, const std::byte* at, PrintOptions options)
 }
 
 Node PrintLevel(const Field& field, int level, const std::byte* at, std::uint32_t count, PrintOptions options) {
-    if (level == field.rank) return PrintElement(field, at, options);
+    const int rank = std::min<int>(field.rank, Field::kMaxRank);
+    if (level >= rank) return PrintElement(field, at, options);
     std::size_t stride = field.elementSize;
-    for (int i = field.rank - 1; i > level; --i)
+    for (int i = rank - 1; i > level; --i)
         stride *= field.dims[i];
     Node list = Node::Array();
     for (std::uint32_t i = 0; i < count; ++i) {
-        const std::uint32_t inner = level + 1 < field.rank ? field.dims[level + 1] : 1;
+        const std::uint32_t inner = level + 1 < rank ? field.dims[level + 1] : 1;
         list.Add(PrintLevel(field, level + 1, at + i * stride, inner, options));
     }
     return list;
