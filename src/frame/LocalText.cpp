@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 #include <iconv.h>
@@ -58,13 +59,25 @@ struct Room {
     }
 };
 
-// Converts what comes next, or without `in` what the converter held back to see what follows, by way of a small buffer.
-bool PutThroughBuffer(iconv_t descriptor, char** in, std::size_t* length, Room& room) noexcept {
-    char buffer[32];
+// iconv works from slice to slice. A character that it cannot convert makes it begin its slice again, so after one the
+// slices are short, and while all goes well they grow.
+constexpr std::size_t kShortSlice = 16;
+constexpr std::size_t kLongSlice = 512;
+
+// Converts a slice, or without `in` what the converter held back to see what follows. It writes nothing of the
+// caller's: what a converter writes past the room that it was told of stays in the slack.
+[[gnu::noinline]] std::size_t PutSlice(iconv_t descriptor, char** in, std::size_t* length, Room& room,
+                                       bool& fits) noexcept {
+    constexpr std::size_t kSlack = 32;
+    char buffer[1024 + kSlack];
     char* end = buffer;
-    std::size_t left = sizeof buffer;
-    iconv(descriptor, in, length, &end, &left);
-    return room.Put(buffer, sizeof buffer - left);
+    std::size_t left = sizeof buffer - kSlack;
+    errno = 0;
+    const std::size_t result = iconv(descriptor, in, length, &end, &left);
+    const int why = errno;
+    fits = room.Put(buffer, static_cast<std::size_t>(end - buffer));
+    errno = why;
+    return result;
 }
 
 // Fills at most `size` bytes at `destination`; returns how many. What does not fit is cut in mid-character.
@@ -73,21 +86,34 @@ std::size_t Convert(iconv_t descriptor, bool fromUtf8, const char* source, std::
     iconv(descriptor, nullptr, nullptr, nullptr, nullptr); // the text before this one may have ended in any state
     char* in = const_cast<char*>(source);                  // iconv takes it so, and leaves it alone
     Room room{destination, size};
-    while (length > 0) {
-        if (iconv(descriptor, &in, &length, &room.next, &room.left) != static_cast<std::size_t>(-1)) break;
-        if (errno == E2BIG) {
-            // The next character is wider than the room left, which takes its leading bytes. With no room at all
-            // iconv says so without a look at the text, and over again.
-            const std::size_t before = length;
-            if (room.left == 0 || !PutThroughBuffer(descriptor, &in, &length, room)) return size;
-            if (length != before) continue;
+    bool fits = true;
+    std::size_t slice = kLongSlice;
+    while (length > 0 && room.left > 0) {
+        const std::size_t given = std::min(slice, length);
+        std::size_t left = given;
+        const bool isDone = PutSlice(descriptor, &in, &left, room, fits) != static_cast<std::size_t>(-1);
+        const bool isCut = !isDone && (errno == E2BIG || (errno == EINVAL && given < length));
+        const bool moved = left < given;
+        length -= given - left;
+        if (!fits) return size;
+        if ((isDone || isCut) && moved) {
+            slice = std::min(2 * slice, kLongSlice);
+            continue;
         }
-        if (!PutThroughBuffer(descriptor, nullptr, nullptr, room) || !room.Put("?", 1)) return size;
+        if (isCut && errno == EINVAL && slice < kLongSlice) { // a character longer than the slice
+            slice = kLongSlice;
+            continue;
+        }
+        // What iconv took and refused counts as one; what it left begins with what it refuses.
+        PutSlice(descriptor, nullptr, nullptr, room, fits);
+        if (!fits || !room.Put("?", 1)) return size;
+        if (length == 0) break;
         const std::size_t step = fromUtf8 ? Utf8Step(in, length) : 1;
         in += step;
         length -= step;
+        slice = kShortSlice;
     }
-    PutThroughBuffer(descriptor, nullptr, nullptr, room);
+    PutSlice(descriptor, nullptr, nullptr, room, fits);
     return size - room.left;
 }
 
@@ -137,12 +163,21 @@ bool LocalText::IsAscii(std::string_view text) noexcept {
 
 void* LocalText::Open(void*& slot, const char* to, const char* from) noexcept {
     if (slot != nullptr) return slot;
-    const iconv_t descriptor = iconv_open(to, from);
-    if (descriptor == reinterpret_cast<iconv_t>(-1)) {
-        arena_.MarkFailed();
-        return nullptr;
+    // A codeset that is not known and a module for whose loading there is no memory give the same error: memory that is
+    // there for a second attempt tells them apart.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const iconv_t descriptor = iconv_open(to, from);
+        if (descriptor != reinterpret_cast<iconv_t>(-1)) return slot = descriptor;
+        constexpr std::size_t kModule = std::size_t{64} << 10;
+        void* const memory = errno == EINVAL ? std::malloc(kModule) : nullptr;
+        if (memory == nullptr) {
+            arena_.MarkFailed();
+            return nullptr;
+        }
+        std::free(memory);
     }
-    return slot = descriptor;
+    isCopy_ = true;
+    return nullptr;
 }
 
 int LocalText::ConvertUtf8ToLocal(const char* source, int length, char* destination, int capacity) noexcept {
@@ -152,6 +187,8 @@ int LocalText::ConvertUtf8ToLocal(const char* source, int length, char* destinat
     std::size_t count = 0;
     if (void* const descriptor = Open(toLocal_, codeset_, "UTF-8"); descriptor != nullptr) {
         count = Convert(descriptor, true, source, size, destination, static_cast<std::size_t>(capacity - 1));
+    } else if (isCopy_) {
+        return CopyBounded(source, length, destination, capacity);
     }
     destination[count] = '\0';
     return static_cast<int>(count);
@@ -164,6 +201,8 @@ int LocalText::ConvertLocalToUtf8(const char* source, int length, char* destinat
     std::size_t count = 0;
     if (void* const descriptor = Open(toUtf8_, "UTF-8", codeset_); descriptor != nullptr) {
         count = Convert(descriptor, false, source, size, destination, static_cast<std::size_t>(capacity - 1));
+    } else if (isCopy_) {
+        return CopyBounded(source, length, destination, capacity);
     }
     destination[count] = '\0';
     return static_cast<int>(count);

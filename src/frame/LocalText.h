@@ -1,10 +1,11 @@
 // Text between UTF-8, which documents carry, and the multibyte encoding of the process's locale (LC_CTYPE), which
-// records carry. Under UTF-8 and the plain C locale both directions are a bounded copy; any other codeset goes through
-// iconv. One object a call: it keeps the conversion descriptors that it needed open until the call ends.
+// records carry. Under UTF-8, the plain C locale and a codeset that iconv does not know both directions are a bounded
+// copy; any other codeset goes through iconv. One object a call: it keeps the conversion descriptors that it needed
+// open until the call ends.
 //
 // What cannot be converted becomes '?', as a code page conversion would have it: one for a character that the other
 // encoding lacks, one for the longest well-begun part of a broken UTF-8 sequence, one for each byte that is no
-// character of the local encoding. A codeset that iconv does not know fails the arena, as a lack of memory does.
+// character of the local encoding.
 #pragma once
 
 #include "frame/Arena.h"
@@ -16,14 +17,14 @@ namespace orrery {
 
 class LocalText {
   public:
-    // Looks at the locale of the calling thread; `arena` learns of a conversion that cannot be had.
+    // Looks at the locale of the calling thread; `arena` learns of a conversion for which there is no memory.
     explicit LocalText(Arena& arena) noexcept;
     LocalText(const LocalText&) = delete;
     LocalText& operator=(const LocalText&) = delete;
     ~LocalText();
 
     Arena& arena() const noexcept { return arena_; }
-    // True when both directions are a bounded copy.
+    // True when both directions are known to be a bounded copy.
     bool isCopy() const noexcept { return isCopy_; }
     // True when both directions leave this very text as it is.
     bool isCopyOf(std::string_view text) const noexcept { return isCopy_ || (keepsAscii_ && IsAscii(text)); }
@@ -38,7 +39,8 @@ class LocalText {
 
   private:
     static bool IsAscii(std::string_view text) noexcept;
-    // The descriptor in `slot`, opened at first use; null, with the arena failed, when it cannot be.
+    // The descriptor in `slot`, opened at first use. Null when iconv knows no such codeset, and isCopy_ from then on,
+    // or when there is no memory, and the arena has failed.
     void* Open(void*& slot, const char* to, const char* from) noexcept;
 
     Arena& arena_;

@@ -262,29 +262,6 @@ TEST_F(LocalTextIn, AsciiIsKeptOnlyWhereTheCodesetAgrees) {
     EXPECT_EQ(ToUtf8(text, "Door\x83\x5C", 16), "Door\xE3\x82\xBD");
 }
 
-TEST_F(LocalTextIn, ACodesetThatNobodyConvertsFailsTheCall) {
-    const std::string charmap = folder_ + "/NOWHERE";
-    ASSERT_EQ(std::system(("gzip -dc /usr/share/i18n/charmaps/ISO-8859-1.gz | "
-                           "sed 's/^<code_set_name>.*/<code_set_name> NOWHERE-1/; /^% alias/d' > '"
-                           + charmap + "'")
-                              .c_str()),
-              0);
-    Compile(charmap, "xx_XX.NOWHERE-1");
-    const ProcessLocale locale("xx_XX.NOWHERE-1");
-    ASSERT_TRUE(locale.isThere());
-    ASSERT_STREQ(nl_langinfo(CODESET), "NOWHERE-1");
-    StackArena<256> arena;
-    LocalText text(arena);
-    EXPECT_FALSE(arena.failed());
-    EXPECT_EQ(ToLocal(text, "Door", 16), "");
-    EXPECT_TRUE(arena.failed());
-
-    StackArena<256> other;
-    LocalText back(other);
-    EXPECT_EQ(ToUtf8(back, "Door", 16), "");
-    EXPECT_TRUE(other.failed());
-}
-
 TEST_F(LocalTextIn, TheThreadsLocaleGoesBeforeTheProcesss) {
     Compile("GBK", "zh_CN.GBK");
     StackArena<256> arena;
