@@ -40,14 +40,14 @@ Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
         if (first == nullptr) room = 0;
     }
     std::int64_t count = field.count.exists() && !field.fullCapacity ? LoadSlot(field.count, record) : room;
+    // A count beyond the room ends at the room, whoever wrote it.
+    count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
     if (field.untilEmpty) {
         const auto isEmpty = [&](std::int64_t i) { return first[i * field.elementSize] == std::byte{0}; };
         for (std::int64_t i = 0; i < count; ++i) {
             if (isEmpty(i)) count = i;
         }
     }
-    // A count beyond the room ends at the room, whoever wrote it.
-    count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
     return {first, static_cast<std::uint32_t>(count)};
 }
 

@@ -1,5 +1,6 @@
 #include "frame/Frames.h"
 #include "frame/record/Engine.h"
+#include "support/GuardedBuffer.h"
 
 #include <gtest/gtest.h>
 
@@ -148,6 +149,27 @@ TEST(UntilEmpty, TheFirstEmptyTextEndsTheList) {
     EXPECT_NE(Written(record).find(R"("Labels" : [ "a" ],)"), std::string::npos);
     std::strcpy(record.szLabels[1], "b");
     EXPECT_NE(Written(record).find(R"("Labels" : [ "a", "b", "c" ],)"), std::string::npos);
+}
+
+struct Counted {
+    std::int32_t nLabelNum;
+    char szLabels[3][4];
+};
+PART(kCounted, Counted,
+     {
+         FIELD(nLabelNum),
+         FIELD(szLabels, "Labels", Text).Count(AT(nLabelNum)).UntilEmpty(),
+     });
+
+// Full texts up to an unreadable page, and a count that leads far behind it.
+TEST(UntilEmpty, ACountBeyondTheListIsNoLicenceToLook) {
+    const test::GuardedBuffer memory(sizeof(Counted));
+    Counted record{INT32_MAX, {}};
+    std::memset(record.szLabels, 'x', sizeof record.szLabels);
+    std::memcpy(memory.data(), &record, sizeof record);
+    char text[128];
+    ASSERT_EQ(PacketFamily(kCounted, kPack, {memory.data(), sizeof record, text, sizeof text}), Outcome::Done);
+    EXPECT_STREQ(text, "{ \"Labels\" : [ \"xxxx\", \"xxxx\", \"xxxx\" ] }\n");
 }
 
 TEST(UntilEmpty, ReadingTakesEveryPlace) {
