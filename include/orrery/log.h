@@ -57,7 +57,10 @@ inline va_list& LogOne_VaList(char* arguments) {
 /* What a host implements. The operations stand in the order of their slots (numbers in front). The reserved ones keep
    the later operations in place and are never called. A destructor takes two entries of the virtual table in this
    platform's C++ ABI, so entry k of the table, counted from 0, holds slot k + 1 up to slot 10, then both forms of the
-   destructor (slot 11), then slot k from slot 12 on. No operation may throw.
+   destructor (slot 11), then slot k from slot 12 on.
+
+   Operations must return. An exception that leaves one, or a thread that ends in one, ends the program, since the log's
+   lock would never be given back; a longjmp out of one does keep it.
 
    A code is the E_LOG_CODE of the line, or the host's own. The first argument of TraceOut and TraceOutW is always 0. */
 class LogSink {
