@@ -1,6 +1,7 @@
 #include "events/ReqRealPicture.h"
 
 #include "events/VehicleParts.h"
+#include "frame/Outside.h"
 #include "frame/json/Reader.h"
 
 #include <algorithm>
@@ -31,9 +32,21 @@ const char* CReqRealPicture::serialize(std::size_t& length) noexcept {
     return nullptr;
 }
 
+bool CReqRealPicture::parseDocument(const char* text, Value& root) noexcept {
+    if (dwPacketSubType != kPacketSubType) return false;
+    const std::string_view source(text);
+    if (!json::Parse(source, arena_, root)) return false;
+    // The records of events that devices really have are a few kilobytes each, but two bytes of a list of objects may
+    // become a record too.
+    constexpr std::size_t kMostAnyway = std::size_t{64} << 20;
+    constexpr std::size_t kMostPerByte = 64;
+    arena_.Limit(kMostAnyway + kMostPerByte * source.size());
+    return true;
+}
+
 std::int32_t CReqRealPicture::parseEventText(const char* text) noexcept {
     Value root;
-    if (dwPacketSubType != kPacketSubType || !json::Parse(std::string_view(text), arena_, root)) return 0;
+    if (!parseDocument(text, root)) return 0;
     const Value& single = root["Event"];
     Circumstances around{};
     parseAlarmEvent(single.isNull() ? root["EventList"] : single, around);
@@ -42,7 +55,7 @@ std::int32_t CReqRealPicture::parseEventText(const char* text) noexcept {
 
 std::int32_t CReqRealPicture::deserialize(const char* text, std::size_t) noexcept {
     Value root;
-    if (dwPacketSubType != kPacketSubType || !json::Parse(std::string_view(text), arena_, root)) return 0;
+    if (!parseDocument(text, root)) return 0;
     if (const Value& result = root["result"]; !result.isNull()) {
         bNotification = 0;
         nResult = result.asBool() ? 1 : 0;
@@ -130,7 +143,7 @@ void CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcep
 void CReqRealPicture::deliver(ORRERY_EVENT_CALLBACK callback, void* user) noexcept {
     const std::lock_guard<std::recursive_mutex> hold(csEvents);
     while (EventNode* const node = lstEvents.TakeFirst()) {
-        if (callback != nullptr) callback(node->dwEventType, node->pEventInfo, node->dwBufSize, nullptr, 0, user);
+        if (callback != nullptr) HandOver(callback, node->dwEventType, node->pEventInfo, node->dwBufSize, user);
     }
 }
 

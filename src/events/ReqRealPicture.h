@@ -77,6 +77,8 @@ class CReqRealPicture final : public IPDU {
         std::uint32_t flagMask;
     };
 
+    // Reads the document, and bounds what its events may take.
+    bool parseDocument(const char* text, json::Value& root) noexcept;
     void readInfo(const json::Value& info, Circumstances& around) noexcept;
     // Decodes the events of an array, at most 128, into the list. The group of the file info goes on from event to
     // event.

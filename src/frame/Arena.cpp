@@ -21,8 +21,12 @@ void* Arena::AllocateSlow(std::size_t bytes) noexcept {
     std::size_t room = chunkSize_;
     if (room < rounded) room = rounded;
     if (room > kKept / 2 && room < kKept) room = kKept;
+    if (allowance_ < kBlockHeader) return Fail<void>();
+    if (room > allowance_ - kBlockHeader) room = rounded;
+    if (room > allowance_ - kBlockHeader) return Fail<void>();
     auto* const chunk = static_cast<Chunk*>(std::malloc(kBlockHeader + room));
     if (chunk == nullptr) return Fail<void>();
+    allowance_ -= kBlockHeader + room;
     chunk->previous = chunks_;
     chunks_ = chunk;
     total_ += room;

@@ -48,6 +48,9 @@ class Arena {
         chunks_ = chunk;
     }
 
+    // From here on the heap gives this arena at most `bytes` more; what goes beyond is as if there were no memory.
+    void Limit(std::size_t bytes) noexcept { allowance_ = bytes; }
+
     // The allocation that nobody could have granted: a size beyond all counting.
     void Exhaust() noexcept { failed_ = true; }
 
@@ -82,6 +85,7 @@ class Arena {
     Chunk* chunks_ = nullptr;
     std::size_t chunkSize_ = std::size_t{32} << 10; // of the next one
     std::size_t total_ = 0;                         // of all chunks so far
+    std::size_t allowance_ = static_cast<std::size_t>(-1);
     bool failed_ = false;
     alignas(16) std::byte spare_[kSpareSize];
 };

@@ -1,7 +1,11 @@
 // Texts that a hostile device makes to cost more than their length. The bound is processor time that only work beyond
 // linear comes near: a linear pass over the longest of these texts takes milliseconds, a quadratic one minutes.
+#include "events/EventTable.h"
+#include "frame/record/Engine.h"
 #include "support/CommandCalls.h"
+#include "support/Events.h"
 #include "support/FailingAllocator.h"
+#include "support/Locales.h"
 #include "support/Specimens.h"
 #include "support/SweepBudget.h"
 #include "support/TableText.h"
@@ -9,6 +13,7 @@
 #include <ctime>
 #include <gtest/gtest.h>
 #include <set>
+#include <span>
 #include <tuple>
 
 namespace orrery {
@@ -17,6 +22,10 @@ namespace {
 using namespace test;
 
 constexpr double kBound = 5; // seconds
+
+// Heap that a call takes for a text: a little in any event, and so much for each byte.
+constexpr std::ptrdiff_t kAnyway = std::ptrdiff_t{256} << 10;
+constexpr std::ptrdiff_t kPerByte = 160; // half of it is the last and largest piece of memory, of which little is used
 
 double Seconds() {
     timespec now;
@@ -27,6 +36,7 @@ double Seconds() {
 void Finishes(const Command& command, const std::string& text, std::string_view what) {
     std::size_t allocations = 0;
     std::ptrdiff_t left = 0;
+    std::ptrdiff_t peak = 0;
     const double start = Seconds();
     Outcome outcome = Outcome::Done;
     {
@@ -35,12 +45,16 @@ void Finishes(const Command& command, const std::string& text, std::string_view 
         CallerMemory memory;
         memory.PrepareBuffer(command, buffer.data(), buffer.size());
         const std::size_t before = heap.allocations();
+        const std::ptrdiff_t live = heap.liveBytes();
+        heap.ResetPeak();
         outcome = RunParse(command, {text.c_str(), buffer.data(), command.table->size, nullptr});
         allocations = heap.allocations() - before;
         left = heap.liveBlocks();
+        peak = heap.peakBytes() - live;
     }
     EXPECT_LT(Seconds() - start, kBound) << command.name << ": " << what;
     EXPECT_LT(allocations, 100u) << command.name << ": " << what; // chunks double, so they are few
+    EXPECT_LE(peak, kAnyway + kPerByte * static_cast<std::ptrdiff_t>(text.size())) << command.name << ": " << what;
     EXPECT_LE(left, 0) << command.name << ": " << what;
     EXPECT_NE(outcome, Outcome::OutOfMemory) << command.name << ": " << what;
 }
@@ -96,10 +110,7 @@ TEST(Growth, DepthLengthAndRepetition) {
     }
 }
 
-TEST(Growth, EveryValueMadeLong) {
-    constexpr std::size_t kLong = 50'000;
-    const std::string values[] = {"[" + Repeated("1,", kLong) + "1]", "[" + Repeated("{},", kLong) + "{}]",
-                                  "\"" + Repeated("x\\n", kLong) + "\""};
+void MakeEveryValueLong(std::span<const std::string> values) {
     std::set<const record::Table*> seen;
     const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
@@ -112,10 +123,127 @@ TEST(Growth, EveryValueMadeLong) {
         for (JsonTree* const place : places) {
             if (place->kind() == JsonTree::Kind::Object || !spread.Takes()) continue;
             JsonTree kept = std::move(*place);
-            *place = JsonTree(values[turn++ % std::size(values)]);
+            *place = JsonTree(values[turn++ % values.size()]);
             Finishes(command, tree.Text(), "a value in " + kept.Text());
             *place = std::move(kept);
         }
+    }
+}
+
+TEST(Growth, EveryValueMadeLong) {
+    constexpr std::size_t kLong = 50'000;
+    const std::string values[] = {"[" + Repeated("1,", kLong) + "1]", "[" + Repeated("{},", kLong) + "{}]",
+                                  "\"" + Repeated("x\\n", kLong) + "\""};
+    MakeEveryValueLong(values);
+}
+
+class GrowthIn : public CompiledLocales {};
+
+// Characters that the codeset lacks, which cost its converter most.
+TEST_F(GrowthIn, EveryTextMadeLongUnderALocaleThatConverts) {
+    Compile("GBK", "zh_CN.GBK");
+    const ProcessLocale locale("zh_CN.GBK");
+    ASSERT_TRUE(locale.isThere());
+    const std::string values[] = {"\"" + Repeated("\xF0\x9F\x98\x80", 10'000) + "\""};
+    MakeEveryValueLong(values);
+}
+
+// ---- Events ----
+
+// What the decoded events of a call may take, and the document that they are read from.
+std::ptrdiff_t MostFor(const std::string& text) {
+    const auto size = static_cast<std::ptrdiff_t>(text.size());
+    return (std::ptrdiff_t{64} << 20) + 64 * size + kAnyway + kPerByte * size;
+}
+
+std::ptrdiff_t PeakOf(const std::string& text, int& delivered) {
+    HeapWatch heap;
+    const auto count = [](std::uint32_t, const void*, std::uint32_t, void*, std::int32_t, void* user) {
+        ++*static_cast<int*>(user);
+        return 0;
+    };
+    delivered = 0;
+    CLIENT_ParseAnalyzerEventData(text.c_str(), 0, count, &delivered);
+    EXPECT_EQ(heap.liveBlocks(), 0);
+    return heap.peakBytes();
+}
+
+// Two bytes of the list make an object of hundreds.
+TEST(Growth, EventsOfManyObjectsEndAtTheirBound) {
+    const std::string list = "[" + Repeated("0,", 2'000'000) + "0]";
+    int delivered = 0;
+    for (const char* const code : {"CrossLineDetection", "ObjectDetection"}) {
+        const std::string text = EventText(code, "{\"Objects\":" + list + "}");
+        const double start = Seconds();
+        EXPECT_LE(PeakOf(text, delivered), MostFor(text)) << code;
+        EXPECT_LT(Seconds() - start, kBound) << code;
+        EXPECT_EQ(delivered, 1) << code << ": without its objects";
+    }
+    // Past the bound it is as if memory had run out, for that block alone: what stands behind it has its objects.
+    const std::string text = "{\"Event\":[{\"Code\":\"CrossLineDetection\",\"Data\":{\"Objects\":" + list
+                             + "}},{\"Code\":\"CrossLineDetection\",\"Data\":{\"Objects\":[{\"ObjectID\":7}]}}]}";
+    std::vector<std::int32_t> counts;
+    Decode(text, [&](const Delivered& event) {
+        const auto& record = event.as<DEV_EVENT_CROSSLINE_EX_INFO>();
+        counts.push_back(record.nObjectNum);
+        EXPECT_EQ(record.nObjectNum == 0, record.pObjects == nullptr);
+    });
+    EXPECT_EQ(counts, (std::vector<std::int32_t>{0, 1}));
+}
+
+// As many events as are read, each with a list that alone is allowed: some are left out, in the order of the text.
+TEST(Growth, ManyEventsTogetherEndAtTheirBound) {
+    const std::string event = "{\"Code\":\"ObjectDetection\",\"Data\":{\"Objects\":[" + Repeated("0,", 9'999) + "0]}}";
+    std::string text = "{\"Event\":[" + event;
+    for (int i = 1; i < 128; ++i)
+        text += "," + event;
+    text += "]}";
+    int delivered = 0;
+    EXPECT_LE(PeakOf(text, delivered), MostFor(text));
+    EXPECT_GT(delivered, 0);
+}
+
+// Each list of each event, for lists that own memory of which nobody thought.
+TEST(Growth, EveryListOfEveryEventMadeLong) {
+    const std::string list = "[" + Repeated("0,", 400'000) + "0]";
+    int total = 0;
+    std::set<std::string> seen; // what looks alike in another event is read alike
+    for (const events::EventRow& row : events::Events()) {
+        if (row.name.empty()) continue;
+        JsonTree tree = RecordTree(*row.table, {.most = 1, .records = 1});
+        for (JsonTree* const place : tree.Places()) {
+            if (place->kind() != JsonTree::Kind::Array || !seen.insert(place->Text()).second) continue;
+            JsonTree kept = std::move(*place);
+            *place = JsonTree(list);
+            const std::string text = EventText(row.name, tree.Text());
+            int delivered = 0;
+            ASSERT_LE(PeakOf(text, delivered), MostFor(text)) << row.name << " at " << kept.Text();
+            total += delivered;
+            *place = std::move(kept);
+        }
+    }
+    EXPECT_GT(total, 20);
+}
+
+// ---- Packing ----
+
+// What it takes beside the caller's buffers: room for texts and, of records under their names or of another layout, for
+// as much as the caller handed in.
+TEST(Growth, PackingTakesNoMoreThanTheRecords) {
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs() || HasPointers(*command.table)) continue;
+        const std::size_t count = std::min<std::size_t>(200, 1 + 1'000'000 / command.table->size);
+        std::vector<std::byte> records(count * command.table->size, std::byte{'a'});
+        for (std::size_t i = 0; i < count; ++i)
+            record::SetSizeWords(*command.table, records.data() + i * command.table->size);
+        std::vector<char> room(std::size_t{16} << 20);
+        HeapWatch heap;
+        const double start = Seconds();
+        RunPack(command, {records.data(), static_cast<std::uint32_t>(records.size()), room.data(),
+                          static_cast<std::uint32_t>(room.size())});
+        EXPECT_LT(Seconds() - start, kBound) << command.name;
+        EXPECT_LE(heap.peakBytes(), kAnyway + 8 * static_cast<std::ptrdiff_t>(records.size())) << command.name;
+        EXPECT_EQ(heap.liveBlocks(), 0) << command.name;
     }
 }
 

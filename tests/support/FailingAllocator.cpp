@@ -1,5 +1,6 @@
 #include "support/FailingAllocator.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <malloc.h>
 
@@ -14,6 +15,7 @@ struct Watch {
     std::size_t failures = 0;
     std::ptrdiff_t liveBlocks = 0;
     std::ptrdiff_t liveBytes = 0;
+    std::ptrdiff_t peakBytes = 0;
 };
 
 thread_local Watch watch;
@@ -41,6 +43,7 @@ void* __wrap_malloc(std::size_t size) {
     if (block != nullptr) {
         ++watch.liveBlocks;
         watch.liveBytes += static_cast<std::ptrdiff_t>(malloc_usable_size(block));
+        watch.peakBytes = std::max(watch.peakBytes, watch.liveBytes);
     }
     return block;
 }
@@ -88,6 +91,12 @@ std::ptrdiff_t HeapWatch::liveBlocks() const {
 }
 std::ptrdiff_t HeapWatch::liveBytes() const {
     return watch.liveBytes;
+}
+std::ptrdiff_t HeapWatch::peakBytes() const {
+    return watch.peakBytes;
+}
+void HeapWatch::ResetPeak() {
+    watch.peakBytes = watch.liveBytes;
 }
 
 } // namespace orrery::test

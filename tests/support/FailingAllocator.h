@@ -26,6 +26,9 @@ class HeapWatch {
     // Blocks and bytes allocated and not freed since the watch began; negative when older ones were freed.
     std::ptrdiff_t liveBlocks() const;
     std::ptrdiff_t liveBytes() const;
+    // The most bytes that were live at a time, since the watch began or the peak was reset.
+    std::ptrdiff_t peakBytes() const;
+    void ResetPeak();
 };
 
 } // namespace orrery::test
