@@ -2,7 +2,11 @@
  * records, and records back into the exact text that devices expect. It opens no socket, keeps no state and starts no
  * thread: any number of threads may call at once, each on buffers of its own.
  *
- * Every function answers non-zero for success and 0 for failure, and says nothing more. */
+ * Every function answers non-zero for success and 0 for failure, and says nothing more.
+ *
+ * Stack: a parse needs at most 40 KB of it, a pack 24 KB, events 56 KB up to their callback, which has what is left: 96
+ * KB hold events whose callback parses a configuration. The C library takes its own when it loads a converter of
+ * texts, at the first text under a locale that needs one. */
 #ifndef ORRERY_ORRERY_H
 #define ORRERY_ORRERY_H
 
@@ -51,8 +55,9 @@ uint32_t ORRERY_Version(void);
  * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan" and
  *                 "Https" add to what it holds: set it to 0 first. They take a missing table as nothing to read.
  *
- * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8 and
- * the C locale they are the device's bytes. A text that is too long is cut, in the middle of a character if need be.
+ * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8, the
+ * C locale and a codeset that iconv does not know they are the device's bytes. What the encoding lacks is a '?'. A text
+ * that is too long is cut, in the middle of a character if need be.
  *
  * 0 for a null argument, an unknown command, a buffer below one record, text that is no JSON, a call that the device
  * refused, a missing table, or when memory ran out. */
@@ -66,8 +71,11 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  *               their array end at the array.
  * recordSize    Bytes at `record`. What is below one record is refused, but for the commands named under
  *               returnedLength above, where missing bytes read as zero.
- * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. Cleared whole, also on
- *               failure, but for "MotionDetect", which leaves it alone on failure and behind the terminator.
+ * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. What is behind
+ *               the terminator is cleared. A call that is refused before it writes (a null, an unknown command, a
+ *               record too small) leaves the buffer alone; every other failure leaves it cleared whole. Otherwise:
+ *               "MotionDetect" leaves it alone on every failure and behind the terminator, and "VideoAnalyseRule" and
+ *               "AudioAnalyseRule" leave `[  ]`, with a newline, when rules are told of that are not there.
  * textCapacity  Bytes at `textBuffer`. For most commands the text must be shorter. For the alarm input commands other
  *               than "MotionDetect", and where the command's header says so, a text of exactly that length is taken too
  *               and loses its newline or its terminator.
@@ -80,6 +88,12 @@ int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t reco
  * is: DEV_EVENT_<NAME>_INFO of the events_... headers. `recordSize` is the record's size, unless its header says
  * otherwise. The record and all that its pointers lead to live only during the call. `reserved` and `sequence` are 0.
  * The result is ignored. */
+/* Takes one decoded event. `eventType` is its code and tells which record `record` is: DEV_EVENT_<NAME>_INFO of the
+ * events_... headers. `recordSize` is the record's size, unless its header says otherwise. The record and all that its
+ * pointers lead to live only during the call. `reserved` and `sequence` are 0. The result is ignored.
+ *
+ * It must return: an exception that leaves it, or a thread that ends in it, ends the program, and a longjmp out of it
+ * leaves behind all memory of the call. */
 typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record, uint32_t recordSize, void* reserved,
                                          int32_t sequence, void* user);
 
@@ -89,7 +103,9 @@ typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record,
  *
  * 0 when `data` or `callback` is null, otherwise 1, also when the text is no JSON and nothing is handed over. `data`
  * must be terminated; `length` is not looked at. An event for whose record there is no memory is left out; what a
- * pointer would lead to is null then. */
+ * pointer would lead to is null then, with a count of 0, and a text that could not be converted is empty. All else of
+ * the event is delivered. The events of one call take at most 64 MB and 64 bytes for each byte of text: what goes
+ * beyond finds no memory. */
 int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
 
 /* Decodes a text whose top-level keys name what it carries. Arguments as above. This version decodes none of it

@@ -29,6 +29,12 @@ inline void Terminate(Capacity capacity, std::size_t length, char* buffer, std::
         buffer[room - 1] = '\0';
 }
 
+// A call that fails behind its arguments' tests leaves the caller a clear buffer.
+inline Outcome LeaveClear(Outcome outcome, const PackRequest& request) noexcept {
+    std::memset(request.textBuffer, 0, request.textCapacity);
+    return outcome;
+}
+
 // Lets `write`, an Outcome(json::TextWriter&), write straight into the caller's buffer and clears what the text leaves
 // of it; a text that does not fit leaves zeros.
 template <class Write>
@@ -38,10 +44,7 @@ Outcome DeliverText(const Write& write, Capacity capacity, const PackRequest& re
     json::TextWriter out(buffer, room);
     Outcome outcome = write(out);
     if (outcome == Outcome::Done && !Fits(capacity, out.length(), room)) outcome = Outcome::TextTooLong;
-    if (outcome != Outcome::Done) {
-        std::memset(buffer, 0, room);
-        return outcome;
-    }
+    if (outcome != Outcome::Done) return LeaveClear(outcome, request);
     if (out.length() < room)
         std::memset(buffer + out.length(), 0, room - out.length());
     else

@@ -145,7 +145,9 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
 
     StackArena<std::size_t{4} << 10> arena;
     const LocalRecord local{{table, frame.stride, stride}, arena.Array<std::byte>(table.size)};
-    if (local.record == nullptr) return Outcome::OutOfMemory;
+    if (local.record == nullptr) {
+        return frame.keepsText ? Outcome::OutOfMemory : LeaveClear(Outcome::OutOfMemory, request);
+    }
     local.versioned.Prepare(local.record);
     content.records.take = TakeRecord;
     content.records.context = &local;
@@ -164,7 +166,7 @@ Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, co
     if (!frame.arrayForm && request.recordSize < table.size) {
         // One record is written in any event; what the caller did not hand over reads as zero.
         auto* const whole = arena.Array<std::byte>(table.size);
-        if (whole == nullptr) return Outcome::OutOfMemory;
+        if (whole == nullptr) return LeaveClear(Outcome::OutOfMemory, request);
         std::memset(whole, 0, table.size);
         std::memcpy(whole, first, request.recordSize);
         content.records.first = whole;
