@@ -1,8 +1,10 @@
 // Any record bytes for any command, into a text buffer of any capacity. The input: four bytes that choose the command,
-// four for the capacity, two for the records' size, one for the alignment, then the records' bytes, repeated until
-// they fill them or set once.
+// four for the capacity, two for the records' size or the allocation that fails, one for the alignment and more, then
+// the records' bytes, repeated until they fill them or set once.
+#include "Circumstances.h"
 #include "support/FuzzInput.h"
 
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 #include "support/CommandCalls.h"
 
@@ -12,6 +14,21 @@
 
 using namespace orrery;
 
+namespace {
+
+// Longer texts say nothing more: of them the beginning is written, and the rest counted.
+constexpr std::size_t kMostText = std::size_t{32} << 10;
+
+void Fill(std::byte* records, std::size_t size, std::size_t from, bool once, std::string_view bytes) {
+    std::memset(records, 0, size);
+    for (std::size_t at = from; at < size; at += bytes.size()) {
+        std::memcpy(records + at, bytes.data(), std::min(bytes.size(), size - at));
+        if (once) break;
+    }
+}
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     test::FuzzInput input(data, size);
     const Command& command = test::FuzzCommand(input.Take<std::uint32_t>());
@@ -19,21 +36,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto sizeChoice = input.Take<std::uint16_t>();
     const auto flavour = input.Take<std::uint8_t>();
     const auto bytes = input.Rest();
-    if (!command.packs() || bytes.empty()) return 0;
+    // Items behind a pointer have a target of their own.
+    if (!command.packs() || bytes.empty() || ItemsBehind(*command.table) != nullptr) return 0;
 
+    // Bytes that stand everywhere make large records into megabytes of text: there they stand once.
+    constexpr std::size_t kLarge = std::size_t{16} << 10;
     const record::Table& table = *command.table;
     const std::size_t whole = table.size;
     std::size_t records = whole;
     if (sizeChoice % 4 == 1) records = sizeChoice / 4 % (2 * whole);
-    if (sizeChoice % 4 == 2) records = whole * (1 + sizeChoice / 4 % 3);
+    if (sizeChoice % 4 == 2 && whole <= kLarge) records = whole * (1 + sizeChoice / 4 % 3);
     const test::FuzzBlock record(records, flavour % 8);
-    // All over the records, or once at some place in records of zeros.
-    std::memset(record.get(), 0, records);
-    const bool once = (flavour & 16) != 0;
-    for (std::size_t at = once && records > 0 ? capacityChoice / 8 % records : 0; at < records; at += bytes.size()) {
-        std::memcpy(record.get() + at, bytes.data(), std::min(bytes.size(), records - at));
-        if (once) break;
-    }
+    const bool once = (flavour & 16) != 0 || (whole > kLarge && bytes.size() < whole);
+    const std::size_t from = (flavour & 16) != 0 && records > 0 ? capacityChoice / 8 % records : 0;
+    Fill(record.get(), records, from, once, bytes);
     test::CallerMemory memory;
     for (std::size_t at = 0; at + whole <= records; at += whole) {
         if (flavour & 8) record::SetSizeWords(table, record.get() + at);
@@ -45,19 +61,27 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         record::SetSizeWords(table, record.get());
     }
 
-    const test::Packed packed = test::Pack(command, record.get(), records);
-    if (packed.outcome == Outcome::OutOfMemory) std::abort();
-    constexpr std::size_t kLooked = std::size_t{64} << 10;
-    const bool looks = packed.outcome == Outcome::Done && packed.text.size() <= kLooked;
-    if (looks && !test::FlawOf(packed.text).empty()) std::abort();
+    fuzz::Choice choice;
+    choice.locale = static_cast<std::uint8_t>(flavour >> 6);
+    choice.flags = static_cast<std::uint8_t>((flavour >> 5 & 1) | (sizeChoice % 4 == 3 ? 4 : 0));
+    choice.allocation = static_cast<std::uint16_t>(sizeChoice / 4);
+    fuzz::Circumstances around(choice);
+    static char room[kMostText];
+    PackRequest request{record.get(), static_cast<std::uint32_t>(records), room, kMostText};
+    const Outcome outcome = RunPack(command, request);
+    if (outcome == Outcome::OutOfMemory && !around.memoryFailed()) std::abort();
+    if (!around.Calm()) std::abort();
+    if (outcome != Outcome::Done) return 0;
+    const std::size_t length = strnlen(room, kMostText);
+    if (length + 1 < kMostText && !test::FlawOf({room, length}).empty()) std::abort();
 
     // Near the text's own length is where a buffer is overrun.
-    const std::size_t length = packed.text.size();
     const std::size_t capacity = capacityChoice % 2 == 0
                                      ? capacityChoice / 2 % (length + 3)
                                      : std::max<std::size_t>(length, 4) - 2 + capacityChoice / 2 % 5;
     const test::FuzzBlock text(capacity, 0);
-    RunPack(command, {record.get(), static_cast<std::uint32_t>(records), reinterpret_cast<char*>(text.get()),
-                      static_cast<std::uint32_t>(capacity)});
+    request.textBuffer = reinterpret_cast<char*>(text.get());
+    request.textCapacity = static_cast<std::uint32_t>(capacity);
+    RunPack(command, request);
     return 0;
 }

@@ -1,5 +1,7 @@
 // Any reply to any command, into a buffer of any size at any alignment. The input: four bytes that choose the command,
-// four for the size of the buffer, one for its alignment and what it holds, then the text.
+// four for the size of the buffer, one for its alignment and what it holds, then the text. What follows the text's
+// terminator chooses the circumstances.
+#include "Circumstances.h"
 #include "support/FuzzInput.h"
 
 #include "frame/record/Engine.h"
@@ -39,9 +41,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!command.parses()) return 0;
 
     // Blocks of exactly the size, so that the first byte outside is seen: in front of it when the alignment is 0.
-    const test::FuzzBlock text(input.Rest().size() + 1, 0);
-    std::memcpy(text.get(), input.Rest().data(), input.Rest().size());
-    text.get()[input.Rest().size()] = std::byte{0};
+    std::string_view source;
+    const fuzz::Choice choice = fuzz::ChoiceBehind(input.Rest(), source);
+    const test::FuzzBlock text(source.size() + 1, 0);
+    std::memcpy(text.get(), source.data(), source.size());
+    text.get()[source.size()] = std::byte{0};
     const test::FuzzBlock buffer(room, flavour % 8);
     std::memset(buffer.get(), flavour / 8, room);
     test::CallerMemory memory;
@@ -50,15 +54,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     else if (room >= 4) // a size word of any value
         record::Store(buffer.get(), sizeChoice / 4 % static_cast<std::uint32_t>(room + 2));
 
+    fuzz::Circumstances around(choice);
     std::uint32_t length = 0;
     const Outcome outcome = RunParse(command, {reinterpret_cast<const char*>(text.get()), buffer.get(),
                                                static_cast<std::uint32_t>(room), flavour == 1 ? nullptr : &length});
     if (length > room && !test::TellsMoreThanItFills(command)) std::abort();
-    if (outcome == Outcome::OutOfMemory) std::abort();
+    if (outcome == Outcome::OutOfMemory && !around.memoryFailed()) std::abort();
+    if (!around.Calm()) std::abort();
     // A command that takes a buffer of any size has filled the beginning of a record, which nobody can write.
     if (outcome != Outcome::Done || !command.packs() || room < command.table->size) return 0;
 
     // What was read can be written, in order and with every bracket closed, whatever the text was.
+    if (sizeChoice / 4 % 8 != 0) return 0;
     const test::Packed packed = test::Pack(command, buffer.get(), command.table->size);
     if (packed.outcome == Outcome::Done && !test::FlawOf(packed.text).empty()) std::abort();
     return 0;

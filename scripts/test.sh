@@ -68,10 +68,11 @@ stage_asan() {
     tests asan build/asan
 }
 
-# Each fuzz/NAME_fuzz.cpp is a target. It starts from fuzz/corpus/NAME and collects what it finds outside the tree.
+# Each fuzz/NAME_fuzz.cpp is a target. It starts from the seeds that the build made for it and from fuzz/corpus/NAME, and
+# collects what it finds outside the tree.
 stage_fuzz() {
     build asan build/asan
-    local source target name input found=0
+    local source target name input seeds found=0
     : >"$results/fuzz.txt"
     for source in fuzz/*.cpp; do
         [ -e "$source" ] || continue
@@ -80,11 +81,15 @@ stage_fuzz() {
         name=${target%_fuzz}
         echo "fuzz: $name, $fuzz_seconds s"
         mkdir -p "$results/fuzz/$name"
-        if [ ! -d "fuzz/corpus/$name" ]; then
-            echo "fuzz: error: no fuzz/corpus/$name for $source" >&2
+        seeds=()
+        for input in "build/asan/fuzz/seeds/$name" "fuzz/corpus/$name"; do
+            [ ! -d "$input" ] || seeds+=("$input")
+        done
+        if [ ${#seeds[@]} -eq 0 ]; then
+            echo "fuzz: error: no seeds of $name for $source" >&2
             echo "failed $target" >>"$results/fuzz.txt"
         elif "build/asan/fuzz/$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
-            -print_final_stats=1 -artifact_prefix="$results/fuzz/$name-" "$results/fuzz/$name" "fuzz/corpus/$name"; then
+            -print_final_stats=1 -artifact_prefix="$results/fuzz/$name-" "$results/fuzz/$name" "${seeds[@]}"; then
             echo "passed $target" >>"$results/fuzz.txt"
         else
             # The input itself: another machine has nothing but what is printed here.

@@ -1,6 +1,13 @@
-// Writes one seed for each command that differs from the others: fuzz_seeds CORPUS_DIRECTORY
+// Writes the seeds of the fuzz targets, made from the tables: for each command that differs from the others, for each
+// analysis rule and for each event, in several circumstances: fuzz_seeds DIRECTORY
+#include "analyse/EventTypeRegistry.h"
+#include "analyse/RuleBodyTable.h"
+#include "events/EventTable.h"
+#include "frame/PackedItems.h"
 #include "support/FuzzInput.h"
 #include "support/TableText.h"
+
+#include "orrery/orrery.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -12,46 +19,171 @@ using namespace orrery;
 
 namespace {
 
+std::filesystem::path directory;
+unsigned turn = 0; // what only one seed of a kind needs goes around over all of them
+
 template <class Number>
 void Put(std::string& out, Number number) {
     out.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
-void Write(const std::filesystem::path& file, const std::string& content) {
+void Write(const char* target, const std::string& name, const std::string& content) {
+    const auto file = directory / target / name;
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << content;
+}
+
+// The terminator of a text and what chooses the circumstances behind it.
+std::string Circumstances(unsigned locale, unsigned flags, unsigned allocation) {
+    std::string bytes(1, '\0');
+    Put(bytes, static_cast<std::uint8_t>(locale));
+    Put(bytes, static_cast<std::uint8_t>(flags));
+    Put(bytes, static_cast<std::uint16_t>(allocation));
+    return bytes;
+}
+constexpr unsigned kLocales = 7, kSink = 1, kFailOnly = 2, kFailFrom = 4, kNotification = 8;
+
+// Characters of three and four bytes in front of each member that is a text.
+std::string NotAscii(const std::string& text) {
+    std::string all;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        all += text[i];
+        if (i > 0 && text[i] == '"' && text[i - 1] == ':') all += "\xE4\xB8\xAD\xF0\x9F\x98\x80\xC3\x8A";
+    }
+    return all;
+}
+
+// What a target that reads texts begins with: as they are, at their limits, of any type, in other characters, and
+// without memory.
+template <class Make>
+void WriteTexts(const char* target, const std::string& name, const std::string& prefix, unsigned flags, Make make) {
+    ++turn;
+    Write(target, name, prefix + make(test::TextOptions{}) + Circumstances(0, flags, 0));
+    Write(target, name + ".limits",
+          prefix + make(test::TextOptions{test::Values::Limits, turn, 3, 2}) + Circumstances(0, flags | kSink, 0));
+    Write(target, name + ".wild",
+          prefix + make(test::TextOptions{test::Values::Wild, turn, 2, 2}) + Circumstances(0, flags | kSink, 0));
+    Write(target, name + ".characters",
+          prefix + NotAscii(make(test::TextOptions{})) + Circumstances(turn % kLocales, flags, 0));
+    Write(target, name + ".memory",
+          prefix + make(test::TextOptions{})
+              + Circumstances(turn % 2, flags | kSink | (turn % 3 == 0 ? kFailFrom : kFailOnly), turn / 3 % 4));
+}
+
+void WriteCommand(const Command& command) {
+    const std::string name(command.name);
+    const std::uint32_t number = test::FuzzNumberOf(command.name);
+    std::vector<std::byte> record(command.table->size);
+    test::CallerMemory memory;
+    if (command.parses()) {
+        std::string prefix;
+        Put(prefix, number);
+        Put(prefix, std::uint32_t{1}); // a buffer of one record
+        Put(prefix, std::uint8_t{0});
+        WriteTexts("parse", name, prefix, 0,
+                   [&](const test::TextOptions& options) { return test::ReplyText(command, options); });
+        // A value of every shape, and none.
+        const char* const values[] = {"null", "[]", "{}", "5", "\"x\"", "[[{}],[null]]", "[null,{}]"};
+        const std::string shaped = test::Envelope(command, test::JsonTree(values[turn % std::size(values)])).Text();
+        Write("parse", name + ".shape", prefix + shaped);
+        const char* const replies[] = {"", "{", R"({"result":false})", R"({"result":true})", "[1", "\"\\u12\""};
+        Write("parse", name + ".reply", prefix + replies[turn % std::size(replies)]);
+        memory.PrepareBuffer(command, record.data(), record.size());
+        RunParse(command, {test::ReplyText(command).c_str(), record.data(), command.table->size, nullptr});
+    }
+    if (!command.packs() || ItemsBehind(*command.table) != nullptr) return;
+    constexpr std::size_t kMost = std::size_t{16} << 10;
+    const std::string bytes(reinterpret_cast<const char*>(record.data()), std::min(kMost, record.size()));
+    const auto seed = [&](std::uint32_t capacity, std::uint16_t size, std::uint8_t flavour,
+                          const std::string& content) {
+        std::string all;
+        Put(all, number);
+        Put(all, capacity);
+        Put(all, size);
+        Put(all, flavour);
+        return all + content;
+    };
+    Write("pack", name, seed(5, 0, 8, bytes));
+    Write("pack", name + ".characters", seed(5, 0, static_cast<std::uint8_t>(8 | 32 | (1 + turn % 3) << 6), bytes));
+    Write("pack", name + ".any", seed(turn, 0, 8 | 64, std::string("\xD6\xD0\x01\x00\x02\xFF", 6)));
+    Write("pack", name + ".memory", seed(4, static_cast<std::uint16_t>(3 + turn % 3 * 4), 8 | 64, bytes));
+    Write("pack", name + ".two", seed(5, 2 + 4, 8, bytes));
+    Write("pack", name + ".short", seed(4, static_cast<std::uint16_t>(1 + 4 * (turn % 50)), 0, bytes));
+}
+
+void WriteEvent(const events::EventRow& row) {
+    if (row.name.empty()) return;
+    const auto text = [&](const test::TextOptions& options) {
+        return R"({"Event":[{"Code":")" + std::string(row.name) + R"(","Action":"Start","Data":)"
+               + test::RecordTree(*row.table, options).Text() + "}]}";
+    };
+    WriteTexts("events", std::string(row.name), "", 0, text);
+    // The same as a notification, with all that stands around its events.
+    const auto notified = [&](const test::TextOptions& options) {
+        return R"({"params":{"info":{"Transfer":"Offline","Channel":2,"CountInGroup":2,"IndexInGroup":1,"PictureType":1,)"
+               R"("Ack":true,"PicID":[1,2],"Time":"2026-11-22 04:05:06","Tag":"ATMAfterPaste","Resolution":[704,576],)"
+               R"("Flags":["Event","Event","*","other"],"FilePath":"/a/b","Repeat":1,"RecordFile":"r","FTPPath":"f",)"
+               R"("VideoPath":"v","Events":[{"Code":")"
+               + std::string(row.name) + R"(","Data":)" + test::RecordTree(*row.table, options).Text() + "}]}}}";
+    };
+    if (turn % 4 == 0) WriteTexts("events", std::string(row.name) + ".notified", "", kNotification, notified);
+}
+
+void WriteRule(const RuleBody& body) {
+    const std::string type(RuleNameOf(static_cast<std::int32_t>(body.code), false));
+    const std::string name = std::to_string(body.code);
+    const char* const command = turn % 3 == 0 ? "VideoAnalyseRule" : turn % 3 == 1 ? "AudioAnalyseRule" : "IVSFramRule";
+    const auto text = [&](const test::TextOptions& options) {
+        test::JsonTree rule = test::RecordTree(*body.table, options);
+        if (rule.kind() != test::JsonTree::Kind::Object) rule = test::JsonTree::Object();
+        rule.Add("Type", test::JsonTree::String(type));
+        rule.Add("Id", test::JsonTree("3"));
+        rule.Add("Class", test::JsonTree::String("Normal"));
+        const std::string rules = "[" + rule.Text() + "]";
+        if (command == std::string_view("IVSFramRule")) return R"({"result":true,"VideoAnalyseRule":)" + rules + "}";
+        return R"({"result":true,"params":{"table":)" + rules + "}}";
+    };
+    std::string prefix;
+    Put(prefix, static_cast<std::uint8_t>(turn % 3 << 1));
+    const auto room = static_cast<std::uint32_t>(sizeof(CFG_RULE_INFO)) + body.size;
+    Put(prefix, room);
+    WriteTexts("rules", name, prefix, 0, text);
+
+    // The item that it becomes, as a client would hand it back.
+    std::vector<std::byte> items(room);
+    CFG_ANALYSERULES_INFO rules = {};
+    rules.pRuleBuf = reinterpret_cast<std::uint8_t*>(items.data());
+    rules.nRuleLen = static_cast<std::int32_t>(room);
+    RunParse(*FindCommand(command), {text({}).c_str(), &rules, sizeof rules, nullptr});
+    std::string raw;
+    Put(raw, std::uint8_t{1});
+    Put(raw, std::uint32_t{0});
+    Put(raw, static_cast<std::uint32_t>(turn % 2 == 0 ? 0x101 : 0)); // GBK and a sink
+    std::uint16_t index = 0;
+    while (&RuleBodies()[index] != &body)
+        ++index;
+    Put(raw, index);
+    Put(raw, std::uint8_t{0});
+    constexpr std::size_t kMost = 60'000;
+    const std::size_t size = std::min<std::size_t>(body.size, kMost);
+    Put(raw, static_cast<std::uint16_t>(size));
+    raw.append(reinterpret_cast<const char*>(items.data()) + sizeof(CFG_RULE_INFO), size);
+    Write("rules", name + ".item", raw);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     if (argc != 2) {
-        std::fputs("usage: fuzz_seeds CORPUS_DIRECTORY\n", stderr);
+        std::fputs("usage: fuzz_seeds DIRECTORY\n", stderr);
         return 2;
     }
-    const std::filesystem::path corpus = argv[1];
-    for (const Command& command : test::DistinctCommands()) {
-        const std::string text = test::ReplyText(command, {.most = 1, .records = 1});
-        std::vector<std::byte> record(command.table->size);
-        if (command.parses()) {
-            std::string seed;
-            Put(seed, test::FuzzNumberOf(command.name));
-            Put(seed, std::uint32_t{1}); // a buffer of one record
-            Put(seed, std::uint8_t{0});
-            Write(corpus / "parse" / std::string(command.name), seed + text);
-            test::CallerMemory memory;
-            memory.PrepareBuffer(command, record.data(), record.size());
-            RunParse(command, {text.c_str(), record.data(), command.table->size, nullptr});
-        }
-        if (!command.packs()) continue;
-        std::string seed;
-        Put(seed, test::FuzzNumberOf(command.name));
-        Put(seed, std::uint32_t{5});
-        Put(seed, std::uint16_t{0}); // one record
-        Put(seed, std::uint8_t{8});  // with its size words
-        constexpr std::size_t kMost = 1024;
-        seed.append(reinterpret_cast<const char*>(record.data()), std::min(kMost, record.size()));
-        Write(corpus / "pack" / std::string(command.name), seed);
-    }
+    directory = argv[1];
+    for (const Command& command : test::DistinctCommands())
+        WriteCommand(command);
+    for (const events::EventRow& row : events::Events())
+        WriteEvent(row);
+    for (const RuleBody& body : RuleBodies())
+        WriteRule(body);
     return 0;
 }

@@ -31,6 +31,12 @@ class FuzzInput {
         rest_.remove_prefix(size);
         return number;
     }
+    // The next bytes, as many as there are.
+    std::string_view Skip(std::size_t count) {
+        const std::string_view bytes = rest_.substr(0, count);
+        rest_.remove_prefix(bytes.size());
+        return bytes;
+    }
     std::string_view Rest() const { return rest_; }
 
   private:
