@@ -6,6 +6,7 @@
 
 #include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
+#include "orrery/orrery.h"
 #include "support/CommandCalls.h"
 
 #include <algorithm>
@@ -82,6 +83,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const test::FuzzBlock text(capacity, 0);
     request.textBuffer = reinterpret_cast<char*>(text.get());
     request.textCapacity = static_cast<std::uint32_t>(capacity);
-    RunPack(command, request);
+    const bool packed = RunPack(command, request) == Outcome::Done;
+    if (FindCommand(command.name) == nullptr) return 0;
+    if (CLIENT_PacketData(command.name.data(), record.get(), static_cast<std::uint32_t>(records), request.textBuffer,
+                          request.textCapacity)
+        != packed)
+        std::abort();
     return 0;
 }
