@@ -18,6 +18,9 @@ constexpr std::size_t kRecords = 4;
 
 constexpr MemberRow kRows[] = {
     {"Email"},
+    {"HeatImagingThermometry"},
+    {"ParkingSpaceLightGroup"},
+    {"ThermometryRule"},
 };
 
 const Command& CommandNamed(const char* name) {

@@ -6,6 +6,11 @@
 #include "analyse/RuleFrame.h"
 #include "device/GeneralSwitch.h"
 #include "frame/CommandIndex.h"
+#include "frame/GeneralSwitch.h"
+#include "frame/JsonParser.h"
+#include "frame/NameHash.h"
+#include "later/Parking.h"
+#include "later/Thermography.h"
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
@@ -20,6 +25,73 @@ namespace orrery {
 namespace {
 
 using namespace words;
+// Words of the rows below.
+constexpr ParseFrame kParse;
+constexpr PackFrame kPack;
+
+constexpr Command Generic(std::string_view name, const record::Table& table, TableFrame frame) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = command.pack = Command::Frame::Table;
+    command.tableFrame = frame;
+    return command;
+}
+
+constexpr Command Both(std::string_view name, const record::Table& table, ParseFrame parse, PackFrame pack) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = command.pack = Command::Frame::Family;
+    command.parseFrame = parse;
+    command.packFrame = pack;
+    return command;
+}
+
+constexpr Command Reply(std::string_view name, const record::Table& table, ParseFrame parse) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = Command::Frame::Family;
+    command.parseFrame = parse;
+    return command;
+}
+
+// A parse function of its own; the frame's words tell tools what it does.
+constexpr Command OwnParse(std::string_view name, const record::Table& table,
+                           Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
+    Command command = Both(name, table, like, pack);
+    command.parse = Command::Frame::Own;
+    command.ownParse = parse;
+    return command;
+}
+
+// A buffer of items, described by the caller's record: read by a function of its own and, where there is one, written.
+// The frame's words tell tools where the items stand.
+constexpr Command Own(std::string_view name, const record::Table& table, Outcome (*parse)(const ParseRequest&),
+                      Outcome (*pack)(const PackRequest&), ParseFrame like = kParse) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.parse = Command::Frame::Own;
+    if (pack != nullptr) command.pack = Command::Frame::Own;
+    command.parseFrame = like;
+    command.ownParse = parse;
+    command.ownPack = pack;
+    return command;
+}
+
+// Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
+constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
+constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
+
+constexpr ParseFrame kCaps = kParse.From(Source::Caps);
+constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
+
+constexpr TableFrame kOneCleared{.zeroBuffer = true};
+// Depth 1: the record itself is a list, or stands in one.
+constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
+constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
 
 constexpr Command kCommands[] = {
     // Switches
@@ -124,12 +196,32 @@ constexpr Command kCommands[] = {
     // Storage
 
     // Heat imaging and measuring
+    Generic("ThermographyOptions", kThermography, kArraysCleared),
+    Generic("ThermometryRule", kThermometryRules, kArraysCleared),
+    Generic("TemperatureStatistics", kTemperatureStatistics, kArraysCleared),
+    Generic("HeatImagingThermometry", kHeatImagingThermometry, kOneCleared),
 
     // Home automation
 
     // Later settings
 
     // Parking and lane screens
+    Both("WorkState", kWorkState, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerFilled).ZeroesLength(),
+         kPack.As(Form::BareIfOne)),
+    Both("ParkingSpaceScreen", kParkingScreen, kParse.Takes(Take::AnyOrMany).Length(ReplyLength::PerRecord),
+         kPack.As(Form::BareIfOne)),
+    Both("ParkingSpaceCellStatus", kParkingCellStatus, kParse.Takes(Take::AnyOrMany).Length(ReplyLength::PerRecord),
+         kPack.As(Form::BareIfOne)),
+    Both("LanesStateReport", kLanesStateReport, kParse, kPack),
+    Both("RainBrushMode", kRainBrushMode, kParse, kPack),
+    Both("TrafficStrobe", kTrafficStrobe, kParse, kPack),
+    Both("TrafficVoiceBroadcast", kTrafficVoice, kParse, kPack),
+    Both("AutoStartupDelay", kAutoStartupDelay, kParse, kPack.Fits(Capacity::Raw)),
+    Both("ECKConfig", kEck, kParse, kLoose),
+    Both("GuideScreen", kGuideScreen, kParse, kLoose),
+    Generic("ParkingSpaceAccessFilter", kParkingFilter, kOneCleared),
+    Generic("ParkingSpaceLightGroup", kParkingLightGroup, kOneOfArrayCleared),
+    Generic("ParkSpaceOutLight", kParkOutLight, kOneCleared),
 
     // Scenes
 
