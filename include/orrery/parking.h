@@ -127,8 +127,8 @@ typedef struct CFG_AUTO_STARTUP_DELAY_INFO {
 
 /* Screen of lights at a gate. */
 typedef struct CFG_ECK_LED {
-    char szSpeed[32];       /* "LED"."Speed": how fast the text runs */
-    char szCustomData[512]; /* "LED"."CustomData": the text */
+    char szSpeed[32];       /* "Speed": how fast the text runs */
+    char szCustomData[512]; /* "CustomData": the text */
 } CFG_ECK_LED;
 
 /* "ECKConfig": a gate's controller. A table of another type leaves the record cleared. The text may fill its buffer; at
@@ -143,10 +143,10 @@ typedef struct CFG_ECK_INFO {
 
 /* A line of a guide screen. */
 typedef struct CFG_GUIDE_ARROW {
-    char szText[128];    /* "Arrow"[..]."Text" */
-    int32_t emDirection; /* "Arrow"[..]."Direction": CFG_ARROW_... */
-    char szPosition[32]; /* "Arrow"[..]."Position": where the arrow stands, in the device's words */
-    int32_t emRoll;      /* "Arrow"[..]."Roll": CFG_ROLL_... */
+    char szText[128];    /* "Text" */
+    int32_t emDirection; /* "Direction": CFG_ARROW_... */
+    char szPosition[32]; /* "Position": where the arrow stands, in the device's words */
+    int32_t emRoll;      /* "Roll": CFG_ROLL_... */
 } CFG_GUIDE_ARROW;
 
 /* "GuideScreen": a screen that shows the way. A table of another type leaves the record cleared. Capacity as of
