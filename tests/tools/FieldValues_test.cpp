@@ -62,11 +62,13 @@ bool HasPrefix(std::string_view name, std::string_view prefix) {
            && std::isupper(static_cast<unsigned char>(name[prefix.size()])) != 0;
 }
 
-// Whether a comment tells of codes: "CFG_COLOR_...", "CFG_COLOR", "NC" 0.
+// Whether a comment tells of codes: `"Color": CFG_COLOR_...`, `"Color": CFG_COLOR`, `"NC" 0`.
 bool TellsCodes(std::string_view comment) {
     for (std::size_t at = 0; at < comment.size(); ++at) {
         const std::string_view rest = comment.substr(at);
-        if (rest.starts_with("CFG_") || rest.starts_with("EVENT_") || rest.starts_with("EM_")) return true;
+        for (const std::string_view codes : {"\": CFG_", "\": EVENT_", "\": EM_"}) {
+            if (rest.starts_with(codes)) return true;
+        }
         const bool isNumber = std::isdigit(static_cast<unsigned char>(comment[at])) != 0;
         if (isNumber && at >= 2 && comment.substr(at - 2, 2) == "\" ") return true;
         if (isNumber && (comment.substr(at + 1, 2) == " \"" || comment.substr(at + 1, 6) == " for \"")) return true;
@@ -87,7 +89,7 @@ Way ExpectedWay(const Table& table, const Field& field) {
                                                                                                          : Way::Text;
     case Cell::F32:
     case Cell::F64:
-        return Way::Real;
+        return comment.find("whole number") != std::string::npos ? Way::Int : Way::Real;
     case Cell::Pointer:
     case Cell::Record:
         return Way::None;
@@ -97,6 +99,7 @@ Way ExpectedWay(const Table& table, const Field& field) {
     if (HasPrefix(name, "em")) return Way::Names;
     if (HasPrefix(name, "b")) return Way::Bool;
     if (TellsCodes(comment)) return Way::Names;
+    if (comment.find("read as unsigned") != std::string::npos) return Way::UInt;
     return field.cell == Cell::U32 ? Way::UInt : Way::Int;
 }
 
@@ -314,18 +317,9 @@ std::vector<std::byte> ExpectedBytes(const Place& place, Round round) {
     } else if (place.way == Way::Names) {
         record::StoreInteger(field.cell, bytes.data(), CodeFor(field, place.number));
     } else {
-        record::StoreInteger(field.cell, bytes.data(), IntegerOf(place.way, round, place.number));
+        record::StoreNumber(field.cell, bytes.data(), IntegerOf(place.way, round, place.number));
     }
     return bytes;
-}
-
-// Fields that a function looks after once the record is read.
-bool IsAdjusted(const Table& table, const Field& field) {
-    static const std::set<std::string> adjusted = {
-        "dwAxleNum",        // at most 8, as many as there are weights
-        "dwAxleLengthInfo", // as many as lie between the axles that there are
-    };
-    return table.afterRead != nullptr && adjusted.contains(field.name);
 }
 
 class FieldValuesInGbk : public test::CompiledLocales {};
@@ -338,6 +332,7 @@ TEST_F(FieldValuesInGbk, AreReadByTheirOwnRules) {
     std::size_t compared = 0;
     for (const Table* const table : tables.all) {
         if (table->shape != record::Shape::Object || table->takesFirst) continue;
+        if (table->afterRead != nullptr) continue; // may change any field: its own tests hold it
         const std::vector<Place> places = PlacesOf(*table);
         for (const Round round : {Round::Negative, Round::Unsigned, Round::Huge, Round::Two, Round::True}) {
             JsonTree tree = JsonTree::Object();
@@ -354,11 +349,13 @@ TEST_F(FieldValuesInGbk, AreReadByTheirOwnRules) {
             const events::EventSourceInfo source{};
             const events::EventCall event{{}, &source, &document.root};
             record::ReadCall call{parser, document.root};
-            call.context = &event;
+            // Functions of events look at the event that is around them.
+            const std::string_view name = table->record;
+            if (name.starts_with("EVENT_") || name.starts_with("DEV_EVENT_")) call.context = &event;
             record::ReadFields(*table, document.root, record.data(), call);
             for (const Place& place : places) {
                 const Field& field = *place.field;
-                if (!field.readable || !IsTaken(field, round, place.way) || IsAdjusted(*table, field)) continue;
+                if (!field.readable || !IsTaken(field, round, place.way)) continue;
                 if (field.firstBytes != 0 && field.firstBytes < field.elementSize) continue;
                 if (field.readCondition.exists() && record::LoadSlot(field.readCondition, record.data()) == 0) continue;
                 const auto expected = ExpectedBytes(place, round);
@@ -410,7 +407,7 @@ TEST_F(FieldValuesInGbk, AreWrittenByTheirOwnRules) {
             } else {
                 const std::int64_t number =
                     place.way == Way::UInt ? 3000000000 + place.number : -1000 - int(place.number);
-                record::StoreInteger(field.cell, at, field.notNegative ? 1000 + place.number : number);
+                record::StoreNumber(field.cell, at, field.notNegative ? 1000 + place.number : number);
             }
         }
         for (const Field& field : *table) {
@@ -450,6 +447,8 @@ TEST_F(FieldValuesInGbk, AreWrittenByTheirOwnRules) {
                 const std::string whole = kUtf8 + std::to_string(place.number);
                 if (field.elementSize <= whole.size()) continue; // cut, maybe within a character
                 expected = "\"" + whole + "\"";
+            } else if (place.way == Way::Int && (field.cell == Cell::F32 || field.cell == Cell::F64)) {
+                continue; // a real on the way out: the commands' own tests tell
             } else if (IsWrittenAsBool(*table, place)) {
                 const bool atOne = test::CommentOf(table->record, field.name).find("exactly 1") != std::string::npos
                                    || field.trueAtOne;
