@@ -21,6 +21,8 @@ constexpr MemberRow kRows[] = {
     {"HeatImagingThermometry"},
     {"ParkingSpaceLightGroup"},
     {"ThermometryRule"},
+    {"SCADADev", 2},
+    {"CommGlobal", 1, 8},
 };
 
 const Command& CommandNamed(const char* name) {

@@ -2,7 +2,12 @@
 
 #include "CommandWords.h"
 #include "alarm/AlarmCaps.h"
+#include "alarm/AlarmHardware.h"
 #include "alarm/AlarmInput.h"
+#include "alarm/AlarmServers.h"
+#include "alarm/Arming.h"
+#include "alarm/DeviceFaults.h"
+#include "alarm/VehicleAlarms.h"
 #include "analyse/RuleFrame.h"
 #include "device/GeneralSwitch.h"
 #include "frame/CommandIndex.h"
@@ -85,8 +90,22 @@ constexpr Command Own(std::string_view name, const record::Table& table, Outcome
 constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
 constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
 
+// Settings of several devices, inputs or outputs: a record each.
+constexpr ParseFrame kOneOrMany = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
+constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
+// A record that is a list.
+constexpr ParseFrame kList = kParse.Takes(Take::List);
+
 constexpr ParseFrame kCaps = kParse.From(Source::Caps);
 constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
+
+// A command that tells the log why it failed.
+constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequest&) noexcept,
+                         void (*pack)(Outcome, const PackRequest&) noexcept) {
+    command.parseFailed = parse;
+    command.packFailed = pack;
+    return command;
+}
 
 constexpr TableFrame kOneCleared{.zeroBuffer = true};
 // Depth 1: the record itself is a list, or stands in one.
@@ -115,6 +134,61 @@ constexpr Command kCommands[] = {
     Both("PSTNBreakLine", kStorageAlarm, kUntested, kLoose),
 
     // Alarm devices
+    Both("ChassisIntrusion", kFaultAlarm, kParse, kLoose),
+    Both("Emergency", kFaultAlarm, kParse, kLoose),
+    Both("BatteryLowPowerAlarm", kFaultAlarm, kParse, kLoose),
+    Both("MCSGeneralCapacityLow", kFaultAlarm, kParse, kLoose),
+    Both("MCSDataNodeOffline", kFaultAlarm, kParse, kLoose),
+    Both("MCSDiskOffline", kFaultAlarm, kParse, kLoose),
+    Both("MCSDiskSlow", kFaultAlarm, kParse, kLoose),
+    Both("MCSDiskBroken", kFaultAlarm, kParse, kLoose),
+    Both("MCSDiskUnknowError", kFaultAlarm, kParse, kLoose),
+    Both("MCSMetadataServerAbnormal", kFaultAlarm, kParse, kLoose),
+    Both("MCSCatalogServerAbnormal", kFaultAlarm, kParse, kLoose),
+    Both("MCSGeneralCapacityResume", kFaultAlarm, kParse, kLoose),
+    Both("MCSDataNodeOnline", kFaultAlarm, kParse, kLoose),
+    Both("MCSDiskOnline", kFaultAlarm, kParse, kLoose),
+    Both("MCSMetadataSlaveOnline", kFaultAlarm, kParse, kLoose),
+    Both("MCSCatalogServerOnline", kFaultAlarm, kParse, kLoose),
+    Both("ParkingCard", kFaultAlarm, kUntested, kLoose),
+    Both("NetMonitorAbort", kFaultAlarm, kUntested, kLoose),
+    Both("UserLockAlarm", kUserLockAlarm, kUntested, kLoose),
+    Both("LoginFailureAlarm", kLoginFailure, kParse, kLoose),
+    Both("GpsNotAligned", kNotifyFault, kParse, kLoose),
+    Both("WireLessNotConnected", kNotifyFault, kParse, kLoose),
+    Both("UnFocusDetect", kUnFocusDetect, kUntested, kLoose),
+    Both("PowerFault", kPowerFault, kList, kLoose),
+    Both("BurnFull", kBurnFull, kList, kLoose),
+    Both("DiskFluxAlarm", kFluxAlarm, kParse, kPack),
+    Both("NetFluxAlarm", kFluxAlarm, kParse, kPack),
+    Both("TemperatureAlarm", kClimateAlarm, kParse, kPack),
+    Both("FanSpeedAlarm", kClimateAlarm, kParse, kPack),
+    Both("HighSpeed", kHighSpeed, kUntested, kLoose),
+    Both("LowSpeed", kLowSpeed, kUntested, kLoose),
+    Both("TimeSpeedLimit", kTimeSpeedLimit, kList, kPack),
+    Both("VoiceAlert", kVoiceAlert, kList, kPack),
+    Both("CQDTSet", kCqdtSet, kParse, kPack),
+    Both("Oil4GFlow", kOil4GFlow, kUntested, kLoose),
+    Both("VideoWidget4GFlow", kVideoWidget4GFlow, kUntested, kLoose),
+    Both("RCEmergencyCall", kRcEmergencyCall, kUntested, kLoose),
+    Both("FetchMoneyOverTime", kFetchMoneyOverTime, kUntested, kLoose),
+    Both("CommGlobal", kCommGlobal, kParse, kPack),
+    Both("AlarmSubSystem", kAlarmSubSystem, kOneOrMany, kBareIfOne),
+    Both("DefenceAreaDelay", kDefenceAreaDelay, kUntested, kLoose),
+    Both("AlarmShieldRule", kAlarmShieldRule, kUntested, kLoose),
+    Both("SensorSampling", kSensorSampling, kParse, kPack),
+    Both("SnapLinkage", kSnapLinkage, kOneOrMany, kBareIfOne.Fits(Capacity::Loose)),
+    Both("AnalogAlarm", kAnalogAlarm, kOneOrMany, kBareIfOne),
+    Both("ExAlarm", kExAlarm, kOneOrMany.Result(ResultTest::NotTested), kBareIfOne),
+    Both("AlarmOut", kAlarmOut, kOneOrMany, kBareIfOne),
+    Both("ExAlarmOut", kExAlarmOut, kOneOrMany, kBareIfOne),
+    Both("AlarmKeyboard", kSerialAlarmDevice, kOneOrMany, kBareIfOne),
+    Both("ExAlarmBox", kSerialAlarmDevice, kOneOrMany, kBareIfOne),
+    Both("FlashLight", kFlashLight, kUntested, kLoose),
+    Logged(Both("SCADADev", kScadaDev, kOneOrMany.NeedsText(), kBareIfOne), LogScadaParse, LogScadaPack),
+    Both("AlarmServer", kAlarmServer, kParse, kPack),
+    Both("PSTNAlarmServer", kPstnAlarmServer, kParse, kPack),
+    Both("Wireless", kWireless, kParse, kPack),
 
     // Alarm capabilities
     Reply("alarm.getAlarmCaps", kAlarmCaps, kCapsTextTrue),
@@ -251,6 +325,61 @@ std::span<const Command> Commands() noexcept {
 
 const Command* FindCommand(std::string_view name) noexcept {
     return kIndex.Find(name);
+    for (std::size_t slot = HashNow(name) % kIndex.size(); kIndex[slot] != kFree; slot = (slot + 1) % kIndex.size()) {
+        const Command& command = kCommands[kIndex[slot]];
+        if (EqualsFolded(command.name, name)) return &command;
+    }
+    return nullptr;
+}
+
+const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
+    return &descriptor == &kAnalyseRules ? &kRuleItems : nullptr;
+}
+
+namespace {
+
+Outcome Parse(const Command& command, const ParseRequest& request) noexcept {
+    switch (command.parse) {
+    case Command::Frame::None:
+        break;
+    case Command::Frame::Table:
+        return ParseTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Family:
+        return ParseFamily(*command.table, command.parseFrame, request);
+    case Command::Frame::Own:
+        return command.ownParse(request);
+    }
+    return Outcome::UnknownCommand;
+}
+
+Outcome Pack(const Command& command, const PackRequest& request) noexcept {
+    switch (command.pack) {
+    case Command::Frame::None:
+        break;
+    case Command::Frame::Table:
+        return PacketTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Family:
+        return PacketFamily(*command.table, command.packFrame, request);
+    case Command::Frame::Own:
+        return command.ownPack(request);
+    }
+    return Outcome::UnknownCommand;
+}
+
+} // namespace
+
+Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
+    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
+    const Outcome outcome = Parse(command, request);
+    if (outcome != Outcome::Done && command.parseFailed != nullptr) command.parseFailed(outcome, request);
+    return outcome;
+}
+
+Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
+    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
+    const Outcome outcome = Pack(command, request);
+    if (outcome != Outcome::Done && command.packFailed != nullptr) command.packFailed(outcome, request);
+    return outcome;
 }
 
 } // namespace orrery

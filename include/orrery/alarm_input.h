@@ -24,13 +24,16 @@ enum {
     CFG_ENABLE_DISABLE_ALWAYS = 3 /* "DisableAlways" */
 };
 
-/* "Alarm": an alarm input. Keys that are absent leave 0 unless told otherwise; codes without a text are not written. */
+/* "Alarm": an alarm input. "ExAlarm": an input of an extension box; it takes a record an element of a list, or one
+ * record from an object, refuses other types and an empty list, writes one whole record bare and several as a list, and
+ * its text must be shorter than the capacity. Keys that are absent leave 0 unless told otherwise; codes without a text
+ * are not written. */
 typedef struct CFG_ALARM_INPUT_INFO {
-    int32_t nChannel;                       /* the reply's "channel"; not written */
+    int32_t nChannel;                       /* the reply's "channel", in every record of a list; not written */
     int32_t bEnable;                        /* "Enable" */
     char szName[64];                        /* "Name" */
     int32_t nSensorType;                    /* "SensorType": CFG_SENSOR_... */
-    CFG_EVENT_HANDLER_INFO stuEventHandler; /* "EventHandler", with the week */
+    CFG_EVENT_HANDLER_INFO stuEventHandler; /* "EventHandler"; of "Alarm" with the week */
     int32_t abDeviceID;                     /* 1 when "ID" was there; "ID" is written in every case */
     char szDeviceID[128];                   /* "ID" */
     int32_t nPole;                          /* "Pole": polarity of the contact, 0 or 1 */

@@ -11,8 +11,10 @@
 #define ORRERY_ORRERY_H
 
 #include "orrery/alarm_caps.h"
+#include "orrery/alarm_device.h"
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_rules.h"
+#include "orrery/comm_attribute.h"
 #include "orrery/encode.h"
 #include "orrery/event_codes.h"
 #include "orrery/event_types.h"

@@ -24,28 +24,36 @@ NAMES(kEnableControls, kFolded.Unknown(CFG_ENABLE_NORMAL),
           {CFG_ENABLE_DISABLE_ALWAYS, "DisableAlways"},
       });
 
+// Inputs of the device itself keep their week in the linkage as well, those of extension boxes do not.
+template <const TypedTable<CFG_EVENT_HANDLER_INFO>& Linkage>
+struct AlarmInputRows {
+    using R = CFG_ALARM_INPUT_INFO;
+    static constexpr Field rows[] = {
+        FIELD(nChannel, "params/channel", Int).FromRoot(),
+        FIELD(bEnable, "Enable", Bool),
+        FIELD(szName, "Name", Text),
+        FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
+        FIELD(stuEventHandler, "EventHandler", Record(Linkage)).Always(),
+        FIELD(abDeviceID, "ID", Presence),
+        FIELD(szDeviceID, "ID", Text),
+        FIELD(nPole, "Pole", Int),
+        FIELD(emSenseMethod, "SenseMethod", Names(kSenseMethods)).Absent(EM_SENSE_UNKNOWN),
+        FIELD(emEnableControl, "EnableControl", Names(kEnableControls)),
+        FIELD(nDisableDelay, "DisableDelay", Int),
+        FIELD(emDefenceAreaType, "DefenceAreaType", Names(kDefenceAreaTypes)),
+        FIELD(nEnableDelay, "EnableDelay", Int),
+        FIELD(nSlot, "Slot", Int).Absent(-1).WriteUnless(-1),
+        FIELD(nLevel1, "Level1", Int).Absent(-1).WriteUnless(-1),
+        FIELD(abLevel2),
+        FIELD(nLevel2, "Level2", Int).Absent(-1).SetsAndNeeds(AT(abLevel2)),
+    };
+};
+
 } // namespace
 
-TABLE(kAlarmInput, CFG_ALARM_INPUT_INFO,
-      {
-          FIELD(nChannel, "params/channel", Int).FromRoot(),
-          FIELD(bEnable, "Enable", Bool),
-          FIELD(szName, "Name", Text),
-          FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
-          FIELD(stuEventHandler, "EventHandler", Record(kEventHandlerWeek)).Always(),
-          FIELD(abDeviceID, "ID", Presence),
-          FIELD(szDeviceID, "ID", Text),
-          FIELD(nPole, "Pole", Int),
-          FIELD(emSenseMethod, "SenseMethod", Names(kSenseMethods)).Absent(EM_SENSE_UNKNOWN),
-          FIELD(emEnableControl, "EnableControl", Names(kEnableControls)),
-          FIELD(nDisableDelay, "DisableDelay", Int),
-          FIELD(emDefenceAreaType, "DefenceAreaType", Names(kDefenceAreaTypes)),
-          FIELD(nEnableDelay, "EnableDelay", Int),
-          FIELD(nSlot, "Slot", Int).Absent(-1).WriteUnless(-1),
-          FIELD(nLevel1, "Level1", Int).Absent(-1).WriteUnless(-1),
-          FIELD(abLevel2),
-          FIELD(nLevel2, "Level2", Int).Absent(-1).SetsAndNeeds(AT(abLevel2)),
-      });
+constexpr TypedTable<CFG_ALARM_INPUT_INFO> kAlarmInput =
+    MakeTable<AlarmInputRows<kEventHandlerWeek>>("CFG_ALARM_INPUT_INFO");
+constexpr TypedTable<CFG_ALARM_INPUT_INFO> kExAlarm = MakeTable<AlarmInputRows<kEventHandler>>("CFG_ALARM_INPUT_INFO");
 
 TABLE(kNetAlarm, CFG_NET_ALARM_INFO,
       {

@@ -8,6 +8,7 @@
 namespace orrery {
 
 extern const record::TypedTable<CFG_ALARM_INPUT_INFO> kAlarmInput;
+extern const record::TypedTable<CFG_ALARM_INPUT_INFO> kExAlarm;
 extern const record::TypedTable<CFG_NET_ALARM_INFO> kNetAlarm;
 extern const record::TypedTable<CFG_LOSS_DETECT_INFO> kLossDetect;
 extern const record::TypedTable<CFG_BLIND_DETECT_INFO> kBlindDetect;

@@ -20,6 +20,9 @@ struct Command {
     PackFrame packFrame;
     Outcome (*ownParse)(const ParseRequest& request) = nullptr;
     Outcome (*ownPack)(const PackRequest& request) = nullptr;
+    // Told why a call failed, for commands that log it.
+    void (*parseFailed)(Outcome why, const ParseRequest& request) noexcept = nullptr;
+    void (*packFailed)(Outcome why, const PackRequest& request) noexcept = nullptr;
 
     bool parses() const { return parse != Frame::None; }
     bool packs() const { return pack != Frame::None; }

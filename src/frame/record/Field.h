@@ -213,7 +213,7 @@ struct Field {
     constexpr Field RefusedElement(Nulls rule) const { return With(*this, &Field::refused, rule); }
     // Read only when the member is set, by a key that stands before this one in key order.
     constexpr Field ReadIf(Slot slot) const { return With(*this, &Field::readCondition, slot); }
-    // Only so many bytes of a text are converted.
+    // Only so many bytes of a text, or of a time's text, are read.
     constexpr Field FirstBytes(std::uint16_t bytes) const { return With(*this, &Field::firstBytes, bytes); }
     constexpr Field Only(OnlyType type) const { return With(*this, &Field::only, type); }
     constexpr Field FromRoot() const { return With(With(*this, &Field::fromRoot, true), &Field::writable, false); }

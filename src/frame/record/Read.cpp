@@ -63,6 +63,12 @@ void ReadSwitches(const Field& field, const Value& value, std::byte* at) noexcep
     }
 }
 
+// The text that a field is read from, cut where it reads only the first bytes.
+Value FirstBytesOf(const Field& field, const Value& value) noexcept {
+    const bool isCut = field.firstBytes != 0 && value.isString() && value.asString().size() > field.firstBytes;
+    return isCut ? Value::OfString(value.asString().substr(0, field.firstBytes)) : value;
+}
+
 // A record, with the name under which it stands for those that keep it.
 bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& call,
                std::string_view memberName) noexcept {
@@ -106,12 +112,10 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         StoreReal(field.cell, at, value.asDouble());
         break;
     case Kind::Text:
-    case Kind::RawText: {
-        const bool isCut = field.firstBytes != 0 && value.isString() && value.asString().size() > field.firstBytes;
-        const Value text = isCut ? Value::OfString(value.asString().substr(0, field.firstBytes)) : value;
-        call.parser.GetJsonString(text, reinterpret_cast<char*>(at), field.elementSize, field.kind == Kind::Text);
+    case Kind::RawText:
+        call.parser.GetJsonString(FirstBytesOf(field, value), reinterpret_cast<char*>(at), field.elementSize,
+                                  field.kind == Kind::Text);
         break;
-    }
     case Kind::FullText:
         call.parser.GetConvertedText(value, reinterpret_cast<char*>(at), field.elementSize);
         break;
@@ -140,7 +144,7 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
         JsonParser::GetNetTimeEx(value, reinterpret_cast<NET_TIME_EX*>(at));
         break;
     case Kind::ClockTime:
-        JsonParser::GetClockTime(value, reinterpret_cast<NET_TIME*>(at));
+        JsonParser::GetClockTime(FirstBytesOf(field, value), reinterpret_cast<NET_TIME*>(at));
         break;
     case Kind::Date:
         JsonParser::GetDate(value, reinterpret_cast<NET_TIME*>(at));
