@@ -1,6 +1,8 @@
 #include "Commands.h"
 
 #include "CommandWords.h"
+#include "access/AccessControl.h"
+#include "access/VideoTalk.h"
 #include "alarm/AlarmCaps.h"
 #include "alarm/AlarmHardware.h"
 #include "alarm/AlarmInput.h"
@@ -106,6 +108,9 @@ constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequ
     command.packFailed = pack;
     return command;
 }
+// Doors and their like: one or a list, of which a null element is a record without keys.
+constexpr ParseFrame kOneOrList = kParse.Takes(Take::OneOrMany).ReadsNulls().Length(ReplyLength::PerRecord);
+constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
 
 constexpr TableFrame kOneCleared{.zeroBuffer = true};
 // Depth 1: the record itself is a list, or stands in one.
@@ -197,8 +202,26 @@ constexpr Command kCommands[] = {
     Reply("AnalogAlarm.getCaps", kAnalogAlarmCaps, kCaps),
 
     // Access control
+    Both("AccessControlGeneral", kAccessGeneral, kParse, kPack),
+    Both("AccessControl", kAccessControl, kOneOrList, kBareIfOne),
+    Reply("accessControlManager.getCaps", kAccessCaps, kCaps),
+    Both("AccessTimeSchedule", kAccessTimeSchedule, kOneOrList, kBareIfOne),
+    Both("OpenDoorGroup", kOpenDoorGroup, kParse, kPack),
+    Both("OpenDoorRoute", kOpenDoorRoute, kParse, kPack),
+    Both("AccessWorkMode", kAccessWorkMode, kOneOrList, kBareIfOne),
+    Both("AccessControlTextDisplay", kAccessTextDisplay, kParse, kPack),
 
     // Video talk
+    Both("Building", kBuilding, kParse, kPack),
+    Both("BuildingExternal", kBuildingExternal, kParse, kPack),
+    Both("DialRule", kDialRule, kParse, kPack),
+    Both("VTNoAnswerForward", kNoAnswerForward, kParse, kPack),
+    Both("VTOCall", kVtoCall, kParse, kPack),
+    Both("VTSCallInfo", kVtsCall, kParse, kPack),
+    Both("DevList", kDevList, kParse.Takes(Take::List).Clears(Clearing::Kept).Accepts(HasRoomForDevices), kPack),
+    Both("VideoTalkPhoneGeneral", kPhoneGeneral, kParse, kPack),
+    Both("VideoTalkPhoneBasic", kPhoneBasic, kParse, kPack),
+    Generic("ShortcutCall", kShortcutCall, TableFrame{.dimension = 1}),
 
     // Device settings
 

@@ -10,6 +10,7 @@
 #ifndef ORRERY_ORRERY_H
 #define ORRERY_ORRERY_H
 
+#include "orrery/access_control.h"
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_device.h"
 #include "orrery/alarm_input.h"
@@ -30,6 +31,7 @@
 #include "orrery/thermography.h"
 #include "orrery/traffic_rules.h"
 #include "orrery/types.h"
+#include "orrery/video_talk.h"
 #include "orrery/wlan.h"
 
 #ifdef __cplusplus
@@ -56,8 +58,9 @@ uint32_t ORRERY_Version(void);
  *                 all of it is cleared first and stays so on failure, and what the text leaves out is zero.
  * bufferSize      Bytes at `buffer`, at least one record, but for "Network". Records that do not fit whole are left
  *                 out.
- * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan" and
- *                 "Https" add to what it holds: set it to 0 first. They take a missing table as nothing to read.
+ * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan",
+ *                 "Https" and those whose headers say so add to what it holds: set it to 0 first. They take a missing
+ *                 table as nothing to read.
  *
  * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8, the
  * C locale and a codeset that iconv does not know they are the device's bytes. What the encoding lacks is a '?'. A text
