@@ -18,6 +18,7 @@
 #include "frame/NameHash.h"
 #include "later/Parking.h"
 #include "later/Thermography.h"
+#include "later/Home.h"
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
@@ -109,13 +110,15 @@ constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequ
     return command;
 }
 // Doors and their like: one or a list, of which a null element is a record without keys.
-constexpr ParseFrame kOneOrList = kParse.Takes(Take::OneOrMany).ReadsNulls().Length(ReplyLength::PerRecord);
-constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
+constexpr ParseFrame kDoors = kParse.Takes(Take::OneOrMany).ReadsNulls().Length(ReplyLength::PerRecord);
+constexpr PackFrame kDoorsBareIfOne = kPack.As(Form::BareIfOne);
 
 constexpr TableFrame kOneCleared{.zeroBuffer = true};
 // Depth 1: the record itself is a list, or stands in one.
 constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
 constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
+constexpr TableFrame kScenesCleared{.arrayForm = true, .zeroBuffer = true};
+constexpr TableFrame kHomeCleared{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
 
 constexpr Command kCommands[] = {
     // Switches
@@ -203,12 +206,12 @@ constexpr Command kCommands[] = {
 
     // Access control
     Both("AccessControlGeneral", kAccessGeneral, kParse, kPack),
-    Both("AccessControl", kAccessControl, kOneOrList, kBareIfOne),
+    Both("AccessControl", kAccessControl, kDoors, kDoorsBareIfOne),
     Reply("accessControlManager.getCaps", kAccessCaps, kCaps),
-    Both("AccessTimeSchedule", kAccessTimeSchedule, kOneOrList, kBareIfOne),
+    Both("AccessTimeSchedule", kAccessTimeSchedule, kDoors, kDoorsBareIfOne),
     Both("OpenDoorGroup", kOpenDoorGroup, kParse, kPack),
     Both("OpenDoorRoute", kOpenDoorRoute, kParse, kPack),
-    Both("AccessWorkMode", kAccessWorkMode, kOneOrList, kBareIfOne),
+    Both("AccessWorkMode", kAccessWorkMode, kDoors, kDoorsBareIfOne),
     Both("AccessControlTextDisplay", kAccessTextDisplay, kParse, kPack),
 
     // Video talk
@@ -299,6 +302,11 @@ constexpr Command kCommands[] = {
     Generic("HeatImagingThermometry", kHeatImagingThermometry, kOneCleared),
 
     // Home automation
+    Generic("Light", kLight, kHomeCleared),
+    Generic("Curtain", kCurtain, kHomeCleared),
+    Generic("FreshAir", kFreshAir, kHomeCleared),
+    Generic("GroundHeat", kGroundHeat, kHomeCleared),
+    Generic("SceneMode", kSceneMode, kScenesCleared),
 
     // Later settings
 

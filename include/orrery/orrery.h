@@ -23,6 +23,7 @@
 #include "orrery/events_other.h"
 #include "orrery/events_traffic.h"
 #include "orrery/general.h"
+#include "orrery/home.h"
 #include "orrery/linkage.h"
 #include "orrery/network.h"
 #include "orrery/network_services.h"
