@@ -23,6 +23,7 @@ constexpr MemberRow kRows[] = {
     {"ThermometryRule"},
     {"SCADADev", 2},
     {"CommGlobal", 1, 8},
+    {"Email"}, {"AccessControl"}, {"VideoTalkPhoneBasic"}, {"DevList"}, {"ShortcutCall"}, {"SceneMode"},
 };
 
 const Command& CommandNamed(const char* name) {
