@@ -48,8 +48,8 @@ typedef struct CFG_DIAL_RULE_INFO {
     int32_t bBuildingModeEnable;  /* "BuildingModeEnable": begins with the building */
     int32_t bUnitModeEnable;      /* "UnitModeEnable": has the unit */
     int32_t bExtentionModeEnable; /* "ExtentionModeEnable" (the devices' spelling): ends with an extension */
-    char cSeparator[1]; /* "Seperator" (the devices' spelling): between the parts; one byte without a terminator, the
-                           text's first */
+    char cSeparator[1]; /* "Seperator" (the devices' spelling): between the parts; the first byte of the text, without a
+                           terminator behind it */
 } CFG_DIAL_RULE_INFO;
 
 /* Where the calls of a room go. */

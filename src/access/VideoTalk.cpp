@@ -26,6 +26,21 @@ void WriteDecimalText(const Field& field, const std::byte* record, WriteCall& ca
 
 constexpr CustomCodec kDecimalText{ReadDecimalText, WriteDecimalText, R"("17")"};
 
+// ---- "DialRule": one byte of a text, taken once it is in the local encoding ----
+
+void ReadFirstByte(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) {
+    char text[16];
+    call.parser.GetJsonString(value, text, sizeof text, true);
+    Store(record + field.offset, text[0]);
+}
+
+void WriteFirstByte(const Field& field, const std::byte* record, WriteCall& call) {
+    call.Key();
+    call.parser.SetJsonString(call.out, reinterpret_cast<const char*>(record + field.offset), 1, true);
+}
+
+constexpr CustomCodec kFirstByte{ReadFirstByte, WriteFirstByte, R"("#")"};
+
 PART(kNoAnswerGroup, CFG_NO_ANSWER_GROUP,
      {
          FIELD(szRoomNumber, "RoomNumber", Text),
@@ -95,7 +110,7 @@ TABLE(kDialRule, CFG_DIAL_RULE_INFO,
           FIELD(bBuildingModeEnable, "BuildingModeEnable", Bool),
           FIELD(bUnitModeEnable, "UnitModeEnable", Bool),
           FIELD(bExtentionModeEnable, "ExtentionModeEnable", Bool),
-          FIELD(cSeparator, "Seperator", FullText),
+          FIELD(cSeparator, "Seperator", Custom(kFirstByte)),
       });
 
 TABLE(kNoAnswerForward, CFG_VT_NO_ANSWER_FORWARD_INFO,
