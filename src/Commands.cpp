@@ -13,6 +13,14 @@
 #include "analyse/RuleFrame.h"
 #include "device/GeneralSwitch.h"
 #include "frame/CommandIndex.h"
+#include "device/DeviceAlarm.h"
+#include "device/DeviceNetwork.h"
+#include "device/DeviceStatus.h"
+#include "device/Equipment.h"
+#include "device/Locale.h"
+#include "device/Services.h"
+#include "device/Settings.h"
+#include "device/Vehicle.h"
 #include "frame/GeneralSwitch.h"
 #include "frame/JsonParser.h"
 #include "frame/NameHash.h"
@@ -119,6 +127,15 @@ constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
 constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
 constexpr TableFrame kScenesCleared{.arrayForm = true, .zeroBuffer = true};
 constexpr TableFrame kHomeCleared{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
+// An array of records, or an object that is one; a record is written bare.
+constexpr ParseFrame kRecords = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
+constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
+// One record that is a list.
+constexpr ParseFrame kList = kParse.Takes(Take::List);
+
+constexpr TableFrame kOneCleared{.zeroBuffer = true};
+constexpr TableFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
+constexpr TableFrame kListCleared{.dimension = 1, .zeroBuffer = true};
 
 constexpr Command kCommands[] = {
     // Switches
@@ -227,8 +244,53 @@ constexpr Command kCommands[] = {
     Generic("ShortcutCall", kShortcutCall, TableFrame{.dimension = 1}),
 
     // Device settings
+    Both("Locales", kLocales, kParse, kPack),
+    Both("Language", kLanguage, kParse.Takes(Take::Text), kPack),
+    Both("AppEventLanguage", kAppEventLanguage, kParse, kPack),
+    Both("AutoMaintain", kAutoMaintain, kParse, kPack),
+    Both("ClientCustomData", kClientCustomData, kParse, kPack),
+    Both("DeviceKeepAlive", kDeviceKeepAlive, kParse, kPack),
+    Both("NTP", kNtp, kParse, kPack),
+    Both("Telnet", kTelnet, kParse, kPack),
+    Generic("WorkTime", kWorkTime, kOneCleared),
+    Generic("LightingSchedule", kLightingSchedule, kManyCleared),
+    Generic("VTOBasicInfo", kVtoBasicInfo, kListCleared),
+    Both("AccessFilter", kAccessFilter, kParse, kPack),
+    Both("NetCollection", kNetCollection, kParse, kLoose),
+    Both("RTMP", kRtmp, kRecords, kBareIfOne),
+    Both("PhoneEventNotify", kPhoneEventNotify, kParse, kPack),
+    Both("CommSubscribe", kCommSubscribe, kList, kPack),
+    Both("VSP_GAYS", kVspGays, kParse, kPack),
+    Generic("AroudWifiSearch", kAroudWifiSearch, kManyCleared),
+    Generic("GPS", kGps, kListCleared),
+    Generic("GPSLocationVersion", kGpsLocationVersion, kOneCleared),
+    Both("OilMassInfo", kOilMassInfo, kParse, kPack),
+    Both("EmergencyRecordForPull", kEmergencyRecordForPull, kParse, kPack),
+    Both("RemoteEvent", kRemoteEvent, kParse, kPack),
+    Both("AlarmBell", kAlarmBell, kRecords, kBareIfOne),
+    Both("AlarmSlotBond", kAlarmSlotBond, kRecords, kBareIfOne.Fits(Capacity::Loose)),
+    Both("AudioDetect", kAudioDetect, kRecords, kBareIfOne),
+    Both("IOT_InfraredDetect", kIotInfraredDetect, kList, kPack),
+    Both("IOT_RecordHandle", kIotRecordHandle, kParse, kPack),
+    Both("IOT_SnapHandle", kIotSnapHandle, kParse, kPack),
+    Both("AirCondition", kAirCondition, kList, kPack),
+    Both("Lighting", kLighting, kRecords, kBareIfOne),
+    Both("AudioOutEqualizer", kAudioOutEqualizer, kList, kPack),
+    Both("AudioOutSuppression", kAudioOutSuppression, kList, kPack),
+    Both("AudioInControl", kAudioInControl, kList, kPack),
+    Reply("DeviceStatus", kDeviceStatus, kUntested.From(Source::Params, "DeviceStatus")),
+    Reply("trafficSnap.getDeviceStatus", kTrafficSnapDeviceStatus, kList.From(Source::Params, "status")),
+    Reply("videoStatServer.getSummary", kVideoStatSummary, kParse.From(Source::Params, "summary")),
 
     // Services
+    Reply("system.listService", kServiceList, kParse.From(Source::Params, "service").Null(NullValue::OneRecord)),
+    Reply("netApp.getCaps", kNetAppCaps, kCaps.Null(NullValue::LengthZero).ZeroesLength()),
+    Reply("eventManager.getCaps", kEventManagerCaps, kCaps.Null(NullValue::OneRecord)),
+    Reply("capsManager.get&EventManagerEventHandler", kEventHandlerCaps, kCaps.Null(NullValue::OneRecord)),
+    Reply("RecordFinder.getCaps", kRecordFinderCaps, kCaps.Null(NullValue::OneRecord)),
+    Reply("magicBox.getDeviceClass", kDeviceClass, kParse.From(Source::Params, "type").Null(NullValue::OneRecord)),
+    Reply("userManager.getActiveUserInfoAll", kActiveUserInfoAll,
+          kUntested.From(Source::Params, "users").Null(NullValue::OneRecord)),
 
     // Remote devices
 

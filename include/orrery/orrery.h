@@ -16,6 +16,12 @@
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_rules.h"
 #include "orrery/comm_attribute.h"
+#include "orrery/device_alarm.h"
+#include "orrery/device_equipment.h"
+#include "orrery/device_network.h"
+#include "orrery/device_settings.h"
+#include "orrery/device_status.h"
+#include "orrery/device_vehicle.h"
 #include "orrery/encode.h"
 #include "orrery/event_codes.h"
 #include "orrery/event_types.h"
@@ -30,6 +36,7 @@
 #include "orrery/parking.h"
 #include "orrery/rule_bodies.h"
 #include "orrery/thermography.h"
+#include "orrery/services.h"
 #include "orrery/traffic_rules.h"
 #include "orrery/types.h"
 #include "orrery/video_talk.h"
@@ -61,6 +68,7 @@ uint32_t ORRERY_Version(void);
  *                 out.
  * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan",
  *                 "Https" and those whose headers say so add to what it holds: set it to 0 first. They take a missing
+ *                 "Https" and those whose record says so add to what it holds: set it to 0 first. They take a missing
  *                 table as nothing to read.
  *
  * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8, the

@@ -68,6 +68,8 @@ Holds ShapeOf(Take take, const Value& value) noexcept {
         return isObject ? Holds::Members : Holds::WrongShape;
     case Take::ByMemberOrNone:
         return isObject ? Holds::Members : Holds::Nothing;
+    case Take::Text:
+        return value.isString() ? Holds::OneRecord : Holds::WrongShape;
     }
     return Holds::WrongShape;
 }

@@ -244,6 +244,40 @@ TEST(FamilyParse, TakesManyOrNone) {
     ExpectNone(Take::ManyOrNone, "true");
 }
 
+struct Word {
+    std::int32_t code;
+};
+
+NAMES(kWords, kFolded.Unknown(-1),
+      {
+          {0, "zero"},
+          {1, "one"},
+      });
+
+TABLE(kWord, Word,
+      {
+          FIELD(code, "", Names(kWords)),
+      });
+
+TEST(FamilyParse, TakesAText) {
+    const ParseFrame frame = kParse.Takes(Take::Text);
+    const auto code = [&](const std::string& value) {
+        const auto f = test::Parse<Word>(kWord, frame, Reply(value), sizeof(Word));
+        EXPECT_EQ(f.outcome, Outcome::Done) << value;
+        EXPECT_EQ(f.length, sizeof(Word)) << value;
+        return f[0].code;
+    };
+    EXPECT_EQ(code("\"One\""), 1);
+    EXPECT_EQ(code("\"two\""), -1);
+    EXPECT_EQ(code("\"\""), -1);
+    for (const char* value : {"{ }", "[ \"one\" ]", "1", "true"}) {
+        const auto f = test::Parse<Word>(kWord, frame, Reply(value), sizeof(Word));
+        EXPECT_EQ(f.outcome, Outcome::WrongShape) << value;
+        EXPECT_TRUE(f.isCleared());
+        EXPECT_EQ(f.length, kBefore);
+    }
+}
+
 struct List {
     std::int32_t ids[2];
     std::int32_t count;

@@ -111,6 +111,8 @@ std::string Wanted(Take take) {
         return "an array, or an array of arrays";
     case Take::ByMember:
         return "an object with a record a member";
+    case Take::Text:
+        return "a text";
     default:
         return "another one";
     }

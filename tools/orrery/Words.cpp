@@ -230,7 +230,7 @@ std::string ParseWords(const Command& command) {
                                                 "IntegerNonZero", "TextTrue"}));
     words += " "
              + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List",
-                                               "ListOrNone", "ListOrLists", "ByMember", "ByMemberOrNone"}));
+                                               "ListOrNone", "ListOrLists", "ByMember", "ByMemberOrNone", "Text"}));
     words += " " + Call("Null", Word(frame.nullValue, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
     words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Read", "Kept"}));
     words +=
