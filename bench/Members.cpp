@@ -24,6 +24,7 @@ constexpr MemberRow kRows[] = {
     {"SCADADev", 2},
     {"CommGlobal", 1, 8},
     {"Email"}, {"AccessControl"}, {"VideoTalkPhoneBasic"}, {"DevList"}, {"ShortcutCall"}, {"SceneMode"},
+    {"Email"}, {"NTP"}, {"AirCondition"}, {"videoStatServer.getSummary"}, {"RemoteChannel"}, {"RemoteDevice", 64},
 };
 
 const Command& CommandNamed(const char* name) {

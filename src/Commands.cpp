@@ -18,6 +18,7 @@
 #include "device/DeviceStatus.h"
 #include "device/Equipment.h"
 #include "device/Locale.h"
+#include "device/RemoteDevice.h"
 #include "device/Services.h"
 #include "device/Settings.h"
 #include "device/Vehicle.h"
@@ -293,6 +294,15 @@ constexpr Command kCommands[] = {
           kUntested.From(Source::Params, "users").Null(NullValue::OneRecord)),
 
     // Remote devices
+    Both("RemoteChannel", kRemoteChannel,
+         kRecords.Null(NullValue::LengthZero).Strides(Stride::SizeWordByField).ReadsNulls(),
+         kBareIfOne.Strides(Stride::SizeWordByField)),
+    Both("RemoteDevice", kRemoteDevice,
+         kParse.Takes(Take::ByMember)
+             .Null(NullValue::LengthZero)
+             .Strides(Stride::SizeWordByField)
+             .Length(ReplyLength::PerRecord),
+         kPack.As(Form::ByMember).Strides(Stride::SizeWordByField)),
 
     // Encoding
     Both("Encode", kEncode,

@@ -18,7 +18,7 @@ enum {
 
 /* "RemoteEvent": an event of a device behind this one. */
 typedef struct CFG_REMOTE_EVENT_INFO {
-    int32_t bEnable;                           /* "Enable": read and written as a number, 0 or 1 */
+    int32_t nEnable;                           /* "Enable": a number, 0 or 1 */
     char szDevice[64];                         /* "Device": its identifier */
     char szCode[64];                           /* "Code": name of the event */
     int32_t nIndex;                            /* "Index": channel or input on that device */

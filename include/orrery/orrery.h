@@ -34,6 +34,7 @@
 #include "orrery/network.h"
 #include "orrery/network_services.h"
 #include "orrery/parking.h"
+#include "orrery/remote_device.h"
 #include "orrery/rule_bodies.h"
 #include "orrery/thermography.h"
 #include "orrery/services.h"

@@ -32,7 +32,7 @@ PART(kIotInfraredDetector, CFG_IOT_INFRARED_DETECTOR,
 
 TABLE(kRemoteEvent, CFG_REMOTE_EVENT_INFO,
       {
-          FIELD(bEnable, "Enable", Int),
+          FIELD(nEnable, "Enable", Int),
           FIELD(szDevice, "Device", Text),
           FIELD(szCode, "Code", Text),
           FIELD(nIndex, "Index", Int),

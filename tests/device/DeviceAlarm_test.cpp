@@ -25,7 +25,7 @@ TEST(RemoteEvent, ThereAndBack) {
         "EventHandler" : { "BeepEnable" : true, "Delay" : 7, "RecordChannels" : [ 0, 1023 ] } })");
     ASSERT_TRUE(parsed);
     EXPECT_EQ(parsed.length, sizeof(CFG_REMOTE_EVENT_INFO));
-    EXPECT_EQ(parsed->bEnable, 1);
+    EXPECT_EQ(parsed->nEnable, 1);
     EXPECT_STREQ(parsed->szDevice, "dev1");
     EXPECT_STREQ(parsed->szCode, "AlarmLocal");
     EXPECT_EQ(parsed->nIndex, 5);
@@ -48,16 +48,16 @@ TEST(RemoteEvent, SizeWordsAreSetWithoutALinkageToo) {
     ASSERT_TRUE(parsed);
     EXPECT_EQ(parsed->stuEventHandler.dwSize, sizeof(CFG_EVENT_HANDLER_V2_INFO));
     EXPECT_EQ(parsed->stuEventHandler.stuTour[127].dwSize, 4112u);
-    EXPECT_EQ(parsed->bEnable, 0);
+    EXPECT_EQ(parsed->nEnable, 0);
     EXPECT_EQ(parsed->emSensorType, 0);
 }
 
 TEST(RemoteEvent, TheSwitchIsANumber) {
     auto parsed = Parse<CFG_REMOTE_EVENT_INFO>("RemoteEvent", R"({ "Enable" : true })");
-    EXPECT_EQ(parsed->bEnable, 1);
-    parsed.record->bEnable = -3;
+    EXPECT_EQ(parsed->nEnable, 1);
+    parsed.record->nEnable = -3;
     EXPECT_NE(Pack("RemoteEvent", *parsed).find(R"("Enable" : -3, )"), std::string::npos);
-    EXPECT_EQ((Parse<CFG_REMOTE_EVENT_INFO>("RemoteEvent", R"({ "Enable" : "yes" })")->bEnable), 0);
+    EXPECT_EQ((Parse<CFG_REMOTE_EVENT_INFO>("RemoteEvent", R"({ "Enable" : "yes" })")->nEnable), 0);
 }
 
 TEST(RemoteEvent, AnOpenContactIsWrittenWithADigit) {

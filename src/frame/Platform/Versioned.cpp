@@ -56,8 +56,9 @@ std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t buf
     if (bufferSize < kWord) return 0;
     const auto word = record::Load<std::uint32_t>(first);
     if (word == 0 || word > bufferSize) return 0;
-    if (word >= kWord) return word;
-    if (how == Stride::SizeWord) LogSizeWord();
+    // Of a record that has not even its word no field moves, but a block must have it.
+    if (word >= kWord || how == Stride::SizeWordByField) return word;
+    LogSizeWord();
     return 0;
 }
 

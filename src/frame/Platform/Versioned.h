@@ -9,8 +9,8 @@
 
 namespace orrery {
 
-// The caller's size word, which is the stride of all records of a buffer; 0 when no record can be that large. A word
-// below its own size is told to the log where records move as blocks.
+// The caller's size word, which is the stride of all records of a buffer; 0 when no record can be that large. Where
+// records move as blocks a word below its own size is told to the log and gives 0 too.
 std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t bufferSize) noexcept;
 
 class VersionedRecords {
