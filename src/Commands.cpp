@@ -130,9 +130,9 @@ constexpr TableFrame kScenesCleared{.arrayForm = true, .zeroBuffer = true};
 constexpr TableFrame kHomeCleared{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
 // An array of records, or an object that is one; a record is written bare.
 constexpr ParseFrame kRecords = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
-constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
+constexpr PackFrame kRecordsBareIfOne = kPack.As(Form::BareIfOne);
 // One record that is a list.
-constexpr ParseFrame kList = kParse.Takes(Take::List);
+constexpr ParseFrame kOneList = kParse.Takes(Take::List);
 
 constexpr TableFrame kOneCleared{.zeroBuffer = true};
 constexpr TableFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
@@ -258,9 +258,9 @@ constexpr Command kCommands[] = {
     Generic("VTOBasicInfo", kVtoBasicInfo, kListCleared),
     Both("AccessFilter", kAccessFilter, kParse, kPack),
     Both("NetCollection", kNetCollection, kParse, kLoose),
-    Both("RTMP", kRtmp, kRecords, kBareIfOne),
+    Both("RTMP", kRtmp, kRecords, kRecordsBareIfOne),
     Both("PhoneEventNotify", kPhoneEventNotify, kParse, kPack),
-    Both("CommSubscribe", kCommSubscribe, kList, kPack),
+    Both("CommSubscribe", kCommSubscribe, kOneList, kPack),
     Both("VSP_GAYS", kVspGays, kParse, kPack),
     Generic("AroudWifiSearch", kAroudWifiSearch, kManyCleared),
     Generic("GPS", kGps, kListCleared),
@@ -268,19 +268,19 @@ constexpr Command kCommands[] = {
     Both("OilMassInfo", kOilMassInfo, kParse, kPack),
     Both("EmergencyRecordForPull", kEmergencyRecordForPull, kParse, kPack),
     Both("RemoteEvent", kRemoteEvent, kParse, kPack),
-    Both("AlarmBell", kAlarmBell, kRecords, kBareIfOne),
-    Both("AlarmSlotBond", kAlarmSlotBond, kRecords, kBareIfOne.Fits(Capacity::Loose)),
-    Both("AudioDetect", kAudioDetect, kRecords, kBareIfOne),
-    Both("IOT_InfraredDetect", kIotInfraredDetect, kList, kPack),
+    Both("AlarmBell", kAlarmBell, kRecords, kRecordsBareIfOne),
+    Both("AlarmSlotBond", kAlarmSlotBond, kRecords, kRecordsBareIfOne.Fits(Capacity::Loose)),
+    Both("AudioDetect", kAudioDetect, kRecords, kRecordsBareIfOne),
+    Both("IOT_InfraredDetect", kIotInfraredDetect, kOneList, kPack),
     Both("IOT_RecordHandle", kIotRecordHandle, kParse, kPack),
     Both("IOT_SnapHandle", kIotSnapHandle, kParse, kPack),
-    Both("AirCondition", kAirCondition, kList, kPack),
-    Both("Lighting", kLighting, kRecords, kBareIfOne),
-    Both("AudioOutEqualizer", kAudioOutEqualizer, kList, kPack),
-    Both("AudioOutSuppression", kAudioOutSuppression, kList, kPack),
-    Both("AudioInControl", kAudioInControl, kList, kPack),
+    Both("AirCondition", kAirCondition, kOneList, kPack),
+    Both("Lighting", kLighting, kRecords, kRecordsBareIfOne),
+    Both("AudioOutEqualizer", kAudioOutEqualizer, kOneList, kPack),
+    Both("AudioOutSuppression", kAudioOutSuppression, kOneList, kPack),
+    Both("AudioInControl", kAudioInControl, kOneList, kPack),
     Reply("DeviceStatus", kDeviceStatus, kUntested.From(Source::Params, "DeviceStatus")),
-    Reply("trafficSnap.getDeviceStatus", kTrafficSnapDeviceStatus, kList.From(Source::Params, "status")),
+    Reply("trafficSnap.getDeviceStatus", kTrafficSnapDeviceStatus, kOneList.From(Source::Params, "status")),
     Reply("videoStatServer.getSummary", kVideoStatSummary, kParse.From(Source::Params, "summary")),
 
     // Services
@@ -296,7 +296,7 @@ constexpr Command kCommands[] = {
     // Remote devices
     Both("RemoteChannel", kRemoteChannel,
          kRecords.Null(NullValue::LengthZero).Strides(Stride::SizeWordByField).ReadsNulls(),
-         kBareIfOne.Strides(Stride::SizeWordByField)),
+         kRecordsBareIfOne.Strides(Stride::SizeWordByField)),
     Both("RemoteDevice", kRemoteDevice,
          kParse.Takes(Take::ByMember)
              .Null(NullValue::LengthZero)
