@@ -31,6 +31,8 @@
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
+#include "media/VideoInOptions.h"
+#include "media/VideoInput.h"
 #include "network/Dvrip.h"
 #include "network/Multicast.h"
 #include "network/Network.h"
@@ -107,6 +109,13 @@ constexpr ParseFrame kOneOrMany = kParse.Takes(Take::OneOrMany).Length(ReplyLeng
 constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
 // A record that is a list.
 constexpr ParseFrame kList = kParse.Takes(Take::List);
+// Texts that may fill the buffer without a terminator.
+constexpr PackFrame kRaw = kPack.Fits(Capacity::Raw);
+
+// The items of one record, or of a record a list.
+constexpr ParseFrame kListOrLists = kParse.Takes(Take::ListOrListsOrBlank)
+                                        .Null(NullValue::LengthUntouched)
+                                        .Length(ReplyLength::OneOfList);
 
 constexpr ParseFrame kCaps = kParse.From(Source::Caps);
 constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
@@ -341,6 +350,24 @@ constexpr Command kCommands[] = {
     // Encoder capabilities
 
     // Video input
+    Both("VideoInOptions", kVideoInOptions,
+         kUntested.Takes(Take::AnyOrMany)
+             .Null(NullValue::LengthUntouched)
+             .TakesNoJson()
+             .TakesEmptyLists()
+             .Length(ReplyLength::PerRecord),
+         kRaw.As(Form::BareIfExact)),
+    Both("VideoInExposure", kVideoInExposure,
+         kUntested.Null(NullValue::OneRecord).Clears(Clearing::Kept).Accepts(HasExposureRoom),
+         kRaw.Accepts(HasExposureItems)),
+    Both("VideoInBacklight", kVideoInBacklight, kListOrLists, kRaw.As(Form::BareIfOne)),
+    Both("VideoInDefog", kVideoInDefog, kListOrLists.AllMustFit(), kRaw.As(Form::BareIfOne)),
+    Both("VideoInMetering", kVideoInMetering, kUntested.Null(NullValue::OneRecord), kRaw),
+    Generic("VideoInDayNight", kVideoInDayNight, {.arrayForm = true, .dimension = 1, .zeroBuffer = true}),
+    Both("FishEye", kFishEye, kUntested.Takes(Take::AnyOrMany).Null(NullValue::OneRecord), kRaw.As(Form::BareIfOne)),
+    Reply("devVideoInput.getCaps", kVideoInCaps, kCaps.Result(ResultTest::FalseRefuses).Null(NullValue::OneRecord)),
+    Reply("devVideoInput.getCapsEx", kVideoInCapsEx, kCaps.Null(NullValue::OneRecord)),
+    Reply("devVideoInput.getFocusStatus", kFocusStatus, kParse.From(Source::Params, "status")),
 
     // Pan, tilt, zoom
 

@@ -41,6 +41,8 @@
 #include "orrery/traffic_rules.h"
 #include "orrery/types.h"
 #include "orrery/video_talk.h"
+#include "orrery/video_input.h"
+#include "orrery/video_input_topics.h"
 #include "orrery/wlan.h"
 
 #ifdef __cplusplus

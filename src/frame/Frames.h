@@ -46,6 +46,8 @@ enum class Take : std::uint8_t {
     ListOrNone,     // the same, but other types succeed with nothing read and no length
     ListOrLists,    // array of objects: one record that is itself a list; array of arrays: a list, that is a record, an
                     // element; other types, and an empty array, succeed with nothing read and no length
+    ListOrListsOrBlank, // the same, but an empty array is an empty list of lists, and other types are one record of
+                        // which nothing is read
     ByMember,       // object: a record a member, in key order, null members skipped; other types fail
     ByMemberOrNone, // the same; other types have no members
     Text            // one record that is a text: other types fail
@@ -54,7 +56,7 @@ enum class Take : std::uint8_t {
 // Whether a reply fills one record, whatever its value looks like (but for a list of lists).
 constexpr bool TakesOneRecord(Take take) {
     return take == Take::One || take == Take::List || take == Take::ListOrNone || take == Take::ListOrLists
-           || take == Take::Text;
+           || take == Take::ListOrListsOrBlank || take == Take::Text;
 }
 
 // What a null or absent value does.
@@ -104,6 +106,8 @@ struct ParseFrame {
     bool anySize = false;      // a buffer below one record takes as much of the record as it holds
     bool zeroesLength = false; // the reply length is 0 also when the call fails later
     bool needsText = false;    // an empty text fails before anything is cleared
+    bool takesNoJson = false;
+    bool takesEmptyLists = false;
     // Tests the caller's own input before anything else; false fails the call with nothing touched.
     bool (*accepts)(const std::byte* buffer, std::uint32_t size) = nullptr;
     // Runs once the text has parsed, before "result" is looked at.
@@ -146,6 +150,10 @@ struct ParseFrame {
     constexpr ParseFrame AnySize() const { return With(*this, &ParseFrame::anySize, true); }
     // The reply length is set to 0 once the buffer is known to be large enough, and so when the call fails later.
     constexpr ParseFrame ZeroesLength() const { return With(*this, &ParseFrame::zeroesLength, true); }
+    // Text that is no JSON succeeds with nothing read and no length told.
+    constexpr ParseFrame TakesNoJson() const { return With(*this, &ParseFrame::takesNoJson, true); }
+    // An array without elements is a list of no records, whose length is told; without this word it is as good as null.
+    constexpr ParseFrame TakesEmptyLists() const { return With(*this, &ParseFrame::takesEmptyLists, true); }
     constexpr ParseFrame NeedsText() const { return With(*this, &ParseFrame::needsText, true); }
     constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
         return With(*this, &ParseFrame::accepts, test);
@@ -181,6 +189,7 @@ enum class Form : std::uint8_t {
     BareIfExact, // bare when the size is exactly one record, else an array of those that fit
     ByMember,    // as many records as fit the size, each under its member name
     Nothing,     // no record at all: the text of a document that nothing was put in
+    NoText,      // not even that: success with the text buffer cleared, whatever its size
 };
 
 // How long a text may be, and how it is ended.

@@ -133,13 +133,20 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
         if (stride == 0) return Outcome::RecordTooSmall;
     }
     if (frame.exactSize ? request.recordSize != stride : request.recordSize < stride) return Outcome::RecordTooSmall;
-    if (frame.accepts != nullptr && !frame.accepts(first, request.recordSize)) return Outcome::NotAccepted;
+    if (frame.accepts != nullptr && !frame.accepts(first, request.recordSize)) {
+        if (!frame.keepsText) std::memset(request.textBuffer, 0, request.textCapacity);
+        return Outcome::NotAccepted;
+    }
 
     Content content{table, {first, request.recordSize / stride, stride}, frame.form, frame.quotedKey};
     std::uint32_t& count = content.records.count;
     if (frame.form == Form::BareIfOne) content.form = count == 1 ? Form::One : Form::Array;
     if (frame.formBy != nullptr) content.form = frame.formBy(first, count);
     if (frame.form == Form::BareIfExact) content.form = request.recordSize == stride ? Form::One : Form::Array;
+    if (content.form == Form::NoText) {
+        std::memset(request.textBuffer, 0, request.textCapacity);
+        return Outcome::Done;
+    }
     if (content.form == Form::One) count = 1;
     if (frame.stride == Stride::Record) return Deliver(content, frame, request);
 

@@ -32,7 +32,9 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     clear();
 
     Document document;
-    if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
+    if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) {
+        return parsed == Outcome::NoJson && frame.takesNoJson ? Outcome::Done : parsed;
+    }
     if (frame.parsed != nullptr) frame.parsed(buffer);
     ReadCall call{document.parser, document.root};
     if (frame.rootKeysFirst) record::ReadRootFields(table, buffer, call);
@@ -41,7 +43,8 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     const Value& value = FindValue(frame.source, frame.name, document.root);
     Holds holds = ShapeOf(frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take, value);
     // An empty array of records says as much as no array at all.
-    if (value.isNull() || (holds == Holds::Elements && value.size() == 0)) {
+    const bool isEmptyList = holds == Holds::Elements && value.size() == 0;
+    if (value.isNull() || (isEmptyList && !frame.takesEmptyLists)) {
         switch (frame.nullValue) {
         case NullValue::Fails:
             return Outcome::NoValue;
@@ -86,7 +89,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         setLength(records.filled() * stride);
         break;
     case ReplyLength::OneOfList:
-        setLength(holds == Holds::OneRecord ? stride : 0);
+        setLength(holds == Holds::OneRecord || holds == Holds::BlankRecord ? stride : 0);
         break;
     case ReplyLength::Told:
         setLength(frame.lengthBy(buffer));

@@ -64,6 +64,10 @@ Holds ShapeOf(Take take, const Value& value) noexcept {
         // A null is an empty list, but no object.
         if (value[0].isArray()) return Holds::Elements;
         return value[0].type() == json::Type::Object ? Holds::OneRecord : Holds::NoList;
+    case Take::ListOrListsOrBlank:
+        if (!isArray) return Holds::BlankRecord;
+        if (value.size() == 0 || value[0].isArray()) return Holds::Elements;
+        return value[0].type() == json::Type::Object ? Holds::OneRecord : Holds::BlankRecord;
     case Take::ByMember:
         return isObject ? Holds::Members : Holds::WrongShape;
     case Take::ByMemberOrNone:
@@ -78,6 +82,9 @@ void ReadAll(Holds holds, const Value& value, bool readsNulls, ReplyRecords& rec
     switch (holds) {
     case Holds::OneRecord:
         records.Read(value, {});
+        break;
+    case Holds::BlankRecord:
+        records.Read(json::kNull, {});
         break;
     case Holds::Elements:
         for (const Value& element : value.elements()) {

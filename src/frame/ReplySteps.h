@@ -21,7 +21,7 @@ bool ResultPasses(ResultTest test, const json::Value& result) noexcept;
 const json::Value& FindValue(Source source, const char* name, const json::Value& root) noexcept;
 
 // What a value of the right shape holds.
-enum class Holds : std::uint8_t { Nothing, OneRecord, Elements, Members, NoList, WrongShape };
+enum class Holds : std::uint8_t { Nothing, OneRecord, BlankRecord, Elements, Members, NoList, WrongShape };
 Holds ShapeOf(Take take, const json::Value& value) noexcept;
 
 // The caller's records, one behind the other.

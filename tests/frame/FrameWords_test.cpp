@@ -183,6 +183,64 @@ TEST(FrameWords, FunctionsOfACommandChooseShapeAndLength) {
     EXPECT_EQ(Call(frame, R"({"result":1,"many":1,"params":{"table":[{"Value":3}]}})").length, 7u);
 }
 
+TEST(FrameWords, TextThatIsNoJsonMaySucceed) {
+    for (const char* text : {"", "[", "{\"result\":true,}"}) {
+        EXPECT_EQ(Call(ParseFrame{}, text).outcome, Outcome::NoJson);
+        const Call call(ParseFrame{}.TakesNoJson(), text);
+        EXPECT_EQ(call.outcome, Outcome::Done);
+        EXPECT_EQ(call.length, kNoLength);
+        EXPECT_EQ(call.records[0].nValue, 0);
+    }
+    EXPECT_EQ(Call(ParseFrame{}.TakesNoJson(), "{}").outcome, Outcome::Refused);
+}
+
+TEST(FrameWords, AnEmptyListIsNoneOrAsGoodAsNull) {
+    const ParseFrame frame = ParseFrame{}.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
+    EXPECT_EQ(Call(frame, Reply("[]")).outcome, Outcome::NoValue);
+    const Call call(frame.TakesEmptyLists(), Reply("[]"));
+    EXPECT_EQ(call.outcome, Outcome::Done);
+    EXPECT_EQ(call.length, 0u);
+    EXPECT_EQ(Call(frame.TakesEmptyLists(), Reply("null")).outcome, Outcome::NoValue);
+    EXPECT_EQ(Call(frame.TakesEmptyLists(), Reply("[{}]")).length, kSize);
+}
+
+TEST(FrameWords, WhatIsNeitherListNorListsMayBeABlankRecord) {
+    const ParseFrame frame = ParseFrame{}
+                                 .Takes(Take::ListOrListsOrBlank)
+                                 .Null(NullValue::LengthUntouched)
+                                 .Length(ReplyLength::OneOfList);
+    for (const char* table : {"{}", R"({"Value":1})", "5", "\"x\"", "[1]", "[\"x\",{}]"}) {
+        const Call call(frame, Reply(table));
+        EXPECT_EQ(call.outcome, Outcome::Done) << table;
+        EXPECT_EQ(call.length, kSize) << table;
+        EXPECT_EQ(call.records[0].nValue, 0) << table;
+    }
+    for (const char* table : {"null", "[]"}) {
+        const Call call(frame, Reply(table));
+        EXPECT_EQ(call.outcome, Outcome::Done) << table;
+        EXPECT_EQ(call.length, kNoLength) << table;
+    }
+    EXPECT_EQ(Call(frame, Reply("[{}]")).length, kSize);
+    EXPECT_EQ(Call(frame, Reply("[[],[]]")).length, 0u);
+    EXPECT_EQ(Call(frame, Reply("[null]")).length, 0u); // a null is an empty list
+}
+
+Form NoneAtZero(const std::byte* first, std::uint32_t) {
+    return MEMBER(first, Pair, nValue) == 0 ? Form::NoText : Form::One;
+}
+
+TEST(FrameWords, NoTextSucceedsInAnyRoom) {
+    for (const std::size_t room : {std::size_t{0}, std::size_t{1}, std::size_t{9}}) {
+        const test::GuardedBuffer text(room);
+        std::memset(text.data(), '#', room);
+        const Pair record{};
+        EXPECT_EQ(PacketFamily(kPair, PackFrame{}.FormBy(NoneAtZero),
+                               {&record, kSize, text.data(), static_cast<std::uint32_t>(room)}),
+                  Outcome::Done);
+        EXPECT_EQ(text.view().find_first_not_of('\0'), std::string_view::npos);
+    }
+}
+
 Form ByValue(const std::byte* first, std::uint32_t count) {
     if (count > 2) return Form::Nothing;
     return MEMBER(first, Pair, nValue) == 1 ? Form::Array : Form::One;

@@ -145,7 +145,8 @@ TEST(FamilyPack, TheCallersOwnInputIsTested) {
     const auto accepts = [](const std::byte* record, std::uint32_t size) {
         return size == 8 && record[0] == std::byte{3};
     };
-    EXPECT_TRUE(Pack(kItem, kPack.Accepts(accepts), kItems, 8).isUntouched());
+    EXPECT_EQ(Pack(kItem, kPack.Accepts(accepts), kItems, 8).bytes.find_first_not_of('\0'), std::string::npos);
+    EXPECT_TRUE(Pack(kItem, kPack.Accepts(accepts).KeepsText(), kItems, 8).isUntouched());
     EXPECT_EQ(Pack(kItem, kPack.Accepts(accepts), kItems, 8).outcome, Outcome::NotAccepted);
     EXPECT_EQ(Pack(kItem, kPack.Accepts(accepts), kItems + 1, 8).outcome, Outcome::Done);
 }

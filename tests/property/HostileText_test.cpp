@@ -37,7 +37,8 @@ TEST(HostileText, CutAtEveryByte) {
             char* const cut = room.data() + room.size() - size - 1;
             std::memcpy(cut, text.data(), size);
             cut[size] = '\0';
-            ASSERT_EQ(calls.Run(cut), Outcome::NoJson) << command.name << " cut at " << size;
+            ASSERT_EQ(calls.Run(cut), command.parseFrame.takesNoJson ? Outcome::Done : Outcome::NoJson)
+                << command.name << " cut at " << size;
         }
     }
 }
@@ -68,6 +69,7 @@ TEST(HostileText, EveryValueReplacedByEveryType) {
                 ASSERT_NE(outcome, Outcome::NoJson) << command.name << text;
                 if (outcome != Outcome::Done || !command.packs() || ++turn % 8 != 0) continue;
                 const Packed packed = Pack(command, calls.record(), command.table->size);
+                if (MayTurnAway(command, packed.outcome)) continue;
                 ASSERT_EQ(packed.outcome, Outcome::Done) << command.name << text;
                 ASSERT_EQ(FlawOf(packed.text), "") << command.name << packed.text;
             }
@@ -117,7 +119,8 @@ TEST(HostileText, ANullIsAsGoodAsNoKey) {
             }
             **place = std::move(kept);
         }
-        EXPECT_GT(compared, 1u) << command.name;
+        const bool isResult = command.parse == Command::Frame::Family && command.parseFrame.source == Source::Result;
+        EXPECT_GT(compared, isResult ? 0u : 1u) << command.name;
     }
 }
 
@@ -137,6 +140,7 @@ TEST(HostileText, LimitsAndWildTypesEverywhere) {
             ASSERT_NE(outcome, Outcome::NoJson) << command.name << text.get();
             if (outcome != Outcome::Done || !command.packs()) continue;
             const Packed packed = Pack(command, calls.record(), command.table->size);
+            if (MayTurnAway(command, packed.outcome)) continue;
             ASSERT_EQ(packed.outcome, Outcome::Done) << command.name << text.get();
             ASSERT_EQ(FlawOf(packed.text), "") << command.name << packed.text;
         }

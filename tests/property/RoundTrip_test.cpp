@@ -32,6 +32,7 @@ void GoAround(const Command& command, const std::string& text) {
     const std::size_t size = command.table->size;
     if (first.Run(text.c_str(), size, std::byte{0}) != Outcome::Done) return;
     const Packed packed = Pack(command, first.record(), size);
+    if (MayTurnAway(command, packed.outcome)) return;
     ASSERT_EQ(packed.outcome, Outcome::Done) << command.name << text;
     ASSERT_EQ(FlawOfJson(packed.text), "") << command.name << packed.text;
     ASSERT_EQ(Pack(command, first.record(), size).text, packed.text) << command.name;

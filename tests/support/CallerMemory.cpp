@@ -53,6 +53,10 @@ void CallerMemory::MakePointersSafe(const Table& table, std::byte* record) {
                 record::StoreSlot(field.capacity, record, kRoom);
             else if (field.count.exists() && record::LoadSlot(field.count, record) > kRoom)
                 record::StoreSlot(field.count, record, kRoom);
+        } else if (field.cell == Cell::Record && field.capacity.exists()) {
+            record::StoreSlot(field.capacity, record, field.dims[0]); // an array of the record that is lent whole
+            for (std::uint32_t i = 0; i < field.dims[0] && HasPointers(*field.table); ++i)
+                MakePointersSafe(*field.table, at + std::size_t{i} * field.table->size);
         } else if (field.cell == Cell::Record && HasPointers(*field.table)) {
             for (std::uint32_t i = 0; i < field.size / field.table->size; ++i)
                 MakePointersSafe(*field.table, at + std::size_t{i} * field.table->size);

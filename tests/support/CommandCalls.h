@@ -68,6 +68,11 @@ struct Packed {
 // Whether the reply length may be more than the buffer: commands whose length is that of what a whole one would hold.
 bool TellsMoreThanItFills(const Command& command);
 
+// Whether the outcome is that of a command that tests its caller's record: a reply may leave one that says nothing.
+inline bool MayTurnAway(const Command& command, Outcome outcome) {
+    return command.packFrame.accepts != nullptr && outcome == Outcome::NotAccepted;
+}
+
 // Packs into a buffer that is large enough for any text of the record.
 Packed Pack(const Command& command, const void* record, std::size_t size);
 

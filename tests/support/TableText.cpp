@@ -42,8 +42,8 @@ class Maker {
             return value;
         }
         // Where several rows share a key, the one that knows most about its value speaks first, functions of a row's
-        // own after the named kinds, and a mere presence last.
-        for (const int turn : {0, 1, 2}) {
+        // own after the named kinds, and a mere presence last; a whole object comes before a key inside it.
+        for (const int turn : {0, 1, 2, 3}) {
             for (const Field& field : table) {
                 if (field.key == nullptr || field.fromRoot || !field.readable || TurnOf(field) != turn) continue;
                 if (field.amongKeys) {
@@ -74,7 +74,8 @@ class Maker {
 
     static bool IsKey(const Field& field, std::string_view key) { return field.key != nullptr && field.key == key; }
     static int TurnOf(const Field& field) {
-        return field.kind == Kind::Presence ? 2 : field.kind == Kind::Custom ? 1 : 0;
+        if (field.kind == Kind::Record && field.rank == 0) return 0;
+        return field.kind == Kind::Presence ? 3 : field.kind == Kind::Custom ? 2 : 1;
     }
 
     void Put(JsonTree& object, const Field& field) {
@@ -110,6 +111,7 @@ class Maker {
         const std::uint32_t room = field.cell == record::Cell::Pointer ? 4 : field.dims[level];
         std::uint32_t count = std::min(room, options_.most);
         if (field.exactly) count = room;
+        count = std::max<std::uint32_t>(count, field.atLeast);
         if (options_.values != Values::Typical) count = Next() % 3 == 0 ? room + 2 : Next() % (count + 1);
         if (!field.keyed) return List(count, [&] { return innermost ? One(field) : Level(field, level + 1); });
         JsonTree object = JsonTree::Object();

@@ -189,7 +189,8 @@ Reply LookAt(const Command& command, const Value& root) {
     }
     const Value& value = *reply.value;
     const bool byMember = take == Take::ByMember || take == Take::ByMemberOrNone;
-    const bool isListOfLists = take == Take::ListOrLists && value.size() > 0 && value[0].isArray();
+    const bool takesLists = take == Take::ListOrLists || take == Take::ListOrListsOrBlank;
+    const bool isListOfLists = takesLists && value.size() > 0 && value[0].isArray();
     const bool byElement = isListOfLists || (!TakesOneRecord(take) && !byMember);
     if (byElement && value.type() == Type::Array) {
         reply.isList = true;

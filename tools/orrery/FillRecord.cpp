@@ -248,8 +248,15 @@ void FillPointer(const Field& field, const Value& value, std::byte* record, Memo
     std::byte* const first = memory.Allocate(static_cast<std::size_t>(std::max<std::int64_t>(room, 1)) * table.size);
     for (std::int64_t i = 0; i < room; ++i)
         SetSizeWords(table, first + i * table.size);
-    for (std::uint32_t i = 0; i < value.size(); ++i)
-        FillFields(table, value[i], first + std::size_t{i} * table.size, memory, Element(path, i));
+    for (std::uint32_t i = 0; i < value.size(); ++i) {
+        std::byte* const at = first + std::size_t{i} * table.size;
+        if (!PointsToNumbers(field))
+            FillFields(table, value[i], at, memory, Element(path, i));
+        else if (value[i].isInt())
+            Store(at, value[i].asInt());
+        else
+            FailType(Element(path, i), value[i], "a whole number");
+    }
     Store(record + field.offset, first);
 }
 
@@ -396,6 +403,7 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
             Store(at, first);
             StoreSlot(field.capacity, record, count);
         } else if (field.cell == Cell::Record) {
+            if (field.capacity.exists()) StoreSlot(field.capacity, record, field.dims[0]); // an array that is lent whole
             for (std::uint32_t i = 0; i < field.size / field.elementSize; ++i)
                 GiveRoom(*field.table, at + std::size_t{i} * field.elementSize, count, memory);
         }

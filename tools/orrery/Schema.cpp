@@ -27,8 +27,8 @@ const char* KeyOf(const std::vector<const Table*>& tables, const Field& field) {
 Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     Node node = Node::Object();
     node.Add("name", Node::Text(field.name)).Add("type", Node::Text(TypeWord(field.cell)));
-    if (PointsToText(field))
-        node.Add("to", Node::Text("char"));
+    if (PointsToText(field) || PointsToNumbers(field))
+        node.Add("to", Node::Text(PointsToText(field) ? "char" : "i32"));
     else if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
         node.Add("record", Node::Text(field.table->record));
         // A pointer to bytes: the record stands at its beginning, others follow it.

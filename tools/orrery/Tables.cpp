@@ -1,6 +1,7 @@
 #include "orrery/Tables.h"
 
 #include "Commands.h"
+#include "orrery/Words.h"
 #include "events/EventTable.h"
 #include "frame/JsonParser.h"
 #include "frame/PackedItems.h"
@@ -31,7 +32,7 @@ void Tables::Meet(const Table& table, const std::string& where) {
     all.push_back(&table);
     for (const Field& field : table) {
         const std::string place = std::string(table.record) + "." + field.name;
-        if (field.table != nullptr) Meet(*field.table, place);
+        if (field.table != nullptr && !PointsToNumbers(field)) Meet(*field.table, place);
         if (field.names != nullptr && nameLabels_.try_emplace(field.names, place).second) names.push_back(field.names);
     }
     if (const PackedItems* const items = ItemsBehind(table)) {

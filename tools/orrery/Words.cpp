@@ -64,7 +64,7 @@ std::vector<std::uint32_t> DimsOf(const Field& field) {
 std::string TypeOf(const Field& field) {
     std::string type = TypeWord(field.cell);
     if (field.cell == Cell::Record || field.cell == Cell::Pointer)
-        type = PointsToText(field) ? "char" : field.table->record;
+        type = PointsToText(field) ? "char" : PointsToNumbers(field) ? "i32" : field.table->record;
     if (field.cell == Cell::Pointer) type += "*";
     for (const std::uint32_t dim : DimsOf(field))
         type += Joined({"[", std::to_string(dim), "]"});
@@ -230,7 +230,8 @@ std::string ParseWords(const Command& command) {
                                                 "IntegerNonZero", "TextTrue"}));
     words += " "
              + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List",
-                                               "ListOrNone", "ListOrLists", "ByMember", "ByMemberOrNone", "Text"}));
+                                               "ListOrNone", "ListOrLists", "ListOrListsOrBlank", "ByMember",
+                                               "ByMemberOrNone", "Text"}));
     words += " " + Call("Null", Word(frame.nullValue, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
     words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Read", "Kept"}));
     words +=
@@ -240,6 +241,8 @@ std::string ParseWords(const Command& command) {
     if (frame.anySize) words += " AnySize";
     if (frame.zeroesLength) words += " ZeroesLength";
     if (frame.needsText) words += " NeedsText";
+    if (frame.takesNoJson) words += " TakesNoJson";
+    if (frame.takesEmptyLists) words += " TakesEmptyLists";
     if (frame.accepts != nullptr) words += " Accepts(function)";
     if (frame.readsNulls) words += " ReadsNulls";
     if (frame.rootKeysFirst) words += " RootKeysFirst";
@@ -255,7 +258,7 @@ std::string PackWords(const Command& command) {
     if (command.pack == Command::Frame::Table) return words + TableFrameWords(command.tableFrame);
     if (command.pack != Command::Frame::Family) return words;
     const PackFrame& frame = command.packFrame;
-    words += " " + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember", "Nothing"}));
+    words += " " + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember", "Nothing", "NoText"}));
     words += " " + Call("Fits", Word(frame.capacity, {"Strict", "Loose", "Raw", "OneBefore"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.quotedKey[0] != '\0') words += " " + Call("Under", frame.quotedKey);

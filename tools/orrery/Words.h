@@ -18,6 +18,10 @@ std::vector<std::uint32_t> DimsOf(const record::Field& field);
 inline bool PointsToText(const record::Field& field) {
     return field.cell == record::Cell::Pointer && field.table == nullptr;
 }
+// A pointer that leads to plain numbers.
+inline bool PointsToNumbers(const record::Field& field) {
+    return field.cell == record::Cell::Pointer && field.table == &record::kInt32;
+}
 // A pointer that leads to one record at the most.
 inline bool PointsToOne(const record::Field& field) {
     return field.cell == record::Cell::Pointer && !field.count.exists() && !field.capacity.exists();

@@ -190,7 +190,7 @@ struct Field {
     constexpr Field CountUncapped(Slot slot) const {
         return With(With(*this, &Field::count, slot), &Field::countUncapped, true);
     }
-    // Room of the caller's array behind a pointer.
+    // Room of the caller's array behind a pointer; of an array inside the record, how much of it the caller lends.
     constexpr Field Capacity(Slot slot) const { return With(*this, &Field::capacity, slot); }
     constexpr Field Zeroed() const { return With(*this, &Field::zeroed, true); }
     // A list is read also when the value is no array: as empty, or as one empty element for each member of an object.

@@ -15,7 +15,11 @@ struct Elements {
 };
 
 Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSize) noexcept {
-    if (field.cell != Cell::Pointer) return {record + field.offset, field.dims[0]};
+    if (field.cell != Cell::Pointer) {
+        std::int64_t room = field.dims[0];
+        if (field.capacity.exists()) room = std::clamp<std::int64_t>(LoadSlot(field.capacity, record), 0, room);
+        return {record + field.offset, static_cast<std::uint32_t>(room)};
+    }
     auto* const first = Load<std::byte*>(record + field.offset);
     const std::int64_t room = field.owned ? listSize : LoadSlot(field.capacity, record);
     if (first == nullptr || room <= 0) return {nullptr, 0};
@@ -200,7 +204,7 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
         used = counted = std::min(value.size(), room.room);
     } else {
         for (const Value& element : value.elements()) {
-            if (used == room.room) break;
+            if (used == room.room || call.refused) break;
             if (element.isNull()) {
                 if (field.nulls == Nulls::Stop) break;
                 if (field.nulls == Nulls::CloseUp) continue;
@@ -380,6 +384,7 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
     } else {
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
             ReadField(table.rows[table.nodes[table.self.first + i].row], value, record, call);
+            if (call.refused) return true;
         }
         ReadNodes(table, table.members, value, record, call);
     }

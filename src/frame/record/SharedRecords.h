@@ -91,4 +91,14 @@ PART(kColor, CFG_COLOR,
      })
     .As(Shape::Tuple);
 
+// Numbers behind a pointer of the caller's: FIELD(pnPorts, "Ports", Int32s).Capacity(AT(nMaxPorts)).
+struct Int32 {
+    std::int32_t nValue;
+};
+PART(kInt32, Int32,
+     {
+         FIELD(nValue, "", Int).Always(),
+     });
+inline constexpr Nested<std::int32_t> Int32s{&kInt32};
+
 } // namespace orrery::record
