@@ -31,6 +31,7 @@
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
 #include "media/StroboscopicLamp.h"
+#include "media/Tracker.h"
 #include "media/VideoInOptions.h"
 #include "media/VideoInput.h"
 #include "network/Dvrip.h"
@@ -113,9 +114,8 @@ constexpr ParseFrame kList = kParse.Takes(Take::List);
 constexpr PackFrame kRaw = kPack.Fits(Capacity::Raw);
 
 // The items of one record, or of a record a list.
-constexpr ParseFrame kListOrLists = kParse.Takes(Take::ListOrListsOrBlank)
-                                        .Null(NullValue::LengthUntouched)
-                                        .Length(ReplyLength::OneOfList);
+constexpr ParseFrame kListOrLists =
+    kParse.Takes(Take::ListOrListsOrBlank).Null(NullValue::LengthUntouched).Length(ReplyLength::OneOfList);
 
 constexpr ParseFrame kCaps = kParse.From(Source::Caps);
 constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
@@ -372,6 +372,15 @@ constexpr Command kCommands[] = {
     // Pan, tilt, zoom
 
     // Master and slave trackers
+    Both("MasterSlaveTrackerGlobal", kMasterSlaveTracker, kParse, kLoose),
+    Both("CalibrateMatrix", kCalibrateMatrix, kParse.Takes(Take::List).Clears(Clearing::Kept).Accepts(HasMatrixRoom),
+         kPack),
+    Reply("capsManager.get&MasterSlaveTracker", kMasterSlaveCaps,
+          kCaps.Result(ResultTest::FalseRefuses).Null(NullValue::OneRecord)),
+    Reply("masterSlaveTracker.factory.getCollect", kMasterSlaveCollect,
+          kParse.From(Source::Params, "channels").Null(NullValue::OneRecord)),
+    Generic("MasterSlaveGroup", kMasterSlaveGroup, {.arrayForm = true, .zeroBuffer = true, .alwaysArray = true}),
+    Generic("MasterSlaveGlobal", kMasterSlaveConfig, {.arrayForm = true, .zeroBuffer = true}),
 
     // Display and matrix
 

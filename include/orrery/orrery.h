@@ -38,6 +38,7 @@
 #include "orrery/rule_bodies.h"
 #include "orrery/thermography.h"
 #include "orrery/services.h"
+#include "orrery/tracker.h"
 #include "orrery/traffic_rules.h"
 #include "orrery/types.h"
 #include "orrery/video_talk.h"

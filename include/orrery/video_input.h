@@ -13,27 +13,28 @@ extern "C" {
 
 /* What the video output carries ("SignalFormat"). Names are read with case folded. */
 typedef enum CFG_SIGNAL_FORMAT {
-    CFG_SIGNAL_INSIDE = 0, /* "Inside": made in the camera; read from every other name too, written for every other code */
-    CFG_SIGNAL_BT656 = 1,  /* "BT656" */
-    CFG_SIGNAL_720P = 2,   /* "720p" */
-    CFG_SIGNAL_1080P = 3,  /* "1080p" */
-    CFG_SIGNAL_1080I = 4,  /* "1080i" */
-    CFG_SIGNAL_1080SF = 5  /* "1080sF" */
+    CFG_SIGNAL_INSIDE =
+        0, /* "Inside": made in the camera; read from every other name too, written for every other code */
+    CFG_SIGNAL_BT656 = 1, /* "BT656" */
+    CFG_SIGNAL_720P = 2,  /* "720p" */
+    CFG_SIGNAL_1080P = 3, /* "1080p" */
+    CFG_SIGNAL_1080I = 4, /* "1080i" */
+    CFG_SIGNAL_1080SF = 5 /* "1080sF" */
 } CFG_SIGNAL_FORMAT;
 
 /* White balance ("WhiteBalance"). Names are read with case folded. */
 typedef enum CFG_WHITE_BALANCE {
-    CFG_WHITE_BALANCE_DISABLE = 0,     /* "Disable"; read from every other name too, written for every other code */
-    CFG_WHITE_BALANCE_AUTO = 1,        /* "Auto" */
-    CFG_WHITE_BALANCE_CUSTOM = 2,      /* "Custom" */
-    CFG_WHITE_BALANCE_SUNNY = 3,       /* "Sunny" */
-    CFG_WHITE_BALANCE_CLOUDY = 4,      /* "Cloudy" */
-    CFG_WHITE_BALANCE_HOME = 5,        /* "Home" */
-    CFG_WHITE_BALANCE_OFFICE = 6,      /* "Office" */
-    CFG_WHITE_BALANCE_NIGHT = 7,       /* "Night" */
-    CFG_WHITE_BALANCE_HIGH = 8,        /* "HighColorTemperature" */
-    CFG_WHITE_BALANCE_LOW = 9,         /* "LowColorTemperature" */
-    CFG_WHITE_BALANCE_AUTO_COLOR = 10, /* "AutoColorTemperature" */
+    CFG_WHITE_BALANCE_DISABLE = 0,      /* "Disable"; read from every other name too, written for every other code */
+    CFG_WHITE_BALANCE_AUTO = 1,         /* "Auto" */
+    CFG_WHITE_BALANCE_CUSTOM = 2,       /* "Custom" */
+    CFG_WHITE_BALANCE_SUNNY = 3,        /* "Sunny" */
+    CFG_WHITE_BALANCE_CLOUDY = 4,       /* "Cloudy" */
+    CFG_WHITE_BALANCE_HOME = 5,         /* "Home" */
+    CFG_WHITE_BALANCE_OFFICE = 6,       /* "Office" */
+    CFG_WHITE_BALANCE_NIGHT = 7,        /* "Night" */
+    CFG_WHITE_BALANCE_HIGH = 8,         /* "HighColorTemperature" */
+    CFG_WHITE_BALANCE_LOW = 9,          /* "LowColorTemperature" */
+    CFG_WHITE_BALANCE_AUTO_COLOR = 10,  /* "AutoColorTemperature" */
     CFG_WHITE_BALANCE_CUSTOM_COLOR = 11 /* "CustomColorTemperature" */
 } CFG_WHITE_BALANCE;
 

@@ -156,16 +156,16 @@ typedef struct CFG_METERING_ITEM {
  * the device refused is read all the same. A text of exactly the capacity stands without a terminator. */
 typedef struct CFG_VIDEOIN_METERING_INFO {
     int32_t nCount; /* items in use, at most 256 */
-    CFG_METERING_ITEM stuItems[ORRERY_METERING_ITEMS];
+    CFG_METERING_ITEM stuItems[ORRERY_METERING_ITEMS]; /* the list itself */
 } CFG_VIDEOIN_METERING_INFO;
 
 /* ---- "VideoInDayNight" ---- */
 
 /* What switches the filter ("Type"). Names are read with case folded. */
 typedef enum CFG_DAYNIGHT_TYPE {
-    CFG_DAYNIGHT_TYPE_UNKNOWN = 0,   /* "", and every other name; written, like every other code, as "" */
-    CFG_DAYNIGHT_TYPE_ELECTRON = 1,  /* "Electron" */
-    CFG_DAYNIGHT_TYPE_MECHANISM = 2  /* "Mechanism" */
+    CFG_DAYNIGHT_TYPE_UNKNOWN = 0,  /* "", and every other name; written, like every other code, as "" */
+    CFG_DAYNIGHT_TYPE_ELECTRON = 1, /* "Electron" */
+    CFG_DAYNIGHT_TYPE_MECHANISM = 2 /* "Mechanism" */
 } CFG_DAYNIGHT_TYPE;
 
 /* Colour or black and white ("Mode"). Names are read with case folded. */
@@ -192,7 +192,7 @@ typedef struct CFG_DAYNIGHT_ITEM {
  * channel. A list of any other length leaves its record clear, succeeds and counts. The reply's length is added to what
  * returnedLength holds. */
 typedef struct CFG_VIDEOIN_DAYNIGHT_INFO {
-    CFG_DAYNIGHT_ITEM stuItems[ORRERY_VIDEOIN_SETTINGS];
+    CFG_DAYNIGHT_ITEM stuItems[ORRERY_VIDEOIN_SETTINGS]; /* the list itself */
 } CFG_VIDEOIN_DAYNIGHT_INFO;
 
 /* ---- "FishEye" ---- */
@@ -211,14 +211,14 @@ typedef struct CFG_FISHEYE_WINDOW {
 
 /* The windows of a mode of "FishEye", whose name is the key of their list. */
 typedef struct CFG_FISHEYE_MODE {
-    uint32_t emMode;       /* CFG_FISHEYE_CALIBRATE_MODE; of modes that write the same name a later one's windows stand */
+    uint32_t emMode; /* CFG_FISHEYE_CALIBRATE_MODE; of modes that write the same name a later one's windows stand */
     uint32_t nWindowCount; /* windows in use, at most 8; a mode without any is not written */
     CFG_FISHEYE_WINDOW stuWindows[ORRERY_FISHEYE_WINDOWS]; /* the list itself */
 } CFG_FISHEYE_MODE;
 
 /* "FishEye": how a fish-eye picture is cut up, an object or a list of them. A value of another type and a missing table
- * succeed with nothing read. The length of a reply is always that of one record, also when several are filled or none. A
- * call that the device refused is read all the same. One record is written as an object, several as a list. A text of
+ * succeed with nothing read. The length of a reply is always that of one record, also when several are filled or none.
+ * A call that the device refused is read all the same. One record is written as an object, several as a list. A text of
  * exactly the capacity stands without a terminator. */
 typedef struct CFG_FISHEYE_INFO {
     uint32_t nModeCount;                             /* modes in use, at most 8 */
@@ -247,12 +247,12 @@ typedef struct CFG_VIDEOIN_CAPS_EX {
     uint32_t nMaxKillShutLine;    /* "KillShutLine"."MaxKillShutLine": read also without "Support" */
     uint32_t nMinKillShutLine;    /* "KillShutLine"."MinKillShutLine": read also without "Support" */
     uint32_t bVideoInColor;       /* "VideoInColor"."Support" */
-    uint32_t bBrightness;         /* "VideoInColor"."Brightness": 0 unless "Support" is true itself; so the next three */
-    uint32_t bContrast;           /* "VideoInColor"."Contrast" */
-    uint32_t bSaturation;         /* "VideoInColor"."Saturation" */
-    uint32_t bHue;                /* "VideoInColor"."Hue" */
-    uint32_t bVideoInFocus;       /* "VideoInFocus"."Support" */
-    uint32_t bLightingControl;    /* "LightingControl"."Support" */
+    uint32_t bBrightness;      /* "VideoInColor"."Brightness": 0 unless "Support" is true itself; so the next three */
+    uint32_t bContrast;        /* "VideoInColor"."Contrast" */
+    uint32_t bSaturation;      /* "VideoInColor"."Saturation" */
+    uint32_t bHue;             /* "VideoInColor"."Hue" */
+    uint32_t bVideoInFocus;    /* "VideoInFocus"."Support" */
+    uint32_t bLightingControl; /* "LightingControl"."Support" */
     uint32_t dwReserved;
 } CFG_VIDEOIN_CAPS_EX;
 

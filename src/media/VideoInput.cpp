@@ -94,8 +94,7 @@ bool IsRegion(const std::byte* item) {
            && MEMBER(item, CFG_BACKLIGHT_ITEM, emBacklightMode) == CFG_BACKLIGHT_AREA_REGION;
 }
 bool IsManual(const std::byte* item) {
-    return IsMode<CFG_BACKLIGHT_SSA>(item)
-           && MEMBER(item, CFG_BACKLIGHT_ITEM, emIntensityMode) == CFG_INTENSITY_MANUAL;
+    return IsMode<CFG_BACKLIGHT_SSA>(item) && MEMBER(item, CFG_BACKLIGHT_ITEM, emIntensityMode) == CFG_INTENSITY_MANUAL;
 }
 
 PART(kBacklightItem, CFG_BACKLIGHT_ITEM,

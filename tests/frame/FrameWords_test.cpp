@@ -205,10 +205,8 @@ TEST(FrameWords, AnEmptyListIsNoneOrAsGoodAsNull) {
 }
 
 TEST(FrameWords, WhatIsNeitherListNorListsMayBeABlankRecord) {
-    const ParseFrame frame = ParseFrame{}
-                                 .Takes(Take::ListOrListsOrBlank)
-                                 .Null(NullValue::LengthUntouched)
-                                 .Length(ReplyLength::OneOfList);
+    const ParseFrame frame =
+        ParseFrame{}.Takes(Take::ListOrListsOrBlank).Null(NullValue::LengthUntouched).Length(ReplyLength::OneOfList);
     for (const char* table : {"{}", R"({"Value":1})", "5", "\"x\"", "[1]", "[\"x\",{}]"}) {
         const Call call(frame, Reply(table));
         EXPECT_EQ(call.outcome, Outcome::Done) << table;

@@ -403,7 +403,8 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
             Store(at, first);
             StoreSlot(field.capacity, record, count);
         } else if (field.cell == Cell::Record) {
-            if (field.capacity.exists()) StoreSlot(field.capacity, record, field.dims[0]); // an array that is lent whole
+            if (field.capacity.exists())
+                StoreSlot(field.capacity, record, field.dims[0]); // an array that is lent whole
             for (std::uint32_t i = 0; i < field.size / field.elementSize; ++i)
                 GiveRoom(*field.table, at + std::size_t{i} * field.elementSize, count, memory);
         }
