@@ -39,7 +39,7 @@ typedef struct CFG_CAMERA_TYPE {
 
 /* Kinds of cameras, a list in the text; none is written as null. */
 typedef struct CFG_CAMERA_INFO_LIST {
-    uint32_t nCount; /* kinds in use, at most 64 */
+    uint32_t nCount;                               /* kinds in use, at most 64 */
     CFG_CAMERA_TYPE stuTypes[ORRERY_CAMERA_TYPES]; /* the list itself */
 } CFG_CAMERA_INFO_LIST;
 

@@ -155,7 +155,7 @@ typedef struct CFG_METERING_ITEM {
 /* "VideoInMetering": where the light is measured. A missing table, or one that is no list, gives no item. A call that
  * the device refused is read all the same. A text of exactly the capacity stands without a terminator. */
 typedef struct CFG_VIDEOIN_METERING_INFO {
-    int32_t nCount; /* items in use, at most 256 */
+    int32_t nCount;                                    /* items in use, at most 256 */
     CFG_METERING_ITEM stuItems[ORRERY_METERING_ITEMS]; /* the list itself */
 } CFG_VIDEOIN_METERING_INFO;
 
