@@ -25,6 +25,12 @@ constexpr MemberRow kRows[] = {
     {"CommGlobal", 1, 8},
     {"Email"}, {"AccessControl"}, {"VideoTalkPhoneBasic"}, {"DevList"}, {"ShortcutCall"}, {"SceneMode"},
     {"Email"}, {"NTP"}, {"AirCondition"}, {"videoStatServer.getSummary"}, {"RemoteChannel"}, {"RemoteDevice", 64},
+    {"VideoInOptions"},
+    {"VideoInBacklight"},
+    {"VideoInDefog"},
+    {"PtzAutoMovement"},
+    {"PtzPreset"},
+    {"ptz.getCurrentProtocolCaps"},
 };
 
 const Command& CommandNamed(const char* name) {

@@ -30,6 +30,10 @@
 #include "later/Home.h"
 #include "media/Encode.h"
 #include "media/EncodeEncrypt.h"
+#include "media/Ptz.h"
+#include "media/PtzCaps.h"
+#include "media/PtzLines.h"
+#include "media/PtzMovement.h"
 #include "media/StroboscopicLamp.h"
 #include "media/Tracker.h"
 #include "media/VideoInOptions.h"
@@ -112,6 +116,13 @@ constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
 constexpr ParseFrame kList = kParse.Takes(Take::List);
 // Texts that may fill the buffer without a terminator.
 constexpr PackFrame kRaw = kPack.Fits(Capacity::Raw);
+
+// An object or a list of records, which may be empty.
+constexpr ParseFrame kOneOrManyOrNone = kParse.Takes(Take::OneOrMany).TakesEmptyLists().Length(ReplyLength::PerRecord);
+
+// Lens drives answer with a number.
+constexpr ParseFrame kLens =
+    kParse.Result(ResultTest::IntegerNonZero).Takes(Take::List).Null(NullValue::LengthUntouched);
 
 // The items of one record, or of a record a list.
 constexpr ParseFrame kListOrLists =
@@ -370,6 +381,40 @@ constexpr Command kCommands[] = {
     Reply("devVideoInput.getFocusStatus", kFocusStatus, kParse.From(Source::Params, "status")),
 
     // Pan, tilt, zoom
+    Both("Ptz", kPtz, kParse.Result(ResultTest::FalseRefuses), kLoose),
+    Both("Comm", kComm, kParse.Takes(Take::List), kPack),
+    Both("PtzPreset", kPtzPreset,
+         kParse.Takes(Take::List)
+             .Null(NullValue::LengthUntouched)
+             .Clears(Clearing::Kept)
+             .Length(ReplyLength::None)
+             .Accepts(HasPresetArray),
+         kPack.FormBy(PtzPresetForm).Fits(Capacity::OneBefore).Accepts(FitsPresets)),
+    Both("PtzTour", kPtzTour, kParse.Null(NullValue::OneRecord), kPack),
+    Both("PtzAutoMovement", kPtzAutoMovement,
+         kParse.Result(ResultTest::FalseRefuses)
+             .Takes(Take::List)
+             .Clears(Clearing::Kept)
+             .Length(ReplyLength::None)
+             .Accepts(HasMovementArray),
+         kLoose.Accepts(HasMovements)),
+    Both("SplitTour", kSplitTour, kUntested.From(Source::Top, "SplitTour").Null(NullValue::OneRecord),
+         kLoose.Under("\"SplitTour\" : ")),
+    Both("SpotMatrix", kSpotMatrix, kUntested.From(Source::Top, "SpotMatrix").Null(NullValue::OneRecord),
+         kLoose.Under("\"SpotMatrix\" : ")),
+    Both("VideoInZoom", kVideoInZoom, kLens, kPack.Fits(Capacity::OneBefore).Accepts(FitsZoomItems)),
+    Both("VideoInFocus", kVideoInFocus, kLens, kPack.Fits(Capacity::OneBefore).Accepts(FitsFocusItems)),
+    Both("CANFilter", kCanFilter,
+         kParse.Takes(Take::List).Null(NullValue::LengthZero).Clears(Clearing::Kept).LengthBy(CanFilterLength), kPack),
+    Both("IdleMotion", kIdleMotion, kOneOrManyOrNone, kPack.As(Form::BareIfExact)),
+    Both("StandingTime", kStandingTime, kOneOrManyOrNone, kPack.As(Form::BareIfExact)),
+    Both("EnclosureTimeSchedule", kEnclosureSchedule, kOneOrManyOrNone, kPack.As(Form::BareIfExact)),
+    Both("InfraredBoardTemplate", kInfraredBoardTemplate, kParse.Null(NullValue::OneRecord), kPack),
+    Both("InfraredBoard", kInfraredBoard, kParse.Null(NullValue::OneRecord), kPack),
+    Reply("ptz.getCurrentProtocolCaps", kPtzCaps, kCaps.Null(NullValue::OneRecord)),
+    Reply("ptz.getProtocol", kPtzProtocols,
+          kParse.From(Source::Params, "info").Result(ResultTest::ExactBool).Null(NullValue::OneRecord)),
+    Reply("ptz.factory.instance", kPtzInstance, kUntested.From(Source::Result).Null(NullValue::OneRecord)),
 
     // Master and slave trackers
     Both("MasterSlaveTrackerGlobal", kMasterSlaveTracker, kParse, kLoose),

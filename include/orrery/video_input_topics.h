@@ -86,8 +86,8 @@ typedef struct CFG_BACKLIGHT_ITEM {
     int32_t emMode;            /* "Mode": CFG_BACKLIGHT_MODE; always written */
     int32_t emBacklightMode;   /* "BacklightMode": CFG_BACKLIGHT_AREA; written for CFG_BACKLIGHT_BACKLIGHT */
     int32_t nRegion[4];        /* "BacklightRegion": left, top, right, bottom; written for a region of that mode */
-    int32_t nWideDynamicRange; /* "WideDynamicRange": 1 to 100; written for CFG_BACKLIGHT_WIDE_DYNAMIC */
-    int32_t nGlareInhibition;  /* "GlareInhibition": 1 to 100; written for CFG_BACKLIGHT_GLARE */
+    int32_t nWideDynamicRange; /* "WideDynamicRange": 1 to 100; written in the mode of that name */
+    int32_t nGlareInhibition;  /* "GlareInhibition": 1 to 100; written in the mode of that name */
     int32_t emIntensityMode;   /* "IntensityMode": CFG_INTENSITY_MODE; written for CFG_BACKLIGHT_SSA */
     int32_t nIntensity;        /* "Intensity": 0 to 100; written for a manual intensity of that mode */
 } CFG_BACKLIGHT_ITEM;
