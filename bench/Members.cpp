@@ -31,6 +31,8 @@ constexpr MemberRow kRows[] = {
     {"PtzAutoMovement"},
     {"PtzPreset"},
     {"ptz.getCurrentProtocolCaps"},
+    {"DspEncodeCap"},           {"Email"},           {"HeatImagingThermometry"},
+    {"ParkingSpaceLightGroup"}, {"ThermometryRule"}, {"encode.getCaps"},
 };
 
 const Command& CommandNamed(const char* name) {

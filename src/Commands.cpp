@@ -29,11 +29,13 @@
 #include "later/Thermography.h"
 #include "later/Home.h"
 #include "media/Encode.h"
+#include "media/EncodeCaps.h"
 #include "media/EncodeEncrypt.h"
 #include "media/Ptz.h"
 #include "media/PtzCaps.h"
 #include "media/PtzLines.h"
 #include "media/PtzMovement.h"
+#include "media/Overlay.h"
 #include "media/StroboscopicLamp.h"
 #include "media/Tracker.h"
 #include "media/VideoInOptions.h"
@@ -357,8 +359,21 @@ constexpr Command kCommands[] = {
          kParse.Null(NullValue::LengthUntouched).LengthBy(StroboscopicLampLength), kPack.Fits(Capacity::Raw)),
 
     // Overlays and snapshots
+    Own("PicInPic", kPicInPic, ParsePicInPic, PackPicInPic),
+    Reply("SnapInfo", kSnapInfo, kParse.From(Source::Top, "SnapInfo").Result(ResultTest::FalseRefuses)),
+    Both("WaterMark", kWaterMark, kParse.From(Source::Top, "WaterMark").Result(ResultTest::FalseRefuses),
+         kLoose.Under("\"WaterMark\" : ")),
+    Both("VideoEncodeROI", kVideoEncodeRoi, kUntested, kLoose),
 
     // Encoder capabilities
+    Reply("encode.getCaps", kEncodeCaps, kCaps.Result(ResultTest::NotTested).Null(NullValue::OneRecord)),
+    Reply("encode.getNAACaps", kEncodeNaaCaps, kCaps.Null(NullValue::OneRecord)),
+    Reply("encode.getCropCaps", kEncodeCropCaps, kCaps.Result(ResultTest::ExactBool).Null(NullValue::OneRecord)),
+    Reply("OSDManager.getCaps", kOsdCaps, kCaps.Null(NullValue::OneRecord)),
+    Reply("OSDManager.getCustomCaps", kOsdCustomCaps, kCaps.Null(NullValue::OneRecord)),
+    Both("DspEncodeCap", kDspEncodeCap,
+         kParse.From(Source::Top, "DspEncodeCap").Result(ResultTest::NotTested).Null(NullValue::OneRecord),
+         kPack.Under("\"DspEncodeCap\" : ")),
 
     // Video input
     Both("VideoInOptions", kVideoInOptions,

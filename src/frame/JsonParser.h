@@ -98,6 +98,11 @@ class JsonParser {
     static std::string_view SplitModeText(std::int32_t mode, std::array<char, 32>& room) noexcept;
     static bool SetSplitMode(json::TextWriter& out, std::int32_t mode) noexcept;
 
+    // Overlays and composed pictures name the same modes by other rules: prefixes in any case, "Split3" and "Split3B"
+    // as a whole, and a bare prefix is its first mode, "CompositeSplit" too. Every mode has a name.
+    static std::uint32_t GetOverlaySplit(std::string_view text) noexcept;
+    static std::string_view OverlaySplitText(std::uint32_t mode, std::array<char, 32>& room) noexcept;
+
     // ---- Base64 ----------------------------------------------------------------------------------------------------
 
     static std::size_t Base64EncodedSize(std::size_t size) noexcept; // terminator included

@@ -2,6 +2,9 @@
 #include "frame/JsonParser.h"
 #include "frame/JsonParser_Scan.h"
 
+#include <charconv>
+#include <cstring>
+
 namespace orrery {
 
 namespace {
@@ -31,6 +34,30 @@ std::int32_t JsonParser::GetSplitMode(std::string_view text) noexcept {
         return static_cast<std::int32_t>(static_cast<std::uint32_t>(kind.base) + static_cast<std::uint32_t>(number));
     }
     return 1;
+}
+
+std::uint32_t JsonParser::GetOverlaySplit(std::string_view text) noexcept {
+    text = text.substr(0, text.find('\0'));
+    if (EqualsFolded(text, kSplit3)) return kSplit3Mode;
+    if (EqualsFolded(text, kSplit3B)) return kSplit3BMode;
+    for (const SplitKind& kind : kSplitKinds) {
+        if (!EqualsFolded(text.substr(0, kind.prefix.size()), kind.prefix)) continue;
+        std::int32_t number = 0;
+        scan::Scanner(text.substr(kind.prefix.size())).Number(number, 0);
+        return static_cast<std::uint32_t>(kind.base) + static_cast<std::uint32_t>(number);
+    }
+    return 1;
+}
+
+std::string_view JsonParser::OverlaySplitText(std::uint32_t mode, std::array<char, 32>& room) noexcept {
+    if (mode == kSplit3Mode) return kSplit3;
+    if (mode == kSplit3BMode) return kSplit3B;
+    const SplitKind& kind = kSplitKinds[mode >= 3000 ? 3 : mode / 1000];
+    const std::uint32_t number = mode - static_cast<std::uint32_t>(kind.base);
+    if (number == 0) return kind.prefix;
+    std::memcpy(room.data(), kind.prefix.data(), kind.prefix.size());
+    const auto end = std::to_chars(room.data() + kind.prefix.size(), room.data() + room.size(), number).ptr;
+    return {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
 std::string_view JsonParser::SplitModeText(std::int32_t mode, std::array<char, 32>& room) noexcept {
