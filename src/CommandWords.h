@@ -64,9 +64,40 @@ constexpr Command Own(std::string_view name, const record::Table& table, Outcome
 inline constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
 inline constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
 
+// Texts that may fill the buffer without a terminator.
+inline constexpr PackFrame kRaw = kPack.Fits(Capacity::Raw);
+
+// Settings of several devices, inputs or outputs: a record each. One is written bare, several as a list.
+inline constexpr ParseFrame kOneOrMany = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
+inline constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
+// The same, where the list may be empty.
+inline constexpr ParseFrame kOneOrManyOrNone = kOneOrMany.TakesEmptyLists();
+// Doors and their like: a null element is a record without keys.
+inline constexpr ParseFrame kDoors = kOneOrMany.ReadsNulls();
+// A record that is a list.
+inline constexpr ParseFrame kList = kParse.Takes(Take::List);
+// The items of one record, or of a record a list.
+inline constexpr ParseFrame kListOrLists =
+    kParse.Takes(Take::ListOrListsOrBlank).Null(NullValue::LengthUntouched).Length(ReplyLength::OneOfList);
+// Lens drives answer with a number.
+inline constexpr ParseFrame kLens = kList.Result(ResultTest::IntegerNonZero).Null(NullValue::LengthUntouched);
+
 inline constexpr ParseFrame kCaps = kParse.From(Source::Caps);
 inline constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
 
+// A command that tells the log why it failed.
+constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequest&) noexcept,
+                         void (*pack)(Outcome, const PackRequest&) noexcept) {
+    command.parseFailed = parse;
+    command.packFailed = pack;
+    return command;
+}
+
+// The generic frame: one record, a list of them, or one that is a list itself or stands in one.
 inline constexpr TableFrame kOneCleared{.zeroBuffer = true};
+inline constexpr TableFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
+inline constexpr TableFrame kManyAlwaysArray{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
+inline constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
+inline constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
 
 } // namespace orrery::words

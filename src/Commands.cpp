@@ -11,31 +11,28 @@
 #include "alarm/DeviceFaults.h"
 #include "alarm/VehicleAlarms.h"
 #include "analyse/RuleFrame.h"
-#include "device/GeneralSwitch.h"
-#include "frame/CommandIndex.h"
 #include "device/DeviceAlarm.h"
 #include "device/DeviceNetwork.h"
 #include "device/DeviceStatus.h"
 #include "device/Equipment.h"
+#include "device/GeneralSwitch.h"
 #include "device/Locale.h"
 #include "device/RemoteDevice.h"
 #include "device/Services.h"
 #include "device/Settings.h"
 #include "device/Vehicle.h"
-#include "frame/GeneralSwitch.h"
-#include "frame/JsonParser.h"
-#include "frame/NameHash.h"
+#include "frame/CommandIndex.h"
+#include "later/Home.h"
 #include "later/Parking.h"
 #include "later/Thermography.h"
-#include "later/Home.h"
 #include "media/Encode.h"
 #include "media/EncodeCaps.h"
 #include "media/EncodeEncrypt.h"
+#include "media/Overlay.h"
 #include "media/Ptz.h"
 #include "media/PtzCaps.h"
 #include "media/PtzLines.h"
 #include "media/PtzMovement.h"
-#include "media/Overlay.h"
 #include "media/StroboscopicLamp.h"
 #include "media/Tracker.h"
 #include "media/VideoInOptions.h"
@@ -51,114 +48,6 @@ namespace orrery {
 namespace {
 
 using namespace words;
-// Words of the rows below.
-constexpr ParseFrame kParse;
-constexpr PackFrame kPack;
-
-constexpr Command Generic(std::string_view name, const record::Table& table, TableFrame frame) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = command.pack = Command::Frame::Table;
-    command.tableFrame = frame;
-    return command;
-}
-
-constexpr Command Both(std::string_view name, const record::Table& table, ParseFrame parse, PackFrame pack) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = command.pack = Command::Frame::Family;
-    command.parseFrame = parse;
-    command.packFrame = pack;
-    return command;
-}
-
-constexpr Command Reply(std::string_view name, const record::Table& table, ParseFrame parse) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = Command::Frame::Family;
-    command.parseFrame = parse;
-    return command;
-}
-
-// A parse function of its own; the frame's words tell tools what it does.
-constexpr Command OwnParse(std::string_view name, const record::Table& table,
-                           Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
-    Command command = Both(name, table, like, pack);
-    command.parse = Command::Frame::Own;
-    command.ownParse = parse;
-    return command;
-}
-
-// A buffer of items, described by the caller's record: read by a function of its own and, where there is one, written.
-// The frame's words tell tools where the items stand.
-constexpr Command Own(std::string_view name, const record::Table& table, Outcome (*parse)(const ParseRequest&),
-                      Outcome (*pack)(const PackRequest&), ParseFrame like = kParse) {
-    Command command;
-    command.name = name;
-    command.table = &table;
-    command.parse = Command::Frame::Own;
-    if (pack != nullptr) command.pack = Command::Frame::Own;
-    command.parseFrame = like;
-    command.ownParse = parse;
-    command.ownPack = pack;
-    return command;
-}
-
-// Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
-constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
-constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);
-
-// Settings of several devices, inputs or outputs: a record each.
-constexpr ParseFrame kOneOrMany = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
-constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
-// A record that is a list.
-constexpr ParseFrame kList = kParse.Takes(Take::List);
-// Texts that may fill the buffer without a terminator.
-constexpr PackFrame kRaw = kPack.Fits(Capacity::Raw);
-
-// An object or a list of records, which may be empty.
-constexpr ParseFrame kOneOrManyOrNone = kParse.Takes(Take::OneOrMany).TakesEmptyLists().Length(ReplyLength::PerRecord);
-
-// Lens drives answer with a number.
-constexpr ParseFrame kLens =
-    kParse.Result(ResultTest::IntegerNonZero).Takes(Take::List).Null(NullValue::LengthUntouched);
-
-// The items of one record, or of a record a list.
-constexpr ParseFrame kListOrLists =
-    kParse.Takes(Take::ListOrListsOrBlank).Null(NullValue::LengthUntouched).Length(ReplyLength::OneOfList);
-
-constexpr ParseFrame kCaps = kParse.From(Source::Caps);
-constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);
-
-// A command that tells the log why it failed.
-constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequest&) noexcept,
-                         void (*pack)(Outcome, const PackRequest&) noexcept) {
-    command.parseFailed = parse;
-    command.packFailed = pack;
-    return command;
-}
-// Doors and their like: one or a list, of which a null element is a record without keys.
-constexpr ParseFrame kDoors = kParse.Takes(Take::OneOrMany).ReadsNulls().Length(ReplyLength::PerRecord);
-constexpr PackFrame kDoorsBareIfOne = kPack.As(Form::BareIfOne);
-
-constexpr TableFrame kOneCleared{.zeroBuffer = true};
-// Depth 1: the record itself is a list, or stands in one.
-constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
-constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
-constexpr TableFrame kScenesCleared{.arrayForm = true, .zeroBuffer = true};
-constexpr TableFrame kHomeCleared{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
-// An array of records, or an object that is one; a record is written bare.
-constexpr ParseFrame kRecords = kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerRecord);
-constexpr PackFrame kRecordsBareIfOne = kPack.As(Form::BareIfOne);
-// One record that is a list.
-constexpr ParseFrame kOneList = kParse.Takes(Take::List);
-
-constexpr TableFrame kOneCleared{.zeroBuffer = true};
-constexpr TableFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
-constexpr TableFrame kListCleared{.dimension = 1, .zeroBuffer = true};
 
 constexpr Command kCommands[] = {
     // Switches
@@ -246,12 +135,12 @@ constexpr Command kCommands[] = {
 
     // Access control
     Both("AccessControlGeneral", kAccessGeneral, kParse, kPack),
-    Both("AccessControl", kAccessControl, kDoors, kDoorsBareIfOne),
+    Both("AccessControl", kAccessControl, kDoors, kBareIfOne),
     Reply("accessControlManager.getCaps", kAccessCaps, kCaps),
-    Both("AccessTimeSchedule", kAccessTimeSchedule, kDoors, kDoorsBareIfOne),
+    Both("AccessTimeSchedule", kAccessTimeSchedule, kDoors, kBareIfOne),
     Both("OpenDoorGroup", kOpenDoorGroup, kParse, kPack),
     Both("OpenDoorRoute", kOpenDoorRoute, kParse, kPack),
-    Both("AccessWorkMode", kAccessWorkMode, kDoors, kDoorsBareIfOne),
+    Both("AccessWorkMode", kAccessWorkMode, kDoors, kBareIfOne),
     Both("AccessControlTextDisplay", kAccessTextDisplay, kParse, kPack),
 
     // Video talk
@@ -277,32 +166,32 @@ constexpr Command kCommands[] = {
     Both("Telnet", kTelnet, kParse, kPack),
     Generic("WorkTime", kWorkTime, kOneCleared),
     Generic("LightingSchedule", kLightingSchedule, kManyCleared),
-    Generic("VTOBasicInfo", kVtoBasicInfo, kListCleared),
+    Generic("VTOBasicInfo", kVtoBasicInfo, kOneOfArrayCleared),
     Both("AccessFilter", kAccessFilter, kParse, kPack),
     Both("NetCollection", kNetCollection, kParse, kLoose),
-    Both("RTMP", kRtmp, kRecords, kRecordsBareIfOne),
+    Both("RTMP", kRtmp, kOneOrMany, kBareIfOne),
     Both("PhoneEventNotify", kPhoneEventNotify, kParse, kPack),
-    Both("CommSubscribe", kCommSubscribe, kOneList, kPack),
+    Both("CommSubscribe", kCommSubscribe, kList, kPack),
     Both("VSP_GAYS", kVspGays, kParse, kPack),
     Generic("AroudWifiSearch", kAroudWifiSearch, kManyCleared),
-    Generic("GPS", kGps, kListCleared),
+    Generic("GPS", kGps, kOneOfArrayCleared),
     Generic("GPSLocationVersion", kGpsLocationVersion, kOneCleared),
     Both("OilMassInfo", kOilMassInfo, kParse, kPack),
     Both("EmergencyRecordForPull", kEmergencyRecordForPull, kParse, kPack),
     Both("RemoteEvent", kRemoteEvent, kParse, kPack),
-    Both("AlarmBell", kAlarmBell, kRecords, kRecordsBareIfOne),
-    Both("AlarmSlotBond", kAlarmSlotBond, kRecords, kRecordsBareIfOne.Fits(Capacity::Loose)),
-    Both("AudioDetect", kAudioDetect, kRecords, kRecordsBareIfOne),
-    Both("IOT_InfraredDetect", kIotInfraredDetect, kOneList, kPack),
+    Both("AlarmBell", kAlarmBell, kOneOrMany, kBareIfOne),
+    Both("AlarmSlotBond", kAlarmSlotBond, kOneOrMany, kBareIfOne.Fits(Capacity::Loose)),
+    Both("AudioDetect", kAudioDetect, kOneOrMany, kBareIfOne),
+    Both("IOT_InfraredDetect", kIotInfraredDetect, kList, kPack),
     Both("IOT_RecordHandle", kIotRecordHandle, kParse, kPack),
     Both("IOT_SnapHandle", kIotSnapHandle, kParse, kPack),
-    Both("AirCondition", kAirCondition, kOneList, kPack),
-    Both("Lighting", kLighting, kRecords, kRecordsBareIfOne),
-    Both("AudioOutEqualizer", kAudioOutEqualizer, kOneList, kPack),
-    Both("AudioOutSuppression", kAudioOutSuppression, kOneList, kPack),
-    Both("AudioInControl", kAudioInControl, kOneList, kPack),
+    Both("AirCondition", kAirCondition, kList, kPack),
+    Both("Lighting", kLighting, kOneOrMany, kBareIfOne),
+    Both("AudioOutEqualizer", kAudioOutEqualizer, kList, kPack),
+    Both("AudioOutSuppression", kAudioOutSuppression, kList, kPack),
+    Both("AudioInControl", kAudioInControl, kList, kPack),
     Reply("DeviceStatus", kDeviceStatus, kUntested.From(Source::Params, "DeviceStatus")),
-    Reply("trafficSnap.getDeviceStatus", kTrafficSnapDeviceStatus, kOneList.From(Source::Params, "status")),
+    Reply("trafficSnap.getDeviceStatus", kTrafficSnapDeviceStatus, kList.From(Source::Params, "status")),
     Reply("videoStatServer.getSummary", kVideoStatSummary, kParse.From(Source::Params, "summary")),
 
     // Services
@@ -317,8 +206,8 @@ constexpr Command kCommands[] = {
 
     // Remote devices
     Both("RemoteChannel", kRemoteChannel,
-         kRecords.Null(NullValue::LengthZero).Strides(Stride::SizeWordByField).ReadsNulls(),
-         kRecordsBareIfOne.Strides(Stride::SizeWordByField)),
+         kOneOrMany.Null(NullValue::LengthZero).Strides(Stride::SizeWordByField).ReadsNulls(),
+         kBareIfOne.Strides(Stride::SizeWordByField)),
     Both("RemoteDevice", kRemoteDevice,
          kParse.Takes(Take::ByMember)
              .Null(NullValue::LengthZero)
@@ -470,11 +359,11 @@ constexpr Command kCommands[] = {
     Generic("HeatImagingThermometry", kHeatImagingThermometry, kOneCleared),
 
     // Home automation
-    Generic("Light", kLight, kHomeCleared),
-    Generic("Curtain", kCurtain, kHomeCleared),
-    Generic("FreshAir", kFreshAir, kHomeCleared),
-    Generic("GroundHeat", kGroundHeat, kHomeCleared),
-    Generic("SceneMode", kSceneMode, kScenesCleared),
+    Generic("Light", kLight, kManyAlwaysArray),
+    Generic("Curtain", kCurtain, kManyAlwaysArray),
+    Generic("FreshAir", kFreshAir, kManyAlwaysArray),
+    Generic("GroundHeat", kGroundHeat, kManyAlwaysArray),
+    Generic("SceneMode", kSceneMode, kManyCleared),
 
     // Later settings
 
@@ -524,61 +413,6 @@ std::span<const Command> Commands() noexcept {
 
 const Command* FindCommand(std::string_view name) noexcept {
     return kIndex.Find(name);
-    for (std::size_t slot = HashNow(name) % kIndex.size(); kIndex[slot] != kFree; slot = (slot + 1) % kIndex.size()) {
-        const Command& command = kCommands[kIndex[slot]];
-        if (EqualsFolded(command.name, name)) return &command;
-    }
-    return nullptr;
-}
-
-const PackedItems* ItemsBehind(const record::Table& descriptor) noexcept {
-    return &descriptor == &kAnalyseRules ? &kRuleItems : nullptr;
-}
-
-namespace {
-
-Outcome Parse(const Command& command, const ParseRequest& request) noexcept {
-    switch (command.parse) {
-    case Command::Frame::None:
-        break;
-    case Command::Frame::Table:
-        return ParseTableFrame(*command.table, command.tableFrame, request);
-    case Command::Frame::Family:
-        return ParseFamily(*command.table, command.parseFrame, request);
-    case Command::Frame::Own:
-        return command.ownParse(request);
-    }
-    return Outcome::UnknownCommand;
-}
-
-Outcome Pack(const Command& command, const PackRequest& request) noexcept {
-    switch (command.pack) {
-    case Command::Frame::None:
-        break;
-    case Command::Frame::Table:
-        return PacketTableFrame(*command.table, command.tableFrame, request);
-    case Command::Frame::Family:
-        return PacketFamily(*command.table, command.packFrame, request);
-    case Command::Frame::Own:
-        return command.ownPack(request);
-    }
-    return Outcome::UnknownCommand;
-}
-
-} // namespace
-
-Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
-    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
-    const Outcome outcome = Parse(command, request);
-    if (outcome != Outcome::Done && command.parseFailed != nullptr) command.parseFailed(outcome, request);
-    return outcome;
-}
-
-Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
-    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
-    const Outcome outcome = Pack(command, request);
-    if (outcome != Outcome::Done && command.packFailed != nullptr) command.packFailed(outcome, request);
-    return outcome;
 }
 
 } // namespace orrery

@@ -42,7 +42,7 @@ const Names kReadWhenRefused =
             "TrafficGlobal General TrafficFlowStat IntelliTrackScene MetaDataServer VideoAnalyseCalibrate "
             "TrafficTransferOffline TrafficSnapshotNew ParkingSpaceLightState VideoInAnalyseRule "
             "intelli.getVideoAnalyseDeviceChannels devVideoAnalyse.factory.getCollect "
-            "videoDiagnosisServer.factory.getCollect");
+            "videoDiagnosisServer.factory.getCollect ptz.factory.instance");
 
 // Commands whose text may be as long as its buffer: of some the last character gives way to the terminator, of others
 // the terminator is left out.

@@ -43,7 +43,7 @@ typedef struct CFG_SPLIT_TOUR_INFO {
                                             modes that can be toured; nulls among the first 16 are passed over */
     uint32_t nInfoCount;                 /* screens that are not null; they may stand behind this many places */
     CFG_TOUR_INFO
-        stuInfos[ORRERY_TOUR_SCREENS]; /* "SplitTourInfo" of a split tour, "SpotMatrixInfo" of a spot matrix */
+    stuInfos[ORRERY_TOUR_SCREENS]; /* "SplitTourInfo" of a split tour, "SpotMatrixInfo" of a spot matrix */
 } CFG_SPLIT_TOUR_INFO;
 
 /* ---- "VideoInZoom", "VideoInFocus" ----------------------------------------------------------------------------------

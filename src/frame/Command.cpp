@@ -2,8 +2,9 @@
 
 namespace orrery {
 
-Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
-    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
+namespace {
+
+Outcome Parse(const Command& command, const ParseRequest& request) noexcept {
     switch (command.parse) {
     case Command::Frame::None:
         break;
@@ -17,8 +18,7 @@ Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
     return Outcome::UnknownCommand;
 }
 
-Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
-    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
+Outcome Pack(const Command& command, const PackRequest& request) noexcept {
     switch (command.pack) {
     case Command::Frame::None:
         break;
@@ -30,6 +30,22 @@ Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
         return command.ownPack(request);
     }
     return Outcome::UnknownCommand;
+}
+
+} // namespace
+
+Outcome RunParse(const Command& command, const ParseRequest& request) noexcept {
+    if (request.text == nullptr || request.buffer == nullptr || request.bufferSize == 0) return Outcome::BadArguments;
+    const Outcome outcome = Parse(command, request);
+    if (outcome != Outcome::Done && command.parseFailed != nullptr) command.parseFailed(outcome, request);
+    return outcome;
+}
+
+Outcome RunPack(const Command& command, const PackRequest& request) noexcept {
+    if (request.record == nullptr || request.textBuffer == nullptr) return Outcome::BadArguments;
+    const Outcome outcome = Pack(command, request);
+    if (outcome != Outcome::Done && command.packFailed != nullptr) command.packFailed(outcome, request);
+    return outcome;
 }
 
 } // namespace orrery

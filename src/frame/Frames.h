@@ -37,20 +37,20 @@ enum class ResultTest : std::uint8_t {
 
 // Which shapes of the value are taken.
 enum class Take : std::uint8_t {
-    One,            // one record, whatever the type
-    OneOrMany,      // array: a record an element; object: one record; other types fail
-    AnyOrMany,      // array: a record an element; any other type: one record
-    Many,           // array: a record an element; other types fail
-    ManyOrNone,     // array: a record an element; other types succeed with no record
-    List,           // one record that is itself a list: other types than an array fail
-    ListOrNone,     // the same, but other types succeed with nothing read and no length
-    ListOrLists,    // array of objects: one record that is itself a list; array of arrays: a list, that is a record, an
-                    // element; other types, and an empty array, succeed with nothing read and no length
+    One,         // one record, whatever the type
+    OneOrMany,   // array: a record an element; object: one record; other types fail
+    AnyOrMany,   // array: a record an element; any other type: one record
+    Many,        // array: a record an element; other types fail
+    ManyOrNone,  // array: a record an element; other types succeed with no record
+    List,        // one record that is itself a list: other types than an array fail
+    ListOrNone,  // the same, but other types succeed with nothing read and no length
+    ListOrLists, // array of objects: one record that is itself a list; array of arrays: a list, that is a record, an
+                 // element; other types, and an empty array, succeed with nothing read and no length
     ListOrListsOrBlank, // the same, but an empty array is an empty list of lists, and other types are one record of
                         // which nothing is read
-    ByMember,       // object: a record a member, in key order, null members skipped; other types fail
-    ByMemberOrNone, // the same; other types have no members
-    Text            // one record that is a text: other types fail
+    ByMember,           // object: a record a member, in key order, null members skipped; other types fail
+    ByMemberOrNone,     // the same; other types have no members
+    Text                // one record that is a text: other types fail
 };
 
 // Whether a reply fills one record, whatever its value looks like (but for a list of lists).

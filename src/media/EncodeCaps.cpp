@@ -36,7 +36,7 @@ void CountDevices(const Value& caps, std::byte* record, ReadCall&) {
                 (ORRERY_ENCODE_DEVICES - count) * sizeof(CFG_ENCODE_DEVICE_CAPS));
     if (caps["PreviewSplitNumList"].type() == json::Type::Array) return;
     SET_MEMBER(record, CFG_ENCODE_CAPS, nSplitCount, 1);
-    SET_MEMBER(record, CFG_ENCODE_CAPS, nPreviewSplitNum[0], -1);
+    Store<std::int32_t>(record + offsetof(CFG_ENCODE_CAPS, nPreviewSplitNum), -1);
 }
 
 // ---- "encode.getNAACaps" ----

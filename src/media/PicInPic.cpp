@@ -46,7 +46,7 @@ PART(kSplit, CFG_PICINPIC_SPLIT,
          FIELD(pstuTop, "", Record(kTop)).Count(AT(nReturnTop)).Capacity(AT(nMaxTop)).AnyShape(),
      });
 
-constexpr std::uint32_t kSize = sizeof(CFG_PICINPIC_INFO);
+constexpr std::uint32_t kRecord = sizeof(CFG_PICINPIC_INFO);
 constexpr std::string_view kExtend = "Extend";
 
 template <class R>
@@ -120,7 +120,7 @@ class Pictures {
 
     // The record at `index` as an object, the first with all others inside it.
     bool Write(std::uint32_t index) noexcept {
-        const auto info = Load<CFG_PICINPIC_INFO>(first_ + std::size_t{index} * kSize);
+        const auto info = Load<CFG_PICINPIC_INFO>(first_ + std::size_t{index} * kRecord);
         if (info.nMaxSplit == 0 || info.pstuSplits == nullptr) return false;
         std::uint32_t count = 0;
         const Way* const ways = SortedWays(info, count, call_);
@@ -179,7 +179,7 @@ TABLE(kPicInPic, CFG_PICINPIC_INFO,
       });
 
 Outcome ParsePicInPic(const ParseRequest& request) noexcept {
-    if (request.bufferSize < kSize) return Outcome::BufferTooSmall;
+    if (request.bufferSize < kRecord) return Outcome::BufferTooSmall;
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
     if (!document.root["result"].asBool()) return Outcome::Refused;
@@ -192,24 +192,24 @@ Outcome ParsePicInPic(const ParseRequest& request) noexcept {
         used = 1;
         // An element that the caller gave no room for is left out.
         for (const Value& extend : table[kExtend].elements()) {
-            if (used == request.bufferSize / kSize) break;
-            ReadSplits(extend, buffer + std::size_t{used++} * kSize, call);
+            if (used == request.bufferSize / kRecord) break;
+            ReadSplits(extend, buffer + std::size_t{used++} * kRecord, call);
         }
         if (document.arena.failed()) return Outcome::OutOfMemory;
     }
-    if (request.returnedLength != nullptr) *request.returnedLength = used * kSize;
+    if (request.returnedLength != nullptr) *request.returnedLength = used * kRecord;
     return Outcome::Done;
 }
 
 Outcome PackPicInPic(const PackRequest& request) noexcept {
-    if (request.recordSize < kSize) return Outcome::RecordTooSmall;
+    if (request.recordSize < kRecord) return Outcome::RecordTooSmall;
     const auto write = [&](json::TextWriter& out) {
         StackArena<std::size_t{4} << 10> arena;
         LocalText text(arena);
         JsonParser parser(text);
         WriteCall call{parser, out, nullptr, false, {}};
         const bool written =
-            Pictures(static_cast<const std::byte*>(request.record), request.recordSize / kSize, call).Write(0);
+            Pictures(static_cast<const std::byte*>(request.record), request.recordSize / kRecord, call).Write(0);
         if (arena.failed()) return Outcome::OutOfMemory;
         if (!written) return Outcome::NotAccepted;
         out.EndText();

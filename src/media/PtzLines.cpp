@@ -185,7 +185,7 @@ TABLE(kCanFilter, CFG_CAN_FILTER_INFO,
       {
           FIELD(nMaxCount),
           FIELD(nReturnCount),
-          FIELD(stuFilters, "", Record(kFilter)).Capacity(AT(nMaxCount)).CountUncapped(AT(nReturnCount)),
+          FIELD(stuFilters, "", Record(kFilter)).Lent(AT(nMaxCount)).CountUncapped(AT(nReturnCount)),
       });
 
 // ---- "InfraredBoardTemplate", "InfraredBoard" ----

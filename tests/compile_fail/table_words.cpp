@@ -45,6 +45,12 @@ PART(kLock, Lock,
 #else
 #define ROW_nDays FIELD(nDays, "Days", Int).Capacity(AT(nFloor))
 #endif
+#elif CASE == 31 // must not compile 31: lent_needs_an_array_of_the_record
+#ifdef GOOD
+#define ROW_nDays FIELD(nDays, "Days", Int).Lent(AT(nFloor))
+#else
+#define ROW_nNumber FIELD(nNumber, "Number", Int).Lent(AT(nFloor))
+#endif
 #elif CASE == 4 // must not compile 4: owned_needs_a_pointer
 #ifdef GOOD
 #define ROW_nDays FIELD(nDays, "Days", Int)

@@ -1,10 +1,10 @@
 #include "orrery/Tables.h"
 
 #include "Commands.h"
-#include "orrery/Words.h"
 #include "events/EventTable.h"
 #include "frame/JsonParser.h"
 #include "frame/PackedItems.h"
+#include "orrery/Words.h"
 
 #include <algorithm>
 

@@ -99,7 +99,7 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.only != OnlyType::Any, Call("Only", Word(field.only, kOnlyWords)));
     slot("SetsAndNeeds", field.flag);
     slot(field.countUncapped ? "CountUncapped" : "Count", field.count);
-    slot("Capacity", field.capacity);
+    slot(field.lent ? "Lent" : "Capacity", field.capacity);
     add(field.anyShape, "AnyShape");
     add(field.exactly, "Exactly");
     add(field.atLeast != 0, Call("AtLeast", std::to_string(field.atLeast)));
@@ -163,7 +163,8 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
         rules.push_back("elements in use: " + SlotName(table, field.count)
                         + (field.countUncapped ? ", which may exceed the room" : ""));
     }
-    add(field.capacity.exists(), Joined({"room behind the pointer: ", SlotName(table, field.capacity)}));
+    add(field.capacity.exists(),
+        Joined({field.lent ? "elements asked for: " : "room behind the pointer: ", SlotName(table, field.capacity)}));
     add(field.zeroed, "each element is cleared before it is read");
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
@@ -228,10 +229,10 @@ std::string ParseWords(const Command& command) {
     words += ") ";
     words += Call("Result", Word(frame.result, {"MustBeTrue", "FalseRefuses", "NotTested", "ExactBool",
                                                 "IntegerNonZero", "TextTrue"}));
-    words += " "
-             + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List",
-                                               "ListOrNone", "ListOrLists", "ListOrListsOrBlank", "ByMember",
-                                               "ByMemberOrNone", "Text"}));
+    words +=
+        " "
+        + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List", "ListOrNone",
+                                          "ListOrLists", "ListOrListsOrBlank", "ByMember", "ByMemberOrNone", "Text"}));
     words += " " + Call("Null", Word(frame.nullValue, {"Fails", "LengthZero", "LengthUntouched", "OneRecord"}));
     words += " " + Call("Clears", Word(frame.clearing, {"Buffer", "Record", "Read", "Kept"}));
     words +=
@@ -258,7 +259,9 @@ std::string PackWords(const Command& command) {
     if (command.pack == Command::Frame::Table) return words + TableFrameWords(command.tableFrame);
     if (command.pack != Command::Frame::Family) return words;
     const PackFrame& frame = command.packFrame;
-    words += " " + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember", "Nothing", "NoText"}));
+    words +=
+        " "
+        + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember", "Nothing", "NoText"}));
     words += " " + Call("Fits", Word(frame.capacity, {"Strict", "Loose", "Raw", "OneBefore"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.quotedKey[0] != '\0') words += " " + Call("Under", frame.quotedKey);

@@ -13,6 +13,7 @@ enum class Mistake : unsigned char {
     NeighbourIsNoInteger,
     ARowCannotBeItsOwnNeighbour,
     CapacityNeedsAPointer,
+    LentNeedsAnArrayOfTheRecord,
     OwnedNeedsAPointer,
     ZeroedNeedsAPointer,
     WritesCapacityNeedsACapacity,
@@ -92,7 +93,8 @@ constexpr Mistake MistakeOfWords(const Field& row) {
     const bool isPointer = row.cell == Cell::Pointer;
     const bool isSingleNumber = !isList && !row.wholeMember && IsNumberCell(row.cell);
     if (row.count.exists() && !isList) return Mistake::CountNeedsAList;
-    if (row.capacity.exists() && !isPointer) return Mistake::CapacityNeedsAPointer;
+    if (row.lent && (isPointer || !isList)) return Mistake::LentNeedsAnArrayOfTheRecord;
+    if (row.capacity.exists() && !row.lent && !isPointer) return Mistake::CapacityNeedsAPointer;
     if (row.owned && !isPointer) return Mistake::OwnedNeedsAPointer;
     if (row.zeroed && !isPointer) return Mistake::ZeroedNeedsAPointer;
     if (row.fullCapacity && !row.capacity.exists()) return Mistake::WritesCapacityNeedsACapacity;
@@ -196,6 +198,7 @@ ORRERY_MISTAKE(CountNeedsAList, count_needs_a_list)
 ORRERY_MISTAKE(NeighbourIsNoInteger, a_count_capacity_or_flag_must_be_one_integer)
 ORRERY_MISTAKE(ARowCannotBeItsOwnNeighbour, a_row_cannot_be_its_own_count_or_flag)
 ORRERY_MISTAKE(CapacityNeedsAPointer, capacity_needs_a_pointer)
+ORRERY_MISTAKE(LentNeedsAnArrayOfTheRecord, lent_needs_an_array_of_the_record)
 ORRERY_MISTAKE(OwnedNeedsAPointer, owned_needs_a_pointer)
 ORRERY_MISTAKE(ZeroedNeedsAPointer, zeroed_needs_a_pointer)
 ORRERY_MISTAKE(WritesCapacityNeedsACapacity, writes_capacity_needs_a_capacity)

@@ -169,6 +169,7 @@ struct Field {
     Skipped skipped = Skipped::StaysNull;
     bool unlessBare = false;   // an object without keys is left out
     bool keepsObject = false;  // the object inside the record's own that holds the key is null when it has no keys
+    bool lent = false;         // the capacity is of an array inside the record
     bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
 
     bool alias = false; // another key of a field that has a row already
@@ -192,6 +193,8 @@ struct Field {
     }
     // Room of the caller's array behind a pointer; of an array inside the record, how much of it the caller lends.
     constexpr Field Capacity(Slot slot) const { return With(*this, &Field::capacity, slot); }
+    // How many elements of an array inside the record the caller asks for.
+    constexpr Field Lent(Slot slot) const { return With(With(*this, &Field::capacity, slot), &Field::lent, true); }
     constexpr Field Zeroed() const { return With(*this, &Field::zeroed, true); }
     // A list is read also when the value is no array: as empty, or as one empty element for each member of an object.
     constexpr Field AnyShape() const { return With(*this, &Field::anyShape, true); }
