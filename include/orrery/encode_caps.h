@@ -52,8 +52,8 @@ typedef struct CFG_ENCODE_NAA_CAPS {
     int32_t dwReserved;
     int32_t nMainIpSmooth; /* "MainIPSmooth", its first element: as nExtraIpSmooth, of the main stream */
     int32_t dwReservedMain[6];
-    CFG_ENCODE_NAA_EXTRA stuExtra[ORRERY_NAA_EXTRAS]; /* "ExtraAdapt" and "ExtraIPSmooth": an entry an element of the
-                                                         first, at most four */
+    CFG_ENCODE_NAA_EXTRA stuExtra[ORRERY_NAA_EXTRAS]; /* of the lists "ExtraAdapt" and "ExtraIPSmooth": an entry an
+                                                         element of the first, at most four */
 } CFG_ENCODE_NAA_CAPS;
 
 /* "encode.getCropCaps": whether part of the picture can be an extra stream. "result" must be the value true. A missing

@@ -86,16 +86,16 @@ typedef struct CFG_WATERMARK_INFO {
 /* "VideoEncodeROI": regions of the picture that are encoded better than the rest. Read also of a call that the device
  * refused. A text of exactly the buffer's size loses its newline. */
 typedef struct CFG_VIDEO_ENCODE_ROI_INFO {
-    int32_t nRegionCount;                    /* regions of the device, also when there are more than eight */
-    int32_t nRegions[ORRERY_ROI_REGIONS][4]; /* "Regions": left, top, right, bottom, 0 to 8191, without a sign in the
-                                                text; those past the eighth are left out, missing numbers read as 0. No
-                                                key when there are none */
-    int32_t nQuality;                        /* "Quality": 1 to 6 */
-    uint8_t bMain;                           /* "Main": in the main stream */
-    uint8_t bExtra1;                         /* "Extra1": in the first extra stream */
-    uint8_t bExtra2;                         /* "Extra2": in the second extra stream */
-    uint8_t bExtra3;                         /* "Extra3": in the third extra stream */
-    uint8_t bSnapshot;                       /* "Snapshot": in single pictures */
+    int32_t nRegionCount; /* regions of the device, also when there are more than eight */
+    int32_t nRegions[ORRERY_ROI_REGIONS]
+                    [4]; /* "Regions": left, top, right, bottom, 0 to 8191; negative and missing numbers read as 0,
+                            those past the eighth are left out. No key when there are none */
+    int32_t nQuality;    /* "Quality": 1 to 6 */
+    uint8_t bMain;       /* "Main": in the main stream */
+    uint8_t bExtra1;     /* "Extra1": in the first extra stream */
+    uint8_t bExtra2;     /* "Extra2": in the second extra stream */
+    uint8_t bExtra3;     /* "Extra3": in the third extra stream */
+    uint8_t bSnapshot;   /* "Snapshot": in single pictures */
 } CFG_VIDEO_ENCODE_ROI_INFO;
 
 #ifdef __cplusplus

@@ -50,8 +50,8 @@ typedef struct CFG_COMM_ITEM {
 
 /* "Comm": the serial lines, a list; a table that is no list fails. */
 typedef struct CFG_COMM_INFO {
-    uint32_t nCount; /* lines in use, at most 16 */
-    CFG_COMM_ITEM stuItems[ORRERY_COMM_ITEMS];
+    uint32_t nCount;                           /* lines in use, at most 16 */
+    CFG_COMM_ITEM stuItems[ORRERY_COMM_ITEMS]; /* the list itself */
 } CFG_COMM_INFO;
 
 /* ---- Presets and tours ---- */
@@ -89,8 +89,8 @@ typedef struct CFG_PTZ_TOUR {
 
 /* "PtzTour": the tours of a head. A table that is missing or no list gives none. */
 typedef struct CFG_PTZ_TOUR_INFO {
-    uint32_t nCount; /* tours in use, at most 64 */
-    CFG_PTZ_TOUR stuTours[ORRERY_PTZ_TOURS];
+    uint32_t nCount;                         /* tours in use, at most 64 */
+    CFG_PTZ_TOUR stuTours[ORRERY_PTZ_TOURS]; /* the list itself */
 } CFG_PTZ_TOUR_INFO;
 
 /* ---- Movements without an operator ---- */

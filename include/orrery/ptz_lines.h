@@ -62,9 +62,9 @@ typedef struct CFG_VIDEOIN_ZOOM_ITEM {
 
 /* "VideoInZoom": the zoom of one channel. */
 typedef struct CFG_VIDEOIN_ZOOM_INFO {
-    int32_t nChannel; /* "channel", at the top of the reply; not written */
-    int32_t nCount;   /* items in use, at most 32 */
-    CFG_VIDEOIN_ZOOM_ITEM stuItems[ORRERY_LENS_ITEMS];
+    int32_t nChannel;                                  /* "channel", at the top of the reply; not written */
+    int32_t nCount;                                    /* items in use, at most 32 */
+    CFG_VIDEOIN_ZOOM_ITEM stuItems[ORRERY_LENS_ITEMS]; /* the list itself */
 } CFG_VIDEOIN_ZOOM_INFO;
 
 /* Who chooses the nearest focus ("FocusLimitSelectMode"). Names compare exactly. */
@@ -85,9 +85,9 @@ typedef struct CFG_VIDEOIN_FOCUS_ITEM {
 
 /* "VideoInFocus": the focus of one channel. */
 typedef struct CFG_VIDEOIN_FOCUS_INFO {
-    int32_t nChannel; /* "channel", at the top of the reply; not written */
-    int32_t nCount;   /* items in use, at most 32 */
-    CFG_VIDEOIN_FOCUS_ITEM stuItems[ORRERY_LENS_ITEMS];
+    int32_t nChannel;                                   /* "channel", at the top of the reply; not written */
+    int32_t nCount;                                     /* items in use, at most 32 */
+    CFG_VIDEOIN_FOCUS_ITEM stuItems[ORRERY_LENS_ITEMS]; /* the list itself */
 } CFG_VIDEOIN_FOCUS_INFO;
 
 /* ---- "CANFilter" ---- */
@@ -117,7 +117,7 @@ typedef struct CFG_CAN_FILTER {
 typedef struct CFG_CAN_FILTER_INFO {
     int32_t nMaxCount;    /* input: filters that may be read, at most 16 */
     int32_t nReturnCount; /* filters in the reply, which may be more than were read; filters to write, at most 16 */
-    CFG_CAN_FILTER stuFilters[ORRERY_CAN_FILTERS];
+    CFG_CAN_FILTER stuFilters[ORRERY_CAN_FILTERS]; /* the list itself */
 } CFG_CAN_FILTER_INFO;
 
 /* ---- "InfraredBoardTemplate", "InfraredBoard" ---------------------------------------------------------------------
@@ -149,8 +149,8 @@ typedef struct CFG_IR_BOARD_TEMPLATE {
 
 /* "InfraredBoardTemplate": the kinds of remote control that a device knows. */
 typedef struct CFG_IR_BOARD_TEMPLATE_INFO {
-    uint32_t nCount; /* templates in use, at most 16 */
-    CFG_IR_BOARD_TEMPLATE stuTemplates[ORRERY_IR_ITEMS];
+    uint32_t nCount;                                     /* templates in use, at most 16 */
+    CFG_IR_BOARD_TEMPLATE stuTemplates[ORRERY_IR_ITEMS]; /* the list itself */
 } CFG_IR_BOARD_TEMPLATE_INFO;
 
 /* One infrared sender. */
@@ -164,8 +164,8 @@ typedef struct CFG_IR_BOARD {
 
 /* "InfraredBoard": the infrared senders of a device. */
 typedef struct CFG_IR_BOARD_INFO {
-    uint32_t nCount; /* senders in use, at most 16 */
-    CFG_IR_BOARD stuBoards[ORRERY_IR_ITEMS];
+    uint32_t nCount;                         /* senders in use, at most 16 */
+    CFG_IR_BOARD stuBoards[ORRERY_IR_ITEMS]; /* the list itself */
 } CFG_IR_BOARD_INFO;
 
 #ifdef __cplusplus

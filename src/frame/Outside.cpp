@@ -2,8 +2,7 @@
 
 namespace orrery {
 
-void HandOver(ORRERY_EVENT_CALLBACK callback, std::uint32_t type, const void* record, std::uint32_t size,
-              void* user) noexcept {
+void HandOver(EventCallback callback, std::uint32_t type, const void* record, std::uint32_t size, void* user) noexcept {
     callback(type, record, size, nullptr, 0, user);
 }
 

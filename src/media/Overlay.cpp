@@ -31,9 +31,10 @@ bool Split(const Value& value, CStrParse& items, ReadCall& call) {
         std::memcpy(copy, text.data(), text.size());
         copy[text.size()] = '\0';
     }
-    const bool isSplit = copy != nullptr && items.setText(copy);
-    if (!isSplit) call.refused = true;
-    return isSplit;
+    if (copy != nullptr && items.setText(copy)) return true;
+    call.refused = true;
+    if (copy != nullptr && *copy != '\0') call.parser.text().arena().MarkFailed(); // there was no memory for the items
+    return false;
 }
 
 void ReadNumbers(const Field& field, const Value& value, std::byte* record, ReadCall& call) {
@@ -83,7 +84,7 @@ TABLE(kWaterMark, CFG_WATERMARK_INFO,
 TABLE(kVideoEncodeRoi, CFG_VIDEO_ENCODE_ROI_INFO,
       {
           FIELD(nRegionCount),
-          FIELD(nRegions, "Regions", UInt).CountUncapped(AT(nRegionCount)),
+          FIELD(nRegions, "Regions", UInt).WrittenAs(Int).CountUncapped(AT(nRegionCount)),
           FIELD(nQuality, "Quality", Int),
           FIELD(bMain, "Main", Bool),
           FIELD(bExtra1, "Extra1", Bool),

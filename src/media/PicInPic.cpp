@@ -60,11 +60,11 @@ void ReadSplits(const Value& value, std::byte* record, ReadCall& call) noexcept 
     std::uint32_t visited = 0;
     std::uint32_t used = 0;
     for (const json::Member& member : value.members()) {
+        if (member.value.isNull()) continue;
         if (info.pstuSplits == nullptr || visited++ == info.nMaxSplit) break;
         if (member.key() == kExtend) continue;
         std::byte* const split = At(info.pstuSplits, used++);
         SET_MEMBER(split, CFG_PICINPIC_SPLIT, emSplitMode, JsonParser::GetOverlaySplit(member.key()));
-        SET_MEMBER(split, CFG_PICINPIC_SPLIT, nReturnTop, 0u); // also of a null, which reads as nothing
         ReadFields(kSplit, member.value, split, call);
     }
     SET_MEMBER(record, CFG_PICINPIC_INFO, nReturnSplit, used);

@@ -37,7 +37,7 @@ using namespace test;
 
 // What orrery.h tells.
 constexpr std::size_t kParse = std::size_t{40} << 10;
-constexpr std::size_t kPack = std::size_t{24} << 10;
+constexpr std::size_t kPack = std::size_t{28} << 10;
 constexpr std::size_t kEvents = std::size_t{56} << 10;
 
 class SmallThread {

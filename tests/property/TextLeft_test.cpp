@@ -61,7 +61,7 @@ TEST(TextLeft, ATextTooLongLeavesTheBufferClear) {
             const Outcome outcome =
                 RunPack(command, {specimen.record.data(), command.table->size, text.data(), capacity});
             if (outcome == Outcome::Done) continue; // of the shortest texts
-            EXPECT_EQ(outcome, Outcome::TextTooLong) << command.name;
+            EXPECT_TRUE(outcome == Outcome::TextTooLong || MayTurnAway(command, outcome)) << command.name;
             EXPECT_TRUE(IsAll(text.substr(0, capacity), KeepsText(command) ? kBefore : '\0')) << command.name;
             EXPECT_TRUE(IsAll(text.substr(capacity), kBefore)) << command.name;
         }

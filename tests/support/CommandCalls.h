@@ -70,7 +70,8 @@ bool TellsMoreThanItFills(const Command& command);
 
 // Whether the outcome is that of a command that tests its caller's record: a reply may leave one that says nothing.
 inline bool MayTurnAway(const Command& command, Outcome outcome) {
-    return command.packFrame.accepts != nullptr && outcome == Outcome::NotAccepted;
+    const bool tests = command.pack == Command::Frame::Own || command.packFrame.accepts != nullptr;
+    return tests && outcome == Outcome::NotAccepted;
 }
 
 // Packs into a buffer that is large enough for any text of the record.

@@ -50,6 +50,18 @@ const std::map<std::string, Way>& Exceptions() {
         // Counts of frames, named like a switch.
         {"EVENT_OBJECT_INFO.bShotFrame", Way::Int},
         {"EVENT_OBJECT_INFO_EX.bShotFrame", Way::Int},
+        // Whole numbers of trackers in fields that hold fractions.
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fExpectMultiple", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fExpectMultipleEngleX", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fExpectMultipleEngleY", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fMaxFocus", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fMaxZoom", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fMinFocus", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fMinZoom", Way::Int},
+        {"CFG_MASTER_SLAVE_GLOBAL_INFO.fTargetFaceSize", Way::Int},
+        // Read as unsigned, written as signed numbers.
+        {"CFG_METERING_ITEM.nRegions", Way::UInt},
+        {"CFG_VIDEO_ENCODE_ROI_INFO.nRegions", Way::UInt},
         // Unsigned numbers in fields too narrow to show it.
         {"CFG_ENCRYPT_ITEM.nLength", Way::UInt},
         {"CFG_EVENT_HANDLER_INFO.byDestination", Way::UInt},
@@ -324,6 +336,15 @@ std::vector<std::byte> ExpectedBytes(const Place& place, Round round) {
 
 class FieldValuesInGbk : public test::CompiledLocales {};
 
+// Arrays of the caller's, without room: some records are not read or written without them.
+void GiveArrays(const Table& table, std::byte* record) {
+    static std::byte none[1];
+    for (const Field& field : table) {
+        if (field.cell == Cell::Pointer && field.capacity.exists())
+            record::Store<std::byte*>(record + field.offset, none);
+    }
+}
+
 TEST_F(FieldValuesInGbk, AreReadByTheirOwnRules) {
     Compile("GBK", "zh_CN.GBK");
     const test::ProcessLocale locale("zh_CN.GBK");
@@ -343,6 +364,7 @@ TEST_F(FieldValuesInGbk, AreReadByTheirOwnRules) {
             ASSERT_TRUE(document.ok) << text;
             std::vector<std::byte> record(table->size);
             record::SetSizeWords(*table, record.data());
+            GiveArrays(*table, record.data());
             StackArena<4096> arena;
             LocalText local(arena);
             JsonParser parser(local);
@@ -373,6 +395,7 @@ TEST_F(FieldValuesInGbk, AreReadByTheirOwnRules) {
 // exactly 1.
 bool IsWrittenAsBool(const Table& table, const Place& place) {
     const std::string comment = test::CommentOf(table.record, place.field->name);
+    if (comment.find("written as the number") != std::string::npos) return false;
     return place.way == Way::Bool || HasPrefix(place.field->name, "b")
            || comment.find("written true") != std::string::npos
            || comment.find("as nMatrixEnable") != std::string::npos;
@@ -390,6 +413,7 @@ TEST_F(FieldValuesInGbk, AreWrittenByTheirOwnRules) {
             continue;
         std::vector<std::byte> record(table->size);
         record::SetSizeWords(*table, record.data());
+        GiveArrays(*table, record.data());
         const std::vector<Place> places = PlacesOf(*table);
         const auto elements = [](const Field& field) { return field.exactly ? field.dims[0] : 1; };
         for (const Place& place : places) {

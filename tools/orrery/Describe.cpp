@@ -171,20 +171,23 @@ std::string CommandList() {
 
 std::optional<std::string> Describe(std::string_view name) {
     const Tables tables;
+    std::string text;
+    const auto add = [&](const std::string& part) { text += (text.empty() ? "" : "\n") + part; };
+    // A configuration and an event may share a name, as "AccessControl" does: both are shown.
     if (const Command* const command = FindCommand(name)) {
-        std::string text = DescribeCommand(*command);
-        if (command->table != nullptr) text += "\n" + DescribeTable(tables, *command->table);
-        return text;
+        add(DescribeCommand(*command));
+        if (command->table != nullptr) add(DescribeTable(tables, *command->table));
     }
     for (const events::EventRow& event : events::Events()) {
         if (!EqualsFolded(event.name, name)) continue;
-        return std::string(event.name) + "\n  event " + std::to_string(event.code)
-               + (event.needsNoData ? ", delivered also without \"Data\"" : "") + "\n\n"
-               + DescribeTable(tables, *event.table);
+        add(std::string(event.name) + "\n  event " + std::to_string(event.code)
+            + (event.needsNoData ? ", delivered also without \"Data\"" : "") + "\n\n"
+            + DescribeTable(tables, *event.table));
+        break;
     }
-    std::string text;
+    if (!text.empty()) return text;
     for (const Table* table : tables.Of(name))
-        text += (text.empty() ? "" : "\n") + DescribeTable(tables, *table);
+        add(DescribeTable(tables, *table));
     if (text.empty()) return std::nullopt;
     return text;
 }
