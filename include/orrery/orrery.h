@@ -77,7 +77,6 @@ uint32_t ORRERY_Version(void);
  *                 out.
  * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan",
  *                 "Https" and those whose headers say so add to what it holds: set it to 0 first. They take a missing
- *                 "Https" and those whose record says so add to what it holds: set it to 0 first. They take a missing
  *                 table as nothing to read.
  *
  * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8, the
@@ -95,7 +94,8 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  * record        The record, or the array of records. Need not be aligned. Must not be null. Counts above the room of
  *               their array end at the array.
  * recordSize    Bytes at `record`. What is below one record is refused, but for the commands named under
- *               returnedLength above, where missing bytes read as zero.
+ *               returnedLength above: missing bytes read as zero where a text holds one record, and where it may hold
+ *               several there is none, `null`.
  * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. What is behind
  *               the terminator is cleared. A call that is refused before it writes (a null, an unknown command, a
  *               record too small) leaves the buffer alone; every other failure leaves it cleared whole. Otherwise:
@@ -112,10 +112,7 @@ int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t reco
 /* Takes one decoded event. `eventType` is its code, ORRERY_EVENT_... of event_codes.h, and tells which record `record`
  * is: DEV_EVENT_<NAME>_INFO of the events_... headers. `recordSize` is the record's size, unless its header says
  * otherwise. The record and all that its pointers lead to live only during the call. `reserved` and `sequence` are 0.
- * The result is ignored. */
-/* Takes one decoded event. `eventType` is its code and tells which record `record` is: DEV_EVENT_<NAME>_INFO of the
- * events_... headers. `recordSize` is the record's size, unless its header says otherwise. The record and all that its
- * pointers lead to live only during the call. `reserved` and `sequence` are 0. The result is ignored.
+ * The result is ignored.
  *
  * It must return: an exception that leaves it, or a thread that ends in it, ends the program, and a longjmp out of it
  * leaves behind all memory of the call. */
