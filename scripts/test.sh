@@ -74,7 +74,7 @@ stage_fuzz() {
     build asan build/asan
     local source target name input seeds found=0
     : >"$results/fuzz.txt"
-    for source in fuzz/*.cpp; do
+    for source in fuzz/*_fuzz.cpp; do
         [ -e "$source" ] || continue
         found=1
         target=$(basename "$source" .cpp)

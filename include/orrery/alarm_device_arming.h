@@ -55,11 +55,11 @@ typedef struct CFG_ALARM_SUB_SYSTEM_INFO {
     int32_t nZone[ORRERY_ALARM_NUMBERS];            /* "Zone": areas of the device itself */
     int32_t nExZoneNum;                             /* entries of nExZone in use */
     int32_t nExZone[ORRERY_ALARM_NUMBERS];          /* "ExZone": areas of extension boxes */
+    int32_t nPublicSubSystemNum;                    /* entries of nPublicSubSystem in use */
+    int32_t nPublicSubSystem[ORRERY_ALARM_NUMBERS]; /* "PublicSubSystem": subsystems that a public one serves */
     int32_t nDisableDelay;                          /* "DisableDelay": seconds to disarm after entering */
     int32_t nEnableDelay;                           /* "EnableDelay": seconds to leave after arming */
     int32_t bIsPublic;                              /* "IsPublic": armed when those of "PublicSubSystem" are */
-    int32_t nPublicSubSystemNum;                    /* entries of nPublicSubSystem in use */
-    int32_t nPublicSubSystem[ORRERY_ALARM_NUMBERS]; /* "PublicSubSystem": subsystems that a public one serves */
 } CFG_ALARM_SUB_SYSTEM_INFO;
 
 /* "DefenceAreaDelay". */

@@ -21,7 +21,8 @@ typedef struct CFG_BACKUP_ALARM_SERVER {
     char szUserName[64];    /* "UserName" */
     char szPassword[64];    /* "Password" */
     int32_t nReportWeekDay; /* "ReportWeekDay": day of the regular report, 0 Sunday to 6 Saturday */
-    NET_TIME stuReportTime; /* "ReportTime": time of the regular report, "09:30:00"; the date is not used */
+    NET_TIME stuReportTime; /* "ReportTime": time of the regular report, "09:30:00", within the first 15 characters; the
+                               date is not used */
 } CFG_BACKUP_ALARM_SERVER;
 
 /* "AlarmServer". */

@@ -62,7 +62,7 @@ typedef struct CFG_TIME_SPEED_LIMIT_INFO {
 typedef struct CFG_VOICE_ALERT {
     int32_t nInterval; /* "Interval": minutes from one time to the next */
     char szText[256];  /* "Text": what is spoken */
-    int32_t nHour;     /* "Time": the hour of "09:30" */
+    int32_t nHour;     /* "Time": the hour of "09:30"; a text is read as far as it is a time */
     int32_t nMinute;   /* the minute of it */
 } CFG_VOICE_ALERT;
 

@@ -68,8 +68,9 @@ typedef struct CFG_WORK_STATE_INFO {
     int32_t nMatchMode; /* "MatchMode": as the device numbers the ways that plates are compared */
 } CFG_WORK_STATE_INFO;
 
-/* "ParkingSpaceScreen": a screen that shows free spaces. An object is one record, an array has one an element; one
- * record is written bare, several as an array. A table of another type is one cleared record. */
+/* "ParkingSpaceScreen": a screen that shows free spaces. An object is one record, an array has one an element, an empty
+ * one none; one record is written bare, several as an array. A null element leaves its record cleared and is in the
+ * reply length. A table of another type is one cleared record. */
 typedef struct CFG_PARKING_SCREEN_INFO {
     char szIpAddr[260];        /* "ipAddr": read from texts only */
     int32_t nPort;             /* "port" */

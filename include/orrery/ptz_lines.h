@@ -47,9 +47,9 @@ typedef struct CFG_SPLIT_TOUR_INFO {
 } CFG_SPLIT_TOUR_INFO;
 
 /* ---- "VideoInZoom", "VideoInFocus" ----------------------------------------------------------------------------------
- * A reply is taken when "result" is a number other than 0, or true. A missing table succeeds with the length not set, a
- * table that is no list fails. Writing fails with more than 32 items; the text must be shorter than the capacity less
- * one. */
+ * A reply is taken when "result" is a number other than 0, or true. A missing table succeeds with the length not set
+ * and only the channel read, a table that is no list fails. Writing fails with more than 32 items; the text must be
+ * shorter than the capacity less one. */
 
 #define ORRERY_LENS_ITEMS 32
 

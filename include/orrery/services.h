@@ -22,7 +22,7 @@ typedef struct CFG_SERVICE_LIST_INFO {
 #define ORRERY_NET_TYPES 8
 
 /* "netApp.getCaps": network cards and which of them goes first, from the reply's "caps". Without "caps" the call
- * succeeds with a length of 0; a refused call sets the length to 0. */
+ * succeeds with a length of 0; a refused call, and a text that is no JSON, set the length to 0. */
 typedef struct CFG_NET_APP_CAPS {
     int32_t nNetCardCount;                 /* "NetAccessPriority"."NetCardCount" */
     int32_t nNetTypeNum;                   /* entries of szNetTypes in use */

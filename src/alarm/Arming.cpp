@@ -46,11 +46,11 @@ TABLE(kAlarmSubSystem, CFG_ALARM_SUB_SYSTEM_INFO,
           FIELD(nZone, "Zone", Int).Count(AT(nZoneNum)).WriteEmpty(Empty::Array),
           FIELD(nExZoneNum),
           FIELD(nExZone, "ExZone", Int).Count(AT(nExZoneNum)).WriteEmpty(Empty::Array),
+          FIELD(nPublicSubSystemNum),
+          FIELD(nPublicSubSystem, "PublicSubSystem", Int).Count(AT(nPublicSubSystemNum)).WriteEmpty(Empty::Array),
           FIELD(nDisableDelay, "DisableDelay", Int),
           FIELD(nEnableDelay, "EnableDelay", Int),
           FIELD(bIsPublic, "IsPublic", Bool),
-          FIELD(nPublicSubSystemNum),
-          FIELD(nPublicSubSystem, "PublicSubSystem", Int).Count(AT(nPublicSubSystemNum)).WriteEmpty(Empty::Array),
       });
 
 TABLE(kDefenceAreaDelay, CFG_DEFENCE_AREA_DELAY_INFO,

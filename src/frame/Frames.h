@@ -63,7 +63,7 @@ constexpr bool TakesOneRecord(Take take) {
 enum class NullValue : std::uint8_t {
     Fails,
     LengthZero,      // succeeds, reply length 0
-    LengthUntouched, // succeeds, reply length not assigned
+    LengthUntouched, // succeeds, reply length not assigned; only keys that start at the document are read
     OneRecord,       // succeeds with one record: what reading nothing gives
 };
 

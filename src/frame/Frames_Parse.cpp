@@ -52,6 +52,10 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
             setLength(0);
             return Outcome::Done;
         case NullValue::LengthUntouched:
+            // What stands beside the value tells of the first record all the same.
+            if (!frame.rootKeysFirst && !isShort && table.fromRoot.count > 0) {
+                record::ReadRootFields(table, buffer, call);
+            }
             return Outcome::Done;
         case NullValue::OneRecord:
             holds = Holds::OneRecord;

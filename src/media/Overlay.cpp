@@ -4,7 +4,6 @@
 #include "frame/record/Engine.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace orrery {
 
@@ -28,7 +27,7 @@ bool Split(const Value& value, CStrParse& items, ReadCall& call) {
     const std::string_view text = value.asString();
     char* const copy = call.parser.text().arena().Array<char>(text.size() + 1);
     if (copy != nullptr) {
-        std::memcpy(copy, text.data(), text.size());
+        std::copy(text.begin(), text.end(), copy);
         copy[text.size()] = '\0';
     }
     if (copy != nullptr && items.setText(copy)) return true;

@@ -157,6 +157,9 @@ TEST(ExAlarm, AListAndOneRecord) {
     EXPECT_EQ(many[0].nChannel, 7);
     EXPECT_EQ(many[0].emSenseMethod, -1);
     EXPECT_EQ(many[0].nSlot, -1);
+    EXPECT_EQ(many[0].nLevel1, -1);
+    EXPECT_EQ(many[0].abLevel2, 0);
+    EXPECT_EQ(many[0].nLevel2, -1);
     EXPECT_EQ(many[1].nChannel, 7);
     EXPECT_EQ(many[2].nChannel, 0);
 

@@ -175,9 +175,10 @@ TEST(UnFocusDetect, KeepsItsWeekInTheLinkage) {
 // ---- "PowerFault" ----
 
 TEST(PowerFault, EverythingRead) {
-    const auto a = Parse<CFG_POWER_FAULT_INFO>("PowerFault", R"([ { "Enable" : true, "CheckInterval" : 10,
-        "EncodeBlend" : true, "Rect" : [ 1, 2, 3, 4 ], )" + HandlerText(9)
-                                                                 + R"( }, null, { "Rect" : [ 1, 2, 3 ] } ])");
+    const auto a = Parse<CFG_POWER_FAULT_INFO>(
+        "PowerFault", R"([ { "Enable" : true, "CheckInterval" : 10,
+        "EncodeBlend" : true, "Rect" : [ 1, 2, 3, 4 ], )"
+                          + HandlerText(9) + R"( }, null, { "Enable" : true, "Rect" : [ 1, 2, 3 ] } ])");
     ASSERT_TRUE(a);
     EXPECT_EQ(a.length, sizeof(CFG_POWER_FAULT_INFO));
     EXPECT_EQ(a->nCount, 3);
@@ -189,6 +190,9 @@ TEST(PowerFault, EverythingRead) {
     EXPECT_EQ(a->stuFaults[0].stuRect.nRight, 3);
     EXPECT_EQ(a->stuFaults[0].stuRect.nBottom, 4);
     ExpectPlain(a->stuFaults[0].stuEventHandler, 9);
+    EXPECT_EQ(a->stuFaults[1].stuEventHandler.abRecordEnable, 1); // a null element is one without keys
+    EXPECT_EQ(a->stuFaults[2].bEnable, 1);
+    EXPECT_EQ(a->stuFaults[2].bEncodeBlend, 0);
     EXPECT_EQ(a->stuFaults[2].stuRect.nLeft, 0); // four numbers or none
     EXPECT_EQ(a->stuFaults[2].stuEventHandler.abRecordEnable, 1);
 }
@@ -235,6 +239,8 @@ TEST(PowerFault, EverythingWritten) {
     record->stuFaults[0].stuRect = {5, 6, 7, 8};
     EXPECT_EQ(Pack("PowerFault", *record), R"([ { "CheckInterval" : 11, "Enable" : true, "EncodeBlend" : true, )"
                                                + kNoHandler + R"(, "Rect" : [ 5, 6, 7, 8 ] } ])");
+    record->stuFaults[0].bEnable = 0;
+    EXPECT_NE(Pack("PowerFault", *record).find(R"("Enable" : false, "EncodeBlend" : true)"), std::string::npos);
 }
 
 // ---- "BurnFull" ----
@@ -273,10 +279,14 @@ TEST(BurnFull, TakesAListOfThirtyTwo) {
         EXPECT_FALSE(Parse<Record>("BurnFull", table)) << table;
     EXPECT_FALSE(ParseDocument<Record>("BurnFull", R"({ "params" : { "table" : [ { } ] } })"));
     auto record = Cleared<Record>();
-    record->nCount = 33;
-    const std::string packed = Pack("BurnFull", *record);
-    test::Document text(packed);
-    EXPECT_EQ(text.root.size(), 32u);
+    for (const int count : {32, 33, INT32_MAX}) {
+        record->nCount = count;
+        const std::string packed = Pack("BurnFull", *record);
+        test::Document text(packed);
+        EXPECT_EQ(text.root.size(), 32u) << count;
+    }
+    record->nCount = -1;
+    EXPECT_EQ(Pack("BurnFull", *record), "null");
 }
 
 TEST(BurnFull, EverythingWritten) {
@@ -331,6 +341,15 @@ TEST(FluxAlarms, LimitsAreTwoNumbersOrNone) {
     }
     const auto a = Parse<CFG_FLUX_ALARM_INFO>("DiskFluxAlarm", R"({ "Normal" : [ -5, null ] })");
     EXPECT_EQ(a->stuNormal.nLow, 0u);
+}
+
+TEST(FluxAlarms, TheWeekEndsAtItsFirstBadCell) {
+    const auto a = Parse<CFG_FLUX_ALARM_INFO>("NetFluxAlarm", R"({ "TimeSection" : [ [ "1 3:0:0-4:0:0" ], null,
+        [ "1 5:0:0-6:0:0", 5, "1 7:0:0-8:0:0" ], [ "1 9:0:0-10:0:0" ] ] })");
+    EXPECT_EQ(a->stuTimeSection[0][0].nEndHour, 4);
+    EXPECT_EQ(a->stuTimeSection[2][0].nEndHour, 6);
+    EXPECT_EQ(a->stuTimeSection[2][2].nEndHour, 0);
+    EXPECT_EQ(a->stuTimeSection[3][0].nEndHour, 0);
 }
 
 TEST(FluxAlarms, EverythingWritten) {

@@ -244,6 +244,8 @@ TEST(VideoWidget4GFlow, BothWays) {
     EXPECT_EQ(a.length, sizeof(Record));
     EXPECT_EQ(a->bEncodeBlend, 1);
     EXPECT_EQ(a->stuRect.nLeft, 1);
+    EXPECT_EQ(a->stuRect.nTop, 2);
+    EXPECT_EQ(a->stuRect.nRight, 3);
     EXPECT_EQ(a->stuRect.nBottom, 4);
     EXPECT_EQ(Parse<Record>("VideoWidget4GFlow", R"({ "Rect" : [ 1, 2, 3, 4, 5 ] })")->stuRect.nLeft, 0);
     EXPECT_TRUE(ReadsRefused<Record>("VideoWidget4GFlow"));

@@ -81,6 +81,12 @@ TEST(RemoteEvent, AnOpenContactIsWrittenWithADigit) {
     EXPECT_EQ(written(1), rest + R"(, "SensorType" : "NC" })");
     EXPECT_EQ(written(2), rest + " }");
     EXPECT_EQ(written(-1), rest + " }");
+
+    // What is written comes back as not closed.
+    record->emSensorType = CFG_REMOTE_SENSOR_NORMALLY_OPEN;
+    const auto again = Parse<CFG_REMOTE_EVENT_INFO>("RemoteEvent", Pack("RemoteEvent", *record));
+    ASSERT_TRUE(again);
+    EXPECT_NE(again->emSensorType, CFG_REMOTE_SENSOR_NORMALLY_CLOSED);
 }
 
 TEST(RemoteEvent, TextsAreCutAtTheirCapacity) {

@@ -422,6 +422,28 @@ TEST(RemoteDeviceInputs, AnArrayTakesWhatItHasRoomFor) {
     }
 }
 
+// Members of an object are counted as elements are, but none of them is an input.
+TEST(RemoteDeviceInputs, WhatIsNoListIsCountedByItsSize) {
+    const std::vector<std::pair<std::string, std::int32_t>> values = {
+        {R"({ "a" : { "Enable" : true }, "b" : { "Enable" : true }, "c" : 1 })", 2},
+        {R"({ "a" : { "Enable" : true } })", 1},
+        {"{ }", 0},
+        {"5", 0},
+        {R"("text")", 0},
+        {"true", 0},
+        {"null", 0}};
+    for (const auto& [value, count] : values) {
+        CFG_REMOTE_VIDEO_INPUT inputs[2] = {};
+        inputs[0].bEnable = inputs[1].bEnable = 77;
+        Caller caller(kDeviceSize, 1);
+        GiveInputs(caller, 0, inputs, 2);
+        EXPECT_EQ(caller.Parse("RemoteDevice", Inputs(value)), (Answer{1, kDeviceSize})) << value;
+        EXPECT_EQ(caller.Get<CFG_REMOTE_DEVICE_INFO>(0).nRetVideoInputs, count) << value;
+        EXPECT_EQ(inputs[0].bEnable, 77) << value;
+        EXPECT_EQ(inputs[1].bEnable, 77) << value;
+    }
+}
+
 TEST(RemoteDeviceInputs, WithoutAnArrayOrRoomThereAreNone) {
     CFG_REMOTE_VIDEO_INPUT input{};
     for (const auto& [array, room] : std::vector<std::pair<CFG_REMOTE_VIDEO_INPUT*, std::int32_t>>{

@@ -128,6 +128,10 @@ TEST(NetAppCaps, ARefusedCallSetsTheLengthToZero) {
         EXPECT_EQ(parsed.length, 0u) << result;
         EXPECT_TRUE(parsed.isCleared()) << result;
     }
+    const auto parsed = ParseDocument<CFG_NET_APP_CAPS>("netApp.getCaps", "{");
+    EXPECT_FALSE(parsed);
+    EXPECT_EQ(parsed.length, 0u);
+    EXPECT_TRUE(parsed.isCleared());
 }
 
 // ---- eventManager.getCaps, capsManager.get&EventManagerEventHandler ----

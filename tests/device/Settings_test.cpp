@@ -315,10 +315,12 @@ TEST(VtoBasicInfo, ListsWithoutAnObjectInFrontReadNothing) {
 // ---- What the commands above have in common ----
 
 TEST(DeviceSettings, RefusedRepliesAndMissingTablesFail) {
-    for (const char* command : {"Locales", "AppEventLanguage", "AutoMaintain", "ClientCustomData", "DeviceKeepAlive",
-                                "NTP", "Telnet", "AccessFilter", "NetCollection", "PhoneEventNotify", "VSP_GAYS",
-                                "OilMassInfo", "EmergencyRecordForPull", "IOT_RecordHandle", "IOT_SnapHandle"}) {
-        std::vector<char> buffer(128 << 10, 'x');
+    for (const char* command :
+         {"Locales",  "AppEventLanguage", "AutoMaintain",           "ClientCustomData", "DeviceKeepAlive",
+          "NTP",      "Telnet",           "AccessFilter",           "NetCollection",    "PhoneEventNotify",
+          "VSP_GAYS", "OilMassInfo",      "EmergencyRecordForPull", "IOT_RecordHandle", "IOT_SnapHandle",
+          "RTMP",     "AlarmBell",        "AlarmSlotBond",          "AudioDetect",      "Lighting"}) {
+        std::vector<char> buffer(512 << 10, 'x');
         const auto parse = [&](const char* document) {
             return CLIENT_ParseData(command, document, buffer.data(), static_cast<std::uint32_t>(buffer.size()),
                                     nullptr);
@@ -329,6 +331,25 @@ TEST(DeviceSettings, RefusedRepliesAndMissingTablesFail) {
         EXPECT_EQ(parse("{"), 0) << command;
         EXPECT_EQ(buffer, std::vector<char>(buffer.size())) << command;
         EXPECT_EQ(parse(R"({ "result" : true, "params" : { "table" : { } } })"), 1) << command;
+    }
+}
+
+TEST(DeviceSettings, OfTheOthersAMissingTableSucceedsWithNothingRead) {
+    for (const char* command :
+         {"WorkTime", "LightingSchedule", "VTOBasicInfo", "AroudWifiSearch", "GPS", "GPSLocationVersion"}) {
+        std::vector<char> buffer(8 << 10, 'x');
+        std::uint32_t length = 5;
+        const auto parse = [&](const char* document) {
+            return CLIENT_ParseData(command, document, buffer.data(), static_cast<std::uint32_t>(buffer.size()),
+                                    &length);
+        };
+        EXPECT_EQ(parse(R"({ "result" : false, "params" : { "table" : { } } })"), 0) << command;
+        EXPECT_EQ(parse(R"({ "params" : { "table" : { } } })"), 0) << command;
+        EXPECT_EQ(parse("{"), 0) << command;
+        EXPECT_EQ(parse(R"({ "result" : true, "params" : { "table" : null } })"), 1) << command;
+        EXPECT_EQ(parse(R"({ "result" : true })"), 1) << command;
+        EXPECT_EQ(length, 5u) << command;
+        EXPECT_EQ(buffer, std::vector<char>(buffer.size())) << command;
     }
 }
 

@@ -119,6 +119,15 @@ TEST(ParkingSpaceScreen, TakesValuesOfTheirTypeAlone) {
     EXPECT_EQ(Read<CFG_PARKING_SCREEN_INFO>("ParkingSpaceScreen", R"({"port":true})").nPort, 1);
 }
 
+TEST(ParkingSpaceScreen, TextsAreCutAtTheirCapacity) {
+    const std::string x(300, 'x');
+    const auto screen =
+        Read<CFG_PARKING_SCREEN_INFO>("ParkingSpaceScreen", R"({"ipAddr":")" + x + R"(","deviceNo":")" + x + "\"}");
+    EXPECT_EQ(std::string(screen.szIpAddr), x.substr(0, 259));
+    EXPECT_EQ(std::string(screen.szDeviceNo), x.substr(0, 259));
+    EXPECT_STREQ(screen.szAuthorization, "");
+}
+
 template <class R>
 void TakesOneOrMany(const char* command, const char* key, int32_t R::*member) {
     const std::uint32_t size = sizeof(R);
@@ -132,9 +141,16 @@ void TakesOneOrMany(const char* command, const char* key, int32_t R::*member) {
         EXPECT_EQ(ParseTable(command, table, cleared), (Answer{1, size})) << command << table;
         EXPECT_TRUE(cleared.isAll(0));
     }
-    for (const char* table : {"null", "[]"}) {
-        const Records<R> cleared(1, 0x11);
-        EXPECT_EQ(ParseTable(command, table, cleared), kRefused) << command << table;
+    const Records<R> none(1, 0x11);
+    EXPECT_EQ(ParseTable(command, "null", none), kRefused) << command;
+    const Records<R> empty(1, 0x11);
+    EXPECT_EQ(ParseTable(command, "[]", empty), (Answer{1, 0})) << command;
+    EXPECT_TRUE(empty.isAll(0)) << command;
+    for (const std::string result : {R"("result":false,)", ""}) {
+        const Records<R> refused(1, 0x11);
+        EXPECT_EQ(ParseDocument(command, "{" + result + R"("params":{"table":)" + object + "}}", refused), kRefused)
+            << command << result;
+        EXPECT_TRUE(refused.isAll(0)) << command;
     }
     EXPECT_EQ(PackAll(command, records).front(), '[');
 }
@@ -261,7 +277,47 @@ TEST(TrafficStrobe, HoldsSixteenControls) {
     const auto none = Parse<CFG_TRAFFIC_STROBE_INFO>("TrafficStrobe", "{}");
     EXPECT_EQ(none->stuEventHandler.abRecordEnable, 1);
     EXPECT_EQ(none->stuEventHandlerClose.abRecordEnable, 1);
-    EXPECT_EQ(Parse<CFG_TRAFFIC_STROBE_INFO>("TrafficStrobe", "7").length, sizeof(CFG_TRAFFIC_STROBE_INFO));
+    TakesAnyType<CFG_TRAFFIC_STROBE_INFO>("TrafficStrobe");
+}
+
+int Occurrences(const std::string& text, const std::string& part) {
+    int found = 0;
+    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; ++at)
+        ++found;
+    return found;
+}
+
+TEST(TrafficStrobe, Controls) {
+    const auto read = Parse<CFG_TRAFFIC_STROBE_INFO>(
+        "TrafficStrobe", R"({"ControlType":["trafficTRUSTlist","ALLSNAPCAR","order","",7,null]})");
+    ASSERT_EQ(read->nControlTypeCount, 6);
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(read->emControlType[i], i < 3 ? i + 1 : 0) << i;
+    auto strobe = Cleared<CFG_TRAFFIC_STROBE_INFO>();
+    EXPECT_EQ(Pack("TrafficStrobe", *strobe).find("ControlType"), std::string::npos);
+    for (int i = 0; i < 5; ++i)
+        strobe->emControlType[i] = i < 4 ? i + 1 : -1;
+    strobe->nControlTypeCount = 5;
+    EXPECT_NE(Pack("TrafficStrobe", *strobe)
+                  .find(R"("ControlType" : [ "TrafficTrustList", "AllSnapCar", "Order", null, null ])"),
+              std::string::npos);
+    for (int32_t& control : strobe->emControlType)
+        control = CFG_STROBE_ORDER;
+    for (const auto& [count, written] : {std::pair{16, 16}, {17, 16}, {-1, 0}}) {
+        strobe->nControlTypeCount = count;
+        EXPECT_EQ(Occurrences(Pack("TrafficStrobe", *strobe), "\"Order\""), written) << count;
+    }
+}
+
+TEST(TrafficStrobe, EachSwitchHasItsKey) {
+    const auto on = Parse<CFG_TRAFFIC_STROBE_INFO>("TrafficStrobe", R"({"Enable":true})");
+    EXPECT_EQ(on->bEnable, 1);
+    EXPECT_EQ(on->bAllSnapCar, 0);
+    EXPECT_EQ(Pack("TrafficStrobe", *on).find(R"({ "AllSnapCar" : false, "Enable" : true, )"), 0u);
+    const auto all = Parse<CFG_TRAFFIC_STROBE_INFO>("TrafficStrobe", R"({"AllSnapCar":true})");
+    EXPECT_EQ(all->bEnable, 0);
+    EXPECT_EQ(all->bAllSnapCar, 1);
+    EXPECT_EQ(Pack("TrafficStrobe", *all).find(R"({ "AllSnapCar" : true, "Enable" : false, )"), 0u);
 }
 
 TEST(TrafficVoiceBroadcast, GoesRoundWhole) {
@@ -280,12 +336,31 @@ TEST(TrafficVoiceBroadcast, GoesRoundWhole) {
     EXPECT_EQ(Pack("TrafficVoiceBroadcast", CFG_TRAFFIC_VOICE_INFO{}),
               R"({ "NormalCar" : "", "SuspiciousCar" : "", "TrustCar" : "" })");
     const std::string nine = R"(["Tips","Tips","Tips","Tips","Tips","Tips","Tips","Plate","Plate"])";
-    const auto full = Read<CFG_TRAFFIC_VOICE_INFO>("TrafficVoiceBroadcast", R"({"Enable":)" + nine + R"(,"NormalCar":")"
-                                                                                + std::string(300, 'c') + "\"}");
+    const std::string cars(300, 'c');
+    const auto full = Read<CFG_TRAFFIC_VOICE_INFO>(
+        "TrafficVoiceBroadcast", R"({"Enable":)" + nine + R"(,"NormalCar":")" + cars + R"(","TrustCar":")" + cars
+                                     + R"(","SuspiciousCar":")" + cars + "\"}");
     EXPECT_EQ(full.nEnableCount, 8);
     EXPECT_EQ(full.emEnable[7], 2);
-    EXPECT_EQ(std::string(full.szNormalCar), std::string(259, 'c'));
+    for (const char* text : {full.szNormalCar, full.szTrustCar, full.szSuspiciousCar})
+        EXPECT_EQ(std::string(text), cars.substr(0, 259));
     TakesAnyType<CFG_TRAFFIC_VOICE_INFO>("TrafficVoiceBroadcast");
+}
+
+TEST(TrafficVoiceBroadcast, Contents) {
+    const auto read = Read<CFG_TRAFFIC_VOICE_INFO>("TrafficVoiceBroadcast", R"({"Enable":["tIPS","PLATE","",7,null]})");
+    ASSERT_EQ(read.nEnableCount, 5);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(read.emEnable[i], i < 2 ? i + 1 : 0) << i;
+    const std::string cars = R"("NormalCar" : "", "SuspiciousCar" : "", "TrustCar" : "" })";
+    CFG_TRAFFIC_VOICE_INFO voice = {4, {1, 2, 3, -1, 2, 2, 2, 2}, "", "", ""};
+    EXPECT_EQ(Pack("TrafficVoiceBroadcast", voice), R"({ "Enable" : [ "Tips", "Plate", null, null ], )" + cars);
+    for (const int count : {8, 9}) {
+        voice.nEnableCount = count;
+        EXPECT_EQ(Occurrences(Pack("TrafficVoiceBroadcast", voice), "\"Plate\""), 5) << count;
+    }
+    voice.nEnableCount = -1;
+    EXPECT_EQ(Pack("TrafficVoiceBroadcast", voice), "{ " + cars);
 }
 
 TEST(AutoStartupDelay, TakesValuesOfTheirTypeAlone) {
@@ -324,14 +399,23 @@ TEST(ECKConfig, GoesRoundWhole) {
     EXPECT_EQ(PackBytes("ECKConfig", &eck, sizeof eck, text.size() + 1), text);
     EXPECT_EQ(PackBytes("ECKConfig", &eck, sizeof eck, text.size()), kFailed);
 
+    const auto offline = Read<CFG_ECK_INFO>("ECKConfig", R"({"ForceOffline":true})");
+    EXPECT_EQ(offline.bForceOffline, 1);
+    EXPECT_EQ(offline.bLoopSense, 0);
+    EXPECT_EQ(Pack("ECKConfig", offline),
+              R"({ "ForceOffline" : true, "LED" : { "CustomData" : "", "Speed" : "" }, "LoopSense" : false, )"
+              R"("StrobeMode" : "", "WorkMode" : "" })");
+
     const auto none = Read<CFG_ECK_INFO>("ECKConfig", R"({"ForceOffline":1,"LoopSense":"true","LED":7})");
     EXPECT_EQ(none.bForceOffline, 0);
     EXPECT_EQ(none.bLoopSense, 0);
     EXPECT_STREQ(none.stuLed.szSpeed, "");
-    const auto cut = Read<CFG_ECK_INFO>("ECKConfig", R"({"WorkMode":")" + std::string(40, 'w') + R"(","LED":{"Speed":")"
-                                                         + std::string(40, 's') + R"(","CustomData":")"
-                                                         + std::string(600, 'd') + "\"}}");
+    const auto cut =
+        Read<CFG_ECK_INFO>("ECKConfig", R"({"WorkMode":")" + std::string(40, 'w') + R"(","StrobeMode":")"
+                                            + std::string(40, 'm') + R"(","LED":{"Speed":")" + std::string(40, 's')
+                                            + R"(","CustomData":")" + std::string(600, 'd') + "\"}}");
     EXPECT_EQ(std::string(cut.szWorkMode), std::string(31, 'w'));
+    EXPECT_EQ(std::string(cut.szStrobeMode), std::string(31, 'm'));
     EXPECT_EQ(std::string(cut.stuLed.szSpeed), std::string(31, 's'));
     EXPECT_EQ(std::string(cut.stuLed.szCustomData), std::string(511, 'd'));
     TakesAnyType<CFG_ECK_INFO>("ECKConfig");
@@ -353,6 +437,13 @@ TEST(GuideScreen, GoesRoundWhole) {
                              R"("Text" : "in" } ] })";
     EXPECT_EQ(Pack("GuideScreen", screen), text);
     EXPECT_EQ(PackBytes("GuideScreen", &screen, sizeof screen, text.size() + 1), text);
+    EXPECT_EQ(PackBytes("GuideScreen", &screen, sizeof screen, text.size()), kFailed);
+    const auto cut =
+        Read<CFG_GUIDE_SCREEN_INFO>("GuideScreen", R"({"Arrow":[{"Text":")" + std::string(200, 't')
+                                                       + R"(","Position":")" + std::string(40, 'p') + "\"}]}");
+    EXPECT_EQ(std::string(cut.stuArrows[0].szText), std::string(127, 't'));
+    EXPECT_EQ(std::string(cut.stuArrows[0].szPosition), std::string(31, 'p'));
+    EXPECT_EQ(cut.stuArrows[0].emRoll, 0);
 
     CFG_GUIDE_SCREEN_INFO odd = {};
     EXPECT_EQ(Pack("GuideScreen", odd), "null");
@@ -372,6 +463,9 @@ TEST(GuideScreen, HoldsSixteenArrows) {
         const auto screen = Read<CFG_GUIDE_SCREEN_INFO>("GuideScreen", R"({"Arrow":[)" + list + "]}");
         EXPECT_EQ(screen.nArrowCount, 16);
         EXPECT_STREQ(screen.stuArrows[15].szPosition, "p");
+        CFG_GUIDE_SCREEN_INFO more = screen;
+        more.nArrowCount = arrows;
+        EXPECT_EQ(Occurrences(Pack("GuideScreen", more), "\"Position\" : \"p\""), 16);
     }
 }
 
@@ -412,6 +506,9 @@ TEST(ParkingSpaceAccessFilter, WritesATypeThatItDoesNotRead) {
             ReadAdding<CFG_PARKING_FILTER_INFO>("ParkingSpaceAccessFilter", R"({"TrustList":[)" + list + "]}");
         EXPECT_EQ(full.nTrustListCount, 1024);
         EXPECT_STREQ(full.szTrustList[1023], "p");
+        CFG_PARKING_FILTER_INFO more = full;
+        more.nTrustListCount = plates;
+        EXPECT_EQ(Occurrences(Pack("ParkingSpaceAccessFilter", more), "\"p\""), 1024);
     }
 }
 
@@ -426,6 +523,22 @@ TEST(ParkingSpaceLightGroup, AnObjectOrAnArrayOfOne) {
     }
     EXPECT_EQ(ReadAdding<CFG_PARKING_LIGHT_GROUP_INFO>("ParkingSpaceLightGroup", R"([[{"Lanes":3}]])").nLanes, 0);
     ReadAdding<CFG_PARKING_LIGHT_GROUP_INFO>("ParkingSpaceLightGroup", "null", 0);
+    const auto fromAfar =
+        ReadAdding<CFG_PARKING_LIGHT_GROUP_INFO>("ParkingSpaceLightGroup", R"({"AcceptNetCtrl":true})");
+    EXPECT_EQ(fromAfar.bEnable, 0);
+    EXPECT_EQ(fromAfar.bAcceptNetCtrl, 1);
+    EXPECT_EQ(Pack("ParkingSpaceLightGroup", fromAfar), R"({ "AcceptNetCtrl" : true, "Enable" : false, "Lanes" : 0 })");
+}
+
+TEST(ParkingSpaces, RefusedRepliesFail) {
+    for (const char* command : {"ParkingSpaceAccessFilter", "ParkingSpaceLightGroup", "ParkSpaceOutLight"}) {
+        for (const char* document : {R"({"result":false,"params":{"table":{"Enable":true}}})",
+                                     R"({"params":{"table":{"Enable":true}}})", R"({"result":true,)"}) {
+            const Records<CFG_PARKING_FILTER_INFO> record(1, 0x11); // the largest of them
+            EXPECT_EQ(ParseDocument(command, document, record), kRefused) << command << document;
+            EXPECT_TRUE(record.isAll(0)) << command << document;
+        }
+    }
 }
 
 TEST(ParkSpaceOutLight, GoesRoundWhole) {

@@ -290,6 +290,25 @@ TEST(ThermometryRule, ARuleGoesRoundWhole) {
     EXPECT_EQ(PackAll("ThermometryRule", record), "[ " + std::string(kRuleText) + " ]");
 }
 
+// Switches are alike in their values: each is set by its own key alone.
+TEST(ThermometryRule, EachSwitchHasItsKey) {
+    const std::string tables[] = {R"([{"Enable":true,"AlarmSetting":[{}]}])", R"([{"AlarmSetting":[{"Enable":true}]}])",
+                                  R"([{"AlarmSetting":[{}],"LocalParameters":{"Enable":true}}])"};
+    for (int i = 0; i < 3; ++i) {
+        const Rules record(1, 0x11);
+        ASSERT_EQ(ParseAdding("ThermometryRule", tables[i], record), (Answer{1, kRules}));
+        const CFG_THERMOMETRY_RULE rule = record[0].stuRules[0];
+        EXPECT_EQ(rule.bEnable, i == 0);
+        EXPECT_EQ(rule.stuAlarm[0].bEnable, i == 1);
+        EXPECT_EQ(rule.stuLocal.bEnable, i == 2);
+        const auto is = [](bool on) { return std::string("\"Enable\" : ") + (on ? "true, " : "false, "); };
+        const std::string text = PackAll("ThermometryRule", record);
+        EXPECT_NE(text.find(R"("Duration" : 0, )" + is(i == 1)), std::string::npos) << text;
+        EXPECT_NE(text.find(R"("AreaSubType" : "", )" + is(i == 0)), std::string::npos) << text;
+        EXPECT_NE(text.find(R"("LocalParameters" : { )" + is(i == 2)), std::string::npos) << text;
+    }
+}
+
 TEST(ThermometryRule, TellsTheDevicesCountAndReads512) {
     for (const int rules : {511, 512, 513, 600}) {
         const Rules record(1, 0x11);
@@ -398,6 +417,12 @@ TEST(TemperatureStatistics, TellsTheDevicesCountAndReads64) {
         EXPECT_EQ(record[0].nCount, places);
         EXPECT_EQ(record[0].stuStatistics[62].nPeriod, 3);
         EXPECT_EQ(std::string(record[0].stuStatistics[62].szName), name.substr(0, 127));
+        EXPECT_EQ(record[0].stuStatistics[63].nPeriod, places > 63 ? 3 : 0);
+        const std::string text = PackAll("TemperatureStatistics", record);
+        int found = 0;
+        for (std::size_t at = 0; (at = text.find("Period", at)) != std::string::npos; ++at)
+            ++found;
+        EXPECT_EQ(found, std::min(places, 64));
     }
     const Places record(1, 0x11);
     EXPECT_EQ(ParseAdding("TemperatureStatistics", "[]", record), (Answer{1, kPlaces}));
@@ -444,6 +469,26 @@ TEST(HeatImagingThermometry, GoesRoundWhole) {
         R"("ObjectEmissivity" : 0.5000000000000000, "Rect" : [ 5, 6, 7, 8 ], )"
         R"("ReflectedTemperature" : -1.500000000000000, "RelativeHumidity" : 18, "TemperEnable" : true, )"
         R"("TemperatureUnit" : "Fahrenheit" })");
+}
+
+TEST(HeatImagingThermometry, EachSwitchHasItsKey) {
+    const std::string tables[] = {R"({"Isotherm":{"Enable":true}})", R"({"Isotherm":{"ColorBarDisplay":true}})",
+                                  R"({"HotSpotFollow":true})", R"({"TemperEnable":true})"};
+    for (int i = 0; i < 4; ++i) {
+        const Whole record(1, 0x11);
+        ASSERT_EQ(ParseAdding("HeatImagingThermometry", tables[i], record), (Answer{1, record.size()}));
+        const CFG_HEAT_IMAGING_THERMOMETRY_INFO read = record[0];
+        EXPECT_EQ(read.stuIsotherm.bEnable, i == 0);
+        EXPECT_EQ(read.stuIsotherm.bColorBarDisplay, i == 1);
+        EXPECT_EQ(read.bHotSpotFollow, i == 2);
+        EXPECT_EQ(read.bTemperEnable, i == 3);
+        const std::string text = PackAll("HeatImagingThermometry", record);
+        const char* const keys[] = {"\"Enable", "\"ColorBarDisplay", "\"HotSpotFollow", "\"TemperEnable"};
+        for (int key = 0; key < 4; ++key) {
+            const std::string member = std::string(keys[key]) + (key == i ? "\" : true" : "\" : false");
+            EXPECT_NE(text.find(member), std::string::npos) << member << text;
+        }
+    }
 }
 
 TEST(HeatImagingThermometry, UnitsAndShapes) {

@@ -196,10 +196,16 @@ void ExpectLens(const char* command) {
         record.nCount = count;
         EXPECT_EQ(Pack(command, record), "null") << command << count;
     }
-    const auto none = ParseLens<R>(command, "null");
+    const auto none = ParseLens<R>(command, "null", "\"result\":true,");
     EXPECT_TRUE(none);
     EXPECT_EQ(none.length, kNoLength);
     EXPECT_TRUE(none.isCleared());
+    const auto channelAlone = ParseLens<R>(command, "null");
+    EXPECT_TRUE(channelAlone);
+    EXPECT_EQ(channelAlone.length, kNoLength);
+    EXPECT_EQ(channelAlone->nChannel, 3);
+    EXPECT_EQ(channelAlone->nCount, 0);
+    EXPECT_TRUE(ParseLens<R>(command, "[{}]", "\"channel\":3,\"result\":0,").isCleared()); // refused
     for (const char* table : {"{}", "7", "\"x\""})
         EXPECT_FALSE(ParseLens<R>(command, table)) << command << table;
     EXPECT_EQ(ParseLens<R>(command, "[]")->nCount, 0);
