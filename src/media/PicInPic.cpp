@@ -204,16 +204,10 @@ Outcome ParsePicInPic(const ParseRequest& request) noexcept {
 Outcome PackPicInPic(const PackRequest& request) noexcept {
     if (request.recordSize < kRecord) return Outcome::RecordTooSmall;
     const auto write = [&](json::TextWriter& out) {
-        StackArena<std::size_t{4} << 10> arena;
-        LocalText text(arena);
-        JsonParser parser(text);
-        WriteCall call{parser, out, nullptr, false, {}};
-        const bool written =
-            Pictures(static_cast<const std::byte*>(request.record), request.recordSize / kRecord, call).Write(0);
-        if (arena.failed()) return Outcome::OutOfMemory;
-        if (!written) return Outcome::NotAccepted;
-        out.EndText();
-        return Outcome::Done;
+        WrittenText written(out);
+        Pictures pictures(static_cast<const std::byte*>(request.record), request.recordSize / kRecord, written.call);
+        const bool isWhole = pictures.Write(0);
+        return isWhole || written.arena.failed() ? written.End() : Outcome::NotAccepted;
     };
     return DeliverText(write, Capacity::Strict, request);
 }
