@@ -5,7 +5,7 @@
 #include "events/ReqRealPicture.h"
 #include "support/EventWalk.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cstdlib>
 #include <memory>

@@ -6,7 +6,7 @@
 
 #include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 #include "support/CommandCalls.h"
 
 #include <algorithm>

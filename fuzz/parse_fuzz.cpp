@@ -7,7 +7,7 @@
 #include "frame/record/Engine.h"
 #include "support/CommandCalls.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -8,7 +8,7 @@
 #include "support/FuzzInput.h"
 
 #include "frame/record/Engine.h"
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <algorithm>
 #include <cstdlib>

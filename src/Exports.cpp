@@ -2,7 +2,7 @@
 #include "Commands.h"
 #include "events/ReqRealPicture.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #define ORRERY_EXPORT extern "C" __attribute__((visibility("default")))
 

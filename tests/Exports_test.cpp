@@ -1,6 +1,8 @@
 #include "Commands.h"
+#include "orrery/alarm_caps.h"
+#include "orrery/encode.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cctype>
 #include <cstring>

@@ -15,6 +15,7 @@
 #include "orrery/alarm_device.h"
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_rules.h"
+#include "orrery/calls.h"
 #include "orrery/comm_attribute.h"
 #include "orrery/device_alarm.h"
 #include "orrery/device_equipment.h"
@@ -50,98 +51,5 @@
 #include "orrery/video_input_topics.h"
 #include "orrery/video_talk.h"
 #include "orrery/wlan.h"
-
-#ifdef __cplusplus
-extern "C" {
-#endif
-
-/* The version of these headers. Until 1.0 records may grow with each minor version: the library's file name then has
- * both numbers, and a client runs with the minor version that it was compiled for. */
-#define ORRERY_VERSION_MAJOR 0
-#define ORRERY_VERSION_MINOR 1
-#define ORRERY_VERSION_PATCH 0
-#define ORRERY_VERSION_NUMBER (ORRERY_VERSION_MAJOR * 10000 + ORRERY_VERSION_MINOR * 100 + ORRERY_VERSION_PATCH)
-
-/* The version of the library that runs, as ORRERY_VERSION_NUMBER. */
-uint32_t ORRERY_Version(void);
-
-/* Reads a device's reply into the record, or the array of records, of a command.
- *
- * command         Name of a configuration ("Alarm") or of a remote method whose reply it is ("alarm.getAlarmCaps").
- *                 ASCII letters compare with case folded; nothing is trimmed. Must not be null.
- * text            The reply, { "result" : true, "params" : { "table" : ... } }, terminated, UTF-8. Must not be null.
- *                 What follows the first complete JSON value is ignored.
- * buffer          Takes the record. Need not be aligned. Must not be null. Unless the command's record says otherwise,
- *                 all of it is cleared first and stays so on failure, and what the text leaves out is zero.
- * bufferSize      Bytes at `buffer`, at least one record, but for "Network". Records that do not fit whole are left
- *                 out.
- * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan",
- *                 "Https" and those whose headers say so add to what it holds: set it to 0 first. They take a missing
- *                 table as nothing to read.
- *
- * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8, the
- * C locale and a codeset that iconv does not know they are the device's bytes. What the encoding lacks is a '?'. A text
- * that is too long is cut, in the middle of a character if need be.
- *
- * 0 for a null argument, an unknown command, a buffer below one record, text that is no JSON, a call that the device
- * refused, a missing table, or when memory ran out. */
-int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, uint32_t bufferSize,
-                         uint32_t* returnedLength);
-
-/* Writes a record as the text that a device expects: what a client puts under "params"."table" of its own request.
- *
- * command       As above. Must not be null.
- * record        The record, or the array of records. Need not be aligned. Must not be null. Counts above the room of
- *               their array end at the array.
- * recordSize    Bytes at `record`. What is below one record is refused, but for the commands named under
- *               returnedLength above: missing bytes read as zero where a text holds one record, and where it may hold
- *               several there is none, `null`.
- * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. What is behind
- *               the terminator is cleared. A call that is refused before it writes (a null, an unknown command, a
- *               record too small) leaves the buffer alone; every other failure leaves it cleared whole. Otherwise:
- *               "MotionDetect" leaves it alone on every failure and behind the terminator, and "VideoAnalyseRule" and
- *               "AudioAnalyseRule" leave `[  ]`, with a newline, when rules are told of that are not there.
- * textCapacity  Bytes at `textBuffer`. For most commands the text must be shorter. For the alarm input commands other
- *               than "MotionDetect", and where the command's header says so, a text of exactly that length is taken too
- *               and loses its newline or its terminator.
- *
- * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
-int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
-                          uint32_t textCapacity);
-
-/* Takes one decoded event. `eventType` is its code, ORRERY_EVENT_... of event_codes.h, and tells which record `record`
- * is: DEV_EVENT_<NAME>_INFO of the events_... headers. `recordSize` is the record's size, unless its header says
- * otherwise. The record and all that its pointers lead to live only during the call. `reserved` and `sequence` are 0.
- * The result is ignored.
- *
- * It must return: an exception that leaves it, or a thread that ends in it, ends the program, and a longjmp out of it
- * leaves behind all memory of the call. */
-typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record, uint32_t recordSize, void* reserved,
-                                         int32_t sequence, void* user);
-
-/* Decodes the text of analyzer events, { "Event" : [ { "Code", "Action", "Data" }, ... ] } or "EventList" when there is
- * no "Event", and hands each to the callback, in the order of the text, on the calling thread: at most 128, those whose
- * "Code" is known. The callback may call into the library again.
- *
- * 0 when `data` or `callback` is null, otherwise 1, also when the text is no JSON and nothing is handed over. `data`
- * must be terminated; `length` is not looked at. An event for whose record there is no memory is left out; what a
- * pointer would lead to is null then, with a count of 0, and a text that could not be converted is empty. All else of
- * the event is delivered. The events of one call take at most 64 MB and 64 bytes for each byte of text: what goes
- * beyond finds no memory. */
-int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
-
-/* Decodes a text whose top-level keys name what it carries. Arguments as above. This version decodes none of it
- * yet and answers 0 for every text. */
-int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
-
-/* Reads a reply with a template of analysis settings into `output`. 0 when an argument other than `classType` is null
- * or zero; `reserved` must not be null and is not used. This version knows no template yet and answers 0 for every
- * command. */
-int32_t CLIENT_ParseVideoInAnalyse(const char* command, int32_t classType, const char* text, const void* reserved,
-                                   void* output, uint32_t outputSize);
-
-#ifdef __cplusplus
-}
-#endif
 
 #endif

@@ -4,7 +4,7 @@
 #include "events/EventContext.h"
 #include "frame/Request/IPDU.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <mutex>
 

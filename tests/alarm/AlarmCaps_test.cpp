@@ -1,3 +1,4 @@
+#include "orrery/alarm_caps.h"
 #include "support/Call.h"
 #include "support/SensorTexts.h"
 

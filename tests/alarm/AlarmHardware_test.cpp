@@ -1,5 +1,10 @@
 // Outputs, keyboards, extension boxes, lights, supervised devices and the inputs of extension boxes.
 #include "alarm/RecordLists.h"
+#include "orrery/alarm_device_hardware.h"
+#include "orrery/alarm_input.h"
+#include "orrery/comm_attribute.h"
+#include "orrery/log.h"
+#include "orrery/types.h"
 #include "support/LogLines.h"
 #include "support/WeekText.h"
 

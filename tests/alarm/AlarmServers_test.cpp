@@ -1,5 +1,7 @@
 // Alarm servers, receivers on the telephone line, and the mobile network.
 #include "alarm/RecordLists.h"
+#include "orrery/alarm_device_servers.h"
+#include "orrery/types.h"
 #include "support/JsonText.h"
 #include "support/WeekText.h"
 

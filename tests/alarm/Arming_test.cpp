@@ -1,5 +1,7 @@
 // Arming: profiles, subsystems, delays, analog inputs, what an alarm links to.
 #include "alarm/RecordLists.h"
+#include "orrery/alarm_device_arming.h"
+#include "orrery/types.h"
 #include "support/JsonText.h"
 #include "support/SensorTexts.h"
 #include "support/WeekText.h"

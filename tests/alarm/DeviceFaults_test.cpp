@@ -1,4 +1,6 @@
 // Faults that a device watches itself for.
+#include "orrery/alarm_device_faults.h"
+#include "orrery/linkage.h"
 #include "support/Call.h"
 #include "support/JsonText.h"
 #include "support/WeekText.h"

@@ -1,4 +1,10 @@
 // How much of a text the records of alarm devices hold.
+#include "orrery/alarm_device_arming.h"
+#include "orrery/alarm_device_faults.h"
+#include "orrery/alarm_device_hardware.h"
+#include "orrery/alarm_device_servers.h"
+#include "orrery/alarm_device_vehicle.h"
+#include "orrery/alarm_input.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

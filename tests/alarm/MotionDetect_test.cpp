@@ -1,3 +1,4 @@
+#include "orrery/alarm_input.h"
 #include "support/Call.h"
 #include "support/WeekText.h"
 

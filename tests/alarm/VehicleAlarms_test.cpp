@@ -1,5 +1,6 @@
 // Alarms of vehicles and of counters.
 #include "alarm/RecordLists.h"
+#include "orrery/alarm_device_vehicle.h"
 #include "support/Call.h"
 #include "support/JsonText.h"
 #include "support/WeekText.h"

@@ -1,4 +1,7 @@
 #include "analyse/RuleFrame.h"
+#include "orrery/analyse_rules.h"
+#include "orrery/rule_bodies.h"
+#include "orrery/traffic_rules.h"
 
 #include "analyse/RuleBodyTable.h"
 #include "support/RuleBuffer.h"

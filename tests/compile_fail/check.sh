@@ -18,8 +18,9 @@ if messages=$("$@" -fsyntax-only "$file" 2>&1); then
     echo "the wrong form compiles" >&2
     exit 1
 fi
-# The compiler quotes the source; the phrase must come from a message, not from that quotation.
-if ! grep -E '(error|note):' <<<"$messages" | grep -qF -- "$phrase"; then
+# The compiler quotes the source; the phrase must come from a message, not from that quotation. Not grep -q: it would
+# leave before the first grep has written all, which then fails.
+if ! grep -E '(error|note):' <<<"$messages" | grep -F -- "$phrase" >/dev/null; then
     printf '%s\n' "$messages" "the wrong form is refused, but not for: $phrase" >&2
     exit 1
 fi

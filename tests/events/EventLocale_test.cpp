@@ -1,4 +1,11 @@
 // Texts of events where the local encoding is not UTF-8, and where a field ends in the middle of a character.
+#include "orrery/events_common.h"
+#include "orrery/events_intelligent_region.h"
+#include "orrery/events_traffic_driving.h"
+#include "orrery/events_traffic_flow.h"
+#include "orrery/events_traffic_junction.h"
+#include "orrery/events_traffic_parking.h"
+#include "orrery/events_vehicle.h"
 #include "support/Locales.h"
 #include "support/Notification.h"
 

@@ -1,5 +1,7 @@
 // Described objects, positions, and the rules for their keys.
 #include "events/EventContext.h"
+#include "orrery/events_common.h"
+#include "orrery/events_traffic_driving.h"
 #include "support/Events.h"
 #include "support/JsonText.h"
 

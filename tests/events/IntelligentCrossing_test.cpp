@@ -1,4 +1,7 @@
 // Lines and regions that things cross: which record it becomes, points, directions, paths.
+#include "orrery/events_intelligent_crossing.h"
+#include "orrery/events_intelligent_detection.h"
+#include "orrery/log.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 #include "support/LogLines.h"

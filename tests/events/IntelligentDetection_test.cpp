@@ -1,4 +1,11 @@
 // Oddities of the events about regions, crowds, queues and troubled devices.
+#include "orrery/events_common.h"
+#include "orrery/events_intelligent_detection.h"
+#include "orrery/events_intelligent_person.h"
+#include "orrery/events_intelligent_recognition.h"
+#include "orrery/events_intelligent_region.h"
+#include "orrery/events_intelligent_statistics.h"
+#include "orrery/log.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 #include "support/LogLines.h"

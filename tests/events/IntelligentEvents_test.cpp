@@ -1,5 +1,13 @@
 // Every intelligent event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventTable.h"
+#include "orrery/events_common.h"
+#include "orrery/events_intelligent_crossing.h"
+#include "orrery/events_intelligent_detection.h"
+#include "orrery/events_intelligent_face.h"
+#include "orrery/events_intelligent_person.h"
+#include "orrery/events_intelligent_recognition.h"
+#include "orrery/events_intelligent_region.h"
+#include "orrery/events_intelligent_statistics.h"
 #include "support/EventTexts.h"
 #include "support/EventWalk.h"
 #include "support/FailingAllocator.h"

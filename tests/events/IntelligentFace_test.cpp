@@ -1,4 +1,6 @@
 // Faces and the known people whom they look like.
+#include "orrery/events_intelligent_face.h"
+#include "orrery/log.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 #include "support/LogLines.h"

@@ -1,4 +1,7 @@
 // What people look like, what a parcel holds, which vehicle it is.
+#include "orrery/events_intelligent_face.h"
+#include "orrery/events_intelligent_person.h"
+#include "orrery/events_intelligent_recognition.h"
 #include "support/Events.h"
 
 #include <gtest/gtest.h>

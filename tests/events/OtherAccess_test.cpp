@@ -1,3 +1,4 @@
+#include "orrery/events_other_access.h"
 #include "support/Events.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "orrery/events_other_alarm.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 

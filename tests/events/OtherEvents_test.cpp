@@ -2,6 +2,11 @@
 // field by field in its order.
 #include "events/EventTable.h"
 #include "events/ReqRealPicture.h"
+#include "orrery/events_common.h"
+#include "orrery/events_other_access.h"
+#include "orrery/events_other_alarm.h"
+#include "orrery/events_other_fleet.h"
+#include "orrery/events_vehicle.h"
 #include "support/EventTexts.h"
 #include "support/EventWalk.h"
 #include "support/Events.h"

@@ -1,3 +1,6 @@
+#include "orrery/events_common.h"
+#include "orrery/events_other_fleet.h"
+#include "orrery/types.h"
 #include "support/Events.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,13 @@
 // Every traffic event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventTable.h"
 #include "events/ReqRealPicture.h"
+#include "orrery/events_common.h"
+#include "orrery/events_traffic_conduct.h"
+#include "orrery/events_traffic_driving.h"
+#include "orrery/events_traffic_flow.h"
+#include "orrery/events_traffic_junction.h"
+#include "orrery/events_traffic_parking.h"
+#include "orrery/events_vehicle.h"
 #include "support/Events.h"
 
 #include <algorithm>

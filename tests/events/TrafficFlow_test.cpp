@@ -1,4 +1,7 @@
 // The oddities of the flow, snapshot, accident and parking events.
+#include "orrery/events_common.h"
+#include "orrery/events_traffic_flow.h"
+#include "orrery/log.h"
 #include "support/Events.h"
 #include "support/LogLines.h"
 

@@ -1,4 +1,5 @@
 // The oddities of the junction, gate and weight events.
+#include "orrery/events_traffic_junction.h"
 #include "support/Events.h"
 
 #include <cstring>

@@ -1,6 +1,13 @@
 // Cars, what is seen in and on them, and what they say over the objects beside them.
 #include "events/ReqRealPicture.h"
 #include "events/VehicleParts.h"
+#include "orrery/events_traffic_conduct.h"
+#include "orrery/events_traffic_driving.h"
+#include "orrery/events_traffic_flow.h"
+#include "orrery/events_traffic_junction.h"
+#include "orrery/events_traffic_parking.h"
+#include "orrery/events_vehicle.h"
+#include "orrery/log.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 #include "support/LogLines.h"

@@ -1,8 +1,9 @@
 #include "frame/record/Engine.h"
+#include "orrery/general.h"
 #include "support/FrameCalls.h"
 #include "support/GuardedBuffer.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <gtest/gtest.h>
 

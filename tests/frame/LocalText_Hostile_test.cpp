@@ -1,9 +1,11 @@
 // Texts and codesets that a conversion must not stumble over.
 #include "frame/LocalText.h"
+#include "orrery/alarm_input.h"
+#include "orrery/events_traffic_flow.h"
 #include "support/GuardedBuffer.h"
 #include "support/Locales.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,11 @@
 #include "frame/JsonParser.h"
 #include "frame/JsonParserSupport.h"
 #include "frame/LocalText.h"
+#include "orrery/network.h"
 #include "support/FailingAllocator.h"
 #include "support/Locales.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 // Parking systems and lanes.
+#include "orrery/parking.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // Heat imaging: pictures, rules, statistics and what the whole picture is measured by.
+#include "orrery/thermography.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,6 @@
 // How a serial line is set, as every command carries it that names one.
+#include "orrery/alarm_device_hardware.h"
+#include "orrery/comm_attribute.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

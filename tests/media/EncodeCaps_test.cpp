@@ -1,4 +1,5 @@
 // What encoders and overlays can do.
+#include "orrery/encode_caps.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,6 @@
 // "EncodeEncrypt": items in an array of the caller's.
+#include "orrery/encode.h"
+#include "orrery/types.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

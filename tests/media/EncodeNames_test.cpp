@@ -1,4 +1,5 @@
 // The names of codecs, rates, packs, profiles and picture sizes, in both directions.
+#include "orrery/encode.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // "EncodePlan", "EncodeAdapt", "SmartEncode" and "CompressPlay": small records, one or a list.
+#include "orrery/encode.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // "Encode": the formats of a channel, over what the caller's record holds.
+#include "orrery/encode.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

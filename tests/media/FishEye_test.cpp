@@ -1,4 +1,6 @@
 // "FishEye", and what a camera's sensor can do.
+#include "orrery/video_input.h"
+#include "orrery/video_input_topics.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

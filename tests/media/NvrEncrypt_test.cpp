@@ -1,4 +1,5 @@
 // "NvrEncrypt": a list, or a list of lists, of items inside records.
+#include "orrery/encode.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

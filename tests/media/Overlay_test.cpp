@@ -1,4 +1,5 @@
 // Single pictures, the water mark, regions of interest.
+#include "orrery/overlay.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

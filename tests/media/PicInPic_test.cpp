@@ -1,5 +1,6 @@
 // "PicInPic": records, arrays in arrays that the caller owns.
 #include "frame/JsonParser.h"
+#include "orrery/overlay.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

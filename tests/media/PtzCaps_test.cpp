@@ -1,4 +1,5 @@
 // What heads and their protocols can do.
+#include "orrery/ptz_caps.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

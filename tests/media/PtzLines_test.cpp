@@ -1,4 +1,5 @@
 // Tours over windows, lens drives, vehicle buses, infrared senders.
+#include "orrery/ptz_lines.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // What heads do without an operator.
+#include "orrery/ptz.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,6 @@
 // Heads and their lines, presets and tours.
+#include "orrery/comm_attribute.h"
+#include "orrery/ptz.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // "StroboscopicLamp": up to eight lamps in one record.
+#include "orrery/encode.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // A fixed camera that steers a dome: settings, calibrations, capabilities and groups.
+#include "orrery/tracker.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

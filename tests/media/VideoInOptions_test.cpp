@@ -1,4 +1,5 @@
 // "VideoInOptions": one large record, for normal use, for the night and for pictures.
+#include "orrery/video_input.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // Sensor settings by topic: exposure, backlight, fog, metering, day and night.
+#include "orrery/video_input_topics.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>

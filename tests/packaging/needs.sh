@@ -11,4 +11,4 @@ if printf '%s\n%s\n' "$direct" "$closure" | grep -Ev "$allowed"; then
     echo "the library needs more than the C and C++ runtimes" >&2
     exit 1
 fi
-readelf -d "$library" | grep -q '(SONAME).*\[liborrery\.so\.\(0\.\)\?[0-9]*\]' || { echo "no SONAME" >&2; exit 1; }
+readelf -d "$library" | grep '(SONAME).*\[liborrery\.so\.\(0\.\)\?[0-9]*\]' >/dev/null || { echo "no SONAME" >&2; exit 1; }

@@ -2,6 +2,7 @@
 // linear comes near: a linear pass over the longest of these texts takes milliseconds, a quadratic one minutes.
 #include "events/EventTable.h"
 #include "frame/record/Engine.h"
+#include "orrery/events_intelligent_crossing.h"
 #include "support/CommandCalls.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"

@@ -1,7 +1,7 @@
 // Commands are found by their names, whatever the case of their letters, and by nothing else.
 #include "Commands.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cctype>
 #include <gtest/gtest.h>

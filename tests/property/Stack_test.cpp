@@ -3,6 +3,8 @@
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleBodyTable.h"
 #include "events/EventTable.h"
+#include "orrery/alarm_input.h"
+#include "orrery/analyse_rules.h"
 #include "support/CommandCalls.h"
 #include "support/Events.h"
 #include "support/Locales.h"

@@ -1,10 +1,11 @@
 // What a failed call leaves of the caller's text buffer.
+#include "orrery/analyse_rules.h"
 #include "support/CommandCalls.h"
 #include "support/FailingAllocator.h"
 #include "support/Specimens.h"
 #include "support/TableText.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Others' functions that do not return to the library as functions do: it has nothing of its own to unwind, so the
 // program ends there, before anything is lost or left locked.
+#include "orrery/calls.h"
 #include "orrery/log.h"
-#include "orrery/orrery.h"
 
 #include <gtest/gtest.h>
 

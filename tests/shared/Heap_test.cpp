@@ -1,9 +1,11 @@
 // Calls under a converting locale when an allocation fails, in the C library's converters too. They keep what they have
 // once loaded, so each failure is tried in a process of its own.
+#include "orrery/alarm_input.h"
+#include "orrery/events_traffic_flow.h"
 #include "shared/InterposedHeap.h"
 #include "support/Locales.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include "support/GuardedBuffer.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cstring>
 #include <memory>

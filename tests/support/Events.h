@@ -1,7 +1,7 @@
 // Events as a client gets them: each delivered one is looked at inside the callback, while its record lives.
 #pragma once
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cstddef>
 #include <cstdint>

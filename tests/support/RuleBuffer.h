@@ -1,11 +1,12 @@
 // A rule buffer that ends at an unreadable page, and calls that use it.
 #pragma once
 
+#include "orrery/analyse_rules.h"
 #include "support/GuardedBuffer.h"
 #include "support/JsonText.h"
 #include "support/RuleText.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <cstdint>
 #include <cstring>

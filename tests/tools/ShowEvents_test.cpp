@@ -1,9 +1,10 @@
 // Analyzer events as the companion prints them, read back with a reader other than the library's own.
 #include "orrery/ShowEvents.h"
+#include "orrery/events_other_access.h"
 
 #include "events/EventTable.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

@@ -7,7 +7,7 @@
 #include "analyse/EventTypeRegistry.h"
 #include "events/EventTable.h"
 
-#include "orrery/orrery.h"
+#include "orrery/calls.h"
 
 #include <algorithm>
 #include <new>
