@@ -10,6 +10,7 @@
 #include "alarm/Arming.h"
 #include "alarm/DeviceFaults.h"
 #include "alarm/VehicleAlarms.h"
+#include "analyse/AnalyseCaps.h"
 #include "analyse/RuleFrame.h"
 #include "device/DeviceAlarm.h"
 #include "device/DeviceNetwork.h"
@@ -392,6 +393,18 @@ constexpr Command kCommands[] = {
     // Traffic
 
     // Analysis capabilities
+    Logged(Reply("devVideoAnalyse.getCaps", kAnalyseCaps, kCaps.Null(NullValue::OneRecord)), LogAnalyseCaps, nullptr),
+    Logged(Reply("devVideoAnalyse.getCapsEx", kAnalyseCapsEx, kCaps.Null(NullValue::OneRecord)), LogAnalyseCaps,
+           nullptr),
+    Reply("devAudioAnalyse.getCaps", kAudioAnalyseCaps,
+          kCaps.Result(ResultTest::FalseRefuses).Null(NullValue::OneRecord)),
+    Reply("intelli.getCaps.AnalyseMode", kAnalyseMode, kCaps.Null(NullValue::OneRecord)),
+    Reply("intelli.getVideoAnalyseDeviceChannels", kAnalyseChannels,
+          kUntested.From(Source::Result).Null(NullValue::OneRecord)),
+    Reply("devVideoAnalyse.factory.getCollect", kAnalyseChannels,
+          kUntested.From(Source::Result).Null(NullValue::OneRecord)),
+    Reply("netApp.getRemoteDeviceStatus", kRemoteDeviceStatus,
+          kParse.From(Source::Params, "status").Null(NullValue::OneRecord)),
 
     // Grouped rules
 

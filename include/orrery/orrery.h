@@ -14,6 +14,7 @@
 #include "orrery/alarm_caps.h"
 #include "orrery/alarm_device.h"
 #include "orrery/alarm_input.h"
+#include "orrery/analyse_caps.h"
 #include "orrery/analyse_rules.h"
 #include "orrery/calls.h"
 #include "orrery/comm_attribute.h"

@@ -129,6 +129,12 @@ PART(kLock, Lock,
 #else
 #define ROW_nNumber FIELD(nNumber, "Number", Int).NullElement(Nulls::Stop)
 #endif
+#elif CASE == 32 // must not compile 32: named_nulls_need_a_keyed_list
+#ifdef GOOD
+#define ROW_stuLocks FIELD(stuLocks, "Locks", Record(kLock)).Keyed().NullElement(Nulls::Named)
+#else
+#define ROW_stuLocks FIELD(stuLocks, "Locks", Record(kLock)).NullElement(Nulls::Named)
+#endif
 #elif CASE == 17 // must not compile 17: refused_element_needs_a_list_of_records
 #ifdef GOOD
 #define ROW_stuLocks FIELD(stuLocks, "Locks", Record(kLock)).RefusedElement(Nulls::Stop)

@@ -28,7 +28,7 @@ std::string Call(std::string_view word, std::string_view argument) {
 }
 
 constexpr const char* kOnlyWords[] = {"Any", "String", "Bool", "Integer", "Unsigned", "Integral", "Array"};
-constexpr const char* kNullsWords[] = {"Count", "LeaveHole", "CloseUp", "Stop"};
+constexpr const char* kNullsWords[] = {"Count", "LeaveHole", "CloseUp", "Stop", "Named"};
 constexpr const char* kSkippedWords[] = {"StaysNull", "Hole", "ClosesUp"};
 constexpr const char* kEmptyWords[] = {"NoKey", "Array", "Null"};
 constexpr const char* kStrideWords[] = {"Record", "SizeWord", "SizeWordByField"};
@@ -176,6 +176,7 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.nulls == Nulls::LeaveHole, "a null element keeps its place and does not count");
     add(field.nulls == Nulls::CloseUp, "null elements are passed over");
     add(field.nulls == Nulls::Stop, "a null element ends the list");
+    add(field.nulls == Nulls::Named, "a null member is an element by its name");
     add(field.refused == Nulls::LeaveHole, "an element of the wrong shape keeps its place and does not count");
     add(field.refused == Nulls::CloseUp, "elements of the wrong shape are passed over");
     add(field.refused == Nulls::Stop, "an element of the wrong shape ends the list");

@@ -27,6 +27,7 @@ enum class Mistake : unsigned char {
     KeyedNeedsAListOfRecords,
     AmongKeysNeedsNoKey,
     NullElementNeedsAList,
+    NamedNullsNeedAKeyedList,
     RefusedElementNeedsAListOfRecords,
     WriteEmptyNeedsAList,
     WriteSkippedNeedsAList,
@@ -107,6 +108,8 @@ constexpr Mistake MistakeOfWords(const Field& row) {
     if (row.keyed && (!isList || row.kind != Kind::Record)) return Mistake::KeyedNeedsAListOfRecords;
     if (row.amongKeys && (row.key == nullptr || row.key[0] != '\0')) return Mistake::AmongKeysNeedsNoKey;
     if (row.nulls != Nulls::Count && !isList) return Mistake::NullElementNeedsAList;
+    if ((row.nulls == Nulls::Named && (!row.keyed || row.amongKeys)) || row.refused == Nulls::Named)
+        return Mistake::NamedNullsNeedAKeyedList;
     if (row.refused != Nulls::Count && (!isList || row.kind != Kind::Record))
         return Mistake::RefusedElementNeedsAListOfRecords;
     if (row.empty != Empty::NoKey && !isList && !row.wholeMember) return Mistake::WriteEmptyNeedsAList;

@@ -75,6 +75,7 @@ enum class Nulls : std::uint8_t {
     LeaveHole, // keeps its slot, does not count
     CloseUp,   // is passed over: the next element takes its slot
     Stop,      // ends the list
+    Named,     // of a keyed list, whose nulls are passed over otherwise: its name makes it an element
 };
 
 // What an element that its table does not let out does on writing.

@@ -194,7 +194,8 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
     if (field.keyed) {
         for (const json::Member& member : value.members()) {
             if (used == room.room) break;
-            const bool isElement = field.amongKeys ? member.value.members().size() > 0 : !member.value.isNull();
+            const bool isElement = field.amongKeys ? member.value.members().size() > 0
+                                                   : !member.value.isNull() || field.nulls == Nulls::Named;
             if (!isElement) continue;
             readSlot(member.value, member.key());
             ++counted;

@@ -406,6 +406,27 @@ TEST(Read, RecordsUnderTheirNames) {
     EXPECT_EQ(kept.namedCount, 9);
 }
 
+struct AllNamed {
+    Named named[3];
+    std::int32_t count;
+};
+TABLE(kAllNamed, AllNamed,
+      {
+          FIELD(named, "Named", Record(kNamed)).Count(AT(count)).Keyed().NullElement(Nulls::Named),
+          FIELD(count),
+      });
+
+TEST(Read, ANullUnderANameCanBeAnElement) {
+    const auto r =
+        Read(kAllNamed, R"({ "Named" : { "c" : { "Id" : 3 }, "a" : null, "b" : { "Id" : 2 }, "d" : null } })");
+    EXPECT_STREQ(r.named[0].name, "a");
+    EXPECT_EQ(r.named[0].id, 0);
+    EXPECT_STREQ(r.named[1].name, "b");
+    EXPECT_EQ(r.named[1].id, 2);
+    EXPECT_STREQ(r.named[2].name, "c");
+    EXPECT_EQ(r.count, 3);
+}
+
 TEST(Read, RecordsIntoTheCallersArray) {
     Item items[3] = {{7, 7}, {7, 7}, {7, 7}};
     Nest r{};
