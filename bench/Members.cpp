@@ -28,6 +28,8 @@ constexpr MemberRow kRows[] = {
     {"DevList"},
     {"ShortcutCall"},
     {"SceneMode"},
+    {"PSTNTestPlan"},
+    {"LaserDistMeasure"},
     {"NTP"},
     {"AirCondition"},
     {"videoStatServer.getSummary"},

@@ -17,6 +17,13 @@ constexpr Command Generic(std::string_view name, const record::Table& table, Tab
     return command;
 }
 
+// The same frame of what is never written.
+constexpr Command GenericReply(std::string_view name, const record::Table& table, TableFrame frame) {
+    Command command = Generic(name, table, frame);
+    command.pack = Command::Frame::None;
+    return command;
+}
+
 constexpr Command Both(std::string_view name, const record::Table& table, ParseFrame parse, PackFrame pack) {
     Command command;
     command.name = name;
@@ -96,6 +103,7 @@ constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequ
 // The generic frame: one record, a list of them, or one that is a list itself or stands in one.
 inline constexpr TableFrame kOneCleared{.zeroBuffer = true};
 inline constexpr TableFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
+inline constexpr TableFrame kManyKept{.arrayForm = true};
 inline constexpr TableFrame kManyAlwaysArray{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
 inline constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
 inline constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};

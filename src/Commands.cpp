@@ -23,7 +23,10 @@
 #include "device/Settings.h"
 #include "device/Vehicle.h"
 #include "frame/CommandIndex.h"
+#include "later/Cameras.h"
+#include "later/Fleet.h"
 #include "later/Home.h"
+#include "later/Intercom.h"
 #include "later/Parking.h"
 #include "later/Thermography.h"
 #include "media/Encode.h"
@@ -367,6 +370,47 @@ constexpr Command kCommands[] = {
     Generic("SceneMode", kSceneMode, kManyCleared),
 
     // Later settings
+    Generic("VTHNumberInfo", kVthNumber, kOneOfArrayCleared),
+    Generic("VTOCallInfo", kVtoCalling, kOneCleared),
+    Generic("VTHRemoteIPCInfo", kVthRemoteIpc, kOneCleared),
+    Generic("CallForward", kCallForward, kManyCleared),
+    Generic("DoorBellSound", kDoorBellSound, kManyCleared),
+    Generic("PSTNPersonServer", kPstnPersonServer, kOneCleared),
+    Generic("PSTNTestPlan", kPstnTestPlan, kOneCleared),
+    Generic("ArmLink", kArmLink, kOneCleared),
+    Generic("DefenceArmMode", kDefenceArmMode, kOneCleared),
+    Generic("SensorMode", kSensorMode, kOneCleared),
+    Generic("AlarmLamp", kAlarmLamp, kOneCleared),
+    Generic("SecurityAlarmsPrivacy", kSecurityAlarmsPrivacy, kOneCleared),
+    Generic("VideoMosaic", kVideoMosaic, kManyCleared),
+    Generic("TrafficSnapMosaic", kTrafficSnapMosaic, kManyCleared),
+    Generic("PrivacyMasking", kPrivacyMasking, kArraysCleared),
+    Generic("OSDSysAbnormal", kOsdSysAbnormal, kManyKept),
+    Generic("VideoWidget2", kVideoWidget2, kManyCleared),
+    Generic("VideoWidgetNumberStat", kVideoWidgetNumberStat, kManyCleared),
+    Generic("AtmosphereOSD", kAtmosphereOsd, kManyCleared),
+    Generic("LaserDistMeasure", kLaserDistMeasure, kManyCleared),
+    Generic("Lighting_V2", kLightingV2, kManyCleared),
+    Generic("NetAutoAdaptEncode", kNetAutoAdaptEncode, kManyCleared),
+    Generic("FreeCombination", kFreeCombination, kManyKept),
+    Generic("TSPoint", kTsPoint, kOneOfArrayCleared),
+    Generic("PowerUp", kPowerUp, kManyCleared),
+    Generic("PtzDevice", kPtzDevice, kManyCleared),
+    Generic("SceneSnapShotWithRule", kSceneSnapShot, kOneOfArrayCleared),
+    Generic("Vehicle", kVehiclePlate, kManyCleared),
+    Generic("IdlingTime", kIdlingTime, kManyCleared),
+    Generic("CarDiverState", kCarDriverState, kManyCleared),
+    Generic("TesseraRadar", kTesseraRadar, kManyCleared),
+    Generic("RadarSpeedMeasure", kRadarSpeedMeasure, kOneCleared),
+    Generic("CustomAudio", kCustomAudio, TableFrame{}),
+    Generic("PoliceMap", kPoliceMap, kOneCleared),
+    Generic("DevLocation", kDevLocation, kManyCleared),
+    GenericReply("DeviceInfo", kDeviceIdentity, kManyCleared),
+    Generic("CheckCode", kCheckCode, kOneCleared),
+    Generic("VSP_SCYDKD", kVspScydkd, kOneCleared),
+    Generic("PlatformMonitorIPC", kPlatformMonitorIpc, kManyCleared),
+    Generic("DelayStrategy", kDelayStrategy, kManyCleared),
+    Generic("DropBoxToken", kDropBoxToken, kManyCleared),
 
     // Parking and lane screens
     Both("WorkState", kWorkState, kParse.Takes(Take::OneOrMany).Length(ReplyLength::PerFilled).ZeroesLength(),
