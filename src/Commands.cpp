@@ -11,7 +11,9 @@
 #include "alarm/DeviceFaults.h"
 #include "alarm/VehicleAlarms.h"
 #include "analyse/AnalyseCaps.h"
+#include "analyse/Calibration.h"
 #include "analyse/RuleFrame.h"
+#include "analyse/Scene.h"
 #include "device/DeviceAlarm.h"
 #include "device/DeviceNetwork.h"
 #include "device/DeviceStatus.h"
@@ -431,6 +433,11 @@ constexpr Command kCommands[] = {
     Generic("ParkSpaceOutLight", kParkOutLight, kOneCleared),
 
     // Scenes
+    Both("VideoAnalyseGlobal", kAnalyseGlobal,
+         kParse.Result(ResultTest::FalseRefuses).Null(NullValue::OneRecord).Clears(Clearing::Kept), kLoose),
+    Both("VideoAnalyseCalibrate", kAnalyseCalibrate,
+         kUntested.TakesBy(CalibrateTakes).Clears(Clearing::Kept).Accepts(HasCalibrateRoom),
+         kPack.Accepts(HasCalibrateScenes)),
 
     // Analysis modules
 

@@ -46,6 +46,7 @@
 #include "orrery/ptz_lines.h"
 #include "orrery/remote_device.h"
 #include "orrery/rule_bodies.h"
+#include "orrery/scenes.h"
 #include "orrery/services.h"
 #include "orrery/thermography.h"
 #include "orrery/tracker.h"

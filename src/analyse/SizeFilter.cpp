@@ -6,15 +6,13 @@ namespace orrery::sizefilter {
 
 namespace {
 
-static_assert(offsetof(CFG_CALIBRATE_BOX, nCenterPointY) == offsetof(CFG_CALIBRATE_BOX, nCenterPointX) + 4);
-
-void ReadCenterPoint(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
+void ReadNumberPair(const Field& field, const json::Value& value, std::byte* record, ReadCall&) {
     if (value.size() < 2) return;
     Store(record + field.offset, value[0].asInt());
     Store(record + field.offset + 4, value[1].asInt());
 }
 
-void WriteCenterPoint(const Field& field, const std::byte* record, WriteCall& call) {
+void WriteNumberPair(const Field& field, const std::byte* record, WriteCall& call) {
     call.Key();
     call.out.BeginArray();
     call.out.Int(Load<std::int32_t>(record + field.offset));
@@ -24,6 +22,6 @@ void WriteCenterPoint(const Field& field, const std::byte* record, WriteCall& ca
 
 } // namespace
 
-constexpr CustomCodec kCenterPoint{ReadCenterPoint, WriteCenterPoint};
+constexpr CustomCodec kNumberPair{ReadNumberPair, WriteNumberPair, "[1,2]"};
 
 } // namespace orrery::sizefilter

@@ -11,12 +11,12 @@ namespace sizefilter {
 
 using namespace record;
 
-// Two numbers that the record holds as members of their own.
-extern const CustomCodec kCenterPoint;
+// Two numbers of one list that the record holds as members of their own, one behind the other.
+extern const CustomCodec kNumberPair;
 
 PART(kCalibrateBox, CFG_CALIBRATE_BOX,
      {
-         FIELD(nCenterPointX, "CenterPoint", Custom(kCenterPoint)),
+         FIELD(nCenterPointX, "CenterPoint", Custom(kNumberPair)),
          FIELD(nCenterPointY),
          FIELD(fRatio, "Ratio", Real),
      });

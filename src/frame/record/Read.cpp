@@ -1,4 +1,4 @@
-#include "frame/record/Engine.h"
+#include "frame/record/Chosen.h"
 
 #include <algorithm>
 
@@ -396,6 +396,12 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
 
 void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexcept {
     ReadNodes(table, table.fromRoot, call.root, record, call);
+}
+
+void ReadChosen(const Table& table, const Value& object, std::byte* record, ReadCall& call, RowChoice chosen) noexcept {
+    for (const Field& row : table) {
+        if (row.key != nullptr && chosen.takes(row, chosen.what)) ReadField(row, object[row.key], record, call);
+    }
 }
 
 void ReadRecord(const Table& table, const Value& value, std::byte* record, ReadCall& call,

@@ -1,4 +1,4 @@
-#include "frame/record/Engine.h"
+#include "frame/record/Chosen.h"
 
 #include <algorithm>
 #include <bit>
@@ -501,6 +501,17 @@ void WriteByName(const Table& table, const RecordList& records, WriteCall& call)
 void WriteFields(const Table& table, const std::byte* record, WriteCall& call) noexcept {
     if (table.amongKeys != nullptr) return WriteAmongKeys(table, record, call);
     WriteNodes(table, table.members, record, call);
+}
+
+void WriteChosen(const Table& table, const std::byte* record, WriteCall& call, RowChoice chosen) noexcept {
+    OpenObject inner{call.object, call.quotedKey, false};
+    call.object = &inner;
+    for (std::uint16_t i = 0; i < table.members.count; ++i) {
+        const auto node = static_cast<std::uint16_t>(table.members.first + i);
+        if (chosen.takes(table.rows[table.nodes[node].row], chosen.what)) WriteNodes(table, {node, 1}, record, call);
+    }
+    call.object = inner.parent;
+    if (inner.opened) call.out.EndObject();
 }
 
 void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept {
