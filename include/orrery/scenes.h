@@ -127,11 +127,11 @@ enum {
 
 /* Kinds of calibrated area. */
 enum {
-    CFG_CALIBRATE_NONE = 0,       /* "" */
-    CFG_CALIBRATE_GROUND = 1,     /* "Groud", as devices spell it */
-    CFG_CALIBRATE_HORIZONTAL = 2, /* "Horizontal" */
-    CFG_CALIBRATE_VERTICAL = 3,   /* "Vertical" */
-    CFG_CALIBRATE_ANY = 4         /* "Any" */
+    CFG_CALIBRATE_AREA_NONE = 0,       /* "" */
+    CFG_CALIBRATE_AREA_GROUND = 1,     /* "Groud", as devices spell it */
+    CFG_CALIBRATE_AREA_HORIZONTAL = 2, /* "Horizontal" */
+    CFG_CALIBRATE_AREA_VERTICAL = 3,   /* "Vertical" */
+    CFG_CALIBRATE_AREA_ANY = 4         /* "Any" */
 };
 
 /* A time of day. Text form: "07:30:00". */
@@ -316,8 +316,8 @@ typedef struct CFG_CALIBRATE_AREA {
     int32_t nStaffNum;                        /* entries of stuStaffs in use; a null keeps its entry, uncounted */
     CFG_STAFF stuStaffs[ORRERY_SCENE_STAFFS]; /* "Staffs" */
     int32_t nMethod;                          /* "Method": CFG_CALIBRATE_BY_... */
-    int32_t nType; /* "Type": CFG_CALIBRATE_... Devices write the areas in the order of these types: a text is known in
-                      the first area as "", in the second as "Groud" and so on, and reads as 0 elsewhere */
+    int32_t nType; /* "Type": CFG_CALIBRATE_AREA_... Devices write the areas in the order of these types: a text is
+                      known in the first area as "", in the second as "Groud" and so on, and reads as 0 elsewhere */
 } CFG_CALIBRATE_AREA;
 
 /* A numbered list of calibrated areas. */

@@ -32,11 +32,11 @@ NAMES(kCalibrateMethods, kFolded,
 
 NAMES(kCalibrateTypes, kFolded,
       {
-          {CFG_CALIBRATE_NONE, ""},
-          {CFG_CALIBRATE_GROUND, "Groud"},
-          {CFG_CALIBRATE_HORIZONTAL, "Horizontal"},
-          {CFG_CALIBRATE_VERTICAL, "Vertical"},
-          {CFG_CALIBRATE_ANY, "Any"},
+          {CFG_CALIBRATE_AREA_NONE, ""},
+          {CFG_CALIBRATE_AREA_GROUND, "Groud"},
+          {CFG_CALIBRATE_AREA_HORIZONTAL, "Horizontal"},
+          {CFG_CALIBRATE_AREA_VERTICAL, "Vertical"},
+          {CFG_CALIBRATE_AREA_ANY, "Any"},
       });
 
 // Corners that close up while all but nulls count.

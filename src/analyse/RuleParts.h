@@ -104,9 +104,9 @@ extern const CustomCodec kSpeedsAscending;
 extern const CustomCodec kSpeedsDescending;
 extern const CustomCodec kUnsignedSpeedsDescending;
 
-// ---- Texts of enumerations; case counts ----
+// ---- Texts of enumerations ----
 
-NAMES(kTriggerPositions, kExact,
+NAMES(kTriggerPositions, kFolded,
       {
           {CFG_TRIGGER_CENTER, "Center"},
           {CFG_TRIGGER_LEFT_CENTER, "LeftCenter"},
@@ -115,6 +115,7 @@ NAMES(kTriggerPositions, kExact,
           {CFG_TRIGGER_BOTTOM_CENTER, "BottomCenter"},
       });
 
+// Case counts.
 NAMES(kFaceFeatures, kExact,
       {
           {CFG_FACE_FEATURE_SEX, "Sex"},

@@ -65,7 +65,8 @@ struct GlobalTypes {
 };
 
 void WriteDetailOfGlobal(const Field& field, const std::byte* record, WriteCall& call) {
-    WriteSceneDetail(GlobalTypes(record).all(), record + field.offset, call);
+    const GlobalTypes types(record);
+    WriteSceneDetail(types.all(), record + field.offset, call);
 }
 
 // ---- Bytes of a maker's own ----
@@ -227,7 +228,8 @@ void ReadGlobalOfTypes(const Value& global, std::byte* record, ReadCall& call) {
     using Global = CFG_ANALYSEGLOBAL_INFO;
     if (global.isNull()) return; // the caller's record stays as it was
     ReadNumbered(kPeriodArray, global, record, call);
-    for (const std::string_view type : GlobalTypes(record).all())
+    const GlobalTypes types(record);
+    for (const std::string_view type : types.all())
         ReadSceneDetail(type, global["Scene"]["Detail"], record + offsetof(Global, stuDetail), call);
     ReadAreaTypes(global["CalibrateArea"], record + offsetof(Global, stuCalibrateAreas));
     ReadNumbered(kAreasArray, global, record, call);

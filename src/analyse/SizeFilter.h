@@ -30,14 +30,14 @@ PART(kArea, CFG_SIZE,
     .As(Shape::LooseTuple);
 inline constexpr TypedTable<CFG_SIZE> kBound = kArea.As(Shape::LongTuple);
 
-NAMES(kMeasures, kExact,
+NAMES(kMeasures, kFolded,
       {
           {CFG_MEASURE_PIXEL, "Pixel"},
           {CFG_MEASURE_METRIC, "Metric"},
           {CFG_MEASURE_CALIBRATED_PIXEL, "CalibratedPixel"},
       });
 
-NAMES(kFilters, kExact,
+NAMES(kFilters, kFolded,
       {
           {CFG_FILTER_BY_LENGTH, "ByLength"},
           {CFG_FILTER_BY_AREA, "ByArea"},

@@ -196,6 +196,9 @@ TEST(RuleCodes, EveryTextOfAListReadsAsItsCodeAndNoOtherDoes) {
         for (const auto& [code, text] : names.texts) {
             EXPECT_EQ(read(Quoted(text)), code) << names.type << " " << text;
             EXPECT_EQ(read(Quoted(text + "s")), names.unknown) << names.type << " " << text;
+            // Of a rule's own lists case counts, of those that all rules share it does not.
+            const bool isShared = std::string_view(names.key) == "TriggerPosition";
+            EXPECT_EQ(read(Quoted(InOtherCase(text))), isShared ? code : names.unknown) << names.type << " " << text;
         }
         EXPECT_EQ(read("7"), names.unknown) << names.type;
     }
@@ -320,6 +323,10 @@ TEST(RuleCodes, TheFiltersUnitsAndKindsGoBothWays) {
         auto body = ReadFilter(std::string(R"("MeasureMode":")") + units[i] + R"(","Type":")" + kinds[2 - i] + "\"");
         EXPECT_EQ(body->stuSizeFilter.byMeasureMode, i);
         EXPECT_EQ(body->stuSizeFilter.byFilterType, 2 - i);
+        const auto other = ReadFilter(R"("MeasureMode":")" + InOtherCase(units[i]) + R"(","Type":")"
+                                      + InOtherCase(kinds[2 - i]) + "\"");
+        EXPECT_EQ(other->stuSizeFilter.byMeasureMode, i);
+        EXPECT_EQ(other->stuSizeFilter.byFilterType, 2 - i);
         EXPECT_EQ(WrittenFilter(*body),
                   std::string(R"({ "MeasureMode" : ")") + units[i] + R"(", "Type" : ")" + kinds[2 - i] + "\" }");
         body->stuSizeFilter.byMeasureMode = static_cast<std::uint8_t>(3 + 100 * i);

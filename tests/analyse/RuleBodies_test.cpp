@@ -307,12 +307,12 @@ TEST(RuleBodies, APointOfOneNumberLeavesAHole) {
 TEST(RuleBodies, PositionsCountWhatIsThere) {
     const auto body = Read<CFG_RULE_RETROGRADE_INFO>(
         "RetrogradeDetection",
-        R"("TriggerPosition":["TopCenter",null,"nowhere","center","BottomCenter",4,"Center","RightCenter","LeftCenter"])");
+        R"("TriggerPosition":["TopCenter",null,"nowhere","leftcenter","BottomCenter",4,"Center","RightCenter","LeftCenter"])");
     EXPECT_EQ(body->nTriggerPosition, 7); // eight places, one of them a null
     EXPECT_EQ(body->byTriggerPosition[0], CFG_TRIGGER_TOP_CENTER);
     EXPECT_EQ(body->byTriggerPosition[1], 0);
     EXPECT_EQ(body->byTriggerPosition[2], CFG_TRIGGER_CENTER);
-    EXPECT_EQ(body->byTriggerPosition[3], CFG_TRIGGER_CENTER);
+    EXPECT_EQ(body->byTriggerPosition[3], CFG_TRIGGER_LEFT_CENTER);
     EXPECT_EQ(body->byTriggerPosition[4], CFG_TRIGGER_BOTTOM_CENTER);
     EXPECT_EQ(body->byTriggerPosition[7], CFG_TRIGGER_RIGHT_CENTER);
     body->nTriggerPosition = 3;
@@ -321,7 +321,7 @@ TEST(RuleBodies, PositionsCountWhatIsThere) {
     body->nTriggerPosition = 9;
     EXPECT_TRUE(Has(
         Written(275, *body),
-        R"("TriggerPosition" : [ "TopCenter", null, "Center", "Center", "BottomCenter", "Center", "Center", "RightCenter" ])"));
+        R"("TriggerPosition" : [ "TopCenter", null, "Center", "LeftCenter", "BottomCenter", "Center", "Center", "RightCenter" ])"));
 }
 
 // ---- The size filter ----
