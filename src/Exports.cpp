@@ -1,6 +1,7 @@
 // The exported translation functions: argument tests, and on to the command table.
 #include "Commands.h"
 #include "events/ReqRealPicture.h"
+#include "events/TypedText.h"
 
 #include "orrery/calls.h"
 
@@ -35,8 +36,10 @@ ORRERY_EXPORT int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t, 
     return orrery::DeliverEvents(data, callback, user);
 }
 
-ORRERY_EXPORT int32_t CLIENT_ParseDataByCallback(const char*, uint32_t, ORRERY_EVENT_CALLBACK, void*) {
-    return 0;
+ORRERY_EXPORT int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t, ORRERY_EVENT_CALLBACK callback,
+                                                 void* user) {
+    if (data == nullptr || callback == nullptr) return 0;
+    return orrery::DeliverTyped(data, callback, user);
 }
 
 ORRERY_EXPORT int32_t CLIENT_ParseVideoInAnalyse(const char*, int32_t, const char*, const void*, void*, uint32_t) {

@@ -33,6 +33,7 @@
 #include "orrery/events_other.h"
 #include "orrery/events_traffic.h"
 #include "orrery/fleet.h"
+#include "orrery/events_typed.h"
 #include "orrery/general.h"
 #include "orrery/home.h"
 #include "orrery/intercom.h"

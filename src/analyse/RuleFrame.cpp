@@ -36,30 +36,21 @@ ItemType TypeOf(const RuleBody& body) noexcept {
     const bool isNamed = RuleCodeFromName(name) == code;
     return {body.code, isNamed ? name : std::string_view(), body.table, body.isRead && isNamed};
 }
-ItemType TypeAt(std::uint32_t index) noexcept {
-    return TypeOf(RuleBodies()[index]);
-}
-ItemType TypeOfCode(std::uint32_t code) noexcept {
-    const RuleBody* const body = FindRuleBody(code);
-    return body == nullptr ? ItemType{} : TypeOf(*body);
-}
-
 using Rules = CFG_ANALYSERULES_INFO;
 
 } // namespace
 
-constexpr PackedItems kRuleItems{
-    .pointer = offsetof(Rules, pRuleBuf),
-    .count = MakeSlot<decltype(Rules::nRuleCount)>(offsetof(Rules, nRuleCount)),
-    .bytes = MakeSlot<decltype(Rules::nRuleLen)>(offsetof(Rules, nRuleLen)),
-    .head = &kRuleInfo,
-    .code = MakeSlot<decltype(CFG_RULE_INFO::dwRuleType)>(offsetof(CFG_RULE_INFO, dwRuleType)),
-    .size = MakeSlot<decltype(CFG_RULE_INFO::nRuleSize)>(offsetof(CFG_RULE_INFO, nRuleSize)),
-    .most = ORRERY_MOST_RULES,
-    .typeCount = 84,
-    .typeAt = TypeAt,
-    .typeOf = TypeOfCode,
-};
+ItemType RuleTypeAt(std::uint32_t index) noexcept {
+    return TypeOf(RuleBodies()[index]);
+}
+ItemType RuleTypeOf(std::uint32_t code) noexcept {
+    const RuleBody* const body = FindRuleBody(code);
+    return body == nullptr ? ItemType{} : TypeOf(*body);
+}
+
+constexpr PackedItems kRuleItems =
+    RuleItems(offsetof(Rules, pRuleBuf), MakeSlot<decltype(Rules::nRuleCount)>(offsetof(Rules, nRuleCount)),
+              MakeSlot<decltype(Rules::nRuleLen)>(offsetof(Rules, nRuleLen)));
 
 TABLE(kAnalyseRules, CFG_ANALYSERULES_INFO,
       {

@@ -15,8 +15,25 @@ extern const record::TypedTable<CFG_ANALYSERULES_INFO> kAnalyseRules;
 // The head of an item.
 extern const record::TypedTable<CFG_RULE_INFO> kRuleInfo;
 
-// The items behind the descriptor.
-extern const PackedItems kRuleItems;
+// The types of items.
+inline constexpr std::uint32_t kRuleTypes = 84;
+ItemType RuleTypeAt(std::uint32_t index) noexcept;
+ItemType RuleTypeOf(std::uint32_t code) noexcept;
+// The items behind a descriptor.
+constexpr PackedItems RuleItems(std::size_t pointer, record::Slot count, record::Slot bytes) {
+    return {
+        .pointer = static_cast<std::uint32_t>(pointer),
+        .count = count,
+        .bytes = bytes,
+        .head = &kRuleInfo,
+        .code = record::MakeSlot<decltype(CFG_RULE_INFO::dwRuleType)>(offsetof(CFG_RULE_INFO, dwRuleType)),
+        .size = record::MakeSlot<decltype(CFG_RULE_INFO::nRuleSize)>(offsetof(CFG_RULE_INFO, nRuleSize)),
+        .most = ORRERY_MOST_RULES,
+        .typeCount = kRuleTypes,
+        .typeAt = RuleTypeAt,
+        .typeOf = RuleTypeOf,
+    };
+}
 
 // "VideoAnalyseRule" and "AudioAnalyseRule": the rules stand in the reply's table.
 Outcome ParseAnalyseRules(const ParseRequest& request) noexcept;

@@ -7,6 +7,15 @@
 
 namespace orrery::events {
 
+// Ranks of roads.
+NAMES(kRanks, kFolded,
+      {
+          {EVENT_RANK_RAPID, "Rapid"},
+          {EVENT_RANK_TRUNK, "Trunk"},
+          {EVENT_RANK_SUB_TRUNK, "SubTrunk"},
+          {EVENT_RANK_BRANCH, "Branch"},
+      });
+
 extern const TypedTable<DEV_EVENT_TRAFFICCONTROL_INFO> kTrafficControl;
 extern const TypedTable<DEV_EVENT_TRAFFICACCIDENT_INFO> kTrafficAccident;
 extern const TypedTable<DEV_EVENT_TRAFFICJUNCTION_INFO> kTrafficJunction;

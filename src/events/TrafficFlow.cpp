@@ -22,14 +22,6 @@ NAMES(kHeadings, kFolded,
           {1, "Approach"},
           {2, "Leave"},
       });
-NAMES(kRanks, kFolded,
-      {
-          {EVENT_RANK_RAPID, "Rapid"},
-          {EVENT_RANK_TRUNK, "Trunk"},
-          {EVENT_RANK_SUB_TRUNK, "SubTrunk"},
-          {EVENT_RANK_BRANCH, "Branch"},
-      });
-
 PART(kSignal, EVENT_SIGNAL_INFO,
      {
          FIELD(bySpeed, "Speed", Int),
