@@ -84,8 +84,14 @@ typedef int32_t (*ORRERY_EVENT_CALLBACK)(uint32_t eventType, const void* record,
  * beyond finds no memory. */
 int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
 
-/* Decodes a text whose top-level keys name what it carries. Arguments as above. This version decodes none of it
- * yet and answers 0 for every text. */
+/* Decodes a text whose top-level keys name what it carries, and hands each to the callback with a code of its own:
+ * events_typed.h has the codes and records. Arguments as above; data that is no JSON gives 0.
+ *
+ * "VideoAnalyseRule" comes first, then the others in the order of their names; "Event" and "EventList" each hand over
+ * the events of the whole text as CLIENT_ParseAnalyzerEventData does. Case counts in names, and a name that is none of
+ * those is passed over. The result is that of the last name that was worked on, 0 when there was none: 1, but 0 for a
+ * null, when memory ran out, and for rules that are none or of types without a record; an empty list gives 1 and is not
+ * handed over. Records take memory as events do, each name for itself. */
 int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
 
 /* Reads a reply with a template of analysis settings into `output`. 0 when an argument other than `classType` is null

@@ -4,6 +4,7 @@
 
 #include "Commands.h"
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -63,6 +64,18 @@ TEST(Schema, ListsEveryEventWithARecordOfTheList) {
         EXPECT_EQ(event["size"].asUInt(), events[i].reportedSize);
         ASSERT_TRUE(sizes.contains(event["record"].asString())) << event["name"];
         EXPECT_EQ(sizes[event["record"].asString()].asUInt(), events[i].recordSize) << event["name"];
+    }
+}
+
+TEST(Schema, ListsWhatTypedTextsCarry) {
+    const Json::Value typed = ReadSchema()["typed"];
+    const auto rows = events::TypedRows();
+    ASSERT_EQ(typed.size(), rows.size());
+    for (Json::ArrayIndex i = 0; i < typed.size(); ++i) {
+        EXPECT_EQ(typed[i]["code"].asUInt(), rows[i].code);
+        EXPECT_EQ(typed[i]["name"], std::string(rows[i].name));
+        EXPECT_EQ(typed[i]["record"], rows[i].table->record);
+        EXPECT_EQ(typed[i]["list"].asBool(), rows[i].isList);
     }
 }
 

@@ -61,6 +61,32 @@ TEST(ShowEvents, PrintsALineAnEvent) {
     EXPECT_EQ(lines[3]["record"]["stuFileTime"]["dwYear"], 0);
 }
 
+TEST(ShowEvents, TakesTypedTextsByThemselves) {
+    const Result result =
+        ShowEvents(R"({"ObjectList":[{"ObjectID":4},null,{"ObjectID":5}],"VideoStatSummary":{"Channel":3},
+        "VideoAnalyseRule":[{"Type":"FireDetection","Name":"one"}],"Event":[{"Code":"TrafficControl","Data":{}}]})");
+    EXPECT_EQ(result.exit, kDone);
+    EXPECT_EQ(result.err, "");
+    const auto lines = LinesOf(result.out);
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_EQ(lines[0]["code"], 0x1000001);
+    EXPECT_EQ(lines[0]["name"], "VideoAnalyseRule");
+    EXPECT_EQ(lines[0]["record"]["dwHead"], 1);
+    ASSERT_EQ(lines[0]["record"]["pRuleBuf"].size(), 1U);
+    EXPECT_EQ(lines[0]["record"]["pRuleBuf"][0]["record"]["szRuleName"], "one");
+    EXPECT_EQ(lines[1]["name"], "TrafficControl");
+    EXPECT_EQ(lines[2]["name"], "ObjectList");
+    ASSERT_EQ(lines[2]["records"].size(), 2U);
+    EXPECT_EQ(lines[2]["records"][1]["nObjectID"], 5);
+    EXPECT_EQ(lines[3]["record"]["nChannelID"], 3);
+
+    EXPECT_EQ(ShowEvents(R"({"VideoAnalyseRule":[{"Type":"Nonsense"}]})").err,
+              "orrery: note: \"VideoAnalyseRule\" was passed over: a rule is of a type without a record\n");
+    EXPECT_EQ(ShowEvents(R"({"VideoAnalyseRule":[]})").err, "orrery: note: \"VideoAnalyseRule\" holds no rules\n");
+    EXPECT_THAT(ShowEvents(R"({"ObjectList":[],"Event":[{"Code":"Nothing"}]})").err,
+                HasSubstr("Event[0] was passed over"));
+}
+
 TEST(ShowEvents, PrettyIsTheSameOverSeveralLines) {
     const char* const text = R"({"EventList":[{"Code":"RFIDInfo","Data":{"RFID":["a","b"]}}]})";
     Json::Value line;

@@ -74,6 +74,16 @@ input='{"Event":[}' run 1 events
 no_out
 err_has 'line 1, column 11'
 
+# Texts that tell by their keys what they carry.
+input='{"ObjectList":[{"ObjectID":4},{"ObjectID":5}],"VideoStatSummary":{"Channel":3}}' run 0 events
+[ "$(wc -l <"$scratch/out")" = 2 ] || fail "not two lines"
+out_has '"name": "ObjectList"'
+out_has '"nObjectID": 5'
+out_has '{ "code": 16777216, "name": "VideoStatSummary", "size": '
+no_err
+run 0 describe VideoSynopsisAnalyseRule
+out_has 'typed text 16777221'
+
 # Refusals: status 1, nothing on standard output.
 input='{ "result" : tru }' run 1 parse PwdReset
 no_out

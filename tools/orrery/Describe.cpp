@@ -4,6 +4,7 @@
 #include "orrery/Words.h"
 
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 
 #include <algorithm>
 
@@ -184,6 +185,11 @@ std::optional<std::string> Describe(std::string_view name) {
             + (event.needsNoData ? ", delivered also without \"Data\"" : "") + "\n\n"
             + DescribeTable(tables, *event.table));
         break;
+    }
+    for (const events::TypedRow& typed : events::TypedRows()) {
+        if (!EqualsFolded(typed.name, name)) continue;
+        add(std::string(typed.name) + "\n  typed text " + std::to_string(typed.code)
+            + (typed.isList ? ", a list of records" : "") + "\n\n" + DescribeTable(tables, *typed.table));
     }
     if (!text.empty()) return text;
     for (const Table* table : tables.Of(name))

@@ -4,6 +4,7 @@
 #include "orrery/Words.h"
 
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 #include <set>
 
 namespace orrery::tool {
@@ -121,6 +122,11 @@ std::string Layout() {
         if (event.needsNoData) text += " NeedsNoData";
         if (event.rename != nullptr) text += " Renamed(function)";
         text += "\n";
+    }
+    text += "\n# typed texts: code key record\n";
+    for (const events::TypedRow& typed : events::TypedRows()) {
+        text += "typed " + std::to_string(typed.code) + " " + std::string(typed.name) + " "
+                + tables.LabelOf(*typed.table) + (typed.isList ? " List" : "") + "\n";
     }
     return text;
 }

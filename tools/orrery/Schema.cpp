@@ -4,6 +4,7 @@
 #include "orrery/Words.h"
 
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 #include "frame/PackedItems.h"
 
 #include <set>
@@ -94,12 +95,21 @@ std::string Schema() {
                                  .Add("record", Node::Text(event.table->record))
                                  .Add("size", Node::Unsigned(event.reportedSize))));
     }
+    Node typed = Node::Array();
+    for (const events::TypedRow& row : events::TypedRows()) {
+        typed.Add(std::move(Node::Object()
+                                .Add("code", Node::Unsigned(row.code))
+                                .Add("name", Node::Text(row.name))
+                                .Add("record", Node::Text(row.table->record))
+                                .Add("list", Node::Bool(row.isList))));
+    }
     Node schema = Node::Object();
     schema.Add("version", Node::Text(ORRERY_VERSION))
         .Add("commands", std::move(commands))
         .Add("records", std::move(records))
         .Add("rules", RuleNodes())
-        .Add("events", std::move(events));
+        .Add("events", std::move(events))
+        .Add("typed", std::move(typed));
     return schema.Print();
 }
 

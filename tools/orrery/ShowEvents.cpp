@@ -5,7 +5,9 @@
 #include "orrery/Suggest.h"
 
 #include "analyse/EventTypeRegistry.h"
+#include "analyse/RuleFrame.h"
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 
 #include "orrery/calls.h"
 
@@ -25,20 +27,36 @@ struct Shown {
     bool ranOut = false;
 };
 
+Node EventNode(const events::EventRow& row, const std::byte* record, std::uint32_t size, PrintOptions options) {
+    return std::move(Node::Object()
+                         .Add("code", Node::Unsigned(row.code))
+                         .Add("name", Node::Text(row.name))
+                         .Add("size", Node::Unsigned(size))
+                         .Add("record", PrintRecord(*row.table, record, options)));
+}
+
+Node TypedNode(const events::TypedRow& row, const std::byte* record, std::uint32_t size, PrintOptions options) {
+    Node typed = Node::Object();
+    typed.Add("code", Node::Unsigned(row.code)).Add("name", Node::Text(row.name)).Add("size", Node::Unsigned(size));
+    if (row.isList)
+        typed.Add("records", PrintRecords(*row.table, record, size / row.table->size, options));
+    else
+        typed.Add("record", PrintRecord(*row.table, record, options));
+    return typed;
+}
+
 // The library knows no exceptions: none may pass through it.
 std::int32_t Show(std::uint32_t type, const void* record, std::uint32_t size, void*, std::int32_t,
                   void* user) noexcept {
     auto& shown = *static_cast<Shown*>(user);
-    const events::EventRow& row = *events::FindEvent(type);
     ++shown.count;
     try {
-        Node event = Node::Object();
-        event.Add("code", Node::Unsigned(type))
-            .Add("name", Node::Text(row.name))
-            .Add("size", Node::Unsigned(size))
-            .Add("record",
-                 PrintRecord(*row.table, static_cast<const std::byte*>(record), PrintOptions{shown.options.all}));
-        shown.out += shown.options.pretty ? event.Print() : event.PrintLine();
+        const auto* const bytes = static_cast<const std::byte*>(record);
+        const PrintOptions options{shown.options.all};
+        const events::TypedRow* const typed = events::FindTyped(type);
+        const Node node = typed != nullptr ? TypedNode(*typed, bytes, size, options)
+                                           : EventNode(*events::FindEvent(type), bytes, size, options);
+        shown.out += shown.options.pretty ? node.Print() : node.PrintLine();
     } catch (const std::bad_alloc&) {
         shown.ranOut = true;
     }
@@ -59,6 +77,19 @@ std::string WhyNot(const Value& event) {
     }
     if (event["Data"].isNull() && !row->needsNoData) return "no \"Data\"";
     return {};
+}
+
+// A text that tells by its keys what it carries.
+bool IsTyped(const Value& root) {
+    return std::ranges::any_of(root.members(),
+                               [](const json::Member& member) { return events::FindTyped(member.key()) != nullptr; });
+}
+
+// The rules of a typed text are taken all or none.
+std::string WhyNoRules(const Value& rules) {
+    if (RuleArraySizeNeeded(rules) > 0) return {};
+    if (rules.elements().empty()) return "orrery: note: \"VideoAnalyseRule\" holds no rules\n";
+    return "orrery: note: \"VideoAnalyseRule\" was passed over: a rule is of a type without a record\n";
 }
 
 std::string Notes(const Value& root) {
@@ -95,9 +126,19 @@ Result ShowEvents(std::string_view text, const EventOptions& options) {
         if (!document.ok) return {kRefused, {}, "orrery: " + ExplainSyntax(document) + "\n"};
         const std::string terminated(document.text);
         Shown shown{options, {}};
-        CLIENT_ParseAnalyzerEventData(terminated.c_str(), static_cast<std::uint32_t>(terminated.size()), Show, &shown);
+        const auto size = static_cast<std::uint32_t>(terminated.size());
+        const bool isTyped = IsTyped(document.root);
+        if (isTyped)
+            CLIENT_ParseDataByCallback(terminated.c_str(), size, Show, &shown);
+        else
+            CLIENT_ParseAnalyzerEventData(terminated.c_str(), size, Show, &shown);
         if (shown.ranOut) throw std::bad_alloc();
-        return {kDone, shown.out, Notes(document.root)};
+        std::string notes;
+        const Value& rules = document.root["VideoAnalyseRule"];
+        if (isTyped && !rules.isNull()) notes += WhyNoRules(rules);
+        const bool hasEvents = !document.root["Event"].isNull() || !document.root["EventList"].isNull();
+        if (hasEvents || !isTyped) notes += Notes(document.root);
+        return {kDone, shown.out, notes};
     } catch (const std::bad_alloc&) {
         return {kRefused, {}, "orrery: out of memory\n"};
     }

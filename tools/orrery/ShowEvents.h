@@ -10,7 +10,8 @@ struct EventOptions {
     bool all = false;    // lists whole, also what is not in use
 };
 
-// One object a delivered event: code, name, size, record by field names. What was passed over is told in notes.
+// One object a delivered event: code, name, size, record by field names. What was passed over is told in notes. A text
+// with keys of its own for what it carries, such as "ObjectList", is taken as such; what is a list there has "records".
 Result ShowEvents(std::string_view text, const EventOptions& options = {});
 
 } // namespace orrery::tool

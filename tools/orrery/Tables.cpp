@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 #include "frame/JsonParser.h"
 #include "frame/PackedItems.h"
 #include "orrery/Words.h"
@@ -18,6 +19,8 @@ Tables::Tables() {
     }
     for (const events::EventRow& event : events::Events())
         Meet(*event.table, std::string(event.name));
+    for (const events::TypedRow& typed : events::TypedRows())
+        Meet(*typed.table, std::string(typed.name));
     std::stable_sort(all.begin(), all.end(), [](const Table* left, const Table* right) {
         return std::string_view(left->record) < std::string_view(right->record);
     });

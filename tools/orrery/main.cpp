@@ -8,6 +8,7 @@
 
 #include "Commands.h"
 #include "events/EventTable.h"
+#include "events/TypedText.h"
 
 #include <CLI/CLI.hpp>
 
@@ -56,6 +57,8 @@ Result DescribeOrSuggest(const std::string& name) {
         names.push_back(command.name);
     for (const orrery::events::EventRow& event : orrery::events::Events())
         names.push_back(event.name);
+    for (const orrery::events::TypedRow& typed : orrery::events::TypedRows())
+        names.push_back(typed.name);
     return {kRefused,
             {},
             "orrery: no command, event or record " + Printable(Quoted(name)) + DidYouMean(name, names) + "\n"};
@@ -109,8 +112,8 @@ int main(int argc, char** argv) {
         };
     });
 
-    CLI::App* const events =
-        app.add_subcommand("events", "Print the analyzer events of a text as records, in JSON, a line an event");
+    CLI::App* const events = app.add_subcommand(
+        "events", "Print the analyzer events of a text, and what else its keys tell, as records, in JSON, a line each");
     events->add_option("FILE", file, "The text; standard input by default");
     events->add_flag("--pretty", eventOptions.pretty, "Print each event over several lines");
     events->add_flag("--all", eventOptions.all, "Print lists whole, also what is not in use");
