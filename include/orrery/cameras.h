@@ -199,7 +199,7 @@ typedef struct CFG_PTZ_DEVICE_INFO {
 /* Snapshots upon one rule. */
 typedef struct CFG_SCENE_SNAP_RULE {
     int32_t emRuleType;      /* "RuleType": ORRERY_RULE_... of orrery/event_types.h, its name in the letters' own case;
-                                absent and unknown texts read as 0. Codes without a name are written as "All" */
+                                absent and unknown texts read as 0. Codes without a name are written as "" */
     int32_t nRepeatInterval; /* "RepeatInterval": seconds between two snapshots while it lasts */
     int32_t nSingleInterval; /* "SingleInterval": seconds between the pictures of one snapshot */
     int32_t nSnapShotTypeCount;                       /* entries of szSnapShotType in use */

@@ -4,6 +4,8 @@
 #include "frame/record/Engine.h"
 #include "media/CommAttribute.h"
 
+#include "orrery/event_types.h"
+
 namespace orrery {
 
 using namespace record;
@@ -68,9 +70,13 @@ PART(kPrivacyMask, CFG_PRIVACY_MASK,
 void ReadRuleType(const Field&, const json::Value& value, std::byte* rule, ReadCall&) {
     SET_MEMBER(rule, CFG_SCENE_SNAP_RULE, emRuleType, RuleCodeFromName(value.asString()));
 }
+// A code without a name is no rule, and not "All" of them.
 void WriteRuleType(const Field&, const std::byte* rule, WriteCall& call) {
+    const std::int32_t code = MEMBER(rule, CFG_SCENE_SNAP_RULE, emRuleType);
+    const std::string_view name = RuleNameOf(code, false);
+    const bool isNamed = code == ORRERY_RULE_ALL || name != RuleNameOf(ORRERY_RULE_ALL, false);
     call.Key();
-    call.out.String(RuleNameOf(MEMBER(rule, CFG_SCENE_SNAP_RULE, emRuleType), false));
+    call.out.String(isNamed ? name : std::string_view());
 }
 constexpr CustomCodec kRuleType{ReadRuleType, WriteRuleType, "\"CrossLineDetection\""};
 

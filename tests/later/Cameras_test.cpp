@@ -490,6 +490,7 @@ TEST(SceneSnapShot, RulesByTheirNames) {
             .emRuleType;
     };
     EXPECT_EQ(read("\"CrossLineDetection\""), ORRERY_RULE_CROSS_LINE_DETECTION);
+    EXPECT_EQ(read("\"All\""), ORRERY_RULE_ALL);
     for (const char* value : {"\"crosslinedetection\"", "\"Nonsense\"", "\"\"", "2", "true", "null", "[ ]"})
         EXPECT_EQ(read(value), 0) << value; // case counts
     Snaps snaps{};
@@ -497,10 +498,12 @@ TEST(SceneSnapShot, RulesByTheirNames) {
     for (const std::int32_t code : {-1, 0, 0x7FFF, INT32_MIN, INT32_MAX}) {
         snaps.stuRules[0].emRuleType = code;
         EXPECT_EQ(Pack("SceneSnapShotWithRule", snaps),
-                  R"({ "PresetID" : 0, "SnapShotWithRule" : [ { "RepeatInterval" : 0, "RuleType" : "All", )"
+                  R"({ "PresetID" : 0, "SnapShotWithRule" : [ { "RepeatInterval" : 0, "RuleType" : "", )"
                   R"("SingleInterval" : 0 } ] })")
             << code;
     }
+    snaps.stuRules[0].emRuleType = ORRERY_RULE_ALL;
+    EXPECT_NE(Pack("SceneSnapShotWithRule", snaps).find(R"("RuleType" : "All")"), std::string::npos);
 }
 
 TEST(SceneSnapShot, KeepsSixteenRulesOfEightTypes) {

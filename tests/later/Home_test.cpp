@@ -1,36 +1,11 @@
-#include "later/Home.h"
-
-#include "support/Call.h"
+#include "later/TableCalls.h"
+#include "orrery/home.h"
 
 #include <gtest/gtest.h>
 #include <vector>
 
 namespace orrery::test {
 namespace {
-
-// Calls add to the length that they find.
-constexpr std::uint32_t kBefore = 1000;
-
-template <class R>
-Answer ParseHome(const char* command, const std::string& table, const Records<R>& records) {
-    const std::string document = R"({ "result" : true, "params" : { "table" : )" + table + " } }";
-    std::uint32_t length = kBefore;
-    const auto result = CLIENT_ParseData(command, document.c_str(), records.data(), records.size(), &length);
-    return {result, length};
-}
-
-template <class R>
-constexpr Answer Read(std::uint32_t records) {
-    return {1, static_cast<std::uint32_t>(kBefore + records * sizeof(R))};
-}
-
-// One record of bytes that no reading leaves.
-template <class R>
-R ReadOne(const char* command, const std::string& table) {
-    const Records<R> record(1, 0x5A);
-    EXPECT_EQ(ParseHome(command, table, record), Read<R>(1)) << table;
-    return record[0];
-}
 
 // ---- "Light" ----
 
@@ -164,8 +139,8 @@ TEST(Light, TextsAreCutAtTheirCapacity) {
 
 TEST(Light, ARecordAnElementAndNullsLeaveAGap) {
     const Records<CFG_LIGHT_INFO> lights(3, 10, 0x5A);
-    EXPECT_EQ(ParseHome("Light", R"([ { "PosID" : 1 }, null, { "PosID" : 3 }, { "PosID" : 4 } ])", lights),
-              Read<CFG_LIGHT_INFO>(2));
+    EXPECT_EQ(ParseAdding("Light", R"([ { "PosID" : 1 }, null, { "PosID" : 3 }, { "PosID" : 4 } ])", lights),
+              HasRead<CFG_LIGHT_INFO>(2));
     EXPECT_EQ(lights[0].nPosId, 1);
     EXPECT_EQ(lights[0].emState, 2);
     EXPECT_EQ(lights[1].emState, 0); // not read
@@ -256,8 +231,8 @@ TEST(SceneMode, ReadsAndWritesAllKeys) {
 TEST(SceneMode, OneRecordIsBareAndSeveralAreAList) {
     const Records<Scenes> two(2, 0x5A);
     const std::string list = R"([ { "CurrentProfileID" : 1 }, { "CurrentProfileID" : 2 } ])";
-    EXPECT_EQ(ParseHome("SceneMode", R"([ { "CurrentProfileID" : 1 }, { "CurrentProfileID" : 2 }, { } ])", two),
-              Read<Scenes>(2));
+    EXPECT_EQ(ParseAdding("SceneMode", R"([ { "CurrentProfileID" : 1 }, { "CurrentProfileID" : 2 }, { } ])", two),
+              HasRead<Scenes>(2));
     EXPECT_EQ(PackAll("SceneMode", two), list);
     const auto pack = [&](std::size_t size) {
         return WithoutNewline(PackBytes("SceneMode", two.data(), size, kAmple));
@@ -289,6 +264,8 @@ TEST(SceneMode, KeepsFiftyFourProfiles) {
     EXPECT_NE(text.find("\"SceneID\" : 53 } ] }"), std::string::npos);
     scenes.nProfileCount = 55;
     EXPECT_EQ(Pack("SceneMode", scenes), text);
+    scenes.nProfileCount = -1;
+    EXPECT_EQ(Pack("SceneMode", scenes), R"({ "CurrentProfileID" : 0 })");
     const auto odd = ReadOne<Scenes>("SceneMode", R"({ "Profiles" : [ null, 5, { "SceneID" : 9 } ] })");
     EXPECT_EQ(odd.nProfileCount, 3);
     EXPECT_EQ(odd.stuProfiles[2].nSceneId, 9);

@@ -125,6 +125,24 @@ TEST(Thermography, HoldsSixteenPicturesAndSixtyFourRegions) {
     EXPECT_EQ(region.stuRegions[1].nLeft, 4);
 }
 
+TEST(Thermography, RegionsAreWrittenAsFarAsTheyGo) {
+    Pictures record(1);
+    CFG_THERMOGRAPHY_INFO pictures = {};
+    pictures.nCount = 1;
+    for (CFG_RECT& region : pictures.stuOptions[0].stuOptimizedRegion.stuRegions)
+        region = {6, 6, 6, 6};
+    for (const auto& [count, written] : {std::pair{INT_MIN, 0}, {-1, 0}, {0, 0}, {1, 1}, {64, 64}, {65, 64}}) {
+        pictures.stuOptions[0].stuOptimizedRegion.nRegionCount = count;
+        record.Set(0, pictures);
+        const std::string text = PackAll("ThermographyOptions", record);
+        int found = 0;
+        for (std::size_t at = 0; (at = text.find("[ 6, 6, 6, 6 ]", at)) != std::string::npos; ++at)
+            ++found;
+        EXPECT_EQ(found, written) << count;
+        EXPECT_EQ(text.find("Regions") != std::string::npos, written > 0) << count;
+    }
+}
+
 TEST(Thermography, ANegativeOrTooLargeCountWritesWhatThereIs) {
     Pictures record(1);
     CFG_THERMOGRAPHY_INFO pictures = {};
@@ -349,6 +367,54 @@ TEST(ThermometryRule, ListsOfARuleEndAt64) {
         R"([ { "AreaSubType" : "", "Enable" : false, "LocalParameters" : { "Enable" : false, "ObjectDistance" : 0, )"
         R"("ObjectEmissivity" : 0.000000000000000, "ReflectedTemp" : 0 }, "Name" : "", "PresetId" : 0, )"
         R"("RuleId" : 0, "T" : 0, "Type" : "" } ])");
+}
+
+int Occurrences(const std::string& text, const std::string& part) {
+    int found = 0;
+    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; ++at)
+        ++found;
+    return found;
+}
+
+TEST(ThermometryRule, WritesNoMoreThanItsListsHold) {
+    CFG_THERMOMETRY_RULE_INFO rules = {};
+    rules.nCount = 1;
+    for (int i = 0; i < 64; ++i) {
+        rules.stuRules[0].stuCoordinates[i] = {7, 7};
+        rules.stuRules[0].stuAlarm[i].nId = 8;
+    }
+    Rules record(1);
+    for (const auto& [count, written] : {std::pair{-1, 0}, {0, 0}, {1, 1}, {63, 63}, {64, 64}, {65, 64}}) {
+        rules.stuRules[0].nCoordinates = rules.stuRules[0].nAlarmCount = count;
+        record.Set(0, rules);
+        const std::string text = PackAll("ThermometryRule", record);
+        EXPECT_EQ(Occurrences(text, "[ 7, 7 ]"), written) << count;
+        EXPECT_EQ(Occurrences(text, R"("Id" : 8)"), written) << count;
+        EXPECT_EQ(Occurrences(text, "MeterRegion"), written > 0 ? 1 : 0) << count;
+        EXPECT_EQ(Occurrences(text, "AlarmSetting"), written > 0 ? 1 : 0) << count;
+    }
+    for (const auto& [count, written] : {std::pair{-1, 0}, {511, 511}, {512, 512}, {513, 512}}) {
+        rules.nCount = count;
+        record.Set(0, rules);
+        EXPECT_EQ(Occurrences(PackAll("ThermometryRule", record), "\"RuleId\""), written) << count;
+    }
+}
+
+TEST(ThermometryRule, PointsAreExactlyTwoNumbers) {
+    const Rules record(1, 0x11);
+    ASSERT_EQ(ParseAdding("ThermometryRule",
+                          R"([{"MeterRegion":{"Coordinates":[[1],[1,2,3],null,5,[-1,4294967295],[8,9]]}}])", record)
+                  .result,
+              1);
+    const CFG_THERMOMETRY_RULE rule = record[0].stuRules[0];
+    ASSERT_EQ(rule.nCoordinates, 6);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(rule.stuCoordinates[i].nX, 0u) << i;
+        EXPECT_EQ(rule.stuCoordinates[i].nY, 0u) << i;
+    }
+    EXPECT_EQ(rule.stuCoordinates[4].nX, 0u); // no negative numbers
+    EXPECT_EQ(rule.stuCoordinates[4].nY, 4294967295u);
+    EXPECT_EQ(rule.stuCoordinates[5].nY, 9u);
 }
 
 TEST(ThermometryRule, NamesOfRules) {
