@@ -43,6 +43,16 @@ constexpr Command Reply(std::string_view name, const record::Table& table, Parse
     return command;
 }
 
+// A command that is written only.
+constexpr Command Text(std::string_view name, const record::Table& table, PackFrame pack) {
+    Command command;
+    command.name = name;
+    command.table = &table;
+    command.pack = Command::Frame::Family;
+    command.packFrame = pack;
+    return command;
+}
+
 // A parse function of its own; the frame's words tell tools what it does.
 constexpr Command OwnParse(std::string_view name, const record::Table& table,
                            Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
@@ -88,6 +98,14 @@ inline constexpr ParseFrame kListOrLists =
     kParse.Takes(Take::ListOrListsOrBlank).Null(NullValue::LengthUntouched).Length(ReplyLength::OneOfList);
 // Lens drives answer with a number.
 inline constexpr ParseFrame kLens = kList.Result(ResultTest::IntegerNonZero).Null(NullValue::LengthUntouched);
+
+// Descriptors of the caller's lists: read in place before "result" has its say, written without touching more of the
+// text buffer than the text needs.
+inline constexpr ParseFrame kDiagnosisList = kParse.Result(ResultTest::Verdict).Clears(Clearing::Kept).ExactSize();
+inline constexpr PackFrame kDiagnosisText = kPack.Fits(Capacity::Bare).KeepsText().ExactSize();
+
+// Devices that answer with a number of channels, in place of "result" or under "params".
+inline constexpr ParseFrame kChannelCount = kUntested.From(Source::Result).Null(NullValue::OneRecord);
 
 inline constexpr ParseFrame kCaps = kParse.From(Source::Caps);
 inline constexpr ParseFrame kCapsTextTrue = kCaps.Result(ResultTest::TextTrue);

@@ -24,6 +24,7 @@
 #include "device/Services.h"
 #include "device/Settings.h"
 #include "device/Vehicle.h"
+#include "diagnosis/Diagnosis.h"
 #include "frame/CommandIndex.h"
 #include "later/Cameras.h"
 #include "later/Fleet.h"
@@ -450,16 +451,31 @@ constexpr Command kCommands[] = {
     Reply("devAudioAnalyse.getCaps", kAudioAnalyseCaps,
           kCaps.Result(ResultTest::FalseRefuses).Null(NullValue::OneRecord)),
     Reply("intelli.getCaps.AnalyseMode", kAnalyseMode, kCaps.Null(NullValue::OneRecord)),
-    Reply("intelli.getVideoAnalyseDeviceChannels", kAnalyseChannels,
-          kUntested.From(Source::Result).Null(NullValue::OneRecord)),
-    Reply("devVideoAnalyse.factory.getCollect", kAnalyseChannels,
-          kUntested.From(Source::Result).Null(NullValue::OneRecord)),
+    Reply("intelli.getVideoAnalyseDeviceChannels", kAnalyseChannels, kChannelCount),
+    Reply("devVideoAnalyse.factory.getCollect", kAnalyseChannels, kChannelCount),
     Reply("netApp.getRemoteDeviceStatus", kRemoteDeviceStatus,
           kParse.From(Source::Params, "status").Null(NullValue::OneRecord)),
 
     // Grouped rules
 
     // Video diagnosis
+    Both("VideoDiagnosisProfile", kDiagnosisProfiles, kDiagnosisList.Accepts(HasDiagnosisEntries),
+         kDiagnosisText.Accepts(HasDiagnosisEntries)),
+    Both("VideoDiagnosisTask", kDiagnosisTasks, kDiagnosisList.Accepts(HasDiagnosisSources),
+         kDiagnosisText.Accepts(HasDiagnosisEntries)),
+    Both("VideoDiagnosisTask.x", kDiagnosisTask, kDiagnosisList.Accepts(HasDiagnosisSources),
+         kDiagnosisText.Accepts(HasOneDiagnosisTask)),
+    Both("VideoDiagnosisProject", kDiagnosisProjects, kDiagnosisList.Accepts(HasDiagnosisEntries),
+         kDiagnosisText.Accepts(HasDiagnosisEntries)),
+    Text("VideoDiagnosisRealProject", kDiagnosisRealProjects, kDiagnosisText.Accepts(HasDiagnosisEntries)),
+    Both("VideoDiagnosisGlobal", kDiagnosisGlobal,
+         kList.Clears(Clearing::Kept).ExactSize().Accepts(HasDiagnosisEntries),
+         kDiagnosisText.Accepts(HasDiagnosisEntries)),
+    Both("videoDiagnosisServer.getCaps", kDiagnosisCaps,
+         kParse.From(Source::CapsOrParams).Result(ResultTest::TextTrue).ExactSize(), kDiagnosisText),
+    Reply("videoDiagnosisServer.getState", kDiagnosisState,
+          kParse.From(Source::Params, "state").Takes(Take::OneOrMany)),
+    Reply("videoDiagnosisServer.factory.getCollect", kAnalyseChannels, kChannelCount.ExactSize()),
 
     // Analysis rules
     Own("VideoAnalyseRule", kAnalyseRules, ParseAnalyseRules, PackAnalyseRules),

@@ -25,6 +25,7 @@
 #include "orrery/device_settings.h"
 #include "orrery/device_status.h"
 #include "orrery/device_vehicle.h"
+#include "orrery/diagnosis.h"
 #include "orrery/encode.h"
 #include "orrery/encode_caps.h"
 #include "orrery/event_codes.h"

@@ -14,6 +14,7 @@ inline bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexce
         return length < room;
     case Capacity::Loose:
     case Capacity::Raw:
+    case Capacity::Bare:
         return length <= room;
     case Capacity::OneBefore:
         return length + 1 < room;
@@ -23,6 +24,7 @@ inline bool Fits(Capacity capacity, std::size_t length, std::size_t room) noexce
 
 // Ends a text of `length` bytes that fits in `room`.
 inline void Terminate(Capacity capacity, std::size_t length, char* buffer, std::size_t room) noexcept {
+    if (capacity == Capacity::Bare) return;
     if (length < room)
         buffer[length] = '\0';
     else if (capacity == Capacity::Loose)

@@ -33,6 +33,7 @@ enum class ResultTest : std::uint8_t {
     ExactBool,      // the JSON value true
     IntegerNonZero, // reads as an integer other than 0
     TextTrue,       // reads as the text "true", case folded: JSON true and "true"
+    Verdict,        // as FalseRefuses, but the reply is read all the same before the call fails
 };
 
 // Which shapes of the value are taken.
@@ -198,6 +199,7 @@ enum class Capacity : std::uint8_t {
     Loose,     // up to the capacity; at exactly the capacity the last character gives way to the terminator
     Raw,       // up to the capacity; at exactly the capacity there is no terminator
     OneBefore, // shorter than the capacity less one
+    Bare,      // up to the capacity, and nothing is written behind the text; for calls that keep the text buffer
 };
 
 struct PackFrame {

@@ -82,6 +82,10 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         return Outcome::OutOfMemory;
     }
     if (isShort) std::memcpy(buffer, whole.buffer, request.bufferSize);
+    if (call.overflowed) return Outcome::TooManyRecords;
+    if (frame.result == ResultTest::Verdict && !ResultPasses(ResultTest::FalseRefuses, document.root["result"])) {
+        return Outcome::Refused;
+    }
     switch (frame.length) {
     case ReplyLength::OneRecord:
         setLength(stride);

@@ -219,6 +219,24 @@ PART(kLock, Lock,
 #else
 #define ROW_nNumber FIELD(nNumber, "Level/Number", Int)
 #endif
+#elif CASE == 33 // must not compile 33: single_needs_a_pointer_to_a_record
+#ifdef GOOD
+#define ROW_nNumber FIELD(nNumber, "Number", Int)
+#else
+#define ROW_nNumber FIELD(nNumber, "Number", Int).Single()
+#endif
+#elif CASE == 34 // must not compile 34: all_or_none_needs_a_capacity
+#ifdef GOOD
+#define ROW_nDays FIELD(nDays, "Days", Int).Lent(AT(nFloor)).AllOrNone()
+#else
+#define ROW_nDays FIELD(nDays, "Days", Int).AllOrNone()
+#endif
+#elif CASE == 35 // must not compile 35: counts_without_array_needs_count_and_capacity
+#ifdef GOOD
+#define ROW_nDays FIELD(nDays, "Days", Int).Count(AT(nFloor))
+#else
+#define ROW_nDays FIELD(nDays, "Days", Int).Count(AT(nFloor)).CountsWithoutArray()
+#endif
 #endif
 
 #ifndef ROW_szName

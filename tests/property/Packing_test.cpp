@@ -118,7 +118,7 @@ TEST(Packing, RecordsOfAnySize) {
 
 // The bytes that a buffer must have beyond the text.
 std::size_t Spare(Capacity capacity) {
-    constexpr std::size_t kSpare[] = {1, 0, 0, 2}; // Strict, Loose, Raw, OneBefore
+    constexpr std::size_t kSpare[] = {1, 0, 0, 2, 0}; // Strict, Loose, Raw, OneBefore, Bare
     return kSpare[static_cast<std::size_t>(capacity)];
 }
 
@@ -132,7 +132,7 @@ std::string Expected(Capacity capacity, bool keeps, const std::string& text, std
         if (capacity == Capacity::Loose) expected.back() = '\0';
         return expected;
     }
-    expected += '\0';
+    if (capacity != Capacity::Bare) expected += '\0';
     expected.resize(room, keeps ? static_cast<char>(kUntouched) : '\0');
     return expected;
 }

@@ -37,7 +37,6 @@ std::byte* CallerMemory::Block(const Table& table, std::uint32_t count) {
 }
 
 void CallerMemory::MakePointersSafe(const Table& table, std::byte* record) {
-    constexpr std::uint32_t kRoom = 3;
     constexpr std::uint32_t kItemRoom = 1200 << 10;
     for (const Field& field : table) {
         std::byte* const at = record + field.offset;
@@ -48,11 +47,12 @@ void CallerMemory::MakePointersSafe(const Table& table, std::byte* record) {
             record::Store(at, Block(*field.table, heads));
             record::StoreSlot(items->bytes, record, heads * field.table->size);
         } else if (field.cell == Cell::Pointer) {
-            record::Store(at, Block(*field.table, kRoom));
+            const std::uint32_t room = field.single ? 1 : room_;
+            record::Store(at, Block(*field.table, room));
             if (field.capacity.exists())
-                record::StoreSlot(field.capacity, record, kRoom);
-            else if (field.count.exists() && record::LoadSlot(field.count, record) > kRoom)
-                record::StoreSlot(field.count, record, kRoom);
+                record::StoreSlot(field.capacity, record, room);
+            else if (field.count.exists() && record::LoadSlot(field.count, record) > room)
+                record::StoreSlot(field.count, record, room);
         } else if (field.cell == Cell::Record && field.capacity.exists()) {
             record::StoreSlot(field.capacity, record, field.dims[0]); // an array of the record that is lent whole
             for (std::uint32_t i = 0; i < field.dims[0] && HasPointers(*field.table); ++i)

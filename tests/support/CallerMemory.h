@@ -17,6 +17,9 @@ bool HasPointers(const record::Table& table);
 // prepared alike are equal byte by byte.
 class CallerMemory {
   public:
+    // `room` is how many records a pointer leads to.
+    explicit CallerMemory(std::uint32_t room = 3) : room_(room) {}
+
     void Reset() { used_ = 0; }
 
     // Points every pointer of the record to memory of its own and sets its capacity, or its count where it has no
@@ -30,6 +33,7 @@ class CallerMemory {
   private:
     std::byte* Block(const record::Table& table, std::uint32_t count);
 
+    std::uint32_t room_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     std::vector<std::size_t> sizes_;
     std::size_t used_ = 0;

@@ -94,6 +94,8 @@ Packed Pack(const Command& command, const void* record, std::size_t size) {
     std::size_t capacity = std::size_t{64} << 10;
     // Packing clears the whole of its buffer, so a large one is for the few texts that need it.
     for (;; capacity *= 8) {
+        // Commands that write nothing behind their text leave it without an end in a buffer that was used before.
+        if (command.packFrame.capacity == Capacity::Bare) std::memset(room.get(), 0, capacity);
         const PackRequest request{record, static_cast<std::uint32_t>(size), room.get(),
                                   static_cast<std::uint32_t>(capacity)};
         const Outcome outcome = RunPack(command, request);

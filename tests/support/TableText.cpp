@@ -102,13 +102,14 @@ class Maker {
         default:
             break;
         }
-        if (field.rank == 0 && field.cell != record::Cell::Pointer) return One(field);
+        if (field.single || (field.rank == 0 && field.cell != record::Cell::Pointer)) return One(field);
         return Level(field, 0);
     }
 
     JsonTree Level(const Field& field, int level) {
-        const bool innermost = field.cell == record::Cell::Pointer || level + 1 == field.rank;
-        const std::uint32_t room = field.cell == record::Cell::Pointer ? 4 : field.dims[level];
+        const bool isPointer = field.cell == record::Cell::Pointer;
+        const bool innermost = isPointer || level + 1 == field.rank;
+        const std::uint32_t room = isPointer ? std::max(4U, options_.most) : field.dims[level];
         std::uint32_t count = std::min(room, options_.most);
         if (field.exactly) count = room;
         count = std::max<std::uint32_t>(count, field.atLeast);

@@ -62,6 +62,7 @@ std::string ResultWanted(const Command& command) {
     if (command.parse != Command::Frame::Family) return "true";
     switch (command.parseFrame.result) {
     case ResultTest::FalseRefuses:
+    case ResultTest::Verdict:
         return "true, or absent";
     case ResultTest::ExactBool:
         return "exactly true";
@@ -247,6 +248,11 @@ std::string ExplainParse(const Command& command, Outcome outcome, const Document
         return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes " + Wanted(take);
     }
     case Outcome::TooManyRecords:
+        for (const record::Field& field : *command.table) {
+            if (!field.allOrNone) continue;
+            return name + " takes all entries of the reply or none: it has "
+                   + std::to_string(LookAt(command, document.root).value->size()) + ", more than there is room for";
+        }
         return name + " takes all records of the reply or none: it has "
                + std::to_string(LookAt(command, document.root).records) + ", the buffer room for "
                + std::to_string(bufferSize / std::max(command.table->size, 1U));

@@ -237,6 +237,7 @@ void FillPointer(const Field& field, const Value& value, std::byte* record, Memo
         std::byte* const block = memory.Allocate(field.table->size);
         SetSizeWords(*field.table, block);
         FillFields(*field.table, value, block, memory, path);
+        if (field.capacity.exists() && LoadSlot(field.capacity, record) == 0) StoreSlot(field.capacity, record, 1);
         return Store(record + field.offset, block);
     }
     if (!value.isArray()) FailType(path, value, "a list");
@@ -393,15 +394,17 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
             Store(at, memory.Allocate(bytes));
             StoreSlot(items->bytes, record, static_cast<std::int64_t>(bytes));
         } else if (field.cell == Cell::Pointer) {
-            if (PointsToText(field) || PointsToOne(field)) continue; // the library makes these itself
-            std::byte* const first = memory.Allocate(std::size_t{count} * field.table->size);
-            for (std::uint32_t i = 0; i < count; ++i) {
+            const bool isOne = PointsToOne(field);
+            if (PointsToText(field) || (isOne && !field.single)) continue; // the library makes these itself
+            const std::uint32_t places = isOne ? 1 : count;
+            std::byte* const first = memory.Allocate(std::size_t{places} * field.table->size);
+            for (std::uint32_t i = 0; i < places; ++i) {
                 std::byte* const element = first + std::size_t{i} * field.table->size;
                 SetSizeWords(*field.table, element);
                 GiveRoom(*field.table, element, count, memory);
             }
             Store(at, first);
-            StoreSlot(field.capacity, record, count);
+            StoreSlot(field.capacity, record, places);
         } else if (field.cell == Cell::Record) {
             if (field.capacity.exists())
                 StoreSlot(field.capacity, record, field.dims[0]); // an array that is lent whole

@@ -60,6 +60,7 @@ std::size_t RoomBehind(const Command& command) {
     switch (command.packFrame.capacity) {
     case Capacity::Loose:
     case Capacity::Raw:
+    case Capacity::Bare:
         return 0;
     case Capacity::OneBefore:
         return 2;

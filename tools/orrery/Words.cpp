@@ -108,6 +108,9 @@ std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     add(field.amongKeys, "AmongKeys");
     add(field.untilEmpty, "UntilEmpty");
     add(field.zeroed, "Zeroed");
+    add(field.single, "Single");
+    add(field.allOrNone, "AllOrNone");
+    add(field.counted, "CountsWithoutArray");
     add(field.nulls != Nulls::Count, Call("NullElement", Word(field.nulls, kNullsWords)));
     add(field.refused != Nulls::Count, Call("RefusedElement", Word(field.refused, kNullsWords)));
     slot("ReadIf", field.readCondition);
@@ -166,6 +169,9 @@ std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     add(field.capacity.exists(),
         Joined({field.lent ? "elements asked for: " : "room behind the pointer: ", SlotName(table, field.capacity)}));
     add(field.zeroed, "each element is cleared before it is read");
+    add(field.single, "one record of the caller's; neither read nor written when the pointer is null");
+    add(field.allOrNone, "more elements than room end the call, with none of them read");
+    add(field.counted, "elements are counted also when the pointer is null");
     add(field.anyShape, "any value is read, as empty when it is no list");
     add(field.exactly, "read only with exactly as many elements");
     add(field.atLeast != 0, Joined({"read only with at least ", std::to_string(field.atLeast), " elements"}));
@@ -229,7 +235,7 @@ std::string ParseWords(const Command& command) {
     if (frame.name[0] != '\0') words += std::string(" ") + frame.name;
     words += ") ";
     words += Call("Result", Word(frame.result, {"MustBeTrue", "FalseRefuses", "NotTested", "ExactBool",
-                                                "IntegerNonZero", "TextTrue"}));
+                                                "IntegerNonZero", "TextTrue", "Verdict"}));
     words +=
         " "
         + Call("Takes", Word(frame.take, {"One", "OneOrMany", "AnyOrMany", "Many", "ManyOrNone", "List", "ListOrNone",
@@ -263,7 +269,7 @@ std::string PackWords(const Command& command) {
     words +=
         " "
         + Call("As", Word(frame.form, {"One", "Array", "BareIfOne", "BareIfExact", "ByMember", "Nothing", "NoText"}));
-    words += " " + Call("Fits", Word(frame.capacity, {"Strict", "Loose", "Raw", "OneBefore"}));
+    words += " " + Call("Fits", Word(frame.capacity, {"Strict", "Loose", "Raw", "OneBefore", "Bare"}));
     words += " " + Call("Strides", Word(frame.stride, kStrideWords));
     if (frame.quotedKey[0] != '\0') words += " " + Call("Under", frame.quotedKey);
     if (frame.exactSize) words += " ExactSize";

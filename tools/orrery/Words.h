@@ -24,7 +24,8 @@ inline bool PointsToNumbers(const record::Field& field) {
 }
 // A pointer that leads to one record at the most.
 inline bool PointsToOne(const record::Field& field) {
-    return field.cell == record::Cell::Pointer && !field.count.exists() && !field.capacity.exists();
+    const bool isOne = field.single || (!field.count.exists() && !field.capacity.exists());
+    return field.cell == record::Cell::Pointer && isOne;
 }
 // "i32", "char[64]", "CFG_POINT[8][2]", "CFG_ITEM*".
 std::string TypeOf(const record::Field& field);

@@ -16,6 +16,9 @@ enum class Mistake : unsigned char {
     LentNeedsAnArrayOfTheRecord,
     OwnedNeedsAPointer,
     ZeroedNeedsAPointer,
+    SingleNeedsAPointerToARecord,
+    AllOrNoneNeedsACapacity,
+    CountsWithoutArrayNeedsCountAndCapacity,
     WritesCapacityNeedsACapacity,
     AbsentNeedsANumber,
     WriteAtMostNeedsANumber,
@@ -61,12 +64,13 @@ constexpr bool IsIntegerCell(Cell cell) {
 }
 // Read and written element by element.
 constexpr bool IsList(const Field& row) {
-    return !row.wholeMember && (row.rank > 0 || row.cell == Cell::Pointer);
+    return !row.wholeMember && !row.single && (row.rank > 0 || row.cell == Cell::Pointer);
 }
 
 constexpr bool SaysOfReading(const Field& row) {
     return row.always || row.only != OnlyType::Any || row.nulls != Nulls::Count || row.refused != Nulls::Count
-           || row.readCondition.exists() || row.firstBytes != 0 || row.atLeast != 0 || row.exactly || row.anyShape;
+           || row.readCondition.exists() || row.allOrNone || row.counted || row.firstBytes != 0 || row.atLeast != 0
+           || row.exactly || row.anyShape;
 }
 constexpr bool SaysOfWriting(const Field& row) {
     return row.atMost != Field::kNoLimit || row.hasUnless || row.notNegative || row.condition.exists()
@@ -93,11 +97,16 @@ constexpr Mistake MistakeOfWords(const Field& row) {
     const bool isList = IsList(row);
     const bool isPointer = row.cell == Cell::Pointer;
     const bool isSingleNumber = !isList && !row.wholeMember && IsNumberCell(row.cell);
-    if (row.count.exists() && !isList) return Mistake::CountNeedsAList;
+    if (row.single && (!isPointer || row.owned || row.kind != Kind::Record))
+        return Mistake::SingleNeedsAPointerToARecord;
+    if (row.count.exists() && !isList && !row.single) return Mistake::CountNeedsAList;
     if (row.lent && (isPointer || !isList)) return Mistake::LentNeedsAnArrayOfTheRecord;
     if (row.capacity.exists() && !row.lent && !isPointer) return Mistake::CapacityNeedsAPointer;
     if (row.owned && !isPointer) return Mistake::OwnedNeedsAPointer;
     if (row.zeroed && !isPointer) return Mistake::ZeroedNeedsAPointer;
+    if (row.allOrNone && (!isList || !row.capacity.exists())) return Mistake::AllOrNoneNeedsACapacity;
+    if (row.counted && !(isList && isPointer && row.count.exists() && row.capacity.exists()))
+        return Mistake::CountsWithoutArrayNeedsCountAndCapacity;
     if (row.fullCapacity && !row.capacity.exists()) return Mistake::WritesCapacityNeedsACapacity;
     if (row.atMost != Field::kNoLimit && !IsNumberCell(row.cell)) return Mistake::WriteAtMostNeedsANumber;
     if ((row.hasUnless || row.notNegative) && !isSingleNumber) return Mistake::WriteUnlessNeedsASingleNumber;
@@ -134,7 +143,8 @@ constexpr Mistake MistakeOfWords(const Field& row) {
 // A count, capacity, flag or condition against the row of the member that it names.
 constexpr Mistake MistakeOfSlot(const Field& row, const Slot& slot, const Field& other) {
     if (!slot.exists() || other.size == 0 || other.offset != slot.offset) return Mistake::None;
-    if (other.rank > 0 || !IsIntegerCell(other.cell)) return Mistake::NeighbourIsNoInteger;
+    const bool isTested = &slot == &row.readCondition && other.cell == Cell::Pointer;
+    if (!isTested && (other.rank > 0 || !IsIntegerCell(other.cell))) return Mistake::NeighbourIsNoInteger;
     return slot.offset == row.offset && row.size != 0 ? Mistake::ARowCannotBeItsOwnNeighbour : Mistake::None;
 }
 
@@ -204,6 +214,9 @@ ORRERY_MISTAKE(CapacityNeedsAPointer, capacity_needs_a_pointer)
 ORRERY_MISTAKE(LentNeedsAnArrayOfTheRecord, lent_needs_an_array_of_the_record)
 ORRERY_MISTAKE(OwnedNeedsAPointer, owned_needs_a_pointer)
 ORRERY_MISTAKE(ZeroedNeedsAPointer, zeroed_needs_a_pointer)
+ORRERY_MISTAKE(SingleNeedsAPointerToARecord, single_needs_a_pointer_to_a_record)
+ORRERY_MISTAKE(AllOrNoneNeedsACapacity, all_or_none_needs_a_capacity)
+ORRERY_MISTAKE(CountsWithoutArrayNeedsCountAndCapacity, counts_without_array_needs_count_and_capacity)
 ORRERY_MISTAKE(WritesCapacityNeedsACapacity, writes_capacity_needs_a_capacity)
 ORRERY_MISTAKE(AbsentNeedsANumber, absent_needs_a_number)
 ORRERY_MISTAKE(WriteAtMostNeedsANumber, write_at_most_needs_a_number)

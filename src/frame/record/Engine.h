@@ -16,6 +16,7 @@ struct ReadCall {
     JsonParser& parser;
     const json::Value& root;       // the whole document, for keys outside the record's object
     bool refused = false;          // a row's function ends the call with 0
+    bool overflowed = false;       // a list that is taken whole or not at all has more elements than room
     std::uint32_t index = 0;       // of the caller's record that is being read
     const void* context = nullptr; // what Supplied fields are copied from, of the type that their rows name
     void (*noMemory)(const Field& field) noexcept = nullptr; // told of an owned block that there was no memory for
@@ -142,7 +143,7 @@ void Store(std::byte* at, T value) noexcept {
     std::memcpy(at, &value, sizeof value);
 }
 
-// An integer member of any width; 0 for a slot that does not exist.
+// An integer member of any width; 1 for a pointer that is not null, 0 for a slot that does not exist.
 inline std::int64_t LoadInteger(Cell cell, const std::byte* at) noexcept {
     switch (cell) {
     case Cell::I8:
@@ -161,6 +162,8 @@ inline std::int64_t LoadInteger(Cell cell, const std::byte* at) noexcept {
         return Load<std::int64_t>(at);
     case Cell::U64:
         return static_cast<std::int64_t>(Load<std::uint64_t>(at));
+    case Cell::Pointer:
+        return Load<const void*>(at) != nullptr;
     default:
         return 0;
     }
@@ -199,6 +202,9 @@ inline void StoreSlot(const Slot& slot, std::byte* record, std::int64_t value) n
 
 // Bytes from one element of a list to the next, at a level of the member's dimensions.
 std::uint32_t StrideOf(const Field& field, int level) noexcept;
+
+// The caller's one record behind a pointer; null when there is none.
+std::byte* SingleOf(const Field& field, const std::byte* record) noexcept;
 
 // A field's text up to its terminator, or to its capacity when it has none.
 std::string_view TextAt(const std::byte* at, std::size_t capacity) noexcept;

@@ -147,6 +147,9 @@ struct Field {
     bool keyed = false;     // a list stands as an object whose members are the elements
     bool amongKeys = false; // a keyed list whose members stand in the record's own object
     bool zeroed = false;    // elements of a caller's array are cleared before they are read
+    bool single = false;    // the pointer leads to one record of the caller's
+    bool allOrNone = false; // more elements than there is room for end the call
+    bool counted = false;   // the count is told also when there is no array
     Nulls nulls = Nulls::Count;
     Nulls refused = Nulls::Count;  // what an element does that its table does not take
     Slot readCondition;            // the key is read only when this member is set
@@ -196,6 +199,12 @@ struct Field {
     constexpr Field Capacity(Slot slot) const { return With(*this, &Field::capacity, slot); }
     // How many elements of an array inside the record the caller asks for.
     constexpr Field Lent(Slot slot) const { return With(With(*this, &Field::capacity, slot), &Field::lent, true); }
+    // The caller's pointer leads to one record, not to a list: null passes it over in both directions. A count is 1.
+    constexpr Field Single() const { return With(*this, &Field::single, true); }
+    // A list with more elements than there is room for ends the call before any is read.
+    constexpr Field AllOrNone() const { return With(*this, &Field::allOrNone, true); }
+    // The count tells how many the room would take also when the pointer is null.
+    constexpr Field CountsWithoutArray() const { return With(*this, &Field::counted, true); }
     constexpr Field Zeroed() const { return With(*this, &Field::zeroed, true); }
     // A list is read also when the value is no array: as empty, or as one empty element for each member of an object.
     constexpr Field AnyShape() const { return With(*this, &Field::anyShape, true); }
@@ -215,7 +224,8 @@ struct Field {
     constexpr Field NullElement(Nulls rule) const { return With(*this, &Field::nulls, rule); }
     // An element that its table does not take is treated as this rule treats a null.
     constexpr Field RefusedElement(Nulls rule) const { return With(*this, &Field::refused, rule); }
-    // Read only when the member is set, by a key that stands before this one in key order.
+    // Read only when the member is set, by a key that stands before this one in key order; a pointer is set when it is
+    // not null.
     constexpr Field ReadIf(Slot slot) const { return With(*this, &Field::readCondition, slot); }
     // Only so many bytes of a text, or of a time's text, are read.
     constexpr Field FirstBytes(std::uint16_t bytes) const { return With(*this, &Field::firstBytes, bytes); }
@@ -470,7 +480,7 @@ constexpr Field MakeField(const char* name, std::size_t offset, SuppliedFrom<M> 
 
 template <class T>
 constexpr Slot MakeSlot(std::size_t offset) {
-    static_assert(std::is_integral_v<T>, "a count, capacity or flag is an integer");
+    static_assert(std::is_integral_v<T> || std::is_pointer_v<T>, "a count, capacity or flag is an integer");
     return {static_cast<std::uint32_t>(offset), CellOf<T>()};
 }
 

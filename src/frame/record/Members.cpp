@@ -24,6 +24,11 @@ std::uint32_t StrideOf(const Field& field, int level) noexcept {
     return stride;
 }
 
+std::byte* SingleOf(const Field& field, const std::byte* record) noexcept {
+    if (field.capacity.exists() && LoadSlot(field.capacity, record) <= 0) return nullptr;
+    return Load<std::byte*>(record + field.offset);
+}
+
 std::string_view TextAt(const std::byte* at, std::size_t capacity) noexcept {
     const auto* const text = reinterpret_cast<const char*>(at);
     return {text, strnlen(text, capacity)};

@@ -337,6 +337,12 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         if (!value.isArray() && !field.anyShape) return;
         StoreSlot(field.flag, record, 1);
         ReadElement(field, value, record + field.offset, call, {});
+    } else if (field.single) {
+        std::byte* const at = SingleOf(field, record);
+        if (at == nullptr) return;
+        StoreSlot(field.flag, record, 1);
+        ReadElement(field, value, at, call, {});
+        StoreSlot(field.count, record, 1);
     } else if (field.rank > 0 || field.cell == Cell::Pointer) {
         if (field.owned) {
             if (!value.isArray()) return;
@@ -344,8 +350,14 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         }
         const Elements room = ElementsOf(field, record, value.size());
         if (!TakesList(field, value, room.room)) return;
+        if (field.allOrNone && value.size() > room.room) {
+            call.overflowed = true;
+            return;
+        }
         StoreSlot(field.flag, record, 1);
-        const std::int64_t count = ReadList(field, 0, value, room, call);
+        std::int64_t count = ReadList(field, 0, value, room, call);
+        if (field.counted && room.first == nullptr)
+            count = std::clamp<std::int64_t>(LoadSlot(field.capacity, record), 0, value.size());
         StoreSlot(field.count, record, count);
     } else {
         StoreSlot(field.flag, record, 1);

@@ -594,7 +594,8 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr && !isOwnedText) {
             build::a_nested_record_needs_its_table();
         }
-        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !row.owned) {
+        const bool isOne = row.owned || row.single;
+        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !isOne) {
             build::a_pointer_needs_its_capacity();
         }
         if (row.cell == Cell::Pointer) table.hasPointers = true;

@@ -242,6 +242,10 @@ bool IsPlainNumber(const Field& field) noexcept {
 void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     const Elements elements = ElementsOf(field, record);
     const std::uint32_t stride = StrideOf(field, 0);
+    const auto isWritten = [&](std::uint32_t i) {
+        const std::byte* const at = elements.first + std::size_t{i} * stride;
+        return field.keyed ? IsWrittenByName(*field.table, at) : IsElementWritten(field, at);
+    };
     if (elements.count == 0) {
         if (field.empty == Empty::NoKey) return;
         call.Key();
@@ -253,18 +257,18 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
         call.out.BeginArray();
         return call.out.EndArray();
     }
-    if (field.keyed) {
-        call.Key();
-        return WriteByName(*field.table, {elements.first, elements.count, stride}, call);
-    }
-    const int inner = field.cell == Cell::Pointer ? field.rank : 1;
     std::uint32_t end = elements.count;
     if (field.skipped != Skipped::StaysNull) {
         // No place behind the last element that is written, and no key when there is none.
-        while (end > 0 && !IsElementWritten(field, elements.first + std::size_t{end - 1} * stride))
+        while (end > 0 && !isWritten(end - 1))
             --end;
         if (end == 0) return;
     }
+    if (field.keyed) {
+        call.Key();
+        return WriteByName(*field.table, {elements.first, end, stride}, call);
+    }
+    const int inner = field.cell == Cell::Pointer ? field.rank : 1;
     call.Key();
     call.out.BeginArray();
     if (IsPlainNumber(field) && inner == field.rank) {
@@ -317,6 +321,13 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         }
         call.Key();
         return WriteElement(field, at, call);
+    }
+    if (field.single) {
+        const std::byte* const one = SingleOf(field, record);
+        if (one == nullptr) return;
+        call.Key();
+        if (!IsWritten(*field.table, one)) return call.out.Null();
+        return WriteElement(field, one, call);
     }
     if (field.rank > 0 || field.cell == Cell::Pointer) return WriteList(field, record, call);
     // A double holds every 32-bit number exactly, and a fraction is neither 0 nor above it.
