@@ -22,7 +22,7 @@ namespace orrery::bench {
 struct MemberRow {
     const char* command;
     unsigned records = 1; // in a reply
-    unsigned most = 4;    // elements of a list at the most
+    unsigned most = 4;    // elements of a list at the most; pointers of the caller's lead to as many
 };
 
 std::span<const MemberRow> MemberRows();
@@ -50,9 +50,9 @@ class MemberBench {
 
   private:
     const Command& command_;
-    std::uint32_t size_ = 0; // of the caller's records
-    std::size_t room_ = 0;   // of the caller's text buffer
-    test::CallerMemory memory_;
+    std::uint32_t size_ = 0;    // of the caller's records
+    std::size_t room_ = 0;      // of the caller's text buffer
+    test::CallerMemory memory_; // behind pointers
     std::unique_ptr<std::byte[]> buffer_;
     std::unique_ptr<char[]> packed_;
     std::vector<std::unique_ptr<std::byte[]>> kept_; // records to pack, of the first texts

@@ -171,6 +171,10 @@ TEST(FamilyPack, Capacities) {
     EXPECT_EQ(pack(Capacity::Loose, length).bytes, kFirst + '\0');
     EXPECT_EQ(pack(Capacity::Raw, length + 1).bytes, text + '\0');
     EXPECT_EQ(pack(Capacity::Raw, length).bytes, text);
+    EXPECT_EQ(Pack(kItem, kPack.Fits(Capacity::Bare).KeepsText(), kItems, 8, length + 9).bytes,
+              text + std::string(9, '#'));
+    EXPECT_EQ(Pack(kItem, kPack.Fits(Capacity::Bare).KeepsText(), kItems, 8, length).bytes, text);
+    EXPECT_TRUE(Pack(kItem, kPack.Fits(Capacity::Bare).KeepsText(), kItems, 8, length - 1).isUntouched());
     EXPECT_EQ(pack(Capacity::OneBefore, length + 1).outcome, Outcome::TextTooLong);
     EXPECT_TRUE(pack(Capacity::OneBefore, length + 1).isCleared());
 }

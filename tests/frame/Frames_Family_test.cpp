@@ -165,6 +165,11 @@ TEST(FamilyParse, ResultTests) {
         EXPECT_EQ(passes(ResultTest::ExactBool), one.exactBool) << text;
         EXPECT_EQ(passes(ResultTest::IntegerNonZero), one.integerNonZero) << text;
         EXPECT_EQ(passes(ResultTest::TextTrue), one.textTrue) << text;
+        EXPECT_EQ(passes(ResultTest::Verdict), one.falseRefuses) << text;
+        // A verdict comes when all has been read; no length is told of a call that fails.
+        const auto judged = Parse(kParse.Result(ResultTest::Verdict), text);
+        EXPECT_EQ(judged[0].id, 1) << text;
+        EXPECT_EQ(judged.length, one.falseRefuses ? sizeof(Item) : 1000000) << text;
     }
 }
 

@@ -72,7 +72,8 @@ void CallerMemory::PrepareRecord(const Table& table, std::byte* record) {
 
 void CallerMemory::PrepareBuffer(const Command& command, std::byte* buffer, std::size_t size) {
     const Table& table = *command.table;
-    const bool looks = command.parse == Command::Frame::Table
+    const bool looks = !command.parses() ? true // what it writes is behind them
+                       : command.parse == Command::Frame::Table
                            ? !command.tableFrame.zeroBuffer
                            : command.parse == Command::Frame::Own || command.parseFrame.clearing != Clearing::Buffer
                                  || command.parseFrame.stride != Stride::Record

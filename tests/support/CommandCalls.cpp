@@ -67,7 +67,7 @@ Outcome ParseCalls::Run(const char* text, std::size_t size, std::byte filling) {
     std::memset(bytes_.data(), static_cast<int>(filling), size);
     memory_.Reset();
     memory_.PrepareBuffer(command_, bytes_.data(), size);
-    if (size < command_.table->size) before_.assign(bytes_.begin(), bytes_.end());
+    if (size < command_.table->size || !command_.parses()) before_.assign(bytes_.begin(), bytes_.end());
     length_ = 0;
     const Outcome outcome = RunParse(command_, {text, bytes_.data(), static_cast<std::uint32_t>(size), &length_});
     EXPECT_TRUE(IsAll({end - size - kFront, kFront}, kUntouched)) << command_.name << ": wrote in front of its buffer";
