@@ -44,6 +44,18 @@ constexpr MemberRow kRows[] = {
     {"DspEncodeCap"},
     {"encode.getCaps"},
     {"VideoDiagnosisProfile", 1, 64},
+    {"VideoWidget"},
+    {"MonitorWallCollection", 1, 8},
+    {"ChannelTitle"},
+    {"VideoOut"},
+    {"VideoColor"},
+    {"VideoOutputComposite"},
+    {"MonitorWall", 1, 8},
+    {"MonitorTour"},
+    {"MonitorCollection"},
+    {"DisplaySource"},
+    {"RecordSource"},
+    {"RecordDownloadSpeed"},
 };
 
 const Command& CommandNamed(const char* name) {
@@ -142,8 +154,13 @@ bool MemberBench::Parse(std::size_t i) {
 }
 
 bool MemberBench::Clear(std::size_t) {
-    // What a call clears, so that pointers of the caller's own stay.
-    if (!test::HasPointers(*command_.table) && !command_.table->hasSizeWords) std::memset(buffer_.get(), 0, size_);
+    // What a call clears, so that pointers of the caller's own stay, and the size that its first record begins with.
+    if (!test::HasPointers(*command_.table)) {
+        std::uint32_t word;
+        std::memcpy(&word, buffer_.get(), sizeof word);
+        std::memset(buffer_.get(), 0, size_);
+        if (command_.parseFrame.stride != Stride::Record) std::memcpy(buffer_.get(), &word, sizeof word);
+    }
     benchmark::ClobberMemory();
     return true;
 }

@@ -89,6 +89,9 @@ inline constexpr ParseFrame kOneOrMany = kParse.Takes(Take::OneOrMany).Length(Re
 inline constexpr PackFrame kBareIfOne = kPack.As(Form::BareIfOne);
 // The same, where the list may be empty.
 inline constexpr ParseFrame kOneOrManyOrNone = kOneOrMany.TakesEmptyLists();
+// The same of callers of every layout, whose first size word says how far apart their records are.
+inline constexpr ParseFrame kVersioned = kOneOrMany.Null(NullValue::LengthZero).Strides(Stride::SizeWord);
+inline constexpr PackFrame kVersionedBareIfOne = kBareIfOne.Strides(Stride::SizeWord);
 // Doors and their like: a null element is a record without keys.
 inline constexpr ParseFrame kDoors = kOneOrMany.ReadsNulls();
 // A record that is a list.

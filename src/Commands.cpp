@@ -25,6 +25,11 @@
 #include "device/Settings.h"
 #include "device/Vehicle.h"
 #include "diagnosis/Diagnosis.h"
+#include "display/Audio.h"
+#include "display/Display.h"
+#include "display/MonitorWall.h"
+#include "display/RecordTransfer.h"
+#include "display/VideoWidget.h"
 #include "frame/CommandIndex.h"
 #include "later/Cameras.h"
 #include "later/Fleet.h"
@@ -339,8 +344,47 @@ constexpr Command kCommands[] = {
     Generic("MasterSlaveGlobal", kMasterSlaveConfig, {.arrayForm = true, .zeroBuffer = true}),
 
     // Display and matrix
+    Both("ChannelTitle", kChannelTitle, kVersioned, kVersionedBareIfOne),
+    Both("VideoOut", kVideoOut, kVersioned, kVersionedBareIfOne),
+    Both("VideoColor", kVideoColor, kVersioned, kVersionedBareIfOne),
+    Both("VideoWidget", kVideoWidget, kVersioned, kVersionedBareIfOne),
+    Both("VideoOutputComposite", kVideoOutputComposite, kVersioned, kVersionedBareIfOne),
+    Both("MonitorWall", kMonitorWall, kVersioned, kVersionedBareIfOne),
+    Both("MonitorTour", kMonitorTourOfWall, kVersioned, kVersionedBareIfOne),
+    Both("MonitorCollection", kSplitSource, kVersioned, kVersionedBareIfOne),
+    Both("DisplaySource", kSplitSource, kVersioned, kVersionedBareIfOne),
+    Both("RecordSource", kSplitSource, kVersioned, kVersionedBareIfOne),
+    Both("MonitorWallCollection", kMonitorWallCollection, kOneOrManyOrNone, kBareIfOne),
+    Both("MonitorWallCollectionTour", kMonitorCollectionTour, kOneOrManyOrNone, kBareIfOne),
+    Both("VideoOutputTitle", kVideoOutputTitle, kOneOrManyOrNone, kBareIfOne),
+    Both("VideoIn", kVideoIn, kOneOrManyOrNone, kBareIfOne),
+    Both("VideoInBoundary", kVideoInBoundary, kOneOrManyOrNone, kBareIfOne),
+    Both("Snap", kSnapSchedule, kOneOrManyOrNone, kBareIfOne),
+    Both("MovedDetect", kMovedDetect, kOneOrManyOrNone, kBareIfOne),
+    Both("AnalogMatrix", kAnalogMatrix, kOneOrManyOrNone, kBareIfOne),
+    Both("AnalogMatrixProtocol", kAnalogMatrixProtocol, kOneOrManyOrNone, kBareIfOne),
+    Both("Floodlight", kSiteSwitch, kOneOrManyOrNone, kBareIfOne),
+    Both("AirFan", kSiteSwitch, kOneOrManyOrNone, kBareIfOne),
+    Both("LightGlobal", kEnable, kOneOrManyOrNone, kBareIfOne),
+    Both("VTOInfo", kVto, kOneOrManyOrNone, kBareIfOne),
+    Logged(Both("RecordBackupRestore", kRecordBackupRestore, kOneOrManyOrNone, kBareIfOne), nullptr, LogBackupPack),
+    Logged(Both("RecordDownloadSpeed", kRecordDownloadSpeed, kParse.Clears(Clearing::Kept), kPack), LogSpeedParse,
+           nullptr),
 
     // Audio
+    Both("AudioSpirit", kAudioSpirit, kParse, kPack),
+    Both("AudioMatrixConfig", kAudioMatrices, kList, kPack),
+    Both("AudioMatrixSilence", kAudioMatrices, kList, kPack),
+    Both("LowerMatrix", kLowerMatrices, kList, kPack),
+    Both("ComposeChannel", kComposeChannel, kParse, kPack),
+    Both("ComposeLinkage", kComposeChannel, kParse, kPack),
+    Both("AudioOutputVolume", kAudioVolume, kParse, kPack),
+    Both("AudioInputVolume", kAudioVolume, kParse, kPack),
+    Both("AudioMixVolume", kAudioVolume, kParse, kPack),
+    Both("AudioInput", kAudioInput, kParse, kPack),
+    Generic("AudioMixChannel", kAudioMixChannel, kOneCleared),
+    Generic("AudioTouch", kAudioTouch, kOneCleared),
+    Reply("speak.getCaps", kSpeakCaps, kParse.From(Source::CapsOrParams).Result(ResultTest::FalseRefuses)),
 
     // Network
     Both("Network", kNetwork, kParse.Null(NullValue::OneRecord).AnySize().NeedsText(), kPack),

@@ -9,7 +9,11 @@ extern "C" {
 #endif
 
 /* "G3G4AutoChange" (change between mobile network generations by itself), "CabinLedTimeSchedule" (cabin lights by
- * schedule), "PwdReset" (password reset allowed). */
+ * schedule), "PwdReset" (password reset allowed), "LightGlobal" (all lights).
+ *
+ * "LightGlobal" may be a list too: an element a record, as many as fit, of which a null one leaves its record cleared
+ * and is counted. A missing table and other types fail, an empty list succeeds with a length of 0. Written is one bare
+ * record or a list of several. */
 typedef struct CFG_ENABLE_INFO {
     uint32_t bEnable; /* "Enable": 1 on, 0 off or absent */
 } CFG_ENABLE_INFO;

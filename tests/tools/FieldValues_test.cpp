@@ -62,6 +62,8 @@ const std::map<std::string, Way>& Exceptions() {
         // Read as unsigned, written as signed numbers.
         {"CFG_METERING_ITEM.nRegions", Way::UInt},
         {"CFG_VIDEO_ENCODE_ROI_INFO.nRegions", Way::UInt},
+        // A number of the device's own, without names.
+        {"CFG_LOWER_MATRIX_OUTPUT.emMode", Way::Int},
         // Unsigned numbers in fields too narrow to show it.
         {"CFG_ENCRYPT_ITEM.nLength", Way::UInt},
         {"CFG_EVENT_HANDLER_INFO.byDestination", Way::UInt},

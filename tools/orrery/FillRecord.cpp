@@ -253,10 +253,8 @@ void FillPointer(const Field& field, const Value& value, std::byte* record, Memo
         std::byte* const at = first + std::size_t{i} * table.size;
         if (!PointsToNumbers(field))
             FillFields(table, value[i], at, memory, Element(path, i));
-        else if (value[i].isInt())
-            Store(at, value[i].asInt());
         else
-            FailType(Element(path, i), value[i], "a whole number");
+            FillInteger(table.rows[0], value[i], at, Element(path, i));
     }
     Store(record + field.offset, first);
 }

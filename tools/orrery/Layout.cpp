@@ -16,7 +16,8 @@ namespace {
 std::string RowLine(const Tables& tables, const Table& table, const Field& field) {
     std::string line = "  " + std::to_string(field.offset) + " " + std::to_string(field.size) + " ";
     line += field.size == 0 ? "virtual" : TypeWord(field.cell);
-    if (field.table != nullptr) line += ":" + (PointsToNumbers(field) ? "i32" : tables.LabelOf(*field.table));
+    if (field.table != nullptr)
+        line += ":" + (PointsToNumbers(field) ? TypeWord(NumberBehind(field)) : tables.LabelOf(*field.table));
     line += " ";
     if (field.size == 0 || DimsOf(field).empty()) line += "-";
     if (field.size > 0) {

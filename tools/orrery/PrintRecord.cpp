@@ -141,7 +141,7 @@ Node PrintPointer(const Field& field, const std::byte* record, PrintOptions opti
     if (PointsToNumbers(field)) {
         Node list = Node::InlineArray();
         for (std::int64_t i = 0; i < count; ++i)
-            list.Add(Node::Number(Load<std::int32_t>(first + i * 4)));
+            list.Add(Node::Number(LoadInteger(NumberBehind(field), first + i * field.table->size)));
         return list;
     }
     return PrintRecords(*field.table, first, static_cast<std::size_t>(std::max<std::int64_t>(count, 0)), options);

@@ -29,7 +29,7 @@ Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     Node node = Node::Object();
     node.Add("name", Node::Text(field.name)).Add("type", Node::Text(TypeWord(field.cell)));
     if (PointsToText(field) || PointsToNumbers(field))
-        node.Add("to", Node::Text(PointsToText(field) ? "char" : "i32"));
+        node.Add("to", Node::Text(PointsToText(field) ? "char" : TypeWord(NumberBehind(field))));
     else if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
         node.Add("record", Node::Text(field.table->record));
         // A pointer to bytes: the record stands at its beginning, others follow it.

@@ -64,7 +64,9 @@ std::vector<std::uint32_t> DimsOf(const Field& field) {
 std::string TypeOf(const Field& field) {
     std::string type = TypeWord(field.cell);
     if (field.cell == Cell::Record || field.cell == Cell::Pointer)
-        type = PointsToText(field) ? "char" : PointsToNumbers(field) ? "i32" : field.table->record;
+        type = PointsToText(field)      ? "char"
+               : PointsToNumbers(field) ? TypeWord(NumberBehind(field))
+                                        : field.table->record;
     if (field.cell == Cell::Pointer) type += "*";
     for (const std::uint32_t dim : DimsOf(field))
         type += Joined({"[", std::to_string(dim), "]"});

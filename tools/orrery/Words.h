@@ -5,6 +5,7 @@
 #include "frame/record/Table.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orrery::tool {
@@ -18,9 +19,16 @@ std::vector<std::uint32_t> DimsOf(const record::Field& field);
 inline bool PointsToText(const record::Field& field) {
     return field.cell == record::Cell::Pointer && field.table == nullptr;
 }
-// A pointer that leads to plain numbers.
+// A pointer that leads to plain numbers: to tables without a record of the headers, named for the numbers that they
+// hold.
 inline bool PointsToNumbers(const record::Field& field) {
-    return field.cell == record::Cell::Pointer && field.table == &record::kInt32;
+    if (field.cell != record::Cell::Pointer || field.table == nullptr) return false;
+    const std::string_view name = field.table->record;
+    return name == "Int32" || name == "UInt32";
+}
+// The type of those numbers.
+inline record::Cell NumberBehind(const record::Field& field) {
+    return field.table->rows[0].cell;
 }
 // A pointer that leads to one record at the most.
 inline bool PointsToOne(const record::Field& field) {

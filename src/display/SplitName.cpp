@@ -1,0 +1,25 @@
+#include "display/SplitName.h"
+
+#include "frame/record/Engine.h"
+
+namespace orrery {
+
+using namespace record;
+
+namespace {
+
+void ReadSplit(const Field& field, const json::Value& name, std::byte* record, ReadCall&) {
+    Store(record + field.offset, JsonParser::GetOverlaySplit(name.asString()));
+}
+
+void WriteSplit(const Field& field, const std::byte* record, WriteCall& call) {
+    std::array<char, 32> room;
+    call.Key();
+    call.out.String(JsonParser::OverlaySplitText(Load<std::uint32_t>(record + field.offset), room));
+}
+
+} // namespace
+
+constexpr CustomCodec kSplitName{ReadSplit, WriteSplit, "\"PIP4\""};
+
+} // namespace orrery
