@@ -82,7 +82,10 @@ TEST(Schema, ListsWhatTypedTextsCarry) {
 // "i32", "char", "record:CFG_POINT", "ptr:CFG_ITEM" with all dimensions.
 std::string TypeInSchema(const Json::Value& field) {
     std::string type = field["type"].asString();
-    if (field.isMember("to")) type += field["to"] == "i32" ? ":int" : ":" + field["to"].asString();
+    if (field.isMember("to")) {
+        const std::string to = field["to"].asString();
+        type += to == "i32" ? ":int" : to == "u32" ? ":unsigned int" : ":" + to;
+    }
     const bool isBytes = field["bytes"].asBool(); // the record is only the first of what stands there
     if (field.isMember("record")) type += ":" + (isBytes ? "unsigned char" : field["record"].asString());
     for (const Json::Value& dim : field["dims"])
