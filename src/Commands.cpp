@@ -11,7 +11,9 @@
 #include "alarm/DeviceFaults.h"
 #include "alarm/VehicleAlarms.h"
 #include "analyse/AnalyseCaps.h"
+#include "analyse/AnalyseSource.h"
 #include "analyse/Calibration.h"
+#include "analyse/Module.h"
 #include "analyse/RuleFrame.h"
 #include "analyse/Scene.h"
 #include "device/DeviceAlarm.h"
@@ -485,6 +487,13 @@ constexpr Command kCommands[] = {
          kPack.Accepts(HasCalibrateScenes)),
 
     // Analysis modules
+    Both("VideoAnalyseModule", kAnalyseModules, kList.Result(ResultTest::FalseRefuses), kPack.Accepts(AreModulesFew)),
+    Both("VideoAnalyseSource", kAnalyseSource, kUntested.Clears(Clearing::Kept).OnceParsed(ClearAnalyseSource), kLoose),
+    Both("VideoAnalyseWhole", kAnalyseWhole, kParse, kLoose),
+    Both("SnapSource", kSnapSource, kUntested.Null(NullValue::OneRecord), kLoose.Accepts(AreSnapSourcesFew)),
+    Both("General", kGeneral, kUntested, kLoose),
+    Both("RainBrush", kRainBrush, kUntested, kLoose),
+    Both("IntelliTrackScene", kIntelliTrackScene, kUntested, kLoose),
 
     // Traffic
 

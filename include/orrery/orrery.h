@@ -15,6 +15,7 @@
 #include "orrery/alarm_device.h"
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_caps.h"
+#include "orrery/analyse_modules.h"
 #include "orrery/analyse_rules.h"
 #include "orrery/audio.h"
 #include "orrery/calls.h"
