@@ -56,6 +56,9 @@ constexpr MemberRow kRows[] = {
     {"DisplaySource"},
     {"RecordSource"},
     {"RecordDownloadSpeed"},
+    {"VideoAnalyseGlobal", 1, 2},
+    {"TrafficGlobal", 1, 4},
+    {"TrafficSnapshotNew", 1, 2},
 };
 
 const Command& CommandNamed(const char* name) {

@@ -16,6 +16,9 @@
 #include "analyse/Module.h"
 #include "analyse/RuleFrame.h"
 #include "analyse/Scene.h"
+#include "analyse/TrafficFlow.h"
+#include "analyse/TrafficGlobal.h"
+#include "analyse/TrafficSnapshot.h"
 #include "device/DeviceAlarm.h"
 #include "device/DeviceNetwork.h"
 #include "device/DeviceStatus.h"
@@ -496,6 +499,16 @@ constexpr Command kCommands[] = {
     Both("IntelliTrackScene", kIntelliTrackScene, kUntested, kLoose),
 
     // Traffic
+    Both("TrafficGlobal", kTrafficGlobal,
+         kUntested.TakesBy(TrafficGlobalTakes).Clears(Clearing::Kept).OnceParsed(ClearTrafficGlobal), kLoose),
+    Both("TrafficSnapshot", kTrafficSnapshot,
+         kUntested.TakesBy(TrafficSnapshotTakes).Clears(Clearing::Kept).OnceParsed(ClearTrafficSnapshot), kLoose),
+    Own("TrafficSnapshotNew", kTrafficSnapshotNew, ParseTrafficSnapshotNew, PackTrafficSnapshotNew,
+        kUntested.Takes(Take::List)),
+    Both("TrafficFlowStat", kTrafficFlowStat, kUntested.Clears(Clearing::Kept).OnceParsed(ClearTrafficFlowStat),
+         kLoose),
+    Both("TrafficTransferOffline", kTransferOffline, kUntested, kLoose),
+    Both("ParkingSpaceLightState", kParkingSpaceLight, kUntested, kLoose),
 
     // Analysis capabilities
     Logged(Reply("devVideoAnalyse.getCaps", kAnalyseCaps, kCaps.Null(NullValue::OneRecord)), LogAnalyseCaps, nullptr),
