@@ -287,7 +287,7 @@ TEST(VideoAnalyseSource, GoesRoundWhole) {
     record.Set(0, before);
     ASSERT_EQ(ParseDocument("VideoAnalyseSource", R"({"result":false,"params":{"table":{"Channel":1,"Device":"d",
         "DeviceInfo":{"Port":2,"VideoInputs":[{"Name":"v"}]},"Enable":true,
-        "FileStreamInfo":{"FilePath":"/a","FileStreamType":"Picture"},"SourceType":"FileStream","Stream":"Extra2"}}})",
+        "FileStreamInfo":{"FilePath":"f","FileStreamType":"Picture"},"SourceType":"FileStream","Stream":"Extra2"}}})",
                             record),
               (Answer{1, sizeof(CFG_ANALYSESOURCE_INFO)}));
     CFG_ANALYSESOURCE_INFO source = record[0];
@@ -300,12 +300,12 @@ TEST(VideoAnalyseSource, GoesRoundWhole) {
     EXPECT_EQ(source.stuDeviceInfo.nRetVideoInputs, 1);
     EXPECT_STREQ(inputs[0].szName, "v");
     EXPECT_EQ(source.nSourceType, CFG_ANALYSE_SOURCE_FILE);
-    EXPECT_STREQ(source.szFilePath, "/a");
+    EXPECT_STREQ(source.szFilePath, "f");
     EXPECT_EQ(source.nFileStreamType, CFG_ANALYSE_FILE_PICTURE);
     source.abDeviceInfo = 0;
     EXPECT_EQ(Pack("VideoAnalyseSource", source),
               R"({ "Channel" : 1, "Device" : "d", "Enable" : true, )"
-              R"("FileStreamInfo" : { "FilePath" : "/a", "FileStreamType" : "Picture" }, )"
+              R"("FileStreamInfo" : { "FilePath" : "f", "FileStreamType" : "Picture" }, )"
               R"("SourceType" : "FileStream", "Stream" : "Extra2" })");
     source.abDeviceInfo = 1;
     EXPECT_TRUE(Has(Pack("VideoAnalyseSource", source), "\"DeviceInfo\" : { "));

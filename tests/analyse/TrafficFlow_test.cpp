@@ -186,7 +186,7 @@ TEST(TrafficSnapshot, SnapTimesHaveTheirKeys) {
     std::string members;
     std::int32_t number = 0;
     for (const char* key : keys)
-        members += (number++ == 0 ? "\"" : ",\"") + std::string(key) + "\":" + std::to_string(number);
+        members += std::string(members.empty() ? "\"" : ",\"") + key + "\":" + std::to_string(++number);
     const auto read = ReadSnapshot(Cleared<Snapshot>(), "{\"BreakingSnapTimes\":{" + members + "}}");
     std::int32_t times[33];
     static_assert(sizeof times == sizeof(CFG_BREAKING_SNAP_TIMES));
@@ -369,7 +369,7 @@ TEST(TrafficFlowStat, GoesRoundWhole) {
     EXPECT_EQ(lane.stuUpperAlarm.nReportTimes, 14);
     EXPECT_EQ(lane.stuUpperAlarm.stuTimeSection[0][9].dwMask, 10);
     EXPECT_EQ(lane.stuUpperAlarm.stuTimeSection[1][0].dwMask, 0);
-    EXPECT_EQ(lane.stuUpperAlarm.stuEventHandler.bBeepEn, 1);
+    EXPECT_EQ(lane.stuUpperAlarm.stuEventHandler.bBeepEnable, 1);
     EXPECT_EQ(lane.stuLowerAlarm.nLimit, 9);
     EXPECT_EQ(lane.stuLowerAlarm.stuTimeSection[0][5].dwMask, 6);
     EXPECT_EQ(lane.stuLowerAlarm.stuTimeSection[0][6].dwMask, 0); // six are read

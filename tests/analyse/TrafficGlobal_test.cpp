@@ -221,7 +221,7 @@ TEST(TrafficGlobal, CodesOfViolationsAreReadButForParkingSpaces) {
          {"Retrograde", "RetrogradeDesc", "RetrogradeShowName", "RetrogradeHighway", "U-Turn", "U-TurnDesc",
           "U-TurnShowName", "Jam", "JamDesc", "JamShowName", "ParkingSpaceParking", "ParkingSpaceParkingDesc",
           "ParkingSpaceNoParking", "ParkingSpaceNoParkingDesc", "PedestrianRunRedLightShowName"})
-        members += (number++ == 0 ? "\"" : ",\"") + std::string(key) + "\":\"v" + std::to_string(number) + "\"";
+        members += std::string(members.empty() ? "\"" : ",\"") + key + "\":\"v" + std::to_string(++number) + "\"";
     const auto global = Read("{\"ViolationCode\":{" + members + "}}");
     const CFG_VIOLATION_CODE_INFO& codes = global->stuViolationCodes;
     EXPECT_STREQ(codes.szRetrograde, "v1");
