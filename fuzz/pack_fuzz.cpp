@@ -42,10 +42,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Bytes that stand everywhere make large records into megabytes of text: there they stand once.
     constexpr std::size_t kLarge = std::size_t{16} << 10;
-    const record::Table& table = *command.table;
+    const bool isOther = command.otherTable != nullptr && sizeChoice % 4 == 3;
+    const record::Table& table = isOther ? *command.otherTable : *command.table;
     const std::size_t whole = table.size;
     std::size_t records = whole;
     if (sizeChoice % 4 == 1) records = sizeChoice / 4 % (2 * whole);
+    if (command.otherTable != nullptr && !isOther && records == command.otherTable->size)
+        return 0; // pointers of no one
     if (sizeChoice % 4 == 2 && whole <= kLarge) records = whole * (1 + sizeChoice / 4 % 3);
     const test::FuzzBlock record(records, flavour % 8);
     const bool once = (flavour & 16) != 0 || (whole > kLarge && bytes.size() < whole);

@@ -77,6 +77,13 @@ constexpr Command Own(std::string_view name, const record::Table& table, Outcome
     return command;
 }
 
+// A command that takes a buffer of exactly the other record's size as that record.
+template <class R>
+constexpr Command Or(const record::TypedTable<R>& other, Command command) {
+    command.otherTable = &other;
+    return command;
+}
+
 // Alarms of which a refused call's table is read all the same, and whose text may fill the buffer to its last byte.
 inline constexpr ParseFrame kUntested = kParse.Result(ResultTest::NotTested);
 inline constexpr PackFrame kLoose = kPack.Fits(Capacity::Loose);

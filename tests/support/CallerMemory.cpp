@@ -71,6 +71,8 @@ void CallerMemory::PrepareRecord(const Table& table, std::byte* record) {
 }
 
 void CallerMemory::PrepareBuffer(const Command& command, std::byte* buffer, std::size_t size) {
+    if (command.otherTable != nullptr && command.otherTable->size == size)
+        return PrepareRecord(*command.otherTable, buffer);
     const Table& table = *command.table;
     const bool looks = !command.parses() ? true // what it writes is behind them
                        : command.parse == Command::Frame::Table

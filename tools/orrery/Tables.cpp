@@ -16,6 +16,7 @@ using namespace record;
 Tables::Tables() {
     for (const Command& command : Commands()) {
         if (command.table != nullptr) Meet(*command.table, std::string(command.name));
+        if (command.otherTable != nullptr) Meet(*command.otherTable, std::string(command.name));
     }
     for (const events::EventRow& event : events::Events())
         Meet(*event.table, std::string(event.name));
