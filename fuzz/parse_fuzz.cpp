@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const test::FuzzBlock buffer(room, flavour % 8);
     std::memset(buffer.get(), flavour / 8, room);
     test::CallerMemory memory;
-    if (flavour % 2 == 0 || test::HasPointers(*command.table))
+    if (flavour % 2 == 0 || test::HasPointers(*command.table) || command.otherTable != nullptr)
         memory.PrepareBuffer(command, buffer.get(), room);
     else if (room >= 4) // a size word of any value
         record::Store(buffer.get(), sizeChoice / 4 % static_cast<std::uint32_t>(room + 2));
