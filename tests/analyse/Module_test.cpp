@@ -1,4 +1,6 @@
 // Modules of an analysis channel, where its pictures come from, and small settings of the same devices.
+#include "analyse/AnalyseSource.h"
+#include "analyse/TrafficSnapshot.h"
 #include "orrery/analyse_modules.h"
 #include "support/Call.h"
 
@@ -357,6 +359,22 @@ TEST(VideoAnalyseSource, CodesGoBothWays) {
     EXPECT_EQ(type("record"), CFG_ANALYSE_FILE_RECORD);
     EXPECT_EQ(type("Picture"), CFG_ANALYSE_FILE_PICTURE);
     EXPECT_EQ(type("Song"), 0);
+}
+
+// Texts of devices are counted in bytes before they are converted.
+TEST(VideoAnalyseSource, LongTextsAreCutBeforeTheyAreConverted) {
+    const auto bytes = [](const record::Table& table, std::string_view name) {
+        for (const record::Field& row : table) {
+            if (row.name == name) return static_cast<int>(row.firstBytes);
+        }
+        return -1;
+    };
+    EXPECT_EQ(bytes(kAnalyseSource, "szDevice"), 192);
+    EXPECT_EQ(bytes(kTrafficSnapshot, "szDeviceAddress"), 384);
+    EXPECT_EQ(bytes(kAnalyseSource, "szFilePath"), 0);
+    const auto source =
+        Parse<CFG_ANALYSESOURCE_INFO>("VideoAnalyseSource", "{\"Device\":\"" + std::string(200, 'a') + "\"}");
+    EXPECT_EQ(source->szDevice, std::string(127, 'a'));
 }
 
 TEST(VideoAnalyseWhole, GoesBothWays) {
