@@ -148,7 +148,9 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
         return Outcome::Done;
     }
     if (content.form == Form::One) count = 1;
-    if (frame.stride == Stride::Record) return Deliver(content, frame, request);
+    // Records of this library's own layout are written from where they stand.
+    const bool isOwnLayout = frame.stride == Stride::SizeWord && stride == table.size && !table.guarded;
+    if (frame.stride == Stride::Record || isOwnLayout) return Deliver(content, frame, request);
 
     StackArena<std::size_t{4} << 10> arena;
     const LocalRecord local{{table, frame.stride, stride}, arena.Array<std::byte>(table.size)};
