@@ -3,7 +3,7 @@ include(CMakePackageConfigHelpers)
 
 set(ORRERY_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/orrery)
 
-install(TARGETS orrery EXPORT orreryTargets
+install(TARGETS orrery orrery_explain EXPORT orreryTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
@@ -13,7 +13,7 @@ if(ORRERY_TOOLS AND TARGET orrery_cli)
     install(TARGETS orrery_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
-# find_package(orrery) gives the target orrery::orrery.
+# find_package(orrery) gives the targets orrery::orrery and orrery::explain.
 install(EXPORT orreryTargets NAMESPACE orrery:: DESTINATION ${ORRERY_PACKAGE_DIR})
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/orreryConfig.cmake.in
     ${PROJECT_BINARY_DIR}/orreryConfig.cmake INSTALL_DESTINATION ${ORRERY_PACKAGE_DIR}
@@ -25,5 +25,7 @@ install(FILES ${PROJECT_BINARY_DIR}/orreryConfig.cmake ${PROJECT_BINARY_DIR}/orr
 
 # pkg-config: paths are relative to the file, so that `cmake --install --prefix` may choose any place.
 file(RELATIVE_PATH ORRERY_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(${PROJECT_SOURCE_DIR}/cmake/orrery.pc.in ${PROJECT_BINARY_DIR}/orrery.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/orrery.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(package IN ITEMS orrery orrery-explain)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()

@@ -121,18 +121,18 @@ void ReadByKeys(const Field& field, const Value& value, std::byte* record, ReadC
 
 } // namespace
 
-constexpr CustomCodec kPackedColor{ReadPackedColor};
-constexpr CustomCodec kWholeReal{ReadWholeReal};
-constexpr CustomCodec kDegrees{ReadDegrees};
-constexpr CustomCodec kThousandths{ReadThousandths};
-constexpr CustomCodec kSignedThousandths{ReadSignedThousandths};
-constexpr CustomCodec kAnyInteger{ReadAnyInteger};
-constexpr CustomCodec kFirstNumber{ReadNumberAt<0>};
-constexpr CustomCodec kSecondNumber{ReadNumberAt<1>};
-constexpr CustomCodec kCountedFromOne{ReadCountedFromOne};
-constexpr CustomCodec kOwnedText{ReadOwnedText};
-constexpr CustomCodec kOwnedRecord{ReadOwnedRecord};
-constexpr CustomCodec kNamedBits{ReadNamedBits};
-constexpr CustomCodec kByKeys{ReadByKeys};
+constexpr CustomCodec kPackedColor{ReadPackedColor, nullptr, "[ 255, 128, 64, 0 ]"};
+constexpr CustomCodec kWholeReal{ReadWholeReal, nullptr, "1700.5"};
+constexpr CustomCodec kDegrees{ReadDegrees, nullptr, "[ 120.0, 30.0, 15.0 ]"};
+constexpr CustomCodec kThousandths{ReadThousandths, nullptr, "1500"};
+constexpr CustomCodec kSignedThousandths{ReadSignedThousandths, nullptr, "-1500"};
+constexpr CustomCodec kAnyInteger{ReadAnyInteger, nullptr, "7"};
+constexpr CustomCodec kFirstNumber{ReadNumberAt<0>, nullptr, "[ 640, 480 ]"};
+constexpr CustomCodec kSecondNumber{ReadNumberAt<1>, nullptr, "[ 640, 480 ]"};
+constexpr CustomCodec kCountedFromOne{ReadCountedFromOne, nullptr, "2"};
+constexpr CustomCodec kOwnedText{ReadOwnedText, nullptr, "\"text\""};
+constexpr CustomCodec kOwnedRecord{ReadOwnedRecord, nullptr, "{}"};
+constexpr CustomCodec kNamedBits{ReadNamedBits, nullptr, "[]"};
+constexpr CustomCodec kByKeys{ReadByKeys, nullptr, "{}"};
 
 } // namespace orrery::events

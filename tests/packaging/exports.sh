@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # The library shows the documented functions and nothing else, each of them in a public header.
-# exports.sh LIBRARY SOURCE_DIR
+# exports.sh LIBRARY SOURCE_DIR EXPECTED
 set -euo pipefail
-library=$1 source=$2
-expected=$source/tests/packaging/exports.txt
+library=$1 source=$2 expected=$2/tests/packaging/$3
 LC_ALL=C diff -u <(LC_ALL=C sort "$expected") \
     <(nm -D --defined-only --demangle "$library" | cut -d' ' -f3- | LC_ALL=C sort) || {
     echo "the exports (+) are not the documented ones (-)" >&2

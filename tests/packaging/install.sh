@@ -18,6 +18,9 @@ for header in "$source"/include/orrery/*.h; do
 done
 want "lib*/liborrery.so"
 want "lib*/liborrery.so.0.[0-9]"
+want "lib*/liborrery-explain.so"
+want "lib*/liborrery-explain.so.0.[0-9]"
+want "lib*/pkgconfig/orrery-explain.pc"
 want "lib*/cmake/orrery/orreryConfig.cmake"
 want "lib*/pkgconfig/orrery.pc"
 [ -z "$companion" ] || want "bin/$companion"

@@ -211,6 +211,7 @@ class Maker {
     std::int64_t TypicalNumber(const Field& field) {
         // A bound is the size of something else in the record, which shows whole only at the bound.
         if (field.atMost != Field::kNoLimit) return field.atMost;
+        if (field.only == OnlyType::Unsigned) return std::int64_t{INT32_MAX} + 1 + Next() % INT32_MAX;
         std::int64_t most = INT32_MAX;
         switch (field.cell) {
         case record::Cell::I8:
@@ -234,7 +235,8 @@ class Maker {
         }
         const bool isSmall = Next() % 2 == 0;
         std::int64_t number = 1 + Next() % (isSmall ? std::min<std::int64_t>(most, 99) : most);
-        if (field.kind == Kind::Int && !field.notNegative && Next() % 4 == 0) number = -number;
+        const bool isNarrow = field.cell == record::Cell::U8 || field.cell == record::Cell::U16;
+        if (field.kind == Kind::Int && !field.notNegative && Next() % 4 == 0 && !isNarrow) number = -number;
         return field.hasUnless && number == field.unless ? number - 1 : number;
     }
 

@@ -46,6 +46,35 @@ no_err
 run 0 describe AccessControl
 out_has 'event 516'
 
+# What of a text is passed over.
+run 0 check Alarm "$reply" --records 1
+no_out
+no_err
+input='{"result":true,"params":{"table":{"Port":"123","Prot":1}}}' run 3 check ntp
+out_is '-:1:42: lost: params.table.Port (CFG_NTP_INFO.nPort): "123" where a number is read: it reads as 0 [wrong-type]
+-:1:48: lost: params.table.Prot (CFG_NTP_INFO): nothing reads this key; the nearest that is read is "Port" [unknown-key]
+'
+input='{"result":true,"params":{"table":{"Prot":1}}}' run 3 check NTP --json
+python3 -c 'import json, sys
+found = json.load(open(sys.argv[1]))
+assert (found["line"], found["column"], found["kind"], found["nearest"]) == (1, 35, "unknown-key", "Port"), found' \
+    "$scratch/out" || fail "printed: $(cat "$scratch/out")"
+input='{"result":true,"params":{"table":{"TCPPort":37777,"SSLPort":443,"StreamPolicy":"None"}}}' run 0 check
+err_has 'checked as DVRIP: '
+input='{"result":true' run 1 check
+err_has 'line 1, column 15'
+input='{"Event":[{"Code":"AccessControl","Data":{"CardNo":7}}]}' run 3 check events -
+out_has 'Event[0].Data.CardNo'
+input='{}' run 2 check /nonexistent/reply
+input='{"result":true,"params":{"table":{"Port":"1"}}}' run 0 parse NTP --warn
+err_has 'params.table.Port'
+input='{"result":true,"params":{"table":{"Port":"1"}}}' run 0 parse NTP
+no_err
+input='{"result":true,"params":{"table":{"Port":"1"}}}' run 3 parse NTP --strict
+out_has '"nPort": 0'
+input='{"result":true,"params":{"table":{"Port":1}}}' run 0 parse NTP --strict
+no_err
+
 # There and back, through a file and through standard input.
 run 0 parse Alarm "$reply"
 no_err

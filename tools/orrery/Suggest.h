@@ -7,9 +7,7 @@
 
 namespace orrery::tool {
 
-// At most three, the nearest first; case does not count.
-std::vector<std::string_view> Nearest(std::string_view wanted, const std::vector<std::string_view>& names);
-// "; did you mean A, B or C?", empty when nothing is near.
+// "; did you mean A, B or C?", at most three, the nearest first; case does not count. Empty when nothing is near.
 std::string DidYouMean(std::string_view wanted, const std::vector<std::string_view>& names);
 
 } // namespace orrery::tool

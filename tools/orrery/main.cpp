@@ -1,4 +1,5 @@
 // The companion's arguments. `orrery --help` tells what it does.
+#include "orrery/Check.h"
 #include "orrery/Documents.h"
 #include "orrery/Output.h"
 #include "orrery/Run.h"
@@ -18,6 +19,7 @@
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <unistd.h>
 
 namespace {
 
@@ -67,9 +69,11 @@ Result DescribeOrSuggest(const std::string& name) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app{"Shows the replies of network-video devices as records, and turns records into their text.\n"
-                 "Exit status: 0 done, 1 refused (standard error tells why), 2 wrong arguments.",
-                 "orrery"};
+    CLI::App app{
+        "Shows the replies of network-video devices as records, and turns records into their text.\n"
+        "Exit status: 0 done, 1 refused (standard error tells why), 2 wrong arguments, 3 not all of a text went "
+        "through ('check', --strict).",
+        "orrery"};
     app.set_version_flag("--version", "orrery " ORRERY_VERSION);
     app.require_subcommand(1);
 
@@ -78,6 +82,10 @@ int main(int argc, char** argv) {
     std::string startFile;
     ParseOptions parseOptions;
     PackOptions packOptions;
+    CheckOptions checkOptions;
+    bool warns = isatty(STDERR_FILENO) == 1;
+    bool strict = false;
+    std::vector<std::string> files;
     EventOptions eventOptions;
     std::function<int()> run;
 
@@ -90,13 +98,22 @@ int main(int argc, char** argv) {
     parse->add_flag("--all", parseOptions.all, "Print lists whole, also what is not in use");
     parse->add_flag("--pack", parseOptions.pack, "Print also the text that packing the record gives");
     parse->add_option("--start", startFile, "Record that the buffer holds before, for commands that look at it");
+    parse->add_flag("--warn,!--no-warn", warns, "Tell what of the reply is passed over (on by default on a terminal)");
+    parse->add_flag("--strict", strict, "The same, and exit with 3 when there is anything to tell");
     parse->callback([&] {
         run = [&]() -> int {
             std::string text;
             std::string start;
             if (!ReadAll(file, text) || (!startFile.empty() && !ReadAll(startFile, start))) return kUsage;
             parseOptions.start = start;
-            return Show(ParseText(name, text, parseOptions));
+            Result result = ParseText(name, text, parseOptions);
+            if ((warns || strict) && result.exit == kDone) {
+                checkOptions.records = parseOptions.records;
+                const Result found = CheckText(name, file.empty() || file == "-" ? "-" : file, text, checkOptions);
+                result.err += found.out;
+                if (strict && found.exit != kDone) result.exit = found.exit;
+            }
+            return Show(result);
         };
     });
 
@@ -109,6 +126,33 @@ int main(int argc, char** argv) {
             std::string text;
             if (!ReadAll(file, text)) return kUsage;
             return Show(PackText(name, text, packOptions));
+        };
+    });
+
+    CLI::App* const check = app.add_subcommand(
+        "check", "Tell what of a device's replies is passed over or refused, a line a finding\n"
+                 "orrery check [COMMAND | events] FILE...: without a name, as the command that fits each text best");
+    check->add_option("FILES", files, "The name, if any, and the replies; standard input by default");
+    check->add_flag("--json", checkOptions.json, "An object a line, for programs");
+    check->add_option("--records", checkOptions.records, "Room for so many records (as many as the reply holds)");
+    check->callback([&] {
+        run = [&]() -> int {
+            if (!files.empty() && IsChecked(files.front())) {
+                name = files.front();
+                files.erase(files.begin());
+            }
+            if (files.empty()) files.emplace_back("-");
+            int exit = kDone;
+            for (const std::string& each : files) {
+                std::string text;
+                if (!ReadAll(each, text)) {
+                    exit = kUsage;
+                    continue;
+                }
+                const int shown = Show(CheckText(name, each, text, checkOptions));
+                if (exit == kDone || (exit == kFound && shown != kDone)) exit = shown;
+            }
+            return exit;
         };
     });
 

@@ -1,0 +1,494 @@
+#include "explain/Explain.h"
+
+#include "explain/Places.h"
+#include "explain/Tries.h"
+
+#include "analyse/EventTypeRegistry.h"
+#include "analyse/RuleBodyTable.h"
+#include "events/EventTable.h"
+#include "frame/PackedItems.h"
+#include "frame/ReplySteps.h"
+#include "frame/json/Scan.h"
+
+#include "orrery/analyse_rules.h"
+
+#include <algorithm>
+#include <new>
+
+namespace orrery::explain {
+
+using json::Type;
+using json::Value;
+
+namespace {
+
+// What stands around the value of any reply.
+const std::vector<std::string_view> kEnvelope = {"SID",    "error",  "id",     "method",  "object",
+                                                 "params", "result", "seq", "session"};
+
+std::string ResultWanted(ResultTest test) {
+    switch (test) {
+    case ResultTest::FalseRefuses:
+        return "true, or absent";
+    case ResultTest::ExactBool:
+        return "exactly true";
+    case ResultTest::IntegerNonZero:
+        return "a number other than 0";
+    case ResultTest::TextTrue:
+        return "true or \"true\"";
+    default:
+        return "true";
+    }
+}
+
+std::string Wanted(Take take) {
+    switch (take) {
+    case Take::OneOrMany:
+        return "an object, or a list of records";
+    case Take::Many:
+        return "a list of records";
+    case Take::List:
+    case Take::ListOrNone:
+        return "a list";
+    case Take::ListOrLists:
+    case Take::ListOrListsOrBlank:
+        return "a list, or a list of lists";
+    case Take::ByMember:
+    case Take::ByMemberOrNone:
+        return "an object with a record a member";
+    case Take::Text:
+        return "a text";
+    default:
+        return "a record";
+    }
+}
+
+class Text {
+  public:
+    Text(const Command* command, std::string_view text, std::uint32_t records, bool tries)
+        : command_(command), whole_(text), text_(text.substr(0, text.find('\0'))), room_(records), tries_(tries),
+          walk_(document_, explanation_.findings) {}
+
+    Explanation Explain();
+
+  private:
+    bool Parse(bool isFatal);
+    void Finish();
+    void Reply();
+    void Value_(const ParseFrame& frame, Holds holds, const Value& value, const Path& path);
+    void Rules();
+    void Events();
+    void Error();
+    bool Refuses(int kind, const Value& at, const Path& path, std::string message);
+    const Path& PathOf(Source source, const char* name);
+    void Around(Source source, const char* name);
+
+    const Command* command_;
+    std::string_view whole_;
+    std::string_view text_; // as the library sees it
+    std::uint32_t room_;
+    bool tries_;
+    std::uint32_t records_ = 1;
+    Document document_;
+    Explanation explanation_;
+    Walk walk_;
+    Path root_, params_, value_;
+};
+
+bool Text::Parse(bool isFatal) {
+    json::SyntaxError error;
+    if (json::Parse(text_, document_.arena, document_.root, &error)) return true;
+    if (document_.arena.failed()) throw std::bad_alloc();
+    const bool isEmpty = text_.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    Finding& finding = walk_.Add(ORRERY_FINDING_NOT_JSON, isFatal ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST,
+                                 document_.root, root_,
+                                 isEmpty ? "the text is empty"
+                                         : Expected(error.message == nullptr ? "" : error.message));
+    finding.at = nullptr;
+    finding.offset = std::min(error.offset, text_.size());
+    if (finding.offset == text_.size() && !isEmpty) finding.message += "; the text ends here";
+    explanation_.isRefused = isFatal;
+    return false;
+}
+
+bool Text::Refuses(int kind, const Value& at, const Path& path, std::string message) {
+    // A value that is not there has no place: its object has.
+    walk_.Add(kind, ORRERY_FINDING_FATAL, at.isNull() ? document_.root : at, path, std::move(message));
+    explanation_.isRefused = true;
+    return false;
+}
+
+const Path& Text::PathOf(Source source, const char* name) {
+    params_ = root_.Member("params");
+    switch (source) {
+    case Source::Table:
+        value_ = params_.Member("table");
+        break;
+    case Source::Caps:
+        value_ = params_.Member("caps");
+        break;
+    case Source::CapsOrParams:
+        if (document_.root["params"]["caps"].isNull()) return params_;
+        value_ = params_.Member("caps");
+        break;
+    case Source::Params:
+        value_ = params_.Member(name);
+        break;
+    case Source::Top:
+        value_ = root_.Member(name);
+        break;
+    case Source::Result:
+        value_ = root_.Member("result");
+        break;
+    }
+    return value_;
+}
+
+// Keys beside the value.
+void Text::Around(Source source, const char* name) {
+    std::vector<std::string_view> known = kEnvelope;
+    if (source == Source::Top) known.push_back(name);
+    const bool hasCaps = !document_.root["params"]["caps"].isNull();
+    walk_.Around(document_.root, known, command_ == nullptr ? nullptr : command_->table, "", root_);
+    std::vector<std::string_view> inner;
+    switch (source) {
+    case Source::Table:
+        inner = {"table"};
+        break;
+    case Source::Caps:
+        inner = {"caps"};
+        break;
+    case Source::CapsOrParams:
+        if (!hasCaps) return;
+        inner = {"caps"};
+        break;
+    case Source::Params:
+        inner = {name};
+        break;
+    case Source::Top:
+    case Source::Result:
+        break;
+    }
+    walk_.Around(document_.root["params"], inner, command_ == nullptr ? nullptr : command_->table, "params/", params_);
+}
+
+// What the device itself says.
+void Text::Error() {
+    const Value& error = document_.root["error"];
+    if (error.isNull()) return;
+    const Value& code = error["code"];
+    const Value& message = error["message"];
+    std::string said;
+    if (!code.isNull()) said += "code " + Shown(code);
+    if (message.isString()) said += (said.empty() ? "" : ", ") + Quoted(message.asString());
+    if (said.empty()) said = Shown(error);
+    walk_.Add(ORRERY_FINDING_DEVICE_ERROR, ORRERY_FINDING_NOTE, error, root_.Member("error"), "the device says: " + said);
+}
+
+void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, const Path& path) {
+    const record::Table& table = *command_->table;
+    const auto tooMany = [&](std::uint32_t count) {
+        Finding& finding = walk_.Add(ORRERY_FINDING_ELEMENTS_DROPPED,
+                                     frame.allMustFit ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, value, path,
+                                     std::to_string(count) + " records, and room for " + std::to_string(room_)
+                                         + (frame.allMustFit ? ": the call takes all or none" : ": the others are dropped"));
+        finding.lost = count - room_;
+        explanation_.isRefused = explanation_.isRefused || frame.allMustFit;
+    };
+    walk_.SetAlways(command_->parse == Command::Frame::Own);
+    switch (holds) {
+    case Holds::OneRecord:
+        walk_.Top(table, value, path);
+        break;
+    case Holds::Elements: {
+        const auto elements = value.elements();
+        records_ = std::max<std::uint32_t>(1, value.size());
+        if (room_ != 0 && value.size() > room_) tooMany(value.size());
+        for (std::uint32_t i = 0; i < elements.size() && (room_ == 0 || i < room_); ++i) {
+            const Path inner = path.Element(i);
+            walk_.record = i;
+            if (elements[i].isNull()) {
+                walk_.Add(ORRERY_FINDING_NULL, ORRERY_FINDING_NOTE, elements[i], inner,
+                          frame.readsNulls ? "null: a record without keys" : "null: its record stays as it is");
+                continue;
+            }
+            walk_.Top(table, elements[i], inner, {}, false);
+        }
+        break;
+    }
+    case Holds::Members: {
+        std::uint32_t count = 0;
+        for (const json::Member& member : value.members()) {
+            const Path inner = path.Member(member.key());
+            if (member.value.isNull()) {
+                walk_.Add(ORRERY_FINDING_NULL, ORRERY_FINDING_NOTE, member.value, inner, "null: no record of that name");
+                continue;
+            }
+            walk_.record = count++;
+            if (room_ != 0 && count > room_) continue;
+            walk_.Top(table, member.value, inner, member.key(), false);
+        }
+        records_ = std::max<std::uint32_t>(1, count);
+        if (room_ != 0 && count > room_) tooMany(count);
+        break;
+    }
+    case Holds::BlankRecord:
+    case Holds::NoList:
+    case Holds::Nothing:
+        if (!value.isNull() && (value.type() != Type::Array || value.size() > 0))
+            walk_.Add(ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST, value, path,
+                      Shown(value) + " where " + Wanted(frame.take) + " is read: nothing of it is read");
+        break;
+    case Holds::WrongShape:
+        break;
+    }
+    walk_.record = 0;
+    walk_.FromRoot(table, document_.root, root_);
+}
+
+void Text::Reply() {
+    ParseFrame frame = command_->parseFrame;
+    const bool isTable = command_->parse == Command::Frame::Table;
+    if (isTable) frame = ParseFrame{};
+    if (!Parse(!frame.takesNoJson)) return;
+    const Value& root = document_.root;
+    Error();
+    if (root.type() != Type::Object) {
+        Refuses(ORRERY_FINDING_WRONG_SHAPE, root, root_, std::string("the reply is ") + TypeName(root) + ", not an object");
+        return;
+    }
+    if (!ResultPasses(frame.result, root["result"])) {
+        const Value& result = root["result"];
+        Refuses(ORRERY_FINDING_REFUSED, result, root_.Member("result"),
+                (result.isNull() ? std::string("there is no \"result\"") : "\"result\" is " + Shown(result))
+                    + "; the command wants " + ResultWanted(frame.result));
+        return;
+    }
+    const Path& path = PathOf(frame.source, frame.name);
+    const Value& value = FindValue(frame.source, frame.name, root);
+    Around(frame.source, frame.name);
+    if (frame.needsText && text_.empty()) return;
+    Holds holds;
+    if (isTable) {
+        constexpr unsigned kSampleShift = 4;
+        const TableFrame& words = command_->tableFrame;
+        holds = words.arrayForm && json::ArrayDepth(value, kSampleShift, document_.arena) == words.dimension + 1
+                    ? Holds::Elements
+                    : Holds::OneRecord;
+    } else {
+        if (frame.takesBy != nullptr) frame.take = frame.takesBy(root);
+        holds = ShapeOf(frame.take, value);
+    }
+    const bool isEmptyList = !isTable && holds == Holds::Elements && value.size() == 0 && !frame.takesEmptyLists;
+    if (value.isNull() || isEmptyList) {
+        const bool isFatal = !isTable && frame.nullValue == NullValue::Fails;
+        const Value& params = root["params"];
+        const Value& nearest = !value.isNull() ? value : frame.source != Source::Top && !params.isNull() ? params : root;
+        walk_.Add(ORRERY_FINDING_NO_VALUE, isFatal ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, nearest, path,
+                  isEmptyList ? "the list is empty: no record" : "there is nothing here: no record is read");
+        explanation_.isRefused = isFatal;
+        walk_.FromRoot(*command_->table, root, root_);
+        return;
+    }
+    if (holds == Holds::WrongShape) {
+        Refuses(ORRERY_FINDING_WRONG_SHAPE, value, path, Shown(value) + " where the command takes " + Wanted(frame.take));
+        return;
+    }
+    Value_(frame, holds, value, path);
+}
+
+void Text::Rules() {
+    if (!Parse(true)) return;
+    const Value& root = document_.root;
+    Error();
+    const ParseFrame& frame = command_->parseFrame;
+    const Path& path = PathOf(frame.source, frame.name);
+    const Value& rules = FindValue(frame.source, frame.name, root);
+    Around(frame.source, frame.name);
+    if (rules.type() != Type::Array) {
+        walk_.Add(rules.isNull() ? ORRERY_FINDING_NO_VALUE : ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST,
+                  rules.isNull() ? root : rules, path,
+                  rules.isNull() ? "there is nothing here: no rule is read"
+                                 : Shown(rules) + " where a list of rules is read: no rule is read");
+        return;
+    }
+    walk_.AlsoReads({"Type", "Id", "Class"});
+    std::vector<std::string_view> names;
+    std::uint32_t at = 0;
+    for (const Value& rule : rules.elements()) {
+        const Path inner = path.Element(at);
+        if (at == ORRERY_MOST_RULES) {
+            Finding& finding = walk_.Add(ORRERY_FINDING_ELEMENTS_DROPPED, ORRERY_FINDING_LOST, rules, path,
+                                         std::to_string(rules.size()) + " rules, and room for "
+                                             + std::to_string(ORRERY_MOST_RULES) + ": the others are dropped");
+            finding.lost = rules.size() - ORRERY_MOST_RULES;
+            break;
+        }
+        ++at;
+        const Value& type = rule["Type"];
+        const auto code = static_cast<std::uint32_t>(RuleCodeFromName(type.asString()));
+        const RuleBody* const body = FindRuleBody(code);
+        if (type.isNull() || body == nullptr || !body->isRead) {
+            std::string message = type.isNull() ? "the rule names no \"Type\"" : "no rule is of the type " + Shown(type);
+            if (names.empty())
+                for (const RuleBody& known : RuleBodies())
+                    names.push_back(RuleNameOf(static_cast<std::int32_t>(known.code), false));
+            const auto near = type.isString() ? Nearest(type.asString(), names) : std::vector<std::string_view>{};
+            if (!near.empty()) message += "; the nearest is " + Quoted(near.front());
+            Refuses(ORRERY_FINDING_UNKNOWN_ITEM, type.isNull() ? rule : type, inner.Member("Type"), message + ": all rules are refused");
+            if (!near.empty()) explanation_.findings.back().nearest = near.front();
+            continue;
+        }
+        walk_.Top(*body->table, rule, inner, {}, false);
+    }
+}
+
+void Text::Events() {
+    if (!Parse(false)) return;
+    const Value& root = document_.root;
+    constexpr std::uint32_t kMostEvents = 128;
+    const bool isSingle = !root["Event"].isNull();
+    const char* const key = isSingle ? "Event" : "EventList";
+    const Value& list = root[key];
+    const Path path = root_.Member(key);
+    walk_.Around(root, {"Event", "EventList"}, nullptr, "", root_);
+    if (list.type() != Type::Array) {
+        walk_.Add(list.isNull() ? ORRERY_FINDING_NO_VALUE : ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST,
+                  list.isNull() ? root : list, list.isNull() ? root_ : path,
+                  list.isNull() ? "there is neither \"Event\" nor \"EventList\": no event is read"
+                                : Shown(list) + " where a list of events is read: no event is read");
+        return;
+    }
+    static const record::Name kActionRows[] = {{0, "Pulse"}, {1, "Start"}, {2, "Stop"}};
+    const record::NameTable actions = record::FoldedNames(kActionRows).UnknownLeaves();
+    std::vector<std::string_view> names;
+    std::uint32_t at = 0;
+    for (const Value& event : list.elements()) {
+        if (at == kMostEvents) {
+            Finding& finding = walk_.Add(ORRERY_FINDING_ELEMENTS_DROPPED, ORRERY_FINDING_LOST, list, path,
+                                         std::to_string(list.size()) + " events, of which " + std::to_string(kMostEvents)
+                                             + " are read: the others are dropped");
+            finding.lost = list.size() - kMostEvents;
+            break;
+        }
+        const Path inner = path.Element(at++);
+        const Value& name = event["Code"];
+        const Value& data = event["Data"];
+        const auto code = static_cast<std::uint32_t>(RuleCodeFromName(name.asString().substr(0, 127)));
+        const events::EventRow* row = events::FindEvent(code);
+        const auto passedOver = [&](const Value& where, const Path& place, std::string message, const std::string& nearest = {}) {
+            walk_.Add(ORRERY_FINDING_UNKNOWN_ITEM, ORRERY_FINDING_LOST, where, place, std::move(message) + ": the event is passed over")
+                .nearest = nearest;
+        };
+        if (row == nullptr) {
+            if (name.isNull()) {
+                passedOver(event, inner, "the event has no \"Code\"");
+                continue;
+            }
+            if (names.empty())
+                for (const events::EventRow& known : events::Events())
+                    names.push_back(known.name);
+            const auto near = name.isString() ? Nearest(name.asString(), names) : std::vector<std::string_view>{};
+            passedOver(name, inner.Member("Code"),
+                       "no event is named " + Shown(name) + (near.empty() ? "" : "; the nearest is " + Quoted(near.front())),
+                       near.empty() ? std::string() : std::string(near.front()));
+            continue;
+        }
+        if (data.isNull() && !row->needsNoData) {
+            passedOver(event, inner, "the event has no \"Data\"");
+            continue;
+        }
+        const Value& action = event["Action"];
+        if (!action.isNull() && actions.Find(action.asString()) == nullptr) {
+            walk_.Add(ORRERY_FINDING_UNKNOWN_TEXT, ORRERY_FINDING_LOST, action, inner.Member("Action"),
+                      Shown(action) + " is no action: the event acts as the one before; known are Pulse, Start, Stop")
+                .nearest = "Pulse, Start, Stop";
+        }
+        if (row->rename != nullptr) row = events::FindEvent(row->rename(data));
+        if (row == nullptr) {
+            passedOver(event, inner, "no event goes by what its \"Data\" names");
+            continue;
+        }
+        walk_.AlsoReads({"GroupID", "CountInGroup", "IndexInGroup"});
+        walk_.Around(event, {"Action", "Code", "Data", "Index"}, row->table, "", inner);
+        // Functions of an event look at all of it, from whatever row.
+        walk_.SetAlways(true);
+        walk_.Top(*row->table, data, inner.Member("Data"), {}, false);
+        walk_.FromRoot(*row->table, event, inner);
+    }
+}
+
+void Text::Finish() {
+    std::vector<Finding>& findings = explanation_.findings;
+    const bool isJson = findings.empty() || findings.front().kind != ORRERY_FINDING_NOT_JSON;
+    explanation_.read = walk_.read;
+    explanation_.left = walk_.left;
+    if (isJson) {
+        const Skimmed skimmed = Skim(text_);
+        const bool hasDuplicates = skimmed.members != CountMembers(document_.root, document_.arena);
+        const std::size_t behind = static_cast<std::size_t>(
+            json::SkipBlanksAndComments(text_.data() + skimmed.end, text_.data() + text_.size()) - text_.data());
+        for (Finding& finding : findings)
+            if (finding.at == &json::kNull) finding.at = &document_.root;
+        if (!findings.empty() || hasDuplicates) {
+            FindPlaces(text_.substr(0, skimmed.end), document_.root, document_.arena, hasDuplicates, findings);
+            const bool isTried = std::any_of(findings.begin(), findings.end(), [](const Finding& each) { return each.isTried; });
+            if (!tries_)
+                std::erase_if(findings, [](const Finding& each) { return each.isTried; });
+            else if (isTried && !explanation_.isRefused)
+                DropWhatIsRead(command_, text_.substr(0, skimmed.end), document_.root, records_, findings);
+        }
+        if (behind < text_.size()) {
+            Finding& finding = walk_.Add(ORRERY_FINDING_TRAILING_TEXT, ORRERY_FINDING_NOTE, document_.root, root_,
+                                         "nobody reads what stands behind the document: " + Quoted(text_.substr(behind, 40)));
+            finding.offset = behind;
+            finding.length = text_.size() - behind;
+        }
+    }
+    const std::size_t nul = text_.size();
+    if (whole_.find_first_not_of(std::string_view("\0 \t\r\n", 5), nul) != std::string_view::npos) {
+        Finding& finding = walk_.Add(ORRERY_FINDING_TRAILING_TEXT, ORRERY_FINDING_NOTE, document_.root, root_,
+                                     "the text ends at a NUL byte: nobody reads the "
+                                         + std::to_string(whole_.size() - nul) + " bytes from there on");
+        finding.offset = nul;
+        finding.length = whole_.size() - nul;
+    }
+    if (document_.arena.failed()) throw std::bad_alloc();
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Finding& left, const Finding& right) { return left.offset < right.offset; });
+}
+
+Explanation Text::Explain() {
+    if (command_ == nullptr)
+        Events();
+    else if (ItemsBehind(*command_->table) != nullptr)
+        Rules();
+    else
+        Reply();
+    Finish();
+    return std::move(explanation_);
+}
+
+} // namespace
+
+std::string Expected(std::string_view message) {
+    const auto has = [&](std::string_view part) { return message.find(part) != std::string_view::npos; };
+    if (has("value, object or array expected"))
+        return "expected a value: an object, an array, a text in quotes, a number, true, false or null";
+    if (has("array declaration")) return "expected ',' or ']' in this array";
+    if (has("object declaration")) return "expected ',' or '}' in this object";
+    if (has("Missing ':'")) return "expected ':' behind the member's name";
+    if (has("object member name")) return "expected '}' or the name of a member, in quotes";
+    if (has("is not a number")) return "expected a number; this is none";
+    return std::string(message);
+}
+
+Explanation ExplainReply(const Command& command, std::string_view text, std::uint32_t records, bool tries) {
+    return Text(&command, text, records, tries).Explain();
+}
+
+Explanation ExplainEvents(std::string_view text, bool tries) {
+    return Text(nullptr, text, 0, tries).Explain();
+}
+
+} // namespace orrery::explain

@@ -1,0 +1,291 @@
+#include "explain/Places.h"
+
+#include "frame/json/Scan.h"
+#include "frame/json/StringDecoder.h"
+#include "frame/json/WalkStack.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_map>
+
+namespace orrery::explain {
+
+using json::Type;
+using json::Value;
+
+namespace {
+
+// Behind the closing quote of the string whose first byte is at `p`.
+const char* BehindString(const char* p, const char* end) noexcept {
+    for (;;) {
+        p = json::FindQuoteOrBackslash(p, end);
+        if (p == end) return end;
+        if (*p == '"') return p + 1;
+        p += end - p < 2 ? 1 : 2;
+    }
+}
+
+enum class Byte : unsigned char { Other, Quote, Opens, Closes, Colon, Slash };
+constexpr std::array<Byte, 256> kBytes = [] {
+    std::array<Byte, 256> bytes{};
+    bytes['"'] = Byte::Quote;
+    bytes['{'] = bytes['['] = Byte::Opens;
+    bytes['}'] = bytes[']'] = Byte::Closes;
+    bytes[':'] = Byte::Colon;
+    bytes['/'] = Byte::Slash;
+    return bytes;
+}();
+
+} // namespace
+
+Skimmed Skim(std::string_view text) noexcept {
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
+    const char* p = json::SkipBlanksAndComments(begin, end);
+    Skimmed skimmed;
+    std::size_t depth = 0;
+    while (p != end) {
+        switch (kBytes[static_cast<unsigned char>(*p)]) {
+        case Byte::Quote:
+            p = BehindString(p + 1, end);
+            if (depth > 0) continue;
+            break;
+        case Byte::Opens:
+            ++depth;
+            ++p;
+            continue;
+        case Byte::Closes:
+            ++p;
+            if (--depth > 0) continue;
+            break;
+        case Byte::Colon:
+            ++skimmed.members;
+            ++p;
+            continue;
+        case Byte::Slash: {
+            const char* const next = json::SkipBlanksAndComments(p, end);
+            p = next == p ? p + 1 : next;
+            continue;
+        }
+        case Byte::Other:
+            ++p;
+            if (depth > 0) continue;
+            // A document that is a number or a word.
+            while (p != end && !json::IsBlank(*p) && *p != ',' && kBytes[static_cast<unsigned char>(*p)] == Byte::Other)
+                ++p;
+            break;
+        }
+        break;
+    }
+    skimmed.end = static_cast<std::size_t>(p - begin);
+    return skimmed;
+}
+
+std::size_t CountMembers(const Value& root, Arena& arena) noexcept {
+    struct Rest {
+        const Value* next;
+        const Value* end;
+        std::size_t step; // in values: a member is two
+    };
+    json::WalkStack<Rest, 32> open(arena);
+    std::size_t members = 0;
+    const auto enter = [&](const Value& value) {
+        if (value.type() == Type::Array && value.size() > 0) {
+            const auto elements = value.elements();
+            return open.Push({elements.data(), elements.data() + elements.size(), 1});
+        }
+        if (value.type() == Type::Object && value.size() > 0) {
+            const auto all = value.members();
+            members += all.size();
+            return open.Push({&all[0].value, &all[0].value + 2 * all.size(), 2});
+        }
+        return true;
+    };
+    static_assert(sizeof(json::Member) == 2 * sizeof(Value));
+    if (!enter(root)) return 0;
+    while (!open.empty()) {
+        Rest& rest = open.top();
+        if (rest.next == rest.end) {
+            open.Pop();
+            continue;
+        }
+        const Value& value = *rest.next;
+        rest.next += rest.step;
+        if (value.type() >= Type::Array && !enter(value)) return 0;
+    }
+    return members;
+}
+
+namespace {
+
+class Scan {
+  public:
+    Scan(std::string_view text, Arena& arena, bool hasDuplicates, std::vector<Finding>& findings)
+        : begin_(text.data()), end_(begin_ + text.size()), arena_(arena), hasDuplicates_(hasDuplicates),
+          findings_(findings) {
+        for (std::size_t i = 0; i < findings.size(); ++i)
+            if (findings[i].at != nullptr) wanted_[findings[i].at].push_back(i);
+    }
+
+    void Run(const Value& root);
+
+  private:
+    struct Seen {
+        std::size_t key = 0, keyEnd = 0, value = 0, valueEnd = 0;
+    };
+    struct Open {
+        const Value* value;
+        std::size_t begin, key, keyEnd;
+        bool isObject;
+        std::uint32_t next = 0;
+        std::string_view name{}; // of the member that is being read
+        std::size_t nameAt = 0, nameEnd = 0;
+        std::vector<Seen> seen{};
+    };
+
+    std::size_t At(const char* p) const { return static_cast<std::size_t>(p - begin_); }
+    void Place(const Value* value, std::size_t key, std::size_t keyEnd, std::size_t begin, std::size_t end);
+    void Member(Open& open, const Value* value, std::size_t begin, std::size_t end);
+    std::string PathOf(std::string_view name) const;
+
+    const char* begin_;
+    const char* end_;
+    Arena& arena_;
+    bool hasDuplicates_;
+    std::vector<Finding>& findings_;
+    std::unordered_map<const Value*, std::vector<std::size_t>> wanted_;
+    std::vector<Open> open_;
+};
+
+void Scan::Place(const Value* value, std::size_t key, std::size_t keyEnd, std::size_t begin, std::size_t end) {
+    if (value == nullptr) return;
+    const auto found = wanted_.find(value);
+    if (found == wanted_.end()) return;
+    for (const std::size_t index : found->second) {
+        Finding& finding = findings_[index];
+        finding.offset = finding.atKey ? key : begin;
+        finding.length = finding.atKey ? keyEnd - key : end - begin;
+        finding.valueOffset = begin;
+        finding.valueEnd = end;
+    }
+}
+
+std::string Scan::PathOf(std::string_view name) const {
+    std::vector<Path> steps(open_.size() + 1);
+    for (std::size_t i = 0; i < open_.size(); ++i) {
+        const Open& open = open_[i];
+        const bool isLast = i + 1 == open_.size();
+        steps[i + 1] = open.isObject ? steps[i].Member(isLast ? name : open.name) : steps[i].Element(open.next - 1);
+    }
+    return TextOf(steps.back());
+}
+
+// A member whose key came before hides that one.
+void Scan::Member(Open& open, const Value* value, std::size_t begin, std::size_t end) {
+    if (!hasDuplicates_ || open.value == nullptr || value == nullptr || open.value->type() != Type::Object) return;
+    const auto members = open.value->members();
+    if (members.empty()) return;
+    const auto index = static_cast<std::size_t>(value - &members[0].value) / 2;
+    if (open.seen.empty()) open.seen.resize(members.size());
+    if (index >= open.seen.size()) return;
+    Seen& seen = open.seen[index];
+    if (seen.valueEnd != 0) {
+        const std::string_view hidden(begin_ + seen.value, seen.valueEnd - seen.value);
+        const std::string_view counts(begin_ + begin, end - begin);
+        Finding finding;
+        finding.kind = ORRERY_FINDING_DUPLICATE_KEY;
+        finding.gravity = hidden == counts ? ORRERY_FINDING_NOTE : ORRERY_FINDING_LOST;
+        finding.offset = seen.key;
+        finding.length = seen.keyEnd - seen.key;
+        finding.path = PathOf(open.name);
+        const auto line = std::count(begin_, begin_ + open.nameAt, '\n') + 1;
+        finding.message = "the key stands again on line " + std::to_string(line)
+                          + (hidden == counts ? ", with the same value" : ", and only its last value counts");
+        findings_.push_back(std::move(finding));
+    }
+    seen = {open.nameAt, open.nameEnd, begin, end};
+}
+
+void Scan::Run(const Value& root) {
+    const char* p = begin_;
+    const Value* current = &root;
+    std::size_t key = 0, keyEnd = 0;
+    for (;;) {
+        // A value.
+        p = json::SkipBlanksAndComments(p, end_);
+        if (p == end_) return;
+        const std::size_t begin = At(p);
+        if (*p == '{' || *p == '[') {
+            open_.push_back({current, begin, key, keyEnd, *p == '{'});
+            ++p;
+        } else {
+            if (*p == '"')
+                p = BehindString(p + 1, end_);
+            else
+                while (p != end_ && !json::IsBlank(*p) && *p != ',' && *p != ']' && *p != '}' && *p != '/')
+                    ++p;
+            Place(current, key, keyEnd, begin, At(p));
+            if (open_.empty()) return;
+            if (open_.back().isObject) Member(open_.back(), current, begin, At(p));
+        }
+        // What follows it, up to the next value.
+        for (;;) {
+            p = json::SkipBlanksAndComments(p, end_);
+            if (p == end_) return;
+            Open& open = open_.back();
+            if (*p == ',') {
+                ++p;
+                continue;
+            }
+            if (*p == '}' || *p == ']') {
+                ++p;
+                const Open closed = std::move(open_.back());
+                open_.pop_back();
+                Place(closed.value, closed.key, closed.keyEnd, closed.begin, At(p));
+                if (open_.empty()) return;
+                if (open_.back().isObject) Member(open_.back(), closed.value, closed.begin, At(p));
+                continue;
+            }
+            if (!open.isObject) {
+                key = keyEnd = At(p);
+                const bool isThere = open.value != nullptr && open.value->type() == Type::Array && open.next < open.value->size();
+                current = isThere ? &(*open.value)[open.next] : nullptr;
+                ++open.next;
+                break;
+            }
+            if (*p != '"') return;
+            open.nameAt = At(p);
+            const char* const name = p + 1;
+            const char* const backslash = json::FindQuoteOrBackslash(name, end_);
+            if (backslash != end_ && *backslash == '"') {
+                open.name = {name, static_cast<std::size_t>(backslash - name)};
+                p = backslash + 1;
+            } else {
+                const json::DecodedString decoded = json::DecodeString(name, backslash, end_, arena_);
+                if (decoded.stop == nullptr || decoded.message != nullptr) return;
+                open.name = decoded.text;
+                p = decoded.stop;
+            }
+            open.nameEnd = At(p);
+            key = open.nameAt;
+            keyEnd = open.nameEnd;
+            current = nullptr;
+            if (open.value != nullptr && open.value->type() == Type::Object) {
+                const Value& held = (*open.value)[open.name];
+                if (&held != &json::kNull) current = &held;
+            }
+            p = json::SkipBlanksAndComments(p, end_);
+            if (p != end_ && *p == ':') ++p;
+            break;
+        }
+    }
+}
+
+} // namespace
+
+void FindPlaces(std::string_view text, const Value& root, Arena& arena, bool hasDuplicates,
+                std::vector<Finding>& findings) {
+    Scan(text, arena, hasDuplicates, findings).Run(root);
+}
+
+} // namespace orrery::explain

@@ -1,0 +1,147 @@
+#include "orrery/Check.h"
+
+#include "orrery/Diagnose.h"
+#include "orrery/Output.h"
+
+#include "frame/JsonParser.h"
+
+#include "orrery/explain.h"
+
+#include <exception>
+#include <vector>
+
+namespace orrery::tool {
+
+namespace {
+
+constexpr std::string_view kEvents = "events";
+
+// What a callback of the library's cannot throw through.
+struct Told {
+    std::string_view file;
+    const CheckOptions& options;
+    std::string out;
+    std::exception_ptr failure{};
+};
+
+std::string FindingLine(const ORRERY_FINDING& finding, std::string_view file) {
+    static const char* const kGravity[] = {"", "note", "lost", "refused"};
+    std::string line(file);
+    line += ':' + std::to_string(finding.nLine) + ':' + std::to_string(finding.nColumn) + ": "
+            + kGravity[finding.nGravity] + ": ";
+    const std::string_view path = finding.szPath;
+    const std::string_view field = finding.szField;
+    if (!path.empty()) line += path;
+    if (!field.empty()) line.append(path.empty() ? "(" : " (").append(field).append(")");
+    if (!path.empty() || !field.empty()) line += ": ";
+    line += std::string(finding.szMessage) + " [" + finding.szKind + "]";
+    return Printable(line) + "\n";
+}
+
+// Text of a device in JSON has to be UTF-8.
+Node Utf8(std::string_view text) {
+    return Node::Text(IsUtf8(text) ? std::string(text) : Printable(text));
+}
+
+std::string FindingObject(const ORRERY_FINDING& finding, std::string_view file) {
+    static const char* const kGravity[] = {"", "note", "lost", "refused"};
+    Node node = Node::Object();
+    node.Add("file", Utf8(file))
+        .Add("line", Node::Unsigned(finding.nLine))
+        .Add("column", Node::Unsigned(finding.nColumn))
+        .Add("offset", Node::Unsigned(finding.nOffset))
+        .Add("length", Node::Unsigned(finding.nLength))
+        .Add("kind", Node::Text(finding.szKind))
+        .Add("gravity", Node::Text(kGravity[finding.nGravity]))
+        .Add("path", Utf8(finding.szPath))
+        .Add("field", Utf8(finding.szField))
+        .Add("message", Utf8(finding.szMessage));
+    if (finding.szNearest[0] != '\0') node.Add("nearest", Utf8(finding.szNearest));
+    if (finding.nLost != 0) node.Add("lost", Node::Unsigned(finding.nLost));
+    return node.PrintLine();
+}
+
+std::int32_t Tell(const ORRERY_FINDING* finding, void* user) noexcept {
+    auto& told = *static_cast<Told*>(user);
+    try {
+        told.out += told.options.json ? FindingObject(*finding, told.file) : FindingLine(*finding, told.file);
+        return 1;
+    } catch (...) {
+        told.failure = std::current_exception();
+        return 0;
+    }
+}
+
+struct Fits {
+    std::vector<std::pair<std::string, ORRERY_FIT>> best;
+    std::exception_ptr failure{};
+};
+
+std::int32_t KeepFit(const ORRERY_FIT* fit, void* user) noexcept {
+    constexpr std::size_t kMost = 3;
+    auto& fits = *static_cast<Fits*>(user);
+    try {
+        fits.best.emplace_back(fit->szCommand[0] == '\0' ? kEvents : fit->szCommand, *fit);
+        return fits.best.size() < kMost;
+    } catch (...) {
+        fits.failure = std::current_exception();
+        return 0;
+    }
+}
+
+std::string Keys(std::uint32_t count, const char* what) {
+    return std::to_string(count) + (count == 1 ? " key " : " keys ") + what;
+}
+
+} // namespace
+
+bool IsChecked(std::string_view command) {
+    const Command* const found = FindCommand(command);
+    return command == kEvents || (found != nullptr && found->parses());
+}
+
+Result CheckText(std::string_view command, std::string_view file, std::string_view text, const CheckOptions& options) {
+    Result result;
+    std::string name(command);
+    if (name.empty()) {
+        Fits fits;
+        const std::int32_t count = ORRERY_FindFits(text.data(), text.size(), KeepFit, &fits);
+        if (fits.failure) std::rethrow_exception(fits.failure);
+        if (count < 0) return {kRefused, {}, "orrery: out of memory\n"};
+        if (fits.best.empty()) {
+            const Document document(text);
+            return {kRefused,
+                    {},
+                    "orrery: " + Printable(std::string(file)) + ": "
+                        + (document.ok ? "no command reads a key of this text" : ExplainSyntax(document)) + "\n"};
+        }
+        for (const auto& [fitting, fit] : fits.best) {
+            result.err += "orrery: " + Printable(std::string(file)) + ": "
+                          + (&fit == &fits.best.front().second ? "checked as " : "next would be ") + fitting + ": "
+                          + Keys(fit.nRead, "read, ") + Keys(fit.nLeft, "left")
+                          + (fit.nWrong > 0 ? ", " + std::to_string(fit.nWrong) + " values amiss" : "")
+                          + (fit.bRefused != 0 ? ", refused" : "") + "\n";
+        }
+        name = fits.best.front().first;
+    }
+    Told told{file, options, {}};
+    const std::int32_t count = name == kEvents ? ORRERY_ExplainEvents(text.data(), text.size(), Tell, &told)
+                                               : ORRERY_ExplainReply(name.c_str(), text.data(), text.size(),
+                                                                     options.records.value_or(0), Tell, &told);
+    if (told.failure) std::rethrow_exception(told.failure);
+    if (count == ORRERY_EXPLAIN_UNKNOWN_COMMAND) {
+        const Command* const known = FindCommand(name);
+        return {kRefused,
+                {},
+                "orrery: "
+                    + (known == nullptr ? UnknownCommand(name)
+                                        : ExplainParse(*known, Outcome::UnknownCommand, Document({}), 0))
+                    + "\n"};
+    }
+    if (count < 0) return {kRefused, {}, "orrery: out of memory\n"};
+    result.out = std::move(told.out);
+    result.exit = count > 0 ? kFound : kDone;
+    return result;
+}
+
+} // namespace orrery::tool
