@@ -140,6 +140,9 @@ const Path& Text::PathOf(Source source, const char* name) {
     case Source::Result:
         value_ = root_.Member("result");
         break;
+    default:
+        value_ = params_;
+        break;
     }
     return value_;
 }
@@ -165,8 +168,7 @@ void Text::Around(Source source, const char* name) {
     case Source::Params:
         inner = {name};
         break;
-    case Source::Top:
-    case Source::Result:
+    default:
         break;
     }
     walk_.Around(document_.root["params"], inner, command_ == nullptr ? nullptr : command_->table, "params/", params_);
@@ -239,7 +241,7 @@ void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, cons
             walk_.Add(ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST, value, path,
                       Shown(value) + " where " + Wanted(frame.take) + " is read: nothing of it is read");
         break;
-    case Holds::WrongShape:
+    default:
         break;
     }
     walk_.record = 0;

@@ -27,8 +27,9 @@ const char* RuleOfNull(const Field& field) {
         return "null in a list: it is passed over";
     case Nulls::Stop:
         return "null in a list: it ends here";
+    default:
+        return "null in a list";
     }
-    return "null in a list";
 }
 
 const char* OnlyWords(OnlyType only) {
@@ -45,16 +46,13 @@ const char* OnlyWords(OnlyType only) {
         return "a whole number";
     case OnlyType::Array:
         return "a list";
-    case OnlyType::Any:
-        break;
+    default:
+        return "a value";
     }
-    return "a value";
 }
 
 bool IsOfType(OnlyType only, const Value& value) {
     switch (only) {
-    case OnlyType::Any:
-        return true;
     case OnlyType::String:
         return value.isString();
     case OnlyType::Bool:
@@ -67,8 +65,9 @@ bool IsOfType(OnlyType only, const Value& value) {
         return value.isIntegral();
     case OnlyType::Array:
         return value.type() == Type::Array;
+    default:
+        return true;
     }
-    return true;
 }
 
 std::string Plural(std::uint64_t count, const char* one) {
@@ -493,7 +492,8 @@ void Walk::List(const Site& site, int level, const Value& value) {
         }
         std::uint32_t used = 0, lost = 0;
         for (const json::Member& member : value.members()) {
-            const bool isElement = field.amongKeys ? member.value.members().size() > 0 : !member.value.isNull();
+            const bool isElement = field.amongKeys ? member.value.members().size() > 0
+                                                   : !member.value.isNull() || field.nulls == Nulls::Named;
             if (!isElement) continue;
             if (used == room) {
                 ++lost;
@@ -558,14 +558,6 @@ void Walk::List(const Site& site, int level, const Value& value) {
 bool Walk::Element(const Site& site, const Value& value, std::string_view memberName) {
     const Field& field = site.field;
     switch (field.kind) {
-    case Kind::None:
-    case Kind::Size:
-    case Kind::Presence:
-    case Kind::MemberName:
-    case Kind::MemberCode:
-    case Kind::Supplied:
-    case Kind::Custom:
-        break;
     case Kind::Bool:
         if (value.isBool() || (value.isInt() && (value.asInt() == 0 || value.asInt() == 1))) break;
         WrongType(value, site, "true or false", value.asBool() ? "it reads as true" : "it reads as false");
@@ -655,6 +647,8 @@ bool Walk::Element(const Site& site, const Value& value, std::string_view member
     case Kind::BitMaskLoose:
     case Kind::Switches:
         Numbers(site, value);
+        break;
+    default: // not in the text, or by its name alone
         break;
     }
     return true;
