@@ -14,7 +14,8 @@ using json::Value;
 namespace {
 
 bool IsNestedObject(const Field& field) {
-    return field.kind == Kind::Record && field.cell == Cell::Record && field.rank == 0 && field.table != nullptr;
+    return field.kind == Kind::Record && (field.cell == Cell::Record || field.single) && field.rank == 0
+           && field.table != nullptr;
 }
 
 const char* RuleOfNull(const Field& field) {
@@ -469,7 +470,7 @@ void Walk::Row(const Site& site, const Value& value) {
             Element(site, value);
         return;
     }
-    if (field.rank > 0 || field.cell == Cell::Pointer) return List(site, 0, value);
+    if (!field.single && (field.rank > 0 || field.cell == Cell::Pointer)) return List(site, 0, value);
     Element(site, value);
 }
 
