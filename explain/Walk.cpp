@@ -87,7 +87,7 @@ void RootKeys(const Table& table, std::string_view prefix, std::vector<std::stri
         if (field.fromRoot && field.key != nullptr) {
             if (const auto part = PartBelow(field.key, prefix); !part.empty()) keys.push_back(part);
         }
-        if (field.table != nullptr && field.cell != Cell::Pointer && depth < 16)
+        if (field.table != nullptr && (field.cell != Cell::Pointer || field.single) && depth < 16)
             RootKeys(*field.table, prefix, keys, depth + 1);
     }
 }
