@@ -171,6 +171,57 @@ void WriteRule(const RuleBody& body) {
     Write("rules", name + ".item", raw);
 }
 
+// Answers to each kind of request: as devices give them, with values of other types, at the limits of what they hold.
+void WriteRequests() {
+    const std::string multicast =
+        R"({"result":true,"params":{"table":)" + test::RecordTree(*FindCommand("Multicast")->table, {}).Text() + "}}";
+    struct Answers {
+        const char* name;
+        std::uint8_t way; // the kind of request
+        std::vector<std::string> texts;
+    };
+    std::string many = R"({"result":true,"params":{"options":[)";
+    std::string names = R"({"result":true,"params":{"names":[)";
+    for (int i = 0; i < 40; ++i) {
+        many += (i > 0 ? ",\"NeedReboot\"" : "\"needrestart\"");
+        names += (i > 0 ? ",\"" : "\"") + std::string(static_cast<std::size_t>(i), 'n') + '"';
+    }
+    const Answers all[] = {
+        {"delete",
+         0,
+         {R"({"result":true,"params":{"options":["NeedRestart","CapsNotSupport","WriteFileError","x",5]}})",
+          many + "]}}", R"({"result":false,"params":{"options":{"a":1}}})", "A/B"}},
+        {"names",
+         1,
+         {R"({"result":true,"params":{"names":["Channel0","Channel1",5,null]}})", names + "]}}",
+          R"({"result":true,"params":{"names":"x"}})", R"({"result":null,"params":{"names":[]}})"}},
+        {"table",
+         2,
+         {multicast, R"({"result":true,"params":{"table":{"TS":5,"RTP":[null,[]],"QVII":null}}})",
+          R"({"params":{"table":{}}})", "{"}},
+        {"other", 3, {R"({"result":true,"params":{}})", "", "5"}},
+        {"split", 4, {"10:20:30", " a :\tb: :", ":::", "aXbxAx", "abc"}},
+    };
+    const char* const separators[] = {":", "x", "ab", ""};
+    for (const Answers& answers : all) {
+        for (std::size_t i = 0; i < answers.texts.size(); ++i) {
+            ++turn;
+            const std::string separator = answers.way == 4 ? separators[i % std::size(separators)] : "";
+            // How much of it: none, some and all of the caller's own memory.
+            const auto taken = static_cast<unsigned>(separator.size());
+            for (const unsigned amount : {taken, taken + 8, taken + 32, 127U, taken + 136}) {
+                std::string seed;
+                Put(seed, static_cast<std::uint8_t>(answers.way));
+                Put(seed, static_cast<std::uint8_t>(amount));
+                seed += separator + answers.texts[i];
+                const std::string name = answers.name + std::to_string(i) + "." + std::to_string(amount);
+                Write("request", name, seed + Circumstances(turn % kLocales, kSink, 0));
+                Write("request", name + ".memory", seed + Circumstances(0, kFailOnly, turn % 4));
+            }
+        }
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -185,5 +236,6 @@ int main(int argc, char** argv) {
         WriteEvent(row);
     for (const RuleBody& body : RuleBodies())
         WriteRule(body);
+    WriteRequests();
     return 0;
 }

@@ -227,8 +227,9 @@ typedef struct CFG_ANALYSEMODE_INFO {
     int32_t nAnalyseMode; /* "AnalyseMode": CFG_ANALYSE_... */
 } CFG_ANALYSEMODE_INFO;
 
-/* "intelli.getVideoAnalyseDeviceChannels", "devVideoAnalyse.factory.getCollect": how many channels analyse. Some
- * devices tell it as the result itself, so that the result is not tested: 0 is no refusal. */
+/* "intelli.getVideoAnalyseDeviceChannels", "devVideoAnalyse.factory.getCollect": how many channels analyse;
+ * "videoDiagnosisServer.factory.getCollect": how many servers of video diagnosis there are, into a buffer of exactly
+ * this size. Some devices tell it as the result itself, so that the result is not tested: 0 is no refusal. */
 typedef struct CFG_ANALYSECHANNELS_INFO {
     int32_t
         nChannels; /* "channels" of the reply's "params"; without it the reply's "result", when that is an integer */

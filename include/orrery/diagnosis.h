@@ -168,7 +168,7 @@ typedef struct CFG_DIAGNOSIS_SOURCE {
 
 /* Which sources are examined under which profile. */
 typedef struct CFG_DIAGNOSIS_TASK {
-    char szName[260];        /* the name of the task, which stands beside it */
+    char szName[260];        /* of a single task the end of the reply's "name", of others the name of their member */
     char szProfile[260];     /* "Profile": name of a profile */
     int32_t nSourceMax;      /* room of pSources, set before reading and writing */
     int32_t nSourceReturned; /* sources in use: those of the text, at most nSourceMax, also when pSources is null */

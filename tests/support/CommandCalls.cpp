@@ -67,7 +67,9 @@ Outcome ParseCalls::Run(const char* text, std::size_t size, std::byte filling) {
     std::memset(bytes_.data(), static_cast<int>(filling), size);
     memory_.Reset();
     memory_.PrepareBuffer(command_, bytes_.data(), size);
-    if (size < command_.table->size || !command_.parses()) before_.assign(bytes_.begin(), bytes_.end());
+    // What a call that turns its buffer away leaves there; others clear it or write to it.
+    const bool turnsAway = size < command_.table->size || !command_.parses() || command_.parseFrame.exactSize;
+    if (turnsAway) before_.assign(bytes_.begin(), bytes_.end());
     length_ = 0;
     const Outcome outcome = RunParse(command_, {text, bytes_.data(), static_cast<std::uint32_t>(size), &length_});
     EXPECT_TRUE(IsAll({end - size - kFront, kFront}, kUntouched)) << command_.name << ": wrote in front of its buffer";
@@ -195,8 +197,12 @@ bool IsOut(const Field& field, const std::byte* record) {
 // Whether an element that is held back moves those behind it.
 bool ClosesUp(const Field& field, const std::byte* record) {
     if (field.skipped != record::Skipped::ClosesUp || field.kind != Kind::Record || !field.count.exists()) return false;
-    for (std::int64_t i = 0; i < record::LoadSlot(field.count, record) && i < field.dims[0]; ++i) {
-        if (!record::IsWritten(*field.table, record + field.offset + i * std::int64_t{field.table->size})) return true;
+    const bool isPointer = field.cell == Cell::Pointer;
+    const std::byte* const first =
+        isPointer ? record::Load<const std::byte*>(record + field.offset) : record + field.offset;
+    const std::int64_t room = isPointer ? record::LoadSlot(field.capacity, record) : field.dims[0];
+    for (std::int64_t i = 0; first != nullptr && i < record::LoadSlot(field.count, record) && i < room; ++i) {
+        if (!record::IsWritten(*field.table, first + i * std::int64_t{field.table->size})) return true;
     }
     return false;
 }
