@@ -4,8 +4,8 @@
 #include "explain/Tries.h"
 
 #include "analyse/EventTypeRegistry.h"
-#include "analyse/RuleBodyTable.h"
-#include "events/EventTable.h"
+#include "analyse/RuleBodyMap.h"
+#include "events/EventMap.h"
 #include "frame/PackedItems.h"
 #include "frame/ReplySteps.h"
 #include "frame/json/Scan.h"
@@ -250,7 +250,7 @@ void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, cons
 
 void Text::Reply() {
     ParseFrame frame = command_->parseFrame;
-    const bool isTable = command_->parse == Command::Frame::Table;
+    const bool isTable = command_->parse == Command::Frame::Generic;
     if (isTable) frame = ParseFrame{};
     if (!Parse(!frame.takesNoJson)) return;
     const Value& root = document_.root;
@@ -273,7 +273,7 @@ void Text::Reply() {
     Holds holds;
     if (isTable) {
         constexpr unsigned kSampleShift = 4;
-        const TableFrame& words = command_->tableFrame;
+        const GenericFrame& words = command_->genericFrame;
         holds = words.arrayForm && json::ArrayDepth(value, kSampleShift, document_.arena) == words.dimension + 1
                     ? Holds::Elements
                     : Holds::OneRecord;

@@ -2,7 +2,7 @@
 
 #include "analyse/RuleFrame.h"
 #include "events/EventCodecs.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
 #include "frame/PackedItems.h"
 #include "frame/ReplySteps.h"

@@ -1,7 +1,7 @@
 // Any text as analyzer events: every record that is delivered can be read to its last byte, and so can every block that
 // it points to. What follows the text's terminator chooses the circumstances.
 #include "Circumstances.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
 #include "support/EventWalk.h"
 

@@ -3,7 +3,7 @@
 // circumstances. The other way, items as a client may have built them: four bytes of circumstances, then of each item
 // two for its code, one for its size, two for how many bytes follow that its body is made of.
 #include "Circumstances.h"
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "support/CommandCalls.h"
 #include "support/FuzzInput.h"
 

@@ -6,7 +6,7 @@
 #   record       tables and their engine
 #   frame        frames and commands; knows no family, nor the public records of one
 #   families     every other folder; they may use each other
-#   map          files of src/ itself: the command table, its words, the exports
+#   map          files of src/ itself: the command map, its words, the exports
 set -euo pipefail
 src=${1:-$(dirname "$0")/../src}
 

@@ -1,30 +1,50 @@
-// Words of the rows of the command table: whole rows by what serves them, and frames that many rows begin with.
+// Words of the rows of the command map: whole rows by what serves them, and frames that many rows begin with.
 #pragma once
 
 #include "frame/Command.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
 
 namespace orrery::words {
 
 inline constexpr ParseFrame kParse;
 inline constexpr PackFrame kPack;
 
-constexpr Command Generic(std::string_view name, const record::Table& table, TableFrame frame) {
+constexpr Command Generic(std::string_view name, const record::Table& table, GenericFrame frame) {
     Command command;
     command.name = name;
     command.table = &table;
-    command.parse = command.pack = Command::Frame::Table;
-    command.tableFrame = frame;
+    command.parse = command.pack = Command::Frame::Generic;
+    command.genericFrame = frame;
     return command;
 }
 
 // The same frame of what is never written.
-constexpr Command GenericReply(std::string_view name, const record::Table& table, TableFrame frame) {
+constexpr Command GenericReply(std::string_view name, const record::Table& table, GenericFrame frame) {
     Command command = Generic(name, table, frame);
     command.pack = Command::Frame::None;
     return command;
 }
 
-constexpr Command Both(std::string_view name, const record::Table& table, ParseFrame parse, PackFrame pack) {
+// Declared only: a row that reaches it does not compile, and the name tells why.
+void a_stride_needs_a_record_that_begins_with_its_size_word();
+
+template <class R>
+inline constexpr bool kBeginsWithItsSize = requires {
+    requires std::is_same_v<decltype(R::dwSize), std::uint32_t>;
+    requires(offsetof(R, dwSize) == 0);
+};
+template <class R>
+constexpr void NeedsSizeWord(Stride stride) {
+    if (stride != Stride::Record && !kBeginsWithItsSize<R>) a_stride_needs_a_record_that_begins_with_its_size_word();
+}
+
+template <class R>
+constexpr Command Both(std::string_view name, const record::TypedTable<R>& table, ParseFrame parse, PackFrame pack) {
+    NeedsSizeWord<R>(parse.stride);
+    NeedsSizeWord<R>(pack.stride);
     Command command;
     command.name = name;
     command.table = &table;
@@ -34,7 +54,9 @@ constexpr Command Both(std::string_view name, const record::Table& table, ParseF
     return command;
 }
 
-constexpr Command Reply(std::string_view name, const record::Table& table, ParseFrame parse) {
+template <class R>
+constexpr Command Reply(std::string_view name, const record::TypedTable<R>& table, ParseFrame parse) {
+    NeedsSizeWord<R>(parse.stride);
     Command command;
     command.name = name;
     command.table = &table;
@@ -54,7 +76,8 @@ constexpr Command Text(std::string_view name, const record::Table& table, PackFr
 }
 
 // A parse function of its own; the frame's words tell tools what it does.
-constexpr Command OwnParse(std::string_view name, const record::Table& table,
+template <class R>
+constexpr Command OwnParse(std::string_view name, const record::TypedTable<R>& table,
                            Outcome (*parse)(const ParseRequest&) noexcept, ParseFrame like, PackFrame pack) {
     Command command = Both(name, table, like, pack);
     command.parse = Command::Frame::Own;
@@ -129,11 +152,11 @@ constexpr Command Logged(Command command, void (*parse)(Outcome, const ParseRequ
 }
 
 // The generic frame: one record, a list of them, or one that is a list itself or stands in one.
-inline constexpr TableFrame kOneCleared{.zeroBuffer = true};
-inline constexpr TableFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
-inline constexpr TableFrame kManyKept{.arrayForm = true};
-inline constexpr TableFrame kManyAlwaysArray{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
-inline constexpr TableFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
-inline constexpr TableFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
+inline constexpr GenericFrame kOneCleared{.zeroBuffer = true};
+inline constexpr GenericFrame kManyCleared{.arrayForm = true, .zeroBuffer = true};
+inline constexpr GenericFrame kManyKept{.arrayForm = true};
+inline constexpr GenericFrame kManyAlwaysArray{.arrayForm = true, .zeroBuffer = true, .alwaysArray = true};
+inline constexpr GenericFrame kOneOfArrayCleared{.dimension = 1, .zeroBuffer = true};
+inline constexpr GenericFrame kArraysCleared{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
 
 } // namespace orrery::words

@@ -170,7 +170,7 @@ constexpr Command kCommands[] = {
     Both("DevList", kDevList, kParse.Takes(Take::List).Clears(Clearing::Kept).Accepts(HasRoomForDevices), kPack),
     Both("VideoTalkPhoneGeneral", kPhoneGeneral, kParse, kPack),
     Both("VideoTalkPhoneBasic", kPhoneBasic, kParse, kPack),
-    Generic("ShortcutCall", kShortcutCall, TableFrame{.dimension = 1}),
+    Generic("ShortcutCall", kShortcutCall, GenericFrame{.dimension = 1}),
 
     // Device settings
     Both("Locales", kLocales, kParse, kPack),
@@ -454,7 +454,7 @@ constexpr Command kCommands[] = {
     Generic("CarDiverState", kCarDriverState, kManyCleared),
     Generic("TesseraRadar", kTesseraRadar, kManyCleared),
     Generic("RadarSpeedMeasure", kRadarSpeedMeasure, kOneCleared),
-    Generic("CustomAudio", kCustomAudio, TableFrame{}),
+    Generic("CustomAudio", kCustomAudio, GenericFrame{}),
     Generic("PoliceMap", kPoliceMap, kOneCleared),
     Generic("DevLocation", kDevLocation, kManyCleared),
     GenericReply("DeviceInfo", kDeviceIdentity, kManyCleared),

@@ -1,4 +1,4 @@
-// The command table, the map of the system: every command's name, its record and the frames that serve it.
+// The command map, the map of the system: every command's name, its record and the frames that serve it.
 #pragma once
 
 #include "frame/Command.h"

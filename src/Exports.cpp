@@ -1,4 +1,4 @@
-// The exported translation functions: argument tests, and on to the command table.
+// The exported translation functions: argument tests, and on to the command map.
 #include "Commands.h"
 #include "events/ReqRealPicture.h"
 #include "events/TypedText.h"

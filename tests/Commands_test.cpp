@@ -1,4 +1,4 @@
-// Which words of the frames a command has, by its name: what the sweeps over the command table take from its rows is
+// Which words of the frames a command has, by its name: what the sweeps over the command map take from its rows is
 // told here once more, from the commands' side.
 #include "Commands.h"
 #include "support/CommandCalls.h"
@@ -71,12 +71,12 @@ const Names kEndsWithItsText =
 // Commands whose text must leave a byte more than its terminator.
 const Names kLeavesAByte = {"PtzPreset", "VideoInZoom", "VideoInFocus"};
 
-// Commands of the generic table frame.
+// Commands of the generic frame.
 struct Generics {
-    TableFrame frame;
+    GenericFrame frame;
     Names names;
 };
-const Generics kTableFrames[] = {
+const Generics kGenericFrames[] = {
     {{.arrayForm = false, .dimension = 0, .zeroBuffer = false, .alwaysArray = false}, {"CustomAudio"}},
     {{.arrayForm = false, .dimension = 0, .zeroBuffer = true, .alwaysArray = false},
      NamesIn("HeatImagingThermometry GPSLocationVersion ParkingSpaceAccessFilter WorkTime G3G4AutoChange "
@@ -150,15 +150,15 @@ TEST(Commands, ATextAsLongAsItsBufferIsTakenFromTheseOnly) {
     }
 }
 
-TEST(Commands, TheGenericTableFrameServesThese) {
+TEST(Commands, TheGenericFrameServesThese) {
     for (const Command& command : Commands()) {
-        const auto* const found = std::find_if(std::begin(kTableFrames), std::end(kTableFrames),
+        const auto* const found = std::find_if(std::begin(kGenericFrames), std::end(kGenericFrames),
                                                [&](const Generics& row) { return row.names.contains(command.name); });
-        const bool isGeneric = found != std::end(kTableFrames);
-        EXPECT_EQ(command.parse == Command::Frame::Table, isGeneric) << command.name;
-        EXPECT_EQ(command.pack == Command::Frame::Table, isGeneric && command.name != "DeviceInfo") << command.name;
+        const bool isGeneric = found != std::end(kGenericFrames);
+        EXPECT_EQ(command.parse == Command::Frame::Generic, isGeneric) << command.name;
+        EXPECT_EQ(command.pack == Command::Frame::Generic, isGeneric && command.name != "DeviceInfo") << command.name;
         if (isGeneric) {
-            EXPECT_EQ(command.tableFrame, found->frame) << command.name;
+            EXPECT_EQ(command.genericFrame, found->frame) << command.name;
         }
     }
 }

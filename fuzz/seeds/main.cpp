@@ -1,8 +1,8 @@
 // Writes the seeds of the fuzz targets, made from the tables: for each command that differs from the others, for each
 // analysis rule and for each event, in several circumstances: fuzz_seeds DIRECTORY
 #include "analyse/EventTypeRegistry.h"
-#include "analyse/RuleBodyTable.h"
-#include "events/EventTable.h"
+#include "analyse/RuleBodyMap.h"
+#include "events/EventMap.h"
 #include "frame/PackedItems.h"
 #include "support/FuzzInput.h"
 #include "support/TableText.h"

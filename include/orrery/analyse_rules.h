@@ -34,8 +34,8 @@ extern "C" {
  * more than fits, or a rule of a type that is not known, the call gives 0 and nRuleCount stays too; the buffer is
  * untouched when it is too small, and is cleared whole before the first rule is read. No "table" gives no rule.
  * Writing: items as above; nRuleSize may be larger than the type's record, never smaller. No rules give the empty list,
- * also for a negative count or a null pRuleBuf, but then the call gives 0. The text may fill its buffer to the last
- * byte, where the terminator takes the place of its newline. */
+ * also for a negative count or a null pRuleBuf, but then the call gives 0 and leaves `[  ]` with a newline. The text
+ * may fill its buffer to the last byte, where the terminator takes the place of its newline. */
 typedef struct CFG_ANALYSERULES_INFO {
     int32_t nRuleCount; /* rules in the buffer */
     uint8_t* pRuleBuf;  /* the buffer */

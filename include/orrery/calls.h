@@ -27,11 +27,10 @@ uint32_t ORRERY_Version(void);
  *                 What follows the first complete JSON value is ignored.
  * buffer          Takes the record. Need not be aligned. Must not be null. Unless the command's record says otherwise,
  *                 all of it is cleared first and stays so on failure, and what the text leaves out is zero.
- * bufferSize      Bytes at `buffer`, at least one record, but for "Network". Records that do not fit whole are left
- *                 out.
- * returnedLength  Bytes of record data. May be null. "G3G4AutoChange", "CabinLedTimeSchedule", "PwdReset", "WLan",
- *                 "Https" and those whose headers say so add to what it holds: set it to 0 first. They take a missing
- *                 table as nothing to read.
+ * bufferSize      Bytes at `buffer`, at least one record unless the record's header says otherwise. Records that do not
+ *                 fit whole are left out.
+ * returnedLength  Bytes of record data. May be null. Some commands add to what it holds, as their headers say: set it
+ *                 to 0 first. They take a missing "table" as nothing to read.
  *
  * Text fields are terminated within their capacity and are in the encoding of the locale (LC_CTYPE); under UTF-8, the
  * C locale and a codeset that iconv does not know they are the device's bytes. What the encoding lacks is a '?'. A text
@@ -47,17 +46,14 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  * command       As above. Must not be null.
  * record        The record, or the array of records. Need not be aligned. Must not be null. Counts above the room of
  *               their array end at the array.
- * recordSize    Bytes at `record`. What is below one record is refused, but for the commands named under
- *               returnedLength above: missing bytes read as zero where a text holds one record, and where it may hold
- *               several there is none, `null`.
+ * recordSize    Bytes at `record`. What is below one record is refused, but for the commands that add to the length
+ *               (above): missing bytes read as zero where a text holds one record, and where it may hold several there
+ *               is none, `null`.
  * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. What is behind
  *               the terminator is cleared. A call that is refused before it writes (a null, an unknown command, a
- *               record too small) leaves the buffer alone; every other failure leaves it cleared whole. Otherwise:
- *               "MotionDetect" leaves it alone on every failure and behind the terminator, and "VideoAnalyseRule" and
- *               "AudioAnalyseRule" leave `[  ]`, with a newline, when rules are told of that are not there.
- * textCapacity  Bytes at `textBuffer`. For most commands the text must be shorter. For the alarm input commands other
- *               than "MotionDetect", and where the command's header says so, a text of exactly that length is taken too
- *               and loses its newline or its terminator.
+ *               record too small) leaves the buffer alone; every other failure leaves it cleared whole, unless the
+ * record's header says otherwise. textCapacity  Bytes at `textBuffer`. The text must be shorter. Where the record's
+ * header says so, a text of exactly that length is taken too and loses its newline or its terminator.
  *
  * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
 int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,

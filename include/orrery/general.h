@@ -13,7 +13,7 @@ extern "C" {
  *
  * "LightGlobal" may be a list too: an element a record, as many as fit, of which a null one leaves its record cleared
  * and is counted. A missing table and other types fail, an empty list succeeds with a length of 0. Written is one bare
- * record or a list of several. */
+ * record or a list of several. Of the others the length is added to what `returnedLength` holds. */
 typedef struct CFG_ENABLE_INFO {
     uint32_t bEnable; /* "Enable": 1 on, 0 off or absent */
 } CFG_ENABLE_INFO;

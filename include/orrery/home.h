@@ -1,7 +1,7 @@
 /* The home: lights, curtains, fresh air, floor heating, and scenes that set all of them.
  *
  * A table that is an array gives a record an element; a null element leaves its record cleared and is not counted.
- * Anything else, and an empty array, is one record. The length of a call is added to: set it to 0 first. A table that
+ * Anything else, and an empty array, is one record. The length is added to what `returnedLength` holds. A table that
  * is null or absent reads nothing and adds nothing. Written are as many records as fit the size: always as a list, but
  * for one bare record of "SceneMode"; null when none fits. Texts must be shorter than their buffer. Keys that are
  * absent leave 0 unless told otherwise. */

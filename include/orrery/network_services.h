@@ -134,7 +134,7 @@ typedef struct CFG_SERVER_CERTIFICATE {
     int32_t nUsefulLife;         /* "UsefulLife": days */
 } CFG_SERVER_CERTIFICATE;
 
-/* "Https". */
+/* "Https". The length is added to what `returnedLength` holds. */
 typedef struct CFG_HTTPS_INFO {
     int32_t bEnable;                             /* "Enable" */
     int32_t nPort;                               /* "Port": 443 as a rule */

@@ -106,7 +106,8 @@ typedef struct CFG_WLAN_ENTRY {
     CFG_WLAN_NETWORK stuNetwork;        /* "Network" */
 } CFG_WLAN_ENTRY;
 
-/* "WLan". The table is a list of networks; anything else gives a cleared record. Without networks the text is null. */
+/* "WLan". The table is a list of networks; anything else gives a cleared record. Without networks the text is null.
+ * The length is added to what `returnedLength` holds. */
 typedef struct CFG_WLAN_INFO {
     int32_t nNum;                                /* entries of stuWlan in use */
     CFG_WLAN_ENTRY stuWlan[ORRERY_WLAN_ENTRIES]; /* the first eight elements */

@@ -78,24 +78,6 @@ constexpr auto kIndex = [] {
     return index;
 }();
 
-// ---- The lists are whole: no name twice, and as many names and codes as devices know ----
-
-template <class Row, std::size_t N, class Test>
-constexpr std::size_t NamesOf(const Row (&rows)[N], Test test) {
-    return static_cast<std::size_t>(std::count_if(std::begin(rows), std::end(rows), test));
-}
-
-template <class Row, std::size_t N, class Test>
-constexpr std::size_t CodesOf(const Row (&rows)[N], Test test) {
-    std::array<std::int32_t, N> codes{};
-    std::size_t count = 0;
-    for (const Row& row : rows) {
-        if (test(row)) codes[count++] = row.code;
-    }
-    std::sort(codes.begin(), codes.begin() + count);
-    return static_cast<std::size_t>(std::unique(codes.begin(), codes.begin() + count) - codes.begin());
-}
-
 template <class Row, std::size_t N>
 constexpr bool NamesDiffer(const Row (&rows)[N]) {
     std::array<std::string_view, N> names{};
@@ -104,16 +86,6 @@ constexpr bool NamesDiffer(const Row (&rows)[N]) {
     return std::adjacent_find(names.begin(), names.end()) == names.end();
 }
 
-static_assert(NamesOf(kRuleNames, IsRead) == 181 && CodesOf(kRuleNames, IsRead) == 179);
-static_assert(NamesOf(kRuleNames, IsWritten) == 177 && CodesOf(kRuleNames, IsWritten) == 177);
-constexpr bool IsAlarmWritten(const AlarmName& row) {
-    return row.written;
-}
-constexpr bool IsAlarm(const AlarmName&) {
-    return true;
-}
-static_assert(NamesOf(kAlarmNames, IsAlarm) == 285 && CodesOf(kAlarmNames, IsAlarm) == 283);
-static_assert(NamesOf(kAlarmNames, IsAlarmWritten) == 282 && CodesOf(kAlarmNames, IsAlarmWritten) == 282);
 static_assert(NamesDiffer(kRuleNames) && NamesDiffer(kAlarmNames));
 
 std::string_view Named(const RowsByCode& rows, std::int32_t code) {

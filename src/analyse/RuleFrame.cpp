@@ -1,7 +1,7 @@
 #include "analyse/RuleFrame.h"
 
 #include "analyse/EventTypeRegistry.h"
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "analyse/RuleClasses.h"
 #include "analyse/RuleParts.h"
 #include "frame/Deliver.h"

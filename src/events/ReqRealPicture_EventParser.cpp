@@ -1,7 +1,7 @@
 // From one array of events to records in the list.
 #include "analyse/EventTypeRegistry.h"
 #include "events/EventLog.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
 
 #include <algorithm>

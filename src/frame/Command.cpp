@@ -8,8 +8,8 @@ Outcome Parse(const Command& command, const ParseRequest& request) noexcept {
     switch (command.parse) {
     case Command::Frame::None:
         break;
-    case Command::Frame::Table:
-        return ParseTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Generic:
+        return ParseGeneric(*command.table, command.genericFrame, request);
     case Command::Frame::Family:
         return ParseFamily(*command.table, command.parseFrame, request);
     case Command::Frame::Own:
@@ -22,8 +22,8 @@ Outcome Pack(const Command& command, const PackRequest& request) noexcept {
     switch (command.pack) {
     case Command::Frame::None:
         break;
-    case Command::Frame::Table:
-        return PacketTableFrame(*command.table, command.tableFrame, request);
+    case Command::Frame::Generic:
+        return PacketGeneric(*command.table, command.genericFrame, request);
     case Command::Frame::Family:
         return PacketFamily(*command.table, command.packFrame, request);
     case Command::Frame::Own:

@@ -9,14 +9,14 @@
 namespace orrery {
 
 struct Command {
-    enum class Frame : std::uint8_t { None, Table, Family, Own };
+    enum class Frame : std::uint8_t { None, Generic, Family, Own };
 
     std::string_view name;
     const record::Table* table = nullptr;      // also the tools' view of a buffer that functions of its own serve
     const record::Table* otherTable = nullptr; // the record of a buffer of exactly its size, for a command of two forms
     Frame parse = Frame::None;
     Frame pack = Frame::None;
-    TableFrame tableFrame;
+    GenericFrame genericFrame;
     ParseFrame parseFrame;
     PackFrame packFrame;
     Outcome (*ownParse)(const ParseRequest& request) = nullptr;

@@ -13,7 +13,7 @@
 namespace orrery {
 
 // Declared only: a row that reaches it does not compile.
-void a_command_stands_in_the_table_twice();
+void a_command_stands_in_the_map_twice();
 
 template <std::size_t N>
 class CommandIndex {
@@ -23,7 +23,7 @@ class CommandIndex {
         for (std::uint16_t i = 0; i < N; ++i) {
             std::size_t slot = Hash(commands[i].name) % slots_.size();
             for (; slots_[slot] != kFree; slot = (slot + 1) % slots_.size()) {
-                if (SameFolded(commands[slots_[slot]].name, commands[i].name)) a_command_stands_in_the_table_twice();
+                if (SameFolded(commands[slots_[slot]].name, commands[i].name)) a_command_stands_in_the_map_twice();
             }
             slots_[slot] = i;
         }

@@ -229,15 +229,15 @@ struct PackFrame {
     }
 };
 
-// ---- The generic table frame -------------------------------------------------------------------------------------
+// ---- The generic frame -------------------------------------------------------------------------------------
 
-struct TableFrame {
+struct GenericFrame {
     bool arrayForm = false;     // the table may be an array of records
     std::uint8_t dimension = 0; // array levels that one record itself has
     bool zeroBuffer = false;    // parse: the whole buffer is cleared first
     bool alwaysArray = false;   // pack: an array also for one record
 
-    bool operator==(const TableFrame&) const = default;
+    bool operator==(const GenericFrame&) const = default;
 };
 
 // Why a call answered 0. The exports keep it to themselves; tools tell their user.
@@ -277,7 +277,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
 Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const PackRequest& request) noexcept;
 
 // Adds each record that it reads to `*returnedLength`; a null element leaves a gap that is not counted.
-Outcome ParseTableFrame(const record::Table& table, const TableFrame& frame, const ParseRequest& request) noexcept;
-Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept;
+Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, const ParseRequest& request) noexcept;
+Outcome PacketGeneric(const record::Table& table, const GenericFrame& frame, const PackRequest& request) noexcept;
 
 } // namespace orrery

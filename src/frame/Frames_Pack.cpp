@@ -148,9 +148,7 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
         return Outcome::Done;
     }
     if (content.form == Form::One) count = 1;
-    // Records of this library's own layout are written from where they stand.
-    const bool isOwnLayout = frame.stride == Stride::SizeWord && stride == table.size && !table.guarded;
-    if (frame.stride == Stride::Record || isOwnLayout) return Deliver(content, frame, request);
+    if (frame.stride == Stride::Record) return Deliver(content, frame, request);
 
     StackArena<std::size_t{4} << 10> arena;
     const LocalRecord local{{table, frame.stride, stride}, arena.Array<std::byte>(table.size)};
@@ -163,7 +161,7 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
     return Deliver(content, frame, request);
 }
 
-Outcome PacketTableFrame(const record::Table& table, const TableFrame& frame, const PackRequest& request) noexcept {
+Outcome PacketGeneric(const record::Table& table, const GenericFrame& frame, const PackRequest& request) noexcept {
     const auto* const first = static_cast<const std::byte*>(request.record);
     Content content{table, {first, 1, table.size}, Form::One, {}, true};
     std::uint32_t& count = content.records.count;

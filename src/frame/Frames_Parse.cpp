@@ -108,7 +108,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     return call.refused ? Outcome::RowRefused : Outcome::Done;
 }
 
-Outcome ParseTableFrame(const record::Table& table, const TableFrame& frame, const ParseRequest& request) noexcept {
+Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, const ParseRequest& request) noexcept {
     if (request.bufferSize < table.size) return Outcome::BufferTooSmall;
     auto* element = static_cast<std::byte*>(request.buffer);
     if (frame.zeroBuffer) std::memset(element, 0, request.bufferSize);

@@ -32,8 +32,7 @@ class ReplyRecords {
         : table_(table), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
           room_(request.bufferSize / stride), clears_(frame.clearing == Clearing::Read),
           isVersioned_(frame.stride != Stride::Record), versioned_(table, frame.stride, stride), call_(call) {
-        inPlace_ = isVersioned_ && versioned_.readsInPlace();
-        if (isVersioned_ && !inPlace_) local_ = call.parser.text().arena().Array<std::byte>(table.size);
+        if (isVersioned_) local_ = call.parser.text().arena().Array<std::byte>(table.size);
     }
 
     bool isFull() const noexcept { return used_ == room_; }
@@ -57,12 +56,6 @@ class ReplyRecords {
   private:
     // A record that ends the call stays as the caller had it.
     void ReadVersioned(const json::Value& value, std::byte* at, std::string_view memberName) noexcept {
-        if (inPlace_) {
-            const auto word = record::Load<std::uint32_t>(at);
-            versioned_.Prepare(at);
-            record::ReadRecord(table_, value, at, call_, memberName);
-            return record::Store(at, word);
-        }
         if (local_ == nullptr) return;
         const bool wasRefused = std::exchange(call_.refused, false);
         versioned_.Start(at, local_);
@@ -79,7 +72,6 @@ class ReplyRecords {
     std::uint32_t filled_ = 0;
     bool clears_;
     bool isVersioned_;
-    bool inPlace_ = false;
     VersionedRecords versioned_;
     std::byte* local_ = nullptr;
     record::ReadCall& call_;

@@ -1,5 +1,5 @@
 // Every text of every enumeration of the rules, both ways, and every key of the size filter on its own.
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "frame/record/Engine.h"
 #include "orrery/analyse_rules.h"
 #include "orrery/rule_bodies.h"

@@ -1,5 +1,5 @@
 // Every record against every kind of value at every key: what the tables say, nothing beside it.
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "analyse/RuleFrame.h"
 #include "support/CommandCalls.h"
 #include "support/RuleBuffer.h"

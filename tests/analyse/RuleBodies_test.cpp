@@ -1,6 +1,6 @@
 #include "analyse/RuleBodies.h"
 
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "analyse/RuleFrame.h"
 #include "support/RuleBuffer.h"
 

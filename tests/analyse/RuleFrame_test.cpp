@@ -3,7 +3,7 @@
 #include "orrery/rule_bodies.h"
 #include "orrery/traffic_rules.h"
 
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "support/RuleBuffer.h"
 
 #include "orrery/log.h"

@@ -8,7 +8,8 @@ for flag in "$@"; do
     if [[ $flag == -DCASE=* ]]; then case=" ${flag#-DCASE=}"; fi
 done
 phrase=$(sed -n 's|^.*must not compile'"$case"': \(.*[^ */]\)[ */]*$|\1|p' "$file")
-[ -n "$phrase" ] || { echo "$file has no line 'must not compile: phrase'" >&2; exit 1; }
+later=$(sed -n 's|^.*must not compile, as a note tells: \(.*[^ */]\)[ */]*$|\1|p' "$file")
+[ -n "$phrase$later" ] || { echo "$file has no line 'must not compile: phrase'" >&2; exit 1; }
 
 if ! "$@" -DGOOD -fsyntax-only "$file"; then
     echo "the correct form does not compile" >&2
@@ -20,7 +21,12 @@ if messages=$("$@" -fsyntax-only "$file" 2>&1); then
 fi
 # The compiler quotes the source; the phrase must come from a message, not from that quotation. Not grep -q: it would
 # leave before the first grep has written all, which then fails.
-if ! grep -E '(error|note):' <<<"$messages" | grep -F -- "$phrase" >/dev/null; then
-    printf '%s\n' "$messages" "the wrong form is refused, but not for: $phrase" >&2
+if [ -n "$phrase" ]; then
+    told=$(grep -m 1 'error:' <<<"$messages")
+else
+    told=$(grep -E '(error|note):' <<<"$messages")
+fi
+if ! grep -F -- "$phrase$later" <<<"$told" >/dev/null; then
+    printf '%s\n' "$messages" "the wrong form is refused, but not for: $phrase$later" >&2
     exit 1
 fi

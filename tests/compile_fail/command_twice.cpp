@@ -1,5 +1,5 @@
-// A command stands in the command table once, whatever its letters' case.
-// must not compile: a_command_stands_in_the_table_twice
+// A command stands in the command map once, whatever its letters' case.
+// must not compile, as a note tells: a_command_stands_in_the_map_twice
 #include "frame/CommandIndex.h"
 
 using namespace orrery;

@@ -1,5 +1,5 @@
 // Records at the caller's stride are not the library's own: words that reach into the buffer do not go with them.
-// must not compile: a_word_that_does_not_go_with_a_size_word
+// must not compile, as a note tells: a_word_that_does_not_go_with_a_size_word
 #include "frame/Command.h"
 
 using namespace orrery;

@@ -1,5 +1,5 @@
 // A va_list that came as a parameter is a pointer already; its address would be no argument list.
-// must not compile: LogOne_ArgumentList
+// must not compile, as a note tells: LogOne_ArgumentList
 #include <orrery/log.h>
 
 void Forward(const char* format, va_list list) {

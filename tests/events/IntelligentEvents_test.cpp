@@ -1,5 +1,5 @@
 // Every intelligent event from a text that sets every key, from one that sets none, and field by field in its order.
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "orrery/events_common.h"
 #include "orrery/events_intelligent_crossing.h"
 #include "orrery/events_intelligent_detection.h"

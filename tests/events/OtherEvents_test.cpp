@@ -1,6 +1,6 @@
 // The events of devices, fleets, doors and cards: each from a text that sets every key, from one that sets none, and
 // field by field in its order.
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
 #include "orrery/events_common.h"
 #include "orrery/events_other_access.h"

@@ -1,5 +1,5 @@
 // Every traffic event from a text that sets every key, from one that sets none, and field by field in its order.
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
 #include "orrery/events_common.h"
 #include "orrery/events_traffic_conduct.h"
@@ -616,7 +616,7 @@ TEST(TrafficEvents, SpeedLimitsComeInPairs) {
     CheckLimits<DEV_EVENT_TRAFFICUNDERSPEED_INFO>("TrafficUnderSpeed");
 }
 
-TEST(EventTable, RowsAreFoundByTheirCodes) {
+TEST(EventMap, RowsAreFoundByTheirCodes) {
     for (const events::EventRow& row : events::Events()) {
         EXPECT_EQ(events::FindEvent(row.code), &row);
         EXPECT_EQ(row.recordSize, row.table->size);

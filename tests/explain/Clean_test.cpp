@@ -3,8 +3,8 @@
 #include "explain/Explained.h"
 
 #include "analyse/EventTypeRegistry.h"
-#include "analyse/RuleBodyTable.h"
-#include "events/EventTable.h"
+#include "analyse/RuleBodyMap.h"
+#include "events/EventMap.h"
 #include "explain/Explain.h"
 #include "frame/PackedItems.h"
 #include "support/Specimens.h"

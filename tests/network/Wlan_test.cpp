@@ -7,7 +7,7 @@
 namespace orrery::test {
 namespace {
 
-// The generic table frame adds to the length.
+// The generic frame adds to the length.
 std::unique_ptr<CFG_WLAN_INFO> ParseWlan(const std::string& table) {
     auto record = Cleared<CFG_WLAN_INFO>();
     std::memset(static_cast<void*>(record.get()), kUntouched, sizeof(CFG_WLAN_INFO));

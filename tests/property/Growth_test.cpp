@@ -1,6 +1,6 @@
 // Texts that a hostile device makes to cost more than their length. The bound is processor time that only work beyond
 // linear comes near: a linear pass over the longest of these texts takes milliseconds, a quadratic one minutes.
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "frame/record/Engine.h"
 #include "orrery/events_intelligent_crossing.h"
 #include "support/CommandCalls.h"
@@ -103,7 +103,7 @@ TEST(Growth, DepthLengthAndRepetition) {
     Spread spread(shorter.size(), some, 0);
     for (const Command& command : DistinctCommands()) {
         if (!command.parses()) continue;
-        const TableFrame& frame = command.tableFrame;
+        const GenericFrame& frame = command.genericFrame;
         const bool first = seen.emplace(command.parse, frame.arrayForm, frame.dimension).second;
         for (const HostileValue& value : first ? longest : shorter) {
             if (first || spread.Takes()) Finishes(command, Envelope(command, JsonTree(value.text)).Text(), value.what);

@@ -105,7 +105,7 @@ TEST(Packing, RecordsOfAnySize) {
             char* const record = buffer.data() + buffer.size() - size;
             std::memcpy(record, twice.data(), size);
             const Packed packed = Pack(command, record, size);
-            const bool mayBeShort = command.pack == Command::Frame::Table;
+            const bool mayBeShort = command.pack == Command::Frame::Generic;
             const bool mustBeExact = command.pack == Command::Frame::Family && command.packFrame.exactSize;
             const bool fits = mustBeExact ? size == whole : mayBeShort || size >= whole;
             ASSERT_EQ(packed.outcome, fits ? Outcome::Done : Outcome::RecordTooSmall) << command.name << " " << size;

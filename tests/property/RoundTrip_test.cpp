@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 // Where packing gives a list and parsing takes one record, or the other way about, the text is not the reply's form.
 bool FormsAgree(const Command& command) {
-    if (command.pack == Command::Frame::Table) return true;
+    if (command.pack == Command::Frame::Generic) return true;
     if (command.pack != Command::Frame::Family) return false;
     const bool byMember = command.packFrame.form == Form::ByMember;
     const Take take = command.parseFrame.take;

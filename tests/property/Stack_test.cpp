@@ -1,8 +1,8 @@
 // The stack that calls need, as orrery.h tells it, for every command and every event, on a thread that has no more than
 // 96 KB of it: what runs past that ends the program at an unreadable page.
 #include "analyse/EventTypeRegistry.h"
-#include "analyse/RuleBodyTable.h"
-#include "events/EventTable.h"
+#include "analyse/RuleBodyMap.h"
+#include "events/EventMap.h"
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_rules.h"
 #include "support/CommandCalls.h"

@@ -46,7 +46,7 @@ TEST(TextLeft, ARecordOneByteShortLeavesTheBufferAlone) {
         const Specimen specimen(command);
         std::string text(256, kBefore);
         const Outcome outcome = RunPack(command, {specimen.record.data(), command.table->size - 1, text.data(), 256});
-        if (outcome != Outcome::RecordTooSmall) continue; // those of the table frame take what there is
+        if (outcome != Outcome::RecordTooSmall) continue; // those of the generic frame take what there is
         ++refused;
         EXPECT_TRUE(IsAll(text, kBefore)) << command.name;
     }

@@ -75,8 +75,8 @@ void CallerMemory::PrepareBuffer(const Command& command, std::byte* buffer, std:
         return PrepareRecord(*command.otherTable, buffer);
     const Table& table = *command.table;
     const bool looks = !command.parses() ? true // what it writes is behind them
-                       : command.parse == Command::Frame::Table
-                           ? !command.tableFrame.zeroBuffer
+                       : command.parse == Command::Frame::Generic
+                           ? !command.genericFrame.zeroBuffer
                            : command.parse == Command::Frame::Own || command.parseFrame.clearing != Clearing::Buffer
                                  || command.parseFrame.stride != Stride::Record
                                  || command.parseFrame.accepts != nullptr;

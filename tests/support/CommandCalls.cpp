@@ -41,7 +41,7 @@ void CheckFailure(const Command& command, Outcome outcome, std::span<const std::
     }
     if (!ClearsBuffer(command)) return;
     const bool parsed = outcome != Outcome::NoJson && outcome != Outcome::OutOfMemory;
-    if (!parsed || command.parse == Command::Frame::Table || command.parseFrame.parsed == nullptr) {
+    if (!parsed || command.parse == Command::Frame::Generic || command.parseFrame.parsed == nullptr) {
         EXPECT_TRUE(IsAll(bytes, std::byte{0}))
             << command.name << ": not cleared by failure " << static_cast<int>(outcome);
         return;
@@ -54,7 +54,7 @@ void CheckFailure(const Command& command, Outcome outcome, std::span<const std::
 } // namespace
 
 bool ClearsBuffer(const Command& command) {
-    if (command.parse == Command::Frame::Table) return command.tableFrame.zeroBuffer;
+    if (command.parse == Command::Frame::Generic) return command.genericFrame.zeroBuffer;
     return command.parse == Command::Frame::Family && command.parseFrame.clearing == Clearing::Buffer;
 }
 
@@ -283,9 +283,8 @@ class Comparison {
             to = record::Load<const std::byte*>(to);
             count = field.capacity.exists() ? static_cast<std::size_t>(record::LoadSlot(field.capacity, written)) : 1;
             if (from == nullptr || to == nullptr) return;
-            if (field.table != nullptr) size = field.table->size;
         }
-        if (field.count.exists() && (field.kind != Kind::Custom || field.cell == Cell::Pointer)) {
+        if (field.count.exists() && field.kind != Kind::Custom) {
             const auto used = static_cast<std::size_t>(record::LoadSlot(field.count, written));
             count = std::min(count, used * (field.rank > 1 ? count / field.dims[0] : 1));
         }

@@ -32,10 +32,10 @@ struct Filled {
 };
 
 template <class R>
-Filled<R> Parse(const record::Table& table, const TableFrame& frame, const std::string& text, std::size_t size) {
+Filled<R> Parse(const record::Table& table, const GenericFrame& frame, const std::string& text, std::size_t size) {
     Filled<R> filled;
     filled.bytes.assign(size, 0xCD);
-    filled.outcome = ParseTableFrame(
+    filled.outcome = ParseGeneric(
         table, frame, {text.c_str(), filled.bytes.data(), static_cast<std::uint32_t>(size), &filled.length});
     return filled;
 }
@@ -64,10 +64,10 @@ struct Written {
     bool isUntouched() const { return bytes == std::string(bytes.size(), '#'); }
 };
 
-inline Written Pack(const record::Table& table, const TableFrame& frame, const void* record, std::size_t size,
+inline Written Pack(const record::Table& table, const GenericFrame& frame, const void* record, std::size_t size,
                     std::size_t capacity = 1000) {
     Written written{Outcome::BadArguments, std::string(capacity, '#')};
-    written.outcome = PacketTableFrame(
+    written.outcome = PacketGeneric(
         table, frame,
         {record, static_cast<std::uint32_t>(size), written.bytes.data(), static_cast<std::uint32_t>(capacity)});
     return written;

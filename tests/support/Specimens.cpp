@@ -279,12 +279,12 @@ Command Both(std::string_view name, const Table& table, ParseFrame parse, PackFr
     return command;
 }
 
-Command Generic(std::string_view name, const Table& table, TableFrame frame) {
+Command Generic(std::string_view name, const Table& table, GenericFrame frame) {
     Command command;
     command.name = name;
     command.table = &table;
-    command.parse = command.pack = Command::Frame::Table;
-    command.tableFrame = frame;
+    command.parse = command.pack = Command::Frame::Generic;
+    command.genericFrame = frame;
     return command;
 }
 
@@ -357,7 +357,7 @@ const std::vector<Command>& DistinctCommands() {
         for (const Command& command : AllCommands()) {
             const bool known = std::any_of(commands.begin(), commands.end(), [&](const Command& other) {
                 return other.table == command.table && other.parse == command.parse && other.pack == command.pack
-                       && other.tableFrame == command.tableFrame && other.parseFrame == command.parseFrame
+                       && other.genericFrame == command.genericFrame && other.parseFrame == command.parseFrame
                        && other.packFrame == command.packFrame && other.ownParse == command.ownParse
                        && other.ownPack == command.ownPack;
             });

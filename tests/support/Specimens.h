@@ -1,4 +1,4 @@
-// Commands for tests that sweep the command table: every command of the library, and specimens that use the words of
+// Commands for tests that sweep the command map: every command of the library, and specimens that use the words of
 // tables and frames which no command uses yet.
 #pragma once
 

@@ -308,7 +308,7 @@ bool TakesMembers(const Command& command) {
 }
 
 bool TakesMany(const Command& command) {
-    if (command.parse == Command::Frame::Table) return command.tableFrame.arrayForm;
+    if (command.parse == Command::Frame::Generic) return command.genericFrame.arrayForm;
     if (command.parse != Command::Frame::Family) return false;
     return !TakesOneRecord(command.parseFrame.take);
 }

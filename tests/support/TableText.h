@@ -1,5 +1,5 @@
 // Device replies made from a command's record table alone: they set every key that the table can read, so whoever
-// sweeps the command table needs no sample of any command.
+// sweeps the command map needs no sample of any command.
 #pragma once
 
 #include "Commands.h"

@@ -10,7 +10,7 @@
 #include "orrery/orrery.h"
 
 #include "Commands.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 

@@ -56,7 +56,7 @@ TEST(Layout, PrintsEachRowWithItsRules) {
     EXPECT_TRUE(has("  0 0 virtual - - \"DetectVersion\" Custom write(function)"));
     EXPECT_TRUE(has("  1 \"NO\""));
     EXPECT_TRUE(has("command PwdReset CFG_ENABLE_INFO"));
-    EXPECT_TRUE(has("  parse table dimension=0 zeroBuffer"));
+    EXPECT_TRUE(has("  parse generic dimension=0 zeroBuffer"));
 }
 
 TEST(Describe, ShowsCommandsAndRecords) {

@@ -3,7 +3,7 @@
 #include "tools/DebugInfo.h"
 
 #include "Commands.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/TypedText.h"
 
 #include <fstream>

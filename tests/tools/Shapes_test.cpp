@@ -42,10 +42,10 @@ Command Make(const record::Table& table, ParseFrame parse, PackFrame pack = {}) 
     return command;
 }
 
-Command MakeTable(const record::Table& table, TableFrame frame) {
+Command MakeTable(const record::Table& table, GenericFrame frame) {
     Command command = Make(table, {});
-    command.parse = command.pack = Command::Frame::Table;
-    command.tableFrame = frame;
+    command.parse = command.pack = Command::Frame::Generic;
+    command.genericFrame = frame;
     return command;
 }
 
@@ -95,7 +95,7 @@ TEST(Shapes, RecordsByMember) {
                           "{ \"a\" : { \"Value\" : 1 }, \"b\" : { \"Value\" : 2 } }\n");
 }
 
-TEST(Shapes, TheTableFrameTellsListsFromRecords) {
+TEST(Shapes, TheGenericFrameTellsListsFromRecords) {
     const Command command = MakeTable(kPlace, {.arrayForm = true, .zeroBuffer = true});
     EXPECT_EQ(ParseText(command, Envelope(R"({"X":5})"), {.pack = true}).out,
               "{ \"nX\": 5, \"nY\": 0 }\n{ \"X\" : 5, \"Y\" : 0 }\n");

@@ -2,7 +2,7 @@
 #include "orrery/ShowEvents.h"
 #include "orrery/events_other_access.h"
 
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 
 #include "orrery/calls.h"
 

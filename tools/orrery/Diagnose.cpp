@@ -160,7 +160,7 @@ Reply LookAt(const Command& command, const Value& root) {
     const Value& params = root["params"];
     reply.value = &params["table"];
     reply.path = "params.table";
-    Take take = command.tableFrame.arrayForm ? Take::AnyOrMany : Take::One;
+    Take take = command.genericFrame.arrayForm ? Take::AnyOrMany : Take::One;
     if (command.parse == Command::Frame::Family) {
         const ParseFrame& frame = command.parseFrame;
         take = frame.takesBy != nullptr ? frame.takesBy(root) : frame.take;
@@ -186,7 +186,7 @@ Reply LookAt(const Command& command, const Value& root) {
     } else if (take == Take::AnyOrMany) {
         // An array of as many levels as one record has is that record itself.
         StackArena<4096> arena;
-        if (json::ArrayDepth(*reply.value, 4, arena) != command.tableFrame.dimension + 1) take = Take::One;
+        if (json::ArrayDepth(*reply.value, 4, arena) != command.genericFrame.dimension + 1) take = Take::One;
     }
     const Value& value = *reply.value;
     const bool byMember = take == Take::ByMember || take == Take::ByMemberOrNone;

@@ -209,7 +209,7 @@ std::size_t Parse::RecordsRead(const Reply& reply) const {
         if (command_.parseFrame.length == ReplyLength::Told) return std::min<std::size_t>(room, 1);
         if (returned == 0) return 0;
         return command_.parseFrame.length == ReplyLength::PerRecord ? returned : std::max<std::size_t>(held, 1);
-    case Command::Frame::Table:
+    case Command::Frame::Generic:
         return returned == 0 ? 0 : held; // null elements keep their place without being counted
     default:
         return std::min(returned, room);

@@ -3,7 +3,7 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/TypedText.h"
 #include "frame/PackedItems.h"
 

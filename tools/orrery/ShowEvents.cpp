@@ -6,7 +6,7 @@
 
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleFrame.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/TypedText.h"
 
 #include "orrery/calls.h"

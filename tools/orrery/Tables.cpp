@@ -1,7 +1,7 @@
 #include "orrery/Tables.h"
 
 #include "Commands.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/TypedText.h"
 #include "frame/JsonParser.h"
 #include "frame/PackedItems.h"

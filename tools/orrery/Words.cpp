@@ -83,131 +83,116 @@ bool IsIrregular(const Command& command) {
     return command.parse == Command::Frame::Own || command.pack == Command::Frame::Own;
 }
 
+namespace {
+
+// Each word of a row: `tell(short word, sentence)`, either of which may be empty.
+template <class Tell>
+void ForEachWord(const Table& table, const Field& field, const Tell& tell) {
+    const auto say = [&](bool holds, std::string_view word, std::string_view sentence) {
+        if (holds) tell(std::string(word), std::string(sentence));
+    };
+    const auto number = [&](bool holds, std::string_view word, std::int64_t value, std::string_view before,
+                            std::string_view behind) {
+        const std::string digits = std::to_string(value);
+        if (holds) tell(Call(word, digits), Joined({before, digits, behind}));
+    };
+    const auto slot = [&](std::string_view word, const Slot& where, std::string_view before, std::string_view behind) {
+        if (!where.exists()) return;
+        const std::string name = SlotName(table, where);
+        tell(Call(word, name), Joined({before, name, behind}));
+    };
+    const auto nulls = [&](std::string_view word, Nulls rule, std::string_view element) {
+        const std::string_view does = rule == Nulls::LeaveHole ? " keeps its place and does not count"
+                                      : rule == Nulls::CloseUp ? " is passed over"
+                                      : rule == Nulls::Stop    ? " ends the list"
+                                                               : " is an element by its name";
+        if (rule != Nulls::Count) tell(Call(word, Word(rule, kNullsWords)), Joined({element, does}));
+    };
+    const CustomCodec* const own = field.custom;
+    const bool ownRead = own != nullptr && own->read != nullptr;
+    const bool ownWrite = own != nullptr && own->write != nullptr;
+    constexpr const char* kOnlySentences[] = {"",
+                                              "read from texts only",
+                                              "read from true and false only",
+                                              "read from whole numbers only",
+                                              "read from whole numbers above 2147483647 only",
+                                              "read from whole numbers, true and false only",
+                                              "read from lists only"};
+
+    say(ownRead && ownWrite, "", "read and written by a function of its own");
+    say(ownRead && !ownWrite, "", "read only, by a function of its own");
+    say(!ownRead && ownWrite, "", "written only, by a function of its own");
+    say(field.alias, "Alias", "a second key of the field");
+    say(field.writtenAs != field.kind, Call("WrittenAs", KindWord(field.writtenAs)),
+        Joined({"written as ", KindWord(field.writtenAs)}));
+    say(field.always, "Always", "read also when absent, as nothing");
+    number(field.hasDefault, "Absent", field.defaultValue, "", " when absent");
+    say(field.fromRoot, field.writable ? "FromRoot, Writable" : "FromRoot", "its key starts at the whole reply");
+    say(!field.readable, "WriteOnly", "written only");
+    say(!field.writable, field.fromRoot ? "" : "ReadOnly", "read only");
+    say(field.only != OnlyType::Any, Call("Only", Word(field.only, kOnlyWords)), Word(field.only, kOnlySentences));
+    if (field.flag.exists()) {
+        const std::string flag = SlotName(table, field.flag);
+        tell(Call("SetsAndNeeds", flag), Joined({"sets ", flag, " when read; written only when ", flag, " is set"}));
+    }
+    slot(field.countUncapped ? "CountUncapped" : "Count", field.count,
+         "elements in use: ", field.countUncapped ? ", which may exceed the room" : "");
+    slot(field.lent ? "Lent" : "Capacity", field.capacity,
+         field.lent ? "elements asked for: " : "room behind the pointer: ", "");
+    say(field.single, "Single", "one record of the caller's; neither read nor written when the pointer is null");
+    say(field.allOrNone, "AllOrNone", "more elements than room end the call, with none of them read");
+    say(field.counted, "CountsWithoutArray", "elements are counted also when the pointer is null");
+    say(field.anyShape, "AnyShape", "any value is read, as empty when it is no list");
+    say(field.exactly, "Exactly", "read only with exactly as many elements");
+    number(field.atLeast != 0, "AtLeast", field.atLeast, "read only with at least ", " elements");
+    say(field.owned, "Owned", "in a block of its own, null when absent");
+    say(field.keyed && !field.amongKeys, "Keyed", "an object in the text, one member an element");
+    say(field.amongKeys, "AmongKeys", "each a member of the object beside its keys");
+    say(field.untilEmpty, "UntilEmpty", "written up to the first empty one");
+    say(field.zeroed, "Zeroed", "each element is cleared before it is read");
+    nulls("NullElement", field.nulls, "a null element");
+    nulls("RefusedElement", field.refused, "an element of the wrong shape");
+    slot("ReadIf", field.readCondition, "read only when ", " is set");
+    number(field.firstBytes != 0, "FirstBytes", field.firstBytes, "cut at ", " bytes before it is converted");
+    say(field.trueAtOne, "TrueAtOne", "true at exactly 1");
+    number(field.hasUnless, "WriteUnless", field.unless, "not written at ", "");
+    say(field.notNegative, "WriteUnlessNegative", "not written when negative");
+    number(field.atMost != Field::kNoLimit, "WriteAtMost", field.atMost, "written as ", " when larger");
+    slot("WriteIf", field.condition, "written only when ", " is set");
+    say(field.when != nullptr, "WriteIf(function)", "written only when a function of the record says so");
+    say(field.linkage, "WriteIfLinked", "");
+    say(field.empty != Empty::NoKey, Call("WriteEmpty", Word(field.empty, kEmptyWords)),
+        field.empty == Empty::Array ? "written as [ ] when empty" : "written as null when empty");
+    say(field.skipped != Skipped::StaysNull, Call("WriteSkipped", Word(field.skipped, kSkippedWords)),
+        field.skipped == Skipped::Hole ? "elements not written leave a null, but none at the end"
+                                       : "elements not written leave no place");
+    say(field.unlessBare, "WriteUnlessBare", "not written without a key inside");
+    say(field.keepsObject, "KeepsObject", "");
+    say(field.fullCapacity, "WritesCapacity", "written to the end of the room, whatever the count");
+    say(ownRead, "read(function)", "");
+    say(ownWrite, "write(function)", "");
+}
+
+} // namespace
+
 std::vector<std::string> RuleWords(const Table& table, const Field& field) {
     std::vector<std::string> words;
-    const auto add = [&](bool holds, const std::string& word) {
-        if (holds) words.push_back(word);
-    };
-    const auto slot = [&](const char* word, const Slot& where) {
-        if (where.exists()) words.push_back(Call(word, SlotName(table, where)));
-    };
-    add(field.writtenAs != field.kind, Call("WrittenAs", KindWord(field.writtenAs)));
-    add(field.always, "Always");
-    add(field.hasDefault, Call("Absent", std::to_string(field.defaultValue)));
-    add(field.fromRoot, "FromRoot");
-    add(!field.readable, "WriteOnly");
-    add(!field.writable && !field.fromRoot, "ReadOnly");
-    add(field.writable && field.fromRoot, "Writable");
-    add(field.only != OnlyType::Any, Call("Only", Word(field.only, kOnlyWords)));
-    slot("SetsAndNeeds", field.flag);
-    slot(field.countUncapped ? "CountUncapped" : "Count", field.count);
-    slot(field.lent ? "Lent" : "Capacity", field.capacity);
-    add(field.anyShape, "AnyShape");
-    add(field.exactly, "Exactly");
-    add(field.atLeast != 0, Call("AtLeast", std::to_string(field.atLeast)));
-    add(field.owned, "Owned");
-    add(field.keyed && !field.amongKeys, "Keyed");
-    add(field.amongKeys, "AmongKeys");
-    add(field.untilEmpty, "UntilEmpty");
-    add(field.zeroed, "Zeroed");
-    add(field.single, "Single");
-    add(field.allOrNone, "AllOrNone");
-    add(field.counted, "CountsWithoutArray");
-    add(field.nulls != Nulls::Count, Call("NullElement", Word(field.nulls, kNullsWords)));
-    add(field.refused != Nulls::Count, Call("RefusedElement", Word(field.refused, kNullsWords)));
-    slot("ReadIf", field.readCondition);
-    add(field.firstBytes != 0, Call("FirstBytes", std::to_string(field.firstBytes)));
-    add(field.trueAtOne, "TrueAtOne");
-    add(field.hasUnless, Call("WriteUnless", std::to_string(field.unless)));
-    add(field.notNegative, "WriteUnlessNegative");
-    add(field.atMost != Field::kNoLimit, Call("WriteAtMost", std::to_string(field.atMost)));
-    slot("WriteIf", field.condition);
-    add(field.when != nullptr, "WriteIf(function)");
-    add(field.linkage, "WriteIfLinked");
-    add(field.empty != Empty::NoKey, Call("WriteEmpty", Word(field.empty, kEmptyWords)));
-    add(field.skipped != Skipped::StaysNull, Call("WriteSkipped", Word(field.skipped, kSkippedWords)));
-    add(field.unlessBare, "WriteUnlessBare");
-    add(field.keepsObject, "KeepsObject");
-    add(field.fullCapacity, "WritesCapacity");
-    add(field.alias, "Alias");
-    if (field.custom != nullptr) {
-        add(field.custom->read != nullptr, "read(function)");
-        add(field.custom->write != nullptr, "write(function)");
-    }
+    ForEachWord(table, field, [&](const std::string& word, const std::string&) {
+        if (!word.empty()) words.push_back(word);
+    });
     return words;
 }
 
 std::vector<std::string> RuleSentences(const Table& table, const Field& field) {
     std::vector<std::string> rules;
-    const auto add = [&](bool holds, const std::string& rule) {
-        if (holds) rules.push_back(rule);
-    };
-    if (field.custom != nullptr) {
-        add(field.custom->read != nullptr && field.custom->write != nullptr,
-            "read and written by a function of its own");
-        add(field.custom->read != nullptr && field.custom->write == nullptr, "read only, by a function of its own");
-        add(field.custom->read == nullptr && field.custom->write != nullptr, "written only, by a function of its own");
-    }
-    add(field.alias, "a second key of the field");
-    add(field.always, "read also when absent, as nothing");
-    add(field.hasDefault, std::to_string(field.defaultValue) + " when absent");
-    add(field.fromRoot, "its key starts at the whole reply");
-    add(!field.readable, "written only");
-    add(!field.writable, "read only");
-    add(field.only == OnlyType::String, "read from texts only");
-    add(field.only == OnlyType::Bool, "read from true and false only");
-    add(field.only == OnlyType::Integer, "read from whole numbers only");
-    add(field.only == OnlyType::Unsigned, "read from whole numbers above 2147483647 only");
-    add(field.only == OnlyType::Integral, "read from whole numbers, true and false only");
-    add(field.only == OnlyType::Array, "read from lists only");
-    if (field.flag.exists()) {
-        const std::string flag = SlotName(table, field.flag);
-        rules.push_back(Joined({"sets ", flag, " when read; written only when ", flag, " is set"}));
-    }
-    if (field.count.exists()) {
-        rules.push_back("elements in use: " + SlotName(table, field.count)
-                        + (field.countUncapped ? ", which may exceed the room" : ""));
-    }
-    add(field.capacity.exists(),
-        Joined({field.lent ? "elements asked for: " : "room behind the pointer: ", SlotName(table, field.capacity)}));
-    add(field.zeroed, "each element is cleared before it is read");
-    add(field.single, "one record of the caller's; neither read nor written when the pointer is null");
-    add(field.allOrNone, "more elements than room end the call, with none of them read");
-    add(field.counted, "elements are counted also when the pointer is null");
-    add(field.anyShape, "any value is read, as empty when it is no list");
-    add(field.exactly, "read only with exactly as many elements");
-    add(field.atLeast != 0, Joined({"read only with at least ", std::to_string(field.atLeast), " elements"}));
-    add(field.owned, "in a block of its own, null when absent");
-    add(field.keyed && !field.amongKeys, "an object in the text, one member an element");
-    add(field.amongKeys, "each a member of the object beside its keys");
-    add(field.untilEmpty, "written up to the first empty one");
-    add(field.nulls == Nulls::LeaveHole, "a null element keeps its place and does not count");
-    add(field.nulls == Nulls::CloseUp, "null elements are passed over");
-    add(field.nulls == Nulls::Stop, "a null element ends the list");
-    add(field.nulls == Nulls::Named, "a null member is an element by its name");
-    add(field.refused == Nulls::LeaveHole, "an element of the wrong shape keeps its place and does not count");
-    add(field.refused == Nulls::CloseUp, "elements of the wrong shape are passed over");
-    add(field.refused == Nulls::Stop, "an element of the wrong shape ends the list");
-    add(field.readCondition.exists(), Joined({"read only when ", SlotName(table, field.readCondition), " is set"}));
-    add(field.firstBytes != 0, Joined({"cut at ", std::to_string(field.firstBytes), " bytes before it is converted"}));
-    add(field.trueAtOne, "true at exactly 1");
-    add(field.hasUnless, Joined({"not written at ", std::to_string(field.unless)}));
-    add(field.notNegative, "not written when negative");
-    add(field.atMost != Field::kNoLimit, Joined({"written as ", std::to_string(field.atMost), " when larger"}));
-    add(field.condition.exists(), Joined({"written only when ", SlotName(table, field.condition), " is set"}));
-    add(field.when != nullptr, "written only when a function of the record says so");
-    add(field.empty == Empty::Array, "written as [ ] when empty");
-    add(field.empty == Empty::Null, "written as null when empty");
-    add(field.skipped == Skipped::Hole, "elements not written leave a null, but none at the end");
-    add(field.skipped == Skipped::ClosesUp, "elements not written leave no place");
-    add(field.unlessBare, "not written without a key inside");
-    add(field.fullCapacity, "written to the end of the room, whatever the count");
-    add(field.writtenAs != field.kind, std::string("written as ") + KindWord(field.writtenAs));
+    ForEachWord(table, field, [&](const std::string&, const std::string& rule) {
+        if (!rule.empty()) rules.push_back(rule);
+    });
     return rules;
 }
 
 std::string FrameWord(Command::Frame frame) {
-    return Word(frame, {"none", "table", "family", "own"});
+    return Word(frame, {"none", "generic", "family", "own"});
 }
 
 std::string FrameWord(const Command& command) {
@@ -218,7 +203,7 @@ std::string FrameWord(const Command& command) {
 
 namespace {
 
-std::string TableFrameWords(const TableFrame& frame) {
+std::string GenericWords(const GenericFrame& frame) {
     std::string words = " dimension=" + std::to_string(frame.dimension);
     if (frame.arrayForm) words += " arrayForm";
     if (frame.zeroBuffer) words += " zeroBuffer";
@@ -230,7 +215,7 @@ std::string TableFrameWords(const TableFrame& frame) {
 
 std::string ParseWords(const Command& command) {
     std::string words = FrameWord(command.parse);
-    if (command.parse == Command::Frame::Table) return words + TableFrameWords(command.tableFrame);
+    if (command.parse == Command::Frame::Generic) return words + GenericWords(command.genericFrame);
     if (command.parse != Command::Frame::Family) return words;
     const ParseFrame& frame = command.parseFrame;
     words += std::string(" From(") + Word(frame.source, {"Table", "Caps", "CapsOrParams", "Params", "Top", "Result"});
@@ -265,7 +250,7 @@ std::string ParseWords(const Command& command) {
 
 std::string PackWords(const Command& command) {
     std::string words = FrameWord(command.pack);
-    if (command.pack == Command::Frame::Table) return words + TableFrameWords(command.tableFrame);
+    if (command.pack == Command::Frame::Generic) return words + GenericWords(command.genericFrame);
     if (command.pack != Command::Frame::Family) return words;
     const PackFrame& frame = command.packFrame;
     words +=

@@ -8,7 +8,7 @@
 #include "orrery/Tables.h"
 
 #include "Commands.h"
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 #include "events/TypedText.h"
 
 #include <CLI/CLI.hpp>

@@ -74,25 +74,6 @@ void VersionedRecords::Start(const std::byte* caller, std::byte* local) const no
     });
 }
 
-namespace {
-
-bool MayEndCall(const Table& table) noexcept {
-    if (table.afterRead != nullptr) return true;
-    for (const Field& field : table) {
-        if (field.kind == record::Kind::Custom || field.allOrNone) return true;
-        if (field.kind == record::Kind::Record && MayEndCall(*field.table)) return true;
-    }
-    return false;
-}
-
-} // namespace
-
-bool VersionedRecords::readsInPlace() const noexcept {
-    constexpr std::uint32_t kLarge = 4096; // below, the moves cost less than this look at the rows
-    return how_ == Stride::SizeWord && stride_ == table_.size && stride_ >= kLarge && !table_.hasPointers
-           && !MayEndCall(table_);
-}
-
 void VersionedRecords::Return(const std::byte* local, std::byte* caller) const noexcept {
     if (how_ == Stride::SizeWord)
         ParamConvert(local, table_.size, caller, stride_);

@@ -21,9 +21,6 @@ class VersionedRecords {
     // Makes the local record as reading finds it: clear, with its size words, and with the pointers of the caller's
     // record and the room behind them. What else the caller's record holds never shows through.
     void Start(const std::byte* caller, std::byte* local) const noexcept;
-    // Whether a caller's record can be read in its own place: it has this library's layout, nothing of it is handed in,
-    // and no row can end the call and leave it half read. Large records are then written to once instead of thrice.
-    bool readsInPlace() const noexcept;
     // Moves what both layouts have into the caller's record; its size word stays.
     void Return(const std::byte* local, std::byte* caller) const noexcept;
     // Makes the local record that writing goes through; each of the caller's then brings into it what both layouts

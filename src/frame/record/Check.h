@@ -45,6 +45,10 @@ enum class Mistake : unsigned char {
     AKeyHasAnEmptyPart,
     TwoRowsWriteOneKey,
     AKeyIsWrittenAsValueAndObject,
+    AKeyMustNotBeEscaped,
+    ANestedRecordNeedsItsTable,
+    APointerNeedsItsCapacity,
+    RowsDoNotTileTheRecord,
 };
 
 struct RowName {
@@ -68,15 +72,10 @@ constexpr bool IsList(const Field& row) {
 }
 
 constexpr bool SaysOfReading(const Field& row) {
-    return row.always || row.only != OnlyType::Any || row.nulls != Nulls::Count || row.refused != Nulls::Count
-           || row.readCondition.exists() || row.allOrNone || row.counted || row.firstBytes != 0 || row.atLeast != 0
-           || row.exactly || row.anyShape;
+    return static_cast<const ReadingWords&>(row) != ReadingWords{};
 }
 constexpr bool SaysOfWriting(const Field& row) {
-    return row.atMost != Field::kNoLimit || row.hasUnless || row.notNegative || row.condition.exists()
-           || row.when != nullptr || row.untilEmpty || row.linkage || row.empty != Empty::NoKey
-           || row.skipped != Skipped::StaysNull || row.unlessBare || row.keepsObject || row.trueAtOne
-           || row.fullCapacity || row.writtenAs != row.kind;
+    return static_cast<const WritingWords&>(row) != WritingWords{} || row.writtenAs != row.kind;
 }
 
 constexpr bool HasEmptyPart(const char* key) {
@@ -88,14 +87,28 @@ constexpr bool HasEmptyPart(const char* key) {
     return before == '/';
 }
 
+// Keys are copied into the text as they stand.
+constexpr bool NeedsEscape(const char* key) {
+    for (; *key != '\0'; ++key) {
+        if (*key == '"' || *key == '\\' || static_cast<unsigned char>(*key) < 32) return true;
+    }
+    return false;
+}
+
 // The words of one row against its own kind, cell and rank. Functions of a row's own may make anything of them.
 constexpr Mistake MistakeOfWords(const Field& row) {
     if (row.key != nullptr && HasEmptyPart(row.key)) return Mistake::AKeyHasAnEmptyPart;
+    if (row.key != nullptr && NeedsEscape(row.key)) return Mistake::AKeyMustNotBeEscaped;
+    const bool isPointer = row.cell == Cell::Pointer;
+    const bool isOwnedText = isPointer && row.owned && row.kind == Kind::Custom;
+    if ((isPointer || row.cell == Cell::Record) && row.table == nullptr && !isOwnedText)
+        return Mistake::ANestedRecordNeedsItsTable;
+    if (isPointer && row.kind == Kind::Record && !row.capacity.exists() && !row.owned && !row.single)
+        return Mistake::APointerNeedsItsCapacity;
     if (!row.readable && !row.writable) return Mistake::NeitherReadNorWritten;
     if (row.hasDefault && !IsNumberCell(row.cell)) return Mistake::AbsentNeedsANumber;
     if (row.kind == Kind::Custom) return Mistake::None;
     const bool isList = IsList(row);
-    const bool isPointer = row.cell == Cell::Pointer;
     const bool isSingleNumber = !isList && !row.wholeMember && IsNumberCell(row.cell);
     if (row.single && (!isPointer || row.owned || row.kind != Kind::Record))
         return Mistake::SingleNeedsAPointerToARecord;
@@ -173,6 +186,28 @@ constexpr Flaw FlawOf(Mistake mistake, const Field& row) {
     return flaw;
 }
 
+// Where the compiler puts the next member of this alignment.
+constexpr std::size_t Aligned(std::size_t end, std::size_t alignment) {
+    return (end + alignment - 1) / alignment * alignment;
+}
+
+// Every row begins where the compiler puts the next member, so that nothing but padding lies between two rows. Only a
+// field that fits into padding, such as a byte in front of a number, can be forgotten unseen. Told of is the row that
+// stands where another should: the one behind a gap, or the last.
+constexpr Flaw FindGap(const Field* rows, std::size_t count, std::size_t recordSize, std::size_t recordAlignment) {
+    std::size_t end = 0;
+    const Field* last = nullptr;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Field& row = rows[i];
+        if (row.alias || row.size == 0) continue;
+        if (row.offset != Aligned(end, row.alignment)) return FlawOf(Mistake::RowsDoNotTileTheRecord, row);
+        end = row.offset + row.size;
+        last = &row;
+    }
+    if (recordSize == Aligned(end, recordAlignment)) return {};
+    return FlawOf(Mistake::RowsDoNotTileTheRecord, last == nullptr ? rows[0] : *last);
+}
+
 constexpr Flaw FindFlaw(const Field* rows, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         const Field& row = rows[i];
@@ -242,9 +277,18 @@ ORRERY_MISTAKE(NeitherReadNorWritten, a_row_is_neither_read_nor_written)
 ORRERY_MISTAKE(AKeyHasAnEmptyPart, a_key_has_an_empty_part)
 ORRERY_MISTAKE(TwoRowsWriteOneKey, two_rows_write_one_key)
 ORRERY_MISTAKE(AKeyIsWrittenAsValueAndObject, a_key_is_written_as_value_and_object)
+ORRERY_MISTAKE(AKeyMustNotBeEscaped, a_key_must_not_be_escaped)
+ORRERY_MISTAKE(ANestedRecordNeedsItsTable, a_nested_record_needs_its_table)
+ORRERY_MISTAKE(APointerNeedsItsCapacity, a_pointer_needs_its_capacity)
+ORRERY_MISTAKE(RowsDoNotTileTheRecord, rows_do_not_tile_the_record)
 #undef ORRERY_MISTAKE
 
 template <class Rows>
-inline constexpr Flaw kFlaw = FindFlaw(Rows::rows, sizeof(Rows::rows) / sizeof(Rows::rows[0]));
+inline constexpr Flaw kFlaw = [] {
+    constexpr std::size_t count = sizeof(Rows::rows) / sizeof(Rows::rows[0]);
+    using R = typename Rows::R;
+    const Flaw flaw = FindFlaw(Rows::rows, count);
+    return flaw.mistake != Mistake::None ? flaw : FindGap(Rows::rows, count, sizeof(R), alignof(R));
+}();
 
 } // namespace orrery::record::build

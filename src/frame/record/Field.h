@@ -17,6 +17,7 @@
 
 namespace orrery::record {
 
+struct a_comma_is_missing_between_two_rows;
 struct Field;
 struct Table;
 struct ReadCall;
@@ -109,9 +110,62 @@ struct CustomCodec {
     const char* sample = nullptr;
 };
 
-struct Field {
-    static constexpr int kMaxRank = 3;
+// The words of a row, by what they speak of: a direction takes the short way past a row that says nothing of it.
+struct ReadingWords {
+    bool always = false; // read also when absent
+    OnlyType only = OnlyType::Any;
+    bool anyShape = false;  // a list is read also when the value is no array
+    bool exactly = false;   // a list is read only when it has as many elements as the member
+    bool zeroed = false;    // elements of a caller's array are cleared before they are read
+    bool allOrNone = false; // more elements than there is room for end the call
+    bool counted = false;   // the count is told also when there is no array
+    Nulls nulls = Nulls::Count;
+    Nulls refused = Nulls::Count;  // what an element does that its table does not take
+    Slot readCondition;            // the key is read only when this member is set
+    std::uint16_t firstBytes = 0;  // of a text, before it is converted; 0: all of it
+    std::uint8_t atLeast = 0;      // an array is read only when it has so many elements
+    bool owned = false;            // the pointer's block is made for the document and lives as long as the call's arena
+    const char* failure = nullptr; // what the log says when there is no memory for an owned block
+
+    constexpr bool operator==(const ReadingWords&) const = default;
+};
+
+struct WritingWords {
     static constexpr std::int64_t kNoLimit = INT64_MAX;
+
+    bool trueAtOne = false; // a bool is true at exactly 1
+    bool hasUnless = false;
+    std::int32_t unless = 0; // the key is left out at this value
+    bool notNegative = false;
+    std::int64_t atMost = kNoLimit; // a larger number is written as this one
+    Slot condition;                 // the key is written only when this member is set
+    bool (*when)(const std::byte* record) = nullptr;
+    bool untilEmpty = false; // a list of texts ends at the first empty one
+    bool linkage = false;    // left out by calls that want no linkage
+    Empty empty = Empty::NoKey;
+    Skipped skipped = Skipped::StaysNull;
+    bool unlessBare = false;   // an object without keys is left out
+    bool keepsObject = false;  // the object inside the record's own that holds the key is null when it has no keys
+    bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
+
+    constexpr bool operator==(const WritingWords&) const = default;
+};
+
+// Of lists, in both directions.
+struct ListWords {
+    Slot count; // elements in use
+    bool countUncapped = false;
+    Slot capacity;
+    bool lent = false;      // the capacity is of an array inside the record
+    bool single = false;    // the pointer leads to one record of the caller's
+    bool keyed = false;     // a list stands as an object whose members are the elements
+    bool amongKeys = false; // a keyed list whose members stand in the record's own object
+
+    constexpr bool operator==(const ListWords&) const = default;
+};
+
+struct Field : ReadingWords, WritingWords, ListWords {
+    static constexpr int kMaxRank = 3;
 
     const char* name = "";
     // Member names from the table's object down, separated by '/'; null: not in the text; "": the value itself.
@@ -131,54 +185,18 @@ struct Field {
     const CustomCodec* custom = nullptr;
     std::uint32_t suppliedFrom = 0; // place in what the call carries along
 
-    // Reading
-    bool always = false;   // read also when absent
-    bool fromRoot = false; // the key starts at the document, not at the record's object
     bool readable = true;
-    OnlyType only = OnlyType::Any;
-    bool hasDefault = false;
-    std::int32_t defaultValue = 0;
-    Slot flag;  // set when the key is present; the key is written only when it is set
-    Slot count; // elements in use
-    Slot capacity;
-    bool countUncapped = false;
-    bool anyShape = false;  // a list is read also when the value is no array
-    bool exactly = false;   // a list is read only when it has as many elements as the member
-    bool keyed = false;     // a list stands as an object whose members are the elements
-    bool amongKeys = false; // a keyed list whose members stand in the record's own object
-    bool zeroed = false;    // elements of a caller's array are cleared before they are read
-    bool single = false;    // the pointer leads to one record of the caller's
-    bool allOrNone = false; // more elements than there is room for end the call
-    bool counted = false;   // the count is told also when there is no array
-    Nulls nulls = Nulls::Count;
-    Nulls refused = Nulls::Count;  // what an element does that its table does not take
-    Slot readCondition;            // the key is read only when this member is set
-    std::uint16_t firstBytes = 0;  // of a text, before it is converted; 0: all of it
-    std::uint8_t atLeast = 0;      // an array is read only when it has so many elements
-    bool owned = false;            // the pointer's block is made for the document and lives as long as the call's arena
-    const char* failure = nullptr; // what the log says when there is no memory for an owned block
-
-    // Writing
     bool writable = true;
-    bool trueAtOne = false; // a bool is true at exactly 1
-    bool hasUnless = false;
-    std::int32_t unless = 0; // the key is left out at this value
-    bool notNegative = false;
-    std::int64_t atMost = kNoLimit; // a larger number is written as this one
-    Slot condition;                 // the key is written only when this member is set
-    bool (*when)(const std::byte* record) = nullptr;
-    bool untilEmpty = false; // a list of texts ends at the first empty one
-    bool linkage = false;    // left out by calls that want no linkage
-    Empty empty = Empty::NoKey;
-    Skipped skipped = Skipped::StaysNull;
-    bool unlessBare = false;   // an object without keys is left out
-    bool keepsObject = false;  // the object inside the record's own that holds the key is null when it has no keys
-    bool lent = false;         // the capacity is of an array inside the record
-    bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
-
-    bool alias = false; // another key of a field that has a row already
+    bool fromRoot = false;   // the key starts at the document, not at the record's object
+    bool alias = false;      // another key of a field that has a row already
+    bool hasDefault = false; // set before anything is read
+    std::int32_t defaultValue = 0;
+    Slot flag; // set when the key is present; the key is written only when it is set
 
     constexpr bool operator==(const Field&) const = default;
+
+    // What a row is when the one before it has no comma: nothing to make a row of.
+    a_comma_is_missing_between_two_rows operator()(const Field&) const;
 
     // ---- Words of the vocabulary ---------------------------------------------------------------------------------
 

@@ -166,18 +166,14 @@ struct TypedTable : Table {
     }
 };
 
+// Rows over a table look into it. One that is only declared, as those of other families are, is refused right here: as
+// a PART it stands whole in a header.
 template <class R>
-constexpr Nested<R> Record(const TypedTable<R>& table) {
-    return {&table};
+consteval Nested<R> Record(const TypedTable<R>& table) {
+    return {table.size == sizeof(R) ? &table : nullptr};
 }
 
 namespace build {
-
-// Declared only: a table that reaches one of these at compile time does not compile, and the name tells why.
-void rows_do_not_tile_the_record();
-void a_nested_record_needs_its_table();
-void a_key_must_not_be_escaped();
-void a_pointer_needs_its_capacity();
 
 constexpr int Parts(std::string_view key) {
     int parts = 1;
@@ -234,61 +230,21 @@ constexpr const void* ReferenceOf(const Field& row) {
     if (row.kind == Kind::Names) return row.names;
     return row.kind == Kind::Record ? static_cast<const void*>(row.table) : nullptr;
 }
-// The row with its place, codec and flag, and none of its other words.
-constexpr Field WithoutWords(const Field& row) {
-    Field bare;
-    bare.name = row.name;
-    bare.key = row.key;
-    bare.offset = row.offset;
-    bare.size = row.size;
-    bare.elementSize = row.elementSize;
-    bare.alignment = row.alignment;
-    bare.cell = row.cell;
-    bare.kind = row.kind;
-    bare.writtenAs = row.writtenAs;
-    bare.flag = row.flag;
-    bare.alias = row.alias;
-    return bare;
-}
-// A row goes the short way only when all its words are known to leave that direction alone.
+// A row goes the short way in a direction when its words leave that direction alone.
 constexpr Plainly ReadPlainly(const Field& row) {
-    Field plain = WithoutWords(row);
-    plain.always = row.always;
-    plain.hasDefault = row.hasDefault;
-    plain.defaultValue = row.defaultValue;
-    plain.fromRoot = row.fromRoot;
-    plain.writable = row.writable;
-    plain.trueAtOne = row.trueAtOne;
-    plain.hasUnless = row.hasUnless;
-    plain.unless = row.unless;
-    plain.notNegative = row.notNegative;
-    plain.atMost = row.atMost;
-    plain.condition = row.condition;
-    plain.when = row.when;
-    std::copy(std::begin(row.dims), std::end(row.dims), plain.dims);
-    plain.rank = row.rank;
-    plain.wholeMember = row.wholeMember;
-    plain.table = row.table;
-    plain.names = row.names;
-    plain.custom = row.custom;
-    plain.unlessBare = row.unlessBare;
-    plain.keepsObject = row.keepsObject;
-    if (plain != row) return Plainly::No;
+    ReadingWords words = row;
+    words.always = false; // the node knows
+    if (words != ReadingWords{} || static_cast<const ListWords&>(row) != ListWords{} || !row.readable)
+        return Plainly::No;
     return row.kind == Kind::Custom ? Plainly::Function : PlainValue(row, row.kind, Plainly::Element);
 }
 constexpr Plainly WritePlainly(const Field& row) {
-    Field plain = WithoutWords(row);
-    plain.always = row.always;
-    plain.hasDefault = row.hasDefault;
-    plain.defaultValue = row.defaultValue;
-    plain.readable = row.readable;
-    plain.only = row.only;
-    plain.keepsObject = row.keepsObject;
-    plain.table = row.table;
-    plain.names = row.names;
-    plain.readCondition = row.readCondition;
-    plain.firstBytes = row.firstBytes;
-    return plain == row && row.kind == row.writtenAs ? PlainValue(row, row.kind, Plainly::No) : Plainly::No;
+    WritingWords words = row;
+    words.keepsObject = false; // the node knows
+    if (words != WritingWords{} || static_cast<const ListWords&>(row) != ListWords{} || !row.writable
+        || row.kind != row.writtenAs)
+        return Plainly::No;
+    return PlainValue(row, row.kind, Plainly::No);
 }
 
 constexpr std::uint32_t SizeOf(Cell cell) {
@@ -381,10 +337,8 @@ struct Tree {
         node.keySize = static_cast<std::uint16_t>(key.size());
         node.prefix = json::KeyPrefix(key);
         texts[textSize++] = '"';
-        for (char c : key) {
-            if (c == '"' || c == '\\' || c == '/' || static_cast<unsigned char>(c) < 32) a_key_must_not_be_escaped();
+        for (char c : key)
             texts[textSize++] = c;
-        }
         for (char c : std::string_view("\" : "))
             texts[textSize++] = c;
         return node;
@@ -528,25 +482,6 @@ consteval auto BuildTree() {
     return tree;
 }
 
-// Where the compiler puts the next member of this alignment.
-constexpr std::size_t Aligned(std::size_t end, std::size_t alignment) {
-    return (end + alignment - 1) / alignment * alignment;
-}
-
-// Every row begins where the compiler puts the next member, so that nothing but padding lies between two rows. Only a
-// field that fits into padding, such as a byte in front of a number, can be forgotten unseen.
-template <class Rows>
-consteval bool Tile() {
-    std::size_t end = 0;
-    for (const Field& row : Rows::rows) {
-        if (row.alias || row.size == 0) continue;
-        if (row.offset != Aligned(end, row.alignment)) rows_do_not_tile_the_record();
-        end = row.offset + row.size;
-    }
-    if (sizeof(typename Rows::R) != Aligned(end, alignof(typename Rows::R))) rows_do_not_tile_the_record();
-    return true;
-}
-
 template <class Rows>
 inline constexpr auto kTree = BuildTree<Rows>();
 
@@ -568,7 +503,6 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     using R = typename Rows::R;
     static_assert(std::is_standard_layout_v<R> && std::is_trivial_v<R>, "records are plain C structures");
     if constexpr (build::kFlaw<Rows>.mistake != build::Mistake::None) build::Tell<build::kFlaw<Rows>>();
-    static_assert(build::Tile<Rows>());
     constexpr auto& tree = build::kTree<Rows>;
     TypedTable<R> table;
     table.record = name;
@@ -590,14 +524,6 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     for (const Field& row : Rows::rows) {
         if (row.hasDefault || row.kind == Kind::Size) table.hasDefaults = true;
         if (row.kind == Kind::Size) table.hasSizeWords = true;
-        const bool isOwnedText = row.cell == Cell::Pointer && row.owned && row.kind == Kind::Custom;
-        if ((row.cell == Cell::Record || row.cell == Cell::Pointer) && row.table == nullptr && !isOwnedText) {
-            build::a_nested_record_needs_its_table();
-        }
-        const bool isOne = row.owned || row.single;
-        if (row.kind == Kind::Record && row.cell == Cell::Pointer && !row.capacity.exists() && !isOne) {
-            build::a_pointer_needs_its_capacity();
-        }
         if (row.cell == Cell::Pointer) table.hasPointers = true;
         if (row.amongKeys) table.amongKeys = &row;
         if (row.kind == Kind::MemberName || row.kind == Kind::MemberCode) table.memberName = &row;
@@ -612,8 +538,9 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
 
 } // namespace orrery::record
 
+// In brackets, so that a row that follows another without a comma is a call of the one before it, which tells.
 #define FIELD(member, ...)                                                                                             \
-    ::orrery::record::MakeField<decltype(R::member)>(#member, offsetof(R, member) __VA_OPT__(, ) __VA_ARGS__)
+    (::orrery::record::MakeField<decltype(R::member)>(#member, offsetof(R, member) __VA_OPT__(, ) __VA_ARGS__))
 // A member that is copied from `source`, a member of the same type in what the call carries along (a `contextType`).
 #define SUPPLIED(contextType, source)                                                                                  \
     ::orrery::record::SuppliedFrom<decltype(contextType::source)> {                                                    \

@@ -1,4 +1,4 @@
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 
 #include "analyse/RuleBodies.h"
 
@@ -114,7 +114,6 @@ constexpr RuleBody kBodies[] = {
 };
 
 constexpr std::size_t kBodyCount = std::size(kBodies);
-static_assert(kBodyCount == 84);
 
 constexpr bool CodesAscend() {
     for (std::size_t i = 1; i < kBodyCount; ++i) {
@@ -122,7 +121,7 @@ constexpr bool CodesAscend() {
     }
     return true;
 }
-static_assert(CodesAscend(), "a code stands in the table once");
+static_assert(CodesAscend(), "a code stands in the map once");
 
 constexpr std::uint32_t kNoPassingSize = 132;
 

@@ -37,18 +37,18 @@ TABLE(kRow, Row,
           FIELD(count),
       });
 
-auto Parse(const TableFrame& frame, const std::string& text, std::size_t size = sizeof(Item)) {
+auto Parse(const GenericFrame& frame, const std::string& text, std::size_t size = sizeof(Item)) {
     return test::Parse<Item>(kItem, frame, text, size);
 }
 
-constexpr TableFrame kOne;
-constexpr TableFrame kOneCleared{.zeroBuffer = true};
-constexpr TableFrame kMany{.arrayForm = true, .zeroBuffer = true};
+constexpr GenericFrame kOne;
+constexpr GenericFrame kOneCleared{.zeroBuffer = true};
+constexpr GenericFrame kMany{.arrayForm = true, .zeroBuffer = true};
 constexpr std::uint32_t kBefore = 1000000; // what the length holds before a call
 
 // ---- Reading ----
 
-TEST(TableFrame, ABufferBelowOneRecordIsNotTouched) {
+TEST(GenericFrame, ABufferBelowOneRecordIsNotTouched) {
     for (const std::size_t size : {0u, 1u, 7u}) {
         const auto f = Parse(kOneCleared, Reply("{ }"), size);
         EXPECT_EQ(f.outcome, Outcome::BufferTooSmall);
@@ -56,7 +56,7 @@ TEST(TableFrame, ABufferBelowOneRecordIsNotTouched) {
     }
 }
 
-TEST(TableFrame, FailuresLeaveTheBufferAsItWasOrCleared) {
+TEST(GenericFrame, FailuresLeaveTheBufferAsItWasOrCleared) {
     for (const char* text : {"", "{", "no json"}) {
         EXPECT_EQ(Parse(kOne, text).outcome, Outcome::NoJson);
         EXPECT_TRUE(Parse(kOne, text).isUntouched()) << text;
@@ -73,14 +73,14 @@ TEST(TableFrame, FailuresLeaveTheBufferAsItWasOrCleared) {
     EXPECT_EQ(Parse(kOne, "5").outcome, Outcome::Refused);
 }
 
-TEST(TableFrame, ATrueResultOfAnyType) {
+TEST(GenericFrame, ATrueResultOfAnyType) {
     for (const char* result : {"true", "1", "-1", "0.5", "\"false\"", "[ 0 ]"}) {
         const std::string text = std::string(R"({ "params" : { "table" : { "Id" : 1 } }, "result" : )") + result + " }";
         EXPECT_EQ(Parse(kOne, text).outcome, Outcome::Done) << result;
     }
 }
 
-TEST(TableFrame, NoTableIsNoFailure) {
+TEST(GenericFrame, NoTableIsNoFailure) {
     for (const char* text : {R"({ "result" : true })", R"({ "result" : true, "params" : { "table" : null } })",
                              R"({ "result" : true, "params" : [ 1 ] })"}) {
         const auto cleared = Parse(kMany, text, 20);
@@ -91,7 +91,7 @@ TEST(TableFrame, NoTableIsNoFailure) {
     }
 }
 
-TEST(TableFrame, WithoutClearingMissingKeysKeepTheCallersValues) {
+TEST(GenericFrame, WithoutClearingMissingKeysKeepTheCallersValues) {
     const auto f = Parse(kOne, Reply(R"({ "Id" : 5 })"), sizeof(Item) + 3);
     EXPECT_EQ(f[0].id, 5);
     EXPECT_EQ(static_cast<std::uint32_t>(f[0].level), 0xCDCDCDCDu);
@@ -99,16 +99,16 @@ TEST(TableFrame, WithoutClearingMissingKeysKeepTheCallersValues) {
     EXPECT_EQ(Parse(kOneCleared, Reply(R"({ "Id" : 5 })"))[0].level, 0);
 }
 
-TEST(TableFrame, TheLengthIsAddedTo) {
+TEST(GenericFrame, TheLengthIsAddedTo) {
     EXPECT_EQ(Parse(kOne, Reply("{ }")).length, kBefore + 8);
     EXPECT_EQ(Parse(kMany, Reply("[ { }, { } ]"), 100).length, kBefore + 16);
     Item item{};
-    EXPECT_EQ(ParseTableFrame(kItem, kOne, {Reply(R"({ "Id" : 7 })").c_str(), &item, sizeof item, nullptr}),
+    EXPECT_EQ(ParseGeneric(kItem, kOne, {Reply(R"({ "Id" : 7 })").c_str(), &item, sizeof item, nullptr}),
               Outcome::Done);
     EXPECT_EQ(item.id, 7);
 }
 
-TEST(TableFrame, AnArrayOfRecords) {
+TEST(GenericFrame, AnArrayOfRecords) {
     const auto f = Parse(kMany, Reply(R"([ { "Id" : 1 }, { "Id" : 2 } ])"), 3 * sizeof(Item));
     EXPECT_EQ(f.outcome, Outcome::Done);
     EXPECT_EQ(f[0].id, 1);
@@ -116,7 +116,7 @@ TEST(TableFrame, AnArrayOfRecords) {
     EXPECT_EQ(f[2].id, 0);
 }
 
-TEST(TableFrame, ElementsBeyondTheBufferAreIgnoredAndNonePartly) {
+TEST(GenericFrame, ElementsBeyondTheBufferAreIgnoredAndNonePartly) {
     const auto f =
         Parse(kMany, Reply(R"([ { "Id" : 1 }, { "Id" : 2 }, { "Id" : 3 }, { }, { } ])"), 2 * sizeof(Item) + 7);
     EXPECT_EQ(f.outcome, Outcome::Done);
@@ -125,7 +125,7 @@ TEST(TableFrame, ElementsBeyondTheBufferAreIgnoredAndNonePartly) {
     EXPECT_EQ(f.length, kBefore + 2 * sizeof(Item));
 }
 
-TEST(TableFrame, ANullElementLeavesAGapThatIsNotCounted) {
+TEST(GenericFrame, ANullElementLeavesAGapThatIsNotCounted) {
     const auto f = Parse(kMany, Reply(R"([ { "Id" : 1 }, null, { "Id" : 3 } ])"), 3 * sizeof(Item));
     EXPECT_EQ(f[0].id, 1);
     EXPECT_EQ(f[1].id, 0);
@@ -133,7 +133,7 @@ TEST(TableFrame, ANullElementLeavesAGapThatIsNotCounted) {
     EXPECT_EQ(f.length, kBefore + 2 * sizeof(Item));
 }
 
-TEST(TableFrame, ANullBehindTheOnlyRecordMakesTheListOneElement) {
+TEST(GenericFrame, ANullBehindTheOnlyRecordMakesTheListOneElement) {
     // The null is below every depth, and no later element settles it.
     const auto f = Parse(kMany, Reply(R"([ { "Id" : 1 }, null ])"), 3 * sizeof(Item));
     EXPECT_EQ(f.outcome, Outcome::Done);
@@ -144,20 +144,20 @@ TEST(TableFrame, ANullBehindTheOnlyRecordMakesTheListOneElement) {
     EXPECT_EQ(first.length, kBefore + sizeof(Item));
 }
 
-TEST(TableFrame, AnEmptyArrayIsOneElement) {
+TEST(GenericFrame, AnEmptyArrayIsOneElement) {
     const auto f = test::Parse<Row>(kRow, kMany, Reply("[ ]"), 3 * sizeof(Row));
     EXPECT_EQ(f.outcome, Outcome::Done);
     EXPECT_EQ(f.length, kBefore + sizeof(Row));
     EXPECT_EQ(Parse(kMany, Reply("[ ]")).length, kBefore + sizeof(Item));
 }
 
-TEST(TableFrame, AnObjectOrAScalarIsOneElement) {
+TEST(GenericFrame, AnObjectOrAScalarIsOneElement) {
     EXPECT_EQ(Parse(kMany, Reply(R"({ "Id" : 4 })"), 100)[0].id, 4);
     EXPECT_EQ(Parse(kMany, Reply(R"({ "Id" : 4 })"), 100).length, kBefore + sizeof(Item));
     EXPECT_EQ(Parse(kMany, Reply("5"), 100).length, kBefore + sizeof(Item));
 }
 
-TEST(TableFrame, WithoutArrayFormAnArrayIsOneElement) {
+TEST(GenericFrame, WithoutArrayFormAnArrayIsOneElement) {
     const auto f = test::Parse<Row>(kRow, kOneCleared, Reply("[ 5, 6 ]"), 3 * sizeof(Row));
     EXPECT_EQ(f[0].cells[0], 5);
     EXPECT_EQ(f[0].cells[1], 6);
@@ -167,9 +167,9 @@ TEST(TableFrame, WithoutArrayFormAnArrayIsOneElement) {
     EXPECT_EQ(Parse(kOneCleared, Reply(R"([ { "Id" : 1 } ])"))[0].id, 0);
 }
 
-constexpr TableFrame kRows{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
+constexpr GenericFrame kRows{.arrayForm = true, .dimension = 1, .zeroBuffer = true};
 
-TEST(TableFrame, RecordsThatAreListsThemselves) {
+TEST(GenericFrame, RecordsThatAreListsThemselves) {
     const auto two = test::Parse<Row>(kRow, kRows, Reply("[ [ 1, 2 ], [ 3 ] ]"), 3 * sizeof(Row));
     EXPECT_EQ(two[0].cells[1], 2);
     EXPECT_EQ(two[1].cells[0], 3);
@@ -183,7 +183,7 @@ TEST(TableFrame, RecordsThatAreListsThemselves) {
     EXPECT_EQ(mixed.length, kBefore + sizeof(Row));
 }
 
-TEST(TableFrame, LongListsAreSampled) {
+TEST(GenericFrame, LongListsAreSampled) {
     // Of 16 elements every second is looked at: a scalar at 1 goes unnoticed, one at 2 does not.
     const auto list = [](int scalarAt) {
         std::string text;
@@ -195,7 +195,7 @@ TEST(TableFrame, LongListsAreSampled) {
     EXPECT_EQ(test::Parse<Row>(kRow, kRows, list(2), 16 * sizeof(Row)).length, kBefore + sizeof(Row));
 }
 
-TEST(TableFrame, WhatFollowsTheDocumentIsIgnored) {
+TEST(GenericFrame, WhatFollowsTheDocumentIsIgnored) {
     EXPECT_EQ(Parse(kOne, Reply(R"({ "Id" : 4 })") + " trailing {")[0].id, 4);
 }
 
@@ -221,7 +221,7 @@ TABLE(kRefusing, Item,
           FIELD(level, "Level", Custom(kLevel)),
       });
 
-TEST(TableFrame, ARefusedRecordIsCountedLikeTheOthers) {
+TEST(GenericFrame, ARefusedRecordIsCountedLikeTheOthers) {
     const auto f = test::Parse<Item>(
         kRefusing, kMany, Reply(R"([ { "Id" : 1, "Level" : -2 }, { "Id" : 3, "Level" : 4 } ])"), 2 * sizeof(Item));
     EXPECT_EQ(f.outcome, Outcome::Done);
@@ -241,7 +241,7 @@ TABLE(kNumbered, Item,
           FIELD(level, "Level", Custom(kIndex)).Always(),
       });
 
-TEST(TableFrame, RowsAreToldWhichRecordTheyRead) {
+TEST(GenericFrame, RowsAreToldWhichRecordTheyRead) {
     const auto f = test::Parse<Item>(kNumbered, kMany, Reply("[ { }, null, { } ]"), 3 * sizeof(Item));
     EXPECT_EQ(f[0].level, 0);
     EXPECT_EQ(f[2].level, 2);
@@ -253,7 +253,7 @@ const Item kItems[] = {{1, 2}, {3, 4}};
 const std::string kFirst = R"({ "Id" : 1, "Level" : 2 })";
 const std::string kBoth = "[ " + kFirst + R"(, { "Id" : 3, "Level" : 4 } ])";
 
-TEST(TableFrame, OneOrManyByTheSizeOfTheRecords) {
+TEST(GenericFrame, OneOrManyByTheSizeOfTheRecords) {
     EXPECT_EQ(Pack(kItem, kMany, kItems, 8).text(), kFirst + "\n");
     EXPECT_EQ(Pack(kItem, kMany, kItems, 15).text(), kFirst + "\n");
     EXPECT_EQ(Pack(kItem, kMany, kItems, 16).text(), kBoth + "\n");
@@ -264,18 +264,18 @@ TEST(TableFrame, OneOrManyByTheSizeOfTheRecords) {
     }
 }
 
-TEST(TableFrame, AlwaysAnArray) {
-    constexpr TableFrame many{.arrayForm = true, .alwaysArray = true};
+TEST(GenericFrame, AlwaysAnArray) {
+    constexpr GenericFrame many{.arrayForm = true, .alwaysArray = true};
     EXPECT_EQ(Pack(kItem, many, kItems, 8).text(), "[ " + kFirst + " ]\n");
     EXPECT_EQ(Pack(kItem, many, kItems, 16).text(), kBoth + "\n");
     EXPECT_EQ(Pack(kItem, many, kItems, 7).text(), "null\n");
-    constexpr TableFrame one{.alwaysArray = true};
+    constexpr GenericFrame one{.alwaysArray = true};
     EXPECT_EQ(Pack(kItem, one, kItems, 8).text(), "[ " + kFirst + " ]\n");
     EXPECT_EQ(Pack(kItem, one, kItems, 16).text(), "[ " + kFirst + " ]\n");
     EXPECT_EQ(Pack(kItem, one, kItems, 0).text(), "[ { \"Id\" : 0, \"Level\" : 0 } ]\n");
 }
 
-TEST(TableFrame, WithoutArrayFormOneRecordIsWrittenInAnyEvent) {
+TEST(GenericFrame, WithoutArrayFormOneRecordIsWrittenInAnyEvent) {
     EXPECT_EQ(Pack(kItem, kOne, kItems, 8).text(), kFirst + "\n");
     EXPECT_EQ(Pack(kItem, kOne, kItems, 16).text(), kFirst + "\n");
     for (std::size_t size = 0; size <= 8; ++size) {
@@ -288,7 +288,7 @@ TEST(TableFrame, WithoutArrayFormOneRecordIsWrittenInAnyEvent) {
     }
 }
 
-TEST(TableFrame, TheTextMustBeShorterThanItsBuffer) {
+TEST(GenericFrame, TheTextMustBeShorterThanItsBuffer) {
     const std::string text = kFirst + "\n";
     const auto fits = Pack(kItem, kOne, kItems, 8, text.size() + 1);
     EXPECT_EQ(fits.outcome, Outcome::Done);
@@ -313,13 +313,13 @@ TABLE(kPositive, Item,
       })
     .Writes(IsPositive);
 
-TEST(TableFrame, RecordsThatTheirTableHoldsBackKeepTheirPlaces) {
+TEST(GenericFrame, RecordsThatTheirTableHoldsBackKeepTheirPlaces) {
     const Item items[] = {{0, 1}, {1, 2}, {-1, 3}};
     EXPECT_EQ(Pack(kPositive, kMany, items, sizeof items).text(), "[ null, " + kFirst + ", null ]\n");
     EXPECT_EQ(Pack(kPositive, kMany, items, 8).text(), "null\n");
 }
 
-TEST(TableFrame, WhatARowRefusesToWriteIsMissingAndNoFailure) {
+TEST(GenericFrame, WhatARowRefusesToWriteIsMissingAndNoFailure) {
     const Item items[] = {{1, -2}, {3, 4}};
     const auto written = Pack(kRefusing, kMany, items, sizeof items);
     EXPECT_EQ(written.outcome, Outcome::Done);

@@ -1,4 +1,4 @@
-#include "events/EventTable.h"
+#include "events/EventMap.h"
 
 #include "events/IntelligentEvents.h"
 #include "events/OtherEvents.h"

@@ -1,0 +1,37 @@
+// The same behind words of the row.
+// must not compile: a_comma_is_missing_between_two_rows
+#include "frame/record/Table.h"
+
+using namespace orrery::record;
+
+struct Lock {
+    std::int32_t nCode;
+};
+struct Door {
+    char szName[16];
+    std::int32_t nNumber;
+    std::int32_t nCount;
+    Lock stuLocks[3];
+};
+
+PART(kLock, Lock,
+     {
+         FIELD(nCode, "Code", Int),
+     });
+#ifdef GOOD
+TABLE(kDoor, Door,
+      {
+          FIELD(szName, "Name", Text),
+          FIELD(nNumber, "Number", Int),
+          FIELD(nCount),
+          FIELD(stuLocks, "Locks", Record(kLock)).Count(AT(nCount)),
+      });
+#else
+TABLE(kDoor, Door,
+      {
+          FIELD(szName, "Name", Text),
+          FIELD(nNumber, "Number", Int).Absent(-1) FIELD(nCount),
+          FIELD(stuLocks, "Locks", Record(kLock)).Count(AT(nCount)),
+      });
+#endif
+static_assert(kDoor.size == sizeof(Door));
