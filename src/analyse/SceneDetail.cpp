@@ -81,9 +81,8 @@ namespace {
 
 using Detail = CFG_SCENE_DETAIL_INFO;
 
-// The height and the distance stand twice: whose keys they are, the last type of a list settles.
+// The height and the distance: of two tables with the same keys, the last type of a list settles which one has them.
 constexpr unsigned kCamera = 16;
-constexpr unsigned kFaceCamera = 32;
 
 // The record has the groups one behind the other.
 bool IsOfGroups(const Field& row, unsigned groups) noexcept {
@@ -95,15 +94,18 @@ bool IsOfGroups(const Field& row, unsigned groups) noexcept {
     else if (row.offset < offsetof(Detail, bFaceScene))
         group = kTraffic;
     else if (row.offset < offsetof(Detail, nMainDirectionNum))
-        group = kFaceCamera;
+        group = kCamera;
     else if (row.offset < offsetof(Detail, dCameraAngle))
         group = kFaces;
     return (group & groups) != 0;
 }
 
-unsigned CameraOf(Group group) noexcept {
-    if (group == kFaces) return kFaceCamera;
-    return group == kTraffic || group == kNormal ? kCamera : 0;
+bool HasCamera(Group group) noexcept {
+    return group == kTraffic || group == kNormal || group == kFaces;
+}
+
+const Table& DetailOf(Group group) noexcept {
+    return group == kFaces ? kFaceDetail : kSceneDetail;
 }
 
 } // namespace
@@ -120,12 +122,12 @@ void ReadSceneDetail(std::string_view type, const json::Value& detail, std::byte
     const Group group = GroupOfScene(type);
     if (group == kNoGroup || detail.isNull()) return;
     if (group == kFaces) SET_MEMBER(record, Detail, bFaceScene, 1);
-    ReadChosen(kSceneDetail, detail, record, call, {IsOfGroups, group | CameraOf(group)});
+    ReadChosen(DetailOf(group), detail, record, call, {IsOfGroups, group | (HasCamera(group) ? kCamera : 0)});
 }
 
 void WriteSceneDetail(std::span<const std::string_view> types, const std::byte* record, WriteCall& call) noexcept {
     unsigned groups = 0;
-    unsigned camera = 0;
+    Group camera = kNoGroup;
     for (const std::string_view type : types) {
         const Group group = GroupOfScene(type);
         if (group == kNoGroup) {
@@ -133,9 +135,10 @@ void WriteSceneDetail(std::span<const std::string_view> types, const std::byte* 
             LogTrace(E_LOG_CODE_NONE, "There is no configuration about this scene type.");
         }
         groups |= group;
-        if (CameraOf(group) != 0) camera = CameraOf(group);
+        if (HasCamera(group)) camera = group;
     }
-    if (groups != 0) WriteChosen(kSceneDetail, record, call, {IsOfGroups, groups | camera});
+    if (camera != kNoGroup) groups |= kCamera;
+    if (groups != 0) WriteChosen(DetailOf(camera), record, call, {IsOfGroups, groups});
 }
 
 } // namespace orrery::scenes

@@ -179,45 +179,64 @@ extern const CustomCodec kLandline;
 
 inline constexpr TypedTable<CFG_POINT> kLongPoint = kPoint.As(Shape::LongTuple);
 
+// clang-format off
+#define DETAIL_OF_TRAFFIC \
+    FIELD(stuNearDetectPoint, "NearDetectPoint", Record(kLongPoint)), \
+    FIELD(stuFarDetectPoint, "FarDetectPoint", Record(kLongPoint)), \
+    FIELD(nNearDistance, "NearDistance", Int), \
+    FIELD(nFarDistance, "FarDistance", Int), \
+    FIELD(szSubType, "Type", Text), \
+    FIELD(nLaneNum), \
+    FIELD(stuLanes, "Lanes", Record(kLane)).Count(AT(nLaneNum)), \
+    TEXTS(nPlateHintNum, szPlateHints, "PlateHints"), \
+    FIELD(nLightGroupNum), \
+    FIELD(stuLightGroups, "LightGroups", Record(kLightGroup)).Count(AT(nLightGroupNum)), \
+    FIELD(bHangingWordPlate, "HangingWordPlate", Bool), \
+    FIELD(bNonStdPolicePlate, "NonStdPolicePlate", Bool), \
+    FIELD(bYellowPlateLetter, "YellowPlateLetter", Bool), \
+    FIELD(byReportMode, "ReportMode", Names(kReportModes)), \
+    FIELD(byPlateMatch, "PlateMatch", Int), \
+    FIELD(byJudgment, "Judgment", Names(kJudgments)), \
+    SHAPE(nLeftDivisionPoint, stuLeftDivisionLine, "LeftDivisionLine"), \
+    SHAPE(nRightDivisionPoint, stuRightDivisionLine, "RightDivisionLine"), \
+    FIELD(stuAdjustLightColor, "AdjustLightColor", Record(kAdjustLightColor)), \
+    FIELD(nParkingSpaceNum), \
+    FIELD(stuParkingSpaces, "ParkingSpaces", Record(kParkingSpace)).Count(AT(nParkingSpaceNum)), \
+    FIELD(bFaceScene)
+// clang-format on
+// clang-format off
+#define DETAIL_OF_OTHERS \
+    SHAPE(nMainDirectionNum, stuMainDirection, "MainDirection"), \
+    FIELD(byFaceAngleDown, "FaceAngleDown", Int), \
+    FIELD(byFaceAngleUp, "FaceAngleUp", Int), \
+    FIELD(byFaceAngleLeft, "FaceAngleLeft", Int), \
+    FIELD(byFaceAngleRight, "FaceAngleRight", Int), \
+    FIELD(nDetectType, "DetectType", Names(kFaceSizes)), \
+    FIELD(dCameraAngle, "CameraAngle", Real), \
+    FIELD(stuLandline, "Landline", Custom(kLandline)).PointsTo(kPoint)
+// clang-format on
+
+// The height and the distance of the camera stand under the same keys for scenes with faces and for others.
 PART(kSceneDetail, CFG_SCENE_DETAIL_INFO,
      {
          FIELD(dCameraHeight, "CameraHeight", Real),
          FIELD(dCameraDistance, "CameraDistance", Real),
-         FIELD(stuNearDetectPoint, "NearDetectPoint", Record(kLongPoint)),
-         FIELD(stuFarDetectPoint, "FarDetectPoint", Record(kLongPoint)),
-         FIELD(nNearDistance, "NearDistance", Int),
-         FIELD(nFarDistance, "FarDistance", Int),
-         FIELD(szSubType, "Type", Text),
-         FIELD(nLaneNum),
-         FIELD(stuLanes, "Lanes", Record(kLane)).Count(AT(nLaneNum)),
-         TEXTS(nPlateHintNum, szPlateHints, "PlateHints"),
-         FIELD(nLightGroupNum),
-         FIELD(stuLightGroups, "LightGroups", Record(kLightGroup)).Count(AT(nLightGroupNum)),
-         FIELD(bHangingWordPlate, "HangingWordPlate", Bool),
-         FIELD(bNonStdPolicePlate, "NonStdPolicePlate", Bool),
-         FIELD(bYellowPlateLetter, "YellowPlateLetter", Bool),
-         FIELD(byReportMode, "ReportMode", Names(kReportModes)),
-         FIELD(byPlateMatch, "PlateMatch", Int),
-         FIELD(byJudgment, "Judgment", Names(kJudgments)),
-         SHAPE(nLeftDivisionPoint, stuLeftDivisionLine, "LeftDivisionLine"),
-         SHAPE(nRightDivisionPoint, stuRightDivisionLine, "RightDivisionLine"),
-         FIELD(stuAdjustLightColor, "AdjustLightColor", Record(kAdjustLightColor)),
-         FIELD(nParkingSpaceNum),
-         FIELD(stuParkingSpaces, "ParkingSpaces", Record(kParkingSpace)).Count(AT(nParkingSpaceNum)),
-         FIELD(bFaceScene),
+         DETAIL_OF_TRAFFIC,
          FIELD(dFaceCameraHeight),
-         FIELD(dFaceCameraHeight, "CameraHeight", Real).Alias(),
          FIELD(dFaceCameraDistance),
-         FIELD(dFaceCameraDistance, "CameraDistance", Real).Alias(),
-         SHAPE(nMainDirectionNum, stuMainDirection, "MainDirection"),
-         FIELD(byFaceAngleDown, "FaceAngleDown", Int),
-         FIELD(byFaceAngleUp, "FaceAngleUp", Int),
-         FIELD(byFaceAngleLeft, "FaceAngleLeft", Int),
-         FIELD(byFaceAngleRight, "FaceAngleRight", Int),
-         FIELD(nDetectType, "DetectType", Names(kFaceSizes)),
-         FIELD(dCameraAngle, "CameraAngle", Real),
-         FIELD(stuLandline, "Landline", Custom(kLandline)).PointsTo(kPoint),
+         DETAIL_OF_OTHERS,
      });
+PART(kFaceDetail, CFG_SCENE_DETAIL_INFO,
+     {
+         FIELD(dCameraHeight),
+         FIELD(dCameraDistance),
+         DETAIL_OF_TRAFFIC,
+         FIELD(dFaceCameraHeight, "CameraHeight", Real),
+         FIELD(dFaceCameraDistance, "CameraDistance", Real),
+         DETAIL_OF_OTHERS,
+     });
+#undef DETAIL_OF_OTHERS
+#undef DETAIL_OF_TRAFFIC
 
 PART(kSceneSubDetail, CFG_SCENE_SUBDETAIL_INFO,
      {

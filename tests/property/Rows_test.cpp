@@ -161,9 +161,13 @@ TEST(Rows, NamesAreFoundInTheCaseThatCounts) {
                     hasLetters = true;
                 }
                 const auto outside = names.unknownLeaves ? std::nullopt : std::optional(names.unknownCode);
-                EXPECT_EQ(names.CodeOf(row->text), row->code) << table->record << "." << field.name << row->text;
+                const record::Name* read = row; // of equal texts the last one where the table says so
+                for (const record::Name* later = row; names.lastWins && later != names.rows + names.count; ++later) {
+                    if (later->text == row->text) read = later;
+                }
+                EXPECT_EQ(names.CodeOf(row->text), read->code) << table->record << "." << field.name << row->text;
                 if (hasLetters) {
-                    EXPECT_EQ(names.CodeOf(flipped), exact ? outside : row->code) << field.name << flipped;
+                    EXPECT_EQ(names.CodeOf(flipped), exact ? outside : read->code) << field.name << flipped;
                 }
                 EXPECT_EQ(names.CodeOf(std::string(row->text) + " "), outside) << field.name << row->text;
             }

@@ -59,6 +59,11 @@ const std::map<std::string, Way>& Exceptions() {
         {"CFG_MASTER_SLAVE_GLOBAL_INFO.fMinFocus", Way::Int},
         {"CFG_MASTER_SLAVE_GLOBAL_INFO.fMinZoom", Way::Int},
         {"CFG_MASTER_SLAVE_GLOBAL_INFO.fTargetFaceSize", Way::Int},
+        // Places to the west and the south, below zero in fields without a sign.
+        {"CFG_ANALYSEGLOBAL_INFO.nLatitude", Way::Int},
+        {"CFG_ANALYSEGLOBAL_INFO.nLongitude", Way::Int},
+        {"CFG_TIME_PERIOD_INFO.nLatitude", Way::Int},
+        {"CFG_TIME_PERIOD_INFO.nLongitude", Way::Int},
         // Read as unsigned, written as signed numbers.
         {"CFG_METERING_ITEM.nRegions", Way::UInt},
         {"CFG_VIDEO_ENCODE_ROI_INFO.nRegions", Way::UInt},
