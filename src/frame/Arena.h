@@ -51,9 +51,6 @@ class Arena {
     // From here on the heap gives this arena at most `bytes` more; what goes beyond is as if there were no memory.
     void Limit(std::size_t bytes) noexcept { allowance_ = bytes; }
 
-    // The allocation that nobody could have granted: a size beyond all counting.
-    void Exhaust() noexcept { failed_ = true; }
-
     // A few bytes that are always there, aligned to 16: what a caller who can't be refused writes into when the arena
     // is exhausted. Nobody reads them.
     static constexpr std::size_t kSpareSize = 16;
@@ -61,7 +58,7 @@ class Arena {
 
     // True once an allocation has failed: the call that owns the arena then fails as a whole.
     bool failed() const noexcept { return failed_; }
-    // For whoever could not get another resource that the call cannot go on without.
+    // For whoever could not get another resource that the call cannot go on without, or needs more than can be counted.
     void MarkFailed() noexcept { failed_ = true; }
 
   private:

@@ -102,7 +102,7 @@ bool Reader::Grow(std::byte*& top, std::byte*& start, std::byte*& limit) noexcep
     if (room > enough && used + kHeadroom <= enough) room = enough;
     void* const block = std::malloc(Arena::kBlockHeader + room);
     if (block == nullptr) {
-        arena_.Exhaust();
+        arena_.MarkFailed();
         return false;
     }
     auto* const larger = static_cast<std::byte*>(block) + Arena::kBlockHeader;

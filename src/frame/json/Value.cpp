@@ -45,7 +45,7 @@ Entry* Enlarge(Arena& arena, const Entry* old, std::uint32_t oldSize, std::uint3
                std::uint8_t& growth) noexcept {
     const unsigned needed = std::max(kFirstGrowth, static_cast<unsigned>(std::bit_width(size)));
     if (needed > kLastGrowth) {
-        arena.Exhaust();
+        arena.MarkFailed();
         return nullptr;
     }
     Entry* const room = arena.Array<Entry>(std::size_t{1} << needed);
@@ -149,7 +149,7 @@ Value& Value::At(Arena& arena, std::string_view key) noexcept {
     const std::uint32_t index = append ? size_ : LowerBound(payload_.members, size_, key);
     if (!append && payload_.members[index].key() == key) return payload_.members[index].value;
     if (key.size() > std::numeric_limits<std::uint32_t>::max()) {
-        arena.Exhaust();
+        arena.MarkFailed();
         return NobodyReads(arena);
     }
     char* const text = arena.Array<char>(key.size() + kKeySlack);
