@@ -51,9 +51,10 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  *               is none, `null`.
  * textBuffer    Takes the text, one line with a newline and a terminator. Must not be null. What is behind
  *               the terminator is cleared. A call that is refused before it writes (a null, an unknown command, a
- *               record too small) leaves the buffer alone; every other failure leaves it cleared whole, unless the
- * record's header says otherwise. textCapacity  Bytes at `textBuffer`. The text must be shorter. Where the record's
- * header says so, a text of exactly that length is taken too and loses its newline or its terminator.
+ *               record too small) leaves the buffer alone; every other failure leaves it cleared whole. The record's
+ *               header may say otherwise.
+ * textCapacity  Bytes at `textBuffer`. The text must be shorter. Where the record's header says so, a text of exactly
+ *               that length is taken too and loses its newline or its terminator.
  *
  * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
 int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
