@@ -42,9 +42,16 @@ bool ReadUsualSection(std::string_view text, CFG_TIME_SECTION* section) noexcept
     const auto begin = scan::ReadClock(t + 2, bad);
     const auto end = scan::ReadClock(t + 11, bad);
     if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
-    const std::int32_t fields[kSectionFields] = {t[0] - '0', begin.hour, begin.minute, begin.second,
-                                                 end.hour,   end.minute, end.second};
-    Store(section, fields, kSectionFields);
+    // Each straight into its place: gathered first, they would be copied by wider loads that wait for the stores.
+    auto* const at = reinterpret_cast<std::byte*>(section);
+    const auto put = [at](std::size_t field, std::int32_t number) { std::memcpy(at + 4 * field, &number, 4); };
+    put(0, t[0] - '0');
+    put(1, begin.hour);
+    put(2, begin.minute);
+    put(3, begin.second);
+    put(4, end.hour);
+    put(5, end.minute);
+    put(6, end.second);
     return true;
 }
 
@@ -89,18 +96,20 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
 
 // The counterpart of ReadUsualSection: a week has 42 of them, most of them zero.
 bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
-    std::int32_t fields[kSectionFields];
-    std::memcpy(fields, section, sizeof fields);
-    bool usual = static_cast<std::uint32_t>(fields[0]) < 10;
-    for (int i = 1; i < kSectionFields; ++i)
-        usual &= static_cast<std::uint32_t>(fields[i]) < 100;
-    if (!usual) return false;
-    char text[] = "\"0 00:00:00-00:00:00\"";
-    text[1] = static_cast<char>('0' + fields[0]);
-    for (int i = 1; i < kSectionFields; ++i)
-        std::memcpy(text + 3 * i, &scan::kPairs[2 * fields[i]], 2);
-    out.RawString({text, 21});
-    return true;
+    const auto* const at = static_cast<const std::byte*>(section);
+    std::uint32_t fields[kSectionFields];
+    std::uint32_t outside = 0; // its highest bit is set when a field is
+    for (int i = 0; i < kSectionFields; ++i) {
+        std::memcpy(&fields[i], at + 4 * i, 4);
+        outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
+    }
+    if (outside >> 31 != 0) return false;
+    return out.CleanString(19, [&](char* text) {
+        std::memcpy(text, "0 00:00:00-00:00:00", 19);
+        text[0] = static_cast<char>('0' + fields[0]);
+        for (int i = 1; i < kSectionFields; ++i)
+            std::memcpy(text + 3 * i - 1, &scan::kPairs[2 * fields[i]], 2);
+    });
 }
 
 // Elements of a list of which those that are equal to the one before repeat its text.

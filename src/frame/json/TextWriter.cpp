@@ -78,17 +78,22 @@ void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {
 }
 
 void TextWriter::Real(double number) noexcept {
-    char text[kRealRoom];
-    char* out = text;
-    if (std::signbit(number)) *out++ = '-';
     const double magnitude = std::fabs(number);
     // Sizes and coordinates are whole numbers as a rule: zeros fill up their digits.
     if (magnitude < kWholeLimit && magnitude == static_cast<double>(static_cast<std::uint32_t>(magnitude))) {
-        char* const point = std::to_chars(out, text + kRealRoom, static_cast<std::uint32_t>(magnitude)).ptr;
-        *point = '.';
-        std::memset(point + 1, '0', kPrecision);
-        return Scalar(text, static_cast<std::size_t>(out + kPrecision + 1 - text));
+        if (char* const room = Room(kRealRoom)) [[likely]] {
+            char* at = Separated(room);
+            if (std::signbit(number)) *at++ = '-';
+            std::memset(at, '0', kPrecision + 1);
+            *Digits(at, static_cast<std::uint32_t>(magnitude)) = '.';
+            next_ = at + kPrecision + 1;
+            first_ = false;
+            return;
+        }
     }
+    char text[kRealRoom];
+    char* out = text;
+    if (std::signbit(number)) *out++ = '-';
     if (!std::isfinite(number)) {
         Separate();
         std::memcpy(out, std::isnan(number) ? "nan" : "inf", 3);

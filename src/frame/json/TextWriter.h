@@ -95,8 +95,20 @@ class TextWriter {
         }
         String(clean);
     }
-    // A string with nothing to escape in it that is quoted already.
-    void RawString(std::string_view quoted) noexcept { Scalar(quoted.data(), quoted.size()); }
+    // A string of `size` bytes with nothing to escape in it, which `fill` writes where it gets told. False when there is
+    // no room, and nothing is written.
+    template <class Fill>
+    bool CleanString(std::size_t size, Fill fill) noexcept {
+        char* const room = Room(size + 2);
+        if (room == nullptr) return false;
+        char* const at = Separated(room);
+        *at = '"';
+        fill(at + 1);
+        at[size + 1] = '"';
+        next_ = at + size + 2;
+        first_ = false;
+        return true;
+    }
 
     // The element before once more: the last `size` bytes of the text. False when that can't be, and nothing is
     // written.
