@@ -3,7 +3,8 @@
 // passed over, signs are taken, a width counts the sign but not the blanks, what was read before a mismatch stays.
 #pragma once
 
-#include <array>
+#include "frame/json/Digits.h"
+
 #include <bit>
 #include <charconv>
 #include <cstddef>
@@ -117,20 +118,10 @@ inline std::int32_t TwoDigits(const char* text) noexcept {
     return (text[0] - '0') * 10 + (text[1] - '0');
 }
 
-// "00" to "99", one after the other.
-inline constexpr std::array<char, 200> kPairs = [] {
-    std::array<char, 200> pairs{};
-    for (std::size_t i = 0; i < 100; ++i) {
-        pairs[2 * i] = static_cast<char>('0' + i / 10);
-        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-    }
-    return pairs;
-}();
-
 // "%0<width>d" for widths up to 4, "%d" for 0: the width counts a minus sign, and zeros go behind it.
 inline char* Print(char* out, std::int32_t number, unsigned width) noexcept {
     if (width == 2 && static_cast<std::uint32_t>(number) < 100) {
-        std::memcpy(out, &kPairs[2 * static_cast<std::size_t>(number)], 2);
+        std::memcpy(out, &json::kDigitPairs[2 * static_cast<std::size_t>(number)], 2);
         return out + 2;
     }
     char digits[12];

@@ -108,7 +108,7 @@ bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
         std::memcpy(text, "0 00:00:00-00:00:00", 19);
         text[0] = static_cast<char>('0' + fields[0]);
         for (int i = 1; i < kSectionFields; ++i)
-            std::memcpy(text + 3 * i - 1, &scan::kPairs[2 * fields[i]], 2);
+            std::memcpy(text + 3 * i - 1, &json::kDigitPairs[2 * fields[i]], 2);
     });
 }
 

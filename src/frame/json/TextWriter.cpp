@@ -4,6 +4,7 @@
 #include "frame/json/WalkStack.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 
 namespace orrery::json {
@@ -85,7 +86,7 @@ void TextWriter::Real(double number) noexcept {
             char* at = Separated(room);
             if (std::signbit(number)) *at++ = '-';
             std::memset(at, '0', kPrecision + 1);
-            *Digits(at, static_cast<std::uint32_t>(magnitude)) = '.';
+            *PutDigits(at, static_cast<std::uint32_t>(magnitude)) = '.';
             next_ = at + kPrecision + 1;
             first_ = false;
             return;

@@ -6,9 +6,9 @@
 // compiled, and keys known only at run time go through a Value, which keeps them in order.
 #pragma once
 
+#include "frame/json/Digits.h"
 #include "frame/json/Value.h"
 
-#include <charconv>
 #include <cstring>
 
 namespace orrery::json {
@@ -70,7 +70,7 @@ class TextWriter {
     }
     void RawMember(std::string_view quoted, std::int32_t number) noexcept {
         if (char* const at = Room(quoted.size() + kIntegerRoom)) {
-            next_ = Digits(CopyShort(Separated(at), quoted.data(), quoted.size()), number);
+            next_ = PutDigits(CopyShort(Separated(at), quoted.data(), quoted.size()), number);
             first_ = false;
             return;
         }
@@ -95,8 +95,8 @@ class TextWriter {
         }
         String(clean);
     }
-    // A string of `size` bytes with nothing to escape in it, which `fill` writes where it gets told. False when there is
-    // no room, and nothing is written.
+    // A string of `size` bytes with nothing to escape in it, which `fill` writes where it gets told. False when there
+    // is no room, and nothing is written.
     template <class Fill>
     bool CleanString(std::size_t size, Fill fill) noexcept {
         char* const room = Room(size + 2);
@@ -131,8 +131,6 @@ class TextWriter {
     bool fits() const noexcept { return lost_ == 0; }
 
   private:
-    // Longer than any 32-bit number.
-    static constexpr std::size_t kIntegerRoom = 12;
     static constexpr std::size_t kSeparator = 2;
 
     void Append(const char* text, std::size_t size) noexcept {
@@ -163,14 +161,6 @@ class TextWriter {
         char* const end = CopyShort(at + 1, clean.data(), clean.size());
         *end = '"';
         return end + 1;
-    }
-    template <class Number>
-    static char* Digits(char* at, Number number) noexcept {
-        if (number >= 0 && number < 10) {
-            *at = static_cast<char>('0' + number);
-            return at + 1;
-        }
-        return std::to_chars(at, at + kIntegerRoom, number).ptr;
     }
     // Texts of a few bytes, as keys and words are: two stores that overlap instead of a call.
     static char* CopyShort(char* out, const char* text, std::size_t size) noexcept {
@@ -203,12 +193,12 @@ class TextWriter {
     template <class Number>
     void Integer(Number number) noexcept {
         if (char* const at = Room(kIntegerRoom)) [[likely]] {
-            next_ = Digits(Separated(at), number);
+            next_ = PutDigits(Separated(at), number);
             first_ = false;
         } else {
             Separate();
             char digits[kIntegerRoom];
-            Append(digits, static_cast<std::size_t>(std::to_chars(digits, digits + kIntegerRoom, number).ptr - digits));
+            Append(digits, static_cast<std::size_t>(PutDigits(digits, number) - digits));
         }
     }
     void AppendPart(const char* text, std::size_t size) noexcept;
