@@ -1,5 +1,6 @@
-/* Where sound comes from, where it goes and how loud it is. Keys that are absent leave 0 or an empty text. Empty lists
- * are not written. */
+/* Where sound comes from, where it goes and how loud it is. Each command has one record. A missing table fails, and one
+ * of another type than told is a record without keys, unless told otherwise. Keys that are absent leave 0 or an empty
+ * text. Empty lists are not written. */
 #ifndef ORRERY_AUDIO_H
 #define ORRERY_AUDIO_H
 
@@ -92,7 +93,8 @@ typedef struct CFG_LOWER_MATRIX_INFO {
 /* "ComposeChannel", "ComposeLinkage": channels that are shown together. */
 typedef struct CFG_COMPOSE_CHANNEL_INFO {
     int32_t emSplit; /* "Split": how the picture is divided: 4 for "Split4", 1004 for "PIP4", 2000 for "Free", 3002
-                        for "CompositeSplit2"; "Split3" is 10 and "Split3B" 11, other texts 1. Case does not count */
+                        for "CompositeSplit2"; "Split3" is 10 and "Split3B" 11, other texts 1. Case does not count.
+                        Every code is written: 3 as the text of 10 */
     int32_t nChannelCount;                      /* entries of nChannels in use */
     int32_t nChannels[ORRERY_COMPOSE_CHANNELS]; /* "ChannelCombination": channels, from 0 */
 } CFG_COMPOSE_CHANNEL_INFO;
@@ -112,8 +114,8 @@ typedef struct CFG_AUDIO_INPUT_INFO {
     char szAudioSource[256]; /* "AudioSource": kind of source, in the device's own words */
 } CFG_AUDIO_INPUT_INFO;
 
-/* "AudioMixChannel": audio channels that are mixed. A missing table reads nothing and adds nothing to the length; the
- * length of a call is added to: set it to 0 first. */
+/* "AudioMixChannel": audio channels that are mixed; without any, null is written. A missing table reads nothing and
+ * adds nothing to the length; the length of a call is added to: set it to 0 first. */
 typedef struct CFG_AUDIO_MIX_CHANNEL_INFO {
     int32_t nCombinationCount;                 /* entries of nCombination in use */
     int32_t nCombination[ORRERY_MIX_CHANNELS]; /* "Combination": channels, from 0 */
@@ -157,7 +159,7 @@ typedef struct CFG_SPEAK_FORMAT {
 } CFG_SPEAK_FORMAT;
 
 /* "speak.getCaps": what a client may speak to the device. Read from "params"."caps", or from "params" itself when there
- * is no "caps". A reply without "result" is read too. Read only. */
+ * is no "caps"; a reply that has neither fails. One without "result" is read too. Read only. */
 typedef struct CFG_SPEAK_CAPS {
     int32_t nFormatCount;                                           /* entries of stuSupportedAudioFormat in use */
     CFG_SPEAK_FORMAT stuSupportedAudioFormat[ORRERY_SPEAK_FORMATS]; /* "SupportedAudioFormat" */

@@ -145,14 +145,14 @@ typedef struct CFG_NET_AUTO_ADAPT_ENCODE_INFO {
 } CFG_NET_AUTO_ADAPT_ENCODE_INFO;
 
 /* "FreeCombination": windows put together freely; one or a list. The caller's record is not cleared: without a list its
- * count is 0, and entries behind the count keep what they hold. */
+ * count is 0, and entries behind the count keep what they hold. Without any window, null is written. */
 typedef struct CFG_FREE_COMBINATION_INFO {
     int32_t nCombinationCount;                 /* entries of nCombination in use */
     int32_t nCombination[ORRERY_COMBINATIONS]; /* "Combination": windows; no key when there are none */
 } CFG_FREE_COMBINATION_INFO;
 
 /* "TSPoint": the calibration of a touch screen; an object, or the first element of an array. Other elements than points
- * of two numbers read as zeros. */
+ * of two numbers read as zeros. Without any point, null is written. */
 typedef struct CFG_TS_POINT_INFO {
     int32_t nScreenCount;                      /* elements of stuScreen in use */
     CFG_POINT stuScreen[ORRERY_TOUCH_POINTS];  /* "Screen": where it was touched; no key when there are none */

@@ -8,9 +8,10 @@
  * Records that begin with dwSize, "VideoOut", "VideoColor" and "ChannelTitle", carry the size that the caller was
  * compiled with: set it in the first record before every call, also before reading. It is the distance from one record
  * to the next, whatever the later records' own words hold, which are neither read nor written. A dwSize below 4, or one
- * above the buffer, fails. What lies within dwSize moves; what lies behind the caller's own records stays as it was. Of
- * these a missing table, and an empty list, succeed with a length of 0, and a null element leaves the caller's record
- * as it was. Of the other records a missing table fails, and an empty list succeeds with a length of 0. */
+ * above the buffer, fails; 1 to 3 are told to the log besides. What lies within dwSize moves; what lies behind the
+ * caller's own records stays as it was. Of these a missing table, and an empty list, succeed with a length of 0, and a
+ * null element leaves the caller's record as it was. Of the other records a missing table fails, and an empty list
+ * succeeds with a length of 0. */
 #ifndef ORRERY_DISPLAY_H
 #define ORRERY_DISPLAY_H
 
@@ -92,7 +93,8 @@ typedef struct CFG_VIDEO_COLOR_INFO {
     int32_t nGamma;                  /* "Gamma" */
     int32_t nChromaSuppress;         /* "ChromaSuppress" */
     int32_t emStyle;                 /* "Style": CFG_COLOR_STYLE_... */
-    CFG_TIME_SECTION stuTimeSection; /* "TimeSection": when they apply */
+    CFG_TIME_SECTION stuTimeSection; /* "TimeSection": when they apply; its times have at most two digits a number. Of a
+                                        text that does not read to its end, the numbers in front of that */
 } CFG_VIDEO_COLOR_INFO;
 
 /* ---- Inputs ---- */
@@ -125,8 +127,8 @@ typedef struct CFG_VIDEO_IN_BOUNDARY_INFO {
     int32_t nBottom; /* "Bottom" */
 } CFG_VIDEO_IN_BOUNDARY_INFO;
 
-/* "Snap": when snapshots are taken. Sections that do not read are passed over and leave their place at zero; all are
- * written, also those without a time. */
+/* "Snap": when snapshots are taken. Of a section that does not read to its end the numbers in front of that are kept,
+ * and the list goes on behind it; all sections are written, also those without a time. */
 typedef struct CFG_SNAP_SCHEDULE_INFO {
     CFG_TIME_SECTION stuTimeSection[ORRERY_SNAP_SECTIONS]; /* "TimeSection": a flat list of sections */
 } CFG_SNAP_SCHEDULE_INFO;

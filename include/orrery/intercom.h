@@ -60,12 +60,15 @@ typedef struct CFG_VTO_CALLING_INFO {
     char szManagerNumber[32]; /* "ManagerNumber": of the porter */
     char szUrgentNumber[32];  /* "UrgentNumber": in an emergency */
     CFG_TIME_SECTION stuCallVTSEnable[ORRERY_CALL_SECTIONS]; /* "CallVTSEnable": when the management centre may be
-                                                                called; a flat list of sections, all written */
+                                                                called; a flat list of sections, all written; of one
+                                                                that does not read to its end the numbers in front
+                                                                of that are kept, and the list goes on behind it */
     int32_t nMaxExtensionIndex;                              /* "MaxExtensionIndex": highest number of an extension */
     char szRoomRule[32]; /* "RoomRule": how rooms are numbered, in the device's words */
-    CFG_TIME_SECTION stuTimeSection[ORRERY_WEEK_DAYS]
-                                   [ORRERY_DAY_SECTIONS]; /* "TimeSection": when the station rings;
-                                                             a list a day, Sunday first, all written */
+    CFG_TIME_SECTION stuTimeSection[ORRERY_WEEK_DAYS][ORRERY_DAY_SECTIONS]; /* "TimeSection": when the station rings;
+                                                                               a list a day, Sunday first, all written;
+                                                                               reading ends with the first section that
+                                                                               does not read to its end */
 } CFG_VTO_CALLING_INFO;
 
 /* A camera that an indoor station shows. */

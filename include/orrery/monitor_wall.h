@@ -3,9 +3,9 @@
  *
  * Records that begin with dwSize carry the size that the caller was compiled with: set it in the first record before
  * every call, also before reading. It is the distance from one record to the next, whatever the later records' own
- * words hold, which are neither read nor written. A dwSize below 4, or one above the buffer, fails. What lies within
- * dwSize moves; what lies behind the caller's own records stays as it was. A missing table, and an empty list, succeed
- * with a length of 0; a null element leaves the caller's record as it was.
+ * words hold, which are neither read nor written. A dwSize below 4, or one above the buffer, fails; 1 to 3 are told to
+ * the log besides. What lies within dwSize moves; what lies behind the caller's own records stays as it was. A missing
+ * table, and an empty list, succeed with a length of 0; a null element leaves the caller's record as it was.
  *
  * A table that is an object is one record, an array gives a record an element, as many as fit; other types fail.
  * Written are as many records as fit the size: one bare, several as a list. Lists beyond their room are cut; empty ones
@@ -56,9 +56,10 @@ typedef struct CFG_MONITOR_WALL_INFO {
     int32_t nBlockCount;                          /* entries of stuBlocks in use */
     CFG_WALL_BLOCK stuBlocks[ORRERY_WALL_BLOCKS]; /* "Blocks" */
     CFG_TIME_SECTION stuPowerSchedule[ORRERY_WALL_POWER_SECTIONS]; /* "PowerSchedule": when its screens are on, a
-                                                                      flat list of sections; those that do not read
-                                                                      are passed over and leave their place at zero;
-                                                                      all are written */
+                                                                      flat list of sections; of one that does not
+                                                                      read to its end the numbers in front of that
+                                                                      are kept, and the list goes on behind it; all
+                                                                      are written */
 } CFG_MONITOR_WALL_INFO;
 
 /* "VideoOutputComposite": video outputs joined into one screen. */
@@ -124,7 +125,8 @@ typedef struct CFG_COMPOSITE_SCENE {
     char szName[128];      /* the name of the member that a block stands under; empty where the scene stands alone */
     char szControlID[128]; /* "ControlID": under which the screen is controlled */
     int32_t emMode;        /* "Mode": how the screen is divided: 4 for "Split4", 1004 for "PIP4", 2000 for "Free", 3002
-                              for "CompositeSplit2"; "Split3" is 10 and "Split3B" 11, other texts 1. Case does not count */
+                              for "CompositeSplit2"; "Split3" is 10 and "Split3B" 11, other texts 1. Case does not
+                              count. Every code is written: 3 as the text of 10 */
     int32_t nWindowCount;  /* entries of stuWindows in use */
     CFG_WINDOW_INFO stuWindows[ORRERY_SCENE_WINDOWS]; /* "Windows" */
 } CFG_COMPOSITE_SCENE;

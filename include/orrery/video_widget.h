@@ -62,9 +62,10 @@ typedef struct CFG_WIDGET_SENSOR {
 
 /* "VideoWidget": a channel's widgets; one record or a list, as many as fit. dwSize is the size that the caller was
  * compiled with: set it in the first record before every call, also before reading. It is the distance from one record
- * to the next; below 4, or above the buffer, it fails. What lies within dwSize moves. A missing table, and an empty
- * list, succeed with a length of 0; a null element leaves the caller's record as it was. Keys that are absent leave 0
- * or an empty text. Lists beyond their room are cut. Written is one bare record, or a list of several. */
+ * to the next; below 4 (1 to 3 are told to the log besides), or above the buffer, it fails. What lies within dwSize
+ * moves. A missing table, and an empty list, succeed with a length of 0; a null element leaves the caller's record as
+ * it was. Keys that are absent leave 0 or an empty text. Lists beyond their room are cut. Written is one bare record,
+ * or a list of several. */
 typedef struct CFG_VIDEO_WIDGET_INFO {
     uint32_t dwSize;
     int32_t nCoverCount;                                                 /* entries of stuCovers in use */

@@ -1,5 +1,6 @@
 #include "display/Audio.h"
 
+#include "later/TableCalls.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>
@@ -244,6 +245,19 @@ TEST(ComposeChannel, ThereAndBack) {
     }
 }
 
+TEST(ComposeChannel, IsOneRecordWhateverTheTable) {
+    for (const char* const table : {"{ }", R"([ { "Split" : "Split4" } ])", "5"}) {
+        const Records<CFG_COMPOSE_CHANNEL_INFO> compose(2, kUntouched);
+        EXPECT_EQ(ParseTable("ComposeLinkage", table, compose), (Answer{1, sizeof(CFG_COMPOSE_CHANNEL_INFO)}));
+        EXPECT_TRUE(compose.isAll(0)) << table;
+        EXPECT_EQ(PackAll("ComposeLinkage", compose), R"({ "Split" : "Split" })");
+        const Records<CFG_AUDIO_INPUT_INFO> input(2, kUntouched);
+        EXPECT_EQ(ParseTable("AudioInput", table, input), (Answer{1, sizeof(CFG_AUDIO_INPUT_INFO)}));
+        EXPECT_TRUE(input.isAll(0)) << table;
+        EXPECT_EQ(PackAll("AudioInput", input), R"({ "AudioSource" : "" })");
+    }
+}
+
 TEST(ComposeChannel, ChannelsEndAtTheirRoom) {
     for (const int count : {255, 256, 257}) {
         const auto parsed = Parse<CFG_COMPOSE_CHANNEL_INFO>("ComposeChannel", R"({ "ChannelCombination" : )"
@@ -276,7 +290,8 @@ TEST(ComposeChannel, SplitNames) {
         EXPECT_EQ(read('"' + std::string(split.text) + '"'), split.code) << split.text;
         EXPECT_EQ(written(split.code), R"({ "Split" : ")" + std::string(split.text) + "\" }");
     }
-    EXPECT_EQ(read("\"pip2\""), 1002); // in any case
+    EXPECT_EQ(written(3), R"({ "Split" : "Split3" })"); // which is the text of 10, and reads as that
+    EXPECT_EQ(read("\"pip2\""), 1002);                  // in any case
     EXPECT_EQ(read("\"split3\""), 10);
     for (const char* const value : {"\"Grid\"", "\"\"", "4"})
         EXPECT_EQ(read(value), 1) << value;
@@ -380,6 +395,29 @@ TEST(AudioMixChannel, ThereAndBack) {
     }
 }
 
+TEST(AudioMixChannel, IsOneRecordOfAnObject) {
+    const Records<CFG_AUDIO_MIX_CHANNEL_INFO> records(2, kUntouched);
+    for (const char* const table :
+         {R"([ { "Combination" : [ 1 ] } ])", "[ ]", "7", R"({ "Combination" : { "0" : 1 } })"}) {
+        EXPECT_EQ(Added("AudioMixChannel", table, records), (Answer{1, sizeof(CFG_AUDIO_MIX_CHANNEL_INFO)})) << table;
+        EXPECT_TRUE(records.isAll(0)) << table;
+    }
+    const auto record = Cleared<CFG_AUDIO_MIX_CHANNEL_INFO>();
+    for (const std::int32_t count : {256, 257, INT32_MAX}) {
+        record->nCombinationCount = count;
+        EXPECT_EQ(Pack("AudioMixChannel", *record),
+                  R"({ "Combination" : )" + ListOf(256, [](int) { return "0"; }) + " }");
+    }
+    record->nCombinationCount = -1;
+    EXPECT_EQ(Pack("AudioMixChannel", *record), "null");
+    TryReplies("AudioMixChannel", sizeof(CFG_AUDIO_MIX_CHANNEL_INFO));
+}
+
+TEST(AudioTouch, IsOneRecordOfAnObject) {
+    TryOne("AudioTouch", "Pitch", &CFG_AUDIO_TOUCH_INFO::nPitch);
+    TryReplies("AudioTouch", sizeof(CFG_AUDIO_TOUCH_INFO));
+}
+
 TEST(AudioTouch, ThereAndBack) {
     const std::string text = R"({ "Enable" : true, "Info" : "deep", "Pitch" : -3 })";
     const Records<CFG_AUDIO_TOUCH_INFO> records(1, kUntouched);
@@ -450,6 +488,24 @@ TEST(SpeakCaps, Refusals) {
     EXPECT_EQ(CLIENT_ParseData("speak.getCaps", "{ }", small.data(), sizeof(CFG_SPEAK_CAPS) - 1, nullptr), 0);
     EXPECT_TRUE(small.isAll(kUntouched));
     EXPECT_EQ(Pack("speak.getCaps", *Cleared<CFG_SPEAK_CAPS>()), kNotBegun); // read only
+}
+
+TEST(SpeakCaps, OfOtherValuesThereAreNoFormats) {
+    for (const char* const params : {"{ }", R"({ "caps" : 5 })", R"({ "caps" : [ ] })",
+                                     R"({ "caps" : { "SupportedAudioFormat" : { "0" : { } } } })"}) {
+        // A "result" of null is none.
+        const auto parsed = ParseDocument<CFG_SPEAK_CAPS>("speak.getCaps", R"({ "result" : null, "params" : )"
+                                                                               + std::string(params) + " }");
+        ASSERT_TRUE(parsed) << params;
+        EXPECT_EQ(parsed.length, sizeof(CFG_SPEAK_CAPS));
+        EXPECT_TRUE(parsed.isCleared()) << params;
+    }
+    for (const char* const result : {"0", "\"\"", "[ ]"}) {
+        const auto refused = ParseDocument<CFG_SPEAK_CAPS>("speak.getCaps", R"({ "result" : )" + std::string(result)
+                                                                                + R"(, "params" : )" + kCaps + " }");
+        EXPECT_FALSE(refused) << result;
+        EXPECT_TRUE(refused.isCleared());
+    }
 }
 
 TEST(SpeakCaps, Formats) {

@@ -144,6 +144,21 @@ TEST(VideoColor, ThereAndBack) {
     EXPECT_EQ(Pack("VideoColor", *parsed), text);
 }
 
+TEST(VideoColor, ASectionIsReadAsFarAsItGoes) {
+    const auto read = [](const std::string& value) {
+        const auto section =
+            ParseSized<CFG_VIDEO_COLOR_INFO>("VideoColor", R"({ "TimeSection" : )" + value + " }")->stuTimeSection;
+        return std::vector<std::int32_t>{section.dwMask,   section.nBeginHour, section.nBeginMin, section.nBeginSec,
+                                         section.nEndHour, section.nEndMin,    section.nEndSec};
+    };
+    using Section = std::vector<std::int32_t>;
+    EXPECT_EQ(read("\"127 1:2:3-4:5:6\""), (Section{127, 1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(read("\"1 8:09:10-11:12\""), (Section{1, 8, 9, 10, 11, 12, 0}));
+    EXPECT_EQ(read("\"1 018:09:10-11:12:13\""), (Section{1, 1, 0, 0, 0, 0, 0})); // "01", and no colon behind it
+    for (const char* const value : {"\"\"", "\"noon\"", "null", "5", "[ \"1 1:2:3-4:5:6\" ]"})
+        EXPECT_EQ(read(value), (Section{0, 0, 0, 0, 0, 0, 0})) << value;
+}
+
 TEST(VideoColor, ARecordAPeriod) {
     Records<CFG_VIDEO_COLOR_INFO> records(2);
     CFG_VIDEO_COLOR_INFO first{};
@@ -274,6 +289,17 @@ TEST(Snap, ThereAndBack) {
                                             R"({ "TimeSection" : )" + Sections({}) + " }");
 }
 
+TEST(Snap, ASectionIsReadAsFarAsItGoes) {
+    const auto parsed =
+        Parse<CFG_SNAP_SCHEDULE_INFO>("Snap", R"({ "TimeSection" : [ "4 5:06", "5 7:08:09-10:11:12" ] })");
+    EXPECT_EQ(parsed->stuTimeSection[0].dwMask, 4);
+    EXPECT_EQ(parsed->stuTimeSection[0].nBeginHour, 5);
+    EXPECT_EQ(parsed->stuTimeSection[0].nBeginMin, 6);
+    EXPECT_EQ(parsed->stuTimeSection[0].nBeginSec, 0);
+    EXPECT_EQ(parsed->stuTimeSection[0].nEndHour, 0);
+    EXPECT_EQ(parsed->stuTimeSection[1].nEndSec, 12); // the list goes on
+}
+
 TEST(Snap, KeepsFortyTwoSections) {
     std::string list = "[ ";
     for (int i = 0; i < 44; ++i)
@@ -366,6 +392,34 @@ TEST(AnalogMatrix, OneOrManyAndItsRoom) {
     EXPECT_ROOM(parsed, stuInputChannelSource[0].szControlID, 128);
     EXPECT_ROOM(parsed, stuInputChannelSource[0].szFormat, 32);
     EXPECT_EQ(parsed->stuInputChannelSource[255].nActive, 255);
+}
+
+TEST(AnalogMatrix, SourcesEndAtTheirRoomInBothDirections) {
+    for (const int count : {255, 256, 257}) {
+        std::string sources = R"([ { "Active" : 1 })";
+        for (int i = 1; i < count; ++i)
+            sources += R"(, { "Active" : )" + std::to_string(i + 1) + " }";
+        const auto parsed =
+            Parse<CFG_ANALOG_MATRIX_INFO>("AnalogMatrix", R"({ "InputChannelSource" : )" + sources + " ] }");
+        const int used = std::min(count, 256);
+        EXPECT_EQ(parsed->nSourceCount, used);
+        EXPECT_EQ(parsed->stuInputChannelSource[used - 1].nActive, used);
+    }
+    const auto record = Cleared<CFG_ANALOG_MATRIX_INFO>();
+    const auto written = [&](std::int32_t count) {
+        record->nSourceCount = count;
+        const std::string text = Pack("AnalogMatrix", *record);
+        std::size_t found = 0;
+        for (std::size_t at = text.find("ControlID"); at != std::string::npos; at = text.find("ControlID", at + 1))
+            ++found;
+        return found;
+    };
+    EXPECT_EQ(written(255), 255u);
+    for (const std::int32_t count : {256, 257, INT32_MAX})
+        EXPECT_EQ(written(count), 256u) << count;
+    for (const std::int32_t count : {0, -1, INT32_MIN})
+        EXPECT_EQ(written(count), 0u) << count;
+    EXPECT_EQ(Pack("AnalogMatrix", *record).find("InputChannelSource"), std::string::npos);
 }
 
 TEST(AnalogMatrixProtocol, ThereAndBack) {

@@ -123,6 +123,13 @@ TEST(MonitorWall, SectionsThatDoNotReadArePassedOver) {
     EXPECT_EQ(parsed->stuPowerSchedule[1].nEndSec, 6);
     EXPECT_EQ(parsed->stuPowerSchedule[2].dwMask, 0);
     EXPECT_EQ(parsed->stuPowerSchedule[3].nEndSec, 7);
+    const auto part = ParseSized<CFG_MONITOR_WALL_INFO>(
+        "MonitorWall", R"({ "PowerSchedule" : [ "4 5:06", "5 007:08:09-10:11:12" ] })");
+    EXPECT_EQ(part->stuPowerSchedule[0].dwMask, 4); // as far as it goes
+    EXPECT_EQ(part->stuPowerSchedule[0].nBeginMin, 6);
+    EXPECT_EQ(part->stuPowerSchedule[0].nEndHour, 0);
+    EXPECT_EQ(part->stuPowerSchedule[1].nBeginHour, 7); // numbers of any width
+    EXPECT_EQ(part->stuPowerSchedule[1].nEndSec, 12);
     const auto many =
         ParseSized<CFG_MONITOR_WALL_INFO>("MonitorWall", R"({ "PowerSchedule" : )" + ListOf(43, [](int i) {
                                                              return '"' + std::to_string(i + 1) + R"( 1:2:3-4:5:6")";
@@ -219,6 +226,38 @@ TEST(SplitSource, ThereAndBack) {
         EXPECT_EQ(device.nGB28181Port, 24);
         EXPECT_EQ(PackAll(command, records), kSource);
     }
+}
+
+// Each record of a list has an array of its own behind its pointer, and a null element's stays as it was.
+TEST(SplitSource, EachOfAListHasItsOwnArray) {
+    CFG_REMOTE_VIDEO_INPUT inputs[3][2] = {};
+    Records<CFG_SPLIT_SOURCE> records(3);
+    for (std::size_t i = 0; i < 3; ++i) {
+        CFG_SPLIT_SOURCE record{};
+        record.dwSize = sizeof record;
+        record.stuDeviceInfo.pVideoInputs = inputs[i];
+        record.stuDeviceInfo.nMaxVideoInputs = 2;
+        records.Set(i, record);
+    }
+    const auto source = [](int number) {
+        const std::string n = std::to_string(number);
+        return R"({ "ControlID" : "c)" + n + R"(", "DeviceInfo" : { "VideoInputs" : [ { "Name" : "a)" + n
+               + R"(" }, { "Name" : "b)" + n + R"(" }, { "Name" : "d" } ] } })";
+    };
+    EXPECT_EQ(ParseTable("MonitorCollection", "[ " + source(0) + ", null, " + source(2) + " ]", records),
+              (Answer{1, 3 * sizeof(CFG_SPLIT_SOURCE)}));
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(records[i].stuDeviceInfo.pVideoInputs, inputs[i]);
+    EXPECT_STREQ(records[0].szControlID, "c0");
+    EXPECT_STREQ(inputs[0][0].szName, "a0");
+    EXPECT_STREQ(inputs[0][1].szName, "b0");
+    EXPECT_EQ(records[1].stuDeviceInfo.nRetVideoInputs, 0);
+    EXPECT_STREQ(inputs[1][0].szName, "");
+    EXPECT_STREQ(records[2].szControlID, "c2");
+    EXPECT_STREQ(inputs[2][1].szName, "b2");
+    const std::string text = PackAll("MonitorCollection", records);
+    for (const char* const name : {"\"a0\"", "\"b0\"", "\"a2\"", "\"b2\""})
+        EXPECT_NE(text.find(name), std::string::npos) << name;
 }
 
 // Without "DeviceInfo" nothing is known of the device, and its keys are written empty.
@@ -476,6 +515,9 @@ TEST(CompositeScene, SplitNames) {
         EXPECT_EQ(read('"' + std::string(split.text) + '"'), split.code) << split.text;
         EXPECT_EQ(written(split.code), split.text) << split.code;
     }
+    EXPECT_EQ(written(3), "Split3"); // which is the text of 10, and reads as that
+    EXPECT_EQ(read("\"Split3x\""), 3);
+    EXPECT_EQ(read("\"PIPx\""), 1000);  // no number behind it
     EXPECT_EQ(read("\"sPLIT16\""), 16); // in any case
     EXPECT_EQ(read("\"SPLIT3b\""), 11);
     EXPECT_EQ(read("\"compositesplit7\""), 3007);

@@ -64,6 +64,8 @@ TEST(RecordBackupRestore, DevicesEndAtTheirRoom) {
     record.nDeviceCount = 33;
     const std::string text = Pack("RecordBackupRestore", record);
     EXPECT_EQ(std::count(text.begin(), text.end(), '"'), 2 * (32 + 2));
+    record.nDeviceCount = -1;
+    EXPECT_EQ(Pack("RecordBackupRestore", record), R"({ "BitrateLimit" : 0 })");
 }
 
 TEST(RecordBackupRestore, TellsOfARecordThatIsTooShortToWrite) {

@@ -3,6 +3,7 @@
 #include "display/MonitorWall.h"
 #include "display/OneOrMany.h"
 #include "display/VideoWidget.h"
+#include "support/LogLines.h"
 
 #include <vector>
 
@@ -152,6 +153,27 @@ TEST(SizedRecords, AWordThatIsNoSizeFails) {
         }
         const Caller none(sized, 3, 3); // not even room for the word
         EXPECT_EQ(none.Parse(sized.object), kRefused);
+    }
+}
+
+// No record can be so small; who wrote the caller learns of it.
+TEST(SizedRecords, AWordBelowItsOwnSizeFailsAndIsTold) {
+    const std::string line = "_ParamConvert: invalid dwSize";
+    for (const Sized& sized : kSized) {
+        SCOPED_TRACE(sized.command);
+        Caller caller(sized, sized.size, sized.size);
+        for (const std::uint32_t word : {0u, 1u, 2u, 3u}) {
+            caller.SetWord(word);
+            const LogLines log;
+            EXPECT_EQ(caller.Parse(sized.object), kRefused) << word;
+            EXPECT_TRUE(caller.KeepsAll()) << word;
+            EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, line), word == 0 ? 0 : 1) << word;
+            EXPECT_EQ(caller.Pack(), kNotBegun) << word;
+            EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, line), word == 0 ? 0 : 2) << word;
+        }
+        caller.SetWord(4); // a record of nothing but the word
+        EXPECT_EQ(caller.Parse(sized.object), (Answer{1, 4}));
+        EXPECT_TRUE(caller.KeepsAll());
     }
 }
 

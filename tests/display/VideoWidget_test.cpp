@@ -161,6 +161,27 @@ TEST(VideoWidget, ListsEndAtTheirRoom) {
     }
 }
 
+TEST(VideoWidget, NullItemsKeepTheirPlace) {
+    const auto parsed =
+        ParseSized<Widget>("VideoWidget", R"({ "Covers" : [ null, { "Rect" : [ 1, 2, 3, 4 ] }, 5 ], )"
+                                          R"("CustomTitle" : [ null, { "Text" : "t" } ], "SensorInfo" : [ null, )"
+                                          R"({ "Description" : [ null, { "ID" : 6 } ] } ], "TimeTitle" : null })");
+    ASSERT_TRUE(parsed);
+    EXPECT_EQ(parsed->nCoverCount, 3);
+    CFG_WIDGET_ITEM clear{};
+    clear.dwSize = sizeof clear;
+    EXPECT_EQ(std::memcmp(&parsed->stuCovers[0], &clear, sizeof clear), 0);
+    EXPECT_EQ(parsed->stuCovers[1].stuRect.nBottom, 4);
+    EXPECT_EQ(std::memcmp(&parsed->stuCovers[2], &clear, sizeof clear), 0);
+    EXPECT_EQ(parsed->nCustomTitleCount, 2);
+    EXPECT_STREQ(parsed->stuCustomTitle[1].szText, "t");
+    EXPECT_EQ(parsed->nSensorCount, 2);
+    EXPECT_EQ(parsed->stuSensorInfo[0].nDescriptionCount, 0);
+    EXPECT_EQ(parsed->stuSensorInfo[1].nDescriptionCount, 2);
+    EXPECT_EQ(parsed->stuSensorInfo[1].stuDescription[1].nID, 6);
+    EXPECT_EQ(parsed->stuTimeTitle.dwSize, sizeof(CFG_WIDGET_TIME_TITLE));
+}
+
 TEST(VideoWidget, CountsOfTheCallersEndAtTheRoomToo) {
     auto record = Cleared<Widget>();
     record->dwSize = sizeof(Widget);

@@ -339,6 +339,19 @@ TEST(LightingV2, GoesRoundWhole) {
     EXPECT_EQ(Pack("Lighting_V2", full), text);
 }
 
+TEST(LightingV2, LampsBelowAndAtTheirRoom) {
+    using Lamps = CFG_LIGHTING_V2_INFO;
+    for (const int count : {7, 8}) {
+        const auto read = ReadOne<Lamps>("Lighting_V2", R"({ "Angle" : )" + Times(count, "3") + R"(, "Light" : )"
+                                                            + Times(count, "4") + " }");
+        EXPECT_EQ(read.nAngleCount, count);
+        EXPECT_EQ(read.nLightCount, count);
+        const std::string text = Pack("Lighting_V2", read);
+        EXPECT_NE(text.find(R"("Angle" : )" + Times(count, "3") + ", "), std::string::npos) << text;
+        EXPECT_NE(text.find(R"("Light" : )" + Times(count, "4") + ", "), std::string::npos) << text;
+    }
+}
+
 TEST(NetAutoAdaptEncode, GoesRoundWhole) {
     using Adapt = CFG_NET_AUTO_ADAPT_ENCODE_INFO;
     const auto read =
@@ -420,6 +433,16 @@ TEST(TsPoint, KeepsSixteenPointsOfTwoNumbers) {
     full.nScreenCount = full.nDisplayCount = 17;
     const std::string sixteen = Times(16, "[ 7, 8 ]");
     EXPECT_EQ(Pack("TSPoint", full), R"({ "Display" : )" + sixteen + R"(, "Screen" : )" + sixteen + " }");
+}
+
+TEST(TsPoint, PointsBelowAndAtTheirRoom) {
+    for (const int count : {15, 16}) {
+        const std::string points = Times(count, "[ 7, 8 ]");
+        const auto read =
+            GoesRound<Touch>("TSPoint", R"({ "Display" : )" + points + R"(, "Screen" : )" + points + " }");
+        EXPECT_EQ(read.nDisplayCount, count);
+        EXPECT_EQ(read.nScreenCount, count);
+    }
 }
 
 TEST(PowerUp, GoesRoundWhole) {
@@ -504,6 +527,18 @@ TEST(SceneSnapShot, RulesByTheirNames) {
     }
     snaps.stuRules[0].emRuleType = ORRERY_RULE_ALL;
     EXPECT_NE(Pack("SceneSnapShotWithRule", snaps).find(R"("RuleType" : "All")"), std::string::npos);
+}
+
+TEST(SceneSnapShot, RulesAndTypesBelowAndAtTheirRoom) {
+    for (const int below : {0, 1}) {
+        const std::string rule = R"({ "RepeatInterval" : 4, "RuleType" : "All", "SingleInterval" : 5, )"
+                                 R"("SnapShotType" : )"
+                                 + Times(8 - below, "\"t\"") + " }";
+        const auto read = GoesRound<Snaps>("SceneSnapShotWithRule", R"({ "PresetID" : 3, "SnapShotWithRule" : )"
+                                                                        + Times(16 - below, rule) + " }");
+        EXPECT_EQ(read.nRuleCount, 16 - below);
+        EXPECT_EQ(read.stuRules[0].nSnapShotTypeCount, 8 - below);
+    }
 }
 
 TEST(SceneSnapShot, KeepsSixteenRulesOfEightTypes) {

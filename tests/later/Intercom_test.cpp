@@ -99,6 +99,11 @@ TEST(VtoCalling, SectionsAreAFlatListThatGoesOnBehindABadOne) {
     EXPECT_EQ(read.stuCallVTSEnable[5].dwMask, 5); // the last that fits
     for (const auto& day : read.stuTimeSection)
         EXPECT_EQ(day[0].dwMask, 0);
+    const auto part = sections(R"([ "7 8:09", "6 008:00:00-9:00:00" ])");
+    EXPECT_EQ(part.stuCallVTSEnable[0].dwMask, 7); // as far as it goes
+    EXPECT_EQ(part.stuCallVTSEnable[0].nBeginMin, 9);
+    EXPECT_EQ(part.stuCallVTSEnable[0].nEndHour, 0);
+    EXPECT_EQ(part.stuCallVTSEnable[1].nEndHour, 9); // numbers of any width
     for (const char* value : {"[ ]", "null", "\"1 08:00:00-12:00:00\"", R"({ "0" : "1 08:00:00-12:00:00" })"})
         EXPECT_EQ(sections(value).stuCallVTSEnable[0].dwMask, 0) << value;
 }
@@ -140,6 +145,23 @@ TEST(VthRemoteIpc, GoesRoundWhole) {
     EXPECT_EQ(read.stuCameras[0].nChannel, 2);
     EXPECT_STREQ(read.stuCameras[1].szID, "I11");
     EXPECT_EQ(read.stuCameras[1].nChannel, 10);
+}
+
+TEST(VthRemoteIpc, TheRoomOfTexts) {
+    std::string camera = "{ \"Port\" : 1";
+    for (const char* key : {"ID", "Name", "Address", "UserName", "Password", "ProtocolType"})
+        camera += ", \"" + std::string(key) + "\" : \"" + std::string(200, 'x') + "\"";
+    const auto read = ReadOne<CFG_VTH_REMOTE_IPC_INFO>("VTHRemoteIPCInfo", "[ null, " + camera + " } ]");
+    ASSERT_EQ(read.nCount, 2);
+    EXPECT_STREQ(read.stuCameras[0].szID, "");
+    const CFG_REMOTE_CAMERA& full = read.stuCameras[1];
+    EXPECT_EQ(std::string(full.szID), std::string(63, 'x'));
+    EXPECT_EQ(std::string(full.szName), std::string(63, 'x'));
+    EXPECT_EQ(std::string(full.szAddress), std::string(127, 'x'));
+    EXPECT_EQ(std::string(full.szUserName), std::string(63, 'x'));
+    EXPECT_EQ(std::string(full.szPassword), std::string(63, 'x'));
+    EXPECT_EQ(std::string(full.szProtocolType), std::string(31, 'x'));
+    EXPECT_EQ(full.nPort, 1);
 }
 
 TEST(VthRemoteIpc, KeepsThirtyTwoCameras) {
@@ -280,6 +302,31 @@ TEST(ArmLink, GoesRoundWhole) {
                                     R"("PersonAlarmEnable" : false })");
 }
 
+TEST(ArmLink, ListsBelowAndAtTheirRoom) {
+    for (const int count : {15, 16}) {
+        std::string numbers = "0";
+        std::string texts = "\"0\"";
+        for (int i = 1; i < count; ++i) {
+            numbers += ", " + std::to_string(i);
+            texts += ", \"" + std::to_string(i) + "\"";
+        }
+        const auto link =
+            GoesRound<Link>("ArmLink", R"({ "Destination" : [ )" + numbers + R"( ], "EventLink" : [ )" + texts
+                                           + R"( ], "MMSEnable" : false, "NeedReport" : false, )"
+                                           + R"("PSTNAlarmServer" : false, "PersonAlarmEnable" : false })");
+        EXPECT_EQ(link.nDestinationCount, count);
+        EXPECT_EQ(link.nEventLinkCount, count);
+    }
+    for (const int count : {7, 8}) {
+        std::string numbers = "\"0\"";
+        for (int i = 1; i < count; ++i)
+            numbers += ", \"" + std::to_string(i) + "\"";
+        const auto persons = GoesRound<Persons>("PSTNPersonServer", R"({ "Enable" : false, "Name" : "", "Number" : [ )"
+                                                                        + numbers + R"( ], "Servers" : "" })");
+        EXPECT_EQ(persons.nNumberCount, count);
+    }
+}
+
 TEST(ArmLink, KeepsSixteenOfEach) {
     std::string numbers = "[ 0";
     std::string texts = "[ \"" + std::string(40, 'e') + "\"";
@@ -320,6 +367,7 @@ TEST(SensorMode, GoesRoundWhole) {
 TEST(AlarmLamp, GoesRoundWhole) {
     EXPECT_EQ(GoesRound<CFG_ALARM_LAMP_INFO>("AlarmLamp", R"({ "Mode" : 4294967295 })").nMode, 4294967295U);
     EXPECT_EQ(ReadOne<CFG_ALARM_LAMP_INFO>("AlarmLamp", R"({ "Mode" : -1 })").nMode, 0U);
+    TryOne("AlarmLamp", "Mode", &CFG_ALARM_LAMP_INFO::nMode);
     TryWithoutKeys<CFG_ALARM_LAMP_INFO>("AlarmLamp", R"({ "Mode" : 0 })");
 }
 
