@@ -333,6 +333,20 @@ TEST(MovedDetect, ThereAndBack) {
                   + WeekText(7) + R"( }, "Sensitivity" : 5 })");
 }
 
+TEST(MovedDetect, ItsWeekHasARowForHolidays) {
+    const Records<CFG_MOVED_DETECT_INFO> records(1);
+    EXPECT_EQ(
+        ParseTable("MovedDetect", R"({ "EventHandler" : { "TimeSection" : [ [ "1 1:02:03-4:05:06" ] ] } })", records),
+        (Answer{1, sizeof(CFG_MOVED_DETECT_INFO)}));
+    const auto record = std::make_unique<CFG_MOVED_DETECT_INFO>(records[0]);
+    EXPECT_EQ(record->stuEventHandler.stuTimeSectionEx.stuTimeSection[0][0].nEndSec, 6);
+    EXPECT_EQ(record->stuEventHandler.stuTimeSection[0][0].nEndSec, 0); // that of other alarms
+    record->stuEventHandler.stuTimeSection[0][0] = {1, 7, 0, 0, 8, 0, 0};
+    const std::string text = Pack("MovedDetect", *record);
+    EXPECT_NE(text.find("\"1 01:02:03-04:05:06\""), std::string::npos);
+    EXPECT_EQ(text.find("\"1 07:00:00-08:00:00\""), std::string::npos);
+}
+
 TEST(MovedDetect, OneOrMany) {
     const Records<CFG_MOVED_DETECT_INFO> clear(1);
     ExpectOneOrMany<CFG_MOVED_DETECT_INFO>("MovedDetect", R"({ "Sensitivity" : 5 })", PackAll("MovedDetect", clear));
