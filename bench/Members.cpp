@@ -59,6 +59,11 @@ constexpr MemberRow kRows[] = {
     {"VideoAnalyseGlobal", 1, 2},
     {"TrafficGlobal", 1, 4},
     {"TrafficSnapshotNew", 1, 2},
+    {"Record"},
+    {"RecordStoragePoint"},
+    {"StorageGroup", 1, 64},
+    {"RaidGroup"},
+    {"NAS"},
 };
 
 const Command& CommandNamed(const char* name) {

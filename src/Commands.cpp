@@ -59,6 +59,13 @@
 #include "network/Network.h"
 #include "network/Services.h"
 #include "network/Wlan.h"
+#include "storage/Burning.h"
+#include "storage/Disks.h"
+#include "storage/Nas.h"
+#include "storage/RecordPlan.h"
+#include "storage/RecordServers.h"
+#include "storage/RecordStoragePoint.h"
+#include "storage/StorageGroups.h"
 
 namespace orrery {
 
@@ -405,8 +412,56 @@ constexpr Command kCommands[] = {
     Generic("Https", kHttps, kOneCleared),
 
     // Recording
+    Both("Record", kRecordPlan,
+         kParse.Takes(Take::Many).TakesBy(RecordTakes).Null(NullValue::LengthZero).Length(ReplyLength::PerRecord),
+         kBareIfOne),
+    Both("RecordMode", kRecordMode, kOneOrMany.Strides(Stride::SizeWord).ReadsNulls(),
+         kBareIfOne.Strides(Stride::SizeWord)),
+    Both("HolidaySchedule", kHolidayPlan, kOneOrMany.From(Source::Top, "HolidaySchedule").Result(ResultTest::NotTested),
+         kBareIfOne.Under("\"HolidaySchedule\" : ")),
+    Or(kRecordStoragePointChannels,
+       Own("RecordStoragePoint", kRecordStoragePoint, ParseRecordStoragePoint, PackRecordStoragePoint)),
+    Reply("DevRecordGroup", kDevRecordGroup, kUntested.From(Source::Top, "DevRecordGroup")),
+    Reply("VideoInDevGroup", kVideoInDevGroup, kUntested.From(Source::Top, "VideoInDevGroup")),
+    Reply("IpsServer", kIpsServer, kUntested.From(Source::Top, "IpsServer")),
+    Both("Judicature", kJudicature, kUntested, kPack),
+    Reply("recordManager.getCaps", kRecordCaps, kCaps),
 
     // Storage
+    Both("RaidGroup", kRaidGroup, kUntested.From(Source::Top, "RaidGroup").Null(NullValue::OneRecord),
+         kLoose.Under("\"RaidGroup\" : ")),
+    Reply("StoragePoolGroup", kStoragePoolGroup,
+          kUntested.From(Source::Top, "StoragePoolGroup").Null(NullValue::OneRecord)),
+    Reply("StoragePositionGroup", kStoragePositionGroup,
+          kUntested.From(Source::Top, "StoragePositionGroup").Null(NullValue::OneRecord)),
+    Both("HardDiskTank", kHardDiskTank, kUntested.From(Source::Top, "HardDiskTank"),
+         kLoose.Under("\"HardDiskTank\" : ")),
+    Logged(Both("Raid", kRaids,
+                kParse.Takes(Take::ByMemberOrNone)
+                    .Null(NullValue::LengthZero)
+                    .Strides(Stride::SizeWord)
+                    .Length(ReplyLength::PerRecord),
+                kPack.As(Form::ByMember).Strides(Stride::SizeWord)),
+           nullptr, LogRaidPack),
+    Both("StorageGroup", kStorageGroup,
+         kParse.Takes(Take::ManyOrNone)
+             .Null(NullValue::LengthZero)
+             .Strides(Stride::SizeWord)
+             .ReadsNulls()
+             .Length(ReplyLength::PerRecord),
+         kPack.As(Form::Array).Strides(Stride::SizeWord)),
+    Both("StorageDevGroup", kStorageDevGroup, kOneOrMany, kBareIfOne),
+    Both("RecordToGroup", kRecordToGroup, kOneOrMany, kBareIfOne),
+    Both("MetaDataServer", kMetaDataServer, kOneOrMany.Result(ResultTest::NotTested), kBareIfOne.Fits(Capacity::Loose)),
+    Both("RemoteStorageLimit", kRemoteStorageLimit, kOneOrMany.Result(ResultTest::NotTested), kBareIfOne),
+    Both("SpecialDirectoryDefine", kSpecialDirectories, kParse, kPack),
+    OwnParse("NAS", kNas, ParseNas, kParse.Takes(Take::Many).Length(ReplyLength::PerRecord), kPack.As(Form::Array)),
+    Both("BurnRecordFormat", kBurnRecordFormat, kOneOrMany.Result(ResultTest::NotTested), kBareIfOne),
+    Both("MultiBurn", kMultiBurn, kOneOrMany.Result(ResultTest::NotTested), kBareIfOne),
+    Both("BurnPlan", kBurnPlan, kUntested.Clears(Clearing::Kept).OnceParsed(ClearBurnPlan), kPack),
+    Reply("BurnManager.getCaps", kBurnManagerCaps, kCaps),
+    Reply("FileManager.getCaps", kFileManagerCaps, kCaps),
+    Reply("log.getCaps", kLogCaps, kCaps),
 
     // Heat imaging and measuring
     Generic("ThermographyOptions", kThermography, kArraysCleared),

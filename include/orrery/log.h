@@ -26,6 +26,7 @@ enum E_LOG_LEVEL : std::int32_t {
 enum E_LOG_CODE : std::uint32_t {
     E_LOG_CODE_NONE = 0,
     E_LOG_CODE_BAD_ARGUMENT = 0x90000001u, /* a null pointer or an impossible value from the caller */
+    E_LOG_CODE_NO_MEMORY = 0x90000002u,    /* there is no memory for what the call needs */
     E_LOG_CODE_RECORD_SIZE = 0x9000001eu,  /* the dwSize of a versioned record is none that is known */
     E_LOG_CODE_WRONG_SHAPE = 0x90003002u,  /* JSON of another shape than the command has */
 };

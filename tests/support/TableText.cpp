@@ -309,8 +309,7 @@ bool TakesMembers(const Command& command) {
 
 bool TakesMany(const Command& command) {
     if (command.parse == Command::Frame::Generic) return command.genericFrame.arrayForm;
-    if (command.parse != Command::Frame::Family) return false;
-    return !TakesOneRecord(command.parseFrame.take);
+    return command.parses() && !TakesOneRecord(command.parseFrame.take);
 }
 
 JsonTree RecordTree(const Table& table, const TextOptions& options) {

@@ -178,6 +178,9 @@ std::optional<std::string> Describe(std::string_view name) {
     if (const Command* const command = FindCommand(name)) {
         add(DescribeCommand(*command));
         if (command->table != nullptr) add(DescribeTable(tables, *command->table));
+        if (command->otherTable != nullptr) {
+            add("or, told by the exact size of the buffer:\n\n" + DescribeTable(tables, *command->otherTable));
+        }
     }
     for (const events::EventRow& event : events::Events()) {
         if (!EqualsFolded(event.name, name)) continue;

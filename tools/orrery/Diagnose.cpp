@@ -161,7 +161,7 @@ Reply LookAt(const Command& command, const Value& root) {
     reply.value = &params["table"];
     reply.path = "params.table";
     Take take = command.genericFrame.arrayForm ? Take::AnyOrMany : Take::One;
-    if (command.parse == Command::Frame::Family) {
+    if (command.parse != Command::Frame::Generic) { // the words of a frame of a command's own tell too
         const ParseFrame& frame = command.parseFrame;
         take = frame.takesBy != nullptr ? frame.takesBy(root) : frame.take;
         switch (frame.source) {

@@ -111,7 +111,8 @@ std::string Layout() {
     text += "\n# commands\n";
     for (const Command& command : Commands()) {
         text += "command " + std::string(command.name) + " "
-                + (command.table != nullptr ? tables.LabelOf(*command.table) : std::string("-")) + "\n";
+                + (command.table != nullptr ? tables.LabelOf(*command.table) : std::string("-"))
+                + (command.otherTable != nullptr ? " or " + tables.LabelOf(*command.otherTable) : std::string()) + "\n";
         if (command.parses()) text += "  parse " + ParseWords(command) + "\n";
         if (command.packs()) text += "  pack " + PackWords(command) + "\n";
     }

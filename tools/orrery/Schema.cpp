@@ -72,6 +72,7 @@ std::string Schema() {
             .Add("parse", Node::Bool(command.parses()))
             .Add("pack", Node::Bool(command.packs()));
         if (command.table != nullptr) node.Add("record", Node::Text(command.table->record));
+        if (command.otherTable != nullptr) node.Add("otherRecord", Node::Text(command.otherTable->record));
         node.Add("frame", Node::Text(FrameWord(command)));
         commands.Add(std::move(node));
     }
