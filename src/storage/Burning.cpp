@@ -2,6 +2,8 @@
 
 #include "frame/record/Engine.h"
 
+#include <cstring>
+
 namespace orrery {
 
 using namespace record;
@@ -53,12 +55,12 @@ TABLE(kBurnPlan, CFG_BURN_PLAN_INFO,
       });
 
 void ClearBurnPlan(std::byte* record) {
-    CFG_BURN_PLAN_INFO cleared{};
-    cleared.nMaxDevices = MEMBER(record, CFG_BURN_PLAN_INFO, nMaxDevices);
-    cleared.nMaxChannels = MEMBER(record, CFG_BURN_PLAN_INFO, nMaxChannels);
-    cleared.pnDevices = MEMBER(record, CFG_BURN_PLAN_INFO, pnDevices);
-    cleared.pnChannels = MEMBER(record, CFG_BURN_PLAN_INFO, pnChannels);
-    Store(record, cleared);
+    const auto plan = Load<CFG_BURN_PLAN_INFO>(record);
+    std::memset(record, 0, sizeof plan);
+    SET_MEMBER(record, CFG_BURN_PLAN_INFO, nMaxDevices, plan.nMaxDevices);
+    SET_MEMBER(record, CFG_BURN_PLAN_INFO, nMaxChannels, plan.nMaxChannels);
+    SET_MEMBER(record, CFG_BURN_PLAN_INFO, pnDevices, plan.pnDevices);
+    SET_MEMBER(record, CFG_BURN_PLAN_INFO, pnChannels, plan.pnChannels);
 }
 
 TABLE(kBurnManagerCaps, CFG_BURN_MANAGER_CAPS,

@@ -165,7 +165,8 @@ TEST(BurnPlan, ClearsAllButItsArrays) {
         Plan plan;
         ASSERT_EQ(plan.Parse(table), kPlanRead) << table;
         EXPECT_TRUE(plan.keepsItsArrays());
-        CFG_BURN_PLAN_INFO cleared{};
+        CFG_BURN_PLAN_INFO cleared;
+        std::memset(&cleared, 0, sizeof cleared);
         cleared.nMaxDevices = 3;
         cleared.nMaxChannels = 2;
         cleared.pnDevices = plan.devices.data();

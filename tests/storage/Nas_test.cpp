@@ -134,9 +134,15 @@ TEST(Nas, KnowsItsNames) {
         expect("Protocol", protocols, 4);
         expect("CharacterEncoding", encodings, 2);
         expect("CloudProtocol", clouds, 3);
-        if (code >= 0 && code < 4) EXPECT_EQ(read("Protocol", protocols[code]).emProtocol, code);
-        if (code >= 0 && code < 2) EXPECT_EQ(read("CharacterEncoding", encodings[code]).emCharacterEncoding, code);
-        if (code >= 0 && code < 3) EXPECT_EQ(read("CloudProtocol", clouds[code]).emCloudProtocol, code);
+        if (code >= 0 && code < 4) {
+            EXPECT_EQ(read("Protocol", protocols[code]).emProtocol, code);
+        }
+        if (code >= 0 && code < 2) {
+            EXPECT_EQ(read("CharacterEncoding", encodings[code]).emCharacterEncoding, code);
+        }
+        if (code >= 0 && code < 3) {
+            EXPECT_EQ(read("CloudProtocol", clouds[code]).emCloudProtocol, code);
+        }
     }
     for (const char* other : {"ftp", "Smb", "utf-8", "gb2312", "dropbox", "", "FTP "}) { // the case counts
         EXPECT_EQ(read("Protocol", other).emProtocol, CFG_NAS_PROTOCOL_UNKNOWN);

@@ -238,9 +238,9 @@ TEST(RecordStoragePointChannels, OnlyWhatTheCallerKnowsOfTheEnvelopeCounts) {
         part.envelope.dwSize = size;
         EXPECT_EQ(part.Parse("[{}]"), kRead);
         EXPECT_EQ(part.envelope.nChannelCount, 0);
-        EXPECT_EQ(part.envelope.pstuChannels, reinterpret_cast<Point*>(part.points.data()));
         EXPECT_TRUE(part.points.isAll(0x11));
         part.envelope.nChannelCount = 1;
+        part.envelope.pstuChannels = reinterpret_cast<Point*>(part.points.data());
         EXPECT_EQ(part.Pack(), kFailed);
     }
     // A newer caller's envelope: what this library knows of it.
@@ -301,7 +301,8 @@ TEST(RecordStoragePointChannels, TheExactSizeTellsThemFromARecord) {
     std::uint32_t length = kNoLength;
     char room[2 * sizeof(Envelope)];
     std::memcpy(room, &channels.envelope, sizeof channels.envelope);
-    for (const std::uint32_t size : {sizeof(Envelope) - 1, sizeof(Envelope) + 1}) {
+    constexpr std::uint32_t kEnvelope = sizeof(Envelope);
+    for (const std::uint32_t size : {kEnvelope - 1, kEnvelope + 1}) {
         EXPECT_EQ(CLIENT_ParseData(kPoint, R"({"params":{"table":[{}]}})", room, size, &length), 0);
         EXPECT_EQ(PackBytes(kPoint, room, size, 99), kNotBegun);
     }
