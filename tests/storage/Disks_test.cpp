@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace orrery::test {
 namespace {
@@ -471,26 +472,30 @@ TEST(Raid, AMissingTableSucceedsWithoutRecords) {
 }
 
 TEST(Raid, TellsTheLogThatThereIsNoMemory) {
-    const Raids raids(1);
-    ASSERT_EQ(ParseTable(kRaid, R"({"a":{"Level":1}})", raids), (Answer{1, kRaidSize}));
-    char text[4096];
-    std::size_t needed = 0;
+    // More names than fit a call's own stack.
+    constexpr std::size_t kNames = 512;
+    const Raids raids(kNames);
+    std::string table = R"({"a0":{}})";
+    for (std::size_t i = 1; i < kNames; ++i)
+        table.insert(table.size() - 1, ",\"a" + std::to_string(i) + "\":{}");
+    ASSERT_EQ(ParseTable(kRaid, table, raids), (Answer{1, kNames * kRaidSize}));
+    std::vector<char> text(std::size_t{1} << 16);
+    const auto room = static_cast<std::uint32_t>(text.size());
     {
         HeapWatch heap;
-        ASSERT_EQ(CLIENT_PacketData(kRaid, raids.data(), kRaidSize, text, sizeof text), 1);
-        needed = heap.allocations();
+        ASSERT_EQ(CLIENT_PacketData(kRaid, raids.data(), raids.size(), text.data(), room), 1);
+        ASSERT_GT(heap.allocations(), 0u);
     }
-    ASSERT_GT(needed, 0u);
     const LogLines log;
     {
         HeapWatch heap;
         heap.FailFrom(1);
-        EXPECT_EQ(CLIENT_PacketData(kRaid, raids.data(), kRaidSize, text, sizeof text), 0);
+        EXPECT_EQ(CLIENT_PacketData(kRaid, raids.data(), raids.size(), text.data(), room), 0);
     }
     EXPECT_EQ(log.texts(E_LOG_LEVEL_ERROR), std::vector<std::string>{"Storage_Raid_Packet: malloc pszName failed"});
     EXPECT_EQ(text[0], '\0');
     // Nothing else is told.
-    EXPECT_EQ(CLIENT_PacketData(kRaid, raids.data(), kRaidSize, text, 5), 0);
+    EXPECT_EQ(CLIENT_PacketData(kRaid, raids.data(), raids.size(), text.data(), 5), 0);
     EXPECT_EQ(log.texts(E_LOG_LEVEL_ERROR).size(), 1u);
 }
 
