@@ -15,6 +15,7 @@
 #include "analyse/Calibration.h"
 #include "analyse/Module.h"
 #include "analyse/RuleFrame.h"
+#include "analyse/RuleGroups.h"
 #include "analyse/Scene.h"
 #include "analyse/TrafficFlow.h"
 #include "analyse/TrafficGlobal.h"
@@ -578,6 +579,9 @@ constexpr Command kCommands[] = {
           kParse.From(Source::Params, "status").Null(NullValue::OneRecord)),
 
     // Grouped rules
+    Both("VideoInAnalyseRule", kRuleGroups,
+         kUntested.Takes(Take::List).Null(NullValue::LengthZero).Clears(Clearing::Kept).OnceParsed(ClearRuleGroups),
+         kLoose),
 
     // Video diagnosis
     Both("VideoDiagnosisProfile", kDiagnosisProfiles, kDiagnosisList.Accepts(HasDiagnosisEntries),

@@ -16,6 +16,7 @@
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_caps.h"
 #include "orrery/analyse_modules.h"
+#include "orrery/analyse_groups.h"
 #include "orrery/analyse_rules.h"
 #include "orrery/audio.h"
 #include "orrery/burning.h"
