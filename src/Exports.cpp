@@ -1,5 +1,6 @@
 // The exported translation functions: argument tests, and on to the command map.
 #include "Commands.h"
+#include "analyse/Templates.h"
 #include "events/ReqRealPicture.h"
 #include "events/TypedText.h"
 
@@ -42,6 +43,10 @@ ORRERY_EXPORT int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t, ORR
     return orrery::DeliverTyped(data, callback, user);
 }
 
-ORRERY_EXPORT int32_t CLIENT_ParseVideoInAnalyse(const char*, int32_t, const char*, const void*, void*, uint32_t) {
-    return 0;
+ORRERY_EXPORT int32_t CLIENT_ParseVideoInAnalyse(const char* command, int32_t classType, const char* text,
+                                                 const void* reserved, void* output, uint32_t outputSize) {
+    if (command == nullptr || text == nullptr || reserved == nullptr || output == nullptr || outputSize == 0) return 0;
+    const Outcome outcome = orrery::ParseTemplate(command, classType, {text, output, outputSize, nullptr});
+    // A method that has no template leaves the output alone, and that is no failure.
+    return outcome == Outcome::Done || outcome == Outcome::UnknownCommand;
 }

@@ -91,9 +91,19 @@ int32_t CLIENT_ParseAnalyzerEventData(const char* data, uint32_t length, ORRERY_
  * handed over. Records take memory as events do, each name for itself. */
 int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t length, ORRERY_EVENT_CALLBACK callback, void* user);
 
-/* Reads a reply with a template of analysis settings into `output`. 0 when an argument other than `classType` is null
- * or zero; `reserved` must not be null and is not used. This version knows no template yet and answers 0 for every
- * command. */
+/* Reads a reply with a template of analysis settings: analyse_templates.h has the methods and their records.
+ *
+ * command     Name of the method, in the case shown. Another one gives 1 and leaves the output alone.
+ * classType   Class whose template is asked for, CFG_RULE_CLASS_... of analyse_rules.h. Devices have none of
+ *             "CrowdDistriMap". A number of no class looks for the name "".
+ * text        The reply, as for CLIENT_ParseData. An absent "result" does not refuse.
+ * reserved    Must not be null; not used.
+ * output      Takes the record. Need not be aligned. All of it is cleared first but for a rule descriptor, which keeps
+ *             what it holds until all rules are read.
+ * outputSize  Bytes at `output`, at least one record.
+ *
+ * 0 when an argument other than `classType` is null or zero, for an output below one record, text that is no JSON, a
+ * call that the device refused, rules that do not fit or are of types without a record, or when memory ran out. */
 int32_t CLIENT_ParseVideoInAnalyse(const char* command, int32_t classType, const char* text, const void* reserved,
                                    void* output, uint32_t outputSize);
 

@@ -5,6 +5,7 @@
 #define ORRERY_EVENTS_TYPED_H
 
 #include "orrery/events_traffic_flow.h"
+#include "orrery/traffic_flow.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -18,7 +19,9 @@ enum {
                                                         element that is null is passed over */
     ORRERY_TYPED_TRAFFIC_FLOW_STAT_INFO = 0x1000003, /* "TrafficFlowStatInfo": EVENT_TRAFFIC_FLOW_STAT, recordSize tells
                                                         how many: one for each element of the list */
-    ORRERY_TYPED_TRAFFIC_FLOW_STAT = 0x1000004,      /* "TrafficFlowStat": CFG_TRAFFICFLOWSTAT_INFO */
+    ORRERY_TYPED_TRAFFIC_FLOW_STAT = 0x1000004, /* "TrafficFlowStat": CFG_TRAFFICFLOWSTAT_INFO (traffic_flow.h), whose
+                                                   pExtraConfigs has room for the elements behind the eighth of a
+                                                   "Config" at the top of the text */
     ORRERY_TYPED_VIDEO_SYNOPSIS_ANALYSE_RULE = 0x1000005 /* "VideoSynopsisAnalyseRule": EVENT_VIDEO_SYNOPSIS_RULE */
 };
 

@@ -15,12 +15,6 @@ void modules::FinishModule(const json::Value& module, std::byte* record, ReadCal
     }
 }
 
-TABLE(kAnalyseModules, CFG_ANALYSEMODULES_INFO,
-      {
-          FIELD(nModuleNum),
-          FIELD(stuModules, "", Record(kModule)).Count(AT(nModuleNum)).WriteEmpty(Empty::Array),
-      });
-
 bool AreModulesFew(const std::byte* record, std::uint32_t) {
     return MEMBER(record, CFG_ANALYSEMODULES_INFO, nModuleNum) <= ORRERY_ANALYSE_MODULES;
 }

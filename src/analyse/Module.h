@@ -223,7 +223,11 @@ PART(kModule, CFG_MODULE_INFO,
 using modules::kModule;
 
 // "VideoAnalyseModule"
-extern const record::TypedTable<CFG_ANALYSEMODULES_INFO> kAnalyseModules;
+PART(kAnalyseModules, CFG_ANALYSEMODULES_INFO,
+     {
+         FIELD(nModuleNum),
+         FIELD(stuModules, "", Record(kModule)).Count(AT(nModuleNum)).WriteEmpty(record::Empty::Array),
+     });
 bool AreModulesFew(const std::byte* record, std::uint32_t size);
 
 } // namespace orrery

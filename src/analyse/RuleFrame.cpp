@@ -183,29 +183,74 @@ bool PackRuleBody(std::uint32_t code, const std::byte* general, const std::byte*
     return true;
 }
 
+namespace {
+
+// What becomes an item.
+struct Item {
+    Head head;
+    const Value* rule;
+};
+struct Items {
+    std::array<Item, ORRERY_MOST_RULES> all;
+    std::size_t count = 0;
+    std::int64_t needed = 0; // bytes
+
+    void Add(const Head& head, const Value& rule) noexcept {
+        all[count++] = {head, &rule};
+        needed += head.size;
+    }
+};
+
+// `counted` rules, of which some may take no item.
+Outcome PlaceItems(Items& items, std::uint32_t counted, CFG_ANALYSERULES_INFO& rules, ReadCall& call) noexcept {
+    rules.nRuleCount = static_cast<std::int32_t>(counted);
+    if (std::int64_t{counted} * kHeadSize + items.needed > rules.nRuleLen) return Outcome::BufferTooSmall;
+    if (rules.pRuleBuf == nullptr) return counted == 0 ? Outcome::Done : Outcome::BadArguments;
+    // Each item is cleared just before it is read, while it is at hand, and what is behind the last one afterwards.
+    auto* at = reinterpret_cast<std::byte*>(rules.pRuleBuf);
+    const std::byte* const end = at + rules.nRuleLen;
+    Outcome outcome = Outcome::Done;
+    for (std::size_t i = 0; i < items.count && outcome == Outcome::Done; ++i) {
+        const Item& item = items.all[i];
+        const std::size_t size = kHeadSize + std::size_t{item.head.size};
+        std::memset(at, 0, size);
+        if (!Place(item.head, *item.rule, at, call)) outcome = Outcome::BadItem;
+        at += size;
+    }
+    std::memset(at, 0, static_cast<std::size_t>(end - at));
+    return outcome;
+}
+
+} // namespace
+
 Outcome ReadRuleArray(const Value& array, CFG_ANALYSERULES_INFO& rules, ReadCall& call) noexcept {
     const std::uint32_t count = CountOf(array);
     rules.nRuleCount = static_cast<std::int32_t>(count);
-    std::array<Head, ORRERY_MOST_RULES> heads;
-    std::int64_t needed = std::int64_t{count} * kHeadSize;
+    Items items;
     for (std::uint32_t i = 0; i < count; ++i) {
-        if (!ReadHead(array[i], heads[i])) return Outcome::BadItem;
-        needed += heads[i].size;
+        Head head;
+        if (!ReadHead(array[i], head)) return Outcome::BadItem;
+        items.Add(head, array[i]);
     }
-    if (needed > rules.nRuleLen) return Outcome::BufferTooSmall;
-    if (rules.pRuleBuf == nullptr) return count == 0 ? Outcome::Done : Outcome::BadArguments;
-    // Each item is cleared just before it is read, while it is at hand, and what is behind the last one afterwards.
-    auto* item = reinterpret_cast<std::byte*>(rules.pRuleBuf);
-    const std::byte* const end = item + rules.nRuleLen;
-    Outcome outcome = Outcome::Done;
-    for (std::uint32_t i = 0; i < count && outcome == Outcome::Done; ++i) {
-        const std::size_t size = kHeadSize + std::size_t{heads[i].size};
-        std::memset(item, 0, size);
-        if (!Place(heads[i], array[i], item, call)) outcome = Outcome::BadItem;
-        item += size;
+    return PlaceItems(items, count, rules, call);
+}
+
+Outcome ReadRuleTemplate(const Value& rules, CFG_ANALYSERULES_INFO& into, ReadCall& call) noexcept {
+    const auto members = rules.members();
+    const std::uint32_t count = CountOf(rules);
+    Items items;
+    for (std::uint32_t i = 0; i < count && i < members.size(); ++i) {
+        const Value& rule = members[i].value;
+        Head head;
+        if (!rule["Type"].isNull() && !rule["Class"].isNull()) {
+            head.code = CodeOf(rule["Type"]);
+            head.size = RuleRecordSize(head.code);
+            if (head.size == 0) return Outcome::BadItem;
+            head.ruleClass = *kTemplateClasses.CodeOf(rule["Class"].asString());
+        }
+        if (!rule.isNull()) items.Add(head, rule);
     }
-    std::memset(item, 0, static_cast<std::size_t>(end - item));
-    return outcome;
+    return PlaceItems(items, std::min<std::uint32_t>(count, static_cast<std::uint32_t>(members.size())), into, call);
 }
 
 Outcome WriteRuleArray(const CFG_ANALYSERULES_INFO& rules, WriteCall& call) noexcept {

@@ -45,6 +45,8 @@ Outcome ParseFrameRules(const ParseRequest& request) noexcept;
 std::uint32_t RuleArraySizeNeeded(const json::Value& array) noexcept;
 // Reads the rules into the buffer of `rules` and counts them there.
 Outcome ReadRuleArray(const json::Value& array, CFG_ANALYSERULES_INFO& rules, record::ReadCall& call) noexcept;
+// The same of a template, an object whose members are the rules. A member that is null counts and takes no item.
+Outcome ReadRuleTemplate(const json::Value& rules, CFG_ANALYSERULES_INFO& into, record::ReadCall& call) noexcept;
 // Writes the items of `rules` as one list.
 Outcome WriteRuleArray(const CFG_ANALYSERULES_INFO& rules, record::WriteCall& call) noexcept;
 

@@ -108,8 +108,8 @@ struct NamedGroup {
 };
 
 void WriteGroups(const Field& field, const std::byte* scene, WriteCall& call) {
-    const auto count = static_cast<std::uint32_t>(std::clamp<std::int64_t>(LoadSlot(field.count, scene), 0,
-                                                                           field.dims[0]));
+    const auto count =
+        static_cast<std::uint32_t>(std::clamp<std::int64_t>(LoadSlot(field.count, scene), 0, field.dims[0]));
     call.Key();
     if (count == 0) return call.out.Null();
     // In the order of their names; of equal names the last comes last.

@@ -1,6 +1,7 @@
 #include "events/TypedText.h"
 
 #include "analyse/RuleFrame.h"
+#include "analyse/TrafficFlow.h"
 #include "events/EventParts.h"
 #include "events/ReqRealPicture.h"
 #include "events/TypedRecords.h"
@@ -22,6 +23,7 @@ constexpr TypedRow kRows[] = {
     {ORRERY_TYPED_VIDEO_ANALYSE_RULE, "VideoAnalyseRule", &kTypedRules, false},
     {ORRERY_TYPED_OBJECT_LIST, "ObjectList", &kObject, true},
     {ORRERY_TYPED_TRAFFIC_FLOW_STAT_INFO, "TrafficFlowStatInfo", &kTypedFlow, true},
+    {ORRERY_TYPED_TRAFFIC_FLOW_STAT, "TrafficFlowStat", &orrery::kTrafficFlowStat, false},
     {ORRERY_TYPED_VIDEO_SYNOPSIS_ANALYSE_RULE, "VideoSynopsisAnalyseRule", &kTypedSynopsis, false},
 };
 
@@ -84,9 +86,22 @@ class Worker {
         if (value.isNull()) return 0;
         std::byte* const record = Block(row.table->size);
         if (record == nullptr) return 0;
+        if (row.code == ORRERY_TYPED_TRAFFIC_FLOW_STAT && !MakeExtraConfigs(record)) return 0;
         record::ReadRecord(*row.table, value, record, call_);
         const bool lacksItsBlock = row.code == ORRERY_TYPED_VIDEO_SYNOPSIS_ANALYSE_RULE && arena_.failed();
         return lacksItsBlock ? 0 : HandOver(row, record, row.table->size);
+    }
+
+    // Room for the lanes behind the eighth, as many as the text's own "Config" has: that of the flow is not looked at.
+    bool MakeExtraConfigs(std::byte* record) noexcept {
+        const std::size_t lanes = root_["Config"].elements().size();
+        if (lanes <= ORRERY_FLOW_LANES) return true;
+        const std::size_t extra = lanes - ORRERY_FLOW_LANES;
+        std::byte* const block = Block(extra * sizeof(CFG_TRAFFICFLOW_LANE));
+        if (block == nullptr) return false;
+        SET_MEMBER(record, CFG_TRAFFICFLOWSTAT_INFO, nExtraMax, static_cast<std::int32_t>(extra));
+        SET_MEMBER(record, CFG_TRAFFICFLOWSTAT_INFO, pExtraConfigs, reinterpret_cast<CFG_TRAFFICFLOW_LANE*>(block));
+        return true;
     }
 
     std::int32_t List(const TypedRow& row, const Value& value) noexcept {

@@ -4,6 +4,7 @@
 #include "orrery/events_traffic_flow.h"
 #include "orrery/events_typed.h"
 #include "orrery/rule_bodies.h"
+#include "orrery/traffic_flow.h"
 #include "support/Events.h"
 #include "support/FailingAllocator.h"
 
@@ -292,6 +293,32 @@ TEST(TypedText, ThirtyTwoRulesAreRead) {
                               EXPECT_EQ(table.nRuleBufLen,
                                         static_cast<std::int32_t>(32 * (528 + sizeof(CFG_RULE_FIRE_INFO))));
                           });
+}
+
+// ---- "TrafficFlowStat" ---------------------------------------------------------------------------------------------
+
+TEST(TypedText, FlowSettingsAreReadFromTheirOwnValue) {
+    const std::string nine = Times(9, R"({"Number":4})");
+    const auto look = [](std::int32_t max, std::int32_t extra) {
+        return [=](const CFG_TRAFFICFLOWSTAT_INFO& flow, std::uint32_t size) {
+            EXPECT_EQ(size, sizeof flow);
+            EXPECT_EQ(flow.abPeriod, 1);
+            EXPECT_EQ(flow.nPeriod, 5);
+            EXPECT_EQ(flow.nConfigNum, 8);
+            EXPECT_EQ(flow.nExtraMax, max);
+            EXPECT_EQ(flow.nExtraNum, extra);
+            EXPECT_EQ(flow.pExtraConfigs == nullptr, max == 0);
+        };
+    };
+    const std::string flow = R"("TrafficFlowStat":{"Period":5,"Config":)" + nine + "}";
+    // Only a "Config" at the top makes room behind the eighth.
+    One<CFG_TRAFFICFLOWSTAT_INFO>("{" + flow + "}", ORRERY_TYPED_TRAFFIC_FLOW_STAT, look(0, 0));
+    One<CFG_TRAFFICFLOWSTAT_INFO>(R"({"Config":[1,2,3,4,5,6,7,8],)" + flow + "}", ORRERY_TYPED_TRAFFIC_FLOW_STAT,
+                                  look(0, 0));
+    One<CFG_TRAFFICFLOWSTAT_INFO>(R"({"Config":[1,2,3,4,5,6,7,8,9,10],)" + flow + "}", ORRERY_TYPED_TRAFFIC_FLOW_STAT,
+                                  look(2, 1));
+    EXPECT_EQ(CodesIn("{" + flow + "}"), (Codes{1, {0x1000004}}));
+    EXPECT_EQ(CodesIn(R"({"TrafficFlowStat":null})"), (Codes{0, {}}));
 }
 
 // ---- "VideoSynopsisAnalyseRule" ------------------------------------------------------------------------------------

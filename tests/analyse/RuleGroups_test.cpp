@@ -1,0 +1,317 @@
+// Rules in groups of one type, with their scenes.
+#include "orrery/analyse_groups.h"
+#include "orrery/rule_bodies.h"
+#include "orrery/traffic_rules.h"
+#include "support/Call.h"
+#include "support/JsonText.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace orrery::test {
+namespace {
+
+constexpr const char* kCommand = "VideoInAnalyseRule";
+using All = CFG_VIDEOINANALYSE_RULES_INFO;
+
+// A caller's record with buffers for the first groups of its first scene.
+struct Caller {
+    std::unique_ptr<All> all = std::make_unique<All>();
+    std::vector<std::uint8_t> buffers[ORRERY_RULE_GROUPS];
+    std::uint32_t length = kNoLength;
+
+    Caller() { std::memset(static_cast<void*>(all.get()), 0, sizeof(All)); }
+    void Give(std::size_t group, std::size_t bytes) {
+        buffers[group].assign(bytes, 0xEE);
+        CFG_RULE_GROUP_INFO& to = all->stuScenes[0].stuRuleGroups[group];
+        to.pRuleBuf = buffers[group].data();
+        to.nRuleBufLen = static_cast<std::int32_t>(bytes);
+    }
+    bool Document(const std::string& text) {
+        return CLIENT_ParseData(kCommand, text.c_str(), all.get(), sizeof(All), &length) != 0;
+    }
+    bool Parse(const std::string& table) { return Document(R"({"params":{"table":)" + table + "}}"); }
+    // One scene with these rules.
+    bool Rules(const std::string& rules) { return Parse(R"([{"Rules":)" + rules + "}]"); }
+    const CFG_VIDEOINANALYSE_SCENE_INFO& scene(std::size_t index = 0) const { return all->stuScenes[index]; }
+    const CFG_RULE_GROUP_INFO& group(std::size_t index) const { return scene().stuRuleGroups[index]; }
+    template <class R>
+    R Rule(std::size_t group, std::size_t index = 0) const {
+        R rule;
+        std::memcpy(&rule, buffers[group].data() + index * sizeof(R), sizeof rule);
+        return rule;
+    }
+    std::string Pack() const { return test::Pack(kCommand, *all); }
+};
+
+TEST(RuleGroups, AScenesPartsAreReadByTheirReaders) {
+    Caller caller;
+    caller.Give(0, 2 * sizeof(CFG_RULE_FIRE_INFO));
+    caller.Give(1, sizeof(CFG_RULE_MOVE_INFO));
+    ASSERT_TRUE(caller.Parse(R"([{"Global":{"Scene":{"Type":"Normal","PtzPresetId":4}},
+        "Module":[{"ObjectType":"Human","Sensitivity":5},{"ObjectType":"Car"}],
+        "Rules":{"MoveDetection":{"Enable":false,"Rule":[{"Name":"m"}]},
+                 "FireDetection":{"Enable":true,"Rule":[{"Name":"a","PtzPresetId":6},{"Name":"b"}]}}},
+        {"Global":{"Scene":{"Type":"Traffic"}}}])"));
+    EXPECT_EQ(caller.length, sizeof(All));
+    EXPECT_EQ(caller.all->nSceneNum, 2);
+    EXPECT_STREQ(caller.scene().stuGlobal.szSceneType, "Normal");
+    EXPECT_EQ(caller.scene().stuGlobal.nPtzPresetId, 4);
+    EXPECT_EQ(caller.scene().stuModule.nModuleNum, 2);
+    EXPECT_STREQ(caller.scene().stuModule.stuModules[0].szObjectType, "Human");
+    EXPECT_EQ(caller.scene().stuModule.stuModules[0].bySensitivity, 5);
+    EXPECT_STREQ(caller.scene().stuModule.stuModules[1].szObjectType, "Car");
+    ASSERT_EQ(caller.scene().nRuleGroupNum, 2);
+    EXPECT_EQ(caller.group(0).dwRuleType, 12u); // in the order of names
+    EXPECT_EQ(caller.group(0).nRuleStride, static_cast<std::int32_t>(sizeof(CFG_RULE_FIRE_INFO)));
+    EXPECT_EQ(caller.group(0).bEnable, 1);
+    EXPECT_EQ(caller.group(0).bHasEventHandler, 0);
+    EXPECT_EQ(caller.group(0).nRuleNum, 2);
+    EXPECT_STREQ(caller.Rule<CFG_RULE_FIRE_INFO>(0).szRuleName, "a");
+    EXPECT_EQ(caller.Rule<CFG_RULE_FIRE_INFO>(0).nPtzPresetId, 6);
+    EXPECT_STREQ(caller.Rule<CFG_RULE_FIRE_INFO>(0, 1).szRuleName, "b");
+    EXPECT_EQ(caller.group(1).dwRuleType, 9u);
+    EXPECT_EQ(caller.group(1).bEnable, 0);
+    EXPECT_EQ(caller.group(1).nRuleNum, 1);
+    EXPECT_STREQ(caller.Rule<CFG_RULE_MOVE_INFO>(1).szRuleName, "m");
+    EXPECT_STREQ(caller.scene(1).stuGlobal.szSceneType, "Traffic");
+    EXPECT_EQ(caller.scene(1).nRuleGroupNum, 0);
+}
+
+TEST(RuleGroups, AMissingTableIsNoScene) {
+    for (const char* none :
+         {"{}", R"({"params":{"table":null}})", R"({"result":false,"params":{}})", R"({"params":{"table":[]}})"}) {
+        Caller caller;
+        caller.Give(2, 10);
+        caller.all->nSceneNum = 3;
+        caller.all->stuScenes[2].nRuleGroupNum = 7;
+        caller.all->stuScenes[0].stuGlobal.nTimePeriodMax = 5;
+        ASSERT_TRUE(caller.Document(none)) << none;
+        EXPECT_EQ(caller.all->nSceneNum, 0) << none;
+        EXPECT_EQ(caller.scene(2).nRuleGroupNum, 0) << none;
+        EXPECT_EQ(caller.scene().stuGlobal.nTimePeriodMax, 0) << none;
+        EXPECT_EQ(caller.group(2).pRuleBuf, caller.buffers[2].data()) << none;
+        EXPECT_EQ(caller.group(2).nRuleBufLen, 10) << none;
+        EXPECT_EQ(caller.length, std::string(none).find('[') == std::string::npos ? 0u : sizeof(All)) << none;
+    }
+}
+
+TEST(RuleGroups, OtherTablesAndSmallRecordsFail) {
+    Caller caller;
+    EXPECT_FALSE(caller.Parse(R"({"Rules":{}})"));
+    EXPECT_FALSE(caller.Parse("3"));
+    EXPECT_FALSE(caller.Document("[1"));
+    const std::string text = R"({"params":{"table":[]}})";
+    EXPECT_EQ(CLIENT_ParseData(kCommand, text.c_str(), caller.all.get(), sizeof(All) - 1, nullptr), 0);
+    char room[100];
+    EXPECT_EQ(CLIENT_PacketData(kCommand, caller.all.get(), sizeof(All) - 1, room, sizeof room), 0);
+}
+
+TEST(RuleGroups, TheTableOfARefusedCallIsReadAndThreeScenesAre) {
+    Caller caller;
+    EXPECT_TRUE(caller.Document(R"({"result":false,"params":{"table":[{},{},{},{}]}})"));
+    EXPECT_EQ(caller.all->nSceneNum, 3);
+}
+
+TEST(RuleGroups, NamesThatAreNotKnownTakeNoGroup) {
+    Caller caller;
+    // A rule without a record of its own, one that is only an event's name, one whose case differs.
+    ASSERT_TRUE(caller.Rules(R"({"Aaa":{"Enable":true},"All":{},"firedetection":{},"FireDetection":{},"Zzz":{},
+        "TrafficNoPassing":{"Enable":true},"StandUpDetection":{}})"));
+    ASSERT_EQ(caller.scene().nRuleGroupNum, 3);
+    EXPECT_EQ(caller.group(0).dwRuleType, 12u);
+    EXPECT_EQ(caller.group(1).dwRuleType, 359u);
+    EXPECT_EQ(caller.group(2).dwRuleType, 273u); // has a size, so it is a group
+    EXPECT_EQ(caller.group(2).nRuleStride, 132);
+    EXPECT_EQ(caller.group(2).bEnable, 1);
+}
+
+TEST(RuleGroups, StandUpIsReadHereThoughListsRefuseIt) {
+    Caller caller;
+    caller.Give(0, sizeof(CFG_RULE_STANDUP_INFO));
+    ASSERT_TRUE(caller.Rules(R"({"StandUpDetection":{"Rule":[{"Name":"up"}]}})"));
+    EXPECT_EQ(caller.group(0).nRuleNum, 1);
+    EXPECT_STREQ(caller.Rule<CFG_RULE_STANDUP_INFO>(0).szRuleName, "up");
+}
+
+TEST(RuleGroups, ANinthGroupIsNotRead) {
+    const char* const names[] = {"CrossLineDetection", "CrossRegionDetection", "FightDetection",
+                                 "FireDetection",      "LeftDetection",        "MoveDetection",
+                                 "PasteDetection",     "RioterDetection",      "StayDetection"};
+    for (const int groups : {8, 9}) {
+        std::string rules = "{";
+        for (int i = 0; i < groups; ++i)
+            rules += std::string(i > 0 ? "," : "") + "\"" + names[i] + R"(":{"Enable":true})";
+        Caller caller;
+        ASSERT_TRUE(caller.Rules(rules + "}"));
+        EXPECT_EQ(caller.scene().nRuleGroupNum, 8);
+        EXPECT_EQ(caller.group(7).dwRuleType, 11u);
+    }
+}
+
+TEST(RuleGroups, AsManyRulesAreReadAsFit) {
+    constexpr std::size_t kSize = sizeof(CFG_RULE_FIRE_INFO);
+    const std::string rules = R"({"FireDetection":{"Rule":[{"Name":"a"},null,{"Name":"c"}]}})";
+    for (const std::size_t bytes : {std::size_t{1}, kSize - 1, kSize, 2 * kSize + 5, 3 * kSize, 5 * kSize}) {
+        Caller caller;
+        caller.Give(0, bytes);
+        ASSERT_TRUE(caller.Rules(rules));
+        const std::size_t count = std::min<std::size_t>(bytes / kSize, 3);
+        EXPECT_EQ(caller.group(0).nRuleNum, static_cast<std::int32_t>(count)) << bytes;
+        for (std::size_t i = count * kSize; i < bytes; ++i)
+            ASSERT_EQ(caller.buffers[0][i], 0xEE) << bytes;
+        if (count > 1) EXPECT_STREQ(caller.Rule<CFG_RULE_FIRE_INFO>(0, 1).szRuleName, "");
+    }
+    Caller none;
+    ASSERT_TRUE(none.Rules(rules));
+    EXPECT_EQ(none.group(0).nRuleNum, 0);
+    Caller noList;
+    noList.Give(0, kSize);
+    ASSERT_TRUE(noList.Rules(R"({"FireDetection":{"Rule":{"Name":"a"}}})"));
+    EXPECT_EQ(noList.group(0).nRuleNum, 0);
+    EXPECT_EQ(noList.buffers[0][0], 0xEE);
+}
+
+// Seven or eight days of six sections, the first of the first as told.
+std::string Week(int days, const std::string& first) {
+    std::string week = "[ ";
+    for (int day = 0; day < days; ++day) {
+        week += day > 0 ? ", [ " : "[ ";
+        for (int section = 0; section < 6; ++section) {
+            const bool isFirst = day == 0 && section == 0;
+            week += std::string(section > 0 ? ", " : "") + "\"" + (isFirst ? first : "0 00:00:00-00:00:00") + "\"";
+        }
+        week += " ]";
+    }
+    return week + " ]";
+}
+
+TEST(RuleGroups, AGroupsLinkageStandsOnceAndHasItsSchedule) {
+    Caller caller;
+    caller.Give(0, sizeof(CFG_RULE_FIRE_INFO));
+    ASSERT_TRUE(caller.Rules(R"({"FireDetection":{"Enable":true,"EventHandler":{"BeepEnable":true,"TimeSection":)"
+                             + Week(8, "1 08:00:00-17:30:00") + R"(},"Rule":[{"Name":"a"}]}})"));
+    const CFG_RULE_GROUP_INFO& group = caller.group(0);
+    EXPECT_EQ(group.bHasEventHandler, 1);
+    EXPECT_EQ(group.stuEventHandler.abBeepEnable, 1);
+    EXPECT_EQ(group.stuEventHandler.bBeepEnable, 1);
+    EXPECT_EQ(group.stuTimeSchedule.bEnableHoliday, 1);
+    EXPECT_EQ(group.stuTimeSchedule.stuTimeSection[0][0].nBeginHour, 8);
+    EXPECT_EQ(group.stuTimeSchedule.stuTimeSection[0][0].nEndMin, 30);
+
+    caller.all->stuScenes[0].stuRuleGroups[0].stuTimeSchedule.stuTimeSection[0][0].nBeginHour = 9;
+    const std::string text = caller.Pack();
+    // The group's own schedule, not that of its linkage; and the rule has no linkage.
+    EXPECT_NE(text.find("\"BeepEnable\" : true"), std::string::npos);
+    EXPECT_NE(text.find("\"TimeSection\" : " + Week(8, "1 09:00:00-17:30:00")), std::string::npos) << text;
+    EXPECT_EQ(text.find("EventHandler"), text.rfind("EventHandler"));
+
+    caller.all->stuScenes[0].stuRuleGroups[0].bHasEventHandler = 0;
+    const std::string without = caller.Pack();
+    const std::size_t rule = without.find("\"Rule\" : ");
+    EXPECT_GT(without.find("EventHandler"), rule);
+    EXPECT_NE(without.find("EventHandler"), std::string::npos);
+}
+
+// What the writer says of a scene, from its "Rules" on.
+std::string RulesOf(const std::string& text) {
+    const std::size_t at = text.find("\"Rules\" : ");
+    return at == std::string::npos ? "(no rules)" : text.substr(at);
+}
+
+TEST(RuleGroups, WhatIsWrittenIsSorted) {
+    Caller caller;
+    All& all = *caller.all;
+    all.nSceneNum = 1;
+    all.stuScenes[0].nRuleGroupNum = 5;
+    CFG_RULE_GROUP_INFO* const groups = all.stuScenes[0].stuRuleGroups;
+    groups[0].dwRuleType = 9; // "MoveDetection"
+    groups[0].bEnable = 1;
+    groups[1].dwRuleType = 270; // as devices name it
+    groups[2].dwRuleType = 562; // a name that is only read
+    groups[3].dwRuleType = 9;
+    groups[4].dwRuleType = 556;
+    EXPECT_EQ(RulesOf(caller.Pack()), "\"Rules\" : { \"All\" : { \"Enable\" : false, \"Rule\" : [  ] }, "
+                                      "\"CrowdDistriMap\" : { \"Enable\" : false, \"Rule\" : [  ] }, "
+                                      "\"MoveDetection\" : { \"Enable\" : false, \"Rule\" : [  ] }, "
+                                      "\"TrafficYellowInRoute\" : { \"Enable\" : false, \"Rule\" : [  ] } } } ]");
+    all.stuScenes[0].nRuleGroupNum = 0;
+    EXPECT_EQ(RulesOf(caller.Pack()), "\"Rules\" : null } ]");
+    all.stuScenes[0].nRuleGroupNum = -1;
+    EXPECT_EQ(RulesOf(caller.Pack()), "\"Rules\" : null } ]");
+    all.nSceneNum = 0;
+    EXPECT_EQ(caller.Pack(), "[  ]");
+}
+
+TEST(RuleGroups, CountsEndAtTheirArrays) {
+    Caller caller;
+    All& all = *caller.all;
+    all.nSceneNum = 4;
+    all.stuScenes[2].nRuleGroupNum = 9;
+    for (CFG_RULE_GROUP_INFO& group : all.stuScenes[2].stuRuleGroups)
+        group.dwRuleType = 12;
+    const std::string text = caller.Pack();
+    std::size_t scenes = 0;
+    for (std::size_t at = 0; (at = text.find("\"Global\"", at)) != std::string::npos; ++at)
+        ++scenes;
+    EXPECT_EQ(scenes, 3u);
+}
+
+TEST(RuleGroups, RulesAreWrittenOnlyWhole) {
+    constexpr std::int32_t kSize = sizeof(CFG_RULE_FIRE_INFO);
+    const auto rulesIn = [](std::int32_t count, std::int32_t stride, std::int32_t room) {
+        Caller caller;
+        caller.Give(0, 3 * kSize);
+        std::fill(caller.buffers[0].begin(), caller.buffers[0].end(), std::uint8_t{0});
+        caller.all->nSceneNum = 1;
+        caller.all->stuScenes[0].nRuleGroupNum = 1;
+        CFG_RULE_GROUP_INFO& group = caller.all->stuScenes[0].stuRuleGroups[0];
+        group.dwRuleType = 12;
+        group.bHasEventHandler = 1;
+        group.nRuleNum = count;
+        group.nRuleStride = stride;
+        group.nRuleBufLen = room;
+        const std::string text = RulesOf(caller.Pack());
+        std::size_t rules = 0;
+        for (std::size_t at = 0; (at = text.find("\"Class\"", at)) != std::string::npos; ++at)
+            ++rules;
+        return rules;
+    };
+    EXPECT_EQ(rulesIn(2, kSize, 2 * kSize), 2u);
+    EXPECT_EQ(rulesIn(2, kSize, 2 * kSize - 1), 0u);
+    EXPECT_EQ(rulesIn(0, kSize, kSize), 0u);
+    EXPECT_EQ(rulesIn(-1, kSize, kSize), 0u);
+    EXPECT_EQ(rulesIn(2, 0, kSize), 0u);
+    EXPECT_EQ(rulesIn(2, -kSize, kSize), 0u);
+    EXPECT_EQ(rulesIn(2147483647, kSize, 3 * kSize), 0u);
+    // Strides below the record: what is not whole inside the buffer is not touched.
+    EXPECT_EQ(rulesIn(3, 8, kSize), 1u);
+    EXPECT_EQ(rulesIn(3, 8, kSize + 8), 2u);
+}
+
+TEST(RuleGroups, GoesRound) {
+    Caller caller;
+    caller.Give(0, 2 * sizeof(CFG_RULE_FIRE_INFO));
+    ASSERT_TRUE(caller.Parse(R"([{"Global":{"Scene":{"Type":"Normal"}},"Module":[{"ObjectType":"Human"}],
+        "Rules":{"FireDetection":{"Enable":true,"EventHandler":{"BeepEnable":true},"Rule":[{"Name":"a"},{"Name":"b"}]}}}])"));
+    const std::string text = caller.Pack();
+    Caller again;
+    again.Give(0, 2 * sizeof(CFG_RULE_FIRE_INFO));
+    ASSERT_TRUE(again.Parse(text));
+    EXPECT_EQ(again.Pack(), text);
+    EXPECT_STREQ(again.Rule<CFG_RULE_FIRE_INFO>(0, 1).szRuleName, "b");
+}
+
+TEST(RuleGroups, TheTextMayFillItsBuffer) {
+    Caller caller;
+    const std::string text = "[  ]\n";
+    EXPECT_EQ(PackBytes(kCommand, caller.all.get(), sizeof(All), text.size() + 1), text);
+    EXPECT_EQ(PackBytes(kCommand, caller.all.get(), sizeof(All), text.size()), "[  ]");
+    EXPECT_EQ(PackBytes(kCommand, caller.all.get(), sizeof(All), text.size() - 1), kFailed);
+}
+
+} // namespace
+} // namespace orrery::test
