@@ -21,6 +21,7 @@
 #include "orrery/audio.h"
 #include "orrery/burning.h"
 #include "orrery/analyse_templates.h"
+#include "orrery/audio.h"
 #include "orrery/calls.h"
 #include "orrery/cameras.h"
 #include "orrery/comm_attribute.h"
