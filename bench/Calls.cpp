@@ -130,8 +130,10 @@ bool SelfTest() {
     auto encode = MakeEncodeBench(24);
     auto junction = MakeJunctionBench(48);
     auto manyEvents = MakeManyEventsBench(24);
-    bool good = DecodesAll(junction) && DecodesAll(manyEvents) && SameBothWays(alarm) && SameBothWays(longAlarm)
-                && SameBothWays(motion) && SameBothWays(switches) && SameBothWays(caps) && SameBothWays(encode);
+    auto typed = MakeTypedBench(24);
+    bool good = DecodesAll(junction) && DecodesAll(manyEvents) && DecodesAll(typed) && SameBothWays(alarm)
+                && SameBothWays(longAlarm) && SameBothWays(motion) && SameBothWays(switches) && SameBothWays(caps)
+                && SameBothWays(encode);
     for (const int rules : {8, 16, 32})
         good = good && RuleBench(rules).SameBothWays();
     for (const MemberRow& row : MemberRows())

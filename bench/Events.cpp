@@ -87,6 +87,24 @@ std::string ManyEvents(Dice& dice) {
     return text + " ] }";
 }
 
+std::string Typed(Dice& dice) {
+    std::string text = R"({ "ObjectList" : [ )";
+    for (int i = 0; i < 32; ++i)
+        text += (i > 0 ? ", " : "") + Filled(kObject, dice);
+    text += R"( ], "VideoAnalyseRule" : [ )";
+    for (int i = 0; i < 8; ++i) {
+        text += (i > 0 ? ", " : "");
+        text += Filled(
+            R"({ "Class" : "Normal", "Config" : { "DetectLine" : [ [ #, # ], [ #, # ] ], "Direction" : "LeftToRight", )"
+            R"("SizeFilter" : { "MaxSize" : [ 8#, 8# ], "MinSize" : [ #, # ] }, "TriggerPosition" : [ "Center" ] }, )"
+            R"("Enable" : true, "EventHandler" : { "BeepEnable" : true, "RecordChannels" : [ # ], )"
+            R"("RecordEnable" : true }, "Id" : #, "Name" : "rule #", "ObjectTypes" : [ "Human", "Vehicle" ], )"
+            R"("PtzPresetId" : #, "Type" : "CrossLineDetection" })",
+            dice);
+    }
+    return text + " ] }";
+}
+
 Texts Made(std::string (*make)(Dice&), int variants) {
     Dice dice(20261120);
     Texts texts;
@@ -97,13 +115,17 @@ Texts Made(std::string (*make)(Dice&), int variants) {
 
 } // namespace
 
-EventBench::EventBench(const char* itsName, Texts itsTexts, std::size_t eventsPerText)
-    : name(itsName), texts(std::move(itsTexts)), events(eventsPerText), recordBytes(0) {
+EventBench::EventBench(const char* itsName, Texts itsTexts, std::size_t eventsPerText, Decoder itsDecoder)
+    : name(itsName), texts(std::move(itsTexts)), events(eventsPerText), recordBytes(0), decoder(itsDecoder) {
     // As many bytes as the first text's records have.
-    CLIENT_ParseAnalyzerEventData(
+    decoder(
         texts[0].c_str(), 0,
-        [](uint32_t, const void*, uint32_t size, void*, int32_t, void* user) -> int32_t {
-            *static_cast<std::size_t*>(user) += size;
+        [](uint32_t type, const void* record, uint32_t size, void*, int32_t, void* user) -> int32_t {
+            auto& bytes = *static_cast<std::size_t*>(user);
+            bytes += size;
+            if (type == ORRERY_TYPED_VIDEO_ANALYSE_RULE) {
+                bytes += static_cast<std::size_t>(static_cast<const EVENT_RULE_TABLE*>(record)->nRuleBufLen);
+            }
             return 0;
         },
         &recordBytes);
@@ -115,6 +137,9 @@ EventBench MakeJunctionBench(int variants) {
 }
 EventBench MakeManyEventsBench(int variants) {
     return EventBench("events.128", Made(ManyEvents, variants), 128);
+}
+EventBench MakeTypedBench(int variants) {
+    return EventBench("events.typed", Made(Typed, variants), 2, CLIENT_ParseDataByCallback);
 }
 
 } // namespace orrery::bench

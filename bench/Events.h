@@ -15,17 +15,21 @@
 namespace orrery::bench {
 
 struct EventBench {
-    EventBench(const char* itsName, Texts itsTexts, std::size_t eventsPerText);
+    // How a text is decoded: what it hands over counts as its events.
+    using Decoder = int32_t (*)(const char*, uint32_t, ORRERY_EVENT_CALLBACK, void*);
+    EventBench(const char* itsName, Texts itsTexts, std::size_t eventsPerText,
+               Decoder itsDecoder = CLIENT_ParseAnalyzerEventData);
 
     const char* name;
     Texts texts;
     std::size_t events;      // in each text
     std::size_t recordBytes; // of the records of one text
     std::unique_ptr<char[]> records;
+    Decoder decoder;
 
     bool Decode(std::size_t i) {
         std::size_t count = 0;
-        const int32_t done = CLIENT_ParseAnalyzerEventData(
+        const int32_t done = decoder(
             texts[i].c_str(), static_cast<uint32_t>(texts[i].size()),
             [](uint32_t, const void* record, uint32_t, void*, int32_t, void* user) -> int32_t {
                 benchmark::DoNotOptimize(record);
@@ -49,5 +53,7 @@ struct EventBench {
 EventBench MakeJunctionBench(int variants);
 // 128 events of several kinds.
 EventBench MakeManyEventsBench(int variants);
+// A typed text of eight rules and 32 objects.
+EventBench MakeTypedBench(int variants);
 
 } // namespace orrery::bench

@@ -109,6 +109,7 @@ void PrintSystemCalls(const std::string& only) {
     RuleBench rules(32);
     auto junction = MakeJunctionBench(12);
     auto manyEvents = MakeManyEventsBench(12);
+    auto typed = MakeTypedBench(12);
     const auto line = [&](const std::string& name, const Texts& texts, auto call) {
         std::size_t longest = 0;
         for (const auto& text : texts)
@@ -120,6 +121,7 @@ void PrintSystemCalls(const std::string& only) {
     line("VideoAnalyseRule.parse", rules.texts, [&](std::size_t i) { return rules.Parse(i); });
     line("events.junction", junction.texts, [&](std::size_t i) { return junction.Decode(i); });
     line("events.128", manyEvents.texts, [&](std::size_t i) { return manyEvents.Decode(i); });
+    line("events.typed", typed.texts, [&](std::size_t i) { return typed.Decode(i); });
     SystemLine(
         "system.Encode.pack", 0, encode.records.size(), [&](std::size_t i) { return encode.Pack(i); }, only);
     for (const auto& [name, size] : {std::pair{"20KB", 20000},

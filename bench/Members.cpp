@@ -64,6 +64,8 @@ constexpr MemberRow kRows[] = {
     {"StorageGroup", 1, 64},
     {"RaidGroup"},
     {"NAS"},
+    {"devVideoAnalyse.getCaps", 1, 4},
+    {"VideoInAnalyseRule", 1, 2},
 };
 
 const Command& CommandNamed(const char* name) {

@@ -237,6 +237,7 @@ void PrintTables(bool quick, const std::string& only) {
     RuleBench rules(32);
     auto junction = MakeJunctionBench(48);
     auto manyEvents = MakeManyEventsBench(24);
+    auto typed = MakeTypedBench(24);
 
     if (only.empty()) {
         std::printf("\nheap use of one call, the worst of its texts\n\n");
@@ -248,6 +249,7 @@ void PrintTables(bool quick, const std::string& only) {
         HeapOfRules(rules);
         HeapOfEvents(junction);
         HeapOfEvents(manyEvents);
+        HeapOfEvents(typed);
         for (const MemberRow& row : MemberRows()) {
             MemberBench bench(row);
             HeapOfMembers(bench);
@@ -277,6 +279,7 @@ void PrintTables(bool quick, const std::string& only) {
     RuleCalls(table, rules);
     Events(table, junction);
     Events(table, manyEvents);
+    Events(table, typed);
     for (const MemberRow& row : MemberRows()) {
         MemberBench bench(row);
         Members(table, bench);

@@ -109,8 +109,10 @@ int main(int argc, char** argv) {
     RegisterCalls("alarm.getAlarmCaps", caps);
     auto junction = MakeJunctionBench(48);
     auto manyEvents = MakeManyEventsBench(24);
+    auto typed = MakeTypedBench(24);
     RegisterEvents("junction", junction);
     RegisterEvents("128", manyEvents);
+    RegisterEvents("typed", typed);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     benchmark::RunSpecifiedBenchmarks();

@@ -2,7 +2,9 @@
 // analysis rule and for each event, in several circumstances: fuzz_seeds DIRECTORY
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleBodyMap.h"
+#include "analyse/Templates.h"
 #include "events/EventMap.h"
+#include "events/TypedText.h"
 #include "frame/PackedItems.h"
 #include "support/FuzzInput.h"
 #include "support/TableText.h"
@@ -222,6 +224,42 @@ void WriteRequests() {
     }
 }
 
+// A rule of the type whose turn it is.
+std::string Rule(const PackedItems& items, const test::TextOptions& options) {
+    const ItemType type = items.typeAt(turn % items.typeCount);
+    test::JsonTree rule = test::RecordTree(*type.table, options);
+    if (rule.kind() != test::JsonTree::Kind::Object) rule = test::JsonTree::Object();
+    rule.Add("Type", test::JsonTree::String(std::string(type.name)));
+    rule.Add("Class", test::JsonTree::String("Normal"));
+    return rule.Text();
+}
+
+void WriteTyped(const events::TypedRow& row) {
+    const auto text = [&](const test::TextOptions& options) {
+        const std::string record = row.table->items != nullptr ? Rule(*row.table->items, options)
+                                                               : test::RecordTree(*row.table, options).Text();
+        const bool isList = row.isList || row.table->items != nullptr;
+        const std::string lanes = turn % 2 == 0 ? R"("Config":[0,1,2,3,4,5,6,7,8,9],)" : "";
+        const std::string value = isList ? "[" + record + ",null]" : record;
+        return "{" + lanes + "\"" + std::string(row.name) + "\":" + value + "}";
+    };
+    WriteTexts("typed", std::string(row.name), "", 0, text);
+}
+
+void WriteTemplate(const TemplateRow& row) {
+    const auto text = [&](const test::TextOptions& options) {
+        if (!row.isByClass) return R"({"result":true,"params":)" + test::RecordTree(*row.table, options).Text() + "}";
+        const std::string value = row.table->items != nullptr ? R"({"a":)" + Rule(*row.table->items, options) + "}"
+                                                              : test::RecordTree(*row.table, options).Text();
+        return R"({"result":true,"params":{"Traffic":)" + value + "}}";
+    };
+    std::string prefix;
+    Put(prefix, static_cast<std::uint8_t>(&row - Templates().data()));
+    Put(prefix, static_cast<std::uint8_t>(CFG_RULE_CLASS_TRAFFIC));
+    Put(prefix, std::uint32_t{60000});
+    WriteTexts("templates", std::string(row.name), prefix, 0, text);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -236,6 +274,12 @@ int main(int argc, char** argv) {
         WriteEvent(row);
     for (const RuleBody& body : RuleBodies())
         WriteRule(body);
+    for (const events::TypedRow& row : events::TypedRows())
+        WriteTyped(row);
+    for (int i = 0; i < 8; ++i) // rules of several types
+        WriteTyped(*events::FindTyped("VideoAnalyseRule")), ++turn;
+    for (const TemplateRow& row : Templates())
+        WriteTemplate(row);
     WriteRequests();
     return 0;
 }

@@ -3,7 +3,7 @@
 #include "alarm/EventHandler.h"
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/Module.h"
-#include "analyse/RuleBodyTable.h"
+#include "analyse/RuleBodyMap.h"
 #include "analyse/RuleFrame.h"
 #include "analyse/Scene.h"
 #include "frame/record/Engine.h"

@@ -129,9 +129,9 @@ Outcome ReadRules(std::int32_t classType, const ParseRequest& request) noexcept 
 }
 
 constexpr TemplateRow kRows[] = {
-    {"VideoInAnalyse.getTemplateGlobal", &kTemplateGlobal, ReadGlobal},
-    {"VideoInAnalyse.getTemplateModule", &kModule, ReadModule},
-    {"VideoInAnalyse.getTemplateRule", &kAnalyseRules, ReadRules},
+    {"VideoInAnalyse.getTemplateGlobal", &kTemplateGlobal, false, ReadGlobal},
+    {"VideoInAnalyse.getTemplateModule", &kModule, true, ReadModule},
+    {"VideoInAnalyse.getTemplateRule", &kAnalyseRules, true, ReadRules},
 };
 
 } // namespace

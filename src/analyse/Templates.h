@@ -14,6 +14,7 @@ namespace orrery {
 struct TemplateRow {
     std::string_view name;
     const record::Table* table;
+    bool isByClass; // stands under the name of the class that is asked for
     Outcome (*read)(std::int32_t classType, const ParseRequest& request) noexcept;
 };
 

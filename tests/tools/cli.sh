@@ -33,7 +33,7 @@ run 0 --version
 out_is "orrery $version
 "
 run 0 --help
-for command in parse pack events commands describe schema layout; do out_has "$command"; done
+for command in parse pack events template commands describe schema layout; do out_has "$command"; done
 run 0 commands
 out_has "alarm.getAlarmCaps"
 run 0 describe Alarm
@@ -112,6 +112,16 @@ out_has '{ "code": 16777216, "name": "VideoStatSummary", "size": '
 no_err
 run 0 describe VideoSynopsisAnalyseRule
 out_has 'typed text 16777221'
+
+# Templates of analysis settings.
+input='{"result":true,"params":{"Traffic":{"ObjectType":"Car"}}}' run 0 template VideoInAnalyse.getTemplateModule --class Traffic
+out_has '"szObjectType": "Car"'
+no_err
+input='{"result":false}' run 1 template VideoInAnalyse.getTemplateGlobal
+no_out
+err_has 'the device refused the call'
+input='{}' run 1 template VideoInAnalyse.getTemplateRule --class Trafic
+err_has 'Traffic'
 
 # Refusals: status 1, nothing on standard output.
 input='{ "result" : tru }' run 1 parse PwdReset

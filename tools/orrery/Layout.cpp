@@ -3,6 +3,7 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "analyse/Templates.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
 #include <set>
@@ -129,6 +130,11 @@ std::string Layout() {
     for (const events::TypedRow& typed : events::TypedRows()) {
         text += "typed " + std::to_string(typed.code) + " " + std::string(typed.name) + " "
                 + tables.LabelOf(*typed.table) + (typed.isList ? " List" : "") + "\n";
+    }
+    text += "\n# templates: command record\n";
+    for (const TemplateRow& row : Templates()) {
+        text += "template " + std::string(row.name) + " " + tables.LabelOf(*row.table)
+                + (row.isByClass ? " ByClass" : "") + "\n";
     }
     return text;
 }

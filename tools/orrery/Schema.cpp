@@ -3,6 +3,7 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "analyse/Templates.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
 #include "frame/PackedItems.h"
@@ -104,13 +105,21 @@ std::string Schema() {
                                 .Add("record", Node::Text(row.table->record))
                                 .Add("list", Node::Bool(row.isList))));
     }
+    Node templates = Node::Array();
+    for (const TemplateRow& row : Templates()) {
+        templates.Add(std::move(Node::Object()
+                                    .Add("name", Node::Text(row.name))
+                                    .Add("record", Node::Text(row.table->record))
+                                    .Add("class", Node::Bool(row.isByClass))));
+    }
     Node schema = Node::Object();
     schema.Add("version", Node::Text(ORRERY_VERSION))
         .Add("commands", std::move(commands))
         .Add("records", std::move(records))
         .Add("rules", RuleNodes())
         .Add("events", std::move(events))
-        .Add("typed", std::move(typed));
+        .Add("typed", std::move(typed))
+        .Add("templates", std::move(templates));
     return schema.Print();
 }
 

@@ -1,6 +1,7 @@
 #include "orrery/Tables.h"
 
 #include "Commands.h"
+#include "analyse/Templates.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
 #include "frame/JsonParser.h"
@@ -22,6 +23,8 @@ Tables::Tables() {
         Meet(*event.table, std::string(event.name));
     for (const events::TypedRow& typed : events::TypedRows())
         Meet(*typed.table, std::string(typed.name));
+    for (const TemplateRow& row : Templates())
+        Meet(*row.table, std::string(row.name));
     std::stable_sort(all.begin(), all.end(), [](const Table* left, const Table* right) {
         return std::string_view(left->record) < std::string_view(right->record);
     });

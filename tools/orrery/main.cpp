@@ -4,6 +4,7 @@
 #include "orrery/Output.h"
 #include "orrery/Run.h"
 #include "orrery/ShowEvents.h"
+#include "orrery/ShowTemplate.h"
 #include "orrery/Suggest.h"
 #include "orrery/Tables.h"
 
@@ -87,6 +88,7 @@ int main(int argc, char** argv) {
     bool strict = false;
     std::vector<std::string> files;
     EventOptions eventOptions;
+    TemplateOptions templateOptions;
     std::function<int()> run;
 
     CLI::App* const parse = app.add_subcommand("parse", "Print a device's reply as a record, in JSON by field names");
@@ -166,6 +168,20 @@ int main(int argc, char** argv) {
             std::string text;
             if (!ReadAll(file, text)) return kUsage;
             return Show(ShowEvents(text, eventOptions));
+        };
+    });
+
+    CLI::App* const templates =
+        app.add_subcommand("template", "Print a reply with a template of analysis settings as a record, in JSON");
+    templates->add_option("COMMAND", name, "VideoInAnalyse.getTemplateGlobal, ...Module or ...Rule")->required();
+    templates->add_option("FILE", file, "The reply; standard input by default");
+    templates->add_option("--class", templateOptions.ruleClass, "Class of the rules, such as Normal or Traffic");
+    templates->add_flag("--all", templateOptions.all, "Print lists whole, also what is not in use");
+    templates->callback([&] {
+        run = [&]() -> int {
+            std::string text;
+            if (!ReadAll(file, text)) return kUsage;
+            return Show(ShowTemplate(name, text, templateOptions));
         };
     });
 
