@@ -447,6 +447,8 @@ void Text::Finish() {
             finding.length = text_.size() - behind;
         }
     }
+    for (Finding& finding : findings)
+        AddNearest(finding);
     const std::size_t nul = text_.size();
     if (whole_.find_first_not_of(std::string_view("\0 \t\r\n", 5), nul) != std::string_view::npos) {
         Finding& finding = walk_.Add(ORRERY_FINDING_TRAILING_TEXT, ORRERY_FINDING_NOTE, document_.root, root_,

@@ -41,6 +41,10 @@ struct Finding {
     std::size_t offset = 0, length = 0;
     std::size_t valueOffset = 0, valueEnd = 0;
     std::string path, field, message, nearest;
+    // Of an unknown key: the key, and the object among whose keys the nearest is looked for once it is told.
+    std::string_view key{};
+    const record::Table* table = nullptr;
+    record::NodeRange range{};
 };
 
 const char* WordOf(int kind);

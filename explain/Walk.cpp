@@ -387,13 +387,20 @@ void Walk::Unknown(const Table& table, NodeRange range, const json::Member& memb
     finding.atKey = true;
     finding.isTried = triesAll_ || functionsAround_ > 0;
     finding.field = table.record;
-    std::vector<std::string_view> keys;
-    KeysOf(table, range, keys);
-    if (const auto near = Nearest(member.key(), keys); !near.empty()) {
-        finding.nearest = near.front();
-        finding.message += "; the nearest that is read is " + Quoted(near.front());
-    }
+    finding.key = member.key();
+    finding.table = &table;
+    finding.range = range;
     ++left;
+}
+
+void AddNearest(Finding& finding) {
+    if (finding.table == nullptr) return;
+    std::vector<std::string_view> keys;
+    KeysOf(*finding.table, finding.range, keys);
+    const auto near = Nearest(finding.key, keys);
+    if (near.empty()) return;
+    finding.nearest = near.front();
+    finding.message += "; the nearest that is read is " + Quoted(near.front());
 }
 
 void Walk::FromRoot(const Table& table, const Value& root, const Path& path) {

@@ -80,6 +80,9 @@ class Walk {
     int functionsAround_ = 0; // records around this one whose functions may look at any of its keys
 };
 
+// Names the nearest key that is read, for an unknown one.
+void AddNearest(Finding& finding);
+
 // Whether functions of the table look at the record's object as a whole.
 bool LooksAround(const record::Table& table);
 

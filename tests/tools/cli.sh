@@ -33,7 +33,7 @@ run 0 --version
 out_is "orrery $version
 "
 run 0 --help
-for command in parse pack events template commands describe schema layout; do out_has "$command"; done
+for command in parse pack check diff events template commands describe schema layout; do out_has "$command"; done
 run 0 commands
 out_has "alarm.getAlarmCaps"
 run 0 describe Alarm
@@ -74,6 +74,75 @@ input='{"result":true,"params":{"table":{"Port":"1"}}}' run 3 parse NTP --strict
 out_has '"nPort": 0'
 input='{"result":true,"params":{"table":{"Port":1}}}' run 0 parse NTP --strict
 no_err
+
+# Events of streams: one a line, one behind the other, several files, each with its place.
+line='{"Event":[{"Code":"Nothing"},{"Code":"AccessControl","Action":"Stop","Data":{"CardNo":"47"}}]}'
+input="$line"$'\n'"$line$line"$'\n' run 0 events --fields szCardNo,stuObject.nObjectID,szNone
+python3 -c 'import json, sys
+found = [json.loads(line) for line in open(sys.argv[1])]
+names = ("code", "action", "index", "file", "line", "szCardNo", "stuObject.nObjectID", "szNone")
+assert [tuple(each[name] for name in names) for each in found] == [
+    (516, "Stop", 1, "-", line, "47", 0, None) for line in (1, 2, 2)], found' "$scratch/out" ||
+    fail "printed: $(cat "$scratch/out")"
+printf '%s\n' "$line" >"$scratch/one.jsonl"
+printf '%s\n%s\n' '{"Event":[' "$line" >"$scratch/bad.jsonl"
+run 1 events "$scratch/one.jsonl" "$scratch/bad.jsonl"
+[ "$(wc -l <"$scratch/out")" = 2 ] || fail "printed: $(cat "$scratch/out")"
+err_has "$scratch/bad.jsonl, text at line 1: line 1, column 11"
+out_has "\"file\": \"$scratch/bad.jsonl\", \"line\": 2"
+input='{"Events":[]}' run 1 events
+err_has 'neither "Event" nor "EventList"'
+# Each event comes as soon as its text is there, though the pipe stays open.
+mkfifo "$scratch/pipe"
+"$program" events <"$scratch/pipe" >"$scratch/out" 2>"$scratch/err" &
+reader=$!
+exec 3>"$scratch/pipe"
+printf '%s\n' "$line" >&3
+for _ in $(seq 100); do [ -s "$scratch/out" ] && break; sleep 0.1; done
+out_has '"name": "AccessControl"'
+exec 3>&-
+wait $reader || fail "exit status $?"
+# A file that grows.
+printf '%s\n' "$line" >"$scratch/grows"
+"$program" events --follow "$scratch/grows" >"$scratch/out" 2>"$scratch/err" &
+reader=$!
+for _ in $(seq 100); do [ "$(wc -l <"$scratch/out")" = 1 ] && break; sleep 0.1; done
+printf '%s\n' "$line" >>"$scratch/grows"
+for _ in $(seq 100); do [ "$(wc -l <"$scratch/out")" = 2 ] && break; sleep 0.1; done
+kill $reader
+wait $reader 2>/dev/null
+[ "$(wc -l <"$scratch/out")" = 2 ] || fail "printed: $(cat "$scratch/out")"
+# What was told, without the zeros.
+input='{"result":true,"params":{"table":{"Port":124,"ServerList":[{"Port":5}]}}}' run 0 parse NTP --brief
+python3 -c 'import json, sys
+assert json.load(open(sys.argv[1])) == {"nPort": 124, "nServerNum": 1, "stuServers": [{"nPort": 5}]}' "$scratch/out" ||
+    fail "printed: $(cat "$scratch/out")"
+
+# Two replies as records.
+printf '%s' '{"result":true,"params":{"table":{"Port":123,"ServerList":[{"Port":1}]}}}' >"$scratch/a"
+printf '%s' '{"params":{"table":{"ServerList":[{"Port":2}],"Port":124}},"result":true,"id":3}' >"$scratch/b"
+run 3 diff NTP "$scratch/a" "$scratch/b"
+out_is 'nPort: 123 -> 124
+stuServers[0].nPort: 1 -> 2
+'
+run 0 diff NTP "$scratch/a" "$scratch/a"
+no_out
+printf '%s' '{"result":true,"params":{"channel":1,"table":{}}}' >"$scratch/a"
+printf '%s' '{"result":true,"params":{"channel":2,"table":{}}}' >"$scratch/b"
+run 3 diff Alarm "$scratch/a" "$scratch/b"
+out_is 'nChannel: 1 -> 2  (no device would notice)
+'
+run 1 diff NTP "$scratch/a" "$scratch/one.jsonl"
+err_has 'the second: '
+
+# What of a record leaves no trace in its text.
+input='{"nChannel":3,"szName":"door"}' run 3 pack Alarm --strict
+err_has 'note: nChannel writes nothing'
+out_has '"Name" : "door"'
+input='{"szName":"door"}' run 0 pack Alarm --strict
+no_err
+input='[{"nPort":1},{"nPort":2}]' run 3 pack NTP --strict
+err_has '2 records, of which the text holds the first only'
 
 # There and back, through a file and through standard input.
 run 0 parse Alarm "$reply"

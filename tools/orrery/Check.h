@@ -9,9 +9,6 @@
 
 namespace orrery::tool {
 
-// A call that did its work, but not all of what it was given went through.
-inline constexpr int kFound = 3;
-
 struct CheckOptions {
     bool json = false; // an object a line
     std::optional<std::uint32_t> records{};

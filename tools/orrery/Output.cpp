@@ -94,6 +94,34 @@ Node& Node::Add(std::string_view key, Node member) {
     return *this;
 }
 
+const Node* Node::Find(std::string_view path) const {
+    const Node* node = this;
+    while (!path.empty()) {
+        if (path.front() == '.') path.remove_prefix(1);
+        if (path.starts_with('[')) {
+            const std::size_t close = path.find(']');
+            std::size_t index = 0;
+            if (close == std::string_view::npos || close < 2 || close > 10) return nullptr;
+            for (const char c : path.substr(1, close - 1)) {
+                if (c < '0' || c > '9') return nullptr;
+                index = index * 10 + static_cast<std::size_t>(c - '0');
+            }
+            if (!node->isArray() || index >= node->children_.size()) return nullptr;
+            node = &node->children_[index].second;
+            path.remove_prefix(close + 1);
+            continue;
+        }
+        const std::string_view name = path.substr(0, path.find_first_of(".["));
+        const std::string key = Quoted(name);
+        const auto found = std::find_if(node->children_.begin(), node->children_.end(),
+                                        [&](const auto& child) { return child.first == key; });
+        if (name.empty() || found == node->children_.end()) return nullptr;
+        node = &found->second;
+        path.remove_prefix(name.size());
+    }
+    return node;
+}
+
 bool Node::IsNumber() const {
     return kind_ == Kind::Scalar && token_[0] != '"';
 }

@@ -31,6 +31,9 @@ class Node {
 
     bool isArray() const { return kind_ == Kind::Array || kind_ == Kind::InlineArray; }
     std::size_t size() const { return children_.size(); }
+    // The member or the element at a path such as "stuObject.nObjectID" or "stuTours[0].szName"; null when there is
+    // none.
+    const Node* Find(std::string_view path) const;
 
     // Ends in a newline.
     std::string Print() const;

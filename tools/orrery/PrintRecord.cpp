@@ -147,23 +147,42 @@ Node PrintPointer(const Field& field, const std::byte* record, PrintOptions opti
     return PrintRecords(*field.table, first, static_cast<std::size_t>(std::max<std::int64_t>(count, 0)), options);
 }
 
+// Whether a member says nothing that its record would not say without a text.
+bool IsBlank(const Field& field, const std::byte* at) {
+    if (field.kind == Kind::Size) return true;
+    if (field.hasDefault && field.rank == 0 && field.cell != Cell::F32 && field.cell != Cell::F64)
+        return LoadInteger(field.cell, at) == field.defaultValue;
+    return std::all_of(at, at + field.size, [](std::byte byte) { return byte == std::byte{0}; });
+}
+
 } // namespace
+
+Node PrintCell(const Field& field, const std::byte* at, PrintOptions options) {
+    return PrintElement(field, at, options);
+}
+
+Node PrintBehind(const Table& table, const Field& pointer, const std::byte* record, PrintOptions options) {
+    const PackedItems* const items = ItemsBehind(table);
+    return items != nullptr ? PrintItems(*items, record, options) : PrintPointer(pointer, record, options);
+}
 
 Node PrintRecord(const Table& table, const std::byte* record, PrintOptions options) {
     Node object = Node::Object();
     for (const Field& field : table) {
         if (field.alias || field.size == 0) continue; // no storage of its own
+        if (options.brief && IsBlank(field, record + field.offset)) continue;
         if (field.cell == Cell::Pointer) {
-            const PackedItems* const items = ItemsBehind(table);
-            object.Add(field.name,
-                       items != nullptr ? PrintItems(*items, record, options) : PrintPointer(field, record, options));
+            object.Add(field.name, PrintBehind(table, field, record, options));
             continue;
         }
         std::uint32_t count = field.rank > 0 ? field.dims[0] : 1;
         if (field.count.exists() && !options.all) {
             count = static_cast<std::uint32_t>(std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, count));
         }
-        object.Add(field.name, PrintLevel(field, 0, record + field.offset, count, options));
+        Node value = PrintLevel(field, 0, record + field.offset, count, options);
+        const bool isNested = field.cell == Cell::Record || field.rank > 0;
+        if (options.brief && isNested && value.size() == 0) continue;
+        object.Add(field.name, std::move(value));
     }
     return object;
 }

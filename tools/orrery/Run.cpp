@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
+#include <memory>
 #include <vector>
 
 namespace orrery::tool {
@@ -115,6 +117,13 @@ std::string Notes(const Table& table, const json::Value& value) {
     return text;
 }
 
+std::string Told(const std::vector<std::string>& notes) {
+    std::string text;
+    for (const std::string& note : notes)
+        text += "orrery: note: " + note + "\n";
+    return text;
+}
+
 // One record of an object, one each of an array's elements.
 std::vector<std::byte> FillAll(const Table& table, const json::Value& value, Memory& memory) {
     const bool isList = value.type() == json::Type::Array;
@@ -130,6 +139,96 @@ std::vector<std::byte> FillAll(const Table& table, const json::Value& value, Mem
                    isList ? "[" + std::to_string(i) + "]" : std::string());
     }
     return records;
+}
+
+// Members of the records that leave no trace in the text: it stays as it is without them, though the record does not.
+class Traceless {
+  public:
+    Traceless(const Command& command, const json::Value& root, const std::vector<std::byte>& records,
+              const std::string& text)
+        : command_(command), records_(records), text_(text), hasPointers_(HasPointers(*command.table)) {
+        Visit(root, {}, [](const json::Value& whole) { return whole; });
+    }
+    std::vector<std::string> notes;
+
+  private:
+    static constexpr int kMostTries = 4000;
+    using Rebuild = std::function<json::Value(const json::Value&)>;
+
+    void Try(const json::Value& without, const std::string& path) {
+        if (++tries_ > kMostTries) return;
+        try {
+            Memory memory;
+            const auto records = FillAll(*command_.table, without, memory);
+            // What the record would hold all the same is no loss.
+            if (!hasPointers_ && records == records_) return;
+            if (PackRecords(command_, records).text == text_) notes.push_back(path + " writes nothing");
+        } catch (const FillError&) {
+            // Other members need it.
+        }
+    }
+
+    // Records with pointers differ by their addresses anyway.
+    static bool SaysSomething(const json::Value& value) {
+        return value.isString() ? !value.asString().empty() : value.size() == 0 && value.asDouble() != 0;
+    }
+
+    void Visit(const json::Value& value, const std::string& path, const Rebuild& rebuild) {
+        if (value.type() == json::Type::Object) {
+            const auto members = value.members();
+            for (std::size_t i = 0; i < members.size() && tries_ < kMostTries; ++i) {
+                const std::string name = path + (path.empty() ? "" : ".") + std::string(members[i].key());
+                std::vector<json::Member> without(members.begin(), members.end());
+                without.erase(without.begin() + static_cast<std::ptrdiff_t>(i));
+                const std::size_t before = notes.size();
+                if (!hasPointers_ || SaysSomething(members[i].value))
+                    Try(rebuild(json::Value::OfObject(without.data(), static_cast<std::uint32_t>(without.size()))),
+                        name);
+                // What writes nothing as a whole does so in its parts; what writes something may hold parts that don't.
+                const bool isCode = !members[i].value["code"].isNull(); // with its name
+                if (notes.size() > before || members[i].value.size() == 0 || isCode) continue;
+                Visit(members[i].value, name, [&](const json::Value& changed) {
+                    std::vector<json::Member>& with = *levels_.emplace_back(
+                        std::make_unique<std::vector<json::Member>>(members.begin(), members.end()));
+                    with[i].value = changed;
+                    const json::Value whole =
+                        rebuild(json::Value::OfObject(with.data(), static_cast<std::uint32_t>(with.size())));
+                    return whole;
+                });
+                levels_.clear();
+            }
+        } else if (value.type() == json::Type::Array) {
+            const auto elements = value.elements();
+            for (std::size_t i = 0; i < elements.size() && tries_ < kMostTries; ++i) {
+                if (elements[i].type() != json::Type::Object) continue;
+                Visit(elements[i], path + "[" + std::to_string(i) + "]", [&](const json::Value& changed) {
+                    std::vector<json::Value>& with = *lists_.emplace_back(
+                        std::make_unique<std::vector<json::Value>>(elements.begin(), elements.end()));
+                    with[i] = changed;
+                    return rebuild(json::Value::OfArray(with.data(), static_cast<std::uint32_t>(with.size())));
+                });
+                lists_.clear();
+            }
+        }
+    }
+
+    const Command& command_;
+    const std::vector<std::byte>& records_;
+    const std::string& text_;
+    bool hasPointers_;
+    std::vector<std::unique_ptr<std::vector<json::Member>>> levels_;
+    std::vector<std::unique_ptr<std::vector<json::Value>>> lists_;
+    int tries_ = 0;
+};
+
+// Records behind the first that the text has no place for.
+std::vector<std::string> DroppedRecords(const Command& command, const std::vector<std::byte>& records,
+                                        const std::string& text) {
+    const std::size_t size = command.table->size;
+    if (records.size() < 2 * size) return {};
+    const std::vector<std::byte> first(records.begin(), records.begin() + static_cast<std::ptrdiff_t>(size));
+    if (PackRecords(command, first).text != text) return {};
+    return {std::to_string(records.size() / size) + " records, of which the text holds the first only"};
 }
 
 // ---- Parsing ----
@@ -250,7 +349,7 @@ Result Parse::Run() {
     }
 
     const std::size_t count = RecordsRead(reply);
-    const PrintOptions print{options_.all};
+    const PrintOptions print{options_.all, options_.brief};
     const bool asList = reply.isList || count != 1;
     Result result;
     result.out = (asList ? PrintRecords(table_, buffer_.bytes.data(), count, print)
@@ -297,7 +396,14 @@ Result PackText(const Command& command, std::string_view json, const PackOptions
         Memory memory;
         const auto records = FillAll(*command.table, document.root, memory);
         const Packed packed = PackRecords(command, records, options.capacity);
-        if (packed.outcome == Outcome::Done) return {kDone, packed.text, Notes(*command.table, document.root)};
+        if (packed.outcome == Outcome::Done) {
+            Result result{kDone, packed.text, Notes(*command.table, document.root)};
+            result.err += Told(DroppedRecords(command, records, packed.text));
+            if (options.warn || options.strict)
+                result.err += Told(Traceless(command, document.root, records, packed.text).notes);
+            if (options.strict && !result.err.empty()) result.exit = kFound;
+            return result;
+        }
         return Refuse(ExplainPack(command, packed.outcome, static_cast<std::uint32_t>(records.size()), packed.capacity,
                                   packed.needed));
     } catch (const FillError& error) {

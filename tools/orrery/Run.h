@@ -13,6 +13,7 @@ namespace orrery::tool {
 inline constexpr int kDone = 0;
 inline constexpr int kRefused = 1;
 inline constexpr int kUsage = 2;
+inline constexpr int kFound = 3; // done, but not all of what was given went through
 
 struct Result {
     int exit = kDone;
@@ -24,12 +25,15 @@ struct ParseOptions {
     std::optional<std::uint32_t> records{}; // room for so many; else as many as the reply holds
     std::optional<std::uint32_t> bytes{};   // a buffer of exactly so many bytes
     bool all = false;
+    bool brief = false;
     bool pack = false;
     std::string_view start{}; // JSON of the record that the buffer holds before the call
 };
 
 struct PackOptions {
     std::optional<std::uint32_t> capacity{}; // of the text buffer; else as much as the text takes
+    bool warn = false;                       // tells also what of the records leaves no trace in the text
+    bool strict = false;                     // kFound when there is anything to tell
 };
 
 Result ParseText(const Command& command, std::string_view text, const ParseOptions& options = {});

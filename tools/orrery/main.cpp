@@ -1,10 +1,12 @@
 // The companion's arguments. `orrery --help` tells what it does.
 #include "orrery/Check.h"
+#include "orrery/Diff.h"
 #include "orrery/Documents.h"
 #include "orrery/Output.h"
 #include "orrery/Run.h"
 #include "orrery/ShowEvents.h"
 #include "orrery/ShowTemplate.h"
+#include "orrery/Stream.h"
 #include "orrery/Suggest.h"
 #include "orrery/Tables.h"
 
@@ -87,8 +89,9 @@ int main(int argc, char** argv) {
     bool warns = isatty(STDERR_FILENO) == 1;
     bool strict = false;
     std::vector<std::string> files;
-    EventOptions eventOptions;
     TemplateOptions templateOptions;
+    StreamOptions streamOptions;
+    EventOptions& eventOptions = streamOptions.events;
     std::function<int()> run;
 
     CLI::App* const parse = app.add_subcommand("parse", "Print a device's reply as a record, in JSON by field names");
@@ -98,6 +101,7 @@ int main(int argc, char** argv) {
         parse->add_option("--records", parseOptions.records, "Room for so many records (as many as the reply holds)");
     parse->add_option("--bytes", parseOptions.bytes, "A buffer of exactly so many bytes")->excludes(records);
     parse->add_flag("--all", parseOptions.all, "Print lists whole, also what is not in use");
+    parse->add_flag("--brief", parseOptions.brief, "Print what the reply told, and not the zeros around it");
     parse->add_flag("--pack", parseOptions.pack, "Print also the text that packing the record gives");
     parse->add_option("--start", startFile, "Record that the buffer holds before, for commands that look at it");
     parse->add_flag("--warn,!--no-warn", warns, "Tell what of the reply is passed over (on by default on a terminal)");
@@ -123,10 +127,14 @@ int main(int argc, char** argv) {
     pack->add_option("COMMAND", name, "Name of a configuration ('orrery commands')")->required();
     pack->add_option("FILE", file, "The record or an array of records, in JSON; standard input by default");
     pack->add_option("--capacity", packOptions.capacity, "A text buffer of so many bytes (as much as it takes)");
+    pack->add_flag("--warn,!--no-warn", warns, "Tell what of the records writes nothing (on by default on a terminal)");
+    pack->add_flag("--strict", strict, "The same, and exit with 3 when there is anything to tell");
     pack->callback([&] {
         run = [&]() -> int {
             std::string text;
             if (!ReadAll(file, text)) return kUsage;
+            packOptions.warn = warns;
+            packOptions.strict = strict;
             return Show(PackText(name, text, packOptions));
         };
     });
@@ -160,14 +168,33 @@ int main(int argc, char** argv) {
 
     CLI::App* const events = app.add_subcommand(
         "events", "Print the analyzer events of a text, and what else its keys tell, as records, in JSON, a line each");
-    events->add_option("FILE", file, "The text; standard input by default");
+    events->add_option("FILES", files, "Texts, one a line or one behind the other; standard input by default");
     events->add_flag("--pretty", eventOptions.pretty, "Print each event over several lines");
     events->add_flag("--all", eventOptions.all, "Print lists whole, also what is not in use");
+    events->add_flag("--brief", eventOptions.brief, "Print what the text told, and not the zeros around it");
+    events
+        ->add_option("--fields", eventOptions.fields,
+                     "Print these members of the records only: nEventID,stuObject.nObjectID")
+        ->delimiter(',');
+    events->add_flag("--follow", streamOptions.follow, "Go on when a file grows, until the program is ended");
     events->callback([&] {
         run = [&]() -> int {
-            std::string text;
-            if (!ReadAll(file, text)) return kUsage;
-            return Show(ShowEvents(text, eventOptions));
+            if (files.empty()) files.emplace_back("-");
+            return StreamEvents(files, streamOptions);
+        };
+    });
+
+    CLI::App* const diff = app.add_subcommand(
+        "diff", "Tell in which members the records of two replies differ, and which of these no device would notice");
+    diff->add_option("COMMAND", name, "Name of a configuration or a method")->required();
+    diff->add_option("A", file, "The one reply")->required();
+    diff->add_option("B", startFile, "The other")->required();
+    diff->callback([&] {
+        run = [&]() -> int {
+            std::string left;
+            std::string right;
+            if (!ReadAll(file, left) || !ReadAll(startFile, right)) return kUsage;
+            return Show(DiffTexts(name, left, right));
         };
     });
 

@@ -1,0 +1,44 @@
+// The texts of a stream, each as soon as it is complete: one a line, one behind the other, or over many lines.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orrery::tool {
+
+class TextSplitter {
+  public:
+    struct Piece {
+        std::string text;
+        std::uint64_t line = 1; // of the stream, at which it begins
+    };
+
+    void Feed(std::string_view bytes);
+    // The next text that is complete. A text that was cut off is given up where another one begins on a line of its
+    // own.
+    std::optional<Piece> Next() { return Take(false); }
+    // At the end of the stream: what is left, text after text, then nothing.
+    std::optional<Piece> Rest() { return Take(true); }
+
+  private:
+    std::optional<Piece> Take(bool isEnd);
+    Piece Cut(std::size_t end);
+    void Restart();
+
+    std::string buffer_;
+    std::size_t begin_ = 0; // of what is left of it
+    std::uint64_t line_ = 1;
+    // Of the text at the buffer's beginning: how far it was looked at, and what was open there.
+    std::size_t at_ = 0;
+    std::size_t depth_ = 0;
+    bool begun_ = false;  // with a bracket
+    bool isLine_ = false; // with anything else: it ends with its line
+    bool inText_ = false; // between quotes
+    bool escaped_ = false;
+    char before_ = '\0'; // the last byte that is no blank
+};
+
+} // namespace orrery::tool
