@@ -6,6 +6,9 @@ namespace orrery::tool {
 
 namespace {
 
+// Of the byte order: no text.
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
 bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
@@ -40,8 +43,10 @@ std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
         while (begin_ < buffer_.size()) {
             if (IsBlank(buffer_[begin_])) {
                 line_ += buffer_[begin_++] == '\n';
-            } else if (std::string_view(buffer_).substr(begin_).starts_with("\xEF\xBB\xBF")) {
-                begin_ += 3; // a mark of the byte order is no text
+            } else if (std::string_view(buffer_).substr(begin_).starts_with(kMark)) {
+                begin_ += kMark.size();
+            } else if (!isEnd && kMark.starts_with(std::string_view(buffer_).substr(begin_))) {
+                return std::nullopt;
             } else {
                 break;
             }
