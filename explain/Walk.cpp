@@ -297,7 +297,7 @@ void Walk::Nodes(const Table& table, NodeRange range, const Value& object, const
         while (node != end && order(*node) == 0)
             ++node;
         if (first == node) {
-            if (reportsUnknown) Unknown(table, range, member, path);
+            if (reportsUnknown && !IsReadBeside(object, member)) Unknown(table, range, member, path);
             continue;
         }
         ++read;
@@ -319,6 +319,20 @@ bool IsBelow(std::string_view inner, std::string_view outer) {
 
 } // namespace
 
+bool Walk::IsReadBeside(const Value& object, const json::Member& member) const {
+    if (sharing_.object != &object) return false;
+    const Table& table = *sharing_.table;
+    for (const record::Node* node = sharing_.first; node != sharing_.end; ++node) {
+        const Field& field = table.rows[node->row];
+        if (node->childCount > 0) {
+            if (HasKey(table, {node->firstChild, node->childCount, node->childLastAbsent}, member.key())) return true;
+        } else if (field.readable && field.kind == Kind::Record && field.table->shape == Shape::Object) {
+            if (HasKey(*field.table, field.table->members, member.key()) || SharesKey(*field.table, member)) return true;
+        }
+    }
+    return false;
+}
+
 // Of several rows with one key each takes what it knows: only what none of them takes whole is told.
 void Walk::Shared(const Table& table, const record::Node* first, const record::Node* end, const Value& value,
                   const Path& path) {
@@ -326,6 +340,8 @@ void Walk::Shared(const Table& table, const record::Node* first, const record::N
     const std::uint32_t leftBefore = left;
     std::vector<std::vector<Finding>> readers;
     bool hasFunction = false;
+    const Sharing outer = sharing_;
+    sharing_ = {&value, &table, first, end};
     for (const record::Node* node = first; node != end; ++node) {
         const Field& field = table.rows[node->row];
         if (node->childCount == 0 && !field.readable) continue;
@@ -339,8 +355,10 @@ void Walk::Shared(const Table& table, const record::Node* first, const record::N
         else
             readers.push_back(std::move(own));
     }
-    const std::string here = TextOf(path);
+    sharing_ = outer;
     left = leftBefore;
+    if (std::all_of(readers.begin(), readers.end(), [](const auto& own) { return own.empty(); })) return;
+    const std::string here = TextOf(path);
     for (std::size_t i = 0; i < readers.size(); ++i) {
         for (Finding& finding : readers[i]) {
             bool isTold = true;

@@ -37,6 +37,15 @@ class Walk {
     void AlsoReads(std::vector<std::string_view> keys) { also_ = std::move(keys); }
 
   private:
+    // Nodes of one key that read one object together: what another of them reads is no unknown key.
+    struct Sharing {
+        const json::Value* object = nullptr;
+        const record::Table* table = nullptr;
+        const record::Node* first = nullptr;
+        const record::Node* end = nullptr;
+    };
+    bool IsReadBeside(const json::Value& object, const json::Member& member) const;
+
     // The row that a value is read by.
     struct Site {
         const record::Table& table;
@@ -76,6 +85,7 @@ class Walk {
     Document& document_;
     std::vector<Finding>& findings_;
     std::vector<std::string_view> also_;
+    Sharing sharing_;
     bool triesAll_ = false;
     int functionsAround_ = 0; // records around this one whose functions may look at any of its keys
 };

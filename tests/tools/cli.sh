@@ -85,6 +85,8 @@ assert [tuple(each[name] for name in names) for each in found] == [
     (516, "Stop", 1, "-", line, "47", 0, None) for line in (1, 2, 2)], found' "$scratch/out" ||
     fail "printed: $(cat "$scratch/out")"
 printf '%s\n' "$line" >"$scratch/one.jsonl"
+run 0 events --fields szCardNo "$scratch/one.jsonl"
+out_has '"line": 1, "szCardNo": "47" }'
 printf '%s\n%s\n' '{"Event":[' "$line" >"$scratch/bad.jsonl"
 run 1 events "$scratch/one.jsonl" "$scratch/bad.jsonl"
 [ "$(wc -l <"$scratch/out")" = 2 ] || fail "printed: $(cat "$scratch/out")"

@@ -175,7 +175,8 @@ int main(int argc, char** argv) {
     events
         ->add_option("--fields", eventOptions.fields,
                      "Print these members of the records only: nEventID,stuObject.nObjectID")
-        ->delimiter(',');
+        ->delimiter(',')
+        ->allow_extra_args(false);
     events->add_flag("--follow", streamOptions.follow, "Go on when a file grows, until the program is ended");
     events->callback([&] {
         run = [&]() -> int {
