@@ -1,10 +1,14 @@
+#include "Commands.h"
 #include "alarm/EventHandler.h"
 #include "support/Call.h"
 #include "support/Records.h"
 #include "support/WeekText.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sstream>
+#include <vector>
 
 namespace orrery {
 namespace {
@@ -395,6 +399,31 @@ TEST(EventHandler, TheWeekIsReadCellByCell) {
     const auto wide = ReadWeek(R"({ "TimeSection" : [ [ "1 008:00:00-9:00:00" ] ] })");
     EXPECT_EQ(wide->stuTimeSection[0][0].nEndHour, 0);
     EXPECT_EQ(wide->stuTimeSectionEx.stuTimeSection[0][0].nEndHour, 9);
+}
+
+// A linkage that is not there is one without keys: it says that nothing is recorded and no output raised.
+TEST(EventHandler, IsReadByAlarmsAlsoWhenAbsent) {
+    std::istringstream names(
+        "Alarm NetAlarm LossDetect BlindDetect StorageNotExist StorageFailure StorageLowSpace NetAbort IPConflict "
+        "MacConflict PSTNBreakLine ChassisIntrusion Emergency BatteryLowPowerAlarm MCSGeneralCapacityLow "
+        "MCSDataNodeOffline MCSDiskOffline MCSDiskSlow MCSDiskBroken MCSDiskUnknowError MCSMetadataServerAbnormal "
+        "MCSCatalogServerAbnormal MCSGeneralCapacityResume MCSDataNodeOnline MCSDiskOnline MCSMetadataSlaveOnline "
+        "MCSCatalogServerOnline ParkingCard NetMonitorAbort UserLockAlarm LoginFailureAlarm");
+    for (std::string name; names >> name;) {
+        const Command* const command = FindCommand(name);
+        ASSERT_NE(command, nullptr) << name;
+        const auto* const row = std::find_if(command->table->begin(), command->table->end(), [](const auto& field) {
+            return std::string_view(field.name) == "stuEventHandler";
+        });
+        ASSERT_NE(row, command->table->end()) << name;
+        std::vector<std::byte> buffer(command->table->size);
+        const ParseRequest request{R"({"result":true,"params":{"table":{}}})", buffer.data(),
+                                   static_cast<std::uint32_t>(buffer.size()), nullptr};
+        ASSERT_EQ(RunParse(*command, request), Outcome::Done) << name;
+        const std::byte* const at = buffer.data() + row->offset;
+        EXPECT_EQ(MEMBER(at, CFG_EVENT_HANDLER_INFO, abRecordEnable), 1) << name;
+        EXPECT_EQ(MEMBER(at, CFG_EVENT_HANDLER_INFO, abAlarmOutEn), 1) << name;
+    }
 }
 
 } // namespace
