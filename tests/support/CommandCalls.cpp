@@ -283,8 +283,9 @@ class Comparison {
             to = record::Load<const std::byte*>(to);
             count = field.capacity.exists() ? static_cast<std::size_t>(record::LoadSlot(field.capacity, written)) : 1;
             if (from == nullptr || to == nullptr) return;
+            if (field.table != nullptr) size = field.table->size;
         }
-        if (field.count.exists() && field.kind != Kind::Custom) {
+        if (field.count.exists() && (field.kind != Kind::Custom || field.cell == Cell::Pointer)) {
             const auto used = static_cast<std::size_t>(record::LoadSlot(field.count, written));
             count = std::min(count, used * (field.rank > 1 ? count / field.dims[0] : 1));
         }

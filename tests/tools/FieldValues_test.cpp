@@ -488,6 +488,8 @@ TEST_F(FieldValuesInGbk, AreWrittenByTheirOwnRules) {
                 EXPECT_EQ(value->asDouble(), 1000.25 + place.number) << table->record << "." << field.name;
                 ++compared;
                 continue;
+            } else if (place.way == Way::Int && field.cell == Cell::U32) {
+                expected = std::to_string(record::Load<std::int32_t>(at)); // what is below zero comes out as it went in
             } else {
                 expected = std::to_string(std::min(record::LoadInteger(field.cell, at), field.atMost));
             }

@@ -218,7 +218,7 @@ constexpr const char* kEnabled = R"({"result":true,"params":{"table":{"Enable":t
 TEST(Refusals, UnknownCommand) {
     ExpectRefused(ParseText("Alrm", "{}"), "no command \"Alrm\"; did you mean Alarm? ('orrery commands' lists them)");
     ExpectRefused(PackText("alarm.getCaps", "{}"),
-                  "no command \"alarm.getCaps\"; did you mean alarm.getAlarmCaps, netApp.getCaps or speak.getCaps? "
+                  "no command \"alarm.getCaps\"; did you mean log.getCaps, alarm.getAlarmCaps or netApp.getCaps? "
                   "('orrery commands' lists them)");
     ExpectRefused(ParseText("Zzzzzzzz", "{}"), "no command \"Zzzzzzzz\" ('orrery commands' lists them)");
     ExpectRefused(ParseText("\x1b[2J", "{}"), "no command \"\\u001b[2J\" ('orrery commands' lists them)");

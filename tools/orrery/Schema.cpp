@@ -34,7 +34,7 @@ Node FieldNode(const std::vector<const Table*>& tables, const Field& field) {
     else if (field.cell == Cell::Record || field.cell == Cell::Pointer) {
         node.Add("record", Node::Text(field.table->record));
         // A pointer to bytes: the record stands at its beginning, others follow it.
-        if (field.cell == Cell::Pointer && ItemsBehind(*tables.front()) != nullptr) node.Add("bytes", Node::Bool(true));
+        if (field.toBytes) node.Add("bytes", Node::Bool(true));
     }
     Node dims = Node::InlineArray();
     for (const std::uint32_t dim : DimsOf(field))

@@ -125,6 +125,7 @@ struct ReadingWords {
     std::uint16_t firstBytes = 0;  // of a text, before it is converted; 0: all of it
     std::uint8_t atLeast = 0;      // an array is read only when it has so many elements
     bool owned = false;            // the pointer's block is made for the document and lives as long as the call's arena
+    bool toBytes = false;          // the pointer leads to bytes: records of types that other members tell
     const char* failure = nullptr; // what the log says when there is no memory for an owned block
 
     constexpr bool operator==(const ReadingWords&) const = default;
@@ -440,6 +441,7 @@ constexpr Field MakePlace(const char* name, std::size_t offset) {
     using Innermost = std::remove_all_extents_t<T>;
     constexpr bool isText = std::is_same_v<Innermost, char>;
     field.cell = CellOf<Innermost>();
+    field.toBytes = std::is_pointer_v<Innermost> && std::is_convertible_v<Innermost, const std::uint8_t*>;
     if constexpr (std::is_class_v<Innermost>) field.table = kLayoutOf<Innermost>;
     constexpr std::size_t levels = std::rank_v<T> - (isText && std::rank_v < T >> 0 ? 1 : 0);
     static_assert(levels <= Field::kMaxRank);
