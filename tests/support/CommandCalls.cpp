@@ -272,9 +272,13 @@ class Comparison {
     void Fields(const Field& field, const std::byte* written, const std::byte* read, const std::string& path) {
         const std::byte* from = written + field.offset;
         const std::byte* to = read + field.offset;
-        std::size_t size = field.kind == Kind::Record ? field.table->size : field.elementSize;
+        // A function's records too, where they hold pointers: each caller has places of its own behind them.
+        const bool ofRecords = field.kind == Kind::Record
+                               || (field.kind == Kind::Custom && field.cell == Cell::Record && field.table != nullptr
+                                   && HasPointers(*field.table));
+        std::size_t size = ofRecords ? field.table->size : field.elementSize;
         std::size_t count = field.size / (size == 0 ? 1 : size);
-        if (field.kind == Kind::Custom || field.kind == Kind::Schedule) {
+        if ((field.kind == Kind::Custom && !ofRecords) || field.kind == Kind::Schedule) {
             size = field.size;
             count = 1;
         }
@@ -285,13 +289,13 @@ class Comparison {
             if (from == nullptr || to == nullptr) return;
             if (field.table != nullptr) size = field.table->size;
         }
-        if (field.count.exists() && (field.kind != Kind::Custom || field.cell == Cell::Pointer)) {
+        if (field.count.exists() && (field.kind != Kind::Custom || field.cell == Cell::Pointer || ofRecords)) {
             const auto used = static_cast<std::size_t>(record::LoadSlot(field.count, written));
             count = std::min(count, used * (field.rank > 1 ? count / field.dims[0] : 1));
         }
         for (std::size_t i = 0; i < count; ++i, from += size, to += size) {
             const std::string at = count > 1 ? path + "[" + std::to_string(i) + "]" : path;
-            if (field.kind == Kind::Record) {
+            if (ofRecords) {
                 Records(*field.table, from, to, at);
             } else if (field.kind == Kind::ClockTime) {
                 const std::size_t date = offsetof(NET_TIME, dwHour);
