@@ -33,7 +33,7 @@ struct AlarmInputRows {
         FIELD(bEnable, "Enable", Bool),
         FIELD(szName, "Name", Text),
         FIELD(nSensorType, "SensorType", Names(kSensorTypes)),
-        FIELD(stuEventHandler, "EventHandler", Record(Linkage)).Always(),
+        FIELD(stuEventHandler, "EventHandler", Nested<CFG_EVENT_HANDLER_INFO>{&Linkage}).Always(),
         FIELD(abDeviceID, "ID", Presence),
         FIELD(szDeviceID, "ID", Text),
         FIELD(nPole, "Pole", Int),
