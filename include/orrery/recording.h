@@ -101,9 +101,9 @@ typedef struct CFG_RECORD_STORAGE_POINT_ITEM {
 #define ORRERY_RECORD_STORAGE_POINTS 32
 
 /* "RecordStoragePoint": where the recordings of a channel go. The table is an object, each member of which is an item
- * of its kind; they come in the order of their names' bytes, a member that is null is passed over. A missing table
- * gives a record of zeros; the device's "result" is not looked at. Written is the same object, of several items of one
- * kind the last; null when there is none to write. A text of exactly the capacity loses its newline.
+ * of its kind; they come in the order of their names' bytes, a member that is null is an item without keys. A missing
+ * table gives a record of zeros; the device's "result" is not looked at. Written is the same object, of several items
+ * of one kind the last; null when there is none to write. A text of exactly the capacity loses its newline.
  *
  * A buffer of exactly the size of CFG_RECORD_STORAGE_POINT_CHANNELS is one, and the channels' records are where it
  * says. */

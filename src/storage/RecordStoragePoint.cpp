@@ -63,7 +63,7 @@ bool HasNamedItem(const std::byte* record) {
 TABLE(kRecordStoragePoint, CFG_RECORD_STORAGE_POINT_INFO,
       {
           FIELD(nCount),
-          FIELD(stuItems, "", Record(kStoragePoint)).Count(AT(nCount)).Keyed(),
+          FIELD(stuItems, "", Record(kStoragePoint)).Count(AT(nCount)).Keyed().NullElement(Nulls::Named),
       })
     .Writes(HasNamedItem);
 

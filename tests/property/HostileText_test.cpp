@@ -99,12 +99,24 @@ bool HasNamedNulls(const record::Table& table) {
         return field.kind == record::Kind::Record && field.table != nullptr && HasNamedNulls(*field.table);
     });
 }
+// Whether the key names a code under which an element of such a list stands.
+bool NamesCode(const record::Table& table, std::string_view key) {
+    return std::ranges::any_of(table, [key](const record::Field& field) {
+        if (field.kind != record::Kind::Record || field.table == nullptr) return false;
+        const record::Field* const name = field.nulls == record::Nulls::Named ? field.table->memberName : nullptr;
+        if (name != nullptr && name->kind == record::Kind::MemberCode) {
+            for (std::uint16_t i = 0; i < name->names->count; ++i)
+                if (key == name->names->rows[i].text) return true;
+        }
+        return NamesCode(*field.table, key);
+    });
+}
 // Whether the marked member is an element of such a list: they have the names that texts made from tables give them.
-bool IsNamedElement(const std::string& text, char marker) {
+bool IsNamedElement(const record::Table& table, const std::string& text, char marker) {
     const std::size_t end = text.find(marker) - 2;
     const std::size_t begin = text.rfind('"', end - 1) + 1;
     const std::string_view key = std::string_view(text).substr(begin, end - begin);
-    return key.starts_with("Item") || RuleCodeFromName(key) != 0;
+    return key.starts_with("Item") || RuleCodeFromName(key) != 0 || NamesCode(table, key);
 }
 
 TEST(HostileText, ANullIsAsGoodAsNoKey) {
@@ -125,7 +137,8 @@ TEST(HostileText, ANullIsAsGoodAsNoKey) {
             **place = JsonTree(std::string(1, kMarker));
             std::string text = tree.Text();
             const std::string without = WithoutMember(text, kMarker);
-            if (!without.empty() && spread.Takes() && !(hasNamedNulls && IsNamedElement(text, kMarker))) {
+            if (!without.empty() && spread.Takes()
+                && !(hasNamedNulls && IsNamedElement(*command.table, text, kMarker))) {
                 text.replace(text.find(kMarker), 1, "null");
                 const Outcome outcome = calls.Run(text.c_str());
                 const std::vector<std::byte> bytes(calls.bytes().begin(), calls.bytes().end());

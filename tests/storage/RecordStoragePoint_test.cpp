@@ -92,6 +92,18 @@ TEST(RecordStoragePoint, KnowsItsNames) {
     }
 }
 
+TEST(RecordStoragePoint, ANullIsAnItemWithoutKeys) {
+    const auto parsed = Parse<Point>(kPoint, R"({"EventRecord":{"Local":4},"CardRecord":null})");
+    ASSERT_TRUE(parsed);
+    EXPECT_EQ(parsed->nCount, 2);
+    EXPECT_EQ(parsed->stuItems[0].dwSize, sizeof(Item));
+    EXPECT_EQ(parsed->stuItems[0].emType, CFG_RECORD_STORAGE_CARD_RECORD);
+    EXPECT_EQ(parsed->stuItems[0].nLocal, 0);
+    EXPECT_EQ(parsed->stuItems[1].emType, CFG_RECORD_STORAGE_EVENT_RECORD);
+    EXPECT_EQ(Pack(kPoint, *parsed),
+              R"({ "CardRecord" : )" + ItemText(0) + R"(, "EventRecord" : )" + ItemText(4) + " }");
+}
+
 TEST(RecordStoragePoint, TextsEndAtTheirFields) {
     const auto parsed =
         Parse<Point>(kPoint, R"({"CardRecord":{"Remote":")" + std::string(255, 'r') + R"(","Redundant":")"
@@ -102,13 +114,14 @@ TEST(RecordStoragePoint, TextsEndAtTheirFields) {
 }
 
 TEST(RecordStoragePoint, KeepsThirtyTwoMembers) {
-    std::string members = R"("a":null)"; // nothing stands there
+    std::string members = R"("a":null)"; // its name takes a place too
     for (int i = 10; i < 43; ++i)
         members += ",\"m" + std::to_string(i) + "\":{\"Local\":" + std::to_string(i) + "}";
     const auto parsed = Parse<Point>(kPoint, "{" + members + "}");
     EXPECT_EQ(parsed->nCount, 32);
-    EXPECT_EQ(parsed->stuItems[0].nLocal, 10);
-    EXPECT_EQ(parsed->stuItems[31].nLocal, 41);
+    EXPECT_EQ(parsed->stuItems[0].emType, CFG_RECORD_STORAGE_UNKNOWN);
+    EXPECT_EQ(parsed->stuItems[1].nLocal, 10);
+    EXPECT_EQ(parsed->stuItems[31].nLocal, 40);
     const auto record = Cleared<Point>();
     for (auto& item : record->stuItems)
         item.emType = CFG_RECORD_STORAGE_UNKNOWN;
