@@ -414,7 +414,11 @@ constexpr Command kCommands[] = {
 
     // Recording
     Both("Record", kRecordPlan,
-         kParse.Takes(Take::Many).TakesBy(RecordTakes).Null(NullValue::LengthZero).Length(ReplyLength::PerRecord),
+         kParse.Takes(Take::Many)
+             .TakesBy(RecordTakes)
+             .Null(NullValue::LengthZero)
+             .ReadsNulls()
+             .Length(ReplyLength::PerRecord),
          kBareIfOne),
     Both("RecordMode", kRecordMode, kOneOrMany.Strides(Stride::SizeWord).ReadsNulls(),
          kBareIfOne.Strides(Stride::SizeWord)),

@@ -23,7 +23,7 @@ extern "C" {
 
 /* "Record": when a channel records. A reply with "channel", or with a "channel" among its "params" when it has none of
  * its own, that is 0 or above tells of that channel alone, and its table is one record. Any other table is a list, a
- * record a channel, in which a null leaves its record zero; nothing but a list is taken then. A missing table, and an
+ * record a channel, in which a null is a record without keys; nothing but a list is taken then. A missing table, and an
  * empty list, succeed with a length of 0. One record is written bare, several as a list. */
 typedef struct CFG_RECORD_INFO {
     int32_t nChannel; /* the reply's "channel"; in a list the place of the record, from 0. Not written */

@@ -142,8 +142,8 @@ TEST(Record, TheReplysChannelTellsOneRecordFromAList) {
     EXPECT_EQ(read(one, "", ""), "refused");
     EXPECT_EQ(read(one, R"("channel":-1,)", ""), "refused");
     EXPECT_EQ(read("7", "", ""), "refused");
-    EXPECT_EQ(read(list, "", ""), "2:0/5 0/0"); // the null's record stays zero, the third has no room
-    EXPECT_EQ(read(list, R"("channel":-1,)", ""), "2:0/5 0/0");
+    EXPECT_EQ(read(list, "", ""), "2:0/5 1/0"); // a null is a channel's record too, the third has no room
+    EXPECT_EQ(read(list, R"("channel":-1,)", ""), "2:0/5 1/0");
     EXPECT_EQ(read(R"([{"PreRecord":5},{"PreRecord":6}])", "", ""), "2:0/5 1/6");
     // The one among the parameters counts when the reply has none of its own.
     EXPECT_EQ(read(one, "", R"("channel":3,)"), "1:3/4 0/0");
@@ -151,7 +151,7 @@ TEST(Record, TheReplysChannelTellsOneRecordFromAList) {
     EXPECT_EQ(read(one, R"("channel":2,)", R"("channel":3,)"), "1:2/4 0/0");
     EXPECT_EQ(read(one, R"("channel":2,)", R"("channel":-3,)"), "1:2/4 0/0");
     EXPECT_EQ(read(one, R"("channel":-1,)", R"("channel":3,)"), "refused");
-    EXPECT_EQ(read(list, "", R"("channel":-3,)"), "2:0/5 0/0");
+    EXPECT_EQ(read(list, "", R"("channel":-3,)"), "2:0/5 1/0");
 }
 
 TEST(Record, AMissingTableSucceedsWithoutRecords) {
@@ -172,8 +172,8 @@ TEST(Record, AMissingTableSucceedsWithoutRecords) {
 }
 
 TEST(Record, ReadsAbsentKeysAsZeroAndStreamsUnsigned) {
-    const Plans plans(3, 0x11);
-    ASSERT_EQ(ParseTable("Record", R"([{},{"Stream":-4},{"Stream":4294967295}])", plans), (Answer{1, 3 * kPlan}));
+    const Plans plans(4, 0x11);
+    ASSERT_EQ(ParseTable("Record", R"([{},{"Stream":-4},{"Stream":4294967295},null])", plans), (Answer{1, 4 * kPlan}));
     EXPECT_EQ(plans[0].nPreRecord, 0);
     EXPECT_EQ(plans[0].bRedundancy, 0u);
     EXPECT_EQ(plans[0].nStream, 0);
@@ -181,6 +181,10 @@ TEST(Record, ReadsAbsentKeysAsZeroAndStreamsUnsigned) {
     EXPECT_EQ(plans[1].nStream, 0); // a negative number is none
     EXPECT_EQ(plans[1].nChannel, 1);
     EXPECT_EQ(plans[2].nStream, -1);
+    EXPECT_EQ(plans[3].nChannel, 3); // a null has no keys
+    EXPECT_EQ(plans[3].nFormatVersion, 3u);
+    EXPECT_EQ(plans[3].bHolidaySupported, 0u);
+    EXPECT_EQ(plans[3].stuTimeSection[0][0].dwMask, 0);
 }
 
 TEST(Record, SeveralAreWrittenAsAList) {
