@@ -258,6 +258,15 @@ TEST(RecordMode, TheFirstSizeWordIsTheDistance) {
     EXPECT_EQ(PackBytes("RecordMode", words.data(), 2 * known, 4096),
               "[ { \"Mode\" : 1, \"ModeExtra1\" : 0, \"ModeExtra2\" : 0 }, "
               "{ \"Mode\" : 3, \"ModeExtra1\" : 0, \"ModeExtra2\" : 0 } ]\n");
+    // A caller with a sixth word: it stays.
+    const std::uint32_t newer = 24;
+    const Records<std::int32_t> wide(12, 0x22);
+    std::memcpy(wide.data(), &newer, sizeof newer);
+    ASSERT_EQ(ParseTable("RecordMode", R"([{"Mode":1},{"ModeExtra2":4}])", wide), (Answer{1, 2 * newer}));
+    EXPECT_EQ(wide[2], 1);
+    EXPECT_EQ(wide[5], 0x22222222);
+    EXPECT_EQ(wide[10], 4);
+    EXPECT_EQ(wide[11], 0x22222222);
     for (const std::uint32_t bad : {0u, 3u, 29u, 0x80000000u}) {
         std::memcpy(words.data(), &bad, sizeof bad);
         EXPECT_EQ(ParseTable("RecordMode", R"({"Mode":1})", words), kRefused) << bad;
