@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -180,6 +181,15 @@ TEST(RaidGroup, MembersKeepTheirPlaces) {
     EXPECT_EQ(Pack(kRaidGroup, *record), text);
 }
 
+TEST(RaidGroup, ANameEndsAtItsField) {
+    for (const std::size_t size : {126u, 127u, 128u}) {
+        const std::string item = "{\"Name\":\"" + std::string(size, 'n') + "\"}";
+        const auto parsed = ParseTop<RaidGroup>(kRaidGroup, "[" + item + ",{\"Raid\":" + item + "}]");
+        EXPECT_EQ(parsed->stuRaid[0].szName, std::string(std::min<std::size_t>(size, 127), 'n'));
+        EXPECT_EQ(parsed->stuRaid[1].szName, std::string(std::min<std::size_t>(size, 127), 'n'));
+    }
+}
+
 TEST(RaidGroup, LosesItsNewlineAtTheCapacity) {
     const auto record = Cleared<RaidGroup>();
     const std::string text = R"({ "RaidGroup" : null })";
@@ -242,6 +252,26 @@ TEST(StoragePoolGroup, MembersThatAreNoTextsAreSkipped) {
     const auto many = ParseTop<CFG_STORAGE_POOL_GROUP_INFO>("StoragePoolGroup", "[" + pools + "]");
     EXPECT_EQ(many->nCount, 16);
     EXPECT_STREQ(many->stuPool[15].szName, "15");
+}
+
+TEST(StoragePoolGroup, AMembersNameEndsAtItsField) {
+    const auto parsed = ParseTop<CFG_STORAGE_POOL_GROUP_INFO>("StoragePoolGroup",
+                                                              R"([{"StoragePool":{"Member":[")" + std::string(127, 'a')
+                                                                  + "\",\"" + std::string(128, 'b') + "\",\"c\"]}}]");
+    EXPECT_EQ(parsed->stuPool[0].szMember[0], std::string(127, 'a'));
+    EXPECT_EQ(parsed->stuPool[0].szMember[1], std::string(127, 'b'));
+    EXPECT_STREQ(parsed->stuPool[0].szMember[2], "c");
+    EXPECT_EQ(parsed->nCount, 0); // it has members, but no name
+}
+
+TEST(StoragePositionGroup, NamesEndAtTheirFields) {
+    for (const std::size_t size : {127u, 128u}) {
+        const auto parsed = ParseTop<CFG_STORAGE_POSITION_GROUP_INFO>(
+            "StoragePositionGroup", R"([{"StoragePosition":{"Name":")" + std::string(size, 'n')
+                                        + R"(","StoragePoolName":")" + std::string(size, 'p') + "\"}}]");
+        EXPECT_EQ(parsed->stuPosition[0].szName, std::string(127, 'n'));
+        EXPECT_EQ(parsed->stuPosition[0].szStoragePoolName, std::string(127, 'p'));
+    }
 }
 
 TEST(StoragePositionGroup, ReadsAllKeys) {
@@ -471,6 +501,23 @@ TEST(Raid, AMissingTableSucceedsWithoutRecords) {
         EXPECT_EQ(ParseDocument(kRaid, document, raids), kRefused) << document;
 }
 
+// Keeps where the last line came from, and its code, too.
+class LastLine : public LogLines {
+  public:
+    void SetPosition(const char* itsFile, int itsNumber, E_LOG_LEVEL level) override {
+        file = itsFile;
+        number = itsNumber;
+        LogLines::SetPosition(itsFile, itsNumber, level);
+    }
+    void TraceOut(int zero, int itsCode, const char* format, char*& arguments) override {
+        code = static_cast<std::uint32_t>(itsCode);
+        LogLines::TraceOut(zero, itsCode, format, arguments);
+    }
+    std::string file;
+    int number = 0;
+    std::uint32_t code = 0;
+};
+
 TEST(Raid, TellsTheLogThatThereIsNoMemory) {
     // More names than fit a call's own stack.
     constexpr std::size_t kNames = 512;
@@ -486,13 +533,16 @@ TEST(Raid, TellsTheLogThatThereIsNoMemory) {
         ASSERT_EQ(CLIENT_PacketData(kRaid, raids.data(), raids.size(), text.data(), room), 1);
         ASSERT_GT(heap.allocations(), 0u);
     }
-    const LogLines log;
+    const LastLine log;
     {
         HeapWatch heap;
         heap.FailFrom(1);
         EXPECT_EQ(CLIENT_PacketData(kRaid, raids.data(), raids.size(), text.data(), room), 0);
     }
     EXPECT_EQ(log.texts(E_LOG_LEVEL_ERROR), std::vector<std::string>{"Storage_Raid_Packet: malloc pszName failed"});
+    EXPECT_EQ(log.file, "StorageConfig");
+    EXPECT_EQ(log.number, 1045);
+    EXPECT_EQ(log.code, 0x90000002u);
     EXPECT_EQ(text[0], '\0');
     // Nothing else is told.
     EXPECT_EQ(CLIENT_PacketData(kRaid, raids.data(), raids.size(), text.data(), 5), 0);

@@ -139,15 +139,16 @@ TEST(StorageGroup, TakesAListAlone) {
 TEST(StorageGroup, AThousandAndTwentyFourChannels) {
     Groups groups(1);
     const auto element = [](int i) { return "{\"MaxPictures\":" + std::to_string(i + 1) + "}"; };
-    ASSERT_EQ(
-        ParseTable(kStorageGroup,
-                   R"([{"Channels":)" + ListOf(1025, element) + R"(,"SubDevices":)" + ListOf(1024, element) + "}]",
-                   groups),
-        (Answer{1, kGroupSize}));
-    EXPECT_EQ(groups.at(0).nChannelCount, 1024);
-    EXPECT_EQ(groups.at(0).stuChannels[1023].nMaxPictures, 1024);
-    EXPECT_EQ(groups.at(0).nSubDeviceCount, 1024);
-    EXPECT_EQ(groups.at(0).stuSubDevices[1023].nMaxPictures, 1024);
+    for (const int count : {1024, 1025}) {
+        const std::string list = ListOf(count, element);
+        ASSERT_EQ(ParseTable(kStorageGroup, R"([{"Channels":)" + list + R"(,"SubDevices":)" + list + "}]", groups),
+                  (Answer{1, kGroupSize}));
+        EXPECT_EQ(groups.at(0).nChannelCount, 1024);
+        EXPECT_EQ(groups.at(0).stuChannels[1023].nMaxPictures, 1024);
+        EXPECT_EQ(groups.at(0).nSubDeviceCount, 1024);
+        EXPECT_EQ(groups.at(0).stuSubDevices[1023].nMaxPictures, 1024);
+        EXPECT_EQ(groups.at(0).stuSubDevices[1023].dwSize, sizeof(CFG_STORAGE_GROUP_CHANNEL));
+    }
     auto record = std::make_unique<CFG_STORAGE_GROUP_INFO>(groups.at(0));
     const std::string full = Pack(kStorageGroup, *record);
     record->nChannelCount = 1025;
@@ -159,7 +160,8 @@ TEST(StorageGroup, AThousandAndTwentyFourChannels) {
     ASSERT_EQ(ParseTable(kStorageGroup,
                          R"([{"Name":")" + longText + R"(","Memo":")" + longText + R"(","CustomName":")" + longText
                              + R"(","RecordPathRule":")" + longText + R"(","PicturePathRule":")" + longText
-                             + R"(","Channels":[{"Path":")" + longText + "\"}]}]",
+                             + R"(","Channels":[{"Path":")" + longText + R"("}],"SubDevices":[{"Path":")" + longText
+                             + "\"}]}]",
                          groups),
               (Answer{1, kGroupSize}));
     EXPECT_EQ(groups.at(0).szName, std::string(63, 'x'));
@@ -168,6 +170,7 @@ TEST(StorageGroup, AThousandAndTwentyFourChannels) {
     EXPECT_EQ(groups.at(0).szRecordPathRule, std::string(259, 'x'));
     EXPECT_EQ(groups.at(0).szPicturePathRule, std::string(259, 'x'));
     EXPECT_EQ(groups.at(0).stuChannels[0].szPath, std::string(31, 'x'));
+    EXPECT_EQ(groups.at(0).stuSubDevices[0].szPath, std::string(31, 'x'));
 }
 
 TEST(StorageGroup, OnlyWhatFitsTheCallersSizeMoves) {
