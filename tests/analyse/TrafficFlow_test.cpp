@@ -198,6 +198,27 @@ TEST(TrafficSnapshot, SnapTimesHaveTheirKeys) {
     }
 }
 
+TEST(TrafficSnapshot, ARadarHasItsKeys) {
+    const char* const keys[] = {"Angle",       "AntiJammingValue",  "ComeInValue",  "ComeOutValue",
+                                "DelayTime",   "DetectBreaking",    "DetectMode",   "InstallMode",
+                                "Level",       "MultiTargetFilter", "WentEndValue", "WentInValue",
+                                "WentOutValue"};
+    std::string members, written;
+    std::int32_t number = 0;
+    for (const char* key : keys) {
+        const std::string value = std::to_string(++number);
+        members += std::string(members.empty() ? "\"" : ",\"") + key + "\":" + value;
+        written += std::string(written.empty() ? "\"" : ", \"") + key + "\" : " + value;
+    }
+    const auto read = ReadSnapshot(Cleared<Snapshot>(), "{\"Radar\":{" + members + "}}");
+    std::int32_t values[13];
+    static_assert(sizeof values == sizeof(CFG_RADAR_INFO));
+    std::memcpy(values, &read->stuRadar, sizeof values);
+    for (std::int32_t i = 0; i < 13; ++i)
+        EXPECT_EQ(values[i], i + 1) << keys[i];
+    EXPECT_TRUE(Has(Pack("TrafficSnapshot", *read), "\"Radar\" : { " + written + " }"));
+}
+
 TEST(TrafficSnapshot, ADetectorMayBeAList) {
     auto read = ReadSnapshot(Cleared<Snapshot>(), R"({"Detector":[{"SnapMode":1},{"SnapMode":2}]})");
     EXPECT_EQ(read->nDetectorNum, 2);
@@ -293,6 +314,12 @@ TEST(TrafficSnapshotNew, TenAreToldAndEightAreRead) {
     EXPECT_TRUE(Has(text, "\"ParkType\" : 7"));
     EXPECT_FALSE(Has(text, "\"ParkType\" : 8"));
     EXPECT_EQ(Pack("TrafficSnapshotNew", *Cleared<New>()), "[  ]");
+    // What is not read does not refuse.
+    const auto bad = Parse<New>("TrafficSnapshotNew", R"([{},{},{},{},{},{},{},{"ParkType":8},{"Radar":7}])");
+    ASSERT_TRUE(bad);
+    EXPECT_EQ(bad->nCount, 9);
+    EXPECT_EQ(bad->stuSnapshots[7].nParkType, 8);
+    EXPECT_FALSE(Parse<New>("TrafficSnapshotNew", R"([{},{},{},{},{},{},{},{"Radar":7}])"));
     for (const char* table : {"{}", "null", "7", R"([{"Radar":7}])", R"([{},{"Detector":"x"}])"})
         EXPECT_FALSE(Parse<New>("TrafficSnapshotNew", table)) << table;
 }
@@ -428,6 +455,14 @@ TEST(TrafficFlowStat, LanesBehindTheEighthGoToTheCaller) {
     stat->nExtraMax = -1;
     stat = ReadStat(std::move(stat), table);
     EXPECT_EQ(stat->nExtraNum, 0);
+    stat->nExtraMax = 2;
+    stat->pExtraConfigs = nullptr;
+    stat = ReadStat(std::move(stat), table);
+    EXPECT_EQ(stat->nConfigNum, 8);
+    EXPECT_EQ(stat->nExtraNum, 0);
+    stat->nExtraNum = 2;
+    EXPECT_TRUE(Has(Pack("TrafficFlowStat", *stat), "\"PresetID\" : 8,"));
+    EXPECT_FALSE(Has(Pack("TrafficFlowStat", *stat), "\"PresetID\" : 9,"));
     stat = ReadStat(std::move(stat), R"({"Config":7})");
     EXPECT_EQ(stat->nConfigNum, 0);
     EXPECT_FALSE(Parse<Stat>("TrafficFlowStat", "null"));

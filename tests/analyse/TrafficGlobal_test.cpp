@@ -272,6 +272,110 @@ TEST(TrafficGlobal, AStepEndsWhereTheNextBegins) {
     EXPECT_FALSE(Has(Written(*global), "OverSpeedHighwayConfig"));
 }
 
+TEST(TrafficGlobal, FiveStepsAreWrittenAtTheMost) {
+    auto record = Cleared<Global>();
+    CFG_VIOLATION_CODE_INFO& codes = record->stuViolationCodes;
+    for (std::int32_t i = 0; i < 5; ++i)
+        codes.stuUnderSpeedConfig[i].nPercentFrom = 10 * (i + 1);
+    const std::string clear = Written(*record);
+    for (const std::int32_t count : {0, -1}) {
+        codes.nUnderSpeedConfigNum = count;
+        EXPECT_EQ(Written(*record), clear) << count;
+    }
+    for (const std::int32_t count : {5, 6, 0x7fffffff}) {
+        codes.nUnderSpeedConfigNum = count;
+        EXPECT_TRUE(Has(Written(*record),
+                        R"("UnderSpeedConfig" : [ )"
+                        R"({ "Code" : "", "Description" : "", "SpeedingPercentage" : [ 10, 20 ] }, )"
+                        R"({ "Code" : "", "Description" : "", "SpeedingPercentage" : [ 20, 30 ] }, )"
+                        R"({ "Code" : "", "Description" : "", "SpeedingPercentage" : [ 30, 40 ] }, )"
+                        R"({ "Code" : "", "Description" : "", "SpeedingPercentage" : [ 40, 50 ] }, )"
+                        R"({ "Code" : "", "Description" : "", "SpeedingPercentage" : [ 50, -1 ] } ])"))
+            << count;
+    }
+    const auto cut =
+        Read(R"({"ViolationCode":{"OverSpeedConfig":[null,{"Code":"0123456789abcdefg","Description":")"
+             + std::string(70, 'a') + R"(","SpeedingPercentage":7}],"JamDesc":")" + std::string(70, 'b') + R"("}})");
+    EXPECT_EQ(cut->stuViolationCodes.nOverSpeedConfigNum, 2);
+    EXPECT_STREQ(cut->stuViolationCodes.stuOverSpeedConfig[1].szCode, "0123456789abcde");
+    EXPECT_EQ(cut->stuViolationCodes.stuOverSpeedConfig[1].szDescription, std::string(63, 'a'));
+    EXPECT_EQ(cut->stuViolationCodes.stuOverSpeedConfig[1].nPercentFrom, 0);
+    EXPECT_EQ(cut->stuViolationCodes.szJamDesc, std::string(63, 'b'));
+}
+
+TEST(TrafficGlobal, EveryViolationHasItsPlace) {
+    struct Violation {
+        const char* key;
+        bool hasShowName = false;
+        bool hasSteps = false;
+        bool isRead = true;
+    };
+    const Violation violations[] = {{"Retrograde", true},
+                                    {"RetrogradeHighway"},
+                                    {"RunRedLight"},
+                                    {"Backing", true},
+                                    {"VehicleInBusRoute", true},
+                                    {"CrossLane", true},
+                                    {"TurnLeft"},
+                                    {"TurnRight"},
+                                    {"U-Turn", true},
+                                    {"Jam"},
+                                    {"Parking", true},
+                                    {"OverSpeed", false, true},
+                                    {"OverSpeedHighway", false, true},
+                                    {"UnderSpeed", false, true},
+                                    {"OverLine", true},
+                                    {"OverYellowLine"},
+                                    {"YellowInRoute"},
+                                    {"WrongRoute"},
+                                    {"DrivingOnShoulder"},
+                                    {"Passing"},
+                                    {"NoPassing"},
+                                    {"FakePlate"},
+                                    {"ParkingSpaceParking", false, false, false},
+                                    {"ParkingSpaceNoParking", false, false, false},
+                                    {"WithoutSafeBelt", true},
+                                    {"DriverSmoking", true},
+                                    {"DriverCalling", true},
+                                    {"PedestrianRunRedLight", true}};
+    std::string members;
+    for (const Violation& one : violations) {
+        const std::string key = one.key;
+        members += (members.empty() ? "\"" : ",\"") + key + "\":\"c" + key.substr(0, 14) + "\",\"" + key + "Desc\":\"d"
+                   + key + "\",\"" + key + "ShowName\":\"s" + key + "\",\"" + key + "Config\":[{\"Code\":\"e"
+                   + key.substr(0, 14) + "\"}]";
+    }
+    const auto global = Read("{\"ViolationCode\":{" + members + "}}");
+    const std::string text = Written(*global);
+    // The record is a run of texts in this order, with the steps behind those that have any.
+    const char* at = reinterpret_cast<const char*>(&global->stuViolationCodes);
+    const char* const begin = at;
+    const auto expect = [&](std::size_t size, const std::string& key, const std::string& value, bool isRead) {
+        EXPECT_STREQ(at, isRead ? value.c_str() : "") << key;
+        EXPECT_TRUE(Has(text, "\"" + key + "\" : \"" + (isRead ? value : "") + "\"")) << key;
+        at += size;
+    };
+    for (const Violation& one : violations) {
+        const std::string key = one.key;
+        expect(16, key, "c" + key.substr(0, 14), one.isRead);
+        expect(64, key + "Desc", "d" + key, one.isRead);
+        if (one.hasShowName)
+            expect(64, key + "ShowName", "s" + key, true);
+        else
+            EXPECT_FALSE(Has(text, "\"" + key + "ShowName\"")) << key;
+        EXPECT_EQ(Has(text, "\"" + key + "Config\" : [ { \"Code\" : \"e" + key.substr(0, 14) + "\""), one.hasSteps)
+            << key;
+        if (one.hasSteps) {
+            std::int32_t count = 0;
+            std::memcpy(&count, at, sizeof count);
+            EXPECT_EQ(count, 1) << key;
+            EXPECT_EQ(at + 4 + 8, std::string("e") + key.substr(0, 14)) << key; // behind the two numbers
+            at += 4 + 5 * (4 + 4 + 16 + 64);
+        }
+    }
+    EXPECT_EQ(static_cast<std::size_t>(at - begin), sizeof(CFG_VIOLATION_CODE_INFO));
+}
+
 TEST(TrafficGlobal, TheTransferPolicyKeepsItsFlag) {
     for (const auto& [text, code] : {std::pair{"RealtimePriority", 1}, std::pair{"SequencePriority", 2},
                                      std::pair{"realtimepriority", 1}, std::pair{"Whatever", 0}}) {
