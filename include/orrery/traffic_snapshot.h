@@ -234,9 +234,9 @@ typedef struct CFG_TRAFFICSNAPSHOT_NEW_INFO {
 /* "TrafficSnapshotNew" with a buffer of 16 bytes: the caller has the records elsewhere. Entries keep what the text does
  * not tell. Of an object the first entry alone is read, nReturned is still the number of its members. */
 typedef struct CFG_TRAFFICSNAPSHOT_DESCRIPTOR {
-    CFG_TRAFFICSNAPSHOT_INFO* pSnapshots; /* the list's elements: the caller's array; null has room for nothing */
+    CFG_TRAFFICSNAPSHOT_INFO* pSnapshots; /* the list's elements: the caller's array; with null none moves */
     int32_t nMax;      /* room at pSnapshots, set before reading; on writing, how many entries are written */
-    int32_t nReturned; /* the size of the table, at most nMax */
+    int32_t nReturned; /* the size of the table, at most nMax, also when pSnapshots is null */
 } CFG_TRAFFICSNAPSHOT_DESCRIPTOR;
 
 #ifdef __cplusplus

@@ -260,12 +260,27 @@ TABLE(kTrafficSnapshotNew, CFG_TRAFFICSNAPSHOT_NEW_INFO,
 
 namespace {
 
+// Which parts have to be objects, or absent; the detector may be a list.
+bool IsSnapshot(const json::Value& snapshot) {
+    const json::Value& detector = snapshot["Detector"];
+    return snapshot["BreakingSnapTimes"].isObject() && snapshot["Radar"].isObject()
+           && (detector.isObject() || detector.isArray());
+}
+bool AreSnapshots(const json::Value& list, std::size_t most) {
+    const auto elements = list.elements();
+    const auto read = elements.first(std::min(elements.size(), most));
+    return std::all_of(read.begin(), read.end(), IsSnapshot);
+}
+
 // ---- The descriptor ----
 
-// The count is that of the table's size, whatever the table is; a table that is no list is the first entry.
+// The count is that of the table's size, whatever the table is; a table that is no list is the first entry. A part of
+// the wrong type refuses before anything is stored, but not in an element that there is no room for.
 void ReadDescribed(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) {
     const std::int64_t room = std::max<std::int64_t>(LoadSlot(field.capacity, record), 0);
     const std::int64_t count = std::min<std::int64_t>(value.size(), room);
+    call.refused = !AreSnapshots(value, static_cast<std::size_t>(count));
+    if (call.refused) return;
     StoreSlot(field.count, record, count);
     auto* const first = Load<std::byte*>(record + field.offset);
     if (first == nullptr || room == 0) return;
@@ -300,18 +315,6 @@ static_assert(sizeof(Descriptor) == 16);
 
 namespace {
 
-// Which parts have to be objects, or absent; the detector may be a list.
-bool IsSnapshot(const json::Value& snapshot) {
-    const json::Value& detector = snapshot["Detector"];
-    return snapshot["BreakingSnapTimes"].isObject() && snapshot["Radar"].isObject()
-           && (detector.isObject() || detector.isArray());
-}
-bool AreSnapshots(const json::Value& list, std::size_t most) {
-    const auto elements = list.elements();
-    const auto read = elements.first(std::min(elements.size(), most));
-    return std::all_of(read.begin(), read.end(), IsSnapshot);
-}
-
 const json::Value& TableOf(const json::Value& root) {
     return root["params"]["table"];
 }
@@ -319,8 +322,7 @@ Take NewTakes(const json::Value& root) {
     return AreSnapshots(TableOf(root), ORRERY_TRAFFIC_SNAPSHOTS) ? Take::List : traffic::kTakesNone;
 }
 Take DescribedTakes(const json::Value& root) {
-    const json::Value& table = TableOf(root);
-    return IsSnapshot(table) && AreSnapshots(table, table.size()) ? Take::One : traffic::kTakesNone;
+    return IsSnapshot(TableOf(root)) ? Take::One : traffic::kTakesNone;
 }
 
 void ClearSnapshotNew(std::byte* record) {
@@ -330,6 +332,17 @@ void ClearSnapshotNew(std::byte* record) {
 }
 
 constexpr ParseFrame kNotTested = ParseFrame{}.Result(ResultTest::NotTested).Clears(Clearing::Kept);
+
+// A list that is refused while it is read gives no length either.
+Outcome ParseDescribed(const ParseRequest& request) noexcept {
+    std::uint32_t length = 0;
+    ParseRequest described = request;
+    described.returnedLength = &length;
+    const Outcome outcome = ParseFamily(kSnapshotDescriptor, kNotTested.TakesBy(DescribedTakes), described);
+    if (outcome == Outcome::RowRefused) return Outcome::WrongShape;
+    if (outcome == Outcome::Done && request.returnedLength != nullptr) *request.returnedLength = length;
+    return outcome;
+}
 
 } // namespace
 
@@ -344,9 +357,7 @@ Take TrafficSnapshotTakes(const json::Value& root) {
 }
 
 Outcome ParseTrafficSnapshotNew(const ParseRequest& request) noexcept {
-    if (request.bufferSize == sizeof(Descriptor)) {
-        return ParseFamily(kSnapshotDescriptor, kNotTested.TakesBy(DescribedTakes), request);
-    }
+    if (request.bufferSize == sizeof(Descriptor)) return ParseDescribed(request);
     return ParseFamily(kTrafficSnapshotNew, kNotTested.TakesBy(NewTakes).OnceParsed(ClearSnapshotNew), request);
 }
 

@@ -351,9 +351,22 @@ TEST(TrafficSnapshotNew, ABufferOfSixteenBytesIsADescriptor) {
     record.Set(0, {nullptr, 2, 2});
     EXPECT_EQ(PackAll("TrafficSnapshotNew", record), "[  ]");
     ASSERT_EQ(ParseTable("TrafficSnapshotNew", "[{}]", record), (Answer{1, 16}));
+    EXPECT_EQ(record[0].nReturned, 1); // told all the same
     EXPECT_EQ(ParseTable("TrafficSnapshotNew", "null", record), kRefused);
-    EXPECT_EQ(ParseTable("TrafficSnapshotNew", R"([{"Radar":7}])", record), kRefused);
-    EXPECT_EQ(ParseTable("TrafficSnapshotNew", R"({"Radar":7})", record), kRefused);
+    describe(2, 9);
+    EXPECT_EQ(ParseTable("TrafficSnapshotNew", R"([{"ParkType":6},{"Radar":7}])", record), kRefused);
+    EXPECT_EQ(ParseTable("TrafficSnapshotNew", R"({"ParkType":6,"Radar":7})", record), kRefused);
+    EXPECT_EQ(record[0].nReturned, 9);
+    EXPECT_EQ(snapshots[0].nParkType, 5);
+    // An element behind the room is not read, and does not refuse.
+    ASSERT_EQ(ParseTable("TrafficSnapshotNew", R"([{"ParkType":6},{},{"Radar":7}])", record), (Answer{1, 16}));
+    EXPECT_EQ(record[0].nReturned, 2);
+    EXPECT_EQ(snapshots[0].nParkType, 6);
+    describe(-1, 9);
+    ASSERT_EQ(ParseTable("TrafficSnapshotNew", R"([{"Radar":7}])", record), (Answer{1, 16}));
+    EXPECT_EQ(record[0].nReturned, 0);
+    EXPECT_EQ(snapshots[0].nParkType, 6);
+    EXPECT_EQ(PackAll("TrafficSnapshotNew", record), "[  ]");
     const Records<char> other(17);
     EXPECT_EQ(ParseTable("TrafficSnapshotNew", "[]", other), kRefused);
 }
