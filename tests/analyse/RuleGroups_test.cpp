@@ -305,6 +305,161 @@ TEST(RuleGroups, GoesRound) {
     EXPECT_STREQ(again.Rule<CFG_RULE_FIRE_INFO>(0, 1).szRuleName, "b");
 }
 
+// Days of equal length, all sections clear but the first of the first day and the last of the last.
+std::string Days(int days, int sections, const std::string& first, const std::string& last) {
+    std::string week = "[ ";
+    for (int day = 0; day < days; ++day) {
+        week += day > 0 ? ", [ " : "[ ";
+        for (int section = 0; section < sections; ++section) {
+            const bool isFirst = day == 0 && section == 0;
+            const bool isLast = day + 1 == days && section + 1 == sections;
+            week += std::string(section > 0 ? ", " : "") + "\""
+                    + (isFirst  ? first
+                       : isLast ? last
+                                : "0 00:00:00-00:00:00")
+                    + "\"";
+        }
+        week += " ]";
+    }
+    return week + " ]";
+}
+
+TEST(RuleGroups, AWholeChannelIsWrittenAndReadBack) {
+    Caller caller;
+    All& all = *caller.all;
+    all.nSceneNum = 1;
+    CFG_VIDEOINANALYSE_SCENE_INFO& scene = all.stuScenes[0];
+    std::strcpy(scene.stuGlobal.szSceneType, "Indoor");
+    scene.stuGlobal.nDepth = CFG_DEPTH_FAR;
+    scene.stuGlobal.nPtzPresetId = 27;
+    scene.stuGlobal.nLatitude = 28;
+    scene.stuGlobal.nLongitude = 29;
+    scene.stuModule.nModuleNum = 1;
+    CFG_MODULE_INFO& module = scene.stuModule.stuModules[0];
+    std::strcpy(module.szObjectType, "Car");
+    std::strcpy(module.szType, "m");
+    module.bSnapShot = 1;
+    module.bySensitivity = 30;
+    module.nPtzPresetId = 31;
+    scene.nRuleGroupNum = 2;
+
+    // A group whose rule has the linkage.
+    auto move = Cleared<CFG_RULE_MOVE_INFO>();
+    std::strcpy(move->szRuleName, "moved");
+    move->bTrackEnable = 1;
+    move->bySensitivity = 23;
+    move->nObjectTypeNum = 1;
+    std::strcpy(move->szObjectTypes[0], "Pet");
+    move->nMinDuration = 22;
+    move->nDetectRegionPoint = 1;
+    move->stuDetectRegion[0] = {20, 21};
+    move->nTriggerSpeed = 25;
+    move->stuEventHandler.abRecordEnable = 1;
+    move->stuEventHandler.bRecordEnable = 1;
+    move->stuEventHandler.abAlarmOutEn = 1;
+    move->stuEventHandler.abLogEnable = 1;
+    move->stuEventHandler.bLogEnable = 1;
+    move->stuTimeSection[0][0] = {1, 7, 8, 9, 10, 11, 12};
+    move->stuTimeSection[6][9] = {1, 13, 14, 15, 16, 17, 18};
+    move->nPtzPresetId = 26;
+    move->nTriggerPosition = 1;
+    move->byTriggerPosition[0] = CFG_TRIGGER_LEFT_CENTER;
+    move->bSizeFilter = 1;
+    move->stuSizeFilter.abBySize = 1;
+    move->stuSizeFilter.bBySize = 1;
+    move->nDetectTypeNum = 1;
+    move->byDetectType[0] = CFG_MOTION_ABRUPT_SLOWDOWN;
+    move->nTrackDuration = 24;
+    caller.Give(0, sizeof *move);
+    std::memcpy(caller.buffers[0].data(), move.get(), sizeof *move);
+    scene.stuRuleGroups[0].dwRuleType = 9;
+    scene.stuRuleGroups[0].nRuleStride = static_cast<std::int32_t>(sizeof *move);
+    scene.stuRuleGroups[0].nRuleNum = 1;
+
+    // One that has its own, with a schedule that is not that of the linkage.
+    const auto fires = std::make_unique<CFG_RULE_FIRE_INFO[]>(2);
+    std::strcpy(fires[0].szRuleName, "first");
+    fires[0].bRuleEnable = 1;
+    fires[0].nObjectTypeNum = 2;
+    std::strcpy(fires[0].szObjectTypes[0], "Human");
+    std::strcpy(fires[0].szObjectTypes[1], "Vehicle");
+    fires[0].nMinDuration = 5;
+    fires[0].nDetectRegionPoint = 2;
+    fires[0].stuDetectRegion[0] = {1, 2};
+    fires[0].stuDetectRegion[1] = {3, 4};
+    fires[0].nSensitivity = 6;
+    fires[0].nPtzPresetId = 7;
+    std::strcpy(fires[1].szRuleName, "second");
+    fires[1].nObjectTypeNum = 1;
+    std::strcpy(fires[1].szObjectTypes[0], "Flame");
+    fires[1].nMinDuration = 10;
+    fires[1].nDetectRegionPoint = 1;
+    fires[1].stuDetectRegion[0] = {8, 9};
+    fires[1].nSensitivity = 11;
+    fires[1].nPtzPresetId = 12;
+    caller.Give(1, 2 * sizeof fires[0]);
+    std::memcpy(caller.buffers[1].data(), fires.get(), 2 * sizeof fires[0]);
+    CFG_RULE_GROUP_INFO& group = scene.stuRuleGroups[1];
+    group.dwRuleType = 12;
+    group.nRuleStride = static_cast<std::int32_t>(sizeof fires[0]);
+    group.nRuleNum = 2;
+    group.bEnable = 1;
+    group.bHasEventHandler = 1;
+    group.stuEventHandler.abRecordEnable = 1;
+    group.stuEventHandler.abAlarmOutEn = 1;
+    group.stuEventHandler.bAlarmOutEn = 1;
+    group.stuEventHandler.abBeepEnable = 1;
+    group.stuEventHandler.bBeepEnable = 1;
+    group.stuEventHandler.stuTimeSectionEx.stuTimeSection[0][0].nBeginHour = 5;
+    group.stuTimeSchedule.bEnableHoliday = 1;
+    group.stuTimeSchedule.stuTimeSection[0][0] = {1, 8, 0, 0, 17, 30, 0};
+    group.stuTimeSchedule.stuTimeSection[7][5] = {1, 1, 2, 3, 4, 5, 6};
+
+    const std::string text =
+        R"([ { "Global" : { "Scene" : { "Depth" : "Far", "PtzPresetId" : 27, "Type" : "Indoor", "TypeList" : [  ] }, )"
+        R"("TimePeriod" : { "Day" : [ "00:00:00", "00:00:00" ], "Latitude" : 28, "Longitude" : 29, )"
+        R"("Night" : [ "00:00:00", "00:00:00" ] } }, )"
+        R"("Module" : [ { "AntiDisturbance" : false, "Backlight" : false, "ContourAssistantTrack" : false, )"
+        R"("ObjectType" : "Car", "PtzPresetId" : 31, "Sensitivity" : 30, "Shadow" : false, "SnapShot" : true, )"
+        R"("Type" : "m" } ], )"
+        R"("Rules" : { "FireDetection" : { "Enable" : true, )"
+        R"("EventHandler" : { "AlarmOutEnable" : true, "BeepEnable" : true, "RecordEnable" : false, "TimeSection" : )"
+        + Days(8, 6, "1 08:00:00-17:30:00", "1 01:02:03-04:05:06")
+        + R"( }, "Rule" : [ { "Class" : "", "Config" : { "DetectRegion" : [ [ 1, 2 ], [ 3, 4 ] ], )"
+          R"("MinDuration" : 5, "Sensitivity" : 6 }, "Enable" : true, "Id" : 0, "Name" : "first", )"
+          R"("ObjectTypes" : [ "Human", "Vehicle" ], "PtzPresetId" : 7, "Type" : "FireDetection" }, )"
+          R"({ "Class" : "", "Config" : { "DetectRegion" : [ [ 8, 9 ] ], "MinDuration" : 10, "Sensitivity" : 11 }, )"
+          R"("Enable" : false, "Id" : 0, "Name" : "second", "ObjectTypes" : [ "Flame" ], "PtzPresetId" : 12, )"
+          R"("Type" : "FireDetection" } ] }, )"
+          R"("MoveDetection" : { "Enable" : false, "Rule" : [ { "Class" : "", )"
+          R"("Config" : { "DetectRegion" : [ [ 20, 21 ] ], "DetectType" : [ "AbruptSlowdown" ], )"
+          R"("MinDuration" : 22, "Sensitivity" : 23, "SizeFilter" : { "BySize" : true }, "TrackDuration" : 24, )"
+          R"("TriggerPosition" : [ "LeftCenter" ], "TriggerSpeed" : 25 }, "Enable" : false, )"
+          R"("EventHandler" : { "AlarmOutEnable" : false, "LogEnable" : true, "RecordEnable" : true, "TimeSection" : )"
+        + Days(7, 10, "1 07:08:09-10:11:12", "1 13:14:15-16:17:18")
+        + R"( }, "Id" : 0, "Name" : "moved", "ObjectTypes" : [ "Pet" ], "PtzPresetId" : 26, "TrackEnable" : true, )"
+          R"("Type" : "MoveDetection" } ] } } } ])";
+    EXPECT_EQ(caller.Pack(), text);
+
+    Caller again;
+    again.Give(0, 2 * sizeof fires[0]);
+    again.Give(1, sizeof *move);
+    ASSERT_TRUE(again.Parse(text));
+    EXPECT_EQ(again.group(0).stuTimeSchedule.bEnableHoliday, 1);
+    EXPECT_EQ(again.group(0).stuTimeSchedule.stuTimeSection[7][5].nEndSec, 6);
+    EXPECT_EQ(again.group(1).bHasEventHandler, 0);
+    EXPECT_EQ(again.Pack(), text);
+}
+
+TEST(RuleGroups, ANullLinkageIsNone) {
+    Caller caller;
+    ASSERT_TRUE(caller.Rules(R"({"FireDetection":{"EventHandler":null},"MoveDetection":{"EventHandler":{}}})"));
+    EXPECT_EQ(caller.group(0).bHasEventHandler, 0);
+    EXPECT_EQ(caller.group(0).stuEventHandler.abRecordEnable, 0); // which reading a linkage always sets
+    EXPECT_EQ(caller.group(1).bHasEventHandler, 1);
+    EXPECT_EQ(caller.group(1).stuEventHandler.abRecordEnable, 1);
+}
+
 TEST(RuleGroups, TheTextMayFillItsBuffer) {
     Caller caller;
     const std::string text = "[  ]\n";
