@@ -122,6 +122,32 @@ TEST(DiagnosisProject, ProjectsAndTasksWithoutANameAreNotWritten) {
     EXPECT_EQ(TextOf(kProject, list), R"({ "p" : null })");
 }
 
+TEST(DiagnosisProject, CountsBeyondTheRoomEndThereWhenWritten) {
+    struct Case {
+        std::int32_t room;
+        std::int32_t count;
+        int written;
+    };
+    for (const Case& one :
+         {Case{2, 9, 2}, Case{2, 1, 1}, Case{1, INT32_MAX, 1}, Case{2, -1, 0}, Case{0, 2, 0}, Case{-1, 2, 0}}) {
+        Project project;
+        std::strcpy(project.project.szName, "p");
+        for (CFG_DIAGNOSIS_PROJECT_TASK& task : project.tasks)
+            std::strcpy(task.szName, "t");
+        project.project.nTaskMax = one.room;
+        project.project.nTaskReturned = one.count;
+        const CFG_DIAGNOSIS_PROJECT_LIST list{1, 1, &project.project};
+        std::string tasks;
+        for (int i = 0; i < one.written; ++i)
+            tasks += (i > 0 ? ", " : "")
+                     + (R"({ "Enable" : false, "IsCycle" : false, "Name" : "t", "TimeSection" : )" + Week(-1, 0, ""))
+                     + " }";
+        EXPECT_EQ(TextOf(kProject, list),
+                  one.written > 0 ? R"({ "p" : { "Tasks" : [ )" + tasks + " ] } }" : R"({ "p" : null })")
+            << one.room << ' ' << one.count;
+    }
+}
+
 TEST(DiagnosisProject, CyclesAtExactlyOneAndIsEnabledAtAny) {
     Project project(1);
     project.project.nTaskReturned = 1;

@@ -336,6 +336,44 @@ TEST(DiagnosisTask, VideoInputsAreCountedUpToTheRoom) {
     }
 }
 
+// How often a key is written.
+std::size_t Times(const std::string& text, const std::string& key) {
+    std::size_t times = 0;
+    for (std::size_t at = 0; (at = text.find('"' + key + "\" : ", at)) != std::string::npos; ++at)
+        ++times;
+    return times;
+}
+
+TEST(DiagnosisTask, CountsBeyondTheRoomEndThereWhenWritten) {
+    struct Case {
+        std::int32_t room;
+        std::int32_t count;
+        std::size_t written;
+    };
+    for (const Case& one : {Case{2, 9, 2}, Case{2, INT32_MAX, 2}, Case{2, 1, 1}, Case{2, 0, 0}, Case{2, -1, 0},
+                            Case{0, 2, 0}, Case{-1, 2, 0}}) {
+        Task task;
+        for (CFG_DIAGNOSIS_SOURCE& source : task.sources) {
+            source.nDeviceKind = 1;
+            std::strcpy(source.szDevice, "d");
+        }
+        task.task.nSourceMax = one.room;
+        task.task.nSourceReturned = one.count;
+        EXPECT_EQ(Times(task.Text(), "Duration"), one.written) << one.room << ' ' << one.count;
+
+        task.task.nSourceMax = 3;
+        task.task.nSourceReturned = 1;
+        CFG_DIAGNOSIS_DEVICE& device = task.sources[0].stuDeviceInfo;
+        task.sources[0].nDeviceInfoKind = 1;
+        std::strcpy(device.szAddress, "a");
+        device.nVideoInputMax = one.room;
+        device.nVideoInputNum = one.count;
+        EXPECT_EQ(Times(task.Text(), "ControlID"), one.written) << one.room << ' ' << one.count;
+        device.pVideoInputs = nullptr;
+        EXPECT_EQ(Times(task.Text(), "ControlID"), 0u) << one.room << ' ' << one.count;
+    }
+}
+
 TEST(DiagnosisTask, TextsAreCutAtTheirCapacity) {
     const std::string x(300, 'x');
     const auto quoted = [&](const char* key) { return '"' + std::string(key) + "\" : \"" + x + '"'; };
