@@ -243,7 +243,7 @@ TEST(DiagnosisProfile, TablesOfOtherTypes) {
          {"{", "", R"({ "result" : true })", R"({ "result" : true, "params" : { "table" : null } })"})
         EXPECT_EQ(ReadList(kCommand, document, list), kRefused) << document;
     EXPECT_EQ(list.nReturned, 99);
-    for (const char* table : {"{}", "5", "\"x\"", "[]"}) {
+    for (const char* table : {"{}", "5", "\"x\"", "[]", "[ {}, {} ]"}) { // more elements than room are no members
         list.nReturned = 99;
         EXPECT_EQ(ReadList(kCommand, ReplyWith(table), list), kListRead) << table;
         EXPECT_EQ(list.nReturned, 0) << table;

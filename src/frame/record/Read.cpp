@@ -350,7 +350,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         }
         const Elements room = ElementsOf(field, record, value.size());
         if (!TakesList(field, value, room.room)) return;
-        if (field.allOrNone && value.size() > room.room) {
+        if (field.allOrNone && (field.keyed ? value.members().size() : value.size()) > room.room) {
             call.overflowed = true;
             return;
         }
