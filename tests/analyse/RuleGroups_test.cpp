@@ -1,9 +1,12 @@
 // Rules in groups of one type, with their scenes.
 #include "orrery/analyse_groups.h"
+
+#include "analyse/RuleBodyMap.h"
 #include "orrery/rule_bodies.h"
 #include "orrery/traffic_rules.h"
 #include "support/Call.h"
 #include "support/JsonText.h"
+#include "support/RuleText.h"
 
 #include <gtest/gtest.h>
 
@@ -449,6 +452,34 @@ TEST(RuleGroups, AWholeChannelIsWrittenAndReadBack) {
     EXPECT_EQ(again.group(0).stuTimeSchedule.stuTimeSection[7][5].nEndSec, 6);
     EXPECT_EQ(again.group(1).bHasEventHandler, 0);
     EXPECT_EQ(again.Pack(), text);
+}
+
+TEST(RuleGroups, RulesOfEveryTypeStayInsideTheirBuffer) {
+    Caller caller;
+    CFG_RULE_GROUP_INFO& group = caller.all->stuScenes[0].stuRuleGroups[0];
+    for (const RuleSample& sample : RuleSamples()) {
+        for (const RuleType& type : sample.types) {
+            if (*type.name == '\0') continue; // no name to read it under
+            const RuleBody* const body = FindRuleBody(type.code);
+            ASSERT_NE(body, nullptr) << type.code;
+            const GuardedBuffer rules(std::size_t{2} * body->size);
+            group.pRuleBuf = reinterpret_cast<std::uint8_t*>(rules.data());
+            group.nRuleBufLen = static_cast<std::int32_t>(rules.size());
+            const std::string rule = RuleText(sample, type, false);
+            ASSERT_TRUE(caller.Rules(std::string("{\"") + type.name + R"(":{"Rule":[)" + rule + "," + rule + "," + rule
+                                     + "]}}"))
+                << type.name;
+            EXPECT_EQ(group.dwRuleType, type.code);
+            EXPECT_EQ(group.nRuleNum, 2) << type.name;
+            EXPECT_EQ(rules.view().substr(0, body->size), rules.view().substr(body->size)) << type.name;
+            EXPECT_NE(rules.view().find(std::string("Rule of ") + type.name), std::string_view::npos);
+            // Whatever a client left there: every count is too high, or below zero.
+            for (const int filling : {0x7F, 0xFF}) {
+                std::memset(rules.data(), filling, rules.size());
+                EXPECT_EQ(caller.Pack().find("left behind"), std::string::npos) << type.name;
+            }
+        }
+    }
 }
 
 TEST(RuleGroups, ANullLinkageIsNone) {
