@@ -110,6 +110,7 @@ class Worker {
         // Objects stand one behind the other; lanes keep their places.
         const bool closesUp = row.code == ORRERY_TYPED_OBJECT_LIST;
         const std::size_t size = row.table->size;
+        if (elements.size() > UINT32_MAX / size) return 0; // more bytes than a callback can be told of
         std::byte* const records = Block(elements.size() * size);
         if (records == nullptr) return 0;
         std::size_t used = 0;
