@@ -236,6 +236,18 @@ TEST(AnalyseCaps, AnAngleThatNobodyKnowsIsTold) {
     EXPECT_EQ(log.count(E_LOG_LEVEL_DETAIL, kBadAngle), 1);
 }
 
+TEST(AnalyseCaps, TheLogIsToldOfTheAngleFromVideoAnalysis) {
+    struct Placed : LogLines {
+        std::string source;
+        void SetPosition(const char* file, int line, E_LOG_LEVEL level) override {
+            source = file;
+            LogLines::SetPosition(file, line, level);
+        }
+    } log;
+    ASSERT_TRUE(Caps(R"({"DisplayCameraAngle":"Degrees"})"));
+    EXPECT_EQ(log.source, "VideoAnalyseConfig");
+}
+
 TEST(AnalyseCaps, ExcludeRegionsAreANumberOrAPair) {
     const auto pair = Caps(R"({"MaxExcludeRegions":[3,5]})");
     EXPECT_EQ(pair->nMaxExcludeRegionsHigh, 5);
@@ -509,6 +521,33 @@ TEST(RemoteDeviceStatus, CountsBeyondItsArray) {
         EXPECT_EQ(status->nCount, devices);
         EXPECT_STREQ(status->stuEntries[191].szDeviceName, "d");
     }
+}
+
+TEST(RemoteDeviceStatus, WhatIsBeyondItsArrayIsNotLookedAt) {
+    const auto withLast = [](int devices) {
+        std::string list = List(devices - 1, R"({"Online":true,"Device":"d"})");
+        list.back() = ',';
+        return Status(list + R"({"Online":true}])");
+    };
+    EXPECT_FALSE(withLast(192));
+    const auto beyond = withLast(193);
+    ASSERT_TRUE(beyond);
+    EXPECT_EQ(beyond->nCount, 193);
+}
+
+TEST(RemoteDeviceStatus, AnElementWithNeitherEndsTheList) {
+    for (const char* end : {"{}", "null", "5", R"({"Online":null,"Device":null})"}) {
+        const auto status = Status(std::string(R"([{"Online":true,"Device":"Door"},)") + end + R"(,{"Online":true}])");
+        ASSERT_TRUE(status) << end;
+        EXPECT_EQ(status->nCount, 3) << end;
+        EXPECT_STREQ(status->stuEntries[0].szDeviceName, "Door") << end;
+    }
+}
+
+TEST(RemoteDeviceStatus, NamesAreCutToTheirField) {
+    const std::string name(128, 'n');
+    const auto status = Status(R"([{"Online":true,"Device":")" + name + "\"}]");
+    EXPECT_EQ(status->stuEntries[0].szDeviceName, std::string(127, 'n'));
 }
 
 TEST(RemoteDeviceStatus, WithoutAListThereAreNone) {

@@ -153,11 +153,26 @@ TEST(Templates, ASceneThatIsNoneLeavesTheAreas) {
     EXPECT_EQ(global->nPtzPresetId, 0);
 }
 
+// Also where a line comes from, and its code.
+struct PlacedLines : LogLines {
+    std::string source;
+    int code = 0;
+
+    void SetPosition(const char* file, int line, E_LOG_LEVEL level) override {
+        source = file;
+        LogLines::SetPosition(file, line, level);
+    }
+    void TraceOut(int reserved, int itsCode, const char* format, char*& arguments) override {
+        code = itsCode;
+        LogLines::TraceOut(reserved, itsCode, format, arguments);
+    }
+};
+
 TEST(Templates, WithoutMemoryForASceneTheLogHears) {
     const std::string text = Reply(Scene("Normal"));
     const auto output = std::make_unique<CFG_TEMPLATE_GLOBAL_INFO>();
     const int reserved = 0;
-    LogLines log;
+    PlacedLines log;
     HeapWatch watch;
     watch.FailFrom(1);
     const std::int32_t result = CLIENT_ParseVideoInAnalyse(kGlobal, 0, text.c_str(), &reserved, output.get(),
@@ -167,6 +182,8 @@ TEST(Templates, WithoutMemoryForASceneTheLogHears) {
     EXPECT_EQ(result, 0);
     EXPECT_GT(failures, 0u);
     EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, "System Error!"), 1);
+    EXPECT_EQ(log.source, "VideoInAnalyseParse");
+    EXPECT_EQ(static_cast<std::uint32_t>(log.code), 0x80000001u);
 }
 
 // ---- The module ----------------------------------------------------------------------------------------------------
@@ -237,6 +254,71 @@ TEST(Templates, AMissingClassHasNoRules) {
     ASSERT_TRUE(rules.Parse(R"({"Traffic":{"a":{"Type":"FireDetection","Class":"Normal"}}})"));
     EXPECT_EQ(rules.rules.nRuleCount, 0);
     EXPECT_TRUE(rules.IsUntouched());
+}
+
+TEST(Templates, RulesStandUnderTheirClass) {
+    const std::string rule = R"({"Type":"FireDetection","Class":"Normal"})";
+    const std::string params = R"({"":{"a":)" + rule + R"(},"CrowdDistriMap":{"a":{"Type":"x","Class":"y"}},)"
+                               + R"("StereoNumber":{"a":)" + rule + R"(,"b":)" + rule + "}}";
+    const std::pair<std::int32_t, std::int32_t> counts[] = {
+        {CFG_RULE_CLASS_NONE, 1},
+        {CFG_RULE_CLASS_STEREO_NUMBER, 2},
+        {CFG_RULE_CLASS_CROWD_DISTRI_MAP, 1},
+        {31, 1},
+        {-1, 1},
+        {CFG_RULE_CLASS_NORMAL, 0},
+    };
+    for (const auto& [classType, count] : counts) {
+        Rules rules(2 * kFire);
+        EXPECT_TRUE(rules.Parse(params, classType)) << classType;
+        EXPECT_EQ(rules.rules.nRuleCount, count) << classType;
+    }
+}
+
+TEST(Templates, AClassThatIsNoObjectHasNoRules) {
+    for (const char* none : {"[{}]", R"([{"Type":"x","Class":"y"}])", "3", R"("a")", "{}"}) {
+        Rules rules(kFire);
+        EXPECT_TRUE(rules.Parse(std::string(R"({"Normal":)") + none + "}")) << none;
+        EXPECT_EQ(rules.rules.nRuleCount, 0) << none;
+        EXPECT_EQ(std::count(rules.buffer.begin(), rules.buffer.end(), 0), std::ssize(rules.buffer)) << none;
+    }
+}
+
+TEST(Templates, NamesOfTypesAndClassesAreExact) {
+    Rules type(kFire);
+    EXPECT_FALSE(type.Parse(R"({"Normal":{"a":{"Type":"firedetection","Class":"Normal"}}})"));
+    EXPECT_TRUE(type.IsUntouched());
+    Rules ruleClass(kFire);
+    ASSERT_TRUE(ruleClass.Parse(R"({"Normal":{"a":{"Type":"FireDetection","Class":"traffic"}}})"));
+    EXPECT_EQ(ruleClass.Head().stuRuleGeneral.nClass, 0);
+}
+
+TEST(Templates, RulesNeedABuffer) {
+    const std::string one = R"({"Normal":{"a":{"Type":"FireDetection","Class":"Normal"}}})";
+    Rules none(kFire);
+    none.rules.pRuleBuf = nullptr;
+    EXPECT_FALSE(none.Parse(one));
+    EXPECT_EQ(none.rules.nRuleCount, -7);
+    EXPECT_TRUE(none.Parse(R"({"Normal":{}})"));
+    EXPECT_EQ(none.rules.nRuleCount, 0);
+    Rules negative(kFire);
+    negative.rules.nRuleLen = -1;
+    EXPECT_FALSE(negative.Parse(one));
+    EXPECT_FALSE(negative.Parse(R"({"Normal":{}})")); // not even no rules fit
+    EXPECT_TRUE(negative.IsUntouched());
+    EXPECT_EQ(negative.rules.nRuleCount, -7);
+}
+
+// Their records have a size all the same.
+TEST(Templates, TypesThatNoDeviceSendsFailAtTheirPlace) {
+    for (const char* type : {"StandUpDetection", "TrafficNoPassing"}) {
+        LogLines log;
+        Rules rules(std::size_t{4} << 20);
+        EXPECT_FALSE(rules.Parse(std::string(R"({"Normal":{"a":{"Class":"Normal","Type":")") + type + "\"}}}")) << type;
+        EXPECT_EQ(rules.rules.nRuleCount, -7) << type;
+        EXPECT_EQ(std::count(rules.buffer.begin(), rules.buffer.end(), 0), std::ssize(rules.buffer)) << type;
+        EXPECT_EQ(log.count(E_LOG_LEVEL_DETAIL, "Unknown rules type"), 1) << type;
+    }
 }
 
 TEST(Templates, ARuleWithoutTypeOrClassFailsAtItsPlace) {

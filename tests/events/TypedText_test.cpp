@@ -458,36 +458,83 @@ TEST(TypedText, ADetailRuleIsCutAtItsBlock) {
 
 // ---- Memory --------------------------------------------------------------------------------------------------------
 
+// What a text with one key gives when the heap fails from that allocation on.
+struct Starved {
+    std::int32_t result;
+    std::int32_t handed;
+    bool failed;
+};
+Starved Starve(const std::string& text, std::size_t failAt) {
+    Starved starved{};
+    const EventVisitor count = [&](const Delivered&) { ++starved.handed; };
+    HeapWatch watch;
+    watch.FailFrom(failAt);
+    starved.result = Typed(text, count);
+    starved.failed = watch.failures() > 0;
+    watch.FailNone();
+    EXPECT_LE(watch.liveBlocks(), 0) << text;
+    return starved;
+}
+
 TEST(TypedText, WithoutMemoryThereIsNoHandOver) {
+    // Records and buffers that are too large for the stack.
     const std::string texts[] = {
-        R"({"VideoStatSummary":{"Channel":1}})",
         R"({"VideoAnalyseRule":[{"Type":"FireDetection","Name":"one"}]})",
         R"({"ObjectList":)" + Times(64, R"({"ObjectID":1,"Image":{"FilePath":"/a"}})") + "}",
         R"({"TrafficFlowStatInfo":)" + Times(64, R"({"Lane":1})") + "}",
+        R"({"Config":[1,2,3,4,5,6,7,8,9],"TrafficFlowStat":{"Period":5}})",
         R"({"VideoSynopsisAnalyseRule":{"DetailRule":{"a":[1,2]}}})",
-        std::string(R"({"Event":)") + kEvent + "}",
     };
     for (const std::string& text : texts) {
+        const Starved first = Starve(text, 1);
+        EXPECT_TRUE(first.failed) << text;
+        EXPECT_EQ(first.result, 0) << text;
+        EXPECT_EQ(first.handed, 0) << text;
         bool reached = false;
-        for (std::size_t failAt = 1; failAt < 40 && !reached; ++failAt) {
-            HeapWatch watch;
-            std::size_t handed = 0;
-            const EventVisitor count = [&](const Delivered&) { ++handed; };
-            watch.FailFrom(failAt);
-            const std::int32_t result = Typed(text, count);
-            reached = watch.failures() == 0;
-            watch.FailNone();
-            EXPECT_LE(watch.liveBlocks(), 0) << text;
-            EXPECT_TRUE(result == 0 || result == 1) << text;
-            EXPECT_TRUE(handed == 1 || !reached) << text;
+        for (std::size_t failAt = 2; failAt < 40 && !reached; ++failAt) {
+            const Starved later = Starve(text, failAt);
+            EXPECT_EQ(later.result, later.handed) << text << failAt; // 1 as soon as there is a record to hand over
+            EXPECT_TRUE(later.failed || later.handed == 1) << text;
+            reached = !later.failed;
         }
         EXPECT_TRUE(reached) << text;
     }
 }
 
+TEST(TypedText, WhatIsSmallNeedsNoHeap) {
+    for (const std::string& text :
+         {std::string(R"({"VideoStatSummary":{"Channel":1}})"), std::string(R"({"VideoAnalyseRule":[]})")}) {
+        const Starved starved = Starve(text, 1);
+        EXPECT_FALSE(starved.failed) << text;
+        EXPECT_EQ(starved.handed, 1) << text;
+    }
+}
+
+TEST(TypedText, EventsWithoutMemoryArePassedOver) {
+    const std::string text = std::string(R"({"Event":)") + kEvent + "}";
+    bool reached = false;
+    for (std::size_t failAt = 1; failAt < 40 && !reached; ++failAt) {
+        const Starved starved = Starve(text, failAt);
+        EXPECT_LE(starved.handed, 1) << failAt;
+        EXPECT_TRUE(starved.failed || starved.handed == 1);
+        reached = !starved.failed;
+    }
+    EXPECT_TRUE(reached);
+}
+
 TEST(TypedText, ATextOfManyElementsTakesBoundedMemory) {
     // Two bytes of text would become a record each.
     const std::string text = R"({"ObjectList":)" + Times(1 << 20, "0") + "}";
+    HeapWatch watch;
+    EXPECT_EQ(CodesIn(text), (Codes{0, {}}));
+    EXPECT_LE(watch.liveBlocks(), 0);
+    EXPECT_LT(watch.peakBytes(), (std::ptrdiff_t{64} << 20) + 300 * static_cast<std::ptrdiff_t>(text.size()));
+}
+
+TEST(TypedText, LanesBehindTheEighthTakeBoundedMemory) {
+    // Each number of the list makes room for a lane, and a lane has two linkages.
+    static_assert(sizeof(CFG_TRAFFICFLOW_LANE) > (std::size_t{128} << 10));
+    const std::string text = R"({"Config":)" + Times(1 << 16, "0") + R"(,"TrafficFlowStat":{"Period":5}})";
     HeapWatch watch;
     EXPECT_EQ(CodesIn(text), (Codes{0, {}}));
     EXPECT_LE(watch.liveBlocks(), 0);
