@@ -1,6 +1,10 @@
 /* What CLIENT_ParseDataByCallback hands to its callback besides analyzer events: the codes, and the record of each. The
  * keys stand in the value under the text's own key of that name. What a key that is absent leaves is 0; what is said of
- * records, blocks and texts in events_common.h holds here too. */
+ * records, blocks and texts in events_common.h holds here too.
+ *
+ * Not handed over are: a list without elements, a null and what is no list among them, with the result 1; a null under
+ * the other keys but "VideoAnalyseRule", with the result 0; and what there is no memory for, with the result 0. Records
+ * that would take more than 64 MiB and 64 bytes for each byte of the text count as such. */
 #ifndef ORRERY_EVENTS_TYPED_H
 #define ORRERY_EVENTS_TYPED_H
 
