@@ -43,13 +43,12 @@ NAMES(kProperties, kFolded,
 // The names of features in a rule's own settings, where case counts.
 constexpr NameTable kFeatures = FoldedNames(rules::kFaceFeaturesRows);
 
-NAMES(kCalibrates, kFolded,
-      {
-          {CFG_CALIBRATE_GROUND, "Groud"},
-          {CFG_CALIBRATE_HORIZONTAL, "Horizontal"},
-          {CFG_CALIBRATE_VERTICAL, "Vertical"},
-          {CFG_CALIBRATE_ANY, "Any"},
-      });
+constexpr Name kCalibrates[] = {
+    {CFG_CALIBRATE_GROUND, "Groud"},
+    {CFG_CALIBRATE_HORIZONTAL, "Horizontal"},
+    {CFG_CALIBRATE_VERTICAL, "Vertical"},
+    {CFG_CALIBRATE_ANY, "Any"},
+};
 
 NAMES(kAnalyseModes, kFolded.UnknownLeaves(),
       {
@@ -86,7 +85,7 @@ PART(kCalibrateCaps, CFG_CALIBRATE_CAPS,
 // Each way that is there takes the next entry, in the order of their codes; other members are no way.
 void ReadCalibrates(const Field& field, const Value& value, std::byte* record, ReadCall& call) {
     std::uint32_t count = 0;
-    for (const Name& way : kCalibratesRows) {
+    for (const Name& way : kCalibrates) {
         const Value& staffs = value[way.text];
         if (staffs.isNull()) continue;
         std::byte* const at = record + field.offset + count++ * field.elementSize;
