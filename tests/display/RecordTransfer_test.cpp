@@ -127,7 +127,7 @@ Speeds Read(const std::string& table, int room = 4, const char* result = "true")
     EXPECT_EQ(records[0].pnSpeeds, record.pnSpeeds);
     EXPECT_EQ(records[0].nMaxCount, record.nMaxCount);
     speeds.numbers.resize(size);
-    std::memcpy(speeds.numbers.data(), memory.data(), size * sizeof kOld);
+    if (size > 0) std::memcpy(speeds.numbers.data(), memory.data(), size * sizeof kOld);
     return speeds;
 }
 
