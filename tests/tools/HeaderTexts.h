@@ -29,6 +29,9 @@ inline const HeaderTexts& Headers() {
                 text.append(part, got);
             EXPECT_EQ(pclose(pipe), 0) << command;
         }
+        // Some compilers keep the ends of a macro's lines within its comments.
+        for (std::size_t at = 0; (at = text.find("\\\n", at)) != std::string::npos;)
+            text.erase(at, 1);
         const HeaderScanner scanner(text);
         HeaderTexts texts;
         for (const HeaderRecord& record : scanner.records)
