@@ -71,6 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     choice.allocation = static_cast<std::uint16_t>(sizeChoice / 4);
     fuzz::Circumstances around(choice);
     static char room[kMostText];
+    // A text without a terminator ends where the buffer was clear.
+    if (command.packFrame.capacity == Capacity::Bare) std::memset(room, 0, sizeof room);
     PackRequest request{record.get(), static_cast<std::uint32_t>(records), room, kMostText};
     const Outcome outcome = RunPack(command, request);
     if (outcome == Outcome::OutOfMemory && !around.memoryFailed()) std::abort();
