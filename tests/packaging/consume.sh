@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds and runs a client against an installed prefix, in a fresh folder.
-# consume.sh find_package|pkg_config C|CXX COMPILER PREFIX WORK_DIR
+# consume.sh find_package|static|pkg_config C|CXX COMPILER PREFIX WORK_DIR
 set -euo pipefail
 way=$1 language=$2 compiler=$3 prefix=$4 work=$5
 here=$(cd "$(dirname "$0")" && pwd)
@@ -8,9 +8,11 @@ rm -rf "$work"
 mkdir -p "$work"
 
 case $way in
-find_package)
+find_package | static)
+    library=orrery
+    [ "$way" = find_package ] || library=orrery_static
     cmake -S "$here/find_package" -B "$work" -G Ninja "-DCMAKE_PREFIX_PATH=$prefix" "-DCONSUMER_LANGUAGE=$language" \
-        "-DCMAKE_${language}_COMPILER=$compiler" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
+        "-DCONSUMER_LIBRARY=$library" "-DCMAKE_${language}_COMPILER=$compiler" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
     cmake --build "$work"
     ;;
 pkg_config)
@@ -27,6 +29,13 @@ pkg_config)
     ;;
 esac
 "$work/consumer"
+if [ "$way" = static ]; then
+    if ldd "$work/consumer" | grep liborrery; then
+        echo "the client needs a library to load" >&2
+        exit 1
+    fi
+    exit 0
+fi
 # The client must have used the library of the prefix, not one that happens to lie around on the machine.
 used=$(ldd "$work/consumer" | awk '$1 ~ /^liborrery\.so/ { print $3 }')
 [ -n "$used" ] || { echo "the client is not linked to liborrery.so" >&2; exit 1; }
