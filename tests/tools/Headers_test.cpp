@@ -70,8 +70,8 @@ bool HasAnotherKey(const Tables& tables, const Table& table, const Field& field)
 }
 
 void Compare(const Tables& tables, const Table& table, std::vector<std::string>& findings) {
-    const auto found = test::Headers().records.find(table.record);
-    if (found == test::Headers().records.end()) {
+    const headers::Record* const found = headers::FindRecord(table.record);
+    if (found == nullptr) {
         findings.push_back(std::string(table.record) + " stands in no header");
         return;
     }
@@ -80,13 +80,12 @@ void Compare(const Tables& tables, const Table& table, std::vector<std::string>&
     for (const Field& field : table) {
         if (field.size == 0 || field.name[0] == '\0') continue; // no member
         const std::string place = std::string(table.record) + "." + field.name;
-        const test::HeaderMember* const member =
-            found->second.Find(std::string_view(field.name).substr(0, std::string_view(field.name).find('.')));
+        const headers::Member* const member = found->Find(field.name);
         if (member == nullptr) {
             findings.push_back(place + " stands in no header");
             continue;
         }
-        const std::string word = test::WordOf(found->second, *member);
+        const std::string_view word = member->doc;
         const std::vector<std::string> quoted = test::QuotedKeys(word);
         if (HasKey(field)) {
             const bool isSecond = field.alias || field.kind == Kind::Presence || member->name != field.name
@@ -96,7 +95,7 @@ void Compare(const Tables& tables, const Table& table, std::vector<std::string>&
                                                  [&](const std::string& each) { return Names(each, table, field); })
                                    : !quoted.empty() && Names(quoted.front(), table, field);
             if (!named) {
-                findings.push_back(place + " has the key \"" + field.key + "\", but its comment says: " + word);
+                findings.push_back(place + " has the key \"" + field.key + "\", but its comment says: " + member->doc);
             }
         } else if (word.empty()) {
             if (!IsOfNamedKind(table, field)) {
@@ -109,50 +108,18 @@ void Compare(const Tables& tables, const Table& table, std::vector<std::string>&
                        && (Names(quoted.front(), table, other)
                            || std::string_view(other.key).starts_with(quoted.front() + "/"));
             });
-            if (!isOfTable) findings.push_back(place + " has no key, but its comment says: " + word);
+            if (!isOfTable) findings.push_back(place + " has no key, but its comment says: " + member->doc);
         }
     }
 }
 
-TEST(Headers, AreReadAsWritten) {
-    const test::HeaderScanner scanner(R"(
-extern "C" {
-/*
- * nShared, nOther  "Told once",
- *                  on two lines */
-# 7 "file.h"
-/* "Command": first
- * and second line. */
-typedef struct FIRST_INFO {
-    int32_t nPort; /* "Port": 1 to
-                      65535 */
-    /* Above. */
-    char szName[64 /* of a constant */];
-    int32_t nSlot[2]; /* "Address"."Slot", "Old" */ uint8_t bLast /* of a macro's last member */;
-    const char* pszText;
-} FIRST_INFO;
-typedef struct SECOND_INFO { int32_t nChannels[4][2]; /* "Lists"[..]."Channel" */ } SECOND_INFO;
-}
-)");
-    ASSERT_EQ(scanner.records.size(), 2U);
-    const test::HeaderRecord& first = scanner.records[0];
-    EXPECT_EQ(first.name, "FIRST_INFO");
-    EXPECT_TRUE(first.comment.ends_with("\"Command\": first and second line."));
-    ASSERT_EQ(first.members.size(), 5U);
-    EXPECT_EQ(first.Find("nPort")->behind, "\"Port\": 1 to 65535");
-    EXPECT_EQ(first.Find("szName")->behind, "");
-    EXPECT_EQ(first.Find("szName")->above, "Above.");
-    EXPECT_EQ(test::QuotedKeys(first.Find("nSlot")->behind), (std::vector<std::string>{"Address/Slot", "Old"}));
-    EXPECT_EQ(first.Find("bLast")->behind, "of a macro's last member");
-    EXPECT_EQ(first.Find("pszText")->behind, "");
-    EXPECT_EQ(test::QuotedKeys(scanner.records[1].Find("nChannels")->behind),
-              std::vector<std::string>{"Lists/Channel"});
-    EXPECT_EQ(scanner.shared.at("nShared"), "\"Told once\", on two lines");
-    EXPECT_EQ(scanner.shared.at("nOther"), "\"Told once\", on two lines");
+TEST(Headers, QuoteKeysWithinKeys) {
+    EXPECT_EQ(test::QuotedKeys(R"("Address"."Slot", "Old")"), (std::vector<std::string>{"Address/Slot", "Old"}));
+    EXPECT_EQ(test::QuotedKeys(R"("Lists"[..]."Channel")"), std::vector<std::string>{"Lists/Channel"});
 }
 
 TEST(Headers, QuoteEachMembersKey) {
-    ASSERT_GT(test::Headers().records.size(), 200U);
+    ASSERT_GT(headers::Records().size(), 200U);
     std::vector<std::string> findings;
     const Tables tables;
     for (const Table* const table : tables.all)
@@ -194,13 +161,13 @@ TEST(Headers, AreOfTheProjectsVersion) {
 // Also in records that no table describes, such as those that functions read.
 TEST(Headers, SayAWordOfEachMember) {
     const Tables tables;
-    for (const auto& [name, record] : test::Headers().records) {
-        const bool isOurs = name.starts_with("CFG_") || name.starts_with("EVENT_") || name.starts_with("NET_");
-        if (!isOurs || !tables.Of(name).empty()) continue;
-        for (const test::HeaderMember& member : record.members) {
-            const bool isFlag = member.name.starts_with("ab") && record.Find("n" + member.name.substr(2)) != nullptr;
-            if (isFlag || member.name.find("Reserved") != std::string::npos || member.name == "dwSize") continue;
-            EXPECT_NE(test::WordOf(record, member), "") << name << "." << member.name;
+    for (const headers::Record& record : headers::Records()) {
+        if (!tables.Of(record.name).empty()) continue;
+        for (const headers::Member& member : record.members) {
+            const std::string name = member.name;
+            const bool isFlag = name.starts_with("ab") && record.Find("n" + name.substr(2)) != nullptr;
+            if (isFlag || name.find("Reserved") != std::string::npos || name == "dwSize") continue;
+            EXPECT_STRNE(member.doc, "") << record.name << "." << name;
         }
     }
 }
@@ -208,11 +175,11 @@ TEST(Headers, SayAWordOfEachMember) {
 // Who looks for a command finds its record, and there what the command does otherwise than all.
 TEST(Headers, NameEachCommandAboveItsRecord) {
     for (const Command& command : Commands()) {
-        const auto record = test::Headers().records.find(command.table->record);
-        ASSERT_NE(record, test::Headers().records.end()) << command.name;
-        EXPECT_NE(record->second.comment.find("\"" + std::string(command.name) + "\""), std::string::npos)
+        const headers::Record* const record = headers::FindRecord(command.table->record);
+        ASSERT_NE(record, nullptr) << command.name;
+        EXPECT_NE(std::string_view(record->doc).find("\"" + std::string(command.name) + "\""), std::string::npos)
             << command.table->record << " serves \"" << command.name
-            << "\", but the comment above it says: " << record->second.comment;
+            << "\", but the comment above it says: " << record->doc;
     }
 }
 
