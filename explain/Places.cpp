@@ -248,7 +248,8 @@ void Scan::Run(const Value& root) {
             }
             if (!open.isObject) {
                 key = keyEnd = At(p);
-                const bool isThere = open.value != nullptr && open.value->type() == Type::Array && open.next < open.value->size();
+                const bool isThere =
+                    open.value != nullptr && open.value->type() == Type::Array && open.next < open.value->size();
                 current = isThere ? &(*open.value)[open.next] : nullptr;
                 ++open.next;
                 break;

@@ -113,11 +113,13 @@ class Translation {
     Translation(const Command* command, const Value& root, std::uint32_t records) : command_(command) {
         if (command_ == nullptr) return;
         const Table& table = *command_->table;
-        records_ = std::clamp<std::uint32_t>(records, 1, static_cast<std::uint32_t>(std::max<std::size_t>(1, kLargestBuffer / table.size)));
+        records_ = std::clamp<std::uint32_t>(
+            records, 1, static_cast<std::uint32_t>(std::max<std::size_t>(1, kLargestBuffer / table.size)));
         if (command_->parse == Command::Frame::Family && command_->parseFrame.exactSize) records_ = 1;
         if (table.items != nullptr) {
-            const Value& rules = command_->parseFrame.source == Source::Top ? FindValue(Source::Top, command_->parseFrame.name, root)
-                                                                           : FindValue(Source::Table, "", root);
+            const Value& rules = command_->parseFrame.source == Source::Top
+                                     ? FindValue(Source::Top, command_->parseFrame.name, root)
+                                     : FindValue(Source::Table, "", root);
             itemBytes_ = std::max<std::uint32_t>(RuleArraySizeNeeded(rules), 64);
         }
     }

@@ -64,6 +64,7 @@ class Walk {
     void Shared(const record::Table& table, const record::Node* first, const record::Node* end,
                 const json::Value& value, const Path& path);
     void Node(const record::Table& table, const record::Node& node, const json::Value& value, const Path& path);
+    Finding& UnknownKey(const json::Member& member, const Path& path, std::string field, bool isTried);
     void Unknown(const record::Table& table, record::NodeRange range, const json::Member& member, const Path& path);
     void Row(const Site& site, const json::Value& value);
     void List(const Site& site, int level, const json::Value& value);
@@ -90,8 +91,9 @@ class Walk {
     int functionsAround_ = 0; // records around this one whose functions may look at any of its keys
 };
 
-// Names the nearest key that is read, for an unknown one.
+// Names the nearest key that is read, for an unknown one: among its object's, once it is told, or among these.
 void AddNearest(Finding& finding);
+void AddNearest(Finding& finding, const std::vector<std::string_view>& keys);
 
 // Whether functions of the table look at the record's object as a whole.
 bool LooksAround(const record::Table& table);

@@ -18,7 +18,7 @@ format=$(command -v clang-format-14 || true)
     echo "format: clang-format-14 is not installed (scripts/install-deps.sh)" >&2
     exit 1
 }
-mapfile -d '' files < <(find bench examples fuzz include src tests tools -type f \
+mapfile -d '' files < <(find bench examples explain fuzz include src tests tools -type f \
     \( -name '*.c' -o -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null | sort -z)
 [ ${#files[@]} -gt 0 ] || { echo "format: no files found" >&2; exit 1; }
 printf '%s\0' "${files[@]}" | xargs -0 "$format" --style=file "${how[@]}"

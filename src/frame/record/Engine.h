@@ -108,6 +108,9 @@ void ReadRootFields(const Table& table, std::byte* record, ReadCall& call) noexc
 // One row from the value at its key; null when there is none.
 void ReadField(const Field& field, const json::Value& value, std::byte* record, ReadCall& call) noexcept;
 
+// Whether a value is of the type that a row reads alone.
+bool IsOfType(OnlyType only, const json::Value& value) noexcept;
+
 // Writes a record as one value; null when none of its rows writes anything.
 void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept;
 // Writes records as one object, each under its member name, in the order of the names. Of equal names the last stands.

@@ -26,26 +26,6 @@ Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSiz
     return {first, static_cast<std::uint32_t>(std::min<std::int64_t>(room, UINT32_MAX))};
 }
 
-bool IsOfType(OnlyType only, const Value& value) noexcept {
-    switch (only) {
-    case OnlyType::Any:
-        return true;
-    case OnlyType::String:
-        return value.isString();
-    case OnlyType::Bool:
-        return value.isBool();
-    case OnlyType::Integer:
-        return value.isInt();
-    case OnlyType::Unsigned:
-        return value.isUInt();
-    case OnlyType::Integral:
-        return value.isIntegral();
-    case OnlyType::Array:
-        return value.type() == json::Type::Array;
-    }
-    return true;
-}
-
 void ReadBitMask(const Field& field, const Value& value, std::byte* at) noexcept {
     const std::int32_t bits = static_cast<std::int32_t>(field.dims[0]) * 32;
     const auto elements = value.elements();
@@ -326,6 +306,26 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
 }
 
 } // namespace
+
+bool IsOfType(OnlyType only, const Value& value) noexcept {
+    switch (only) {
+    case OnlyType::Any:
+        return true;
+    case OnlyType::String:
+        return value.isString();
+    case OnlyType::Bool:
+        return value.isBool();
+    case OnlyType::Integer:
+        return value.isInt();
+    case OnlyType::Unsigned:
+        return value.isUInt();
+    case OnlyType::Integral:
+        return value.isIntegral();
+    case OnlyType::Array:
+        return value.type() == json::Type::Array;
+    }
+    return true;
+}
 
 void ReadField(const Field& field, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (!field.readable || (value.isNull() && !field.always)) return;
