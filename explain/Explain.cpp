@@ -2,6 +2,7 @@
 
 #include "explain/Places.h"
 #include "explain/Tries.h"
+#include "explain/Wanted.h"
 
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleBodyMap.h"
@@ -23,45 +24,8 @@ using json::Value;
 namespace {
 
 // What stands around the value of any reply.
-const std::vector<std::string_view> kEnvelope = {"SID",    "error",  "id",     "method",  "object",
+const std::vector<std::string_view> kEnvelope = {"SID",    "error",  "id",  "method", "object",
                                                  "params", "result", "seq", "session"};
-
-std::string ResultWanted(ResultTest test) {
-    switch (test) {
-    case ResultTest::FalseRefuses:
-        return "true, or absent";
-    case ResultTest::ExactBool:
-        return "exactly true";
-    case ResultTest::IntegerNonZero:
-        return "a number other than 0";
-    case ResultTest::TextTrue:
-        return "true or \"true\"";
-    default:
-        return "true";
-    }
-}
-
-std::string Wanted(Take take) {
-    switch (take) {
-    case Take::OneOrMany:
-        return "an object, or a list of records";
-    case Take::Many:
-        return "a list of records";
-    case Take::List:
-    case Take::ListOrNone:
-        return "a list";
-    case Take::ListOrLists:
-    case Take::ListOrListsOrBlank:
-        return "a list, or a list of lists";
-    case Take::ByMember:
-    case Take::ByMemberOrNone:
-        return "an object with a record a member";
-    case Take::Text:
-        return "a text";
-    default:
-        return "a record";
-    }
-}
 
 class Text {
   public:
@@ -100,10 +64,9 @@ bool Text::Parse(bool isFatal) {
     if (json::Parse(text_, document_.arena, document_.root, &error)) return true;
     if (document_.arena.failed()) throw std::bad_alloc();
     const bool isEmpty = text_.find_first_not_of(" \t\r\n") == std::string_view::npos;
-    Finding& finding = walk_.Add(ORRERY_FINDING_NOT_JSON, isFatal ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST,
-                                 document_.root, root_,
-                                 isEmpty ? "the text is empty"
-                                         : Expected(error.message == nullptr ? "" : error.message));
+    Finding& finding =
+        walk_.Add(ORRERY_FINDING_NOT_JSON, isFatal ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, document_.root, root_,
+                  isEmpty ? "the text is empty" : Expected(error.message == nullptr ? "" : error.message));
     finding.at = nullptr;
     finding.offset = std::min(error.offset, text_.size());
     if (finding.offset == text_.size() && !isEmpty) finding.message += "; the text ends here";
@@ -184,16 +147,17 @@ void Text::Error() {
     if (!code.isNull()) said += "code " + Shown(code);
     if (message.isString()) said += (said.empty() ? "" : ", ") + Quoted(message.asString());
     if (said.empty()) said = Shown(error);
-    walk_.Add(ORRERY_FINDING_DEVICE_ERROR, ORRERY_FINDING_NOTE, error, root_.Member("error"), "the device says: " + said);
+    walk_.Add(ORRERY_FINDING_DEVICE_ERROR, ORRERY_FINDING_NOTE, error, root_.Member("error"),
+              "the device says: " + said);
 }
 
 void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, const Path& path) {
     const record::Table& table = *command_->table;
     const auto tooMany = [&](std::uint32_t count) {
-        Finding& finding = walk_.Add(ORRERY_FINDING_ELEMENTS_DROPPED,
-                                     frame.allMustFit ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, value, path,
-                                     std::to_string(count) + " records, and room for " + std::to_string(room_)
-                                         + (frame.allMustFit ? ": the call takes all or none" : ": the others are dropped"));
+        Finding& finding = walk_.Add(
+            ORRERY_FINDING_ELEMENTS_DROPPED, frame.allMustFit ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, value, path,
+            std::to_string(count) + " records, and room for " + std::to_string(room_)
+                + (frame.allMustFit ? ": the call takes all or none" : ": the others are dropped"));
         finding.lost = count - room_;
         explanation_.isRefused = explanation_.isRefused || frame.allMustFit;
     };
@@ -223,7 +187,8 @@ void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, cons
         for (const json::Member& member : value.members()) {
             const Path inner = path.Member(member.key());
             if (member.value.isNull()) {
-                walk_.Add(ORRERY_FINDING_NULL, ORRERY_FINDING_NOTE, member.value, inner, "null: no record of that name");
+                walk_.Add(ORRERY_FINDING_NULL, ORRERY_FINDING_NOTE, member.value, inner,
+                          "null: no record of that name");
                 continue;
             }
             walk_.record = count++;
@@ -256,7 +221,8 @@ void Text::Reply() {
     const Value& root = document_.root;
     Error();
     if (root.type() != Type::Object) {
-        Refuses(ORRERY_FINDING_WRONG_SHAPE, root, root_, std::string("the reply is ") + TypeName(root) + ", not an object");
+        Refuses(ORRERY_FINDING_WRONG_SHAPE, root, root_,
+                std::string("the reply is ") + TypeName(root) + ", not an object");
         return;
     }
     if (!ResultPasses(frame.result, root["result"])) {
@@ -285,7 +251,9 @@ void Text::Reply() {
     if (value.isNull() || isEmptyList) {
         const bool isFatal = !isTable && frame.nullValue == NullValue::Fails;
         const Value& params = root["params"];
-        const Value& nearest = !value.isNull() ? value : frame.source != Source::Top && !params.isNull() ? params : root;
+        const Value& nearest = !value.isNull()                                   ? value
+                               : frame.source != Source::Top && !params.isNull() ? params
+                                                                                 : root;
         walk_.Add(ORRERY_FINDING_NO_VALUE, isFatal ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, nearest, path,
                   isEmptyList ? "the list is empty: no record" : "there is nothing here: no record is read");
         explanation_.isRefused = isFatal;
@@ -293,7 +261,8 @@ void Text::Reply() {
         return;
     }
     if (holds == Holds::WrongShape) {
-        Refuses(ORRERY_FINDING_WRONG_SHAPE, value, path, Shown(value) + " where the command takes " + Wanted(frame.take));
+        Refuses(ORRERY_FINDING_WRONG_SHAPE, value, path,
+                Shown(value) + " where the command takes " + Wanted(frame.take));
         return;
     }
     Value_(frame, holds, value, path);
@@ -331,13 +300,15 @@ void Text::Rules() {
         const auto code = static_cast<std::uint32_t>(RuleCodeFromName(type.asString()));
         const RuleBody* const body = FindRuleBody(code);
         if (type.isNull() || body == nullptr || !body->isRead) {
-            std::string message = type.isNull() ? "the rule names no \"Type\"" : "no rule is of the type " + Shown(type);
+            std::string message =
+                type.isNull() ? "the rule names no \"Type\"" : "no rule is of the type " + Shown(type);
             if (names.empty())
                 for (const RuleBody& known : RuleBodies())
                     names.push_back(RuleNameOf(static_cast<std::int32_t>(known.code), false));
             const auto near = type.isString() ? Nearest(type.asString(), names) : std::vector<std::string_view>{};
             if (!near.empty()) message += "; the nearest is " + Quoted(near.front());
-            Refuses(ORRERY_FINDING_UNKNOWN_ITEM, type.isNull() ? rule : type, inner.Member("Type"), message + ": all rules are refused");
+            Refuses(ORRERY_FINDING_UNKNOWN_ITEM, type.isNull() ? rule : type, inner.Member("Type"),
+                    message + ": all rules are refused");
             if (!near.empty()) explanation_.findings.back().nearest = near.front();
             continue;
         }
@@ -368,8 +339,8 @@ void Text::Events() {
     for (const Value& event : list.elements()) {
         if (at == kMostEvents) {
             Finding& finding = walk_.Add(ORRERY_FINDING_ELEMENTS_DROPPED, ORRERY_FINDING_LOST, list, path,
-                                         std::to_string(list.size()) + " events, of which " + std::to_string(kMostEvents)
-                                             + " are read: the others are dropped");
+                                         std::to_string(list.size()) + " events, of which "
+                                             + std::to_string(kMostEvents) + " are read: the others are dropped");
             finding.lost = list.size() - kMostEvents;
             break;
         }
@@ -378,8 +349,11 @@ void Text::Events() {
         const Value& data = event["Data"];
         const auto code = static_cast<std::uint32_t>(RuleCodeFromName(name.asString().substr(0, 127)));
         const events::EventRow* row = events::FindEvent(code);
-        const auto passedOver = [&](const Value& where, const Path& place, std::string message, const std::string& nearest = {}) {
-            walk_.Add(ORRERY_FINDING_UNKNOWN_ITEM, ORRERY_FINDING_LOST, where, place, std::move(message) + ": the event is passed over")
+        const auto passedOver = [&](const Value& where, const Path& place, std::string message,
+                                    const std::string& nearest = {}) {
+            walk_
+                .Add(ORRERY_FINDING_UNKNOWN_ITEM, ORRERY_FINDING_LOST, where, place,
+                     std::move(message) + ": the event is passed over")
                 .nearest = nearest;
         };
         if (row == nullptr) {
@@ -392,7 +366,8 @@ void Text::Events() {
                     names.push_back(known.name);
             const auto near = name.isString() ? Nearest(name.asString(), names) : std::vector<std::string_view>{};
             passedOver(name, inner.Member("Code"),
-                       "no event is named " + Shown(name) + (near.empty() ? "" : "; the nearest is " + Quoted(near.front())),
+                       "no event is named " + Shown(name)
+                           + (near.empty() ? "" : "; the nearest is " + Quoted(near.front())),
                        near.empty() ? std::string() : std::string(near.front()));
             continue;
         }
@@ -402,8 +377,9 @@ void Text::Events() {
         }
         const Value& action = event["Action"];
         if (!action.isNull() && actions.Find(action.asString()) == nullptr) {
-            walk_.Add(ORRERY_FINDING_UNKNOWN_TEXT, ORRERY_FINDING_LOST, action, inner.Member("Action"),
-                      Shown(action) + " is no action: the event acts as the one before; known are Pulse, Start, Stop")
+            walk_
+                .Add(ORRERY_FINDING_UNKNOWN_TEXT, ORRERY_FINDING_LOST, action, inner.Member("Action"),
+                     Shown(action) + " is no action: the event acts as the one before; known are Pulse, Start, Stop")
                 .nearest = "Pulse, Start, Stop";
         }
         if (row->rename != nullptr) row = events::FindEvent(row->rename(data));
@@ -434,15 +410,17 @@ void Text::Finish() {
             if (finding.at == &json::kNull) finding.at = &document_.root;
         if (!findings.empty() || hasDuplicates) {
             FindPlaces(text_.substr(0, skimmed.end), document_.root, document_.arena, hasDuplicates, findings);
-            const bool isTried = std::any_of(findings.begin(), findings.end(), [](const Finding& each) { return each.isTried; });
+            const bool isTried =
+                std::any_of(findings.begin(), findings.end(), [](const Finding& each) { return each.isTried; });
             if (!tries_)
                 std::erase_if(findings, [](const Finding& each) { return each.isTried; });
             else if (isTried && !explanation_.isRefused)
                 DropWhatIsRead(command_, text_.substr(0, skimmed.end), document_.root, records_, findings);
         }
         if (behind < text_.size()) {
-            Finding& finding = walk_.Add(ORRERY_FINDING_TRAILING_TEXT, ORRERY_FINDING_NOTE, document_.root, root_,
-                                         "nobody reads what stands behind the document: " + Quoted(text_.substr(behind, 40)));
+            Finding& finding =
+                walk_.Add(ORRERY_FINDING_TRAILING_TEXT, ORRERY_FINDING_NOTE, document_.root, root_,
+                          "nobody reads what stands behind the document: " + Quoted(text_.substr(behind, 40)));
             finding.offset = behind;
             finding.length = text_.size() - behind;
         }
@@ -474,18 +452,6 @@ Explanation Text::Explain() {
 }
 
 } // namespace
-
-std::string Expected(std::string_view message) {
-    const auto has = [&](std::string_view part) { return message.find(part) != std::string_view::npos; };
-    if (has("value, object or array expected"))
-        return "expected a value: an object, an array, a text in quotes, a number, true, false or null";
-    if (has("array declaration")) return "expected ',' or ']' in this array";
-    if (has("object declaration")) return "expected ',' or '}' in this object";
-    if (has("Missing ':'")) return "expected ':' behind the member's name";
-    if (has("object member name")) return "expected '}' or the name of a member, in quotes";
-    if (has("is not a number")) return "expected a number; this is none";
-    return std::string(message);
-}
 
 Explanation ExplainReply(const Command& command, std::string_view text, std::uint32_t records, bool tries) {
     return Text(&command, text, records, tries).Explain();

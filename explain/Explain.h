@@ -22,7 +22,4 @@ struct Explanation {
 Explanation ExplainReply(const Command& command, std::string_view text, std::uint32_t records = 0, bool tries = true);
 Explanation ExplainEvents(std::string_view text, bool tries = true);
 
-// What a syntax error of the reader means to the text's author.
-std::string Expected(std::string_view message);
-
 } // namespace orrery::explain

@@ -68,7 +68,7 @@ TEST(Describe, ShowsCommandsAndRecords) {
               std::string::npos);
     const auto point = Describe("cfg_point");
     ASSERT_TRUE(point);
-    EXPECT_EQ(point->find("CFG_POINT, 8 bytes; in the text an array of exactly its keyless values\n"), 0U);
+    EXPECT_EQ(point->find("CFG_POINT, 8 bytes; in the text a list of exactly its keyless values\n"), 0U);
     EXPECT_FALSE(Describe("no such thing"));
 }
 

@@ -162,7 +162,7 @@ TEST(FillRecord, MakesRoomBehindPointers) {
 }
 
 TEST(FillRecord, RefusesWithThePath) {
-    EXPECT_EQ(Refusal("[]"), "an object with the fields of SAMPLE_INFO expected, not an array");
+    EXPECT_EQ(Refusal("[]"), "an object with the fields of SAMPLE_INFO expected, not a list");
     EXPECT_EQ(Refusal(R"({"emColr": 1})"), "emColr: no such field in SAMPLE_INFO; did you mean emColor?");
     EXPECT_EQ(Refusal(R"({"stuGrid": [[], [{}, {"nvalu": 1}]]})"),
               "stuGrid[1][1].nvalu: no such field in SAMPLE_ITEM; did you mean nValue?");

@@ -225,14 +225,14 @@ TEST(Refusals, UnknownCommand) {
 }
 
 TEST(Refusals, SyntaxErrorsWithTheirPlace) {
-    const std::string value = "expected a value: an object, an array, a text in quotes, a number, true, false or null";
+    const std::string value = "expected a value: an object, a list, a text in quotes, a number, true, false or null";
     ExpectRefused(ParseText("PwdReset", ""), "the text is empty: " + value);
     ExpectRefused(ParseText("PwdReset", "{ \"a\" : tru }"),
                   "line 1, column 9: " + value + "\n  { \"a\" : tru }\n          ^");
     ExpectRefused(ParseText("PwdReset", "{\r\n\t\"\xc3\xa9\" 1 }"),
                   "line 2, column 6: expected ':' behind the member's name\n  ?\"\xc3\xa9\" 1 }\n       ^");
     ExpectRefused(ParseText("PwdReset", "[ 1, 2"),
-                  "line 1, column 7: expected ',' or ']' in this array (the text ends here)\n  [ 1, 2\n        ^");
+                  "line 1, column 7: expected ',' or ']' in this list (the text ends here)\n  [ 1, 2\n        ^");
     ExpectRefused(ParseText("PwdReset", "{ \"a\" : 1; }"),
                   "line 1, column 10: expected ',' or '}' in this object\n  { \"a\" : 1; }\n           ^");
     ExpectRefused(ParseText("PwdReset", "{ a : 1 }"),
@@ -257,7 +257,7 @@ TEST(Refusals, RefusedResult) {
     ExpectRefused(ParseText("PwdReset", R"({"params":{}})"),
                   "the reply has no \"result\" (it has \"params\"); this command wants true");
     ExpectRefused(ParseText("PwdReset", "[]"),
-                  "the reply is an array, not an object with \"result\"; this command wants true");
+                  "the reply is a list, not an object with \"result\"; this command wants true");
     ExpectRefused(ParseText("alarm.getAlarmCaps", R"({"result":1})"),
                   "the device refused the call: \"result\" is 1; this command wants true or \"true\"");
 }

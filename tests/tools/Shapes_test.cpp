@@ -70,13 +70,13 @@ TEST(Shapes, AListHasAsMuchRoomAsItNeeds) {
 
 TEST(Shapes, WrongShapesAreNamed) {
     EXPECT_EQ(ParseText(Make(kPlace, kMany), Envelope("3")).err,
-              "orrery: \"params.table\" is a number; Shape takes an array of records\n");
+              "orrery: \"params.table\" is a number; Shape takes a list of records\n");
     EXPECT_EQ(ParseText(Make(kPlace, ParseFrame().Takes(Take::OneOrMany)), Envelope("\"x\"")).err,
-              "orrery: \"params.table\" is a text; Shape takes an object, or an array of records\n");
+              "orrery: \"params.table\" is a text; Shape takes an object, or a list of records\n");
     EXPECT_EQ(ParseText(Make(kPlace, ParseFrame().From(Source::Params, "info").Takes(Take::ByMember)),
                         R"({"result":true,"params":{"info":[1]}})")
                   .err,
-              "orrery: \"params.info\" is an array; Shape takes an object with a record a member\n");
+              "orrery: \"params.info\" is a list; Shape takes an object with a record a member\n");
     EXPECT_EQ(ParseText(Make(kPlace, kMany), Envelope("[]")).err,
               "orrery: \"params.table\" is empty: no record in the reply\n");
     EXPECT_EQ(ParseText(Make(kPlace, ParseFrame().From(Source::Top, "info")), R"({"result":true})").err,

@@ -104,10 +104,10 @@ std::string Wrapped(std::string_view text, std::size_t indent) {
 
 std::string DescribeTable(const Tables& tables, const Table& table) {
     std::string text = tables.LabelOf(table) + ", " + std::to_string(table.size) + " bytes";
-    if (table.shape == Shape::Tuple) text += "; in the text an array of exactly its keyless values";
-    if (table.shape == Shape::LooseTuple) text += "; in the text an array of its values, missing ones read as nothing";
+    if (table.shape == Shape::Tuple) text += "; in the text a list of exactly its keyless values";
+    if (table.shape == Shape::LooseTuple) text += "; in the text a list of its values, missing ones read as nothing";
     if (table.guarded) text += "; used only while its size word is right";
-    if (table.takesFirst) text += "; also the first element of an array";
+    if (table.takesFirst) text += "; also the first element of a list";
     if (table.clearsFlags) text += "; the flags of absent keys become 0";
     if (table.writes != nullptr) text += "; a function tells which are written";
     if (table.afterRead != nullptr) text += "; a function completes what was read";

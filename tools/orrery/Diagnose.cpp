@@ -4,6 +4,7 @@
 #include "orrery/Output.h"
 #include "orrery/Suggest.h"
 
+#include "explain/Wanted.h"
 #include "frame/json/TextWriter.h"
 
 #include <algorithm>
@@ -21,19 +22,6 @@ bool IsContinuation(char c) {
 }
 std::size_t CharacterCount(std::string_view text) {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) { return !IsContinuation(c); }));
-}
-
-// What the reader says, in words of what should have stood there.
-std::string Expected(std::string_view message) {
-    const auto has = [&](std::string_view part) { return message.find(part) != std::string_view::npos; };
-    if (has("value, object or array expected"))
-        return "expected a value: an object, an array, a text in quotes, a number, true, false or null";
-    if (has("array declaration")) return "expected ',' or ']' in this array";
-    if (has("object declaration")) return "expected ',' or '}' in this object";
-    if (has("Missing ':'")) return "expected ':' behind the member's name";
-    if (has("object member name")) return "expected '}' or the name of a member, in quotes";
-    if (has("is not a number")) return "expected a number; this is none";
-    return std::string(message);
 }
 
 // A short text of a value, for messages.
@@ -59,20 +47,8 @@ std::string KeysOf(const Value& object) {
 }
 
 std::string ResultWanted(const Command& command) {
-    if (command.parse != Command::Frame::Family) return "true";
-    switch (command.parseFrame.result) {
-    case ResultTest::FalseRefuses:
-    case ResultTest::Verdict:
-        return "true, or absent";
-    case ResultTest::ExactBool:
-        return "exactly true";
-    case ResultTest::IntegerNonZero:
-        return "a number other than 0";
-    case ResultTest::TextTrue:
-        return "true or \"true\"";
-    default:
-        return "true";
-    }
+    return explain::ResultWanted(command.parse == Command::Frame::Family ? command.parseFrame.result
+                                                                         : ResultTest::MustBeTrue);
 }
 
 std::string ExplainRefusal(const Command& command, const Value& root) {
@@ -99,26 +75,6 @@ std::string ExplainNoValue(const Reply& reply, const Value& root) {
     return "no \"" + reply.path + "\" in the reply (\"params\" has " + KeysOf(params) + ")";
 }
 
-std::string Wanted(Take take) {
-    switch (take) {
-    case Take::OneOrMany:
-        return "an object, or an array of records";
-    case Take::Many:
-        return "an array of records";
-    case Take::List:
-    case Take::ListOrNone:
-        return "an array";
-    case Take::ListOrLists:
-        return "an array, or an array of arrays";
-    case Take::ByMember:
-        return "an object with a record a member";
-    case Take::Text:
-        return "a text";
-    default:
-        return "another one";
-    }
-}
-
 } // namespace
 
 Document::Document(std::string_view itsText) : text(itsText.substr(0, itsText.find('\0'))) {
@@ -130,7 +86,8 @@ std::string ExplainSyntax(const Document& document) {
     constexpr std::size_t kAround = 60; // bytes of a long line that are shown on either side
     const std::string_view text = document.text;
     if (text.find_first_not_of(" \t\r\n") == std::string_view::npos)
-        return "the text is empty: " + Expected(document.error.message != nullptr ? document.error.message : "");
+        return "the text is empty: "
+               + explain::Expected(document.error.message != nullptr ? document.error.message : "");
     const std::size_t at = std::min(document.error.offset, text.size());
     const std::string_view before = text.substr(0, at);
     const auto line = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
@@ -147,7 +104,7 @@ std::string ExplainSyntax(const Document& document) {
     const std::string shownBefore = Printable(text.substr(from, at - from));
     std::string message = "line " + std::to_string(line) + ", column "
                           + std::to_string(CharacterCount(text.substr(start, at - start)) + 1) + ": "
-                          + Expected(document.error.message != nullptr ? document.error.message : "");
+                          + explain::Expected(document.error.message != nullptr ? document.error.message : "");
     if (at == text.size()) message += " (the text ends here)";
     const std::string lead = from > start ? "..." : "";
     message += "\n  " + lead + shownBefore + Printable(text.substr(at, to - at)) + (to < end ? "..." : "");
@@ -245,7 +202,7 @@ std::string ExplainParse(const Command& command, Outcome outcome, const Document
         const Reply reply = LookAt(command, document.root);
         const ParseFrame& frame = command.parseFrame;
         const Take take = frame.takesBy != nullptr ? frame.takesBy(document.root) : frame.take;
-        return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes " + Wanted(take);
+        return "\"" + reply.path + "\" is " + TypeName(*reply.value) + "; " + name + " takes " + explain::Wanted(take);
     }
     case Outcome::TooManyRecords:
         for (const record::Field& field : *command.table) {

@@ -425,7 +425,7 @@ const char* TypeName(const Value& value) {
     case Type::Bool:
         return value.asBool() ? "true" : "false";
     case Type::Array:
-        return "an array";
+        return "a list";
     case Type::Object:
         return "an object";
     }

@@ -125,7 +125,7 @@ int main(int argc, char** argv) {
 
     CLI::App* const pack = app.add_subcommand("pack", "Turn what 'parse' prints into the device's text");
     pack->add_option("COMMAND", name, "Name of a configuration ('orrery commands')")->required();
-    pack->add_option("FILE", file, "The record or an array of records, in JSON; standard input by default");
+    pack->add_option("FILE", file, "The record or a list of records, in JSON; standard input by default");
     pack->add_option("--capacity", packOptions.capacity, "A text buffer of so many bytes (as much as it takes)");
     pack->add_flag("--warn,!--no-warn", warns, "Tell what of the records writes nothing (on by default on a terminal)");
     pack->add_flag("--strict", strict, "The same, and exit with 3 when there is anything to tell");
