@@ -12,9 +12,8 @@ const Member* Record::Find(std::string_view member) const noexcept {
 
 const Record* FindRecord(std::string_view record) noexcept {
     const auto records = Records();
-    const auto found = std::ranges::lower_bound(records, record, {}, [](const Record& each) {
-        return std::string_view(each.name);
-    });
+    const auto found =
+        std::ranges::lower_bound(records, record, {}, [](const Record& each) { return std::string_view(each.name); });
     return found == records.end() || found->name != record ? nullptr : &*found;
 }
 
