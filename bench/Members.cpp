@@ -1,5 +1,7 @@
 #include "bench/Members.h"
 
+#include "frame/PackedItems.h"
+#include "frame/record/Engine.h"
 #include "support/TableText.h"
 
 #include "orrery/orrery.h"
@@ -65,7 +67,7 @@ constexpr MemberRow kRows[] = {
     {"RaidGroup"},
     {"NAS"},
     {"devVideoAnalyse.getCaps", 1, 4},
-    {"VideoInAnalyseRule", 1, 2},
+    {"VideoInAnalyseRule", 1, 8},
 };
 
 const Command& CommandNamed(const char* name) {
@@ -143,6 +145,10 @@ MemberBench::MemberBench(const MemberRow& row)
         padded_.emplace_back(texts.back());
         longest = std::max(longest, texts.back().size());
     }
+    for (std::size_t i = 0; i < kVariants; ++i) {
+        rooms_.emplace_back();
+        if (Parse(i)) AddRooms(*command_.table, buffer_.get(), rooms_.back());
+    }
     room_ = 2 * longest + 4096;
     packed_ = std::make_unique<char[]>(room_);
     if (!packs) return;
@@ -156,6 +162,21 @@ MemberBench::MemberBench(const MemberRow& row)
     }
 }
 
+// What the items that a text filled took of their rooms.
+void MemberBench::AddRooms(const record::Table& table, std::byte* record, std::vector<std::span<std::byte>>& rooms) {
+    const PackedItems* const items = BareItemsBehind(table);
+    for (const record::Field& field : table) {
+        if (field.cell == record::Cell::Record && field.table->hasPointers) {
+            for (std::uint32_t i = 0; i < field.size / field.elementSize; ++i)
+                AddRooms(*field.table, record + field.offset + std::size_t{i} * field.elementSize, rooms);
+        }
+        if (items == nullptr || field.offset != items->pointer || field.size == 0) continue;
+        const auto bytes = record::LoadSlot(items->count, record) * record::LoadSlot(items->size, record);
+        if (bytes > 0)
+            rooms.emplace_back(record::Load<std::byte*>(record + items->pointer), static_cast<std::size_t>(bytes));
+    }
+}
+
 bool MemberBench::Parse(std::size_t i) {
     uint32_t length = 0;
     const bool done = CLIENT_ParseData(name, texts[i].c_str(), buffer_.get(), size_, &length) != 0;
@@ -163,9 +184,13 @@ bool MemberBench::Parse(std::size_t i) {
     return done;
 }
 
-bool MemberBench::Clear(std::size_t) {
+bool MemberBench::Clear(std::size_t i) {
     // What a call clears, so that pointers of the caller's own stay, and the size that its first record begins with.
-    if (!test::HasPointers(*command_.table)) {
+    if (test::HasPointers(*command_.table)) {
+        if (command_.parseFrame.parsed != nullptr) command_.parseFrame.parsed(buffer_.get());
+        for (const std::span<std::byte> room : rooms_[i])
+            std::memset(room.data(), 0, room.size());
+    } else {
         std::uint32_t word;
         std::memcpy(&word, buffer_.get(), sizeof word);
         std::memset(buffer_.get(), 0, size_);

@@ -49,10 +49,13 @@ class MemberBench {
     bool IsGood();
 
   private:
+    static void AddRooms(const record::Table& table, std::byte* record, std::vector<std::span<std::byte>>& rooms);
+
     const Command& command_;
-    std::uint32_t size_ = 0;    // of the caller's records
-    std::size_t room_ = 0;      // of the caller's text buffer
-    test::CallerMemory memory_; // behind pointers
+    std::uint32_t size_ = 0;                               // of the caller's records
+    std::size_t room_ = 0;                                 // of the caller's text buffer
+    test::CallerMemory memory_;                            // behind pointers
+    std::vector<std::vector<std::span<std::byte>>> rooms_; // of each text, what a call clears there
     std::unique_ptr<std::byte[]> buffer_;
     std::unique_ptr<char[]> packed_;
     std::vector<std::unique_ptr<std::byte[]>> kept_; // records to pack, of the first texts

@@ -1,6 +1,7 @@
 // Any record bytes for any command, into a text buffer of any capacity. The input: four bytes that choose the command,
 // four for the capacity, two for the records' size or the allocation that fails, one for the alignment and more, then
-// the records' bytes, repeated until they fill them or set once.
+// the records' bytes, repeated until they fill them or set once; with the highest bit of the capacity, set where the
+// first items that lie behind pointers are described, so that lists of any length do not hide them.
 #include "Circumstances.h"
 #include "support/FuzzInput.h"
 
@@ -52,8 +53,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (sizeChoice % 4 == 2 && whole <= kLarge) records = whole * (1 + sizeChoice / 4 % 3);
     const test::FuzzBlock record(records, flavour % 8);
     const bool once = (flavour & 16) != 0 || (whole > kLarge && bytes.size() < whole);
-    const std::size_t from = (flavour & 16) != 0 && records > 0 ? capacityChoice / 8 % records : 0;
-    Fill(record.get(), records, from, once, bytes);
+    const auto items = (capacityChoice >> 31) != 0 && records >= whole ? test::FirstItems(table) : std::nullopt;
+    const std::size_t from = items ? *items : (flavour & 16) != 0 && records > 0 ? capacityChoice / 8 % records : 0;
+    Fill(record.get(), records, from, once || items, bytes);
+    if (items) test::RaiseCounts(table, record.get());
     test::CallerMemory memory;
     for (std::size_t at = 0; at + whole <= records; at += whole) {
         if (flavour & 8) record::SetSizeWords(table, record.get() + at);

@@ -110,6 +110,17 @@ void WriteCommand(const Command& command) {
     Write("pack", name + ".any", seed(turn, 0, 8 | 64, std::string("\xD6\xD0\x01\x00\x02\xFF", 6)));
     Write("pack", name + ".memory", seed(4, static_cast<std::uint16_t>(3 + turn % 3 * 4), 8 | 64, bytes));
     Write("pack", name + ".two", seed(5, 2 + 4, 8, bytes));
+    if (const auto items = test::FirstItems(*command.table)) {
+        const std::string described(reinterpret_cast<const char*>(record.data() + *items),
+                                    std::min(kMost, record.size() - *items));
+        for (std::uint32_t i = 0; i < 16; ++i) { // types of all kinds, and of none
+            std::string other = described;
+            other[0] = static_cast<char>(i < 8 ? described[0] : i * 16 + i % 4);
+            Write("pack", name + ".items" + std::to_string(i),
+                  seed(std::uint32_t{1} << 31 | (5 + i), i % 3 == 0 ? static_cast<std::uint16_t>(3 + 4 * i) : 0,
+                       static_cast<std::uint8_t>(8 | (i % 4) << 6), i < 8 ? described.substr(i * 4) : other));
+        }
+    }
     Write("pack", name + ".short", seed(4, static_cast<std::uint16_t>(1 + 4 * (turn % 50)), 0, bytes));
 }
 

@@ -94,7 +94,7 @@ typedef struct CFG_LOWER_MATRIX_INFO {
 typedef struct CFG_COMPOSE_CHANNEL_INFO {
     int32_t emSplit; /* "Split": how the picture is divided: 4 for "Split4", 1004 for "PIP4", 2000 for "Free", 3002
                         for "CompositeSplit2"; "Split3" is 10 and "Split3B" 11, other texts 1. Case does not count.
-                        Every code is written: 3 as the text of 10 */
+                        Every code from 0 is written: 3 as the text of 10; a negative one writes no key */
     int32_t nChannelCount;                      /* entries of nChannels in use */
     int32_t nChannels[ORRERY_COMPOSE_CHANNELS]; /* "ChannelCombination": channels, from 0 */
 } CFG_COMPOSE_CHANNEL_INFO;

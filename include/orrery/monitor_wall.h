@@ -126,7 +126,7 @@ typedef struct CFG_COMPOSITE_SCENE {
     char szControlID[128]; /* "ControlID": under which the screen is controlled */
     int32_t emMode;        /* "Mode": how the screen is divided: 4 for "Split4", 1004 for "PIP4", 2000 for "Free", 3002
                               for "CompositeSplit2"; "Split3" is 10 and "Split3B" 11, other texts 1. Case does not
-                              count. Every code is written: 3 as the text of 10 */
+                              count. Every code from 0 is written: 3 as the text of 10; a negative one writes no key */
     int32_t nWindowCount;  /* entries of stuWindows in use */
     CFG_WINDOW_INFO stuWindows[ORRERY_SCENE_WINDOWS]; /* "Windows" */
 } CFG_COMPOSITE_SCENE;

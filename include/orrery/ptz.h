@@ -67,9 +67,9 @@ typedef struct CFG_PTZ_PRESET {
 } CFG_PTZ_PRESET;
 
 /* "PtzPreset": presets in an array of the caller's; each is cleared before it is read. Reading fails without an array
- * and tells no length; a missing table succeeds with nothing changed. Writing fails when there are more presets than
- * room; without an array or room it succeeds with an empty text. The text must be shorter than the capacity less one.
- */
+ * and tells no length; a missing table succeeds with nothing changed. Writing fails for a
+ * buffer smaller than the record, whatever that says, and when there are more presets than room; without an array or
+ * room it succeeds with an empty text. The text must be shorter than the capacity less one. */
 typedef struct CFG_PTZ_PRESET_INFO {
     uint32_t nMaxCount;          /* input: room of pstuPresets */
     uint32_t nReturnCount;       /* presets read, at most nMaxCount; presets to write */

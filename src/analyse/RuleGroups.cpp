@@ -4,6 +4,7 @@
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/Module.h"
 #include "analyse/RuleBodyMap.h"
+#include "analyse/RuleCodes.h"
 #include "analyse/RuleFrame.h"
 #include "analyse/Scene.h"
 #include "frame/record/Engine.h"
@@ -70,9 +71,26 @@ void WriteLinkage(const Field&, const std::byte* group, WriteCall& call) {
 }
 constexpr CustomCodec kLinkage{nullptr, WriteLinkage};
 
+constexpr PackedItems kGroupItems{
+    .pointer = offsetof(Group, pRuleBuf),
+    .count = MakeSlot<decltype(Group::nRuleNum)>(offsetof(Group, nRuleNum)),
+    .bytes = MakeSlot<decltype(Group::nRuleBufLen)>(offsetof(Group, nRuleBufLen)),
+    .code = MakeSlot<decltype(Group::dwRuleType)>(offsetof(Group, dwRuleType)),
+    .size = MakeSlot<decltype(Group::nRuleStride)>(offsetof(Group, nRuleStride)),
+    .typeCount = kRuleTypes,
+    .typeAt = RuleTypeAt,
+    .typeOf = RuleTypeOf,
+};
+struct UInt8 {
+    std::uint8_t value;
+};
+PART(kUInt8, UInt8,
+     {
+         FIELD(value, "", UInt),
+     });
 PART(kRuleGroup, CFG_RULE_GROUP_INFO,
      {
-         FIELD(dwRuleType),
+         FIELD(dwRuleType).Coded(kRuleCodes),
          FIELD(nRuleStride),
          FIELD(bEnable, "Enable", Bool),
          FIELD(bHasEventHandler),
@@ -80,9 +98,10 @@ PART(kRuleGroup, CFG_RULE_GROUP_INFO,
          FIELD(stuTimeSchedule, "EventHandler/TimeSection", HolidaySchedule).ReadOnly(),
          MakeVirtual("EventHandler", Custom(kLinkage)),
          FIELD(nRuleNum),
-         FIELD(pRuleBuf, "Rule", Custom(kRules)).PointsTo(kRuleInfo).Capacity(AT(nRuleBufLen)).Count(AT(nRuleNum)),
+         FIELD(pRuleBuf, "Rule", Custom(kRules)).PointsTo(kUInt8),
          FIELD(nRuleBufLen),
-     });
+     })
+    .Describes(kGroupItems);
 
 // ---- The groups of a scene ----
 

@@ -1,5 +1,5 @@
 // How a joined picture is divided, by the names that composed pictures have: prefixes in any case, a name for every
-// code.
+// code but negative ones, which write no key.
 #pragma once
 
 #include "frame/record/Field.h"

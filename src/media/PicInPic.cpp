@@ -3,6 +3,7 @@
 
 #include "frame/Deliver.h"
 #include "frame/Document.h"
+#include "frame/ReplySteps.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -182,8 +183,8 @@ Outcome ParsePicInPic(const ParseRequest& request) noexcept {
     if (request.bufferSize < kRecord) return Outcome::BufferTooSmall;
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
-    if (!document.root["result"].asBool()) return Outcome::Refused;
-    const Value& table = document.root["params"]["table"];
+    if (!ResultPasses(ResultTest::MustBeTrue, document.root["result"])) return Outcome::Refused;
+    const Value& table = FindValue(Source::Table, "", document.root);
     std::uint32_t used = 0;
     if (table.type() == json::Type::Object) {
         auto* const buffer = static_cast<std::byte*>(request.buffer);

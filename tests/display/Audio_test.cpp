@@ -291,7 +291,11 @@ TEST(ComposeChannel, SplitNames) {
         EXPECT_EQ(written(split.code), R"({ "Split" : ")" + std::string(split.text) + "\" }");
     }
     EXPECT_EQ(written(3), R"({ "Split" : "Split3" })"); // which is the text of 10, and reads as that
-    EXPECT_EQ(read("\"pip2\""), 1002);                  // in any case
+    EXPECT_EQ(written(2147483647), R"({ "Split" : "CompositeSplit2147480647" })");
+    EXPECT_EQ(written(-1), "null"); // no key at all
+    EXPECT_EQ(written(-2147483647 - 1), "null");
+    EXPECT_EQ(read("\"Split-5\""), -5);
+    EXPECT_EQ(read("\"pip2\""), 1002); // in any case
     EXPECT_EQ(read("\"split3\""), 10);
     for (const char* const value : {"\"Grid\"", "\"\"", "4"})
         EXPECT_EQ(read(value), 1) << value;

@@ -2,7 +2,10 @@
 // 96 KB of it: what runs past that ends the program at an unreadable page.
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleBodyMap.h"
+#include "analyse/Templates.h"
 #include "events/EventMap.h"
+#include "events/TypedText.h"
+#include "frame/PackedItems.h"
 #include "orrery/alarm_input.h"
 #include "orrery/analyse_rules.h"
 #include "support/CommandCalls.h"
@@ -203,6 +206,67 @@ TEST_F(StackIn, EventsAndCallsOutOfTheirCallback) {
     EXPECT_GT(events, kEvents / 2) << "much less than is told";
     EXPECT_LE(nestedParse, kEvents + kParse);
     EXPECT_LE(nestedPack, kEvents + kPack);
+}
+
+// Each key of a typed text alone, one with all kinds of rules in turn, and every template under a class of its own.
+TEST_F(StackIn, TypedTextsAndTemplates) {
+    SmallThread thread;
+    std::size_t typed = 0, nested = 0, templates = 0;
+    auto alarm = std::make_unique<CFG_ALARM_INPUT_INFO>();
+    const std::string reply = ReplyText(*FindCommand("Alarm"));
+    struct User {
+        CFG_ALARM_INPUT_INFO* alarm;
+        const char* reply;
+    } user{alarm.get(), reply.c_str()};
+    const auto nothing = [](std::uint32_t, const void*, std::uint32_t, void*, std::int32_t, void*) { return 0; };
+    const auto parses = [](std::uint32_t, const void*, std::uint32_t, void*, std::int32_t, void* what) {
+        const auto& to = *static_cast<const User*>(what);
+        return CLIENT_ParseData("Alarm", to.reply, to.alarm, sizeof *to.alarm, nullptr);
+    };
+    const auto valueOf = [](const record::Table& table, std::uint32_t turn, bool asList) {
+        if (table.items == nullptr) return RecordTree(table, {}).Text();
+        const ItemType type = table.items->typeAt(turn % table.items->typeCount);
+        JsonTree rule = RecordTree(*type.table, {});
+        rule.Add("Type", JsonTree::String(std::string(type.name)));
+        rule.Add("Class", JsonTree::String("Normal"));
+        return asList ? "[" + rule.Text() + "]" : "{\"a\":" + rule.Text() + "}";
+    };
+    const auto deliver = [&](const std::string& text) {
+        typed = std::max(typed, thread.Run([&] { CLIENT_ParseDataByCallback(text.c_str(), 0, nothing, nullptr); }));
+        nested = std::max(nested, thread.Run([&] { CLIENT_ParseDataByCallback(text.c_str(), 0, parses, &user); }));
+    };
+    for (const events::TypedRow& row : events::TypedRows()) {
+        for (std::uint32_t turn = 0; turn < (row.table->items != nullptr ? row.table->items->typeCount : 1); ++turn) {
+            const std::string value = valueOf(*row.table, turn, true);
+            deliver("{\"" + std::string(row.name) + "\":" + (row.isList ? "[" + value + "]" : value) + "}");
+        }
+    }
+    for (const events::EventRow& row : events::Events()) {
+        if (!row.name.empty()) deliver(EventText(row.name, RecordTree(*row.table, {}).Text()));
+    }
+    for (const TemplateRow& row : Templates()) {
+        std::vector<std::byte> buffer(row.table->size);
+        CallerMemory memory;
+        for (std::uint32_t turn = 0; turn < (row.table->items != nullptr ? row.table->items->typeCount : 1); ++turn) {
+            memory.Reset();
+            memory.PrepareRecord(*row.table, buffer.data());
+            const std::string value = valueOf(*row.table, turn, false);
+            const std::string text =
+                R"({"result":true,"params":)" + (row.isByClass ? "{\"Traffic\":" + value + "}" : value) + "}";
+            templates = std::max(templates, thread.Run([&] {
+                EXPECT_EQ(CLIENT_ParseVideoInAnalyse(row.name.data(), CFG_RULE_CLASS_TRAFFIC, text.c_str(), nullptr,
+                                                     buffer.data(), row.table->size),
+                          1);
+            }));
+        }
+    }
+    RecordProperty("typed", static_cast<int>(typed));
+    RecordProperty("nested", static_cast<int>(nested));
+    RecordProperty("templates", static_cast<int>(templates));
+    EXPECT_LE(typed, kEvents);
+    EXPECT_GT(typed, kEvents / 2) << "much less than is told";
+    EXPECT_LE(nested, kEvents + kParse);
+    EXPECT_LE(templates, kParse);
 }
 
 } // namespace

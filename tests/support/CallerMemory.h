@@ -17,20 +17,26 @@ bool HasPointers(const record::Table& table);
 // prepared alike are equal byte by byte.
 class CallerMemory {
   public:
-    // `room` is how many records a pointer leads to.
+    // `room` is how many records a pointer leads to, and how many descriptors of items, of each array, have any.
     explicit CallerMemory(std::uint32_t room = 3) : room_(room) {}
 
     void Reset() { used_ = 0; }
 
     // Points every pointer of the record to memory of its own and sets its capacity, or its count where it has no
-    // capacity, to what is there. All other bytes stay.
-    void MakePointersSafe(const record::Table& table, std::byte* record);
+    // capacity, to what is there. All other bytes stay, but for the type, the stride and the count of items.
+    void MakePointersSafe(const record::Table& table, std::byte* record) { MakePointersSafe(table, record, {0, 1}); }
     // A record that a caller hands in to be filled: zeros, size words, room behind the pointers.
     void PrepareRecord(const record::Table& table, std::byte* record);
     // The same for a buffer of any size: every whole record in it is prepared if the command looks at what it holds.
     void PrepareBuffer(const Command& command, std::byte* buffer, std::size_t size);
 
   private:
+    struct Place {
+        std::uint32_t index, count; // of the record in an array of its own kind
+    };
+    void MakePointersSafe(const record::Table& table, std::byte* record, Place place);
+    void LendItems(const PackedItems& items, const record::Table& table, std::byte* descriptor, Place place);
+    std::byte* Bytes(std::size_t size);
     std::byte* Block(const record::Table& table, std::uint32_t count);
 
     std::uint32_t room_;

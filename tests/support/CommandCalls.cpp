@@ -1,6 +1,7 @@
 #include "support/CommandCalls.h"
 
 #include "frame/JsonParser.h"
+#include "frame/PackedItems.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
@@ -249,7 +250,12 @@ class Comparison {
     void Records(const Table& table, const std::byte* written, const std::byte* read, const std::string& path) {
         if (!record::IsWritten(table, written)) return;
         for (const Field& field : table) {
-            if (!IsBothWays(field) || !IsOut(field, written)) continue;
+            const PackedItems* const items = BareItemsBehind(table);
+            if (items != nullptr && field.size > 0 && field.offset == items->pointer) {
+                Items(*items, table, written, read, path + "." + field.name);
+                continue;
+            }
+            if (!IsBothWays(field) || !IsOut(field, written) || (field.linkage && !isLinked_)) continue;
             // Another row with the same key may have the word in its place.
             const bool shared = std::any_of(table.begin(), table.end(), [&](const Field& other) {
                 return &other != &field && other.key != nullptr && std::string_view(other.key) == field.key
@@ -269,6 +275,26 @@ class Comparison {
     }
 
   private:
+    bool isLinked_ = true; // whether rules have their linkage themselves
+
+    void Items(const PackedItems& items, const Table& table, const std::byte* written, const std::byte* read,
+               const std::string& path) {
+        for (const record::Slot& slot : {items.code, items.size, items.count}) {
+            if (record::LoadSlot(slot, written) != record::LoadSlot(slot, read)) found.push_back(path + ": its slot");
+        }
+        const auto* from = record::Load<const std::byte*>(written + items.pointer);
+        const auto* to = record::Load<const std::byte*>(read + items.pointer);
+        const ItemType type = items.typeOf(static_cast<std::uint32_t>(record::LoadSlot(items.code, written)));
+        if (from == nullptr || to == nullptr || type.table == nullptr) return;
+        isLinked_ = std::none_of(table.begin(), table.end(), [&](const Field& field) {
+            return field.flag.exists() && record::LoadSlot(field.flag, written) != 0;
+        });
+        const std::int64_t stride = record::LoadSlot(items.size, written);
+        for (std::int64_t i = 0; i < record::LoadSlot(items.count, written); ++i, from += stride, to += stride)
+            Records(*type.table, from, to, path + "[" + std::to_string(i) + "]");
+        isLinked_ = true;
+    }
+
     void Fields(const Field& field, const std::byte* written, const std::byte* read, const std::string& path) {
         const std::byte* from = written + field.offset;
         const std::byte* to = read + field.offset;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace orrery::test {
@@ -17,6 +18,11 @@ namespace orrery::test {
 std::uint32_t FuzzNumberOf(std::string_view commandName);
 // The command of that number, or of the next one that there is.
 const Command& FuzzCommand(std::uint32_t number);
+
+// Where the first descriptor of items without heads lies in the record; nothing when there is none.
+std::optional<std::size_t> FirstItems(const record::Table& table);
+// Lists that are empty, of first elements of lists too, get one element.
+void RaiseCounts(const record::Table& table, std::byte* record);
 
 class FuzzInput {
   public:

@@ -97,6 +97,9 @@ class Maker {
         case Kind::Switches:
             return Numbers(field.dims[0]);
         case Kind::Custom:
+            if (field.table != nullptr && field.cell == record::Cell::Record
+                && BareItemsBehind(*field.table) != nullptr)
+                return ItemLists(field);
             if (field.custom->sample != nullptr) return JsonTree(field.custom->sample);
             return JsonTree(Next() % 2 == 0 ? "2" : "[1,2]");
         default:
@@ -104,6 +107,29 @@ class Maker {
         }
         if (field.single || (field.rank == 0 && field.cell != record::Cell::Pointer)) return One(field);
         return Level(field, 0);
+    }
+
+    // Descriptors of items without heads: an object whose members have the names of types.
+    JsonTree ItemLists(const Field& field) {
+        constexpr std::uint32_t kStep = 5; // the types of one object lie apart
+        const PackedItems& items = *BareItemsBehind(*field.table);
+        const bool typical = options_.values == Values::Typical;
+        const auto rows = std::find_if(field.table->begin(), field.table->end(),
+                                       [&](const Field& row) { return row.offset == items.pointer && row.size > 0; });
+        std::uint32_t count = std::min(field.dims[0], options_.most);
+        if (!typical) count = Next() % 3 == 0 ? field.dims[0] + 2 : Next() % (count + 1);
+        JsonTree object = JsonTree::Object();
+        for (std::uint32_t index = Next(); count > 0; index += kStep) {
+            const ItemType type = items.typeAt(index % items.typeCount);
+            if (type.name.empty()) continue;
+            --count;
+            JsonTree member = OneRecord(*field.table);
+            const std::uint32_t most = typical ? std::min(options_.most, 2U) : Next() % 6;
+            if (member.kind() == JsonTree::Kind::Object)
+                member.At(rows->key) = List(most, [&] { return OneRecord(*type.table); });
+            object.Add(typical || Next() % 8 != 0 ? std::string(type.name) : "NoSuchType", std::move(member));
+        }
+        return object;
     }
 
     JsonTree Level(const Field& field, int level) {

@@ -259,6 +259,32 @@ void FillPointer(const Field& field, const Value& value, std::byte* record, Memo
     Store(record + field.offset, first);
 }
 
+// Records without heads of the one type that the descriptor tells. What the descriptor leaves open of them is told
+// there.
+void FillBareItems(const Table& table, const PackedItems& items, const Value& value, std::byte* descriptor,
+                   Memory& memory, const std::string& path) {
+    if (value.isNull()) return;
+    if (!value.isArray()) FailType(path, value, "a list");
+    const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, descriptor)));
+    if (type.table == nullptr && value.size() > 0)
+        Fail(path, "no type of that " + SlotName(table, items.code) + " has a record");
+    const auto tell = [&](const Slot& slot, std::int64_t number) {
+        if (LoadSlot(slot, descriptor) == 0) StoreSlot(slot, descriptor, number);
+    };
+    tell(items.size, type.table == nullptr ? 0 : type.table->size);
+    const std::int64_t stride = LoadSlot(items.size, descriptor);
+    if (value.size() > 0 && (stride < type.table->size || stride > kMostPointedTo))
+        Fail(path, "a " + SlotName(table, items.size) + " that does not hold " + type.table->record);
+    const std::int64_t needed = stride * value.size();
+    tell(items.count, value.size());
+    tell(items.bytes, needed);
+    const std::int64_t room = std::max(needed, LoadSlot(items.bytes, descriptor));
+    std::byte* const first = memory.Allocate(static_cast<std::size_t>(std::max<std::int64_t>(room, 1)));
+    for (std::uint32_t i = 0; i < value.size(); ++i)
+        FillRecord(*type.table, value[i], first + i * stride, memory, Element(path, i));
+    Store(descriptor + items.pointer, first);
+}
+
 // The items of a packed buffer, as PrintItems has them. The buffer is as large as they are.
 void FillItems(const PackedItems& items, const Value& value, std::byte* descriptor, Memory& memory,
                const std::string& path) {
@@ -332,7 +358,10 @@ void FillFields(const Table& table, const Value& value, std::byte* record, Memor
     // Behind the counts and capacities that tell their room.
     for (const Field& field : table) {
         if (field.cell != Cell::Pointer || field.size == 0 || field.alias) continue;
-        if (const PackedItems* const items = ItemsBehind(table))
+        const PackedItems* const items = ItemsBehind(table);
+        if (items != nullptr && items->head == nullptr)
+            FillBareItems(table, *items, value[field.name], record, memory, pathOf(field.name));
+        else if (items != nullptr)
             FillItems(*items, value[field.name], record, memory, pathOf(field.name));
         else
             FillPointer(field, value[field.name], record, memory, pathOf(field.name));
@@ -384,11 +413,10 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
         if (field.size == 0 || field.alias) continue;
         std::byte* const at = record + field.offset;
         const PackedItems* const items = field.cell == Cell::Pointer ? ItemsBehind(table) : nullptr;
-        if (items != nullptr) {
-            std::size_t largest = 0;
-            for (std::uint32_t i = 0; i < items->typeCount; ++i)
-                largest = std::max<std::size_t>(largest, items->typeAt(i).table->size);
-            const std::size_t bytes = items->most * (items->head->size + largest);
+        if (items != nullptr && items->head == nullptr) {
+            continue; // of a type that only the text tells
+        } else if (items != nullptr) {
+            const std::size_t bytes = items->most * (items->head->size + std::size_t{items->LargestType()});
             Store(at, memory.Allocate(bytes));
             StoreSlot(items->bytes, record, static_cast<std::int64_t>(bytes));
         } else if (field.cell == Cell::Pointer) {
@@ -410,6 +438,45 @@ void GiveRoom(const Table& table, std::byte* record, std::uint32_t count, Memory
                 GiveRoom(*field.table, at + std::size_t{i} * field.elementSize, count, memory);
         }
     }
+}
+
+std::uint32_t LongestList(const Value& root, std::string_view key) {
+    std::uint32_t longest = 1;
+    std::vector<const Value*> open{&root};
+    if (key.empty()) longest = std::max(longest, root.size());
+    while (!open.empty()) {
+        const Value& value = *open.back();
+        open.pop_back();
+        for (const Value& element : value.elements()) {
+            if (key.empty()) longest = std::max(longest, element.size());
+            if (element.size() > 0) open.push_back(&element);
+        }
+        for (const json::Member& member : value.members()) {
+            if (key.empty() || key == member.key()) longest = std::max(longest, member.value.size());
+            if (member.value.size() > 0) open.push_back(&member.value);
+        }
+    }
+    return longest;
+}
+
+bool GiveRoomAsRead(const Table& table, std::byte* record, const Value& root, Memory& memory) {
+    const PackedItems* const items = BareItemsBehind(table);
+    bool isGiven = false;
+    std::int64_t longest = 0;
+    for (const Field& field : table) {
+        std::byte* const at = record + field.offset;
+        if (field.cell == Cell::Record && field.table->hasPointers) {
+            for (std::uint32_t i = 0; i < field.size / field.elementSize; ++i)
+                isGiven |= GiveRoomAsRead(*field.table, at + std::size_t{i} * field.elementSize, root, memory);
+        }
+        if (items == nullptr || field.offset != items->pointer || LoadSlot(items->size, record) <= 0) continue;
+        if (longest == 0) longest = LongestList(root, field.key);
+        const std::int64_t bytes = longest * LoadSlot(items->size, record);
+        Store(at, memory.Allocate(static_cast<std::size_t>(bytes)));
+        StoreSlot(items->bytes, record, bytes);
+        isGiven = true;
+    }
+    return isGiven;
 }
 
 const char* TypeName(const Value& value) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orrery::tool {
@@ -37,6 +38,13 @@ std::vector<std::string> PassedOver(const record::Table& table, const json::Valu
 
 // Gives the pointers of a record room for `count` elements each, their capacities included.
 void GiveRoom(const record::Table& table, std::byte* record, std::uint32_t count, Memory& memory);
+
+// The same for records of a type that only the text tells, once it was read: true when there are such, and reading it
+// again fills them. `root` is the text's document.
+bool GiveRoomAsRead(const record::Table& table, std::byte* record, const json::Value& root, Memory& memory);
+
+// The longest list, of those under the key if there is one: no pointer of a record needs more room. At least 1.
+std::uint32_t LongestList(const json::Value& root, std::string_view key = {});
 
 // "an array", "a text", ...
 const char* TypeName(const json::Value& value);

@@ -128,6 +128,19 @@ Node PrintItems(const PackedItems& items, const std::byte* descriptor, PrintOpti
     return list;
 }
 
+// Records without heads, all of the type that their descriptor tells.
+Node PrintBareItems(const PackedItems& items, const std::byte* descriptor, PrintOptions options) {
+    const auto* const first = Load<const std::byte*>(descriptor + items.pointer);
+    if (first == nullptr) return Node::Null();
+    const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, descriptor)));
+    const std::int64_t stride = LoadSlot(items.size, descriptor);
+    const std::int64_t count = type.table == nullptr || stride <= 0 ? 0 : LoadSlot(items.count, descriptor);
+    Node list = Node::Array();
+    for (std::int64_t i = 0; i < count && i * stride + type.table->size <= LoadSlot(items.bytes, descriptor); ++i)
+        list.Add(PrintRecord(*type.table, first + i * stride, options));
+    return list;
+}
+
 Node PrintPointer(const Field& field, const std::byte* record, PrintOptions options) {
     const auto* const first = Load<const std::byte*>(record + field.offset);
     if (first == nullptr) return Node::Null();
@@ -163,7 +176,8 @@ Node PrintCell(const Field& field, const std::byte* at, PrintOptions options) {
 
 Node PrintBehind(const Table& table, const Field& pointer, const std::byte* record, PrintOptions options) {
     const PackedItems* const items = ItemsBehind(table);
-    return items != nullptr ? PrintItems(*items, record, options) : PrintPointer(pointer, record, options);
+    if (items == nullptr) return PrintPointer(pointer, record, options);
+    return items->head == nullptr ? PrintBareItems(*items, record, options) : PrintItems(*items, record, options);
 }
 
 Node PrintRecord(const Table& table, const std::byte* record, PrintOptions options) {

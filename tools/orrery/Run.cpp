@@ -25,22 +25,6 @@ Result Refuse(const std::string& why) {
     return {kRefused, {}, "orrery: " + why + "\n"};
 }
 
-// The longest list anywhere in a document: no pointer of a record needs more room.
-std::uint32_t LongestList(const json::Value& root) {
-    std::uint32_t longest = 1;
-    std::vector<const json::Value*> open{&root};
-    while (!open.empty()) {
-        const json::Value& value = *open.back();
-        open.pop_back();
-        longest = std::max(longest, value.size());
-        for (const json::Value& element : value.elements())
-            if (element.size() > 0) open.push_back(&element);
-        for (const json::Member& member : value.members())
-            if (member.value.size() > 0) open.push_back(&member.value);
-    }
-    return longest;
-}
-
 bool HasPointers(const Table& table) {
     return std::any_of(table.begin(), table.end(), [](const record::Field& field) {
         return field.cell == record::Cell::Pointer || (field.cell == record::Cell::Record && HasPointers(*field.table));
@@ -291,8 +275,16 @@ void Parse::Call(std::size_t size) {
             if (room > 0) GiveRoom(table_, at, room, memory_);
         }
     }
-    buffer_.outcome = RunParse(
-        command_, {terminated_.c_str(), buffer_.bytes.data(), static_cast<std::uint32_t>(size), &buffer_.returned});
+    const auto read = [&] {
+        buffer_.outcome = RunParse(
+            command_, {terminated_.c_str(), buffer_.bytes.data(), static_cast<std::uint32_t>(size), &buffer_.returned});
+    };
+    read();
+    if (!options_.start.empty() || !table_.hasPointers || buffer_.outcome != Outcome::Done) return;
+    bool hasMoreRoom = false;
+    for (std::size_t i = 0; i < records; ++i)
+        hasMoreRoom |= GiveRoomAsRead(table_, buffer_.bytes.data() + i * table_.size, document_.root, memory_);
+    if (hasMoreRoom) read();
 }
 
 // How many records of the buffer the call filled.

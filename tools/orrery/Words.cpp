@@ -1,5 +1,7 @@
 #include "orrery/Words.h"
 
+#include "frame/PackedItems.h"
+
 #include <initializer_list>
 #include <string_view>
 
@@ -137,6 +139,20 @@ void ForEachWord(const Table& table, const Field& field, const Tell& tell) {
     }
     slot(field.countUncapped ? "CountUncapped" : "Count", field.count,
          "elements in use: ", field.countUncapped ? ", which may exceed the room" : "");
+    if (table.items != nullptr && field.cell == Cell::Pointer && field.offset == table.items->pointer) {
+        const PackedItems& items = *table.items;
+        const std::string count = SlotName(table, items.count), bytes = SlotName(table, items.bytes);
+        if (items.head != nullptr)
+            tell(Call("Items", Joined({count, " ", bytes})),
+                 Joined({"items of any type, each a ", items.head->record,
+                         " and the record of its type; their number: ", count, "; bytes behind the pointer: ", bytes}));
+        else
+            tell(Call("Items",
+                      Joined({SlotName(table, items.code), " ", SlotName(table, items.size), " ", count, " ", bytes})),
+                 Joined({"records of the type that ", SlotName(table, items.code), " tells, ",
+                         SlotName(table, items.size), " bytes from one to the next; their number: ", count,
+                         "; bytes behind the pointer: ", bytes}));
+    }
     slot(field.lent ? "Lent" : "Capacity", field.capacity,
          field.lent ? "elements asked for: " : "room behind the pointer: ", "");
     say(field.single, "Single", "one record of the caller's; neither read nor written when the pointer is null");

@@ -24,7 +24,7 @@ inline bool PointsToText(const record::Field& field) {
 inline bool PointsToNumbers(const record::Field& field) {
     if (field.cell != record::Cell::Pointer || field.table == nullptr) return false;
     const std::string_view name = field.table->record;
-    return name == "Int32" || name == "UInt32";
+    return name == "Int32" || name == "UInt32" || name == "UInt8";
 }
 // The type of those numbers.
 inline record::Cell NumberBehind(const record::Field& field) {
