@@ -207,12 +207,12 @@ void AddFields(Node& node, const Tables& tables, const Table& table, const std::
     flag("writesFunction", table.writes != nullptr);
     flag("afterRead", table.afterRead != nullptr);
     if (const PackedItems* const items = ItemsBehind(table)) {
+        const Table& telling = items->head != nullptr ? *items->head : table;
         Node packed = Node::Object();
-        packed.Add("head", Node::Text(items->head->record))
-            .Add("code", Node::Text(SlotName(*items->head, items->code)))
-            .Add("size", Node::Text(SlotName(*items->head, items->size)))
-            .Add("most", Node::Unsigned(items->most))
-            .Add("typeKey", Node::Text("Type"));
+        if (items->head != nullptr) packed.Add("head", Node::Text(telling.record));
+        packed.Add("code", Node::Text(SlotName(telling, items->code)))
+            .Add("size", Node::Text(SlotName(telling, items->size)));
+        if (items->head != nullptr) packed.Add("most", Node::Unsigned(items->most)).Add("typeKey", Node::Text("Type"));
         node.Add("items", std::move(packed));
     }
     Node fields = Node::Array();
