@@ -1,0 +1,244 @@
+#!/usr/bin/env python3
+"""Makes the changes of scripts/mutate.sh and tries each: mutants.py TREE WORK COUNT SEED. The tree is built."""
+import collections
+import glob
+import os
+import random
+import re
+import shutil
+import subprocess
+import sys
+import time
+
+TREE, WORK, COUNT, SEED = sys.argv[1], sys.argv[2], int(sys.argv[3]), int(sys.argv[4])
+BUILD = TREE + '/build/test'
+CORE = 'liborrery_core.so'
+CORE_OBJECTS = 'orrery_core.dir/'
+ALL = [CORE, 'orrery_tests', 'orrery_tool_tests']
+TESTS = BUILD + '/tests/orrery_tests'
+TOOL_TESTS = BUILD + '/tests/tools/orrery_tool_tests'
+GOLDEN = 'Layout.IsTheOneCheckedIn'
+# Sweeps over all commands, and what other code referees.
+SLOW = 'Buffers.*:HostileText.*:Rows.*:Growth.*:Heap.*:Threads*:RoundTrip.*:Packing.*'
+NEVER = '*AgainstTheCLibrary*:*Oracle*'
+MOST_SECONDS = 900
+
+# ---- The changes --------------------------------------------------------------------------------------------------
+
+KEY = re.compile(r'\b(?:FIELD|RULE_CONFIG)\((?:[^,()]|\([^()]*\))+, ("[^"]+"), (\w+)')
+NAME = re.compile(r'^\s*\{([\w-]+), ("[^"]*")[,}]')
+CODECS = {'Int': ['UInt', 'Bool'], 'UInt': ['Int'], 'Bool': ['Int'], 'Text': ['RawText', 'FullText'],
+          'RawText': ['Text'], 'FullText': ['Text'], 'Real': ['Int'], 'NetTime': ['NetTimeEx'],
+          'BitMask': ['BitMaskLoose'], 'BitMaskLoose': ['BitMask']}
+WORDS = ('Always|AnyShape|Exactly|AtLeast|Zeroed|Owned|Keyed|NullElement|RefusedElement|ReadIf|FirstBytes|Only|FromRoot|'
+         'ReadOnly|WriteOnly|TrueAtOne|WriteUnless|WriteUnlessNegative|WriteAtMost|WriteIf|UntilEmpty|WriteIfLinked|'
+         'WriteEmpty|WriteSkipped|WriteUnlessBare|KeepsObject|WritesCapacity|Unknown|UnknownLeaves|OutsideWrites|'
+         'OutsideWritesNull|LastWins|Null|Clears|Length|Result|Takes|From|As|Fits|Strides|ReadsNulls|RootKeysFirst|'
+         'AllMustFit|AnySize|NeedsText|ExactSize|KeepsText')
+WORD = re.compile(r'\.(?:%s)\((?:[^()]|\([^()]*\))*\)' % WORDS)
+
+Change = collections.namedtuple('Change', 'number kind file lines')  # lines: (number from 0, new text)
+
+
+def all_sites():
+    """By kind, the places that can change: (path, [(line, new text)])."""
+    files = sorted(f for pattern in ('*.cpp', '*.h') for f in glob.glob(TREE + '/src/**/' + pattern, recursive=True)
+                   if '/frame/' not in f or f.endswith('SharedRecords.h'))
+    sites = {kind: [] for kind in ('key', 'codec', 'default', 'flag', 'count', 'policy', 'code')}
+    for path in files:
+        rows, names = [], []  # of the table that is open
+        for number, line in enumerate(open(path).read().split('\n')):
+            if line.lstrip().startswith(('#define', '//', '*')):
+                continue
+            if re.search(r'^(TABLE|PART|NAMES|RULE)|static constexpr Field rows', line):
+                rows, names = [], []
+            for match in KEY.finditer(line):
+                key, codec = match.group(1), match.group(2)
+                for other, other_line, other_key, other_codec in rows[-6:]:
+                    if other_codec == codec and other_key != key and other != number:
+                        sites['key'].append((path, [(other, other_line.replace(other_key, key, 1)),
+                                                    (number, line.replace(key, other_key, 1))]))
+                rows.append((number, line, key, codec))
+                for better in CODECS.get(codec, []):
+                    start, end = match.span(2)
+                    sites['codec'].append((path, [(number, line[:start] + better + line[end:])]))
+            for match in re.finditer(r'\.Absent\((-?\w+)\)', line):
+                more = '.Absent(%s + 1)' % match.group(1)
+                sites['default'].append((path, [(number, line.replace(match.group(0), '', 1))]))
+                sites['default'].append((path, [(number, line.replace(match.group(0), more, 1))]))
+            for match in re.finditer(r'\.SetsAndNeeds\(AT\(\w+\)\)', line):
+                sites['flag'].append((path, [(number, line.replace(match.group(0), '', 1))]))
+            for match in re.finditer(r'\.Count(?:Uncapped)?\((AT\(\w+\))\)', line):
+                other = '.Count(' if 'Uncapped' in match.group(0) else '.CountUncapped('
+                sites['count'].append((path, [(number, line.replace(match.group(0), '', 1))]))
+                sites['count'].append((path, [(number, line.replace(match.group(0), other + match.group(1) + ')', 1))]))
+            for match in WORD.finditer(line):
+                sites['policy'].append((path, [(number, line[:match.start()] + line[match.end():])]))
+            match = NAME.match(line)
+            if match:
+                if names and names[-1][0] == number - 1 and names[-1][2] != match.group(1):
+                    before = names[-1]
+                    sites['code'].append((path, [(before[0], before[1].replace(before[2], match.group(1), 1)),
+                                                 (number, line.replace(match.group(1), before[2], 1))]))
+                names.append((number, line, match.group(1)))
+    return sites
+
+
+def chosen_changes():
+    sites, chance, seen, changes = all_sites(), random.Random(SEED), set(), []
+    while len(changes) < COUNT and any(sites.values()):
+        kind = chance.choice(sorted(k for k in sites if sites[k]))
+        path, lines = sites[kind].pop(chance.randrange(len(sites[kind])))
+        if (path, str(lines)) in seen:
+            continue
+        seen.add((path, str(lines)))
+        changes.append(Change(len(changes) + 1, kind, os.path.relpath(path, TREE), lines))
+    return changes
+
+
+# ---- What depends on what -----------------------------------------------------------------------------------------
+
+def dependents():
+    """By file of the tree, the objects that were compiled from it, and by object its source."""
+    by_file, source = collections.defaultdict(list), {}
+    target = None
+    for line in subprocess.run(['ninja', '-C', BUILD, '-t', 'deps'], capture_output=True, text=True).stdout.split('\n'):
+        if line.startswith('    '):
+            path = os.path.relpath(os.path.join(BUILD, line.strip()), TREE)
+            by_file[path].append(target)
+            source.setdefault(target, path)
+        elif ': #deps' in line:
+            target = line.split(':')[0]
+    return by_file, source
+
+
+def suites(path):
+    return ['*%s.*' % name for name in re.findall(r'^TEST(?:_F|_P)?\((\w+),', open(TREE + '/' + path).read(), re.M)]
+
+
+# ---- Trying one ---------------------------------------------------------------------------------------------------
+
+def ninja(targets):
+    with open(WORK + '/build.log', 'w') as log:
+        return subprocess.run(['ninja', '-C', BUILD, '-j', '1'] + targets, stdout=log, stderr=log).returncode == 0
+
+
+def failure(program, only, without):
+    """The name of the first test that fails, or None."""
+    tests = '%s:-%s' % (only, ':'.join([NEVER, GOLDEN] + without))
+    with open(WORK + '/test.log', 'wb') as log:
+        try:
+            code = subprocess.run([program, '--gtest_fail_fast', '--gtest_filter=' + tests], stdout=log,
+                                  stderr=log, timeout=MOST_SECONDS).returncode
+        except subprocess.TimeoutExpired:
+            return 'the time limit'
+    if code == 0:
+        return None
+    text = open(WORK + '/test.log', 'rb').read().decode('latin-1')
+    failed = re.search(r'FAILED  \] ([\w./]+)', text)
+    if failed:
+        return failed.group(1)
+    began = re.findall(r'RUN      \] ([\w./]+)', text)
+    return 'the end of the program in ' + (began[-1] if began else 'its beginning')
+
+
+def killer(folder, without):
+    """The tests that tell most for their time come first: headers against tables, then those of the family."""
+    family = [s for path in sorted(glob.glob('%s/tests/%s/*_test.cpp' % (TREE, folder)))
+              for s in suites(os.path.relpath(path, TREE))]
+    return (failure(TOOL_TESTS, 'Headers.*:FieldValues.*', without)
+            or failure(TESTS, ':'.join(['Commands*'] + family), [SLOW] + without)
+            or failure(TOOL_TESTS, '*', without)
+            or failure(TESTS, '*', [SLOW] + without)
+            or failure(TESTS, SLOW, without))
+
+
+def verdict(change, by_file, source, link):
+    """Also the objects that are not those of the tree as it is."""
+    folder = os.path.dirname(change.file)[len('src/'):]
+    objects = [o for o in by_file[change.file] if CORE_OBJECTS in o]
+    near = [o for o in objects if os.path.dirname(source[o]) == 'src/' + folder] or objects[:4]
+    touched = near
+    if not ninja(near):
+        return 'refused by the compiler', touched
+    if change.file.endswith('.h'):
+        # Dear, as many files include it. What a test finds in a few of them is found in all. Tests that were compiled
+        # from the header wait for the turn in which they are compiled again.
+        readers = [s for o in by_file[change.file] if source[o].endswith('_test.cpp') for s in suites(source[o])]
+        if subprocess.run(link, shell=True, cwd=BUILD).returncode == 0:
+            found = killer(folder, readers)
+            if found:
+                return 'killed by ' + found, touched
+        touched = by_file[change.file]
+        if not ninja(ALL):
+            return 'refused by the compiler', touched
+    elif subprocess.run(link, shell=True, cwd=BUILD).returncode != 0:
+        return 'refused by the linker', touched
+    found = killer(folder, [])
+    return ('killed by ' + found if found else 'SURVIVED'), touched
+
+
+def try_change(change, by_file, source, link):
+    path, original = TREE + '/' + change.file, WORK + '/original'
+    shutil.copy2(path, original)
+    open(WORK + '/changing', 'w').write(change.file)
+    lines = open(path).read().split('\n')
+    old = [lines[number] for number, _ in change.lines]
+    for number, text in change.lines:
+        lines[number] = text
+    open(path, 'w').write('\n'.join(lines))
+    said, touched = verdict(change, by_file, source, link)
+    # With its own time, so that nothing else is built again; what was built from the change is.
+    shutil.copy2(original, path)
+    for target in touched:
+        if os.path.exists(BUILD + '/' + target):
+            os.remove(BUILD + '/' + target)
+    os.remove(WORK + '/changing')
+    if not ninja(touched if all(CORE_OBJECTS in target for target in touched) else ALL):
+        sys.exit('mutate: the tree does not build again, see build.log')
+    return said, old
+
+
+def main():
+    changes_now = WORK + '/changing'
+    if os.path.exists(changes_now):  # a run ended here
+        path = TREE + '/' + open(changes_now).read()
+        shutil.copyfile(WORK + '/original', path)
+        os.remove(changes_now)
+    if not ninja(ALL):
+        sys.exit('mutate: the tree does not build, see build.log')
+    by_file, source = dependents()
+    link = subprocess.run(['ninja', '-C', BUILD, '-t', 'commands', CORE], capture_output=True,
+                          text=True).stdout.strip().split('\n')[-1]
+
+    results = '%s/results-%d.txt' % (WORK, SEED)
+    before = open(results).read() if os.path.exists(results) else ''
+    done = dict(re.findall(r'^(\d+) \w+ \S+: (\w+)', before, re.M))
+    if not done:
+        print('mutate: running the tests on the tree as it is', flush=True)
+        found = killer('*', [])
+        if found:
+            sys.exit('mutate: without any change they fail at %s, see test.log' % found)
+    said_so_far = collections.Counter(done.values())
+    for change in chosen_changes():
+        if str(change.number) in done:
+            continue
+        start = time.time()
+        said, old = try_change(change, by_file, source, link)
+        said_so_far[said.split()[0]] += 1
+        text = '%d %s %s: %s\n' % (change.number, change.kind, change.file, said)
+        text += ''.join('< %s\n' % line for line in old) + ''.join('> %s\n' % line for _, line in change.lines)
+        with open(results, 'a') as out:
+            out.write(text)
+        print('%s= %d of %d, %d survived, %d s' % (text, sum(said_so_far.values()), COUNT, said_so_far['SURVIVED'],
+                                                   time.time() - start), flush=True)
+
+    print('=== survivors, from ' + results)
+    for block in re.split(r'^(?=\d+ \w+ \S+: )', open(results).read(), flags=re.M):
+        if ': SURVIVED' in block:
+            print(block, end='')
+    print('%d changes: %d killed by tests, %d refused by the compiler, %d survived' % (
+        sum(said_so_far.values()), said_so_far['killed'], said_so_far['refused'], said_so_far['SURVIVED']))
+
+
+main()
