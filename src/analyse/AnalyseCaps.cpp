@@ -7,6 +7,7 @@
 #include "frame/Log.h"
 #include "frame/json/Reader.h"
 #include "frame/record/Engine.h"
+#include "frame/record/SharedCodecs.h"
 
 #include <algorithm>
 
@@ -63,15 +64,6 @@ void ReadIsOne(const Field& field, const Value& value, std::byte* record, ReadCa
     StoreInteger(field.cell, record + field.offset, value.asInt() == 1 ? 1 : 0);
 }
 constexpr CustomCodec kIsOne{ReadIsOne};
-
-// The bits of a list of names.
-void ReadChannelTypes(const Field& field, const Value& value, std::byte* record, ReadCall&) {
-    std::uint32_t types = 0;
-    for (const Value& type : value.elements())
-        types |= static_cast<std::uint32_t>(field.names->CodeOf(type.asString()).value_or(0));
-    Store(record + field.offset, types);
-}
-constexpr CustomCodec kChannelTypeBits{ReadChannelTypes};
 
 PART(kCalibrateCaps, CFG_CALIBRATE_CAPS,
      {
@@ -188,7 +180,7 @@ PART(kSceneComp, CFG_SCENE_COMP,
         FIELD(nSpecialProperties, "SupportedSpecialDetectRegionProperty", Names(kProperties))                          \
             .Count(AT(nSpecialPropertyNum))                                                                            \
             .NullElement(Nulls::LeaveHole),                                                                            \
-        FIELD(dwVideoChannelTypes, "SupportedVideoChannelType", Custom(kChannelTypeBits)).Coded(kChannelTypes),        \
+        FIELD(dwVideoChannelTypes, "SupportedVideoChannelType", NamedBits(kChannelTypes)),                             \
         FIELD(bMultiSceneSwitch, "SupportMultiSceneSwitch", Bool), FIELD(nSceneCapsNum),                               \
         FIELD(stuSceneCaps, "SupportedScenes", Record(scenes))                                                         \
             .Keyed()                                                                                                   \

@@ -1,6 +1,6 @@
 #include "display/Audio.h"
 
-#include "display/SplitName.h"
+#include "frame/record/SharedCodecs.h"
 
 namespace orrery {
 
@@ -95,7 +95,7 @@ TABLE(kLowerMatrices, CFG_LOWER_MATRIX_INFO,
 
 TABLE(kComposeChannel, CFG_COMPOSE_CHANNEL_INFO,
       {
-          FIELD(emSplit, "Split", Custom(kSplitName)),
+          FIELD(emSplit, "Split", SplitName),
           FIELD(nChannelCount),
           FIELD(nChannels, "ChannelCombination", Int).Count(AT(nChannelCount)),
       });

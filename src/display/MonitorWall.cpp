@@ -1,7 +1,7 @@
 #include "display/MonitorWall.h"
 
 #include "device/RemoteDevice.h"
-#include "display/SplitName.h"
+#include "frame/record/SharedCodecs.h"
 
 namespace orrery {
 
@@ -55,7 +55,7 @@ PART(kCompositeScene, CFG_COMPOSITE_SCENE,
      {
          FIELD(szName, nullptr, MemberName),
          FIELD(szControlID, "ControlID", Text),
-         FIELD(emMode, "Mode", Custom(kSplitName)),
+         FIELD(emMode, "Mode", SplitName),
          FIELD(nWindowCount),
          FIELD(stuWindows, "Windows", Record(kWindow)).Count(AT(nWindowCount)),
      });

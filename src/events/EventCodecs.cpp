@@ -101,13 +101,6 @@ void ReadOwnedRecord(const Field& field, const Value& value, std::byte* record, 
     Store(record + field.offset, block);
 }
 
-void ReadNamedBits(const Field& field, const Value& value, std::byte* record, ReadCall&) {
-    std::uint32_t bits = Load<std::uint32_t>(record + field.offset);
-    for (const Value& element : value.elements())
-        bits |= static_cast<std::uint32_t>(field.names->CodeOf(element.asString()).value_or(0));
-    Store(record + field.offset, bits);
-}
-
 void ReadByKeys(const Field& field, const Value& value, std::byte* record, ReadCall&) {
     const std::uint32_t stride = field.elementSize;
     for (std::uint16_t i = 0; i < field.names->count; ++i) {
@@ -132,7 +125,6 @@ constexpr CustomCodec kSecondNumber{ReadNumberAt<1>, nullptr, "[ 640, 480 ]"};
 constexpr CustomCodec kCountedFromOne{ReadCountedFromOne, nullptr, "2"};
 constexpr CustomCodec kOwnedText{ReadOwnedText, nullptr, "\"text\""};
 constexpr CustomCodec kOwnedRecord{ReadOwnedRecord, nullptr, "{}"};
-constexpr CustomCodec kNamedBits{ReadNamedBits, nullptr, "[]"};
 constexpr CustomCodec kByKeys{ReadByKeys, nullptr, "{}"};
 
 } // namespace orrery::events

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/record/Engine.h"
+#include "frame/record/SharedCodecs.h"
 
 #include "orrery/events_vehicle.h"
 
@@ -68,18 +69,6 @@ struct OwnedRecord {
     const CustomCodec* codec = &kOwnedRecord;
     const Table* table;
     constexpr explicit OwnedRecord(const TypedTable<R>& itsTable) : table(&itsTable) {}
-};
-
-// List of texts, each setting the bit that the table gives it.
-extern const CustomCodec kNamedBits;
-struct NamedBits {
-    static constexpr Kind kind = Kind::Custom;
-    static constexpr bool wholeMember = true;
-    template <class T>
-    static constexpr bool accepts = std::is_same_v<T, std::uint32_t>;
-    const CustomCodec* codec = &kNamedBits;
-    const NameTable* names;
-    constexpr explicit NamedBits(const NameTable& table) : names(&table) {}
 };
 
 // An object whose members are the elements: the table gives each key the index of its element.

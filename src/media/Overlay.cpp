@@ -2,6 +2,7 @@
 
 #include "frame/Request/CStrParse.h"
 #include "frame/record/Engine.h"
+#include "frame/record/SharedCodecs.h"
 
 #include <algorithm>
 
@@ -11,16 +12,6 @@ using namespace record;
 using json::Value;
 
 namespace {
-
-// Channels count from 1 in the text.
-void ReadChannel(const Field& field, const Value& value, std::byte* record, ReadCall&) {
-    Store(record + field.offset, static_cast<std::uint32_t>(value.asInt()) - 1);
-}
-void WriteChannel(const Field& field, const std::byte* record, WriteCall& call) {
-    call.Key();
-    call.out.Int(static_cast<std::int32_t>(Load<std::uint32_t>(record + field.offset) + 1));
-}
-constexpr CustomCodec kChannel{ReadChannel, WriteChannel, "3"};
 
 // "10:20:30". False, and the call ends, when the value is no text that can be split.
 bool Split(const Value& value, CStrParse& items, ReadCall& call) {
@@ -60,7 +51,7 @@ constexpr CustomCodec kBits{ReadBits, nullptr, R"("0:3")"};
 
 TABLE(kSnapInfo, CFG_SNAP_INFO,
       {
-          FIELD(nChannel, "Chn", Custom(kChannel)),
+          FIELD(nChannel, "Chn", FromOne),
           FIELD(nSizeCount),
           FIELD(nSizes, "Size", Custom(kNumbers)).Count(AT(nSizeCount)).Always(),
           FIELD(nFpsCount),
@@ -73,7 +64,7 @@ TABLE(kSnapInfo, CFG_SNAP_INFO,
 
 TABLE(kWaterMark, CFG_WATERMARK_INFO,
       {
-          FIELD(nChannel, "Chn", Custom(kChannel)),
+          FIELD(nChannel, "Chn", FromOne),
           FIELD(nEnable, "En", Int),
           FIELD(nStream, "Stream", Int),
           FIELD(nKey, "Key", Int),

@@ -1,6 +1,7 @@
 #include "storage/RecordPlan.h"
 
 #include "frame/record/Engine.h"
+#include "frame/record/SharedCodecs.h"
 
 #include <algorithm>
 
@@ -110,16 +111,6 @@ constexpr CustomCodec kReplysChannel{ReadChannel, nullptr, "-1"}; // a list, wha
 
 // ---- "HolidaySchedule" ----
 
-// The text counts channels from 1.
-void ReadNumber(const Field& field, const Value& value, std::byte* record, ReadCall&) {
-    Store(record + field.offset, static_cast<std::int32_t>(static_cast<std::uint32_t>(value.asInt()) - 1));
-}
-void WriteNumber(const Field& field, const std::byte* record, WriteCall& call) {
-    call.Key();
-    call.out.Int(static_cast<std::int32_t>(Load<std::uint32_t>(record + field.offset) + 1));
-}
-constexpr CustomCodec kNumberFromOne{ReadNumber, WriteNumber, "3"};
-
 void ReadHolidays(const Field& field, const Value& value, std::byte* record, ReadCall&) {
     ReadDay(value, record + field.offset);
 }
@@ -161,7 +152,7 @@ TABLE(kRecordMode, CFG_RECORD_MODE_INFO,
 TABLE(kHolidayPlan, CFG_HOLIDAY_SCHEDULE_INFO,
       {
           FIELD(bEnable, "En", Bool),
-          FIELD(nChannel, "Chn", Custom(kNumberFromOne)),
+          FIELD(nChannel, "Chn", FromOne),
           FIELD(nMonthSchedule, "MonthSchedule", UInt),
           FIELD(stuTimeSection, "TimeSectionGroup", Custom(kHolidayPeriods)),
       });

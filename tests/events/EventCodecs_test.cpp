@@ -27,17 +27,10 @@ struct WORDS {
     std::int32_t firstNumber;
     std::int32_t secondNumber;
     std::int32_t fromOne;
-    std::uint32_t bits;
     std::uint8_t shares[3];
     std::int32_t place;
     std::int32_t within;
 };
-NAMES(kBits, record::kFolded,
-      {
-          {1, "One"},
-          {4, "Three"},
-          {4, "Third"},
-      });
 NAMES(kShares, record::kExact,
       {
           {0, "Low"},
@@ -59,7 +52,6 @@ PART(kWords, WORDS,
          FIELD(firstNumber, "pair", FirstNumber),
          FIELD(secondNumber, "pair", SecondNumber),
          FIELD(fromOne, "state", CountedFromOne),
-         FIELD(bits, "bits", NamedBits(kBits)),
          FIELD(shares, "shares", ByKeys(kShares)),
          FIELD(place, "place", PlaceIn<1, 7, 5, 9>),
          FIELD(within, "within", Within<-3, 100>).Absent(-50),
@@ -115,12 +107,6 @@ TEST(EventWords, CountedFromOneAddsOne) {
     EXPECT_EQ(Read(kWords, Object("state", "0")).fromOne, 1);
     EXPECT_EQ(Read(kWords, Object("state", "4")).fromOne, 5);
     EXPECT_EQ(Read(kWords, "{}").fromOne, 0);
-}
-
-TEST(EventWords, NamedBitsAddUp) {
-    EXPECT_EQ(Read(kWords, Object("bits", R"([ "one", "Third" ])")).bits, 5u);
-    EXPECT_EQ(Read(kWords, Object("bits", R"([ "Three", "Third", "no such name", 3 ])")).bits, 4u); // set twice is set
-    EXPECT_EQ(Read(kWords, Object("bits", R"("One")")).bits, 0u);
 }
 
 TEST(EventWords, ByKeysTakesTheElementsThatExist) {

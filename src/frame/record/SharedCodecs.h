@@ -1,0 +1,39 @@
+// Codecs that several families need and that are functions of their own, as words for their rows.
+#pragma once
+
+#include "frame/record/Field.h"
+
+namespace orrery::record {
+
+// List of texts, each setting the bit that the table gives it.
+extern const CustomCodec kNamedBits;
+struct NamedBits {
+    static constexpr Kind kind = Kind::Custom;
+    static constexpr bool wholeMember = true;
+    template <class T>
+    static constexpr bool accepts = std::is_same_v<T, std::uint32_t>;
+    const CustomCodec* codec = &kNamedBits;
+    const NameTable* names;
+    constexpr explicit NamedBits(const NameTable& table) : names(&table) {}
+    explicit NamedBits(const NameTable&&) = delete; // the row points to the table
+};
+
+#define ORRERY_SHARED_CODEC(word, function, condition)                                                                 \
+    extern const CustomCodec function;                                                                                 \
+    struct word##Codec {                                                                                               \
+        static constexpr Kind kind = Kind::Custom;                                                                     \
+        static constexpr bool wholeMember = true;                                                                      \
+        template <class T>                                                                                             \
+        static constexpr bool accepts = condition;                                                                     \
+        const CustomCodec* codec = &function;                                                                          \
+    };                                                                                                                 \
+    inline constexpr word##Codec word {}
+
+// A number that counts from 1 in the text and from 0 in the record, such as a channel's.
+ORRERY_SHARED_CODEC(FromOne, kFromOne, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
+// How a joined picture is divided, by the names that composed pictures have: prefixes in any case, a name for every
+// code.
+ORRERY_SHARED_CODEC(SplitName, kSplitName, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
+#undef ORRERY_SHARED_CODEC
+
+} // namespace orrery::record
