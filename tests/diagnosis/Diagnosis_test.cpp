@@ -340,7 +340,7 @@ TEST(DiagnosisCaps, TheRecordHasExactlyItsSize) {
                                    static_cast<std::uint32_t>(given), &length),
                   given == size);
         EXPECT_EQ(length, given == size ? size : kNoLength);
-        const Written written = WriteBytes(kCaps, buffer.data(), given, 256);
+        const WrittenBytes written = WriteBytes(kCaps, buffer.data(), given, 256);
         EXPECT_EQ(written.result, given == size);
         if (given != size) {
             EXPECT_EQ(written.bytes, std::string(256, '#'));
@@ -353,7 +353,7 @@ TEST(DiagnosisCaps, NothingIsWrittenBehindTheText) {
     const std::string text =
         "{ \"MaxProfiles\" : 0, \"MaxProjects\" : 0, \"MaxSourcesOfTask\" : 0, \"MaxTasks\" : 0 }\n";
     for (const std::size_t behind : {0, 1, 5}) {
-        const Written written = WriteBytes(kCaps, caps.get(), sizeof *caps, text.size() + behind);
+        const WrittenBytes written = WriteBytes(kCaps, caps.get(), sizeof *caps, text.size() + behind);
         EXPECT_EQ(written.result, 1);
         EXPECT_EQ(written.bytes, text + std::string(behind, '#'));
     }

@@ -13,11 +13,11 @@ namespace orrery::test {
 inline constexpr Answer kListRead{1, 16};
 
 // What a call tells of a text buffer of `room` bytes that began as '#'.
-struct Written {
+struct WrittenBytes {
     std::int32_t result;
     std::string bytes;
 };
-inline Written WriteBytes(const char* command, const void* record, std::size_t size, std::size_t room) {
+inline WrittenBytes WriteBytes(const char* command, const void* record, std::size_t size, std::size_t room) {
     const GuardedBuffer text(room);
     std::memset(text.data(), '#', room);
     const auto result = CLIENT_PacketData(command, record, static_cast<std::uint32_t>(size), text.data(),

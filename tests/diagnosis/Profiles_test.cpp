@@ -193,7 +193,7 @@ TEST(DiagnosisProfile, FailsWithoutRoomBeforeTheTextIsLookedAt) {
             EXPECT_EQ(ReadList(command, ReplyWith("{}"), list), kRefused) << command;
             EXPECT_EQ(ReadList(command, ReplyWith("[]"), list), kRefused) << command;
             EXPECT_EQ(list.nReturned, 5);
-            const Written written = WriteBytes(command, &list, sizeof list, 64);
+            const WrittenBytes written = WriteBytes(command, &list, sizeof list, 64);
             EXPECT_EQ(written.result, 0) << command;
             EXPECT_EQ(written.bytes, std::string(64, '#')) << command;
         }
@@ -295,7 +295,7 @@ TEST(DiagnosisProfile, ATextAsLongAsItsBufferFitsAndNothingIsWrittenBehindOne) {
     const CFG_DIAGNOSIS_PROFILE_LIST list{1, 1, &profile};
     const std::string text = "{ \"p\" : { \"VideoDelay\" : { \"Enable\" : false } } }\n";
     for (const std::size_t behind : {0, 1, 2, 9000}) {
-        const Written written = WriteBytes(kCommand, &list, sizeof list, text.size() + behind);
+        const WrittenBytes written = WriteBytes(kCommand, &list, sizeof list, text.size() + behind);
         EXPECT_EQ(written.result, 1);
         EXPECT_EQ(written.bytes, text + std::string(behind, '#'));
     }
