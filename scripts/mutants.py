@@ -2,9 +2,11 @@
 """Makes the changes of scripts/mutate.sh and tries each: mutants.py TREE WORK COUNT SEED. The tree is built."""
 import collections
 import glob
+import json
 import os
 import random
 import re
+import shlex
 import shutil
 import subprocess
 import sys
@@ -102,7 +104,7 @@ def dependents():
     """By file of the tree, the objects that were compiled from it, and by object its source."""
     by_file, source = collections.defaultdict(list), {}
     target = None
-    for line in subprocess.run(['ninja', '-C', BUILD, '-t', 'deps'], capture_output=True, text=True).stdout.split('\n'):
+    for line in output_of('ninja', '-C', BUILD, '-t', 'deps').split('\n'):
         if line.startswith('    '):
             path = os.path.relpath(os.path.join(BUILD, line.strip()), TREE)
             by_file[path].append(target)
@@ -142,89 +144,148 @@ def failure(program, only, without):
     return 'the end of the program in ' + (began[-1] if began else 'its beginning')
 
 
+def suites_below(pattern):
+    return [s for path in sorted(glob.glob('%s/tests/%s_test.cpp' % (TREE, pattern), recursive=True))
+            for s in suites(os.path.relpath(path, TREE))]
+
+
 def killer(folder, without):
-    """The tests that tell most for their time come first: headers against tables, then those of the family."""
-    family = [s for path in sorted(glob.glob('%s/tests/%s/*_test.cpp' % (TREE, folder)))
-              for s in suites(os.path.relpath(path, TREE))]
+    """The tests that tell most for their time come first: headers against tables, then those of the family. Those of
+    the frame have tables of their own, which no change touches."""
+    frame = [] if folder.startswith('frame') else suites_below('frame/**/*')
     return (failure(TOOL_TESTS, 'Headers.*:FieldValues.*', without)
-            or failure(TESTS, ':'.join(['Commands*'] + family), [SLOW] + without)
+            or failure(TESTS, ':'.join(suites_below(folder + '/*') + ['Commands*']), [SLOW] + without)
             or failure(TOOL_TESTS, '*', without)
-            or failure(TESTS, '*', [SLOW] + without)
+            or failure(TESTS, '*', [SLOW] + frame + without)
             or failure(TESTS, SLOW, without))
 
 
-def verdict(change, by_file, source, link):
-    """Also the objects that are not those of the tree as it is."""
+class Compiler:
+    """Compiles sources of the core without asking what else is to be built, and without warnings: what is tried may
+    leave something unused. What no change touches is read once."""
+
+    def __init__(self):
+        self.commands = {}
+        for entry in json.load(open(BUILD + '/compile_commands.json')):
+            words = [word for word in shlex.split(entry['command']) if not word.endswith('ccache')]
+            target = words[words.index('-o') + 1]
+            at = words.index('-o')
+            self.commands[target] = words[:at] + words[at + 2:-2] + ['-w', '-o', target, '-c', words[-1]]
+        self.link = shlex.join(['sh', '-c', output_of('ninja', '-C', BUILD, '-t', 'commands', CORE).strip().split('\n')[-1]])
+        self.head = WORK + '/frame.h'
+        with open(self.head, 'w') as head:
+            head.write(''.join('#include "%s"\n' % name for name in (
+                'frame/record/Engine.h', 'frame/Frames.h', 'orrery/orrery.h', 'algorithm', 'span')))
+        one = next(words for target, words in self.commands.items() if CORE_OBJECTS in target and '/frame/' not in target)
+        subprocess.run(one[:-4] + ['-x', 'c++-header', '-o', self.head + '.gch', self.head], cwd=BUILD, check=True)
+        self.read = output_of(*one[:-4], '-M', self.head)
+
+    def compiled(self, target, change):
+        words = self.commands[target]
+        if '/%s ' % change.file not in self.read.replace('\n', ' '):
+            words = words[:1] + ['-include', self.head] + words[1:]
+        with open(WORK + '/build.log', 'a') as log:
+            return subprocess.run(words, cwd=BUILD, stdout=log, stderr=log).returncode == 0
+
+    def linked(self):
+        return subprocess.run(self.link, shell=True, cwd=BUILD).returncode == 0
+
+
+def output_of(*words):
+    return subprocess.run(words, capture_output=True, text=True).stdout
+
+
+def verdict(change, by_file, source, compiler, touched):
+    """Of a change that is made. Tells in `touched` which targets are no longer those of the tree as it is."""
     folder = os.path.dirname(change.file)[len('src/'):]
-    objects = [o for o in by_file[change.file] if CORE_OBJECTS in o]
-    near = [o for o in objects if os.path.dirname(source[o]) == 'src/' + folder] or objects[:4]
-    touched = near
-    if not ninja(near):
-        return 'refused by the compiler', touched
-    if change.file.endswith('.h'):
+    objects = [target for target in by_file[change.file] if CORE_OBJECTS in target]
+    near = [target for target in objects if os.path.dirname(source[target]) == 'src/' + folder] or objects[:4]
+    open(WORK + '/build.log', 'w').close()
+    for target in near:
+        touched.append(target)
+        if not compiler.compiled(target, change):
+            return 'refused by the compiler'
+    if not compiler.linked():
+        return 'refused by the linker'
+    if not change.file.endswith('.h'):
+        found = killer(folder, [])
+    else:
         # Dear, as many files include it. What a test finds in a few of them is found in all. Tests that were compiled
         # from the header wait for the turn in which they are compiled again.
-        readers = [s for o in by_file[change.file] if source[o].endswith('_test.cpp') for s in suites(source[o])]
-        if subprocess.run(link, shell=True, cwd=BUILD).returncode == 0:
-            found = killer(folder, readers)
-            if found:
-                return 'killed by ' + found, touched
-        touched = by_file[change.file]
-        if not ninja(ALL):
-            return 'refused by the compiler', touched
-    elif subprocess.run(link, shell=True, cwd=BUILD).returncode != 0:
-        return 'refused by the linker', touched
-    found = killer(folder, [])
-    return ('killed by ' + found if found else 'SURVIVED'), touched
+        readers = [s for target in by_file[change.file] if source[target].endswith('_test.cpp')
+                   for s in suites(source[target])]
+        found = killer(folder, readers)
+        if not found:
+            touched[:] = by_file[change.file]
+            if not ninja(ALL):
+                return 'refused by the compiler'
+            found = killer(folder, [])
+    return 'killed by ' + found if found else 'SURVIVED'
 
 
-def try_change(change, by_file, source, link):
+def undo(change):
+    """With the times that files had, so that nothing else is built again."""
+    shutil.copy2(WORK + '/original/source', TREE + '/' + change)
+    kept = [line.rstrip('\n') for line in open(WORK + '/original/objects')]
+    for number, target in enumerate(kept):
+        shutil.copy2('%s/original/%d' % (WORK, number), BUILD + '/' + target)
+    shutil.rmtree(WORK + '/original')
+
+
+def try_change(change, by_file, source, compiler):
     path, original = TREE + '/' + change.file, WORK + '/original'
-    shutil.copy2(path, original)
+    shutil.rmtree(original, ignore_errors=True)
+    os.mkdir(original)
+    shutil.copy2(path, original + '/source')
+    built = by_file[change.file]
+    for number, target in enumerate(built):
+        shutil.copy2(BUILD + '/' + target, '%s/%d' % (original, number))
+    open(original + '/objects', 'w').write(''.join(target + '\n' for target in built))
     open(WORK + '/changing', 'w').write(change.file)
     lines = open(path).read().split('\n')
     old = [lines[number] for number, _ in change.lines]
     for number, text in change.lines:
         lines[number] = text
     open(path, 'w').write('\n'.join(lines))
-    said, touched = verdict(change, by_file, source, link)
-    # With its own time, so that nothing else is built again; what was built from the change is.
-    shutil.copy2(original, path)
-    for target in touched:
-        if os.path.exists(BUILD + '/' + target):
-            os.remove(BUILD + '/' + target)
+    touched = []
+    said = verdict(change, by_file, source, compiler, touched)
+    undo(change.file)
     os.remove(WORK + '/changing')
-    if not ninja(touched if all(CORE_OBJECTS in target for target in touched) else ALL):
-        sys.exit('mutate: the tree does not build again, see build.log')
+    if not all(CORE_OBJECTS in target for target in touched):
+        for program in (TESTS, TOOL_TESTS):
+            os.remove(program)
+        if not ninja(ALL):
+            sys.exit('mutate: the tree does not build again, see build.log')
     return said, old
 
 
 def main():
     changes_now = WORK + '/changing'
     if os.path.exists(changes_now):  # a run ended here
-        path = TREE + '/' + open(changes_now).read()
-        shutil.copyfile(WORK + '/original', path)
+        undo(open(changes_now).read())
         os.remove(changes_now)
+        for program in (TESTS, TOOL_TESTS):
+            os.remove(program)
     if not ninja(ALL):
         sys.exit('mutate: the tree does not build, see build.log')
     by_file, source = dependents()
-    link = subprocess.run(['ninja', '-C', BUILD, '-t', 'commands', CORE], capture_output=True,
-                          text=True).stdout.strip().split('\n')[-1]
+    compiler = Compiler()
 
     results = '%s/results-%d.txt' % (WORK, SEED)
     before = open(results).read() if os.path.exists(results) else ''
     done = dict(re.findall(r'^(\d+) \w+ \S+: (\w+)', before, re.M))
-    if not done:
+    if not os.path.exists(WORK + '/passed'):
         print('mutate: running the tests on the tree as it is', flush=True)
-        found = killer('*', [])
+        found = killer('events', [])
         if found:
             sys.exit('mutate: without any change they fail at %s, see test.log' % found)
+        open(WORK + '/passed', 'w').close()
     said_so_far = collections.Counter(done.values())
     for change in chosen_changes():
         if str(change.number) in done:
             continue
         start = time.time()
-        said, old = try_change(change, by_file, source, link)
+        said, old = try_change(change, by_file, source, compiler)
         said_so_far[said.split()[0]] += 1
         text = '%d %s %s: %s\n' % (change.number, change.kind, change.file, said)
         text += ''.join('< %s\n' % line for line in old) + ''.join('> %s\n' % line for _, line in change.lines)
