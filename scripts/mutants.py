@@ -171,7 +171,8 @@ class Compiler:
             target = words[words.index('-o') + 1]
             at = words.index('-o')
             self.commands[target] = words[:at] + words[at + 2:-2] + ['-w', '-o', target, '-c', words[-1]]
-        self.link = shlex.join(['sh', '-c', output_of('ninja', '-C', BUILD, '-t', 'commands', CORE).strip().split('\n')[-1]])
+        self.link = {target: output_of('ninja', '-C', BUILD, '-t', 'commands', target).strip().split('\n')[-1]
+                     for target in (CORE, os.path.relpath(TESTS, BUILD), os.path.relpath(TOOL_TESTS, BUILD))}
         self.head = WORK + '/frame.h'
         with open(self.head, 'w') as head:
             head.write(''.join('#include "%s"\n' % name for name in (
@@ -182,24 +183,44 @@ class Compiler:
 
     def compiled(self, target, change):
         words = self.commands[target]
-        if '/%s ' % change.file not in self.read.replace('\n', ' '):
+        if CORE_OBJECTS in target and '/%s ' % change.file not in self.read.replace('\n', ' '):
             words = words[:1] + ['-include', self.head] + words[1:]
         with open(WORK + '/build.log', 'a') as log:
             return subprocess.run(words, cwd=BUILD, stdout=log, stderr=log).returncode == 0
 
-    def linked(self):
-        return subprocess.run(self.link, shell=True, cwd=BUILD).returncode == 0
+    def linked(self, target=CORE, output=CORE):
+        command = self.link[target].replace(' -o %s ' % target, ' -o %s ' % output)
+        return subprocess.run(command, shell=True, cwd=BUILD).returncode == 0
 
 
 def output_of(*words):
     return subprocess.run(words, capture_output=True, text=True).stdout
 
 
+def nearest(file, objects, source):
+    """A few of a change's objects: its own, those of its folder that name it, and others."""
+    def distance(target):
+        path = source[target]
+        return (os.path.splitext(path)[0] != os.path.splitext(file)[0], os.path.dirname(path) != os.path.dirname(file),
+                '"%s"' % file[len('src/'):] not in open(TREE + '/' + path).read(), path)
+    return sorted(objects, key=distance)[:5]
+
+
+def still_fails(target, test, change, compiler, touched):
+    """When the test's own file is compiled again."""
+    touched.append(target)
+    tests = os.path.relpath(TOOL_TESTS if 'tests/tools/' in target else TESTS, BUILD)
+    again = WORK + '/again'
+    if not compiler.compiled(target, change) or not compiler.linked(tests, again):
+        return False
+    return failure(again, test, []) is not None
+
+
 def verdict(change, by_file, source, compiler, touched):
     """Of a change that is made. Tells in `touched` which targets are no longer those of the tree as it is."""
     folder = os.path.dirname(change.file)[len('src/'):]
     objects = [target for target in by_file[change.file] if CORE_OBJECTS in target]
-    near = [target for target in objects if os.path.dirname(source[target]) == 'src/' + folder] or objects[:4]
+    near = nearest(change.file, objects, source)
     open(WORK + '/build.log', 'w').close()
     for target in near:
         touched.append(target)
@@ -211,12 +232,19 @@ def verdict(change, by_file, source, compiler, touched):
         found = killer(folder, [])
     else:
         # Dear, as many files include it. What a test finds in a few of them is found in all. Tests that were compiled
-        # from the header wait for the turn in which they are compiled again.
-        readers = [s for target in by_file[change.file] if source[target].endswith('_test.cpp')
-                   for s in suites(source[target])]
-        found = killer(folder, readers)
+        # from the header have to find it when they are compiled again.
+        readers = {s: target for target in by_file[change.file] if source[target].endswith('_test.cpp')
+                   for s in suites(source[target])}
+        found = killer(folder, list(readers))
+        if not found and readers:
+            found = killer(folder, [])
+            test = re.search(r'(\w+)(?:/\d+)?\.[\w/]+$', found or '')
+            reader = test and readers.get('*%s.*' % test.group(1))
+            if found and not (reader and still_fails(reader, '*' + test.group(0), change, compiler, touched)):
+                found = None
         if not found:
             touched[:] = by_file[change.file]
+            open(WORK + '/all', 'w').close()
             if not ninja(ALL):
                 return 'refused by the compiler'
             found = killer(folder, [])
@@ -230,6 +258,17 @@ def undo(change):
     for number, target in enumerate(kept):
         shutil.copy2('%s/original/%d' % (WORK, number), BUILD + '/' + target)
     shutil.rmtree(WORK + '/original')
+
+
+def build_all_again():
+    if not os.path.exists(WORK + '/all'):
+        return
+    for program in (TESTS, TOOL_TESTS):
+        if os.path.exists(program):
+            os.remove(program)
+    if not ninja(ALL):
+        sys.exit('mutate: the tree does not build again, see build.log')
+    os.remove(WORK + '/all')
 
 
 def try_change(change, by_file, source, compiler):
@@ -251,11 +290,7 @@ def try_change(change, by_file, source, compiler):
     said = verdict(change, by_file, source, compiler, touched)
     undo(change.file)
     os.remove(WORK + '/changing')
-    if not all(CORE_OBJECTS in target for target in touched):
-        for program in (TESTS, TOOL_TESTS):
-            os.remove(program)
-        if not ninja(ALL):
-            sys.exit('mutate: the tree does not build again, see build.log')
+    build_all_again()
     return said, old
 
 
@@ -264,8 +299,7 @@ def main():
     if os.path.exists(changes_now):  # a run ended here
         undo(open(changes_now).read())
         os.remove(changes_now)
-        for program in (TESTS, TOOL_TESTS):
-            os.remove(program)
+    build_all_again()
     if not ninja(ALL):
         sys.exit('mutate: the tree does not build, see build.log')
     by_file, source = dependents()
@@ -281,7 +315,7 @@ def main():
             sys.exit('mutate: without any change they fail at %s, see test.log' % found)
         open(WORK + '/passed', 'w').close()
     said_so_far = collections.Counter(done.values())
-    for change in chosen_changes():
+    for change in sorted(chosen_changes(), key=lambda change: change.file.endswith('.h')): # the dear ones last
         if str(change.number) in done:
             continue
         start = time.time()
