@@ -105,6 +105,26 @@ const headers::Enumeration* EnumerationOf(std::string_view record, const Field& 
     return best.enumeration;
 }
 
+// Ways of dividing a picture: names made of a word and a number, those that are in use.
+void AddSplitModes(Node& node) {
+    constexpr std::pair<std::int32_t, std::int32_t> kRanges[] = {{1, 64}, {1001, 1009}, {2000, 2000}, {3001, 3009}};
+    Node codes = Node::Array();
+    for (const auto& [first, last] : kRanges) {
+        for (std::int32_t mode = first; mode <= last; ++mode) {
+            std::array<char, 32> room;
+            const std::string_view name = JsonParser::SplitModeText(mode, room);
+            if (name.empty() || JsonParser::GetSplitMode(name) != mode) continue;
+            Node code = Node::Object();
+            code.Add("code", Node::Number(mode)).Add("name", Node::Text(name));
+            codes.Add(std::move(code));
+        }
+    }
+    node.Add("codes", std::move(codes))
+        .Add("compare", Node::Text("exact"))
+        .Add("unknownText", Node::Number(JsonParser::GetSplitMode({})))
+        .Add("unknownCode", Node::Text("noKey"));
+}
+
 } // namespace
 
 std::string NameOfEnumeration(const headers::Enumeration& enumeration) {
@@ -147,6 +167,7 @@ Node EnumerationNodes() {
 void AddCodes(Node& node, std::string_view record, const Field& field) {
     const headers::Enumeration* const enumeration = EnumerationOf(record, field);
     if (enumeration != nullptr) node.Add("enumeration", Node::Text(NameOfEnumeration(*enumeration)));
+    if (field.kind == Kind::SplitMode) return AddSplitModes(node);
     const NameTable* const names = field.names;
     if (names == nullptr) return;
     Node codes = Node::Array();

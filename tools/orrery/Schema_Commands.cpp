@@ -3,6 +3,7 @@
 #include "orrery/Words.h"
 
 #include "Commands.h"
+#include "analyse/RuleClasses.h"
 #include "analyse/Templates.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
@@ -253,8 +254,16 @@ Node TextNodes() {
         .Add("name", Node::Text("Code"))
         .Add("action", Node::Text("Action"))
         .Add("data", Node::Text("Data"));
+    Node classes = Node::Array();
+    for (const Name* row = kTemplateClasses.rows; row != kTemplateClasses.rows + kTemplateClasses.count; ++row) {
+        Node one = Node::Object();
+        one.Add("code", Node::Number(row->code)).Add("name", Node::Text(row->text));
+        classes.Add(std::move(one));
+    }
     Node templates = Node::Object();
-    templates.Add("value", PlaceOf(Source::Table, ""));
+    templates.Add("value", std::move(Node::InlineArray().Add(Node::Text("params"))))
+        .Add("items", Node::Text("members"))
+        .Add("classes", std::move(classes));
     return std::move(Node::Object().Add("events", std::move(events)).Add("templates", std::move(templates)));
 }
 

@@ -212,7 +212,10 @@ void AddFields(Node& node, const Tables& tables, const Table& table, const std::
         if (items->head != nullptr) packed.Add("head", Node::Text(telling.record));
         packed.Add("code", Node::Text(SlotName(telling, items->code)))
             .Add("size", Node::Text(SlotName(telling, items->size)));
-        if (items->head != nullptr) packed.Add("most", Node::Unsigned(items->most)).Add("typeKey", Node::Text("Type"));
+        if (items->head != nullptr)
+            packed.Add("most", Node::Unsigned(items->most))
+                .Add("typeKey", Node::Text("Type"))
+                .Add("classKey", Node::Text("Class"));
         node.Add("items", std::move(packed));
     }
     Node fields = Node::Array();

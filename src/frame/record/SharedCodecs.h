@@ -32,7 +32,7 @@ struct NamedBits {
 // A number that counts from 1 in the text and from 0 in the record, such as a channel's.
 ORRERY_SHARED_CODEC(FromOne, kFromOne, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
 // How a joined picture is divided, by the names that composed pictures have: prefixes in any case, a name for every
-// code.
+// code but negative ones, which write no key.
 ORRERY_SHARED_CODEC(SplitName, kSplitName, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
 #undef ORRERY_SHARED_CODEC
 

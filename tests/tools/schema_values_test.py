@@ -1,0 +1,330 @@
+#!/usr/bin/env python3
+"""schema_values_test.py COMPANION LIBRARY: from the schema alone, a full text for every command, rule, event, typed
+text and template; each is parsed through the C interface, and every value must stand where the schema says it is."""
+import copy
+import ctypes
+import json
+import subprocess
+import sys
+import unittest
+
+from schema_values import Lack, Maker, Memory, Text, Value, differences
+
+COMPANION, LIBRARY = sys.argv[1:3]
+CALLBACK = ctypes.CFUNCTYPE(ctypes.c_int32, ctypes.c_uint32, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p,
+                            ctypes.c_int32, ctypes.c_void_p)
+library = ctypes.CDLL(LIBRARY)
+library.CLIENT_ParseData.argtypes = [ctypes.c_char_p, ctypes.c_char_p, ctypes.c_void_p, ctypes.c_uint32,
+                                     ctypes.c_void_p]
+library.CLIENT_ParseAnalyzerEventData.argtypes = [ctypes.c_char_p, ctypes.c_uint32, CALLBACK, ctypes.c_void_p]
+library.CLIENT_ParseDataByCallback.argtypes = library.CLIENT_ParseAnalyzerEventData.argtypes
+library.CLIENT_ParseVideoInAnalyse.argtypes = [ctypes.c_char_p, ctypes.c_int32, ctypes.c_char_p, ctypes.c_void_p,
+                                               ctypes.c_void_p, ctypes.c_uint32]
+
+
+class Trial:
+    def __init__(self, schema, second=False, unknown=False):
+        self.schema = schema
+        self.maker = Maker(schema, second, unknown)
+        self.looked, self.by_function, self.shared, self.completed = 0, 0, 0, set()
+
+    def differences(self, base, text):
+        self.looked += len(text.after)
+        self.by_function += len(text.functions)
+        self.shared += len(text.shared)
+        return differences(base, text.after, self.completed)
+
+    def put(self, reply, path, value):
+        parts = path.split("/")
+        for part in parts[:-1]:
+            reply = reply.setdefault(part, {})
+        reply[parts[-1]] = value
+
+    # ---- Commands ---------------------------------------------------------------------------------------------------
+
+    def command(self, command):
+        """What is wrong with a command; nothing when all is in its place."""
+        reading = command["reading"]
+        form = self.maker.form(command)
+        size = self.maker.size(command["record"])
+        text = Text()
+        # The caller's own input stays: its size words are among it.
+        sized = reading["stride"] != "record" or reading["clears"] == "kept"
+        shapes = reading["shapes"]
+        count = 2 if "records" in (shapes["array"],) or shapes["object"] == "members" else 1
+        if "items" in form:
+            return self.items(command, form, size)
+        values = []
+        for i in range(count):
+            member = None
+            if shapes["object"] == "members":
+                member = self.maker.member_names(form, count)[i]
+            values.append((member, self.maker.record(form, (i * size,), text, sized, member, f"[{i}]." if i else "")))
+        value = values[0][1]
+        if shapes["object"] == "members":
+            value = dict(values)
+        elif shapes["array"] == "records":
+            value = [each for _, each in values]
+        reply = {"result": 1 if reading["result"] == "integerNonZero" else True, **text.reply}
+        self.put(reply, reading["value"][0], value)
+        memory = Memory(count * size)
+        memory.prepare(text.before)
+        told = ctypes.c_uint32(0)
+        done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), memory.base,
+                                        count * size, ctypes.byref(told))
+        if done != 1:
+            return [f"refused: {json.dumps(reply)[:300]}"]
+        return self.differences(memory.base, text)
+
+    def absent(self, command):
+        """A record without keys: what the schema says of absent ones."""
+        reading, form = command["reading"], self.maker.form(command)
+        if reading["shapes"]["object"] != "record" or reading["clears"] != "buffer" or form["shape"] != "object":
+            return []
+        text, memory = Text(), Memory(self.maker.size(command["record"]))
+        self.maker.absent(form, (0,), text)
+        reply = {"result": 1 if reading["result"] == "integerNonZero" else True}
+        self.put(reply, reading["value"][0], {})
+        if reading["value"][0] == "result":
+            return []
+        done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), memory.base,
+                                        memory.size, None)
+        if done != 1:
+            # Functions may insist on their keys.
+            return [] if any("function" in field for field in form["fields"]) else [f"refused: {reply}"]
+        return self.differences(memory.base, text)
+
+    # ---- Rules ------------------------------------------------------------------------------------------------------
+
+    def items(self, command, form, size):
+        rules = [rule for rule in self.schema["rules"]
+                 if rule["descriptor"] == command["record"] and not rule.get("writeOnly")]
+        wrong = []
+        for rule in rules:
+            wrong += [f"{rule['name']}: {each}" for each in self.rule(command, form, size, rule)]
+        return wrong
+
+    def item(self, form, rule):
+        """A packed item: its text, and the memory behind the descriptor's pointer."""
+        items, text = form["items"], Text()
+        pointer = next(field for field in form["fields"] if "items" in field.get("pointer", {}))
+        member = lambda word: self.maker.field_of(form, pointer["pointer"][word])
+        head = self.maker.records[items["head"]]
+        value = self.maker.record(self.maker.form(rule), (pointer["offset"], head["size"]), text)
+        value[items["typeKey"]] = rule["name"]
+        room = head["size"] + rule["size"]
+        if pointer["pointer"]["owner"] == "caller":
+            text.before = [Value((pointer["offset"],), "block", room, ""),
+                           Value((member("bytes")["offset"],), member("bytes")["type"], room, "")] + text.before
+        for name, wanted in ((items["code"], rule["code"]), (items["size"], rule["size"])):
+            field = self.maker.field_of(head, name)
+            text.after.append(Value((pointer["offset"], field["offset"]), field["type"], wanted, name))
+        text.after.append(Value((member("items")["offset"],), member("items")["type"], 1, member("items")["name"]))
+        return text, value
+
+    def rule(self, command, form, size, rule):
+        text, value = self.item(form, rule)
+        memory = Memory(size)
+        memory.prepare(text.before)
+        reply = {"result": True, **text.reply}
+        self.put(reply, command["reading"]["value"][0], [value])
+        done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), memory.base, size, None)
+        return ["refused"] if done != 1 else self.differences(memory.base, text)
+
+    # ---- Events and typed texts ---------------------------------------------------------------------------------------
+
+    def delivered(self, call, reply, look):
+        """What `look(code, record, size)` says of what the callback is given."""
+        wrong, calls = [], []
+
+        def take(code, record, size, _reserved, _sequence, _user):
+            calls.append(code)
+            wrong.extend(look(code, record, size))
+            return 1
+        call(json.dumps(reply).encode(), 0, CALLBACK(take), None)
+        return wrong if len(calls) == 1 else [f"handed over {len(calls)} times: {json.dumps(reply)[:300]}"]
+
+    def event(self, event):
+        form, keys, text = self.maker.form(event), self.schema["texts"]["events"], Text()
+        value = self.maker.record(form, (0,), text)
+        self.supplied(form, text)
+        one = {keys["name"]: event["name"], keys["action"]: "Stop", keys["data"]: value, **text.reply}
+
+        def look(code, record, size):
+            wrong = [] if (code, size) == (event["code"], event["size"]) else [f"code {code}, {size} bytes"]
+            return wrong + self.differences(record, text)
+        return self.delivered(library.CLIENT_ParseAnalyzerEventData, {keys["list"][0]: [one]}, look)
+
+    def supplied(self, form, text):
+        for field in form["fields"]:
+            if field.get("supplied") == "action":
+                text.after.append(Value((field["offset"],), field["type"], 2, field["name"]))
+
+    def typed(self, typed):
+        form, text = self.maker.form(typed), Text()
+        if any(field.get("pointer", {}).get("items") for field in form["fields"]):
+            return self.typed_items(typed, form)
+        value = self.maker.record(form, (0,), text)
+
+        def look(code, record, size):
+            wrong = [] if code == typed["code"] and size == self.maker.size(typed["record"]) else [f"{code}, {size}"]
+            return wrong + self.differences(record, text)
+        reply = {typed["name"]: [value] if typed["list"] else value, **text.reply}
+        return self.delivered(library.CLIENT_ParseDataByCallback, reply, look)
+
+    def typed_items(self, typed, form):
+        wrong = []
+        for rule in self.schema["rules"]:
+            if not rule.get("writeOnly"):
+                text, value = self.item(form, rule)
+                wrong += self.delivered(library.CLIENT_ParseDataByCallback, {typed["name"]: [value]},
+                                        lambda code, record, size, text=text: self.differences(record, text))
+        return wrong
+
+    def template(self, template):
+        form, around = self.maker.form(template), self.schema["texts"]["templates"]
+        place, code = around["value"][0], 0
+        if template["class"]:
+            chosen = next(each for each in around["classes"] if each["name"])
+            place, code = f"{place}/{chosen['name']}", chosen["code"]
+        if "items" in form:
+            rules = [rule for rule in self.schema["rules"] if not rule.get("writeOnly")]
+            return [f"{rule['name']}: {each}" for rule in rules
+                    for each in self.template_rule(template, form, rule, place, code)]
+        text, memory = Text(), Memory(self.maker.size(template["record"]))
+        self.put_template(template, place, self.maker.record(form, (0,), text))
+        return self.run_template(template, code, memory, text)
+
+    def put_template(self, _template, place, value):
+        self.reply = {"result": True}
+        self.put(self.reply, place, value)
+
+    def run_template(self, template, code, memory, text):
+        memory.prepare(text.before)
+        done = library.CLIENT_ParseVideoInAnalyse(template["name"].encode(), code, json.dumps(self.reply).encode(),
+                                                  b"x", memory.base, memory.size)
+        if done != 1:
+            return [f"refused: {json.dumps(self.reply)[:300]}"]
+        return self.differences(memory.base, text)
+
+    def template_rule(self, template, form, rule, place, code):
+        text, value = self.item(form, rule)
+        value[form["items"]["classKey"]] = place.split("/")[-1]
+        self.put_template(template, place, {"Some rule": value})
+        return self.run_template(template, code, Memory(self.maker.size(template["record"])), text)
+
+
+def all_wrong(trial, kind, run, skip=lambda each: False):
+    wrong = {}
+    for each in trial.schema[kind]:
+        if skip(each):
+            continue
+        try:
+            found = run(each)
+        except (Lack, KeyError) as lack:
+            found = [f"{type(lack).__name__}: {lack}"]
+        if found:
+            wrong[each["name"]] = found
+    return wrong
+
+
+# What functions put in the place of a value that the text tells; the schema says of each record that one does.
+COMPLETED = {
+    "CFG_MODULE_INFO.abObjectImageSize",  # of a size that is told in a filter of its own
+    "CFG_RECORD_INFO.bHolidayEnable",  # only with an eighth row of periods
+    "CFG_VSP_GAYS_INFO.nAlarmInSum",  # the list's own count prevails
+    "CFG_VSP_GAYS_INFO.nChannelSum",
+    "EVENT_OBJECT_INFO.szObjectSubType",  # a vehicle's plate and its type
+    "EVENT_OBJECT_INFO.szText",
+}
+# Which values a broken schema may move: of these the test must find every one.
+PLAIN = ("bool", "int", "uint", "real", "text", "rawText", "names")
+
+
+class Values(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.schema = json.loads(subprocess.run([COMPANION, "schema"], stdout=subprocess.PIPE, check=True).stdout)
+
+    def expect_none(self, wrong, trial):
+        lines = [f"{name}: {each}"[:400] for name, found in wrong.items() for each in found[:4]]
+        print(f"{trial.looked} values, {trial.by_function} keys read by functions, {trial.shared} shared",
+              file=sys.stderr)
+        self.assertEqual(sorted(trial.completed - COMPLETED), [])
+        self.assertFalse(lines, "\n" + "\n".join(lines[:100]))
+
+    def run_all(self, kind, method, skip=lambda each: False, **words):
+        trial = Trial(self.schema, **words)
+        self.expect_none(all_wrong(trial, kind, getattr(trial, method), skip), trial)
+        return trial
+
+    def test_commands(self):
+        trial = self.run_all("commands", "command", lambda each: not each["parse"])
+        # Nearly all is decided by the schema.
+        self.assertLess((trial.by_function + trial.shared) * 25, trial.looked)
+
+    def test_second_keys(self):
+        self.run_all("commands", "command", lambda each: not each["parse"], second=True)
+        self.run_all("events", "event", lambda each: not each["name"], second=True)
+
+    def test_unknown_texts_of_codes(self):
+        self.run_all("commands", "command", lambda each: not each["parse"], unknown=True)
+
+    def test_absent_keys(self):
+        self.run_all("commands", "absent", lambda each: not each["parse"])
+
+    def test_events(self):
+        # An event without a name is one that another turns into.
+        self.run_all("events", "event", lambda each: not each["name"])
+        self.assertLess(sum(not each["name"] for each in self.schema["events"]), 3)
+
+    def test_typed(self):
+        self.run_all("typed", "typed")
+
+    def test_templates(self):
+        self.run_all("templates", "template")
+
+    def test_finds_what_is_wrong_with_a_schema(self):
+        records = {record["name"]: record for record in self.schema["records"]}
+        bends = {
+            "offset": lambda field: field.update(offset=field["offset"] + 1),
+            "key": lambda field: field.update(key=field["key"] + "x"),
+            "type": lambda field: field.update(type="i32" if field["type"] in ("f32", "f64") else "f32", dims=[],
+                                               kind="int"),
+            "codes": lambda field: [code.update(code=code["code"] + 1) for code in field["codes"]],
+            "flag": lambda field: field.update(flag=field["name"]),
+            "count": lambda field: field.update(count=field["other"]),
+        }
+        tried = dict.fromkeys(bends, 0)
+        for command in self.schema["commands"]:
+            record = records[command["record"]]
+            if not command["parse"] or "forms" in record or record.get("afterRead"):
+                continue
+            for index, field in enumerate(record["fields"]):
+                if field["kind"] not in PLAIN or field.get("relativeTo") != "record" or "pointer" in field:
+                    continue
+                for word, bend in bends.items():
+                    if (word in ("codes", "flag", "count") and word not in field) or tried[word] >= 40:
+                        continue
+                    bent = dict(self.schema, records=[copy.deepcopy(record) if each is record else each
+                                                      for each in self.schema["records"]])
+                    place = next(each for each in bent["records"] if each["name"] == record["name"])
+                    bent_field = place["fields"][index]
+                    others = [other["name"] for other in record["fields"] if not other["dims"]
+                              and other["type"] == "i32" and other["name"] not in (field["name"], field.get("count"))]
+                    if word == "count" and not others:
+                        continue
+                    bent_field["other"] = (others or [""])[0]
+                    bend(bent_field)
+                    trial = Trial(bent)
+                    found = all_wrong(trial, "commands", trial.command, lambda each: each is not command)
+                    self.assertTrue(found, f"{command['name']}: {field['name']}, {word}")
+                    tried[word] += 1
+                if index % 5 == 4:
+                    break
+        print(tried, file=sys.stderr)
+        self.assertGreaterEqual(min(tried.values()), 20)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
