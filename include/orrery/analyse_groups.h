@@ -17,10 +17,11 @@ extern "C" {
 /* The rules of one type, which is the name under which the group stands in "Rules".
  *
  * Reading: pRuleBuf and nRuleBufLen are the caller's and stay. As many rules are read as fit the buffer, each cleared
- * first; what is behind them stays as it is. A null buffer takes none. Writing: a group's own linkage stands at the
- * group and its rules have none; without it each rule writes its own. A rule whose record is not whole inside the
- * buffer ends the list, and a buffer that is smaller than nRuleNum times nRuleStride writes none. Of two groups of one
- * name the last stands. */
+ * first; what is behind them stays as it is. A null buffer takes none; the group tells its type and stride all the
+ * same, by which a caller can size buffers for a second call. Writing: a group's own linkage stands at the group and
+ * its rules have none; without it each rule writes its own. A rule whose record is not whole inside the buffer ends the
+ * list, and a buffer that is smaller than nRuleNum times nRuleStride writes none. Of two groups of one name the last
+ * stands. */
 typedef struct CFG_RULE_GROUP_INFO {
     uint32_t dwRuleType; /* ORRERY_RULE_... */
     int32_t nRuleStride; /* bytes of a rule's record, and from one to the next */

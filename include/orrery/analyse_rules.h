@@ -153,7 +153,7 @@ enum { CFG_FILTER_BY_LENGTH = 0 /* "ByLength" */, CFG_FILTER_BY_AREA = 1, CFG_FI
 /* Which sizes of object a rule looks at. An ab... flag is 1 when its key was in the text, and only keys whose flag is
  * set are written. Sizes are [ width, height ] with their fractions, in pixels or metres as byMeasureMode says. */
 typedef struct CFG_SIZE_FILTER_INFO {
-    int32_t nCalibrateBoxNum;                                   /* entries of stuCalibrateBoxs in use */
+    int32_t nCalibrateBoxNum;                                   /* entries in use; 0, here as below, writes no key */
     CFG_CALIBRATE_BOX stuCalibrateBoxs[ORRERY_CALIBRATE_BOXES]; /* "CalibrateBoxs"; a null keeps its entry, uncounted */
     uint8_t abMeasureModeEnable;
     uint8_t byMeasureMode; /* "MeasureMode": CFG_MEASURE_... */
