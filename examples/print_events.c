@@ -19,14 +19,14 @@ static int32_t on_event(uint32_t type, const void* record, uint32_t size, void* 
     (void)size, (void)reserved, (void)sequence;
     ++*count;
     switch (type) {
-    case 262: {
+    case ORRERY_EVENT_TRAFFIC_OVER_SPEED: {
         const DEV_EVENT_TRAFFICOVERSPEED_INFO* event = record;
         /* a plate may fill its field, without a terminator */
         printf("%.32s drives %d km/h on lane %d\n", event->stuTrafficCar.szPlateNumber, (int)event->nSpeed,
                (int)event->nLane);
         break;
     }
-    case 516: {
+    case ORRERY_EVENT_ACCESS_CONTROL: {
         const DEV_EVENT_ACCESSCONTROL_INFO* event = record;
         printf("card %s at door %d\n", event->szCardNo, (int)event->nChannelID);
         break;
