@@ -10,6 +10,12 @@ extern "C" {
 // Of the leak checker, where there is one.
 [[gnu::weak]] void __lsan_disable();
 [[gnu::weak]] void __lsan_enable();
+
+// Freed blocks are kept from use for a while, but not so many that each input has fresh pages.
+const char* __asan_default_options();
+const char* __asan_default_options() {
+    return "quarantine_size_mb=16";
+}
 }
 
 namespace orrery::fuzz {
@@ -22,7 +28,7 @@ constexpr std::array kLocales = {"GBK", "ISO-8859-1", "SHIFT_JIS", "BIG5-HKSCS",
 
 std::array<locale_t, kLocales.size()> Open() {
     std::array<locale_t, kLocales.size()> all;
-    setenv("LOCPATH", ORRERY_FUZZ_LOCALES, 1);
+    setenv("LOCPATH", ORRERY_FUZZ_LOCALES, 0);
     if (__lsan_disable != nullptr) __lsan_disable(); // newlocale never frees the LOCPATH that it took apart
     for (std::size_t i = 0; i < all.size(); ++i) {
         const std::string name = std::string("xx_XX.") + kLocales[i];

@@ -3,16 +3,24 @@
 
 #include "frame/record/Engine.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 namespace orrery::test {
 
-// A sum over all that a client may read, so that nothing of it is optimised away.
+// Reads all that a client may read. The sum is of some of it.
 inline std::uint64_t SumOfRecord(const record::Table& table, const std::byte* record) {
     std::uint64_t sum = 0;
+    // In blocks: copying looks at each byte too, and takes a hundredth of the time that adding them up does.
     const auto add = [&sum](const void* at, std::size_t size) {
-        for (std::size_t i = 0; i < size; ++i)
-            sum = sum * 31 + static_cast<const unsigned char*>(at)[i];
+        thread_local unsigned char copy[2048];
+        for (std::size_t from = 0; from < size; from += sizeof copy) {
+            const std::size_t part = std::min(sizeof copy, size - from);
+            std::memcpy(copy, static_cast<const std::byte*>(at) + from, part);
+            asm volatile("" : : "r"(copy) : "memory"); // the copy is needed whole
+            sum = sum * 31 + copy[0] + copy[part - 1];
+        }
     };
     for (const record::Field& field : table) {
         if (field.cell == record::Cell::Pointer) {
@@ -28,8 +36,10 @@ inline std::uint64_t SumOfRecord(const record::Table& table, const std::byte* re
                 sum += SumOfRecord(*field.table, block + static_cast<std::size_t>(i) * field.table->size);
             continue;
         }
-        add(record + field.offset, field.size);
-        if (field.cell != record::Cell::Record || field.table == nullptr || field.size == 0) continue;
+        if (field.cell != record::Cell::Record || field.table == nullptr || field.size == 0) {
+            add(record + field.offset, field.size);
+            continue;
+        }
         for (std::uint32_t at = 0; at < field.size; at += field.table->size)
             sum += SumOfRecord(*field.table, record + field.offset + at);
         // Counts of lists inside the record stay inside it.
