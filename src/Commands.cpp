@@ -242,7 +242,7 @@ constexpr Command kCommands[] = {
 
     // Encoding
     Both("Encode", kEncode,
-         kParse.TakesBy(EncodeTakes)
+         kParse.TakesBeside(EncodeTakes)
              .Null(NullValue::LengthZero)
              .Clears(Clearing::Kept)
              .ReadsNulls()
@@ -415,7 +415,7 @@ constexpr Command kCommands[] = {
     // Recording
     Both("Record", kRecordPlan,
          kParse.Takes(Take::Many)
-             .TakesBy(RecordTakes)
+             .TakesBeside(RecordTakes)
              .Null(NullValue::LengthZero)
              .ReadsNulls()
              .Length(ReplyLength::PerRecord),

@@ -115,6 +115,7 @@ struct ParseFrame {
     void (*parsed)(std::byte* buffer) = nullptr;
     // Chooses the shape that is taken, where something else than the value's own type settles it.
     Take (*takesBy)(const json::Value& root) = nullptr;
+    bool looksBeside = false; // it looks at keys beside the value only
     // Tells the reply's length after one record has been read, where it is none of the usual ones.
     std::uint32_t (*lengthBy)(const std::byte* record) = nullptr;
 
@@ -144,6 +145,10 @@ struct ParseFrame {
     constexpr ParseFrame AllMustFit() const { return With(*this, &ParseFrame::allMustFit, true); }
     constexpr ParseFrame TakesBy(Take (*function)(const json::Value& root)) const {
         return With(*this, &ParseFrame::takesBy, function);
+    }
+    // The same, where what settles it are keys beside the value.
+    constexpr ParseFrame TakesBeside(Take (*function)(const json::Value& root)) const {
+        return With(TakesBy(function), &ParseFrame::looksBeside, true);
     }
     constexpr ParseFrame LengthBy(std::uint32_t (*function)(const std::byte* record)) const {
         return With(With(*this, &ParseFrame::length, ReplyLength::Told), &ParseFrame::lengthBy, function);
@@ -259,11 +264,18 @@ enum class Outcome : std::uint8_t {
     OutOfMemory,
 };
 
+// Which of two roads that give the same a call takes. Only tests, which compare them, ask or tell.
+struct ReadRoad {
+    bool documentOnly = false;
+    bool tookText = false; // the records were read from the text; no document of them was made
+};
+
 struct ParseRequest {
     const char* text;
     void* buffer;
     std::uint32_t bufferSize;
     std::uint32_t* returnedLength; // may be null
+    ReadRoad* road = nullptr;
 };
 
 struct PackRequest {

@@ -1,6 +1,6 @@
 #include "frame/Frames.h"
 
-#include "frame/ReplySteps.h"
+#include "frame/TextRoad.h"
 
 #include <algorithm>
 #include <cstring>
@@ -30,6 +30,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
     };
     clear();
+    if (const auto read = ParseFamilyText(table, frame, request, stride)) return *read;
 
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) {
@@ -86,25 +87,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     if (frame.result == ResultTest::Verdict && !ResultPasses(ResultTest::FalseRefuses, document.root["result"])) {
         return Outcome::Refused;
     }
-    switch (frame.length) {
-    case ReplyLength::OneRecord:
-        setLength(stride);
-        break;
-    case ReplyLength::PerRecord:
-        setLength(records.used() * stride);
-        break;
-    case ReplyLength::PerFilled:
-        setLength(records.filled() * stride);
-        break;
-    case ReplyLength::OneOfList:
-        setLength(holds == Holds::OneRecord || holds == Holds::BlankRecord ? stride : 0);
-        break;
-    case ReplyLength::Told:
-        setLength(frame.lengthBy(buffer));
-        break;
-    case ReplyLength::None:
-        break;
-    }
+    TellLength(frame, holds, records, request);
     return call.refused ? Outcome::RowRefused : Outcome::Done;
 }
 
@@ -112,6 +95,7 @@ Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, cons
     if (request.bufferSize < table.size) return Outcome::BufferTooSmall;
     auto* element = static_cast<std::byte*>(request.buffer);
     if (frame.zeroBuffer) std::memset(element, 0, request.bufferSize);
+    if (ParseGenericText(table, frame, request)) return Outcome::Done;
 
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;

@@ -79,6 +79,33 @@ Holds ShapeOf(Take take, const Value& value) noexcept {
     return Holds::WrongShape;
 }
 
+void TellLength(const ParseFrame& frame, Holds holds, const ReplyRecords& records,
+                const ParseRequest& request) noexcept {
+    const auto tell = [&](std::uint32_t length) {
+        if (request.returnedLength != nullptr) *request.returnedLength = length;
+    };
+    const std::uint32_t stride = records.stride();
+    switch (frame.length) {
+    case ReplyLength::OneRecord:
+        tell(stride);
+        break;
+    case ReplyLength::PerRecord:
+        tell(records.used() * stride);
+        break;
+    case ReplyLength::PerFilled:
+        tell(records.filled() * stride);
+        break;
+    case ReplyLength::OneOfList:
+        tell(holds == Holds::OneRecord || holds == Holds::BlankRecord ? stride : 0);
+        break;
+    case ReplyLength::Told:
+        tell(frame.lengthBy(static_cast<const std::byte*>(request.buffer)));
+        break;
+    case ReplyLength::None:
+        break;
+    }
+}
+
 void ReadAll(Holds holds, const Value& value, bool readsNulls, ReplyRecords& records) noexcept {
     switch (holds) {
     case Holds::OneRecord:

@@ -6,6 +6,7 @@
 #include "frame/Frames.h"
 #include "frame/Platform/Versioned.h"
 #include "frame/record/Engine.h"
+#include "frame/record/ReadText.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -40,26 +41,48 @@ class ReplyRecords {
     std::uint32_t used() const noexcept { return used_; }
     // Those that something was read into.
     std::uint32_t filled() const noexcept { return filled_; }
+    std::uint32_t stride() const noexcept { return stride_; }
 
     // Nothing is written for a null: its record stays as the buffer was cleared.
     void Skip() noexcept { ++used_; }
 
     void Read(const json::Value& value, std::string_view memberName) noexcept {
-        std::byte* const at = first_ + std::size_t{used_} * stride_;
-        call_.index = used_++;
-        ++filled_;
+        std::byte* const at = Next();
         if (isVersioned_) return ReadVersioned(value, at, memberName);
         if (clears_) std::memset(at, 0, stride_);
         record::ReadRecord(table_, value, at, call_, memberName);
     }
+    // The same from the text, in front of the value's end; the byte behind it, or null as ReadRecordText has it.
+    const char* ReadText(const char* p, record::TextCall& text, std::string_view memberName) noexcept {
+        std::byte* const at = Next();
+        if (isVersioned_) {
+            ReadVersioned(
+                at, [&] { p = record::ReadRecordText(table_, p, local_, text, memberName); });
+            return local_ == nullptr ? nullptr : p;
+        }
+        if (clears_) std::memset(at, 0, stride_);
+        return record::ReadRecordText(table_, p, at, text, memberName);
+    }
+    // Where the next record goes.
+    std::byte* next() const noexcept { return first_ + std::size_t{used_} * stride_; }
 
   private:
-    // A record that ends the call stays as the caller had it.
+    std::byte* Next() noexcept {
+        std::byte* const at = next();
+        call_.index = used_++;
+        ++filled_;
+        return at;
+    }
     void ReadVersioned(const json::Value& value, std::byte* at, std::string_view memberName) noexcept {
+        ReadVersioned(at, [&] { record::ReadRecord(table_, value, local_, call_, memberName); });
+    }
+    // A record that ends the call stays as the caller had it.
+    template <class Read>
+    void ReadVersioned(std::byte* at, Read read) noexcept {
         if (local_ == nullptr) return;
         const bool wasRefused = std::exchange(call_.refused, false);
         versioned_.Start(at, local_);
-        record::ReadRecord(table_, value, local_, call_, memberName);
+        read();
         if (!call_.refused) versioned_.Return(local_, at);
         call_.refused = call_.refused || wasRefused;
     }
@@ -76,6 +99,10 @@ class ReplyRecords {
     std::byte* local_ = nullptr;
     record::ReadCall& call_;
 };
+
+// Tells the caller how much of the buffer the reply has filled.
+void TellLength(const ParseFrame& frame, Holds holds, const ReplyRecords& records,
+                const ParseRequest& request) noexcept;
 
 void ReadAll(Holds holds, const json::Value& value, bool readsNulls, ReplyRecords& records) noexcept;
 

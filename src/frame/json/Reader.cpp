@@ -65,15 +65,16 @@ class Reader {
     Reader& operator=(const Reader&) = delete;
     ~Reader() { std::free(block_); }
 
-    bool Read(Value& root) noexcept;
+    // The byte behind the value; null when there is none.
+    const char* Read(Value& root) noexcept;
 
   private:
-    bool Fail(const char* stop, const char* message) noexcept {
+    std::nullptr_t Fail(const char* stop, const char* message) noexcept {
         if (error_ != nullptr) *error_ = {message, static_cast<std::size_t>(stop - begin_)};
-        return false;
+        return nullptr;
     }
-    bool FailString(const DecodedString& decoded, const char* unterminated) noexcept {
-        if (decoded.exhausted) return false;
+    std::nullptr_t FailString(const DecodedString& decoded, const char* unterminated) noexcept {
+        if (decoded.exhausted) return nullptr;
         return Fail(decoded.stop, decoded.unterminated ? unterminated : decoded.message);
     }
     bool Grow(std::byte*& top, std::byte*& start, std::byte*& limit) noexcept;
@@ -131,7 +132,7 @@ bool Reader::HandOver(std::size_t bytes, std::byte*& start, std::byte*& limit) n
     return true;
 }
 
-bool Reader::Read(Value& root) noexcept {
+const char* Reader::Read(Value& root) noexcept {
     const char* const end = end_;
     std::byte* top = bottom_;
     std::byte* limit = bottom_ + kStackSize;
@@ -174,7 +175,7 @@ bool Reader::Read(Value& root) noexcept {
             start = top;
             around = object ? Around::Object : Around::Array;
             sorted = true;
-            if (static_cast<std::size_t>(limit - top) < kHeadroom && !Grow(top, start, limit)) return false;
+            if (static_cast<std::size_t>(limit - top) < kHeadroom && !Grow(top, start, limit)) return nullptr;
             if (object) goto memberName;
             continue;
         }
@@ -211,7 +212,7 @@ bool Reader::Read(Value& root) noexcept {
         for (;;) {
             if (around == Around::Nothing) {
                 root = *std::launder(reinterpret_cast<const Value*>(top));
-                return true;
+                return p;
             }
             top += sizeof(Value);
             if (Stands(p, end, ", ")) [[likely]] {
@@ -230,7 +231,7 @@ bool Reader::Read(Value& root) noexcept {
             std::byte* entries = start;
             if (!sorted || !HandOver(bytes, start, limit)) {
                 entries = static_cast<std::byte*>(arena_.Allocate(bytes));
-                if (entries == nullptr) return false;
+                if (entries == nullptr) return nullptr;
                 MoveEntries(entries, start, bytes);
             }
             const std::byte* const from = start;
@@ -252,7 +253,7 @@ bool Reader::Read(Value& root) noexcept {
             sorted = enclosing.sorted;
             prefix = enclosing.prefix;
         }
-        if (static_cast<std::size_t>(limit - top) < kHeadroom && !Grow(top, start, limit)) return false;
+        if (static_cast<std::size_t>(limit - top) < kHeadroom && !Grow(top, start, limit)) return nullptr;
         if (around == Around::Array) continue;
 
     memberName:
@@ -272,7 +273,7 @@ bool Reader::Read(Value& root) noexcept {
                 stop = decoded.stop - 1;
             } else if (end - key < static_cast<std::ptrdiff_t>(kKeySlack)) [[unlikely]] {
                 auto* const copy = arena_.Array<char>(size + kKeySlack);
-                if (copy == nullptr) return false;
+                if (copy == nullptr) return nullptr;
                 std::memcpy(copy, key, size);
                 std::memset(copy + size, 0, kKeySlack);
                 key = copy;
@@ -325,7 +326,11 @@ bool Parse(std::string_view text, Arena& arena, Value& root, SyntaxError* error)
         return false;
     }
     arena.Expect(text.size());
-    return Reader(text, arena, error).Read(root);
+    return Reader(text, arena, error).Read(root) != nullptr;
+}
+
+const char* ParseAt(const char* p, const char* end, Arena& arena, Value& value) noexcept {
+    return Reader({p, static_cast<std::size_t>(end - p)}, arena, nullptr).Read(value);
 }
 
 } // namespace orrery::json

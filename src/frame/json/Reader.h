@@ -16,4 +16,8 @@ struct SyntaxError {
 // (`arena.failed()`). The document's strings may lie in `text` itself.
 bool Parse(std::string_view text, Arena& arena, Value& root, SyntaxError* error = nullptr) noexcept;
 
+// Reads the value at `p`, inside a text of less than four gigabytes that ends at `end`; the byte behind it, or null as
+// above.
+const char* ParseAt(const char* p, const char* end, Arena& arena, Value& value) noexcept;
+
 } // namespace orrery::json

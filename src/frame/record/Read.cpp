@@ -1,4 +1,5 @@
 #include "frame/record/Chosen.h"
+#include "frame/record/ReadSteps.h"
 
 #include <algorithm>
 
@@ -53,9 +54,9 @@ Value FirstBytesOf(const Field& field, const Value& value) noexcept {
     return isCut ? Value::OfString(value.asString().substr(0, field.firstBytes)) : value;
 }
 
-// A record, with the name under which it stands for those that keep it.
-bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& call,
-               std::string_view memberName) noexcept {
+} // namespace
+
+void StartNamed(const Table& table, std::byte* at, ReadCall& call, std::string_view memberName) noexcept {
     if (table.startsWhenRead && table.hasDefaults) SetDefaults(table, at);
     if (const Field* const name = table.memberName; name != nullptr) {
         std::byte* const place = at + name->offset;
@@ -66,10 +67,19 @@ bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& 
                                       true);
         }
     }
+}
+
+namespace {
+
+// A record, with the name under which it stands for those that keep it.
+bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& call,
+               std::string_view memberName) noexcept {
+    StartNamed(table, at, call, memberName);
     return ReadFields(table, value, at, call);
 }
 
-// One element of a field, or the whole member for the kinds that take it at once. False when a nested table refused.
+} // namespace
+
 bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall& call,
                  std::string_view memberName) noexcept {
     switch (field.kind) {
@@ -149,6 +159,8 @@ bool ReadElement(const Field& field, const Value& value, std::byte* at, ReadCall
     }
     return true;
 }
+
+namespace {
 
 // A level of a list: `level` 0 is the member's first dimension. Returns the count that the rules give it.
 std::int64_t ReadList(const Field& field, int level, const Value& value, Elements room, ReadCall& call) noexcept {
@@ -274,6 +286,8 @@ void ReadPlainly(const Table& table, const Node& node, const Value& value, std::
 
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept;
 
+} // namespace
+
 void ReadNode(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
     if (value.isNull() && !node.needsAbsent) return;
     if (node.readPlainly == Plainly::Function)
@@ -285,6 +299,8 @@ void ReadNode(const Table& table, const Node& node, const Value& value, std::byt
     else
         ReadField(table.rows[node.row], value, record, call);
 }
+
+namespace {
 
 // A merge of two sorted lists: the nodes of the object and the members that came. Several nodes may have one key.
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
@@ -365,13 +381,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
     }
 }
 
-bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
-    if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
-    if (table.takesFirst && value.type() == json::Type::Array) {
-        // An array in an array is no object: it has no members.
-        const Value& first = value[0];
-        return ReadFields(table, first.type() == json::Type::Array ? json::kNull : first, record, call);
-    }
+void StartFields(const Table& table, std::byte* record, ReadCall& call) noexcept {
     if (table.clearsFlags) ClearFlags(table, record);
     if (call.context != nullptr) {
         const auto* const context = static_cast<const std::byte*>(call.context);
@@ -380,6 +390,16 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
             std::memcpy(record + copy.to, context + copy.from, copy.size);
         }
     }
+}
+
+bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    if (table.guarded && Load<std::uint32_t>(record) != table.size) return false;
+    if (table.takesFirst && value.type() == json::Type::Array) {
+        // An array in an array is no object: it has no members.
+        const Value& first = value[0];
+        return ReadFields(table, first.type() == json::Type::Array ? json::kNull : first, record, call);
+    }
+    StartFields(table, record, call);
     if (table.shape != Shape::Object) {
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;

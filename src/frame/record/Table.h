@@ -63,6 +63,10 @@ struct Node {
     std::uint16_t reference = 0; // of its name table or table among the table's references
     Cell cell = Cell::I32;
     Kind kind = Kind::None;
+    // For reading from the text:
+    bool listed = false;  // an array that says nothing but its elements and their count
+    bool shared = false;  // the node behind it, or in front of it, has the same key
+    bool ordered = false; // what it stores depends on which of it and another node comes first
 };
 static_assert(sizeof(Node) == 48);
 
@@ -86,6 +90,12 @@ struct Copy {
     std::uint32_t from = 0;
     std::uint32_t size = 0;
 };
+
+// Bytes behind a table's last key text that may be loaded.
+inline constexpr std::size_t kKeyTextSlack = 16;
+// As many values of a tuple, and as many keys of an object, are read from the text at the most.
+inline constexpr std::size_t kMostInText = 256;
+inline constexpr std::size_t kMostInTuple = 16;
 
 enum class Shape : std::uint8_t {
     Object,
@@ -125,6 +135,9 @@ struct Table {
     bool guarded = false;        // neither read nor written unless the size word holds exactly the record's size
     bool takesFirst = false;     // of an array the first element is read
     bool clearsFlags = false;    // presence flags, nested ones included, start at 0 in a record that keeps its values
+    bool inText = false;         // its object, or its tuple, is read member by member from the text
+    bool anyOrder = false;       // keys may come in any order when it is read so
+    bool partsAskRoot = false;   // some record inside it has keys that start at the document
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
@@ -162,7 +175,7 @@ struct TypedTable : Table {
     constexpr TypedTable Describes(const PackedItems& what) const { return With(*this, &TypedTable::items, &what); }
     // Runs once the rows have been read, for what depends on several of them.
     constexpr TypedTable AfterRead(void (*function)(const json::Value&, std::byte*, ReadCall&)) const {
-        return With(*this, &TypedTable::afterRead, function);
+        return With(With(*this, &TypedTable::afterRead, function), &TypedTable::inText, false);
     }
 };
 
@@ -247,6 +260,33 @@ constexpr Plainly WritePlainly(const Field& row) {
     return PlainValue(row, row.kind, Plainly::No);
 }
 
+// An array of which the words say nothing but how its count is told.
+constexpr bool IsPlainList(const Field& row) {
+    ReadingWords words = row;
+    words.always = false;
+    ListWords list = row;
+    list.count = {};
+    list.countUncapped = false;
+    if (words != ReadingWords{} || list != ListWords{} || !row.readable) return false;
+    if (row.rank == 0 || row.cell == Cell::Pointer || row.wholeMember) return false;
+    return row.kind != Kind::None && row.kind != Kind::Custom && row.kind != Kind::Supplied;
+}
+
+// Whether keys may come in any order without another result, but for those of rows that InOrder tells of.
+constexpr bool TakesAnyOrder(const Field& row) {
+    if (row.key == nullptr || !row.readable) return true;
+    return row.kind != Kind::Custom && !row.readCondition.exists() && !row.capacity.exists();
+}
+// Whether two rows with different keys store at one place: the later one's value stays.
+constexpr bool InOrder(const Field& row, const Field& other) {
+    if (row.key == nullptr || other.key == nullptr || row.size == 0 || other.size == 0) return false;
+    if (row.offset == other.offset) return true;
+    const auto holds = [](const Field& field, const Slot& slot) {
+        return slot.exists() && field.offset <= slot.offset && slot.offset < field.offset + field.size;
+    };
+    return (row.count.exists() && row.count == other.count) || holds(row, other.count) || holds(other, row.count);
+}
+
 constexpr std::uint32_t SizeOf(Cell cell) {
     switch (cell) {
     case Cell::I8:
@@ -265,7 +305,7 @@ constexpr std::uint32_t SizeOf(Cell cell) {
 
 struct Limits {
     std::size_t nodes = 1;
-    std::size_t text = 1;
+    std::size_t text = 1 + kKeyTextSlack;
     std::size_t supplied = 1;
     std::size_t started = 1;
     std::size_t references = 1;
@@ -327,6 +367,7 @@ struct Tree {
     std::uint16_t startedCount = 0;
     std::uint16_t nodeCount = 0;
     std::uint16_t textSize = 0;
+    bool anyOrder = true;
     NodeRange members;
     NodeRange fromRoot;
     NodeRange self;
@@ -355,6 +396,10 @@ struct Tree {
                 if (rows[order[k]].always && rows[order[k]].readable) node.needsAbsent = true;
             }
             if (node.needsAbsent) range.lastAbsent = nodeCount;
+            const auto sharesWith = [&](std::size_t other) {
+                return Part(rows[order[other]].key, depth) == Part(rows[order[i]].key, depth);
+            };
+            node.shared = (i > 0 && sharesWith(i - 1)) || (end < count && sharesWith(end));
             i = end;
         }
         std::uint16_t index = range.first;
@@ -383,6 +428,7 @@ struct Tree {
         node.flag = row.flag;
         node.cell = row.cell;
         node.kind = row.kind;
+        node.listed = IsPlainList(row);
     }
 
     // In the order of their places, so that neighbours become one run.
@@ -479,6 +525,18 @@ consteval auto BuildTree() {
         }
     }
     tree.JoinFlags();
+    // Few rows have a count or another key's place, so that this is far from a comparison of all with all.
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!rows[i].alias && !rows[i].count.exists()) continue;
+        for (std::size_t k = 0; k < count; ++k) {
+            if (k == i || !InOrder(rows[i], rows[k])) continue;
+            const bool isApart = Parts(rows[i].key) > 1 || Parts(rows[k].key) > 1;
+            if (isApart || rows[i].always || rows[k].always) tree.anyOrder = false;
+            for (Node& node : tree.nodes) {
+                if (node.childCount == 0 && (node.row == i || node.row == k)) node.ordered = true;
+            }
+        }
+    }
     return tree;
 }
 
@@ -521,6 +579,7 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
     table.suppliedCount = tree.suppliedCount;
     table.started = tree.started.data();
     table.startedCount = tree.startedCount;
+    table.anyOrder = tree.anyOrder;
     for (const Field& row : Rows::rows) {
         if (row.hasDefault || row.kind == Kind::Size) table.hasDefaults = true;
         if (row.kind == Kind::Size) table.hasSizeWords = true;
@@ -532,7 +591,12 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
             if (row.table->hasSizeWords) table.hasSizeWords = true;
             if (row.table->hasPointers) table.hasPointers = true;
         }
+        const bool hasPart = row.kind == Kind::Record && row.table != nullptr;
+        if (hasPart && (row.table->fromRoot.count > 0 || row.table->partsAskRoot)) table.partsAskRoot = true;
+        table.anyOrder = table.anyOrder && build::TakesAnyOrder(row);
     }
+    // Rows whose key is "" ask for the object as a whole, as do lists among its keys.
+    table.inText = table.amongKeys == nullptr && table.members.count <= kMostInText;
     return table;
 }
 

@@ -1,0 +1,32 @@
+#include "frame/ReplyWalk.h"
+
+namespace orrery {
+
+bool Beside::Add(std::string_view key, const json::Value& value) noexcept {
+    std::uint32_t place = count_;
+    int order = 1;
+    while (place > 0 && (order = json::CompareKeys(members_[place - 1].key(), key)) > 0)
+        --place;
+    if (place > 0 && order == 0) {
+        members_[place - 1].value = value;
+        return true;
+    }
+    if (count_ == kMost) return false;
+    for (std::uint32_t i = count_++; i > place; --i)
+        members_[i] = members_[i - 1];
+    members_[place] = {key.data(), static_cast<std::uint32_t>(key.size()), value};
+    return true;
+}
+
+std::string_view ReplyWalk::Params() noexcept {
+    static constexpr char kText[6 + json::kKeySlack] = "params";
+    return {kText, 6};
+}
+
+bool ReplyWalk::MakeRoot() noexcept {
+    if (path_.inParams && !root_.Add(Params(), params_.Object())) return false;
+    document_.root = root_.Object();
+    return true;
+}
+
+} // namespace orrery

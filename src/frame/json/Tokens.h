@@ -1,0 +1,95 @@
+// Values of a text one by one, for whoever goes through it without making a document of it.
+#pragma once
+
+#include "frame/json/Number.h"
+#include "frame/json/Scan.h"
+#include "frame/json/StringDecoder.h"
+#include "frame/json/Value.h"
+
+namespace orrery::json {
+
+// Reads the string, number, bool or null at `p`, which is in front of `end`, and puts it at `at`. The byte behind it;
+// null when none begins there, or when the arena is exhausted.
+inline const char* ReadScalar(const char* p, const char* end, Arena& arena, void* at) noexcept {
+    switch (*p) {
+    case '"': {
+        const char* const text = p + 1;
+        const char* const stop = FindQuoteOrBackslash(text, end);
+        if (stop != end && *stop == '"') [[likely]] {
+            Value::PutString(at, text, static_cast<std::size_t>(stop - text));
+            return stop + 1;
+        }
+        const DecodedString decoded = DecodeString(text, stop, end, arena);
+        if (decoded.text.data() == nullptr) return nullptr;
+        Value::PutString(at, decoded.text.data(), decoded.text.size());
+        return decoded.stop;
+    }
+    case 't':
+        if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return nullptr;
+        Value::PutBool(at, true);
+        return p + 4;
+    case 'f':
+        if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return nullptr;
+        Value::PutBool(at, false);
+        return p + 5;
+    case 'n':
+        if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return nullptr;
+        Value::PutNull(at);
+        return p + 4;
+    default:
+        if (*p != '-' && (*p < '0' || *p > '9')) return nullptr;
+        return ReadNumber(p, end, at);
+    }
+}
+
+// A place in an open container: in front of its next entry, behind its end, or nowhere in what is no JSON.
+struct Step {
+    const char* at;
+    bool more;
+};
+
+// Behind an entry at `p`: the next one's first byte, or the byte behind the container's `close`. Null and no more for
+// anything else.
+inline Step NextEntry(const char* p, const char* end, char close) noexcept {
+    if (end - p >= 2 && p[0] == ',' && p[1] == ' ') [[likely]] {
+        p += 2;
+    } else {
+        p = SkipBlanks(p, end);
+        if (p == end) return {nullptr, false};
+        if (*p == close) return {p + 1, false};
+        if (*p != ',') return {nullptr, false};
+        ++p;
+    }
+    if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]]
+        return {p, true};
+    p = SkipBlanks(p, end);
+    return p == end ? Step{nullptr, false} : Step{p, true};
+}
+// Behind the opening bracket at `p`, as above.
+inline Step FirstEntry(const char* p, const char* end, char close) noexcept {
+    p = SkipBlanks(p + 1, end);
+    if (p == end) return {nullptr, false};
+    return *p == close ? Step{p + 1, false} : Step{p, true};
+}
+
+// Behind a key's closing quote: the value's first byte; null when no colon and value follow.
+inline const char* ValueBehindKey(const char* p, const char* end) noexcept {
+    if (end - p >= 3 && p[0] == ' ' && p[1] == ':' && p[2] == ' ') [[likely]] {
+        p += 3;
+    } else {
+        p = SkipBlanks(p, end);
+        if (p == end || *p != ':') return nullptr;
+        ++p;
+    }
+    if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]]
+        return p;
+    p = SkipBlanks(p, end);
+    return p == end ? nullptr : p;
+}
+
+// Judges the value at `p` as Parse would. The byte behind it; null when it is no JSON, or when it lies deeper than
+// kSkipDepth containers and whoever asks has to make a document of it.
+inline constexpr int kSkipDepth = 512;
+const char* SkipValue(const char* p, const char* end, Arena& arena) noexcept;
+
+} // namespace orrery::json

@@ -1,0 +1,290 @@
+#include "frame/record/ReadText.h"
+
+#include "frame/json/Reader.h"
+#include "frame/json/Tokens.h"
+#include "frame/record/ReadSteps.h"
+
+#include <algorithm>
+
+namespace orrery::record {
+
+namespace {
+
+using json::Value;
+
+// A value as a document of its own.
+const char* ReadDocument(const char* p, Value& value, const TextCall& text) noexcept {
+    return json::ParseAt(p, text.end, text.arena(), value);
+}
+const char* ReadAny(const char* p, Value& value, const TextCall& text) noexcept {
+    if (*p == '{' || *p == '[') return ReadDocument(p, value, text);
+    return json::ReadScalar(p, text.end, text.arena(), &value);
+}
+
+// Whether the `size` bytes of a table's key text stand at `p`.
+bool Stands(const char* keyText, std::size_t size, const char* p, const char* end) noexcept {
+#if ORRERY_SSE2
+    static_assert(kKeyTextSlack >= 16);
+    if (size <= 16 && end - p >= 16) [[likely]] {
+        const __m128i ours = _mm_loadu_si128(reinterpret_cast<const __m128i*>(keyText));
+        const __m128i theirs = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        const auto same = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(ours, theirs)));
+        return (~same & ((1u << size) - 1)) == 0;
+    }
+#endif
+    return static_cast<std::size_t>(end - p) >= size && std::memcmp(keyText, p, size) == 0;
+}
+
+const char* ReadNamedText(const Table& table, const char* p, std::byte* at, TextCall& text,
+                          std::string_view memberName) noexcept;
+
+// ---- Lists ---------------------------------------------------------------------------------------------------------
+
+struct Counts {
+    std::uint32_t used = 0; // elements that have a slot
+    std::uint32_t size = 0; // elements that came
+};
+
+const char* ReadElements(const Field& field, int level, const char* p, std::byte* at, TextCall& text,
+                         Counts& counts) noexcept {
+    const bool innermost = level + 1 == field.rank;
+    const std::uint32_t stride = StrideOf(field, level);
+    const std::uint32_t room = field.dims[level];
+    json::Step step = json::FirstEntry(p, text.end, ']');
+    while (step.more) {
+        p = step.at;
+        if (counts.used < room && !text.call.refused) {
+            std::byte* const slot = at + std::size_t{counts.used++} * stride;
+            const bool isContainer = *p == '{' || *p == '[';
+            if (innermost && isContainer && field.kind == Kind::Record) {
+                p = ReadNamedText(*field.table, p, slot, text, {});
+            } else if (innermost) {
+                Value value;
+                p = ReadAny(p, value, text);
+                if (p == nullptr) return nullptr;
+                ReadElement(field, value, slot, text.call, {});
+            } else if (*p == '[') {
+                Counts inside;
+                p = ReadElements(field, level + 1, p, slot, text, inside);
+            } else {
+                p = json::SkipValue(p, text.end, text.arena());
+            }
+        } else {
+            p = json::SkipValue(p, text.end, text.arena());
+        }
+        if (p == nullptr) return nullptr;
+        ++counts.size;
+        step = json::NextEntry(p, text.end, ']');
+    }
+    return step.at;
+}
+
+const char* ReadListText(const Field& field, const char* p, std::byte* record, TextCall& text) noexcept {
+    StoreSlot(field.flag, record, 1);
+    Counts counts;
+    p = ReadElements(field, 0, p, record + field.offset, text, counts);
+    if (p != nullptr) StoreSlot(field.count, record, field.countUncapped ? counts.size : counts.used);
+    return p;
+}
+
+// ---- Objects -------------------------------------------------------------------------------------------------------
+
+// The nodes of one object on their way through its members: which have been seen, and which is expected next.
+class Members {
+  public:
+    Members(const Table& table, NodeRange range, std::byte* record, TextCall& text) noexcept
+        : table_(table), first_(table.nodes + range.first), end_(first_ + range.count), next_(first_),
+          lastAbsent_(table.nodes + range.lastAbsent), record_(record), text_(text) {}
+
+    const char* Read(const char* p) noexcept;
+
+  private:
+    const Node* Find(std::string_view key) noexcept;
+    const char* ReadAt(const Node& node, const char* p) noexcept;
+    const char* ReadShared(const Node* node, const char* p) noexcept;
+    // False for a node that was seen before, or comes behind one that should have come first.
+    bool See(const Node& node) noexcept {
+        const auto place = static_cast<std::size_t>(&node - first_);
+        std::uint64_t& word = seen_[place / 64];
+        const std::uint64_t bit = std::uint64_t{1} << place % 64;
+        if ((word & bit) != 0) return false;
+        word |= bit;
+        if (node.ordered) {
+            if (&node < lastOrdered_) return false;
+            lastOrdered_ = &node;
+        }
+        return true;
+    }
+    bool HasSeen(const Node& node) const noexcept {
+        const auto place = static_cast<std::size_t>(&node - first_);
+        return (seen_[place / 64] >> place % 64 & 1) != 0;
+    }
+    void ReadAbsent(const Node& node) noexcept { ReadNode(table_, node, json::kNull, record_, text_.call); }
+
+    const Table& table_;
+    const Node* const first_;
+    const Node* const end_;
+    const Node* next_;
+    const Node* const lastAbsent_;
+    const Node* lastOrdered_ = nullptr;
+    std::byte* const record_;
+    TextCall& text_;
+    std::uint64_t seen_[kMostInText / 64] = {};
+    bool refuses_ = false; // a key came that the table takes in order only
+};
+
+// The first node with the key; null when there is none, and `refuses_` when it can't be read any more.
+const Node* Members::Find(std::string_view key) noexcept {
+    const std::uint64_t prefix = json::KeyPrefix(key);
+    const auto order = [&](const Node& node) {
+        if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
+        return json::CompareKeys(table_.keyOf(node), key);
+    };
+    const Node* const expected = next_;
+    for (; next_ != end_; ++next_) {
+        const int side = order(*next_);
+        if (side == 0) return next_;
+        if (side > 0) break;
+        if (!table_.anyOrder && next_->needsAbsent) ReadAbsent(*next_);
+    }
+    if (next_ != expected || next_ == first_) return nullptr;
+    // It belongs in front of what is expected, where it may have been before.
+    if (order(next_[-1]) < 0) return nullptr;
+    const Node* node = std::lower_bound(first_, expected, 0, [&](const Node& one, int) { return order(one) < 0; });
+    if (node == expected || order(*node) != 0) return nullptr;
+    refuses_ = !table_.anyOrder;
+    next_ = node;
+    return node;
+}
+
+// Several nodes with one key: the value is a document for all of them.
+const char* Members::ReadShared(const Node* node, const char* p) noexcept {
+    Value value;
+    p = ReadAny(p, value, text_);
+    if (p == nullptr) return nullptr;
+    const std::string_view key = table_.keyOf(*node);
+    for (; next_ != end_ && next_->shared && table_.keyOf(*next_) == key; ++next_) {
+        if (!See(*next_)) return nullptr;
+        ReadNode(table_, *next_, value, record_, text_.call);
+    }
+    return p;
+}
+
+const char* Members::ReadAt(const Node& node, const char* p) noexcept {
+    Value value;
+    if (*p == '{') {
+        if (node.childCount > 0) {
+            const NodeRange inside{node.firstChild, node.childCount, node.childLastAbsent};
+            return Members(table_, inside, record_, text_).Read(p);
+        }
+    } else if (*p == '[') {
+        if (node.listed) return ReadListText(table_.rows[node.row], p, record_, text_);
+    } else {
+        p = json::ReadScalar(p, text_.end, text_.arena(), &value);
+        if (p != nullptr) ReadNode(table_, node, value, record_, text_.call);
+        return p;
+    }
+    if (node.readPlainly == Plainly::Inner) {
+        if (node.flag.exists()) StoreInteger(node.flag.cell, record_ + node.flag.offset, 1);
+        return ReadNamedText(table_.tableOf(node), p, record_ + node.offset, text_, {});
+    }
+    p = ReadDocument(p, value, text_);
+    if (p != nullptr) ReadNode(table_, node, value, record_, text_.call);
+    return p;
+}
+
+const char* Members::Read(const char* p) noexcept {
+    const char* const end = text_.end;
+    json::Step step = json::FirstEntry(p, end, '}');
+    while (step.more) {
+        p = step.at;
+        const Node* node = next_;
+        const std::size_t quoted = node == end_ ? 0 : node->keySize + std::size_t{2};
+        if (quoted != 0 && Stands(table_.keyTexts + node->quotedAt, quoted, p, end)) [[likely]] {
+            p += quoted;
+        } else {
+            if (*p != '"') return nullptr;
+            Value key;
+            p = json::ReadScalar(p, end, text_.arena(), &key);
+            if (p == nullptr) return nullptr;
+            node = Find(key.asString());
+            if (refuses_) return nullptr;
+        }
+        p = json::ValueBehindKey(p, end);
+        if (p == nullptr) return nullptr;
+        if (node == nullptr) {
+            p = json::SkipValue(p, end, text_.arena());
+        } else if (node->shared) {
+            p = ReadShared(node, p);
+        } else {
+            if (!See(*node)) return nullptr;
+            ++next_;
+            p = ReadAt(*node, p);
+        }
+        if (p == nullptr) return nullptr;
+        step = json::NextEntry(p, end, '}');
+    }
+    for (const Node* node = table_.anyOrder ? first_ : next_; node < lastAbsent_; ++node) {
+        if (node->needsAbsent && !HasSeen(*node)) ReadAbsent(*node);
+    }
+    return step.at;
+}
+
+// ---- Records -------------------------------------------------------------------------------------------------------
+
+// The elements are few, and their number has to be known before the first is read.
+const char* ReadTuple(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+    Value values[kMostInTuple];
+    const std::uint32_t wanted = table.self.count;
+    std::uint32_t count = 0;
+    json::Step step = json::FirstEntry(p, text.end, ']');
+    while (step.more) {
+        p = count < wanted ? ReadAny(step.at, values[count], text)
+                           : json::SkipValue(step.at, text.end, text.arena());
+        if (p == nullptr) return nullptr;
+        ++count;
+        step = json::NextEntry(p, text.end, ']');
+    }
+    if (step.at == nullptr || (table.shape == Shape::Tuple && count != wanted)
+        || (table.shape == Shape::LongTuple && count < wanted))
+        return step.at;
+    for (std::uint32_t i = 0; i < wanted; ++i) {
+        const Node& node = table.nodes[table.self.first + i];
+        if (node.readPlainly == Plainly::Number)
+            Store(record + node.offset, values[i].asInt());
+        else
+            ReadElement(table.rows[node.row], values[i], record + node.offset, text.call, {});
+    }
+    return step.at;
+}
+
+const char* ReadFieldsText(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+    const bool hasShape = *p == (table.shape == Shape::Object ? '{' : '[');
+    if (!hasShape || table.guarded || !IsInText(table)) {
+        Value value;
+        p = ReadAny(p, value, text);
+        if (p != nullptr) ReadFields(table, value, record, text.call);
+        return p;
+    }
+    StartFields(table, record, text.call);
+    p = table.shape == Shape::Object ? Members(table, table.members, record, text).Read(p)
+                                     : ReadTuple(table, p, record, text);
+    if (p != nullptr && table.fromRoot.count > 0) ReadRootFields(table, record, text.call);
+    return p;
+}
+
+const char* ReadNamedText(const Table& table, const char* p, std::byte* at, TextCall& text,
+                          std::string_view memberName) noexcept {
+    StartNamed(table, at, text.call, memberName);
+    return ReadFieldsText(table, p, at, text);
+}
+
+} // namespace
+
+const char* ReadRecordText(const Table& table, const char* p, std::byte* record, TextCall& text,
+                           std::string_view memberName) noexcept {
+    if (table.hasDefaults && !table.startsWhenRead) SetDefaults(table, record);
+    return ReadNamedText(table, p, record, text, memberName);
+}
+
+} // namespace orrery::record
