@@ -48,23 +48,15 @@ void WriteDoorActions(const Field& field, const std::byte* record, WriteCall& ca
 
 constexpr std::size_t kDaySize = sizeof(CFG_TIME_SECTION[ORRERY_DAY_SECTIONS]);
 
-void WriteDay(const std::byte* day, int sections, WriteCall& call) {
-    call.out.BeginArray();
-    for (int i = 0; i < sections; ++i, day += sizeof(CFG_TIME_SECTION)) {
-        JsonParser::SetTimeSection(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(day));
-    }
-    call.out.EndArray();
-}
-
 void WriteWeekAndHoliday(const std::byte* week, int sections, const std::byte* linkage, WriteCall& call) {
     call.Key();
     call.out.BeginArray();
-    for (int day = 0; day < ORRERY_WEEK_DAYS; ++day, week += sizeof(CFG_TIME_SECTION) * static_cast<unsigned>(sections))
-        WriteDay(week, sections, call);
+    JsonParser::SetTimeDays(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(week), ORRERY_WEEK_DAYS, sections);
     const std::byte* const schedule = linkage + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSectionEx);
     if (MEMBER(schedule, CFG_TIME_SCHEDULE, bEnableHoliday) != 0) {
-        WriteDay(schedule + offsetof(CFG_TIME_SCHEDULE, stuTimeSection) + ORRERY_WEEK_DAYS * kDaySize,
-                 ORRERY_DAY_SECTIONS, call);
+        const std::byte* const holiday =
+            schedule + offsetof(CFG_TIME_SCHEDULE, stuTimeSection) + ORRERY_WEEK_DAYS * kDaySize;
+        JsonParser::SetTimeDays(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(holiday), 1, ORRERY_DAY_SECTIONS);
     }
     call.out.EndArray();
 }

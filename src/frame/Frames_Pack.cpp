@@ -88,20 +88,12 @@ Outcome WriteText(const Content& content, json::TextWriter& out) noexcept {
 Outcome DeliverOrKeep(const Content& content, Capacity capacity, const PackRequest& request) noexcept {
     const std::size_t room = request.textCapacity;
     char nearby[kNearbyText];
-    json::TextWriter out(nearby, sizeof nearby);
-    if (const Outcome outcome = WriteText(content, out); outcome != Outcome::Done) return outcome;
-    if (!Fits(capacity, out.length(), room)) return Outcome::TextTooLong;
     StackArena<16> arena;
-    const char* text = nearby;
-    if (!out.fits()) {
-        // Not straight to its place: memory may end in the second pass too.
-        auto* const block = arena.Array<char>(out.length());
-        if (block == nullptr) return Outcome::OutOfMemory;
-        json::TextWriter again(block, out.length());
-        if (const Outcome outcome = WriteText(content, again); outcome != Outcome::Done) return outcome;
-        text = block;
-    }
-    std::memcpy(request.textBuffer, text, out.length());
+    json::TextWriter out(nearby, sizeof nearby, arena, room);
+    if (const Outcome outcome = WriteText(content, out); outcome != Outcome::Done) return outcome;
+    if (arena.failed()) return Outcome::OutOfMemory;
+    if (!Fits(capacity, out.length(), room)) return Outcome::TextTooLong;
+    std::memcpy(request.textBuffer, out.text(), out.length());
     Terminate(capacity, out.length(), request.textBuffer, room);
     return Outcome::Done;
 }

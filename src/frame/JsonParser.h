@@ -57,6 +57,8 @@ class JsonParser {
     static bool SetTimeSchedule(json::TextWriter& out, const CFG_TIME_SECTION* sections, int rows,
                                 int columns) noexcept;
     // Clears the schedule, then reads 7 or 8 rows by 6; `bEnableHoliday` tells whether there were 8.
+    // Its days as elements of the array that is open.
+    static void SetTimeDays(json::TextWriter& out, const CFG_TIME_SECTION* days, int count, int columns) noexcept;
     static bool GetHolidaySchedule(const json::Value& value, CFG_TIME_SCHEDULE* schedule) noexcept;
     static void SetHolidaySchedule(json::TextWriter& out, const CFG_TIME_SCHEDULE* schedule) noexcept;
     // A flat array; elements that are no section are passed over.

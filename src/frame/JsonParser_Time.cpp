@@ -1,6 +1,7 @@
 // Periods of a day and calendar texts.
 #include "frame/JsonParser.h"
 #include "frame/JsonParser_Scan.h"
+#include "frame/json/Pen.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -94,22 +95,63 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
     out.String({text, static_cast<std::size_t>(end - text)});
 }
 
-// The counterpart of ReadUsualSection: a week has 42 of them, most of them zero.
-bool WriteUsualSection(json::TextWriter& out, const void* section) noexcept {
+// Of a section in quotes, and what a store of it takes beyond.
+constexpr std::size_t kSectionText = 21;
+constexpr std::size_t kSectionRoom = 24;
+
+// The counterpart of ReadUsualSection: a week has 42 of them or 70. Null when a field has more digits than usual.
+char* PutUsualSection(char* to, const void* section) noexcept {
     const auto* const at = static_cast<const std::byte*>(section);
+#if ORRERY_SSE2
+    // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
+    const auto load = [at](std::size_t field) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + 4 * field));
+    };
+    const __m128i numbers = _mm_packs_epi32(load(0), load(3));
+    const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
+    const __m128i outside = _mm_subs_epu16(numbers, most);
+    if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return nullptr;
+    const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
+    const __m128i ones = _mm_sub_epi16(numbers, _mm_mullo_epi16(tens, _mm_set1_epi16(10)));
+    const __m128i digits = _mm_add_epi16(_mm_or_si128(tens, _mm_slli_epi16(ones, 8)), _mm_set1_epi16(0x3030));
+    // Two letters a number, the first lowest.
+    const auto first = static_cast<std::uint64_t>(_mm_cvtsi128_si64(digits));
+    const auto second = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(digits, digits)));
+    constexpr std::uint64_t kHour = 0xFFFF0000, kMinute = 0xFFFF00000000;
+    const std::uint64_t flagToMinute = (first >> 8 & 0xFF) | std::uint64_t{' '} << 8 | (first & kHour)
+                                       | std::uint64_t{':'} << 32 | (first & kMinute) << 8 | std::uint64_t{':'} << 56;
+    const std::uint64_t secondToMinute = (second & 0xFFFF) | std::uint64_t{'-'} << 16 | (second & kHour) << 8
+                                         | std::uint64_t{':'} << 40 | (second & kMinute) << 16;
+    const auto lastSecond = static_cast<std::uint32_t>(':' | second >> 48 << 8 | std::uint64_t{'"'} << 24);
+    *to = '"';
+    std::memcpy(to + 1, &flagToMinute, 8);
+    std::memcpy(to + 9, &secondToMinute, 8);
+    std::memcpy(to + 17, &lastSecond, 4);
+#else
     std::uint32_t fields[kSectionFields];
     std::uint32_t outside = 0; // its highest bit is set when a field is
     for (int i = 0; i < kSectionFields; ++i) {
         std::memcpy(&fields[i], at + 4 * i, 4);
         outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
     }
-    if (outside >> 31 != 0) return false;
-    return out.CleanString(19, [&](char* text) {
-        std::memcpy(text, "0 00:00:00-00:00:00", 19);
-        text[0] = static_cast<char>('0' + fields[0]);
-        for (int i = 1; i < kSectionFields; ++i)
-            std::memcpy(text + 3 * i - 1, &json::kDigitPairs[2 * fields[i]], 2);
-    });
+    if (outside >> 31 != 0) return nullptr;
+    std::memcpy(to, "\"0 00:00:00-00:00:00\"", kSectionText);
+    to[1] = static_cast<char>('0' + fields[0]);
+    for (int i = 1; i < kSectionFields; ++i)
+        json::PutPair(to + 3 * i, fields[i]);
+#endif
+    return to + kSectionText;
+}
+
+// As many of the sections as are usual and find room; answers how many.
+int WriteUsualSections(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
+    json::Pen pen(out);
+    int written = 0;
+    while (written < count && pen.has(kSectionRoom)
+           && pen.TryElement([&](char* to) { return PutUsualSection(to, sections + written); }))
+        ++written;
+    pen.Return(out);
+    return written;
 }
 
 // Elements of a list of which those that are equal to the one before repeat its text.
@@ -119,13 +161,12 @@ class Repeated {
 
     template <class Write>
     void Put(const void* element, std::size_t size, Write write) noexcept {
-        const bool isFirst = before_ == nullptr;
-        if (!isFirst && std::memcmp(before_, element, size) == 0 && out_.Again(length_)) return;
+        if (before_ != nullptr && std::memcmp(before_, element, size) == 0 && out_.Again(length_)) return;
         before_ = element;
-        const std::size_t start = out_.length();
-        write();
         constexpr std::size_t kSeparator = 2;
-        length_ = out_.length() - start - (isFirst ? 0 : kSeparator);
+        const std::size_t start = out_.length() + (json::Pen(out_).isFirst() ? 0 : kSeparator);
+        write();
+        length_ = out_.length() - start;
     }
 
   private:
@@ -146,7 +187,7 @@ bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* sect
 }
 
 void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
-    if (section != nullptr && WriteUsualSection(out, section)) return;
+    if (section != nullptr && WriteUsualSections(out, section, 1) == 1) return;
     WriteFields(out, section, kSectionFields, kSectionSeparators, kSectionWidths);
 }
 
@@ -171,16 +212,20 @@ bool JsonParser::GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sec
 bool JsonParser::SetTimeSchedule(json::TextWriter& out, const CFG_TIME_SECTION* sections, int rows,
                                  int columns) noexcept {
     if (sections == nullptr || rows < 1 || columns < 1) return false;
-    // Most days of a week are like the day before.
     out.BeginArray();
-    Repeated day(out);
-    const auto size = static_cast<std::size_t>(columns) * sizeof *sections;
-    for (int row = 0; row < rows; ++row) {
-        const CFG_TIME_SECTION* const at = sections + std::ptrdiff_t{row} * columns;
-        day.Put(at, size, [&] { SetTimeSectionList(out, at, columns); });
-    }
+    SetTimeDays(out, sections, rows, columns);
     out.EndArray();
     return true;
+}
+
+void JsonParser::SetTimeDays(json::TextWriter& out, const CFG_TIME_SECTION* days, int count, int columns) noexcept {
+    // Most days of a week are like the day before.
+    Repeated day(out);
+    const auto size = static_cast<std::size_t>(columns) * sizeof *days;
+    for (int i = 0; i < count; ++i) {
+        const CFG_TIME_SECTION* const at = days + std::ptrdiff_t{i} * columns;
+        day.Put(at, size, [&] { SetTimeSectionList(out, at, columns); });
+    }
 }
 
 bool JsonParser::GetHolidaySchedule(const json::Value& value, CFG_TIME_SCHEDULE* schedule) noexcept {
@@ -218,9 +263,10 @@ bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* 
 bool JsonParser::SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
     if (sections == nullptr || count < 1) return false;
     out.BeginArray();
-    Repeated section(out);
-    for (int i = 0; i < count; ++i)
-        section.Put(sections + i, sizeof *sections, [&] { SetTimeSection(out, sections + i); });
+    for (int i = 0; i < count; ++i) {
+        i += WriteUsualSections(out, sections + i, count - i);
+        if (i < count) SetTimeSection(out, sections + i);
+    }
     out.EndArray();
     return true;
 }

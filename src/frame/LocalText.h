@@ -26,6 +26,8 @@ class LocalText {
     Arena& arena() const noexcept { return arena_; }
     // True when both directions are known to be a bounded copy.
     bool isCopy() const noexcept { return isCopy_; }
+    // True when both directions leave texts of ASCII as they are.
+    bool isCopyOfAscii() const noexcept { return isCopy_ || keepsAscii_; }
     // True when both directions leave this very text as it is.
     bool isCopyOf(std::string_view text) const noexcept { return isCopy_ || (keepsAscii_ && IsAscii(text)); }
 

@@ -1,8 +1,7 @@
-// Decimal digits of whole numbers, without locale and without a call for the small ones that devices deal in.
+// Decimal digits of numbers, without locale and without a call for the small ones that devices deal in.
 #pragma once
 
 #include <array>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -22,24 +21,43 @@ inline constexpr std::array<char, 200> kDigitPairs = [] {
 // Longer than any 32-bit number.
 inline constexpr std::size_t kIntegerRoom = 12;
 
-// Writes the number at `at`, where there is kIntegerRoom; returns its end.
-template <class Number>
-char* PutDigits(char* at, Number number) noexcept {
-    if (number < 0 || number >= 10000) return std::to_chars(at, at + kIntegerRoom, number).ptr;
-    auto rest = static_cast<std::uint32_t>(number);
-    if (rest >= 100) {
-        const std::uint32_t high = rest / 100;
-        rest %= 100;
-        if (high < 10)
-            *at++ = static_cast<char>('0' + high);
-        else
-            at = static_cast<char*>(std::memcpy(at, &kDigitPairs[2 * high], 2)) + 2;
-    } else if (rest < 10) {
-        *at = static_cast<char>('0' + rest);
-        return at + 1;
-    }
-    std::memcpy(at, &kDigitPairs[2 * rest], 2);
+inline char* PutPair(char* at, std::uint32_t below100) noexcept {
+    std::memcpy(at, &kDigitPairs[2 * std::size_t{below100}], 2);
     return at + 2;
 }
+
+// Of a number from 10000 on.
+char* PutLongDigits(char* at, std::uint32_t number) noexcept;
+
+// Writes the number at `at`, where there is kIntegerRoom; returns its end.
+inline char* PutDigits(char* at, std::uint32_t number) noexcept {
+    if (number >= 10000) return PutLongDigits(at, number);
+    if (number >= 100) {
+        const std::uint32_t high = number / 100;
+        number %= 100;
+        if (high >= 10)
+            at = PutPair(at, high);
+        else
+            *at++ = static_cast<char>('0' + high);
+    } else if (number < 10) {
+        *at = static_cast<char>('0' + number);
+        return at + 1;
+    }
+    return PutPair(at, number);
+}
+inline char* PutDigits(char* at, std::int32_t number) noexcept {
+    auto magnitude = static_cast<std::uint32_t>(number);
+    if (number < 0) {
+        *at++ = '-';
+        magnitude = 0 - magnitude;
+    }
+    return PutDigits(at, magnitude);
+}
+
+// Longer than any real.
+inline constexpr std::size_t kRealRoom = 48;
+
+// The digits of printf's "%#.16g", whatever the locale; `at` has kRealRoom.
+char* PutReal(char* at, double number) noexcept;
 
 } // namespace orrery::json

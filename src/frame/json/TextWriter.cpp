@@ -3,9 +3,9 @@
 #include "frame/json/Scan.h"
 #include "frame/json/WalkStack.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
+#include <bit>
 
 namespace orrery::json {
 
@@ -42,33 +42,45 @@ unsigned Suspects(__m128i bytes) noexcept {
 }
 #endif
 
-// Digits of a real: `digits` holds the 16 significant ones, of which the first stands in front of the decimal point
-// when the decimal exponent is 0.
-constexpr int kPrecision = 16;
-constexpr std::size_t kRealRoom = 48;
-constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out without a search for their digits
-
-// Lays the digits out as "%#.16g" does: plainly for exponents from -4 to 15, otherwise with an exponent.
-char* LayOut(const char* digits, int exponent, char* out) noexcept {
-    if (exponent < 0) {
-        *out++ = '0';
-        *out++ = '.';
-        for (int zeros = -1 - exponent; zeros > 0; --zeros)
-            *out++ = '0';
-        std::memcpy(out, digits, kPrecision);
-        return out + kPrecision;
-    }
-    const int whole = exponent + 1;
-    std::memcpy(out, digits, static_cast<std::size_t>(whole));
-    out[whole] = '.';
-    std::memcpy(out + whole + 1, digits + whole, static_cast<std::size_t>(kPrecision - whole));
-    return out + kPrecision + 1;
-}
-
 } // namespace
+
+char* PutCleanText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept {
+    *at++ = '"';
+#if ORRERY_SSE2
+    // What stands behind the terminator is copied along and overwritten later.
+    const __m128i zero = _mm_setzero_si128();
+    for (std::size_t from = 0; capacity >= 16;) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + from));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(at + from), bytes);
+        const unsigned ends = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, zero)));
+        unsigned refused = Suspects(bytes);
+        if (asciiOnly) refused |= static_cast<unsigned>(_mm_movemask_epi8(bytes));
+        if (const unsigned any = ends | refused; any != 0) {
+            const int first = std::countr_zero(any);
+            if ((refused >> first & 1) != 0) return nullptr;
+            at += from + static_cast<unsigned>(first);
+            *at = '"';
+            return at + 1;
+        }
+        if (from + 16 == capacity) {
+            at[capacity] = '"';
+            return at + capacity + 1;
+        }
+        // The last block ends where the capacity does and begins inside the one before.
+        from = std::min(from + 16, capacity - 16);
+    }
+#endif
+    for (std::size_t i = 0; i < capacity && text[i] != '\0'; ++i) {
+        if (EscapeOf(text[i]) != 0 || (asciiOnly && static_cast<signed char>(text[i]) < 0)) return nullptr;
+        *at++ = text[i];
+    }
+    *at = '"';
+    return at + 1;
+}
 
 void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {
     if (size == 0) return;
+    if (arena_ != nullptr && size > static_cast<std::size_t>(end_ - next_)) Grow(size);
     const auto room = static_cast<std::size_t>(end_ - next_);
     const std::size_t part = size < room ? size : room;
     if (part > 0) {
@@ -78,44 +90,26 @@ void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {
     lost_ += size - part;
 }
 
+void TextWriter::Grow(std::size_t size) noexcept {
+    const auto used = static_cast<std::size_t>(next_ - begin_);
+    if (lost_ != 0 || static_cast<std::size_t>(end_ - begin_) >= most_) return;
+    const std::size_t wanted = std::min(4 * used + size, most_);
+    char* const block = arena_->Array<char>(wanted);
+    if (block == nullptr) return;
+    if (used != 0) std::memcpy(block, begin_, used);
+    begin_ = block;
+    next_ = block + used;
+    end_ = block + wanted;
+}
+
 void TextWriter::Real(double number) noexcept {
-    const double magnitude = std::fabs(number);
-    // Sizes and coordinates are whole numbers as a rule: zeros fill up their digits.
-    if (magnitude < kWholeLimit && magnitude == static_cast<double>(static_cast<std::uint32_t>(magnitude))) {
-        if (char* const room = Room(kRealRoom)) [[likely]] {
-            char* at = Separated(room);
-            if (std::signbit(number)) *at++ = '-';
-            std::memset(at, '0', kPrecision + 1);
-            *PutDigits(at, static_cast<std::uint32_t>(magnitude)) = '.';
-            next_ = at + kPrecision + 1;
-            first_ = false;
-            return;
-        }
-    }
-    char text[kRealRoom];
-    char* out = text;
-    if (std::signbit(number)) *out++ = '-';
-    if (!std::isfinite(number)) {
-        Separate();
-        std::memcpy(out, std::isnan(number) ? "nan" : "inf", 3);
-        Append(text, static_cast<std::size_t>(out + 3 - text));
+    if (char* const at = Room(kRealRoom)) [[likely]] {
+        next_ = PutReal(Separated(at), number);
+        first_ = false;
         return;
     }
-    // d.ddddddddddddddde+dd, rounded right
-    char* const end =
-        std::to_chars(out, text + kRealRoom, magnitude, std::chars_format::scientific, kPrecision - 1).ptr;
-    constexpr int kMark = kPrecision + 1; // of the letter e
-    int exponent = 0;
-    std::from_chars(out + kMark + 2, end, exponent);
-    if (out[kMark + 1] == '-') exponent = -exponent;
-    char* last = end;
-    if (exponent >= -4 && exponent < kPrecision) {
-        char digits[kPrecision];
-        digits[0] = out[0];
-        std::memcpy(digits + 1, out + 2, kPrecision - 1);
-        last = LayOut(digits, exponent, out);
-    }
-    Scalar(text, static_cast<std::size_t>(last - text));
+    char text[kRealRoom];
+    Scalar(text, static_cast<std::size_t>(PutReal(text, number) - text));
 }
 
 // Whether a text of 32 bytes or less is known to need no escape.

@@ -13,11 +13,45 @@
 
 namespace orrery::json {
 
+// Texts of a few bytes, as keys and words are: two stores that overlap instead of a call.
+inline char* CopyShort(char* out, const char* text, std::size_t size) noexcept {
+    if (size > 32) {
+        std::memcpy(out, text, size);
+    } else if (size >= 16) {
+        std::memcpy(out, text, 16);
+        std::memcpy(out + size - 16, text + size - 16, 16);
+    } else if (size >= 8) {
+        std::memcpy(out, text, 8);
+        std::memcpy(out + size - 8, text + size - 8, 8);
+    } else if (size >= 4) {
+        std::memcpy(out, text, 4);
+        std::memcpy(out + size - 4, text + size - 4, 4);
+    } else {
+        for (std::size_t i = 0; i < size; ++i)
+            out[i] = text[i];
+    }
+    return out + size;
+}
+
+// Writes a string up to its terminator or to its capacity, in quotes; `at` has room for `capacity` and
+// kCleanTextRoom bytes. Null when something in it is escaped or, with `asciiOnly`, is no ASCII; what stands at `at`
+// then is of no use.
+inline constexpr std::size_t kCleanTextRoom = 2;
+char* PutCleanText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept;
+
 class TextWriter {
   public:
     // Never writes past `capacity` bytes; counts on when the room is used up, so that `length()` tells what the text
     // would have needed. `buffer` may be null when `capacity` is 0.
     TextWriter(char* buffer, std::size_t capacity) noexcept : begin_(buffer), next_(buffer), end_(buffer + capacity) {}
+
+    // Moves into a larger block of `arena` whenever the room is used up, until it has `most` bytes: text() tells where
+    // it is. An arena that has failed tells of a text that could not be held.
+    TextWriter(char* nearby, std::size_t capacity, Arena& arena, std::size_t most) noexcept
+        : TextWriter(nearby, capacity) {
+        arena_ = &arena;
+        most_ = most;
+    }
 
     void Null() noexcept { Scalar("null", 4); }
     void Bool(bool flag) noexcept { Scalar(flag ? "true" : "false", flag ? 4 : 5); }
@@ -55,37 +89,6 @@ class TextWriter {
         Scalar(quoted.data(), quoted.size());
         first_ = true;
     }
-    // Such a key with its value.
-    void RawMember(std::string_view quoted, bool flag) noexcept {
-        if (char* const at = Room(quoted.size() + 5)) {
-            char* const p = CopyShort(Separated(at), quoted.data(), quoted.size());
-            std::memcpy(p, flag ? "true" : "fals", 4);
-            p[4] = 'e'; // of "false"; nothing behind "true", where the next bytes go
-            next_ = p + (flag ? 4 : 5);
-            first_ = false;
-            return;
-        }
-        RawKey(quoted);
-        Bool(flag);
-    }
-    void RawMember(std::string_view quoted, std::int32_t number) noexcept {
-        if (char* const at = Room(quoted.size() + kIntegerRoom)) {
-            next_ = PutDigits(CopyShort(Separated(at), quoted.data(), quoted.size()), number);
-            first_ = false;
-            return;
-        }
-        RawKey(quoted);
-        Int(number);
-    }
-    void RawMember(std::string_view quoted, std::string_view clean) noexcept {
-        if (char* const at = Room(quoted.size() + clean.size() + 2)) {
-            next_ = Quoted(CopyShort(Separated(at), quoted.data(), quoted.size()), clean);
-            first_ = false;
-            return;
-        }
-        RawKey(quoted);
-        CleanString(clean);
-    }
     // A string with nothing to escape in it.
     void CleanString(std::string_view clean) noexcept {
         if (char* const at = Room(clean.size() + 2)) {
@@ -95,21 +98,6 @@ class TextWriter {
         }
         String(clean);
     }
-    // A string of `size` bytes with nothing to escape in it, which `fill` writes where it gets told. False when there
-    // is no room, and nothing is written.
-    template <class Fill>
-    bool CleanString(std::size_t size, Fill fill) noexcept {
-        char* const room = Room(size + 2);
-        if (room == nullptr) return false;
-        char* const at = Separated(room);
-        *at = '"';
-        fill(at + 1);
-        at[size + 1] = '"';
-        next_ = at + size + 2;
-        first_ = false;
-        return true;
-    }
-
     // The element before once more: the last `size` bytes of the text. False when that can't be, and nothing is
     // written.
     bool Again(std::size_t size) noexcept {
@@ -129,8 +117,11 @@ class TextWriter {
     // Length of the text so far, whether it fitted or not. What did not fit is missing at its end only.
     std::size_t length() const noexcept { return static_cast<std::size_t>(next_ - begin_) + lost_; }
     bool fits() const noexcept { return lost_ == 0; }
+    // What of the text has found room.
+    const char* text() const noexcept { return begin_; }
 
   private:
+    friend class Pen;
     static constexpr std::size_t kSeparator = 2;
 
     void Append(const char* text, std::size_t size) noexcept {
@@ -162,25 +153,6 @@ class TextWriter {
         *end = '"';
         return end + 1;
     }
-    // Texts of a few bytes, as keys and words are: two stores that overlap instead of a call.
-    static char* CopyShort(char* out, const char* text, std::size_t size) noexcept {
-        if (size > 32) {
-            std::memcpy(out, text, size);
-        } else if (size >= 16) {
-            std::memcpy(out, text, 16);
-            std::memcpy(out + size - 16, text + size - 16, 16);
-        } else if (size >= 8) {
-            std::memcpy(out, text, 8);
-            std::memcpy(out + size - 8, text + size - 8, 8);
-        } else if (size >= 4) {
-            std::memcpy(out, text, 4);
-            std::memcpy(out + size - 4, text + size - 4, 4);
-        } else {
-            for (std::size_t i = 0; i < size; ++i)
-                out[i] = text[i];
-        }
-        return out + size;
-    }
     void Scalar(const char* text, std::size_t size) noexcept {
         if (char* const at = Room(size)) [[likely]] {
             next_ = CopyShort(Separated(at), text, size);
@@ -202,6 +174,7 @@ class TextWriter {
         }
     }
     void AppendPart(const char* text, std::size_t size) noexcept;
+    void Grow(std::size_t size) noexcept;
     void Quote(std::string_view text) noexcept;
     static bool IsClean(std::string_view text) noexcept;
     void Escaped(const char* p, const char* end) noexcept;
@@ -210,6 +183,8 @@ class TextWriter {
     char* next_;
     char* end_;
     std::size_t lost_ = 0;
+    Arena* arena_ = nullptr; // null: the room stays as it is
+    std::size_t most_ = 0;
     bool first_ = true; // nothing stands in front of the next element or member
 };
 

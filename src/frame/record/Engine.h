@@ -66,25 +66,20 @@ struct WriteCall {
     void Quoted(std::string_view quoted) noexcept {
         // An empty key is that of a value that stands on its own: its place is open already.
         if (quoted.size() == kQuotesAndColon) return;
-        if (!object->opened) Open(*object);
+        OpenObjects();
         out.RawKey(quoted);
     }
-    // Such a member with its value; `clean` has nothing to escape in it.
-    void Bool(std::string_view quoted, bool flag) noexcept { Whole(quoted, flag); }
-    void Int(std::string_view quoted, std::int32_t number) noexcept { Whole(quoted, number); }
-    void Clean(std::string_view quoted, std::string_view clean) noexcept { Whole(quoted, clean); }
     // Opens a member whose name is known only now.
     void Member(std::string_view name) noexcept {
-        if (!object->opened) Open(*object);
+        OpenObjects();
         out.Key(name);
+    }
+    // Opens the object that keys go to, and those around it.
+    void OpenObjects() noexcept {
+        if (!object->opened) Open(*object);
     }
 
   private:
-    template <class T>
-    void Whole(std::string_view quoted, T value) noexcept {
-        if (!object->opened) Open(*object);
-        out.RawMember(quoted, value);
-    }
     void Open(OpenObject& closed) noexcept;
 };
 

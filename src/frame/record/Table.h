@@ -67,6 +67,8 @@ struct Node {
     bool listed = false;  // an array that says nothing but its elements and their count
     bool shared = false;  // the node behind it, or in front of it, has the same key
     bool ordered = false; // what it stores depends on which of it and another node comes first
+    // For writing:
+    bool unlessBare = false; // a record that is left out when it writes no keys
 };
 static_assert(sizeof(Node) == 48);
 
@@ -92,7 +94,7 @@ struct Copy {
 };
 
 // Bytes behind a table's last key text that may be loaded.
-inline constexpr std::size_t kKeyTextSlack = 16;
+inline constexpr std::size_t kKeyTextSlack = 32;
 // As many values of a tuple, and as many keys of an object, are read from the text at the most.
 inline constexpr std::size_t kMostInText = 256;
 inline constexpr std::size_t kMostInTuple = 16;
@@ -111,7 +113,7 @@ struct Table {
     std::uint16_t rowCount = 0;
 
     const Node* nodes = nullptr;
-    const char* keyTexts = nullptr;
+    const char* keyTexts = nullptr;          // each with `, ` in front of it, and kKeyTextSlack bytes behind the last
     const void* const* references = nullptr; // name tables and tables that nodes refer to
     const FlagRun* flagRuns = nullptr;
     std::uint16_t flagRunCount = 0;
@@ -254,6 +256,7 @@ constexpr Plainly ReadPlainly(const Field& row) {
 constexpr Plainly WritePlainly(const Field& row) {
     WritingWords words = row;
     words.keepsObject = false; // the node knows
+    words.unlessBare = false;  // as of this
     if (words != WritingWords{} || static_cast<const ListWords&>(row) != ListWords{} || !row.writable
         || row.kind != row.writtenAs)
         return Plainly::No;
@@ -335,7 +338,7 @@ consteval Limits LimitsOf() {
         if (row.key == nullptr) continue;
         const auto parts = static_cast<std::size_t>(Parts(row.key));
         limits.nodes += parts;
-        limits.text += std::string_view(row.key).size() + 6 * parts;
+        limits.text += std::string_view(row.key).size() + 8 * parts;
     }
     return limits;
 }
@@ -374,6 +377,8 @@ struct Tree {
 
     constexpr Node& Add(std::string_view key) {
         Node& node = nodes[nodeCount++];
+        for (char c : std::string_view(", "))
+            texts[textSize++] = c;
         node.quotedAt = textSize;
         node.keySize = static_cast<std::uint16_t>(key.size());
         node.prefix = json::KeyPrefix(key);
@@ -429,6 +434,7 @@ struct Tree {
         node.cell = row.cell;
         node.kind = row.kind;
         node.listed = IsPlainList(row);
+        node.unlessBare = row.unlessBare;
     }
 
     // In the order of their places, so that neighbours become one run.

@@ -1,0 +1,137 @@
+#include "frame/json/Digits.h"
+
+#include <bit>
+#include <charconv>
+#include <cmath>
+
+namespace orrery::json {
+
+namespace {
+
+// `digits` of a real are its 16 significant ones, of which the first stands in front of the decimal point when the
+// decimal exponent is 0.
+constexpr int kPrecision = 16;
+constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out without a search for their digits
+
+char* PutFour(char* at, std::uint32_t below10000) noexcept {
+    return PutPair(PutPair(at, below10000 / 100), below10000 % 100);
+}
+char* PutEight(char* at, std::uint32_t number) noexcept {
+    return PutFour(PutFour(at, number / 10000), number % 10000);
+}
+
+// Lays the digits out as "%#.16g" does for exponents from -4 to 15. Copies go in whole blocks: `digits` has as many
+// bytes again, and what is too much gets overwritten or lies in the room behind.
+char* LayOut(const char* digits, int exponent, char* out) noexcept {
+    if (exponent < 0) {
+        std::memcpy(out, "0.000", 5);
+        out += 1 - exponent;
+        std::memcpy(out, digits, kPrecision);
+        return out + kPrecision;
+    }
+    const int whole = exponent + 1;
+    std::memcpy(out, digits, kPrecision);
+    out[whole] = '.';
+    std::memcpy(out + whole + 1, digits + whole, kPrecision);
+    return out + kPrecision + 1;
+}
+
+#if defined(__SIZEOF_INT128__)
+__extension__ using Wide = unsigned __int128;
+
+constexpr double kLeast = 0x1p-10; // what the powers suffice for
+constexpr double kBelow = 0x1p49;  // what has bits behind its point that count
+constexpr std::uint64_t kPowers[] = {1,
+                                     10,
+                                     100,
+                                     1000,
+                                     10000,
+                                     100000,
+                                     1000000,
+                                     10000000,
+                                     100000000,
+                                     1000000000,
+                                     10000000000,
+                                     100000000000,
+                                     1000000000000,
+                                     10000000000000,
+                                     100000000000000,
+                                     1000000000000000,
+                                     10000000000000000,
+                                     100000000000000000,
+                                     1000000000000000000,
+                                     10000000000000000000u};
+
+// The digits of a number of ordinary size, exactly: its bits times a power of ten, of which the part behind the point
+// rounds to the even neighbour at one half.
+char* PutOrdinary(char* at, double magnitude) noexcept {
+    const auto bits = std::bit_cast<std::uint64_t>(magnitude);
+    const int binary = static_cast<int>(bits >> 52) - 1023;
+    const std::uint64_t mantissa = (bits & ((std::uint64_t{1} << 52) - 1)) | std::uint64_t{1} << 52;
+    const int shift = 52 - binary;        // the number is mantissa / 2^shift
+    int exponent = (binary * 1233) >> 12; // the decimal one or one less: 1233 / 4096 is a little below log10(2)
+    Wide product = Wide{mantissa} * kPowers[kPrecision - 1 - exponent];
+    auto digits = static_cast<std::uint64_t>(product >> shift);
+    if (digits >= kPowers[kPrecision]) {
+        ++exponent;
+        product = Wide{mantissa} * kPowers[kPrecision - 1 - exponent];
+        digits = static_cast<std::uint64_t>(product >> shift);
+    }
+    const Wide rest = product & ((Wide{1} << shift) - 1);
+    const Wide half = Wide{1} << (shift - 1);
+    if (rest > half || (rest == half && digits % 2 != 0)) ++digits;
+    if (digits == kPowers[kPrecision]) {
+        digits = kPowers[kPrecision - 1];
+        ++exponent;
+    }
+    char text[2 * kPrecision];
+    PutEight(text, static_cast<std::uint32_t>(digits / kPowers[8]));
+    PutEight(text + 8, static_cast<std::uint32_t>(digits % kPowers[8]));
+    std::memset(text + kPrecision, '0', kPrecision);
+    return LayOut(text, exponent, at);
+}
+#endif
+
+} // namespace
+
+char* PutLongDigits(char* at, std::uint32_t number) noexcept {
+    constexpr std::uint32_t kEight = 100000000;
+    if (number >= kEight) {
+        at = PutDigits(at, number / kEight);
+        return PutEight(at, number % kEight);
+    }
+    at = PutDigits(at, number / 10000);
+    return PutFour(at, number % 10000);
+}
+
+char* PutReal(char* at, double number) noexcept {
+    const double magnitude = std::fabs(number);
+    if (std::signbit(number)) *at++ = '-';
+    // Sizes and coordinates are whole numbers as a rule: zeros fill up their digits.
+    if (magnitude < kWholeLimit && magnitude == static_cast<double>(static_cast<std::uint32_t>(magnitude))) {
+        std::memset(at, '0', kPrecision + 1);
+        *PutDigits(at, static_cast<std::uint32_t>(magnitude)) = '.';
+        return at + kPrecision + 1;
+    }
+#if defined(__SIZEOF_INT128__)
+    if (magnitude >= kLeast && magnitude < kBelow) return PutOrdinary(at, magnitude);
+#endif
+    if (!std::isfinite(number)) {
+        std::memcpy(at, std::isnan(number) ? "nan" : "inf", 3);
+        return at + 3;
+    }
+    // d.ddddddddddddddde+dd, rounded right
+    char* const end =
+        std::to_chars(at, at + kRealRoom - 1, magnitude, std::chars_format::scientific, kPrecision - 1).ptr;
+    constexpr int kMark = kPrecision + 1; // of the letter e
+    int exponent = 0;
+    std::from_chars(at + kMark + 2, end, exponent);
+    if (at[kMark + 1] == '-') exponent = -exponent;
+    if (exponent < -4 || exponent >= kPrecision) return end;
+    char digits[2 * kPrecision] = {};
+    digits[0] = at[0];
+    std::memcpy(digits + 1, at + 2, kPrecision - 1);
+    return LayOut(digits, exponent, at);
+}
+
+} // namespace orrery::json
