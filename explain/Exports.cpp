@@ -6,7 +6,11 @@
 #include <algorithm>
 #include <new>
 
+#ifdef _WIN32
+#define ORRERY_EXPORT extern "C" __declspec(dllexport)
+#else
 #define ORRERY_EXPORT extern "C" __attribute__((visibility("default")))
+#endif
 
 namespace orrery::explain {
 

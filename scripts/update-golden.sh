@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Renews the checked-in print of all record tables after a change that is meant. Review the difference.
+# Renews what is checked in of the record tables, their print and the types of commands in C++, after a change that is
+# meant. Review the difference.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -9,4 +10,7 @@ cmake --build build --target orrery_cli
 mkdir -p tests/golden
 build/orrery layout >tests/golden/layout.txt.new
 mv tests/golden/layout.txt.new tests/golden/layout.txt
-git --no-pager diff --stat -- tests/golden
+build/orrery schema >build/schema.json
+python3 scripts/cpp-commands.py build/schema.json >build/cpp_commands.h
+mv build/cpp_commands.h include/orrery/cpp_commands.h
+git --no-pager diff --stat -- tests/golden include/orrery/cpp_commands.h

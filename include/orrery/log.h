@@ -13,7 +13,11 @@
 #include <cstdint>
 
 #ifndef ORRERY_API
+#ifdef _WIN32
+#define ORRERY_API
+#else
 #define ORRERY_API __attribute__((visibility("default")))
+#endif
 #endif
 
 /* The weight of a line. Values are handed to the sink as they come; the library itself uses the two named here. */

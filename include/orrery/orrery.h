@@ -42,6 +42,7 @@
 #include "orrery/events_typed.h"
 #include "orrery/fleet.h"
 #include "orrery/general.h"
+#include "orrery/helpers.h"
 #include "orrery/home.h"
 #include "orrery/intercom.h"
 #include "orrery/linkage.h"

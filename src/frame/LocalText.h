@@ -1,7 +1,8 @@
 // Text between UTF-8, which documents carry, and the multibyte encoding of the process's locale (LC_CTYPE), which
 // records carry. Under UTF-8, the plain C locale and a codeset that iconv does not know both directions are a bounded
-// copy; any other codeset goes through iconv. One object a call: it keeps the conversion descriptors that it needed
-// open until the call ends.
+// copy; any other codeset goes through iconv. (On Windows it is the process's code page, and the system converts:
+// LocalText_Windows.cpp stands in the place of LocalText.cpp.) One object a call: it keeps the conversion descriptors
+// that it needed open until the call ends.
 //
 // What cannot be converted becomes '?', as a code page conversion would have it: one for a character that the other
 // encoding lacks, one for the longest well-begun part of a broken UTF-8 sequence, one for each byte that is no
