@@ -56,8 +56,7 @@ class ReplyRecords {
     const char* ReadText(const char* p, record::TextCall& text, std::string_view memberName) noexcept {
         std::byte* const at = Next();
         if (isVersioned_) {
-            ReadVersioned(
-                at, [&] { p = record::ReadRecordText(table_, p, local_, text, memberName); });
+            ReadVersioned(at, [&] { p = record::ReadRecordText(table_, p, local_, text, memberName); });
             return local_ == nullptr ? nullptr : p;
         }
         if (clears_) std::memset(at, 0, stride_);

@@ -23,7 +23,8 @@ const char* WhyByDocument(const record::Table& table, bool isCleared) noexcept {
 
 // Whether everything that reading touches was cleared by the frame.
 bool IsCleared(const ParseFrame& frame) noexcept {
-    return frame.clearing == Clearing::Buffer || (frame.clearing == Clearing::Record && frame.take == Take::One && frame.takesBy == nullptr);
+    return frame.clearing == Clearing::Buffer
+           || (frame.clearing == Clearing::Record && frame.take == Take::One && frame.takesBy == nullptr);
 }
 
 bool HasPath(const ParseFrame& frame) noexcept {
@@ -94,8 +95,9 @@ bool AsksRootFor(const record::Table& table, std::string_view key) noexcept {
     std::size_t count = table.fromRoot.count;
     for (std::size_t i = 0; i < count; ++i) {
         if (table.keyOf(node[i]) == key) return true;
-        if (node[i].childCount > 0) count = std::max<std::size_t>(count, node[i].firstChild + node[i].childCount
-                                                                              - std::size_t{table.fromRoot.first});
+        if (node[i].childCount > 0)
+            count = std::max<std::size_t>(count,
+                                          node[i].firstChild + node[i].childCount - std::size_t{table.fromRoot.first});
     }
     return false;
 }

@@ -1,5 +1,5 @@
-// The frames' short road: the reply is walked once, what stands beside the value becomes the root of a document, and the
-// records are read from the text itself (record/ReadText.h). Which commands take it is settled by their words and
+// The frames' short road: the reply is walked once, what stands beside the value becomes the root of a document, and
+// the records are read from the text itself (record/ReadText.h). Which commands take it is settled by their words and
 // tables. Where a reply turns out to be none that it can read, or fails, everything is put back as it was and the
 // document's road gives the answer: it is the referee.
 #pragma once

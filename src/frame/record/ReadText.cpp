@@ -239,8 +239,7 @@ const char* ReadTuple(const Table& table, const char* p, std::byte* record, Text
     std::uint32_t count = 0;
     json::Step step = json::FirstEntry(p, text.end, ']');
     while (step.more) {
-        p = count < wanted ? ReadAny(step.at, values[count], text)
-                           : json::SkipValue(step.at, text.end, text.arena());
+        p = count < wanted ? ReadAny(step.at, values[count], text) : json::SkipValue(step.at, text.end, text.arena());
         if (p == nullptr) return nullptr;
         ++count;
         step = json::NextEntry(p, text.end, ']');
