@@ -1,0 +1,196 @@
+"""Device JSON to fixed-layout records and back.
+
+    alarm = orrery.parse("Alarm", reply)      # an AlarmInput; Refused tells why a reply is none
+    alarm.enable = False
+    text = orrery.pack(alarm)
+    for event in orrery.events(notification):
+        print(event.name, event.record)
+
+Records are views of the library's own bytes: members are decoded when they are looked at, lists are cut at their
+counts, what a flag says is absent is None, codes are members of their enumerations. All calls release the
+interpreter's lock."""
+
+from __future__ import annotations
+
+from typing import Any, Iterator, List, NamedTuple, Optional, Union
+
+from . import _library
+from ._commands import COMMANDS, EVENTS, NAMES_OF_CODES, RULES, TEMPLATES, TYPED, Reading, Several, Templates
+from ._library import Finding, Refused, explain, version
+from ._memory import Buffer, Record, lists_of
+
+__all__ = [
+    "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "pack", "pack_rules", "parse", "parse_all",
+    "parse_rules", "parse_template", "typed", "version",
+]
+
+Json = Union[str, bytes]
+_MOST_ELEMENTS = 1 << 16
+_LARGEST_TEXT = 64 << 20
+
+
+def _bytes(text: Json) -> bytes:
+    data = text.encode("utf-8", "surrogateescape") if isinstance(text, str) else text
+    if b"\0" in data:
+        raise ValueError("a text with a NUL")
+    return data
+
+
+def _parse(command: str, text: Json) -> Record:
+    found = COMMANDS.get(command.lower())
+    if found is None:
+        raise Refused("%r is no command" % command, [])
+    name, record_type = found
+    data = _bytes(text)
+    elements = 32
+    while True:
+        record = record_type()
+        record.command = name
+        lists = list(lists_of(record)) if record_type.has_lists_ else []
+        for pointed in lists:
+            pointed.lend(record, elements)
+        if not _library.parse(name, data, record._buffer):
+            raise Refused("%s: the reply is refused" % name, explain(name, data))
+        # A list that is full may have been cut.
+        if elements >= _MOST_ELEMENTS or not any(pointed.is_full(record) for pointed in lists):
+            return record
+        elements *= 8
+
+
+parse: Reading = _parse  # type: ignore[assignment]
+
+
+def _parse_all(command: str, text: Json, most: int = 64) -> List[Record]:
+    found = COMMANDS.get(command.lower())
+    if found is None:
+        raise Refused("%r is no command" % command, [])
+    name, record_type = found
+    data = _bytes(text)
+    buffer = bytearray(record_type.size_ * most)
+    _library.set_size_words(name, buffer)
+    length = _library.parse_into(name, data, buffer)
+    if length is None:
+        raise Refused("%s: the reply is refused" % name, explain(name, data))
+    records: List[Record] = []
+    for i in range(min(length // record_type.size_, most)):
+        record = record_type.view(buffer, i * record_type.size_, [buffer])
+        record.command = name
+        records.append(record)
+    return records
+
+
+parse_all: Several = _parse_all  # type: ignore[assignment]
+
+
+def pack(record: Union[Record, List[Any]], command: Optional[str] = None) -> str:
+    """The text of a record, or of a list of them, to be sent under "params"."table". A record that was parsed knows its
+    command; of others it has to be said where several have the record."""
+    records: List[Record] = record if isinstance(record, list) else [record]
+    if not records:
+        raise ValueError("no record")
+    name = command or records[0].command or records[0].only_command_
+    if name is None:
+        raise ValueError("which command is %s for?" % type(records[0]).__name__)
+    return _pack(name, b"".join(bytes(one) for one in records))
+
+
+def _pack(name: str, data: bytes) -> str:
+    room = 1 << 16
+    while room <= _LARGEST_TEXT:
+        text = _library.pack(name, data, room)
+        if text is not None:
+            return text.decode("utf-8", "surrogateescape")
+        room *= 8
+    raise Refused("%s: the record is refused" % name, [])
+
+
+class Rule(NamedTuple):
+    """A rule of a channel: its code (RULE of enumerations), id, class and record."""
+
+    code: int
+    record: Record
+    id: int = 0
+    rule_class: int = 1
+
+    @property
+    def name(self) -> str:
+        return NAMES_OF_CODES.get(self.code, "")
+
+
+def _items(buffer: Buffer, count: int, kept: List[object]) -> Iterator[Rule]:
+    at = 0
+    for _ in range(count):
+        if at + _library.RULE_HEAD.size > len(buffer):
+            return
+        code, size, number, rule_class = _library.RULE_HEAD.unpack_from(buffer, at)
+        at += _library.RULE_HEAD.size
+        record_type = RULES.get(code)
+        if record_type is None or size < record_type.size_ or at + size > len(buffer):
+            return
+        yield Rule(code, record_type.view(buffer, at, kept), number, rule_class)
+        at += size
+
+
+def parse_rules(text: Json, command: str = "VideoAnalyseRule") -> List[Rule]:
+    """The rules of a channel, from the reply of "VideoAnalyseRule", "AudioAnalyseRule" or "IVSFramRule"."""
+    data = _bytes(text)
+    buffer = bytearray(_library.rule_bytes(command, data))
+    count = _library.parse_rules(command, data, buffer)
+    if count is None:
+        raise Refused("%s: the reply is refused" % command, explain(command, data))
+    return list(_items(buffer, count, [buffer]))
+
+
+def pack_rules(rules: List[Rule], command: str = "VideoAnalyseRule") -> str:
+    buffer = bytearray()
+    for rule in rules:
+        if not isinstance(rule.record, RULES.get(rule.code, type(None))):
+            raise TypeError("%s is no record of rule %d" % (type(rule.record).__name__, rule.code))
+        buffer += _library.RULE_HEAD.pack(rule.code, rule.record.size_, rule.id, rule.rule_class) + bytes(rule.record)
+    return _pack(command, _library.rule_descriptor(buffer, len(rules)))
+
+
+class Event(NamedTuple):
+    """An event, or what else a text carries, with a copy of its record and all that its pointers lead to."""
+
+    code: int
+    name: str
+    record: Record
+
+
+def _collect(text: Json, of_typed: bool) -> List[Event]:
+    found: List[Event] = []
+
+    def add(code: int, buffer: bytearray, size: int) -> None:
+        record_type = (TYPED if of_typed and code in TYPED else EVENTS).get(code)
+        if record_type is None:
+            return
+        count = max(1, size // record_type.size_) if of_typed else 1
+        for i in range(count):
+            found.append(Event(code, NAMES_OF_CODES.get(code, ""), record_type.view(buffer, i * record_type.size_, [buffer])))
+
+    if not _library.decode(_bytes(text), of_typed, add):
+        raise Refused("the text is refused", [])
+    return found
+
+
+def events(text: Json) -> Iterator[Event]:
+    """The events of a text of analyzer events. Text that is no JSON has none."""
+    return iter(_collect(text, False))
+
+
+def typed(text: Json) -> Iterator[Event]:
+    """What a text carries whose keys tell it, list elements one by one."""
+    return iter(_collect(text, True))
+
+
+def _parse_template(method: str, text: Json, class_type: int = 1) -> Record:
+    if method not in TEMPLATES:
+        raise Refused("%r is no method with a template" % method, [])
+    record = TEMPLATES[method]()
+    if not _library.parse_template(method, class_type, _bytes(text), record._buffer):
+        raise Refused("%s: the reply is refused" % method, [])
+    return record
+
+
+parse_template: Templates = _parse_template  # type: ignore[assignment]
