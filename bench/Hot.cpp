@@ -123,7 +123,11 @@ void PrintSystemCalls(const std::string& only) {
     line("events.128", manyEvents.texts, [&](std::size_t i) { return manyEvents.Decode(i); });
     line("events.typed", typed.texts, [&](std::size_t i) { return typed.Decode(i); });
     SystemLine(
+        "system.Alarm.pack", 0, alarm.records.size(), [&](std::size_t i) { return alarm.Pack(i); }, only);
+    SystemLine(
         "system.Encode.pack", 0, encode.records.size(), [&](std::size_t i) { return encode.Pack(i); }, only);
+    SystemLine(
+        "system.VideoAnalyseRule.pack", 0, rules.records(), [&](std::size_t i) { return rules.Pack(i); }, only);
     for (const auto& [name, size] : {std::pair{"20KB", 20000},
                                      {"35KB", 35000},
                                      {"60KB", 60000},
@@ -139,6 +143,19 @@ void PrintSystemCalls(const std::string& only) {
         const Texts texts = {Ones(static_cast<std::size_t>(size))};
         line(std::string("reader.ones.") + name, texts, OrreryReader{texts});
     }
+    std::printf("\nwhat the first call of a process takes from the system\n\n");
+    const auto first = [&](const char* command, const Texts& texts, std::size_t recordSize) {
+        const std::string name = std::string("system.first.") + command;
+        if (name.find(only) == std::string::npos) return;
+        const SystemUse use = FirstUseOf(command, texts[0], recordSize);
+        if (use.known)
+            std::printf("%-44s %7.0f system calls, %5.0f of memory, %7.0f page faults   no bar\n", name.c_str(),
+                        use.calls, use.memoryCalls, use.pageFaults);
+        else
+            std::printf("%-44s system calls could not be counted here\n", name.c_str());
+    };
+    first("Alarm", alarm.texts, sizeof(CFG_ALARM_INPUT_INFO));
+    first("Encode", encode.texts, sizeof(byhand::EncodeChannels));
 }
 
 } // namespace orrery::bench

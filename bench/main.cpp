@@ -3,6 +3,7 @@
 #include "bench/Calls.h"
 #include "bench/Events.h"
 #include "bench/Readers.h"
+#include "bench/SystemCalls.h"
 #include "bench/Tables.h"
 
 #include <cstdio>
@@ -70,6 +71,7 @@ void RegisterEvents(const char* name, EventBench& bench) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 7 && std::strcmp(argv[1], kFirstCall) == 0) return RunFirstCall(argv + 2);
     bool table = false, quick = false;
     const char* only = "";
     int kept = 0;

@@ -3,6 +3,7 @@
 #include "frame/json/TextWriter.h"
 
 #include <array>
+#include <charconv>
 
 namespace orrery::explain {
 

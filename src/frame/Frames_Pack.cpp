@@ -140,10 +140,11 @@ Outcome PacketFamily(const record::Table& table, const PackFrame& frame, const P
         return Outcome::Done;
     }
     if (content.form == Form::One) count = 1;
-    if (frame.stride == Stride::Record) return Deliver(content, frame, request);
+    const VersionedRecords versioned{table, frame.stride, stride};
+    if (frame.stride == Stride::Record || versioned.areOwn(first, count)) return Deliver(content, frame, request);
 
     StackArena<std::size_t{4} << 10> arena;
-    const LocalRecord local{{table, frame.stride, stride}, arena.Array<std::byte>(table.size)};
+    const LocalRecord local{versioned, arena.Array<std::byte>(table.size)};
     if (local.record == nullptr) {
         return frame.keepsText ? Outcome::OutOfMemory : LeaveClear(Outcome::OutOfMemory, request);
     }

@@ -143,13 +143,44 @@ char* PutUsualSection(char* to, const void* section) noexcept {
     return to + kSectionText;
 }
 
-// As many of the sections as are usual and find room; answers how many.
+// The first and the last sixteen bytes of a section.
+struct SectionBytes {
+#if ORRERY_SSE2
+    __m128i first, last;
+#else
+    std::uint64_t first[2], last[2];
+#endif
+    explicit SectionBytes(const void* section) noexcept {
+        std::memcpy(&first, section, sizeof first);
+        std::memcpy(&last, static_cast<const std::byte*>(section) + sizeof(CFG_TIME_SECTION) - sizeof last,
+                    sizeof last);
+    }
+    bool operator==(const SectionBytes& other) const noexcept {
+#if ORRERY_SSE2
+        const __m128i same = _mm_and_si128(_mm_cmpeq_epi8(first, other.first), _mm_cmpeq_epi8(last, other.last));
+        return _mm_movemask_epi8(same) == 0xFFFF;
+#else
+        return std::memcmp(this, &other, sizeof *this) == 0;
+#endif
+    }
+};
+
+// As many of the sections as are usual and find room; answers how many. The one before often comes again.
 int WriteUsualSections(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
+    if (count <= 0) return 0;
+    constexpr std::size_t kBack = kSectionText + 2; // to the text of the section before
     json::Pen pen(out);
     int written = 0;
-    while (written < count && pen.has(kSectionRoom)
-           && pen.TryElement([&](char* to) { return PutUsualSection(to, sections + written); }))
-        ++written;
+    SectionBytes before(sections);
+    for (; written < count && pen.has(kSectionRoom); ++written) {
+        const SectionBytes bytes(sections + written);
+        if (written > 0 && bytes == before) {
+            pen.Element([](char* to) { return json::CopyShort(to, to - kBack, kSectionText); });
+            continue;
+        }
+        before = bytes;
+        if (!pen.TryElement([&](char* to) { return PutUsualSection(to, sections + written); })) break;
+    }
     pen.Return(out);
     return written;
 }

@@ -187,12 +187,14 @@ TEST(FamilyPack, AFailedCallMayLeaveTheText) {
     EXPECT_EQ(Pack(kItem, keeps, kItems, 8, text.size() + 4).bytes, text + '\0' + "###");
 }
 
-// A text too long for the stack, whose row refuses the second time that it is asked.
+// A text too long for the stack, whose row refuses once it stands there.
+bool refusesLate = false;
 int timesAsked = 0;
 void WriteLong(const record::Field&, const std::byte*, record::WriteCall& call) {
+    ++timesAsked;
     call.Key();
     call.out.String(std::string(20000, 'x'));
-    if (++timesAsked == 2) call.refused = true;
+    if (refusesLate) call.refused = true;
 }
 constexpr record::CustomCodec kLongCodec{nullptr, WriteLong};
 TABLE(kLong, Item,
@@ -202,13 +204,20 @@ TABLE(kLong, Item,
       });
 
 TEST(FamilyPack, AFailedCallLeavesTheTextHoweverLateItFails) {
-    timesAsked = 0;
+    refusesLate = true;
     const Written late = Pack(kLong, kPack.KeepsText(), kItems, 8, 30000);
     EXPECT_EQ(late.outcome, Outcome::RowRefused);
     EXPECT_TRUE(late.isUntouched());
-    timesAsked = 2;
+    refusesLate = false;
+    timesAsked = 0;
     const std::string text = "{ \"Id\" : \"" + std::string(20000, 'x') + "\", \"Level\" : 2 }\n";
     EXPECT_TRUE(Pack(kLong, kPack.KeepsText(), kItems, 8, text.size() + 1).bytes == text + '\0');
+    EXPECT_EQ(timesAsked, 1) << "a long text is written once";
+    for (const std::size_t room : {std::size_t{9000}, text.size() - 1}) {
+        const Written tooLong = Pack(kLong, kPack.KeepsText(), kItems, 8, room);
+        EXPECT_EQ(tooLong.outcome, Outcome::TextTooLong) << room;
+        EXPECT_TRUE(tooLong.isUntouched()) << room;
+    }
 }
 
 bool IsPositive(const std::byte* record) {
@@ -255,6 +264,23 @@ TEST(FamilyPack, CallersOfOtherLayouts) {
     const Versioned four{4, 1, "x", 2};
     EXPECT_EQ(Pack(kVersioned, kPackByWord.As(Form::One), &four, 20).text(),
               "{ \"Id\" : 0, \"Level\" : 0, \"Name\" : \"\" }\n");
+}
+
+// Of this library's own layout too: texts lose what leaves no room for a terminator where fields move one by one, and
+// later records' own words count for nothing.
+TEST(FamilyPack, CallersOfThisLayout) {
+    const Versioned own[] = {{sizeof(Versioned), 1, {'1', '2', '3', '4', '5', '6', '7', '8'}, 3},
+                             {0, 2, "a", 4},
+                             {sizeof(Versioned), 3, {'b', '\0', 'c'}, 5}};
+    const auto expected = [](const std::string& name) {
+        return R"([ { "Id" : 1, "Level" : 3, "Name" : ")" + name
+               + R"(" }, { "Id" : 2, "Level" : 4, "Name" : "a" }, { "Id" : 3, "Level" : 5, "Name" : "b" } ])" + "\n";
+    };
+    EXPECT_EQ(Pack(kVersioned, kPackByWord, own, sizeof own).text(), expected("12345678"));
+    EXPECT_EQ(Pack(kVersioned, kPackByWord.Strides(Stride::SizeWordByField), own, sizeof own).text(),
+              expected("1234567"));
+    EXPECT_EQ(Pack(kVersioned, kPackByWord, own, sizeof own[0]).text(),
+              "{ \"Id\" : 1, \"Level\" : 3, \"Name\" : \"12345678\" }\n");
 }
 
 } // namespace

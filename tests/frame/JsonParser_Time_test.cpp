@@ -1,6 +1,8 @@
 #include "frame/JsonParserSupport.h"
+#include "support/GuardedBuffer.h"
 
 #include <climits>
+#include <cstdio>
 #include <cstring>
 
 namespace orrery {
@@ -193,6 +195,54 @@ TEST(TimeSchedule, ABadCellEndsItWithWhatWasRead) {
     for (const char* text : {"[ [ \"bad\" ] ]", "[ [ null ] ]", "[ [ 5 ] ]", "[ [ [ \"1 08:00:00-17:30:00\" ] ] ]"}) {
         EXPECT_FALSE(JsonParser::GetTimeSchedule(ParsedText(text).root(), &sections[0][0], 2, 3, nullptr)) << text;
     }
+}
+
+// Each field at each number of digits, against what printf makes of it; and no byte outside the room is touched.
+TEST(TimeSection, WritesEveryNumberOfEveryField) {
+    for (int field = 0; field < 7; ++field) {
+        for (const int number :
+             {INT_MIN, -65536, -100, -1, 0,  1,  9,  10,  19,  20,  29,  30,    49,    50,    59,    60,    69,
+              70,      79,     80,   89, 90, 98, 99, 100, 255, 256, 999, 32767, 32768, 65535, 65536, 65546, INT_MAX}) {
+            std::int32_t fields[7] = {1, 2, 3, 4, 5, 6, 7};
+            fields[field] = number;
+            CFG_TIME_SECTION section;
+            std::memcpy(&section, fields, sizeof section);
+            char expected[128];
+            std::snprintf(expected, sizeof expected, "\"%d %02d:%02d:%02d-%02d:%02d:%02d\"", fields[0], fields[1],
+                          fields[2], fields[3], fields[4], fields[5], fields[6]);
+            EXPECT_EQ(TextOf([&](json::TextWriter& out) { JsonParser::SetTimeSection(out, &section); }), expected);
+            const CFG_TIME_SECTION list[] = {section, {1, 2, 3, 4, 5, 6, 7}, section};
+            const std::string whole = "[ " + std::string(expected) + ", \"1 02:03:04-05:06:07\", " + expected + " ]";
+            for (std::size_t capacity : {whole.size() - 40, whole.size() - 5, whole.size() - 1, whole.size()}) {
+                const test::GuardedBuffer room(capacity);
+                json::TextWriter out(room.data(), capacity);
+                JsonParser::SetTimeSectionList(out, list, 3);
+                EXPECT_EQ(out.length(), whole.size());
+                EXPECT_EQ(room.view(), std::string_view(whole).substr(0, capacity));
+            }
+        }
+    }
+    for (int number = 0; number < 100; ++number) {
+        const CFG_TIME_SECTION section = {number % 10, number, 99 - number, number, 99 - number, number, number};
+        char expected[64];
+        std::snprintf(expected, sizeof expected, "\"%d %02d:%02d:%02d-%02d:%02d:%02d\"", number % 10, number,
+                      99 - number, number, 99 - number, number, number);
+        EXPECT_EQ(TextOf([&](json::TextWriter& out) { JsonParser::SetTimeSection(out, &section); }), expected);
+    }
+}
+
+// Days that are like the one before stand there once more, wherever in an array they come.
+TEST(TimeSchedule, WritesDaysBehindOtherElements) {
+    const CFG_TIME_SECTION days[4] = {kWorkday, {}, kWorkday, {}};
+    const std::string day = "[ \"1 08:00:00-17:30:00\", \"0 00:00:00-00:00:00\" ]";
+    EXPECT_EQ(TextOf([&](json::TextWriter& out) {
+                  out.BeginArray();
+                  out.Null();
+                  JsonParser::SetTimeDays(out, days, 2, 2);
+                  JsonParser::SetTimeDays(out, days, 1, 2);
+                  out.EndArray();
+              }),
+              "[ null, " + day + ", " + day + ", " + day + " ]");
 }
 
 TEST(TimeSchedule, WritesEveryCell) {

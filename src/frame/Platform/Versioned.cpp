@@ -49,6 +49,18 @@ void ForEachInput(const Table& table, std::uint32_t at, const Input& input) noex
     }
 }
 
+// All fields at once. What stands behind a text's terminator comes along, where nobody who writes looks.
+void TakeWhole(const Table& table, const std::byte* caller, std::byte* local) noexcept {
+    const auto word = record::Load<std::uint32_t>(local);
+    std::memcpy(local, caller, table.size);
+    record::Store(local, word);
+    for (const Field& field : table) {
+        if (field.cell != Cell::Char || field.alias) continue;
+        for (std::uint32_t end = field.elementSize; end <= field.size; end += field.elementSize)
+            local[field.offset + end - 1] = std::byte{0};
+    }
+}
+
 } // namespace
 
 std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t bufferSize) noexcept {
@@ -81,8 +93,19 @@ void VersionedRecords::Return(const std::byte* local, std::byte* caller) const n
         ConvertFields(table_, local, table_.size, caller, stride_);
 }
 
+bool VersionedRecords::areOwn(const std::byte* first, std::uint32_t count) const noexcept {
+    if (how_ != Stride::SizeWord || stride_ != table_.size) return false;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (record::Load<std::uint32_t>(first + std::size_t{i} * stride_) != stride_) return false;
+    }
+    return true;
+}
+
 void VersionedRecords::Take(const std::byte* caller, std::byte* local) const noexcept {
-    if (how_ == Stride::SizeWordByField) return ConvertFields(table_, caller, stride_, local, table_.size);
+    if (how_ == Stride::SizeWordByField) {
+        if (stride_ >= table_.size) return TakeWhole(table_, caller, local);
+        return ConvertFields(table_, caller, stride_, local, table_.size);
+    }
     ParamConvert(caller, stride_, local, table_.size);
     // The first bytes of a pointer lead nowhere.
     ForEachInput(table_, 0, [&](std::uint32_t at, std::uint32_t size) {

@@ -103,12 +103,7 @@ void TextWriter::Grow(std::size_t size) noexcept {
 }
 
 void TextWriter::Real(double number) noexcept {
-    if (char* const at = Room(kRealRoom)) [[likely]] {
-        next_ = PutReal(Separated(at), number);
-        first_ = false;
-        return;
-    }
-    char text[kRealRoom];
+    char text[kRealRoom]; // which PutReal needs also beyond the digits
     Scalar(text, static_cast<std::size_t>(PutReal(text, number) - text));
 }
 

@@ -43,6 +43,13 @@ std::uint32_t ElementCount(const Field& field) noexcept {
     return count;
 }
 
+// The size word of a record that starts at zero otherwise, as the elements of long lists do; null for other records.
+const Field* OnlySizeWord(const Table& table) noexcept {
+    if (table.startedCount != 1) return nullptr;
+    const Field& only = table.rows[table.started[0]];
+    return only.kind == Kind::Size ? &only : nullptr;
+}
+
 void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
     for (std::uint16_t row = 0; row < table.startedCount; ++row) {
         const Field& field = table.rows[table.started[row]];
@@ -53,6 +60,11 @@ void Prepare(const Table& table, std::byte* record, bool defaults) noexcept {
             if (defaults && (field.amongKeys || field.table->startsWhenRead)) continue; // set when it is read
             if (!(defaults ? field.table->hasDefaults : field.table->hasSizeWords)) continue;
             const std::uint32_t count = ElementCount(field);
+            if (const Field* const word = OnlySizeWord(*field.table)) {
+                for (std::uint32_t i = 0; i < count; ++i)
+                    Store(at + std::size_t{i} * field.elementSize + word->offset, field.table->size);
+                continue;
+            }
             for (std::uint32_t i = 0; i < count; ++i) {
                 Prepare(*field.table, at + std::size_t{i} * field.elementSize, defaults);
             }

@@ -1,5 +1,4 @@
 // Rows, records and the objects that they stand in.
-#include "frame/json/Pen.h"
 #include "frame/record/Chosen.h"
 #include "frame/record/WriteParts.h"
 
@@ -11,7 +10,7 @@ namespace orrery::record {
 namespace {
 
 bool IsMaskEmpty(const Field& field, const std::byte* at) noexcept {
-    return std::all_of(at, at + field.size, [](std::byte b) { return b == std::byte{0}; });
+    return *at == std::byte{0} && std::memcmp(at, at + 1, field.size - 1) == 0;
 }
 
 // The key of an object is written with the first key inside it.
@@ -105,19 +104,16 @@ void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) no
     const Node* node = table.nodes + table.self.first;
     const Node* const end = node + table.self.count;
     call.out.BeginArray();
-    json::Pen pen(call.out);
-    for (; node != end && node->writePlainly == Plainly::Number && pen.has(json::kIntegerRoom); ++node) {
-        const std::byte* const at = record + node->offset;
-        pen.Element([at](char* to) { return json::PutDigits(to, Load<std::int32_t>(at)); });
-    }
-    pen.Return(call.out);
-    for (; node != end; ++node) {
+    for (;;) {
+        node = WriteElements(table, node, end, record, call);
+        if (node == end) break;
         const Field& field = table.rows[node->row];
         const std::byte* const at = record + node->offset;
         if (IsElementWritten(field, at))
             WriteElement(field, at, call);
         else
             call.out.Null();
+        ++node;
     }
     call.out.EndArray();
 }

@@ -52,4 +52,8 @@ inline bool IsFlagged(const Node& node, const std::byte* record) noexcept {
 const Node* WriteRun(const Table& table, const Node* node, const Node* end, const std::byte* record,
                      WriteCall& call) noexcept;
 
+// The same for elements of an array: up to the first that is none or finds no room, is converted or has no text.
+const Node* WriteElements(const Table& table, const Node* node, const Node* end, const std::byte* record,
+                          WriteCall& call) noexcept;
+
 } // namespace orrery::record

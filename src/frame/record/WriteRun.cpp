@@ -27,7 +27,11 @@ char* PutInteger(char* to, const Node& node, const std::byte* at) noexcept {
 }
 
 const Name* NameOf(const Table& table, const Node& node, const std::byte* at) noexcept {
-    return table.namesOf(node).RowOf(static_cast<std::int32_t>(LoadScalar(node, at)));
+    const auto code = node.cell == Cell::I32 ? Load<std::int32_t>(at) : static_cast<std::int32_t>(LoadScalar(node, at));
+    const NameTable& names = table.namesOf(node);
+    if (!names.countsUp) return names.RowOf(code);
+    const std::int64_t place = std::int64_t{code} - names.rows->code;
+    return place >= 0 && place < names.count ? &names.rows[place] : nullptr;
 }
 
 // The value of a scalar where there may be little room for it.
@@ -77,6 +81,50 @@ char* PutName(char* to, std::string_view clean) noexcept {
     return to + 1;
 }
 
+// A value that is no text of the record's.
+[[gnu::always_inline]] inline char* PutScalar(char* to, const Node& node, const Name* name,
+                                              const std::byte* at) noexcept {
+    switch (node.writePlainly) {
+    case Plainly::Switch:
+        return Pen::PutBool(to, Load<std::int32_t>(at) != 0);
+    case Plainly::Number:
+        return json::PutDigits(to, Load<std::int32_t>(at));
+    case Plainly::Integer:
+        return PutInteger(to, node, at);
+    case Plainly::Fraction:
+        return json::PutReal(to, LoadFraction(node, at));
+    default:
+        return PutName(to, name->text);
+    }
+}
+
+// Null for one that is converted or has something to escape.
+char* PutText(char* to, const Node& node, const char* text, const WriteCall& call) noexcept {
+    const LocalText& texts = call.parser.text();
+    const bool asciiOnly = node.writePlainly == Plainly::Local && !texts.isCopy();
+    if (asciiOnly && !texts.isCopyOfAscii()) return nullptr;
+    return json::PutCleanText(to, text, node.elementSize, asciiOnly);
+}
+
+// Where the pen's owner goes on, once the writer itself has written. They take the pen by value, so that it need not
+// leave its registers.
+Pen Slowly(Pen pen, const Table& table, const Node& node, const std::byte* at, WriteCall& call) noexcept {
+    pen.Return(call.out);
+    WriteScalar(table, node, at, call);
+    return Pen(call.out);
+}
+Pen Open(Pen pen, WriteCall& call) noexcept {
+    pen.Return(call.out);
+    call.OpenObjects();
+    return Pen(call.out);
+}
+// The key stands there already.
+Pen ConvertText(Pen pen, const Node& node, const char* text, WriteCall& call) noexcept {
+    pen.Return(call.out);
+    call.parser.SetJsonString(call.out, text, node.elementSize, node.writePlainly == Plainly::Local);
+    return Pen(call.out);
+}
+
 } // namespace
 
 const Node* WriteRun(const Table& table, const Node* node, const Node* end, const std::byte* record,
@@ -84,11 +132,6 @@ const Node* WriteRun(const Table& table, const Node* node, const Node* end, cons
     // What a key and any value but a text take at the most; a key's padding lies within the value's room.
     constexpr std::size_t kRoom = kQuotesAndColon + std::max(json::kRealRoom, Pen::kPadding);
     Pen pen(call.out);
-    const auto slowly = [&](const std::byte* at) {
-        pen.Return(call.out);
-        WriteScalar(table, *node, at, call);
-        pen = Pen(call.out);
-    };
     for (; node != end && IsScalar(*node); ++node) {
         if (!IsFlagged(*node, record)) continue;
         const std::byte* const at = record + node->offset;
@@ -97,7 +140,7 @@ const Node* WriteRun(const Table& table, const Node* node, const Node* end, cons
         if (node->writePlainly == Plainly::Named) {
             name = NameOf(table, *node, at);
             if (name == nullptr || !name->clean) {
-                slowly(at);
+                pen = Slowly(pen, table, *node, at, call);
                 continue;
             }
             room += name->text.size();
@@ -105,44 +148,40 @@ const Node* WriteRun(const Table& table, const Node* node, const Node* end, cons
             room += node->elementSize;
         }
         if (!call.object->opened) [[unlikely]] {
-            pen.Return(call.out);
-            call.OpenObjects();
-            pen = Pen(call.out);
+            pen = Open(pen, call);
         }
         if (!pen.has(room)) [[unlikely]] {
-            slowly(at);
+            pen = Slowly(pen, table, *node, at, call);
             continue;
         }
         pen.PaddedKey(table.keyTexts + node->quotedAt, node->keySize + kQuotesAndColon);
-        switch (node->writePlainly) {
-        case Plainly::Switch:
-            pen.Value([at](char* to) { return Pen::PutBool(to, Load<std::int32_t>(at) != 0); });
-            break;
-        case Plainly::Number:
-            pen.Value([at](char* to) { return json::PutDigits(to, Load<std::int32_t>(at)); });
-            break;
-        case Plainly::Integer:
-            pen.Value([=](char* to) { return PutInteger(to, *node, at); });
-            break;
-        case Plainly::Fraction:
-            pen.Value([=](char* to) { return json::PutReal(to, LoadFraction(*node, at)); });
-            break;
-        case Plainly::Named:
-            pen.Value([name](char* to) { return PutName(to, name->text); });
-            break;
-        default: {
-            const bool converted = node->writePlainly == Plainly::Local;
-            const LocalText& texts = call.parser.text();
-            const auto* const text = reinterpret_cast<const char*>(at);
-            const bool done = (!converted || texts.isCopyOfAscii()) && pen.TryValue([&](char* to) {
-                return json::PutCleanText(to, text, node->elementSize, converted && !texts.isCopy());
-            });
-            if (done) break;
-            pen.Return(call.out);
-            call.parser.SetJsonString(call.out, text, node->elementSize, converted);
-            pen = Pen(call.out);
-            break;
+        if (node->writePlainly < Plainly::Local || node->writePlainly == Plainly::Named) {
+            pen.Value([=](char* to) { return PutScalar(to, *node, name, at); });
+            continue;
         }
+        const auto* const text = reinterpret_cast<const char*>(at);
+        if (!pen.TryValue([&](char* to) { return PutText(to, *node, text, call); })) {
+            pen = ConvertText(pen, *node, text, call);
+        }
+    }
+    pen.Return(call.out);
+    return node;
+}
+
+const Node* WriteElements(const Table& table, const Node* node, const Node* end, const std::byte* record,
+                          WriteCall& call) noexcept {
+    Pen pen(call.out);
+    for (; node != end && IsScalar(*node); ++node) {
+        const std::byte* const at = record + node->offset;
+        const Name* const name = node->writePlainly == Plainly::Named ? NameOf(table, *node, at) : nullptr;
+        const bool isText = node->writePlainly == Plainly::Local || node->writePlainly == Plainly::Raw;
+        if (node->writePlainly == Plainly::Named && (name == nullptr || !name->clean)) break;
+        if (!pen.has(json::kRealRoom + (name != nullptr ? name->text.size() : isText ? node->elementSize : 0))) break;
+        if (isText) {
+            const auto* const text = reinterpret_cast<const char*>(at);
+            if (!pen.TryElement([&](char* to) { return PutText(to, *node, text, call); })) break;
+        } else {
+            pen.Element([=](char* to) { return PutScalar(to, *node, name, at); });
         }
     }
     pen.Return(call.out);

@@ -1,4 +1,5 @@
 // One value of a row.
+#include "frame/json/Pen.h"
 #include "frame/record/WriteParts.h"
 
 #include <algorithm>
@@ -15,13 +16,31 @@ std::int64_t LoadWhole(const Field& field, const std::byte* at) noexcept {
     return number > -2147483649.0 && number < 4294967296.0 ? static_cast<std::int64_t>(number) : 0;
 }
 
+bool IsZero16(const std::byte* at) noexcept {
+    return (Load<std::uint64_t>(at) | Load<std::uint64_t>(at + 8)) == 0;
+}
+
 void WriteBitMask(const Field& field, const std::byte* at, WriteCall& call) noexcept {
     call.out.BeginArray();
-    for (std::uint32_t word = 0; word < field.dims[0]; ++word) {
+    json::Pen pen(call.out);
+    const std::uint32_t words = field.dims[0];
+    for (std::uint32_t word = 0; word < words; ++word) {
+        // Most of a mask is zero.
+        while (word + 4 <= words && IsZero16(at + word * std::size_t{4}))
+            word += 4;
+        if (word == words) break;
         for (auto bits = Load<std::uint32_t>(at + word * std::size_t{4}); bits != 0; bits &= bits - 1) {
-            call.out.UInt(word * 32 + static_cast<std::uint32_t>(std::countr_zero(bits)));
+            const std::uint32_t number = word * 32 + static_cast<std::uint32_t>(std::countr_zero(bits));
+            if (pen.has(json::kIntegerRoom)) [[likely]] {
+                pen.Element([number](char* to) { return json::PutDigits(to, number); });
+                continue;
+            }
+            pen.Return(call.out);
+            call.out.UInt(number);
+            pen = json::Pen(call.out);
         }
     }
+    pen.Return(call.out);
     call.out.EndArray();
 }
 

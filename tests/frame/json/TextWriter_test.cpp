@@ -265,26 +265,16 @@ TEST(TextWriter, WritesNoByteBeyondItsRoomAndCountsOn) {
     EXPECT_FALSE(nowhere.fits());
 }
 
-// A member at once, words and names that need no escape, and elements that are like the one before.
-TEST(TextWriter, WritesMembersAtOnceAndRepeatsElementsWithinItsRoom) {
+// Elements that are like the one before.
+TEST(TextWriter, RepeatsElementsWithinItsRoom) {
     const auto write = [](TextWriter& writer) {
-        writer.BeginObject();
-        writer.RawMember("\"Enable\" : ", true);
-        writer.RawMember("\"Loop\" : ", false);
-        writer.RawMember("\"N\" : ", std::int32_t{-2147483647 - 1});
-        writer.RawMember("\"One\" : ", std::int32_t{7});
-        writer.RawMember("\"Mode\" : ", std::string_view("Absolute"));
-        writer.RawKey("\"Week\" : ");
         writer.BeginArray();
         for (int i = 0; i < 3; ++i) {
             if (i == 0 || !writer.Again(13)) writer.CleanString("08:30:00-17");
         }
         writer.EndArray();
-        writer.EndObject();
     };
-    const std::string whole = "{ \"Enable\" : true, \"Loop\" : false, \"N\" : -2147483648, \"One\" : 7, "
-                              "\"Mode\" : \"Absolute\", "
-                              "\"Week\" : [ \"08:30:00-17\", \"08:30:00-17\", \"08:30:00-17\" ] }";
+    const std::string whole = "[ \"08:30:00-17\", \"08:30:00-17\", \"08:30:00-17\" ]";
     for (std::size_t capacity = 0; capacity <= whole.size() + 20; ++capacity) {
         const test::GuardedBuffer room(capacity);
         TextWriter writer(room.data(), capacity);
@@ -293,6 +283,46 @@ TEST(TextWriter, WritesMembersAtOnceAndRepeatsElementsWithinItsRoom) {
         const std::size_t kept = std::min(capacity, whole.size());
         EXPECT_EQ(std::string_view(room.data(), kept), std::string_view(whole).substr(0, kept)) << capacity;
     }
+}
+
+// A text of unknown length moves on into larger blocks, up to what its reader has room for.
+TEST(TextWriter, GrowsUpToItsBound) {
+    const auto write = [](TextWriter& writer) {
+        writer.BeginArray();
+        for (int i = 0; i < 300; ++i) {
+            writer.Int(i);
+            writer.String("a\"b");
+        }
+        writer.EndArray();
+    };
+    std::string whole(8192, '?');
+    TextWriter ample(whole.data(), whole.size());
+    write(ample);
+    whole.resize(ample.length());
+    for (const std::size_t most :
+         {std::size_t{0}, std::size_t{8}, std::size_t{100}, whole.size() - 1, whole.size(), std::size_t{1} << 20}) {
+        StackArena<16> arena;
+        char nearby[16];
+        TextWriter writer(nearby, sizeof nearby, arena, most);
+        write(writer);
+        EXPECT_EQ(writer.length(), whole.size()) << most;
+        EXPECT_EQ(writer.fits(), most >= whole.size()) << most;
+        EXPECT_FALSE(arena.failed());
+        const std::size_t kept = std::min(std::max(most, sizeof nearby), whole.size());
+        EXPECT_EQ(std::string_view(writer.text(), kept), std::string_view(whole).substr(0, kept)) << most;
+    }
+}
+
+TEST(TextWriter, TellsTheArenaOfATextThatNoMemoryHolds) {
+    StackArena<16> arena;
+    char nearby[16];
+    TextWriter writer(nearby, sizeof nearby, arena, 4096);
+    test::HeapWatch heap;
+    heap.FailFrom(1);
+    for (int i = 0; i < 30; ++i)
+        writer.String("0123456789");
+    EXPECT_TRUE(arena.failed());
+    EXPECT_FALSE(writer.fits());
 }
 
 TEST(TextWriter, EscapesAtEveryPlaceOfAShortText) {

@@ -1,5 +1,7 @@
+#include "support/GuardedBuffer.h"
 #include "support/Records.h"
 
+#include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
@@ -189,6 +191,69 @@ TEST(Write, NamesAndCodesOutsideTheirTable) {
 TEST(Write, ATextWithoutTerminatorEndsAtItsCapacity) {
     Texts r{{'a', 'b', 'c', 'd'}, {'e', '/', '"', 'h'}, 2, 0, 0, {}, 0};
     EXPECT_EQ(Write(kTexts, r), R"({ "Null" : "zero", "Raw" : "e\/\"h", "Text" : "abcd", "Text3" : "zero" })");
+}
+
+// One row of each kind that goes the short way, between others that don't.
+struct Mixed {
+    std::int32_t flag;
+    std::uint8_t narrowFlag;
+    std::int32_t enable;
+    std::int32_t level;
+    std::uint8_t small;
+    double rate;
+    char name[40];
+    char code[8];
+    std::int32_t mode;
+    std::int32_t list[2];
+    std::int32_t last;
+};
+NAMES(kMixedModes, kExact.OutsideWrites("none"),
+      {
+          {0, "Automatic"},
+          {1, "By/hand"},
+      });
+TABLE(kMixed, Mixed,
+      {
+          FIELD(flag),
+          FIELD(narrowFlag),
+          FIELD(enable, "Enable", Bool).SetsAndNeeds(AT(flag)),
+          FIELD(level, "TheLevelOfAnAlarmThatTheDeviceTells", Int).SetsAndNeeds(AT(narrowFlag)),
+          FIELD(small, "Object/Small", UInt),
+          FIELD(rate, "Object/Rate", Real),
+          FIELD(name, "Name", Text),
+          FIELD(code, "Object/Code", RawText),
+          FIELD(mode, "Mode", Names(kMixedModes)),
+          FIELD(list, "List", Int),
+          FIELD(last, "Z", Int),
+      });
+
+// However little room there is: what fits is written, and the length is told.
+TEST(Write, EveryKindOfRowInEveryRoom) {
+    const auto check = [](const Mixed& record, const std::string& whole) {
+        EXPECT_EQ(Write(kMixed, record), whole);
+        for (std::size_t capacity = 0; capacity <= whole.size() + 100; ++capacity) {
+            const test::GuardedBuffer room(capacity);
+            json::TextWriter out(room.data(), capacity);
+            StackArena<64> arena;
+            LocalText text(arena);
+            JsonParser parser(text);
+            WriteCall call{parser, out, nullptr, false, {}};
+            WriteRecord(kMixed, reinterpret_cast<const std::byte*>(&record), call);
+            EXPECT_EQ(out.length(), whole.size()) << capacity;
+            const std::size_t kept = std::min(capacity, whole.size());
+            EXPECT_EQ(room.view().substr(0, kept), whole.substr(0, kept)) << capacity;
+        }
+    };
+    check({1, 1, 5, -70000, 200, 12.5, "North gate", "A1", 0, {1, 2}, 123456789},
+          R"({ "Enable" : true, "List" : [ 1, 2 ], "Mode" : "Automatic", "Name" : "North gate", "Object" : )"
+          R"({ "Code" : "A1", "Rate" : 12.50000000000000, "Small" : 200 }, )"
+          R"("TheLevelOfAnAlarmThatTheDeviceTells" : -70000, "Z" : 123456789 })");
+    check({0, 0, 5, 1, 0, -0.001, "a/b", {'1', '2', '3', '4', '5', '6', '7', '8'}, 1, {0, -1}, 10000},
+          R"({ "List" : [ 0, -1 ], "Mode" : "By\/hand", "Name" : "a\/b", "Object" : )"
+          R"({ "Code" : "12345678", "Rate" : -0.001000000000000000, "Small" : 0 }, "Z" : 10000 })");
+    check({0x100, 0, 0, 1, 9, 1e20, "", "", 2, {99, 100}, -2147483647 - 1},
+          R"({ "Enable" : false, "List" : [ 99, 100 ], "Mode" : "none", "Name" : "", "Object" : )"
+          R"({ "Code" : "", "Rate" : 1.000000000000000e+20, "Small" : 9 }, "Z" : -2147483648 })");
 }
 
 // ---- Lists ----
