@@ -46,7 +46,8 @@ class Maker:
         self.number = 0
 
     def next(self):
-        self.number = self.number % 97 + 1
+        # None is the value of a flag or the count of a list.
+        self.number = 3 if self.number in (0, 97) else self.number + 1
         return self.number
 
     def form(self, node, record="record", form="form"):
@@ -99,14 +100,14 @@ class Maker:
             return [self.one(row, shifted(place, row["offset"]), text, path) for row in rows
                     if row["relativeTo"] == "element"]
         whole = [row for row in rows if row["relativeTo"] == "value"]
-        if whole:
+        if whole and not any(row["relativeTo"] in ("record", "members") for row in rows):
             value = self.field(whole[0], form, place, text, path)
             for row in whole[1:]:
                 self.read(row, value, form, place, text, path)
             return value
         value = {}
         # Of several rows with one key the one that says most makes the value; the others read it too.
-        made = sorted(rows, key=lambda row: (row["kind"] == "presence", row["kind"] == "custom",
+        made = sorted((row for row in rows if row not in whole), key=lambda row: (row["kind"] == "presence", row["kind"] == "custom",
                                              row["kind"] != "record" or "pointer" in row or bool(row.get("dims"))))
         later = []
         for row in made:
@@ -129,6 +130,8 @@ class Maker:
                 holder[parts[-1]] = self.field(row, form, place, text, path)
         for row in later:
             value.update(self.field(row, form, place, text, path))
+        for row in whole:  # the object itself
+            self.read(row, value, form, place, text, path)
         return value
 
     def rows_of(self, form):
@@ -136,6 +139,8 @@ class Maker:
         def keyed(rows):
             return [row for row in rows if "key" in row and not row.get("writeOnly")]
         first, second = keyed(form["fields"]), keyed(form.get("secondKeys", []))
+        beside = keyed(form.get("otherKeys", [])) + [row for row in second if "function" in row]
+        second = [row for row in second if "function" not in row]
         same = lambda row, rows: any(row["offset"] == other["offset"] and row["type"] == other["type"]
                                      and row["key"] != other["key"] for other in rows)
         if self.second:
@@ -147,7 +152,7 @@ class Maker:
             if (row["offset"], row["type"]) not in taken:
                 taken.add((row["offset"], row["type"]))
                 rows.append(row)
-        return first + rows + keyed(form.get("otherKeys", []))
+        return first + rows + beside
 
     def own_size(self, form):
         for record in self.records.values():
@@ -274,6 +279,8 @@ class Maker:
         natural = {"bool": bool, "int": int, "uint": int, "text": str, "rawText": str, "names": str}.get(row["kind"])
         if row["kind"] == "presence":
             text.after.append(Value(shifted(place, row["offset"]), row["type"], 1, name))
+        elif row.get("function"):
+            text.functions.append(name)
         elif natural in (int, bool) and type(value) in (int, bool) and "only" not in row and not row.get("dims"):
             wanted = int(bool(value)) if natural is bool else int(value)
             text.after.append(Value(shifted(place, row["offset"]), row["type"], wanted, name))
