@@ -207,15 +207,14 @@ void AddFields(Node& node, const Tables& tables, const Table& table, const std::
     flag("writesFunction", table.writes != nullptr);
     flag("afterRead", table.afterRead != nullptr);
     if (const PackedItems* const items = ItemsBehind(table)) {
-        const Table& telling = items->head != nullptr ? *items->head : table;
         Node packed = Node::Object();
-        if (items->head != nullptr) packed.Add("head", Node::Text(telling.record));
+        // Without heads the descriptor itself tells the type.
+        const Table& telling = items->head != nullptr ? *items->head : table;
+        if (items->head != nullptr) packed.Add("head", Node::Text(items->head->record));
         packed.Add("code", Node::Text(SlotName(telling, items->code)))
             .Add("size", Node::Text(SlotName(telling, items->size)));
-        if (items->head != nullptr)
-            packed.Add("most", Node::Unsigned(items->most))
-                .Add("typeKey", Node::Text("Type"))
-                .Add("classKey", Node::Text("Class"));
+        if (items->most != 0) packed.Add("most", Node::Unsigned(items->most));
+        if (items->head != nullptr) packed.Add("typeKey", Node::Text("Type")).Add("classKey", Node::Text("Class"));
         node.Add("items", std::move(packed));
     }
     Node fields = Node::Array();
