@@ -39,10 +39,11 @@ def shifted(place, offset):
 
 
 class Maker:
-    def __init__(self, schema, second=False, unknown=False):
-        """`second`: members that have a second key are told by it. `unknown`: texts of codes are none that is known."""
+    def __init__(self, schema, second=False, unknown=False, ranged=False):
+        """`second`: members that have a second key are told by it. `unknown`: texts of codes are none that is known.
+        `ranged`: numbers keep within the ranges that the schema tells."""
         self.records = {record["name"]: record for record in schema["records"]}
-        self.second, self.unknown = second, unknown
+        self.second, self.unknown, self.ranged = second, unknown, ranged
         self.number = 0
 
     def next(self):
@@ -352,6 +353,9 @@ class Maker:
             number = self.next()
             if row.get("only") == "unsigned":
                 number += 1 << 31
+            if self.ranged and "range" in row:
+                low, high = row["range"]
+                number = low + number % (high - low + 1)
             put(at, row["type"], number)
             return number
         if kind == "real":

@@ -14,6 +14,8 @@ std::string CommandList();
 std::optional<std::string> Describe(std::string_view name);
 // Commands, records and events as one JSON document, from which bindings for other languages are made.
 std::string Schema();
+// A JSON Schema of a command's text; nothing when there is no such command.
+std::optional<std::string> JsonSchema(std::string_view command);
 // All tables and commands as plain text, a line a row, for reviews.
 std::string Layout();
 

@@ -219,8 +219,19 @@ int main(int argc, char** argv) {
     CLI::App* const describe = app.add_subcommand("describe", "Show the record of a command or an event, or a record");
     describe->add_option("NAME", name, "Name of a command, an event or a record")->required();
     describe->callback([&] { run = [&] { return Show(DescribeOrSuggest(name)); }; });
-    app.add_subcommand("schema", "Print all commands, records and events as one JSON document")->callback([&] {
-        run = [] { return Show({kDone, Schema(), {}}); };
+    CLI::App* const schema =
+        app.add_subcommand("schema", "Print all commands, records, rules, events and codes as one JSON document");
+    schema->add_option("--json-schema", name, "Print a JSON Schema of the text of this command instead");
+    schema->callback([&] {
+        run = [&] {
+            if (name.empty()) return Show({kDone, Schema(), {}});
+            if (const auto text = JsonSchema(name)) return Show({kDone, *text, {}});
+            std::vector<std::string_view> names;
+            for (const orrery::Command& command : orrery::Commands())
+                names.push_back(command.name);
+            return Show(
+                {kRefused, {}, "orrery: no command " + Printable(Quoted(name)) + DidYouMean(name, names) + "\n"});
+        };
     });
     app.add_subcommand("layout", "Print all record tables as plain text, a line a row")->callback([&] {
         run = [] { return Show({kDone, Layout(), {}}); };
