@@ -3,6 +3,7 @@
 
 #include "orrery/Codes.h"
 
+#include "events/EventCodecs.h"
 #include "frame/JsonParser.h"
 
 #include <algorithm>
@@ -181,6 +182,8 @@ void AddCodes(Node& node, std::string_view record, const Field& field) {
         codes.Add(std::move(code));
     }
     node.Add("codes", std::move(codes));
+    if (field.custom == &events::kNamedBits) node.Add("codesAre", Node::Text("bits"));
+    if (field.custom == &events::kByKeys) node.Add("codesAre", Node::Text("places"));
     node.Add("compare", Node::Text(names->compare == Compare::Folded ? "folded" : "exact"));
     if (names->lastWins) node.Add("lastWins", Node::Bool(true));
     // What a text of no row reads as; what a code of no row writes.
