@@ -299,7 +299,7 @@ TEST(DiagnosisProfile, ATextAsLongAsItsBufferFitsAndNothingIsWrittenBehindOne) {
         EXPECT_EQ(written.result, 1);
         EXPECT_EQ(written.bytes, text + std::string(behind, '#'));
     }
-    const Written shorter = WriteBytes(kCommand, &list, sizeof list, text.size() - 1);
+    const WrittenBytes shorter = WriteBytes(kCommand, &list, sizeof list, text.size() - 1);
     EXPECT_EQ(shorter.result, 0);
     EXPECT_EQ(shorter.bytes, std::string(text.size() - 1, '#'));
 }
