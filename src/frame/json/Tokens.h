@@ -42,6 +42,24 @@ inline const char* ReadScalar(const char* p, const char* end, Arena& arena, void
     }
 }
 
+// Reads the integer of up to nine digits at `p`. The byte behind it; null for any other value.
+inline const char* ReadShortInt(const char* p, const char* end, std::int32_t& number) noexcept {
+    const bool negative = *p == '-';
+    const char* const digits = p + (negative ? 1 : 0);
+    std::int32_t magnitude = 0;
+    for (p = digits; p != end; ++p) {
+        const unsigned digit = static_cast<unsigned char>(*p) - unsigned{'0'};
+        if (digit > 9) {
+            if (kNumberByte[static_cast<unsigned char>(*p)]) return nullptr;
+            break;
+        }
+        if (p - digits == 9) return nullptr;
+        magnitude = magnitude * 10 + static_cast<std::int32_t>(digit);
+    }
+    number = negative ? -magnitude : magnitude;
+    return p == digits ? nullptr : p;
+}
+
 // A place in an open container: in front of its next entry, behind its end, or nowhere in what is no JSON.
 struct Step {
     const char* at;
@@ -51,7 +69,7 @@ struct Step {
 // Behind an entry at `p`: the next one's first byte, or the byte behind the container's `close`. Null and no more for
 // anything else.
 inline Step NextEntry(const char* p, const char* end, char close) noexcept {
-    if (end - p >= 2 && p[0] == ',' && p[1] == ' ') [[likely]] {
+    if (end - p >= 2 && std::memcmp(p, ", ", 2) == 0) [[likely]] {
         p += 2;
     } else {
         p = SkipBlanks(p, end);
@@ -74,7 +92,7 @@ inline Step FirstEntry(const char* p, const char* end, char close) noexcept {
 
 // Behind a key's closing quote: the value's first byte; null when no colon and value follow.
 inline const char* ValueBehindKey(const char* p, const char* end) noexcept {
-    if (end - p >= 3 && p[0] == ' ' && p[1] == ':' && p[2] == ' ') [[likely]] {
+    if (end - p >= 4 && std::memcmp(p, " : ", 3) == 0) [[likely]] {
         p += 3;
     } else {
         p = SkipBlanks(p, end);

@@ -101,6 +101,7 @@ class Members {
   private:
     const Node* Find(std::string_view key) noexcept;
     const char* ReadAt(const Node& node, const char* p) noexcept;
+    const char* ReadUsual(const Node& node, const char* p) noexcept;
     const char* ReadShared(const Node* node, const char* p) noexcept;
     // False for a node that was seen before, or comes behind one that should have come first.
     bool See(const Node& node) noexcept {
@@ -170,7 +171,53 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
     return p;
 }
 
+// The values that nearly all text is, without a look at what else they might be; null for any other.
+const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
+    std::byte* const at = record_ + node.offset;
+    const char* const end = text_.end;
+    const auto raiseFlag = [&] {
+        if (node.flag.exists()) StoreInteger(node.flag.cell, record_ + node.flag.offset, 1);
+    };
+    switch (node.readPlainly) {
+    case Plainly::Number: {
+        std::int32_t number;
+        p = json::ReadShortInt(p, end, number);
+        if (p == nullptr) return nullptr;
+        raiseFlag();
+        Store(at, number);
+        return p;
+    }
+    case Plainly::Switch: {
+        const bool isTrue = *p == 't';
+        const std::ptrdiff_t size = isTrue ? 4 : 5;
+        if (end - p < size || std::memcmp(p, isTrue ? "true" : "fals", 4) != 0 || p[size - 1] != 'e') return nullptr;
+        raiseFlag();
+        Store(at, std::int32_t{isTrue});
+        return p + size;
+    }
+    case Plainly::Local:
+    case Plainly::Raw:
+    case Plainly::Named: {
+        if (*p != '"') return nullptr;
+        const char* const stop = json::FindQuoteOrBackslash(p + 1, end);
+        if (stop == end || *stop != '"') return nullptr;
+        const std::string_view content(p + 1, static_cast<std::size_t>(stop - p - 1));
+        raiseFlag();
+        if (node.readPlainly == Plainly::Named) {
+            if (const auto code = table_.namesOf(node).CodeOf(content)) StoreInteger(node.cell, at, *code);
+        } else {
+            text_.call.parser.GetJsonString(Value::OfString(content), reinterpret_cast<char*>(at), node.elementSize,
+                                            node.readPlainly == Plainly::Local);
+        }
+        return stop + 1;
+    }
+    default:
+        return nullptr;
+    }
+}
+
 const char* Members::ReadAt(const Node& node, const char* p) noexcept {
+    if (const char* const after = ReadUsual(node, p)) return after;
     Value value;
     if (*p == '{') {
         if (node.childCount > 0) {
