@@ -10,28 +10,22 @@ namespace orrery {
 using json::Value;
 using record::ReadCall;
 
-Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const ParseRequest& request) noexcept {
-    auto* const buffer = static_cast<std::byte*>(request.buffer);
-    std::uint32_t stride = table.size;
-    if (frame.stride != Stride::Record) {
-        stride = StrideByWord(frame.stride, buffer, request.bufferSize);
-        if (stride == 0) return Outcome::BufferTooSmall;
-    }
-    const bool isShort = request.bufferSize < stride;
-    if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;
-    if (frame.needsText && request.text[0] == '\0') return Outcome::NoJson;
-    if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
-    const auto setLength = [&](std::uint32_t length) {
-        if (request.returnedLength != nullptr) *request.returnedLength = length;
-    };
-    if (frame.zeroesLength) setLength(0);
-    const auto clear = [&] {
-        if (frame.clearing == Clearing::Buffer) std::memset(buffer, 0, request.bufferSize);
-        if (frame.clearing == Clearing::Record) std::memset(buffer, 0, stride);
-    };
-    clear();
-    if (const auto read = ParseFamilyText(table, frame, request, stride)) return *read;
+namespace {
 
+void SetLength(const ParseRequest& request, std::uint32_t length) noexcept {
+    if (request.returnedLength != nullptr) *request.returnedLength = length;
+}
+
+void Clear(const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride) noexcept {
+    if (frame.clearing == Clearing::Buffer) std::memset(request.buffer, 0, request.bufferSize);
+    if (frame.clearing == Clearing::Record) std::memset(request.buffer, 0, stride);
+}
+
+// The documents' roads are functions of their own, so that the other road has their stack.
+[[gnu::noinline]] Outcome ParseFamilyDocument(const record::Table& table, const ParseFrame& frame,
+                                              const ParseRequest& request, std::uint32_t stride) noexcept {
+    auto* const buffer = static_cast<std::byte*>(request.buffer);
+    const bool isShort = request.bufferSize < stride;
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) {
         return parsed == Outcome::NoJson && frame.takesNoJson ? Outcome::Done : parsed;
@@ -50,7 +44,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
         case NullValue::Fails:
             return Outcome::NoValue;
         case NullValue::LengthZero:
-            setLength(0);
+            SetLength(request, 0);
             return Outcome::Done;
         case NullValue::LengthUntouched:
             // What stands beside the value tells of the first record all the same.
@@ -79,7 +73,7 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     ReplyRecords records(table, frame, whole, stride, call);
     ReadAll(holds, value, frame.readsNulls, records);
     if (document.arena.failed()) {
-        clear();
+        Clear(frame, request, stride);
         return Outcome::OutOfMemory;
     }
     if (isShort) std::memcpy(buffer, whole.buffer, request.bufferSize);
@@ -91,12 +85,9 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     return call.refused ? Outcome::RowRefused : Outcome::Done;
 }
 
-Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, const ParseRequest& request) noexcept {
-    if (request.bufferSize < table.size) return Outcome::BufferTooSmall;
+[[gnu::noinline]] Outcome ParseGenericDocument(const record::Table& table, const GenericFrame& frame,
+                                               const ParseRequest& request) noexcept {
     auto* element = static_cast<std::byte*>(request.buffer);
-    if (frame.zeroBuffer) std::memset(element, 0, request.bufferSize);
-    if (ParseGenericText(table, frame, request)) return Outcome::Done;
-
     Document document;
     if (const Outcome parsed = document.Parse(request.text); parsed != Outcome::Done) return parsed;
     if (!ResultPasses(ResultTest::MustBeTrue, document.root["result"])) return Outcome::Refused;
@@ -122,6 +113,32 @@ Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, cons
     }
     if (request.returnedLength != nullptr) *request.returnedLength += read;
     return Outcome::Done;
+}
+
+} // namespace
+
+Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const ParseRequest& request) noexcept {
+    auto* const buffer = static_cast<std::byte*>(request.buffer);
+    std::uint32_t stride = table.size;
+    if (frame.stride != Stride::Record) {
+        stride = StrideByWord(frame.stride, buffer, request.bufferSize);
+        if (stride == 0) return Outcome::BufferTooSmall;
+    }
+    const bool isShort = request.bufferSize < stride;
+    if (frame.exactSize ? request.bufferSize != stride : isShort && !frame.anySize) return Outcome::BufferTooSmall;
+    if (frame.needsText && request.text[0] == '\0') return Outcome::NoJson;
+    if (frame.accepts != nullptr && !frame.accepts(buffer, request.bufferSize)) return Outcome::NotAccepted;
+    if (frame.zeroesLength) SetLength(request, 0);
+    Clear(frame, request, stride);
+    if (const auto read = ParseFamilyText(table, frame, request, stride)) return *read;
+    return ParseFamilyDocument(table, frame, request, stride);
+}
+
+Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, const ParseRequest& request) noexcept {
+    if (request.bufferSize < table.size) return Outcome::BufferTooSmall;
+    if (frame.zeroBuffer) std::memset(request.buffer, 0, request.bufferSize);
+    if (ParseGenericText(table, frame, request)) return Outcome::Done;
+    return ParseGenericDocument(table, frame, request);
 }
 
 } // namespace orrery

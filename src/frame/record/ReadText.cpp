@@ -12,12 +12,31 @@ namespace {
 
 using json::Value;
 
-// A value as a document of its own.
-const char* ReadDocument(const char* p, Value& value, const TextCall& text) noexcept {
+// A value as a document of its own, which lies in this room when it is a short list of scalars, as most are.
+struct ShortList {
+    static constexpr std::uint32_t kMost = 24;
+    Value elements[kMost];
+};
+const char* ReadShortList(const char* p, Value& value, ShortList& room, const TextCall& text) noexcept {
+    std::uint32_t count = 0;
+    json::Step step = json::FirstEntry(p, text.end, ']');
+    while (step.more) {
+        if (count == ShortList::kMost || *step.at == '{' || *step.at == '[') return nullptr;
+        p = json::ReadScalar(step.at, text.end, text.arena(), &room.elements[count++]);
+        if (p == nullptr) return nullptr;
+        step = json::NextEntry(p, text.end, ']');
+    }
+    value = Value::OfArray(room.elements, count);
+    return step.at;
+}
+const char* ReadDocument(const char* p, Value& value, ShortList& room, const TextCall& text) noexcept {
+    if (*p == '[') {
+        if (const char* const after = ReadShortList(p, value, room, text)) return after;
+    }
     return json::ParseAt(p, text.end, text.arena(), value);
 }
 const char* ReadAny(const char* p, Value& value, const TextCall& text) noexcept {
-    if (*p == '{' || *p == '[') return ReadDocument(p, value, text);
+    if (*p == '{' || *p == '[') return json::ParseAt(p, text.end, text.arena(), value);
     return json::ReadScalar(p, text.end, text.arena(), &value);
 }
 
@@ -102,6 +121,7 @@ class Members {
     const Node* Find(std::string_view key) noexcept;
     const char* ReadAt(const Node& node, const char* p) noexcept;
     const char* ReadUsual(const Node& node, const char* p) noexcept;
+    const char* ReadWhole(const Node& node, const char* p) noexcept;
     const char* ReadShared(const Node* node, const char* p) noexcept;
     // False for a node that was seen before, or comes behind one that should have come first.
     bool See(const Node& node) noexcept {
@@ -158,12 +178,31 @@ const Node* Members::Find(std::string_view key) noexcept {
     return node;
 }
 
-// Several nodes with one key: the value is a document for all of them.
+// Several nodes with one key. All but one may only want to know that it is there; otherwise the value is a document for
+// all of them.
 const char* Members::ReadShared(const Node* node, const char* p) noexcept {
+    const std::string_view key = table_.keyOf(*node);
+    const auto isPresence = [](const Node& one) {
+        return one.kind == Kind::Presence && one.readPlainly == Plainly::Element && one.childCount == 0;
+    };
+    const Node* last = node;
+    int others = 0;
+    for (; last != end_ && last->shared && table_.keyOf(*last) == key; ++last)
+        others += !isPresence(*last);
+    if (others == 1 && (*p == '{' || *p == '[')) {
+        const char* after = nullptr;
+        for (; next_ != last; ++next_) {
+            if (!See(*next_)) return nullptr;
+            if (isPresence(*next_))
+                ReadNode(table_, *next_, Value::OfBool(true), record_, text_.call);
+            else if ((after = ReadAt(*next_, p)) == nullptr)
+                return nullptr;
+        }
+        return after;
+    }
     Value value;
     p = ReadAny(p, value, text_);
     if (p == nullptr) return nullptr;
-    const std::string_view key = table_.keyOf(*node);
     for (; next_ != end_ && next_->shared && table_.keyOf(*next_) == key; ++next_) {
         if (!See(*next_)) return nullptr;
         ReadNode(table_, *next_, value, record_, text_.call);
@@ -218,7 +257,6 @@ const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
 
 const char* Members::ReadAt(const Node& node, const char* p) noexcept {
     if (const char* const after = ReadUsual(node, p)) return after;
-    Value value;
     if (*p == '{') {
         if (node.childCount > 0) {
             const NodeRange inside{node.firstChild, node.childCount, node.childLastAbsent};
@@ -227,6 +265,7 @@ const char* Members::ReadAt(const Node& node, const char* p) noexcept {
     } else if (*p == '[') {
         if (node.listed) return ReadListText(table_.rows[node.row], p, record_, text_);
     } else {
+        Value value;
         p = json::ReadScalar(p, text_.end, text_.arena(), &value);
         if (p != nullptr) ReadNode(table_, node, value, record_, text_.call);
         return p;
@@ -235,7 +274,14 @@ const char* Members::ReadAt(const Node& node, const char* p) noexcept {
         if (node.flag.exists()) StoreInteger(node.flag.cell, record_ + node.flag.offset, 1);
         return ReadNamedText(table_.tableOf(node), p, record_ + node.offset, text_, {});
     }
-    p = ReadDocument(p, value, text_);
+    return ReadWhole(node, p);
+}
+
+// Apart from ReadAt, which calls itself.
+[[gnu::noinline]] const char* Members::ReadWhole(const Node& node, const char* p) noexcept {
+    Value value;
+    ShortList room;
+    p = ReadDocument(p, value, room, text_);
     if (p != nullptr) ReadNode(table_, node, value, record_, text_.call);
     return p;
 }
