@@ -16,8 +16,9 @@ std::ptrdiff_t Judged(std::string_view text) {
     StackArena<1024> arena;
     const char* const end = text.data() + text.size();
     const char* p = SkipBlanks(text.data(), end);
-    if (p != end) p = SkipValue(p, end, arena);
-    return p == end && text.empty() ? -1 : p == nullptr ? -1 : p - text.data();
+    if (p == end) return -1;
+    p = SkipValue(p, end, arena);
+    return p == nullptr ? -1 : p - text.data();
 }
 std::ptrdiff_t Read(std::string_view text) {
     StackArena<1024> arena;
