@@ -69,18 +69,19 @@ struct Step {
 // Behind an entry at `p`: the next one's first byte, or the byte behind the container's `close`. Null and no more for
 // anything else.
 inline Step NextEntry(const char* p, const char* end, char close) noexcept {
-    if (end - p >= 2 && std::memcmp(p, ", ", 2) == 0) [[likely]] {
-        p += 2;
-    } else {
-        p = SkipBlanks(p, end);
+    for (;;) {
         if (p == end) return {nullptr, false};
+        if (*p == ',') break;
         if (*p == close) return {p + 1, false};
-        if (*p != ',') return {nullptr, false};
-        ++p;
+        const char* const next = SkipBlanks(p, end);
+        if (next == p) return {nullptr, false};
+        p = next;
     }
+    ++p;
+    if (p != end && *p == ' ') ++p;
     if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]]
         return {p, true};
-    p = SkipBlanks(p, end);
+    p = SkipBlanksAndComments(p, end);
     return p == end ? Step{nullptr, false} : Step{p, true};
 }
 // Behind the opening bracket at `p`, as above.
@@ -92,16 +93,16 @@ inline Step FirstEntry(const char* p, const char* end, char close) noexcept {
 
 // Behind a key's closing quote: the value's first byte; null when no colon and value follow.
 inline const char* ValueBehindKey(const char* p, const char* end) noexcept {
-    if (end - p >= 4 && std::memcmp(p, " : ", 3) == 0) [[likely]] {
-        p += 3;
-    } else {
-        p = SkipBlanks(p, end);
+    if (p != end && *p == ' ') ++p;
+    if (p == end || *p != ':') [[unlikely]] {
+        p = SkipBlanksAndComments(p, end);
         if (p == end || *p != ':') return nullptr;
-        ++p;
     }
+    ++p;
+    if (p != end && *p == ' ') ++p;
     if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]]
         return p;
-    p = SkipBlanks(p, end);
+    p = SkipBlanksAndComments(p, end);
     return p == end ? nullptr : p;
 }
 
