@@ -108,23 +108,33 @@ const char* ReadListText(const Field& field, const char* p, std::byte* record, T
 
 // ---- Objects -------------------------------------------------------------------------------------------------------
 
-// The nodes of one object on their way through its members: which have been seen, and which is expected next.
+// The nodes of one object on their way through its members: which is expected next and, once that is asked, which have
+// been seen.
 class Members {
   public:
     Members(const Table& table, NodeRange range, std::byte* record, TextCall& text) noexcept
         : table_(table), first_(table.nodes + range.first), end_(first_ + range.count), next_(first_),
-          lastAbsent_(table.nodes + range.lastAbsent), record_(record), text_(text) {}
+          lastAbsent_(table.nodes + range.lastAbsent), record_(record), text_(text),
+          tracks_(table.anyOrder && lastAbsent_ > first_) {}
 
     const char* Read(const char* p) noexcept;
 
   private:
-    const Node* Find(std::string_view key) noexcept;
+    int OrderOf(const Node& node, std::uint64_t prefix, std::string_view key) const noexcept {
+        if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
+        return json::CompareKeys(table_.keyOf(node), key);
+    }
+    const Node* Find(std::string_view key, const char* object, const char* at) noexcept;
+    const Node* FindBefore(const Node* end, std::string_view key) const noexcept;
+    bool Track(const char* object, const char* at) noexcept;
     const char* ReadAt(const Node& node, const char* p) noexcept;
     const char* ReadUsual(const Node& node, const char* p) noexcept;
     const char* ReadWhole(const Node& node, const char* p) noexcept;
     const char* ReadShared(const Node* node, const char* p) noexcept;
-    // False for a node that was seen before, or comes behind one that should have come first.
+    // False for a node that was seen before, or comes behind one that should have come first. Keys in order need no
+    // memory of it.
     bool See(const Node& node) noexcept {
+        if (!tracks_) return true;
         const auto place = static_cast<std::size_t>(&node - first_);
         std::uint64_t& word = seen_[place / 64];
         const std::uint64_t bit = std::uint64_t{1} << place % 64;
@@ -151,29 +161,54 @@ class Members {
     std::byte* const record_;
     TextCall& text_;
     std::uint64_t seen_[kMostInText / 64] = {};
+    bool tracks_;          // seen_ is kept: keys have come out of order, or absent ones are read at the end
     bool refuses_ = false; // a key came that the table takes in order only
 };
 
-// The first node with the key; null when there is none, and `refuses_` when it can't be read any more.
-const Node* Members::Find(std::string_view key) noexcept {
+const Node* Members::FindBefore(const Node* end, std::string_view key) const noexcept {
     const std::uint64_t prefix = json::KeyPrefix(key);
-    const auto order = [&](const Node& node) {
-        if (node.prefix != prefix) return node.prefix < prefix ? -1 : 1;
-        return json::CompareKeys(table_.keyOf(node), key);
-    };
+    const auto below = [&](const Node& node, int) { return OrderOf(node, prefix, key) < 0; };
+    const Node* const node = std::lower_bound(first_, end, 0, below);
+    return node == end || OrderOf(*node, prefix, key) != 0 ? nullptr : node;
+}
+
+// Sees all members of the object at `object` up to the one at `at`, which were read in order.
+bool Members::Track(const char* object, const char* at) noexcept {
+    tracks_ = true;
+    json::Step step = json::FirstEntry(object, text_.end, '}');
+    while (step.at != at) {
+        Value key;
+        const char* p = json::ReadScalar(step.at, text_.end, text_.arena(), &key);
+        if (p == nullptr || (p = json::ValueBehindKey(p, text_.end)) == nullptr) return false;
+        const std::string_view name = key.asString();
+        for (const Node* node = FindBefore(end_, name); node != nullptr && node != end_; ++node) {
+            if (table_.keyOf(*node) != name) break;
+            See(*node);
+        }
+        p = json::SkipValue(p, text_.end, text_.arena());
+        if (p == nullptr) return false; // deeper than is gone through twice
+        step = json::NextEntry(p, text_.end, '}');
+    }
+    return true;
+}
+
+// The first node with the key of the member at `at`; null when there is none, and `refuses_` when it can't be read any
+// more.
+const Node* Members::Find(std::string_view key, const char* object, const char* at) noexcept {
+    const std::uint64_t prefix = json::KeyPrefix(key);
     const Node* const expected = next_;
     for (; next_ != end_; ++next_) {
-        const int side = order(*next_);
+        const int side = OrderOf(*next_, prefix, key);
         if (side == 0) return next_;
         if (side > 0) break;
         if (!table_.anyOrder && next_->needsAbsent) ReadAbsent(*next_);
     }
     if (next_ != expected || next_ == first_) return nullptr;
     // It belongs in front of what is expected, where it may have been before.
-    if (order(next_[-1]) < 0) return nullptr;
-    const Node* node = std::lower_bound(first_, expected, 0, [&](const Node& one, int) { return order(one) < 0; });
-    if (node == expected || order(*node) != 0) return nullptr;
-    refuses_ = !table_.anyOrder;
+    if (OrderOf(next_[-1], prefix, key) < 0) return nullptr;
+    const Node* const node = FindBefore(expected, key);
+    if (node == nullptr) return nullptr;
+    refuses_ = !table_.anyOrder || (!tracks_ && !Track(object, at));
     next_ = node;
     return node;
 }
@@ -195,7 +230,7 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
             if (!See(*next_)) return nullptr;
             if (isPresence(*next_))
                 ReadNode(table_, *next_, Value::OfBool(true), record_, text_.call);
-            else if ((after = ReadAt(*next_, p)) == nullptr)
+            else if ((after = ReadAt(*next_, p)) == nullptr) // a container
                 return nullptr;
         }
         return after;
@@ -211,7 +246,7 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
 }
 
 // The values that nearly all text is, without a look at what else they might be; null for any other.
-const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
+[[gnu::always_inline]] inline const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
     std::byte* const at = record_ + node.offset;
     const char* const end = text_.end;
     const auto raiseFlag = [&] {
@@ -256,7 +291,6 @@ const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
 }
 
 const char* Members::ReadAt(const Node& node, const char* p) noexcept {
-    if (const char* const after = ReadUsual(node, p)) return after;
     if (*p == '{') {
         if (node.childCount > 0) {
             const NodeRange inside{node.firstChild, node.childCount, node.childLastAbsent};
@@ -288,6 +322,7 @@ const char* Members::ReadAt(const Node& node, const char* p) noexcept {
 
 const char* Members::Read(const char* p) noexcept {
     const char* const end = text_.end;
+    const char* const object = p;
     json::Step step = json::FirstEntry(p, end, '}');
     while (step.more) {
         p = step.at;
@@ -300,7 +335,7 @@ const char* Members::Read(const char* p) noexcept {
             Value key;
             p = json::ReadScalar(p, end, text_.arena(), &key);
             if (p == nullptr) return nullptr;
-            node = Find(key.asString());
+            node = Find(key.asString(), object, step.at);
             if (refuses_) return nullptr;
         }
         p = json::ValueBehindKey(p, end);
@@ -311,13 +346,14 @@ const char* Members::Read(const char* p) noexcept {
             p = ReadShared(node, p);
         } else {
             if (!See(*node)) return nullptr;
-            ++next_;
-            p = ReadAt(*node, p);
+            next_ = node + 1;
+            const char* const after = ReadUsual(*node, p);
+            p = after != nullptr ? after : ReadAt(*node, p);
         }
         if (p == nullptr) return nullptr;
         step = json::NextEntry(p, end, '}');
     }
-    for (const Node* node = table_.anyOrder ? first_ : next_; node < lastAbsent_; ++node) {
+    for (const Node* node = tracks_ ? first_ : next_; node < lastAbsent_; ++node) {
         if (node->needsAbsent && !HasSeen(*node)) ReadAbsent(*node);
     }
     return step.at;
