@@ -14,7 +14,7 @@ using json::Value;
 
 // A value as a document of its own, which lies in this room when it is a short list of scalars, as most are.
 struct ShortList {
-    static constexpr std::uint32_t kMost = 24;
+    static constexpr std::uint32_t kMost = 48;
     Value elements[kMost];
 };
 const char* ReadShortList(const char* p, Value& value, ShortList& room, const TextCall& text) noexcept {
