@@ -23,6 +23,16 @@ std::string_view ReplyWalk::Params() noexcept {
     return {kText, 6};
 }
 
+std::string_view ReplyWalk::WithSlack(std::string_view key) noexcept {
+    const bool isInText = key.data() + key.size() + 1 == p_; // and not one whose escapes were taken out
+    if (!isInText || end_ - key.data() >= static_cast<std::ptrdiff_t>(json::kKeySlack)) return key;
+    auto* const copy = document_.arena.Array<char>(key.size() + json::kKeySlack);
+    if (copy == nullptr) return {};
+    std::memcpy(copy, key.data(), key.size());
+    std::memset(copy + key.size(), 0, json::kKeySlack);
+    return {copy, key.size()};
+}
+
 bool ReplyWalk::MakeRoot() noexcept {
     if (path_.inParams && !root_.Add(Params(), params_.Object())) return false;
     document_.root = root_.Object();

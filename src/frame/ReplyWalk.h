@@ -59,9 +59,8 @@ class ReplyWalk {
             json::Value key;
             p_ = json::ReadScalar(step.at, end_, document_.arena, &key);
             if (p_ == nullptr) return false;
-            const std::string_view name = key.asString();
-            const bool isInText = p_ == name.data() + name.size() + 1;
-            if (isInText && end_ - name.data() < static_cast<std::ptrdiff_t>(json::kKeySlack)) return false;
+            const std::string_view name = WithSlack(key.asString());
+            if (name.data() == nullptr) return false;
             p_ = json::ValueBehindKey(p_, end_);
             if (p_ == nullptr) return false;
             if (name == way) {
@@ -87,6 +86,8 @@ class ReplyWalk {
         return p_ != nullptr;
     }
     bool MakeRoot() noexcept;
+    // The key that ends at `p_`, with as many bytes behind it as a document's keys have; null when memory ran out.
+    std::string_view WithSlack(std::string_view key) noexcept;
     static std::string_view Params() noexcept;
 
     const char* p_;
