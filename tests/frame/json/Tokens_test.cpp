@@ -69,7 +69,7 @@ TEST(Tokens, TakeWhatTheReaderTakes) {
         "\"\\x\"", "\"",  "4294967296", "\\",   "{\"b\":1}", "[1, 2]", "\"a\":", "\"key\" : ", "\x80"};
     std::mt19937 random(18);
     int good = 0;
-    for (int round = 0; round < 300000; ++round) {
+    for (int round = 0; round < 60000; ++round) {
         std::string text;
         if (round % 2 == 0) text = round % 4 == 0 ? "[" : "{\"a\":";
         for (auto pieces = random() % 8; pieces > 0; --pieces)
@@ -83,7 +83,7 @@ TEST(Tokens, TakeWhatTheReaderTakes) {
         ASSERT_EQ(Judged(guarded), read) << text;
         good += read > 0 && text.size() > 4;
     }
-    EXPECT_GT(good, 10000);
+    EXPECT_GT(good, 2000);
 }
 
 } // namespace
