@@ -166,6 +166,9 @@ class Maker:
     def field(self, row, form, place, text, path):
         """Makes a value for a row's key, and notes what the row reads of it."""
         name = path + row.get("name", "")
+        if "codec" in row.get("function", {}) and "writtenAs" not in row:
+            self.flagged(row, form, place, text, path)
+            return self.coded(row, shifted(place, row["offset"]), text, name)
         if row["kind"] == "custom" or (row.get("function") or {}).get("read"):
             text.functions.append(name or path + row["key"])
             if row.get("pointer", {}).get("owner") == "caller":
@@ -192,6 +195,40 @@ class Maker:
         if "count" in row:
             self.counted(row, form, place, count, text, path)
         return value
+
+    def coded(self, row, at, text, name):
+        """A value for a function that many fields share."""
+        codec, number = row["function"]["codec"], self.next()
+        put = lambda where, kind, value: text.after.append(Value(where, kind, value, name))
+        plain = {"fromOne": (number, number - 1), "countedFromOne": (number, number + 1),
+                 "wholeReal": (number + 0.5, number), "anyInteger": (number, number),
+                 "degrees": ([number, 0, 0], number * 1000000), "thousandths": (number * 1000 + 500, number + 0.5),
+                 "signedThousandths": (-number * 1000 - 500, -number - 0.5), "splitName": (f"PIP{number}", 1000 + number),
+                 "packedColor": ([number, 2, 3, 4], (number << 24) + (2 << 16) + (3 << 8) + 4),
+                 "firstNumber": ([number, number + 1], number), "secondNumber": ([number - 1, number], number)}
+        if codec in plain:
+            put(at, row["type"], plain[codec][1])
+            return plain[codec][0]
+        if codec == "ownedText":
+            put(at + (0,), "text", f"owned {number}".encode())
+            return f"owned {number}"
+        if codec == "ownedRecord":
+            return self.record(self.form(row), at + (0,), text, False, None, name + ".")
+        codes = row["codes"]
+        if codec == "namedBits":
+            mask = 0
+            for code in codes[:3]:
+                mask |= self.code_of(row, code["name"])
+            put(at, row["type"], mask)
+            return [code["name"] for code in codes[:3]]
+        if codec == "byKeys":
+            values = {}
+            for code in codes:
+                if 0 <= code["code"] < row["dims"][0] and code["name"]:
+                    values[code["name"]] = self.next()
+                    put(shifted(at, code["code"] * SIZES[row["type"]]), row["type"], values[code["name"]])
+            return values
+        raise Lack(f"{name}: a function {codec}")
 
     def flagged(self, row, form, place, text, path):
         if "flag" in row:
@@ -280,6 +317,9 @@ class Maker:
         natural = {"bool": bool, "int": int, "uint": int, "text": str, "rawText": str, "names": str}.get(row["kind"])
         if row["kind"] == "presence":
             text.after.append(Value(shifted(place, row["offset"]), row["type"], 1, name))
+        elif row.get("function", {}).get("codec") in ("firstNumber", "secondNumber") and isinstance(value, list):
+            wanted = value[row["function"]["codec"] == "secondNumber"]
+            text.after.append(Value(shifted(place, row["offset"]), row["type"], wanted, name))
         elif row.get("function"):
             text.functions.append(name)
         elif natural in (int, bool) and type(value) in (int, bool) and "only" not in row and not row.get("dims"):

@@ -3,10 +3,12 @@
 #include "orrery/Schema.h"
 #include "orrery/Words.h"
 
+#include "events/EventCodecs.h"
 #include "events/EventContext.h"
 #include "frame/PackedItems.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace orrery::tool {
 
@@ -134,11 +136,37 @@ void AddList(Node& node, const Table& table, const Field& field) {
     node.Add("pointer", std::move(pointer));
 }
 
+// What functions that many rows share make of a value; empty for those of a row alone.
+const char* CodecWord(const CustomCodec* codec) {
+    const std::pair<const CustomCodec*, const char*> kShared[] = {
+        {&kNamedBits, "namedBits"},
+        {&kFromOne, "fromOne"},
+        {&kSplitName, "splitName"},
+        {&events::kPackedColor, "packedColor"},
+        {&events::kWholeReal, "wholeReal"},
+        {&events::kDegrees, "degrees"},
+        {&events::kThousandths, "thousandths"},
+        {&events::kSignedThousandths, "signedThousandths"},
+        {&events::kAnyInteger, "anyInteger"},
+        {&events::kFirstNumber, "firstNumber"},
+        {&events::kSecondNumber, "secondNumber"},
+        {&events::kCountedFromOne, "countedFromOne"},
+        {&events::kOwnedText, "ownedText"},
+        {&events::kOwnedRecord, "ownedRecord"},
+        {&events::kByKeys, "byKeys"},
+    };
+    for (const auto& [shared, word] : kShared) {
+        if (shared == codec) return word;
+    }
+    return "";
+}
+
 void AddFunction(Node& node, const Field& field) {
     if (field.kind != Kind::Custom && field.writtenAs != Kind::Custom) return;
     Node function = Node::Inline();
     function.Add("read", Node::Bool(field.custom->read != nullptr))
         .Add("write", Node::Bool(field.custom->write != nullptr));
+    if (CodecWord(field.custom)[0] != '\0') function.Add("codec", Node::Text(CodecWord(field.custom)));
     node.Add("function", std::move(function));
     if (field.custom->sample != nullptr) node.Add("sample", Node::Token(field.custom->sample));
 }
