@@ -6,7 +6,7 @@ import ctypes
 import locale
 import struct
 from enum import IntEnum
-from typing import Any, Callable, ClassVar, Generic, Iterator, List, Optional, Type, TypeVar, Union, overload
+from typing import TYPE_CHECKING, Any, Callable, ClassVar, Generic, Iterator, List, Optional, Type, TypeVar, Union, overload
 
 T = TypeVar("T")
 R = TypeVar("R", bound="Record")
@@ -72,10 +72,12 @@ class Record:
         self._buffer, self._at, self._kept, self.command = buffer, at, kept, None
         return self
 
-    def __setattr__(self, name: str, value: object) -> None:
-        if name not in self.fields_ and name not in Record.__slots__:
-            raise AttributeError("%s has no member %r" % (type(self).__name__, name))
-        super().__setattr__(name, value)
+    if not TYPE_CHECKING:  # a checker tells by itself
+
+        def __setattr__(self, name, value):
+            if name not in self.fields_ and name not in Record.__slots__:
+                raise AttributeError("%s has no member %r" % (type(self).__name__, name))
+            super().__setattr__(name, value)
 
     def __bytes__(self) -> bytes:
         return bytes(self._buffer[self._at : self._at + self.size_])
