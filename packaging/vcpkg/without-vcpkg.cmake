@@ -1,0 +1,53 @@
+# Runs the port without vcpkg, as far as plain CMake goes: its functions do here what they do there of a release build.
+#   cmake -DWORK=FOLDER [-DVCPKG_LIBRARY_LINKAGE=static] -P without-vcpkg.cmake
+# The package stands in FOLDER/package afterwards.
+cmake_minimum_required(VERSION 3.25)
+set(CURRENT_PACKAGES_DIR ${WORK}/package)
+set(FEATURES core)
+if(NOT VCPKG_LIBRARY_LINKAGE)
+    set(VCPKG_LIBRARY_LINKAGE dynamic)
+endif()
+
+function(run)
+    execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+function(vcpkg_check_features)
+    set(options -DORRERY_TOOLS=OFF PARENT_SCOPE)
+endfunction()
+function(vcpkg_cmake_configure)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "SOURCE_PATH" "OPTIONS")
+    set(shared ON)
+    if(VCPKG_LIBRARY_LINKAGE STREQUAL "static")
+        set(shared OFF)
+    endif()
+    run(${CMAKE_COMMAND} -S ${arg_SOURCE_PATH} -B ${WORK}/build -G Ninja -DCMAKE_BUILD_TYPE=Release
+        -DCMAKE_INSTALL_PREFIX=${CURRENT_PACKAGES_DIR} -DCMAKE_INSTALL_LIBDIR=lib -DBUILD_SHARED_LIBS=${shared}
+        ${arg_OPTIONS})
+endfunction()
+function(vcpkg_cmake_install)
+    run(${CMAKE_COMMAND} --build ${WORK}/build --target install)
+endfunction()
+function(vcpkg_cmake_config_fixup)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "PACKAGE_NAME;CONFIG_PATH" "")
+    if(NOT EXISTS ${CURRENT_PACKAGES_DIR}/${arg_CONFIG_PATH}/${arg_PACKAGE_NAME}Config.cmake)
+        message(FATAL_ERROR "no ${arg_PACKAGE_NAME}Config.cmake in ${arg_CONFIG_PATH}")
+    endif()
+    file(MAKE_DIRECTORY ${CURRENT_PACKAGES_DIR}/share)
+    file(RENAME ${CURRENT_PACKAGES_DIR}/${arg_CONFIG_PATH} ${CURRENT_PACKAGES_DIR}/share/${arg_PACKAGE_NAME})
+    # What is two folders deeper there is one less here.
+    file(GLOB targets ${CURRENT_PACKAGES_DIR}/share/${arg_PACKAGE_NAME}/*Targets.cmake)
+    foreach(file IN LISTS targets)
+        file(READ ${file} text)
+        string(REPLACE "get_filename_component(_IMPORT_PREFIX \"\${CMAKE_CURRENT_LIST_FILE}\" PATH)\nget_filename_component(_IMPORT_PREFIX \"\${_IMPORT_PREFIX}\" PATH)\nget_filename_component(_IMPORT_PREFIX \"\${_IMPORT_PREFIX}\" PATH)"
+            "get_filename_component(_IMPORT_PREFIX \"\${CMAKE_CURRENT_LIST_FILE}\" PATH)\nget_filename_component(_IMPORT_PREFIX \"\${_IMPORT_PREFIX}\" PATH)" text "${text}")
+        file(WRITE ${file} "${text}")
+    endforeach()
+endfunction()
+function(vcpkg_fixup_pkgconfig)
+endfunction()
+function(vcpkg_install_copyright)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "FILE_LIST")
+    file(COPY ${arg_FILE_LIST} DESTINATION ${CURRENT_PACKAGES_DIR}/share/orrery)
+endfunction()
+
+include(${CMAKE_CURRENT_LIST_DIR}/ports/orrery/portfile.cmake)

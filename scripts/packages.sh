@@ -1,0 +1,113 @@
+#!/usr/bin/env bash
+# What is packed, built whole and tried on a bare system: longer than scripts/test.sh, and no part of it.
+#   packages.sh [STAGE...]   embedded port debian root python abi (all of them without a name)
+# Needs root for the stage `root`, and the packages that it names when they are missing. Results: build/packages.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+root=$PWD
+out=$root/build/packages
+mkdir -p "$out"
+if command -v ccache >/dev/null; then
+    export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    CCACHE_DIR=$(ccache -k cache_dir) # a package's build has a home folder of its own
+    export CCACHE_DIR
+fi
+stages=("$@")
+[ ${#stages[@]} -gt 0 ] || stages=(embedded port debian root python abi)
+
+needs() { # needs PROGRAM PACKAGE
+    command -v "$1" >/dev/null || [ -x "/usr/sbin/$1" ] || { echo "packages: $1 is missing (Debian: $2)" >&2; exit 2; }
+}
+
+# Inside a client's own build, shared and static.
+stage_embedded() {
+    local shared
+    for shared in ON OFF; do
+        cmake -S tests/packaging/embedded -B "$out/embedded-$shared" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+            "-DORRERY_SOURCE=$root" "-DBUILD_SHARED_LIBS=$shared"
+        cmake --build "$out/embedded-$shared"
+        "$out/embedded-$shared/consumer"
+    done
+}
+
+# The vcpkg port by plain CMake, and a client that finds what it packs.
+stage_port() {
+    local linkage
+    for linkage in dynamic static; do
+        rm -rf "$out/port-$linkage/package" "$out/port-client"
+        cmake "-DWORK=$out/port-$linkage" "-DVCPKG_LIBRARY_LINKAGE=$linkage" -P packaging/vcpkg/without-vcpkg.cmake
+        cmake -S tests/packaging/find_package -B "$out/port-client" -G Ninja -DCONSUMER_LANGUAGE=CXX \
+            "-Dorrery_DIR=$out/port-$linkage/package/share/orrery"
+        cmake --build "$out/port-client"
+        "$out/port-client/consumer"
+        [ -s "$out/port-$linkage/package/share/orrery/LICENSE" ]
+    done
+}
+
+# Packages of the committed tree. A finding of lintian that is an error or a warning is a failure.
+stage_debian() {
+    needs dpkg-buildpackage "dpkg-dev debhelper dh-python"
+    needs lintian lintian
+    rm -rf "$out/debian"
+    mkdir -p "$out/debian/orrery"
+    git archive HEAD | tar x -C "$out/debian/orrery"
+    (cd "$out/debian/orrery" && DEB_BUILD_OPTIONS=nocheck dpkg-buildpackage -b -us -uc)
+    lintian --allow-root --fail-on error,warning "$out"/debian/*.changes
+}
+
+# The packages on a Debian that has nothing else: installed by apt, and the examples as they are printed.
+stage_root() {
+    needs debootstrap debootstrap
+    local bare=$out/root mirror
+    mirror=${DEBIAN_MIRROR:-$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | sed -n 1p)}
+    if [ ! -e "$bare/etc/debian_version" ]; then debootstrap --variant=minbase bookworm "$bare" "$mirror"; fi
+    rm -rf "$bare/srv/orrery"
+    mkdir -p "$bare/srv/orrery"
+    cp "${PACKAGES:-$out/debian}"/*.deb "$bare/srv/orrery/"
+    chroot "$bare" /bin/sh -eux <<'INSIDE'
+export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
+cd /srv/orrery
+apt-get update
+rm -f ./*dbgsym*
+apt-get install -y --no-install-recommends ./*.deb
+orrery --version
+printf '{"result":true,"params":{"table":{"Port":123}}}' >reply.json
+orrery parse NTP reply.json | grep -q 123
+orrery describe NTP >/dev/null
+python3 - <<'PYTHON'
+import orrery
+clock = orrery.parse("NTP", '{"result":true,"params":{"table":{"Port":123}}}')
+clock.port = 1123
+assert '"Port" : 1123' in orrery.pack(clock)
+PYTHON
+apt-get install -y --no-install-recommends g++ pkg-config
+cp -r /usr/share/doc/orrery-doc/examples examples
+for name in parse_and_pack print_events walk_rules; do
+    cc -std=c99 "examples/$name.c" $(pkg-config --cflags --libs orrery) -o "$name"
+    "./$name" >/dev/null
+done
+c++ -std=c++11 examples/typed.cpp $(pkg-config --cflags --libs orrery) -o typed
+./typed >/dev/null
+cc -std=c99 examples/explain.c $(pkg-config --cflags --libs orrery-explain) -o explain
+./explain NTP <reply.json
+apt-get remove -y liborrery0.1
+INSIDE
+}
+
+stage_python() {
+    needs mypy mypy
+    rm -rf "$out/python"
+    mkdir -p "$out/python"
+    cp -r python/orrery python/tests "$out/python/"
+    build/orrery schema >"$out/python/schema.json"
+    python3 python/generate.py "$out/python/schema.json" "$out/python/orrery"
+    (cd "$out/python" && mypy --strict orrery tests)
+}
+
+stage_abi() { scripts/abi.sh; }
+
+for stage in "${stages[@]}"; do
+    echo "=== $stage"
+    "stage_$stage"
+done
+echo "packages: all of ${stages[*]} passed"
