@@ -81,7 +81,7 @@ clock.port = 1123
 assert '"Port" : 1123' in orrery.pack(clock)
 PYTHON
 apt-get install -y --no-install-recommends g++ pkg-config
-cp -r /usr/share/doc/orrery-doc/examples examples
+cp -r /usr/share/doc/orrery/examples examples
 for name in parse_and_pack print_events walk_rules; do
     cc -std=c99 "examples/$name.c" $(pkg-config --cflags --libs orrery) -o "$name"
     "./$name" >/dev/null
