@@ -19,10 +19,11 @@ static CFG_RULE_LEFT_INFO left;
 static char text[65536];
 
 int main(void) {
-    CFG_ANALYSERULES_INFO rules = {0, NULL, ORRERY_MOST_RULES * 400000};
+    CFG_ANALYSERULES_INFO rules = {0, NULL, 0};
     size_t offset = 0;
     int32_t i;
 
+    rules.nRuleLen = (int32_t)ORRERY_RuleBytes("VideoAnalyseRule", reply);
     rules.pRuleBuf = malloc((size_t)rules.nRuleLen);
     if (rules.pRuleBuf == NULL) return 1;
     if (!CLIENT_ParseData("VideoAnalyseRule", reply, &rules, sizeof rules, NULL)) return 1;
