@@ -4,6 +4,7 @@
 #include "frame/record/Engine.h"
 #include "support/TableText.h"
 
+#include "orrery/explain.h"
 #include "orrery/orrery.h"
 
 #include <cstdio>
@@ -149,6 +150,8 @@ MemberBench::MemberBench(const MemberRow& row)
         rooms_.emplace_back();
         if (Parse(i)) AddRooms(*command_.table, buffer_.get(), rooms_.back());
     }
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        isClean = isClean && Findings(i) == 0;
     room_ = 2 * longest + 4096;
     packed_ = std::make_unique<char[]>(room_);
     if (!packs) return;
@@ -185,6 +188,16 @@ bool MemberBench::Parse(std::size_t i) {
 }
 
 bool MemberBench::Clear(std::size_t i) {
+std::int32_t MemberBench::Findings(std::size_t i) const {
+    const auto take = [](const ORRERY_FINDING*, void*) -> int32_t { return 1; };
+    return ORRERY_ExplainReply(name, texts[i].data(), texts[i].size(), 0, take, nullptr);
+}
+
+bool MemberBench::Explain(std::size_t i) {
+    return Findings(i) >= 0;
+}
+
+bool MemberBench::Clear(std::size_t) {
     // What a call clears, so that pointers of the caller's own stay, and the size that its first record begins with.
     if (test::HasPointers(*command_.table)) {
         if (command_.parseFrame.parsed != nullptr) command_.parseFrame.parsed(buffer_.get());

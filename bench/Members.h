@@ -40,6 +40,9 @@ class MemberBench {
     bool ParseTextAndClear(std::size_t i);
     bool ParseSimdJsonAndClear(std::size_t i);
     bool Clear(std::size_t i);
+    // Tells what of the text is passed over.
+    bool Explain(std::size_t i);
+    bool isClean = true; // there is nothing to tell of
 
     std::size_t records() const { return kept_.size(); }
     bool Pack(std::size_t i);
@@ -50,6 +53,7 @@ class MemberBench {
 
   private:
     static void AddRooms(const record::Table& table, std::byte* record, std::vector<std::span<std::byte>>& rooms);
+    std::int32_t Findings(std::size_t i) const;
 
     const Command& command_;
     std::uint32_t size_ = 0;                               // of the caller's records

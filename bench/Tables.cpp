@@ -89,6 +89,10 @@ void Members(const Table& table, MemberBench& bench) {
                [&](std::size_t i) { return bench.ParseTextAndClear(i); });
     table.Line(name + ".parse.simdjson_and_clear", 0, bench.texts.size(), parse,
                [&](std::size_t i) { return bench.ParseSimdJsonAndClear(i); });
+    // At most three times the parse, where there is nothing to tell of.
+    table.Line(
+        name + ".explain.parse", bench.isClean ? 1.0 / 3 : 0, bench.texts.size(),
+        [&](std::size_t i) { return bench.Explain(i); }, parse);
     if (!bench.packs) return;
     table.Line(
         name + ".pack.rapidjson_write_and_clear", 3, bench.records(), [&](std::size_t i) { return bench.Pack(i); },

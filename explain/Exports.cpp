@@ -1,5 +1,6 @@
 // The functions of the library that programs link beside the translation.
 #include "explain/Explain.h"
+#include "explain/Packs.h"
 
 #include "orrery/explain.h"
 
@@ -40,6 +41,7 @@ class Lines {
     std::size_t at_ = 0;
 };
 
+// `text` null: findings of a record, which have no place.
 std::int32_t HandOver(const Explanation& explanation, std::string_view text, ORRERY_FINDING_CALLBACK callback,
                       void* user) {
     Lines lines(text);
@@ -49,8 +51,8 @@ std::int32_t HandOver(const Explanation& explanation, std::string_view text, ORR
         finding.dwSize = sizeof finding;
         finding.nKind = found.kind;
         finding.nGravity = found.gravity;
-        finding.nLine = lines.line;
-        finding.nColumn = lines.column;
+        finding.nLine = text.data() == nullptr ? 0 : lines.line;
+        finding.nColumn = text.data() == nullptr ? 0 : lines.column;
         finding.nLost = found.lost;
         finding.nOffset = found.offset;
         finding.nLength = found.length;
@@ -103,6 +105,18 @@ ORRERY_EXPORT int32_t ORRERY_ExplainEvents(const char* text, size_t length, ORRE
     try {
         const std::string_view all(text, length);
         return HandOver(ExplainEvents(all), all, callback, user);
+    } catch (const std::bad_alloc&) {
+        return ORRERY_EXPLAIN_NO_MEMORY;
+    }
+}
+
+ORRERY_EXPORT int32_t ORRERY_ExplainRecord(const char* command, const void* record, uint32_t recordSize,
+                                           ORRERY_FINDING_CALLBACK callback, void* user) {
+    if (command == nullptr || record == nullptr || callback == nullptr) return ORRERY_EXPLAIN_BAD_ARGUMENT;
+    const Command* const found = FindCommand(command);
+    if (found == nullptr || !found->packs() || found->table == nullptr) return ORRERY_EXPLAIN_UNKNOWN_COMMAND;
+    try {
+        return HandOver(ExplainRecords(*found, static_cast<const std::byte*>(record), recordSize), {}, callback, user);
     } catch (const std::bad_alloc&) {
         return ORRERY_EXPLAIN_NO_MEMORY;
     }

@@ -69,6 +69,8 @@ const char* WordOf(int kind) {
         return "bad-time";
     case ORRERY_FINDING_UNKNOWN_ITEM:
         return "unknown-item";
+    case ORRERY_FINDING_WRITES_NOTHING:
+        return "writes-nothing";
     default:
         return "";
     }

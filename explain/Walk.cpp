@@ -56,12 +56,23 @@ bool HasKey(const Table& table, NodeRange range, std::string_view key) {
     return false;
 }
 
-// Whether a row of a record that shares the object reads the key.
+// Whether the text that a function's row stands for has the key, at whatever depth.
+static bool SampleHasKey(const CustomCodec& codec, std::string_view key) {
+    if (codec.sample == nullptr || codec.read == nullptr || codec.sample[0] != '{') return false;
+    const std::string_view sample = codec.sample;
+    for (std::size_t at = 0; (at = sample.find(key, at)) != std::string_view::npos; ++at) {
+        const bool isQuoted = sample[at - 1] == '"' && sample.substr(at + key.size()).starts_with("\":");
+        if (isQuoted) return true;
+    }
+    return false;
+}
+
 bool SharesKey(const Table& table, const json::Member& member) {
     if (table.amongKeys != nullptr && member.value.members().size() > 0) return true;
     for (std::uint16_t i = 0; i < table.self.count; ++i) {
         const Field& field = table.rows[table.nodes[table.self.first + i].row];
         if (field.keyed && !field.amongKeys) return true; // its elements are the object's members
+        if (field.kind == Kind::Custom && SampleHasKey(*field.custom, member.key())) return true;
         if (!IsNestedObject(field) || field.table->shape != Shape::Object) continue;
         if (HasKey(*field.table, field.table->members, member.key()) || SharesKey(*field.table, member)) return true;
     }

@@ -1,3 +1,4 @@
+#include "explain/Ranges.h"
 #include "explain/WalkParts.h"
 
 #include <algorithm>
@@ -65,7 +66,17 @@ void Walk::Number(const Site& site, const Value& value) {
             && !(field.kind == Kind::Int && Bits(field.cell) == 32 && static_cast<double>(got) == number))
             reads = std::to_string(stored);
     }
-    if (reads.empty()) return;
+    if (reads.empty()) {
+        // It is stored all the same, so that only the device's makers know what it means.
+        const Range* const range = RangeOf(field);
+        if (range == nullptr
+            || (number >= static_cast<double>(range->low) && number <= static_cast<double>(range->high)))
+            return;
+        Add(ORRERY_FINDING_OUT_OF_RANGE, ORRERY_FINDING_NOTE, value, site,
+            Shown(value) + " is none of " + std::to_string(range->low) + " to " + std::to_string(range->high)
+                + "; it is stored as it stands");
+        return;
+    }
     const bool isFraction =
         static_cast<double>(static_cast<std::int64_t>(number > -9e18 && number < 9e18 ? number : 0)) != number
         && number > -2147483648.0 && number < 4294967295.0;

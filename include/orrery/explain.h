@@ -23,14 +23,16 @@ enum {
     ORRERY_FINDING_DUPLICATE_KEY = 7,     /* "duplicate-key": a key stands again further on, where it counts */
     ORRERY_FINDING_UNKNOWN_KEY = 8,       /* "unknown-key": nothing reads this key; szNearest is one that is read */
     ORRERY_FINDING_WRONG_TYPE = 9,        /* "wrong-type": a JSON type that the field makes nothing, or less, of */
-    ORRERY_FINDING_OUT_OF_RANGE = 10,     /* "out-of-range": a number that the field cannot hold or does not take */
+    ORRERY_FINDING_OUT_OF_RANGE = 10,     /* "out-of-range": a number that the field cannot hold or does not take, or
+                                             one that its header does not know */
     ORRERY_FINDING_UNKNOWN_TEXT = 11,     /* "unknown-text": a text that names no code; szNearest lists those that do */
     ORRERY_FINDING_TEXT_CUT = 12,         /* "text-cut": a text is longer than its field; nLost bytes are lost */
     ORRERY_FINDING_ELEMENTS_DROPPED = 13, /* "elements-dropped": a list is longer than its array; nLost are dropped */
     ORRERY_FINDING_LIST_FOR_RECORD = 14,  /* "list-for-record": a list where one record is read */
     ORRERY_FINDING_NULL = 15,             /* "null": a null where a value is read */
     ORRERY_FINDING_BAD_TIME = 16,         /* "bad-time": a text that is no time, or one of no clock or calendar */
-    ORRERY_FINDING_UNKNOWN_ITEM = 17      /* "unknown-item": an event or a rule of a type that nobody knows */
+    ORRERY_FINDING_UNKNOWN_ITEM = 17,     /* "unknown-item": an event or a rule of a type that nobody knows */
+    ORRERY_FINDING_WRITES_NOTHING = 18    /* "writes-nothing": a member of a record that leaves no trace in its text */
 };
 
 /* What a finding means. */
@@ -45,8 +47,8 @@ typedef struct tagORRERY_FINDING {
     uint32_t dwSize;  /* sizeof(ORRERY_FINDING) of the library: later versions add members at the end */
     int32_t nKind;    /* ORRERY_FINDING_..., as above */
     int32_t nGravity; /* ORRERY_FINDING_NOTE, _LOST or _FATAL */
-    uint32_t nLine;   /* from 1 */
-    uint32_t nColumn; /* from 1, in characters */
+    uint32_t nLine;   /* from 1; of a record 0 */
+    uint32_t nColumn; /* from 1, in characters; of a record 0 */
     uint32_t nLost;   /* bytes of a text that was cut, elements of a list that were dropped; otherwise 0 */
     uint64_t
         nOffset; /* of the value, of an unknown or repeated key, or of the error, in bytes from the text's beginning */
@@ -64,7 +66,7 @@ typedef int32_t (*ORRERY_FINDING_CALLBACK)(const ORRERY_FINDING* finding, void* 
 
 /* What these functions answer instead of a count. */
 #define ORRERY_EXPLAIN_BAD_ARGUMENT (-1)    /* a null argument */
-#define ORRERY_EXPLAIN_UNKNOWN_COMMAND (-2) /* no command of that name reads replies */
+#define ORRERY_EXPLAIN_UNKNOWN_COMMAND (-2) /* no command of that name does that */
 #define ORRERY_EXPLAIN_NO_MEMORY (-3)
 
 /* Explains a device's reply as CLIENT_ParseData would read it. `length` is the text's length in bytes, so that what
@@ -76,6 +78,14 @@ int32_t ORRERY_ExplainReply(const char* command, const char* text, size_t length
 
 /* The same of a text of analyzer events, as CLIENT_ParseAnalyzerEventData would read it. */
 int32_t ORRERY_ExplainEvents(const char* text, size_t length, ORRERY_FINDING_CALLBACK callback, void* user);
+
+/* Explains records of the caller's as CLIENT_PacketData would write them: why they are refused, what of them leaves no
+ * trace in the text, which codes have no name. Members whose bytes are all 0 are not told of. A finding has no place in
+ * a text: nLine, nColumn, nOffset and nLength are 0, and szPath is the member, stuServers[1].nPort, behind [2]. where
+ * there are several records. The records are tried again and again, member by member: this is for finding mistakes, not
+ * for every call. */
+int32_t ORRERY_ExplainRecord(const char* command, const void* record, uint32_t recordSize,
+                             ORRERY_FINDING_CALLBACK callback, void* user);
 
 /* How well a command fits a reply. */
 typedef struct tagORRERY_FIT {

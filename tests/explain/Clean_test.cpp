@@ -38,11 +38,20 @@ std::string Told(const std::vector<Found>& all) {
     return told;
 }
 
+// These texts number their members, whatever ranges the headers tell.
+template <class Each>
+void ForgetRanges(std::vector<Each>& all) {
+    std::erase_if(all, [](const Each& each) {
+        return each.kind == ORRERY_FINDING_OUT_OF_RANGE && each.gravity == ORRERY_FINDING_NOTE;
+    });
+}
+
 TEST(CleanTexts, OfEveryCommandGiveNoFinding) {
     for (const Command& command : DistinctCommands()) {
         if (!command.parses() || ItemsBehind(*command.table) != nullptr) continue;
         const std::string text = ReplyText(command);
-        const explain::Explanation explained = explain::ExplainReply(command, text);
+        explain::Explanation explained = explain::ExplainReply(command, text);
+        ForgetRanges(explained.findings);
         EXPECT_TRUE(explained.findings.empty()) << command.name << ":\n"
                                                 << Told(explained.findings) << text.substr(0, 600);
     }
@@ -53,7 +62,8 @@ TEST(CleanTexts, OfEveryEventGiveNoFinding) {
         if (row.name.empty() || row.rename != nullptr) continue;
         const std::string text = R"({"Event":[{"Code":")" + std::string(row.name) + R"(","Action":"Start","Data":)"
                                  + RecordTree(*row.table, {}).Text() + "}]}";
-        const auto found = ExplainEvents(text);
+        auto found = ExplainEvents(text);
+        ForgetRanges(found);
         EXPECT_TRUE(found.empty()) << row.name << ":\n" << Told(found) << text.substr(0, 600);
     }
 }
@@ -70,6 +80,7 @@ TEST(CleanTexts, OfEveryRuleGiveNoFinding) {
         // The row of a rule may have made these three already.
         auto found = ExplainTable("VideoAnalyseRule", "[" + rule.Text() + "]");
         std::erase_if(found, [](const Found& each) { return each.kind == ORRERY_FINDING_DUPLICATE_KEY; });
+        ForgetRanges(found);
         EXPECT_TRUE(found.empty()) << type << ":\n" << Told(found);
     }
 }

@@ -152,6 +152,11 @@ TEST(FaultyReplies, OfWhichAPartIsLost) {
          "params.table[0].Enable", "CFG_RULE_CROSSLINE_INFO.bRuleEnable", "it reads as true"},
         {"PtzTour", R"([{"Name":@3}])", ORRERY_FINDING_WRONG_TYPE, kLost, "params.table[0].Name", "CFG_PTZ_TOUR.szName",
          "3 where a text is read"},
+        {"AudioDetect", R"([{"MinVolume":100,"MaxVolume":@101}])", ORRERY_FINDING_OUT_OF_RANGE, kNote,
+         "params.table[0].MaxVolume", "CFG_AUDIO_DETECT_INFO.nMaxVolume",
+         "101 is none of 0 to 100; it is stored as it stands"},
+        {"AudioDetect", R"([{"MinVolume":@-1}])", ORRERY_FINDING_OUT_OF_RANGE, kNote, "params.table[0].MinVolume",
+         "CFG_AUDIO_DETECT_INFO.nMinVolume", "-1 is none of 0 to 100"},
         {"WorkState", R"([{"State":1},{"State":@{}}])", ORRERY_FINDING_WRONG_TYPE, kLost, "params.table[1].State",
          "CFG_WORK_STATE_INFO.nState", "an object where a number is read: it reads as 0"},
     };
