@@ -32,25 +32,38 @@ const char* CReqRealPicture::serialize(std::size_t& length) noexcept {
     return nullptr;
 }
 
-bool CReqRealPicture::parseDocument(const char* text, Value& root) noexcept {
-    if (dwPacketSubType != kPacketSubType) return false;
-    const std::string_view source(text);
-    if (!json::Parse(source, arena_, root)) return false;
+void CReqRealPicture::boundEvents(std::size_t length) noexcept {
     // The records of events that devices really have are a few kilobytes each, but two bytes of a list of objects may
     // become a record too.
     constexpr std::size_t kMostAnyway = std::size_t{64} << 20;
     constexpr std::size_t kMostPerByte = 64;
-    arena_.Limit(kMostAnyway + kMostPerByte * source.size());
+    arena_.Limit(kMostAnyway + kMostPerByte * length);
+}
+
+bool CReqRealPicture::parseDocument(const char* text, Value& root) noexcept {
+    if (dwPacketSubType != kPacketSubType) return false;
+    const std::string_view source(text);
+    if (!json::Parse(source, arena_, root)) return false;
+    boundEvents(source.size());
     return true;
 }
 
 std::int32_t CReqRealPicture::parseEventText(const char* text) noexcept {
     Value root;
     if (!parseDocument(text, root)) return 0;
+    takeBare(root);
+    return 1;
+}
+
+void CReqRealPicture::takeEvents(const Value& root, std::size_t length) noexcept {
+    boundEvents(length);
+    takeBare(root);
+}
+
+void CReqRealPicture::takeBare(const Value& root) noexcept {
     const Value& single = root["Event"];
     Circumstances around{};
     parseAlarmEvent(single.isNull() ? root["EventList"] : single, around);
-    return 1;
 }
 
 std::int32_t CReqRealPicture::deserialize(const char* text, std::size_t) noexcept {
@@ -153,6 +166,12 @@ std::int32_t DeliverEvents(const char* text, ORRERY_EVENT_CALLBACK callback, voi
     picture.dwPacketSubType = CReqRealPicture::kPacketSubType;
     if (picture.parseEventText(text) != 0) picture.deliver(callback, user);
     return 1;
+}
+
+void DeliverEvents(const Value& root, std::size_t length, ORRERY_EVENT_CALLBACK callback, void* user) noexcept {
+    CReqRealPicture picture;
+    picture.takeEvents(root, length);
+    picture.deliver(callback, user);
 }
 
 } // namespace orrery

@@ -52,6 +52,8 @@ class CReqRealPicture final : public IPDU {
 
     // The bare form: "Event", or "EventList" when there is no "Event". 1 when it is JSON.
     std::int32_t parseEventText(const char* text) noexcept;
+    // The same of a document that was read before, from a text of `length` bytes, and outlives the events.
+    void takeEvents(const json::Value& root, std::size_t length) noexcept;
 
     // Hands every event to the callback, in order, and forgets it. The list is held meanwhile: a callback on this
     // thread may still come back to it.
@@ -79,6 +81,8 @@ class CReqRealPicture final : public IPDU {
 
     // Reads the document, and bounds what its events may take.
     bool parseDocument(const char* text, json::Value& root) noexcept;
+    void boundEvents(std::size_t length) noexcept;
+    void takeBare(const json::Value& root) noexcept;
     void readInfo(const json::Value& info, Circumstances& around) noexcept;
     // Decodes the events of an array, at most 128, into the list. The group of the file info goes on from event to
     // event.
@@ -93,5 +97,7 @@ class CReqRealPicture final : public IPDU {
 
 // Decodes a text and delivers its events; what both exported decoders do for events. 1 in every case.
 std::int32_t DeliverEvents(const char* text, ORRERY_EVENT_CALLBACK callback, void* user) noexcept;
+// The same of a document that was read before, from a text of `length` bytes.
+void DeliverEvents(const json::Value& root, std::size_t length, ORRERY_EVENT_CALLBACK callback, void* user) noexcept;
 
 } // namespace orrery
