@@ -15,6 +15,14 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/orrery DESTINATION ${CMAKE_INSTA
 if(ORRERY_TOOLS AND TARGET orrery_cli)
     install(TARGETS orrery_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 endif()
+if(ORRERY_TOOLS AND TARGET orrery_manual)
+    set(manual ${PROJECT_BINARY_DIR}/tools/orrery/manual)
+    install(FILES ${manual}/orrery.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+    install(FILES ${manual}/orrery.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+        RENAME orrery COMPONENT tools)
+    install(FILES ${manual}/_orrery DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tools)
+    install(FILES ${manual}/orrery.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
+endif()
 
 # find_package(orrery) gives the targets orrery::orrery and orrery::explain.
 install(EXPORT orreryTargets NAMESPACE orrery:: DESTINATION ${ORRERY_PACKAGE_DIR} COMPONENT development)

@@ -5,7 +5,7 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config libcli11-dev python3)
 test=(abigail-tools binutils ccache clang-14 clang-format-14 llvm-14 libclang-rt-14-dev libgmock-dev libgtest-dev
-    libjsoncpp-dev locales python3-hypothesis python3-jsonschema python3-pytest)
+    jq libjsoncpp-dev locales python3-hypothesis python3-jsonschema python3-pytest)
 bench=(libbenchmark-dev libsimdjson-dev nlohmann-json3-dev rapidjson-dev)
 
 case ${1:-all} in

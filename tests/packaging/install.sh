@@ -26,6 +26,12 @@ want "lib*/liborrery-explain.a"
 want "lib*/cmake/orrery/orreryConfig.cmake"
 want "lib*/pkgconfig/orrery.pc"
 [ -z "$companion" ] || want "bin/$companion"
+if [ -n "$companion" ]; then
+    want "share/man/man1/orrery.1"
+    want "share/bash-completion/completions/orrery"
+    want "share/zsh/site-functions/_orrery"
+    want "share/fish/vendor_completions.d/orrery.fish"
+fi
 # A package must not know the folder that it was built in.
 if grep -rIlF -e "$build" -e "$source" "$prefix" >&2; then
     echo "the files above name the build's own folders" >&2

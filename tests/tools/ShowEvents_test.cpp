@@ -92,7 +92,7 @@ TEST(ShowEvents, PrettyIsTheSameOverSeveralLines) {
     Json::Value line;
     Json::Value pretty;
     std::istringstream(ShowEvents(text).out) >> line;
-    const std::string lines = ShowEvents(text, {.pretty = true}).out;
+    const std::string lines = ShowEvents(text, {.format = Format::Pretty}).out;
     std::istringstream(lines) >> pretty;
     EXPECT_EQ(line, pretty);
     EXPECT_THAT(lines, StartsWith("{\n  \"code\": 358,\n"));

@@ -45,6 +45,76 @@ out_has '"code": 516'
 no_err
 run 0 describe AccessControl
 out_has 'event 516'
+run 0 commands --events
+out_has '516'
+run 0 commands --rules --json
+python3 -c 'import json, sys
+rules = {each["name"]: each for each in json.load(open(sys.argv[1]))}
+assert rules["CrossLineDetection"]["code"] == 2 and rules["CrossLineDetection"]["parse"], rules' "$scratch/out" ||
+    fail "printed: $(cat "$scratch/out")"
+run 0 commands --templates --json
+python3 -c 'import json, sys
+assert {"VideoInAnalyse.getTemplateGlobal", "VideoInAnalyse.getTemplateRule"} <= {
+    each["name"] for each in json.load(open(sys.argv[1]))}' "$scratch/out" || fail "printed: $(cat "$scratch/out")"
+run 0 commands --json
+python3 -c 'import json, sys
+commands = {each["name"]: each for each in json.load(open(sys.argv[1]))}
+assert commands["NTP"] == {"name": "NTP", "parse": True, "pack": True, "record": "CFG_NTP_INFO", "frame": "family"}
+assert not commands["alarm.getAlarmCaps"]["pack"]' "$scratch/out" || fail "printed: $(cat "$scratch/out")"
+run 2 commands --events --rules
+
+# By name: a rule and an event may share one. By code, and by key.
+run 0 describe CrossLineDetection
+out_has 'event 2,'
+out_has 'rule 2,'
+out_has 'DEV_EVENT_CROSSLINEDETECTION_INFO'
+out_has 'CFG_RULE_CROSSLINE_INFO'
+run 0 describe 516
+out_has 'event 516'
+run 0 describe UpdatePeriod
+out_has 'CFG_NTP_INFO.nUpdatePeriod'
+run 1 describe UpdatePeriot
+err_has 'no command, event, rule, record, code or key "UpdatePeriot"'
+run 0 describe NTP
+out_has '"result" must be true'
+
+# The manual page and what shells complete are made from what --help says.
+run 0 manual
+out_has '.TH ORRERY 1'
+out_has '\-\-filter'
+out_has '.SS describe'
+if command -v groff >/dev/null; then
+    groff -man -Tutf8 -ww "$scratch/out" >/dev/null 2>"$scratch/err"
+    no_err
+fi
+run 2 completion tcsh
+for shell in bash zsh fish; do
+    run 0 completion $shell
+    out_has 'orrery'
+    cp "$scratch/out" "$scratch/completion.$shell"
+    if command -v $shell >/dev/null; then $shell -n "$scratch/completion.$shell" || fail "$shell cannot read it"; fi
+done
+run 0 complete par
+out_has $'parse\tPrint a device'
+run 0 complete parse nt
+out_has $'NTP\tCFG_NTP_INFO'
+run 0 complete events --format ''
+out_is 'csv
+jsonl
+pretty
+table
+'
+run 0 complete events --filter name=AccessControl --fields nEventID,szCard
+out_has 'nEventID,szCardNo'
+run 0 complete events --fields stuObject.nOb
+out_has 'stuObject.nObjectID'
+run 0 complete parse --st
+out_has '--strict'
+run 0 complete events x.jsonl y
+no_out
+what="bash completion"
+got=$(PATH="$(dirname "$program"):$PATH" bash -c '. "$1"; COMP_WORDS=(orrery describe CFG_NTP_I); COMP_CWORD=2; _orrery; echo "${COMPREPLY[*]}"' - "$scratch/completion.bash" 2>/dev/null)
+[ "$got" = CFG_NTP_INFO ] || fail "completed: $got"
 
 # What of a text is passed over.
 run 0 check Alarm "$reply" --records 1
@@ -114,6 +184,62 @@ for _ in $(seq 100); do [ "$(wc -l <"$scratch/out")" = 2 ] && break; sleep 0.1; 
 kill $reader
 wait $reader 2>/dev/null
 [ "$(wc -l <"$scratch/out")" = 2 ] || fail "printed: $(cat "$scratch/out")"
+# Rows, columns, and what passes.
+input="$line"$'\n''{"Event":[{"Code":"VideoBlind"},{"Code":"AccessControl","Action":"Start","Index":2,"Data":{"CardNo":"4,8\"x"}}]}' \
+    run 0 events --format csv --fields szCardNo,nChannelID
+printf '%s\n' 'code,name,action,index,file,line,szCardNo,nChannelID' '516,AccessControl,Stop,1,-,1,47,-1' \
+    '339,VideoBlind,,0,-,2,,-1' '516,AccessControl,Start,1,-,2,"4,8""x",2' | cmp -s - "$scratch/out" ||
+    fail "printed: $(cat "$scratch/out")"
+input="$line" run 0 events --format table --fields szCardNo
+printf '%s\n' 'code   name                          action  index  file          line   szCardNo' \
+    '516    AccessControl                 Stop    1      -             1      47' | cmp -s - "$scratch/out" ||
+    fail "printed: $(cat "$scratch/out")"
+input="$line" run 0 events --format pretty --brief
+[ "$(wc -l <"$scratch/out")" -gt 5 ] || fail "printed: $(cat "$scratch/out")"
+input="$line"'{"Event":[{"Code":"AccessControl","Index":3,"Data":{}},{"Code":"VideoBlind"}]}' \
+    run 0 events --filter name=AccessControl --filter 'nChannelID>2' --fields nChannelID
+out_has '"nChannelID": 3'
+[ "$(wc -l <"$scratch/out")" = 1 ] || fail "printed: $(cat "$scratch/out")"
+input="$line" run 0 events --filter 'szCardNo!=47'
+no_out
+input="$line" run 2 events --filter '=47'
+err_has 'a member expected'
+input="$line" run 2 events --filter 'nEventID>many'
+err_has 'no number to compare with'
+# What is a list stands one record a line then.
+input='{"ObjectList":[{"ObjectID":4},{"ObjectID":5}]}' run 0 events --fields nObjectID --filter nObjectID=5
+[ "$(wc -l <"$scratch/out")" = 1 ] || fail "printed: $(cat "$scratch/out")"
+out_has '"nObjectID": 5'
+# Several at a time, and the same all the same.
+for i in $(seq 400); do printf '{"Event":[{"Code":"AccessControl","Data":{"CardNo":"%s"}}]}\n' "$i"; done >"$scratch/many.jsonl"
+printf '{"Event":[\n' >>"$scratch/many.jsonl"
+run 2 events "$scratch/many.jsonl" "$scratch/one.jsonl" "$scratch/none" "$scratch/many.jsonl"
+mv "$scratch/out" "$scratch/one-job"
+mv "$scratch/err" "$scratch/one-job-said"
+run 2 events --jobs 4 "$scratch/many.jsonl" "$scratch/one.jsonl" "$scratch/none" "$scratch/many.jsonl"
+cmp -s "$scratch/out" "$scratch/one-job" || fail "four jobs print something else"
+cmp -s "$scratch/err" "$scratch/one-job-said" || fail "four jobs say something else"
+[ "$(wc -l <"$scratch/out")" = 801 ] || fail "printed $(wc -l <"$scratch/out") lines"
+# Behind real pipes, in a locale of another encoding too: what is printed is UTF-8 there as well.
+mkdir "$scratch/locales"
+localedef -c -i zh_CN -f GBK "$scratch/locales/zh_CN.GBK" >"$scratch/err" 2>&1 || true
+for locale in C zh_CN.GBK; do
+    what="orrery events | jq in $locale"
+    got=$(printf '%s\n' '{"Event":[{"Code":"AccessControl","Data":{"CardNo":"47","CardName":"\u95e8"}}]}' |
+        LOCPATH="$scratch/locales" LC_ALL=$locale "$program" events --fields szCardName | jq -r '.szCardName')
+    [ "$got" = $'\xe9\x97\xa8' ] || fail "got $got"
+    got=$(cat "$scratch/many.jsonl" 2>/dev/null | LOCPATH="$scratch/locales" LC_ALL=$locale "$program" events --jobs 2 2>/dev/null |
+        jq -s 'map(.record.szCardNo | tonumber) | add')
+    [ "$got" = 80200 ] || fail "the sum of the cards is $got"
+done
+what="orrery events | head"
+"$program" events "$scratch/many.jsonl" 2>/dev/null | head -n 1 >"$scratch/out"
+out_has '"szCardNo": "1"'
+# For eyes: colours on a terminal alone, lines that fit it, a bar while a long file is read.
+python3 "$source/tests/tools/terminal.py" "$program" "$scratch" || fail "on a terminal (see above)"
+input="$line" run 0 events --color always --fields szCardNo
+out_has $'\033[36m"code"\033[0m: \033[33m516\033[0m'
+
 # What was told, without the zeros.
 input='{"result":true,"params":{"table":{"Port":124,"ServerList":[{"Port":5}]}}}' run 0 parse NTP --brief
 python3 -c 'import json, sys
@@ -139,12 +265,57 @@ err_has 'the second: '
 
 # What of a record leaves no trace in its text.
 input='{"nChannel":3,"szName":"door"}' run 3 pack Alarm --strict
-err_has 'note: nChannel writes nothing'
+err_has '-:1:13: lost: nChannel (CFG_ALARM_INPUT_INFO.nChannel): writes nothing [writes-nothing]'
 out_has '"Name" : "door"'
 input='{"szName":"door"}' run 0 pack Alarm --strict
 no_err
 input='[{"nPort":1},{"nPort":2}]' run 3 pack NTP --strict
 err_has '2 records, of which the text holds the first only'
+
+input='{"nServerNum":1,"stuServers":[{"nPort":1},
+ {"nPort":2}]}' run 3 pack NTP --strict --json
+python3 -c 'import json, sys
+found = json.load(open(sys.argv[1]))
+assert (found["line"], found["column"], found["kind"], found["path"], found["field"]) == (
+    2, 2, "writes-nothing", "stuServers[1]", "CFG_NTP_INFO.stuServers"), found' \
+    "$scratch/err" || fail "said: $(cat "$scratch/err")"
+input='[{"nPort":1},{"nPort":2}]' run 0 pack NTP
+err_has '2 records, of which the text holds the first only'
+# The whole request.
+input='{"nPort":123}' run 0 pack NTP --request --id 7
+python3 -c 'import json, sys
+request = json.load(open(sys.argv[1]))
+assert (request["id"], request["method"], request["params"]["name"], request["params"]["table"]["Port"]) == (
+    7, "configManager.setConfig", "NTP", 123), request' "$scratch/out" || fail "printed: $(cat "$scratch/out")"
+# A bare value, without the reply around it.
+input='{"Port":124}' run 0 parse NTP --table
+out_has '"nPort": 124'
+input='{"Port":124,
+"Prot":1}' run 3 check NTP --table
+out_is '-:2:1: lost: params.table.Prot (CFG_NTP_INFO): nothing reads this key; the nearest that is read is "Port" [unknown-key]
+'
+input='{"Port":"1"}' run 3 check NTP --table
+out_has '-:1:9: lost: params.table.Port'
+input='{"Port":' run 1 parse NTP --table
+err_has 'line 1, column 9'
+input='{}' run 2 check --table
+err_has 'name the one that it is of'
+
+# What editors and other systems leave.
+input=$'\xEF\xBB\xBF{"result":true,"params":{"table":{"Port":124}}}' run 0 parse NTP
+out_has '"nPort": 124'
+err_has 'begins with a byte order mark, which is skipped'
+printf '%s' '{"result":true}' | iconv -f UTF-8 -t UTF-16 >"$scratch/utf16"
+run 2 parse NTP "$scratch/utf16"
+no_out
+err_has "$scratch/utf16: the text is UTF-16"
+printf '%s\n' "$line" | iconv -f UTF-8 -t UTF-16LE >"$scratch/utf16"
+run 1 events "$scratch/utf16" "$scratch/one.jsonl"
+err_has "$scratch/utf16: the text is UTF-16"
+out_has '"name": "AccessControl"'
+input=$'\xEF\xBB\xBF'"$line" run 0 events
+err_has 'byte order mark'
+out_has '"line": 1'
 
 # There and back, through a file and through standard input.
 run 0 parse Alarm "$reply"

@@ -2,11 +2,13 @@
 
 #include "orrery/Diagnose.h"
 #include "orrery/Output.h"
+#include "orrery/Terminal.h"
 
 #include "frame/JsonParser.h"
 
 #include "orrery/explain.h"
 
+#include <algorithm>
 #include <exception>
 #include <vector>
 
@@ -20,6 +22,7 @@ constexpr std::string_view kEvents = "events";
 struct Told {
     std::string_view file;
     const CheckOptions& options;
+    std::size_t before; // bytes that were put in front of the text, on its first line
     std::string out;
     std::exception_ptr failure{};
 };
@@ -64,7 +67,10 @@ std::string FindingObject(const ORRERY_FINDING& finding, std::string_view file) 
 std::int32_t Tell(const ORRERY_FINDING* finding, void* user) noexcept {
     auto& told = *static_cast<Told*>(user);
     try {
-        told.out += told.options.json ? FindingObject(*finding, told.file) : FindingLine(*finding, told.file);
+        ORRERY_FINDING own = *finding;
+        own.nOffset -= std::min<std::uint64_t>(own.nOffset, told.before);
+        if (own.nLine == 1) own.nColumn -= std::min(own.nColumn - 1, static_cast<std::uint32_t>(told.before));
+        told.out += told.options.json ? FindingObject(own, told.file) : FindingLine(own, told.file);
         return 1;
     } catch (...) {
         told.failure = std::current_exception();
@@ -95,6 +101,34 @@ std::string Keys(std::uint32_t count, const char* what) {
 
 } // namespace
 
+std::string FindingLines(const std::vector<explain::Finding>& findings, std::string_view file, std::string_view text,
+                         bool isJson) {
+    std::string lines;
+    for (const explain::Finding& found : findings) {
+        ORRERY_FINDING finding{};
+        finding.nKind = found.kind;
+        finding.nGravity = found.gravity;
+        if (found.valueEnd > 0) { // it has a place
+            const std::string_view before = text.substr(0, found.offset);
+            const std::size_t begin = before.rfind('\n') + 1;
+            finding.nLine = static_cast<std::uint32_t>(std::count(before.begin(), before.end(), '\n')) + 1;
+            finding.nColumn = static_cast<std::uint32_t>(Columns(before.substr(begin))) + 1;
+        } else {
+            finding.nLine = finding.nColumn = 1;
+        }
+        finding.nOffset = found.offset;
+        finding.nLength = found.length;
+        finding.nLost = found.lost;
+        finding.szKind = explain::WordOf(found.kind);
+        finding.szPath = found.path.c_str();
+        finding.szField = found.field.c_str();
+        finding.szMessage = found.message.c_str();
+        finding.szNearest = found.nearest.c_str();
+        lines += isJson ? FindingObject(finding, file) : FindingLine(finding, file);
+    }
+    return lines;
+}
+
 bool IsChecked(std::string_view command) {
     const Command* const found = FindCommand(command);
     return command == kEvents || (found != nullptr && found->parses());
@@ -124,7 +158,15 @@ Result CheckText(std::string_view command, std::string_view file, std::string_vi
         }
         name = fits.best.front().first;
     }
-    Told told{file, options, {}};
+    Told told{file, options, 0, {}};
+    std::string whole;
+    if (const Command* const known = FindCommand(name); options.table && known != nullptr) {
+        const Document bare(text);
+        if (!bare.ok)
+            return {kRefused, {}, "orrery: " + Printable(std::string(file)) + ": " + ExplainSyntax(bare) + "\n"};
+        whole = WrapValue(*known, bare.text, told.before);
+        text = whole;
+    }
     const std::int32_t count = name == kEvents ? ORRERY_ExplainEvents(text.data(), text.size(), Tell, &told)
                                                : ORRERY_ExplainReply(name.c_str(), text.data(), text.size(),
                                                                      options.records.value_or(0), Tell, &told);

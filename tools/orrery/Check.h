@@ -3,14 +3,18 @@
 
 #include "orrery/Run.h"
 
+#include "explain/Finding.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrery::tool {
 
 struct CheckOptions {
-    bool json = false; // an object a line
+    bool json = false;  // an object a line
+    bool table = false; // the text is the bare value, without the reply around it
     std::optional<std::uint32_t> records{};
 };
 
@@ -18,6 +22,10 @@ struct CheckOptions {
 // empty: the command that fits best, and why. kFound when there is a finding.
 Result CheckText(std::string_view command, std::string_view file, std::string_view text,
                  const CheckOptions& options = {});
+
+// The same lines of findings that have their places in `text`, and of those that have none.
+std::string FindingLines(const std::vector<explain::Finding>& findings, std::string_view file, std::string_view text,
+                         bool isJson);
 
 // Whether a first argument names something that a text can be checked for.
 bool IsChecked(std::string_view command);

@@ -3,10 +3,16 @@
 #include "orrery/Tables.h"
 #include "orrery/Words.h"
 
+#include "analyse/EventTypeRegistry.h"
+#include "analyse/RuleBodyMap.h"
+#include "analyse/Templates.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
+#include "explain/headers/HeaderWords.h"
 
 #include <algorithm>
+#include <charconv>
+#include <set>
 
 namespace orrery::tool {
 
@@ -83,11 +89,11 @@ std::string NamesLine(const NameTable& names) {
 }
 
 // Breaks at blanks; all lines behind the same indent.
-std::string Wrapped(std::string_view text, std::size_t indent) {
-    constexpr std::size_t kWidth = 116;
+std::string Wrapped(std::string_view text, std::size_t indent, std::size_t width) {
     std::string out;
     while (!text.empty()) {
-        std::size_t end = std::min(text.size(), kWidth - indent);
+        const std::size_t most = std::max<std::size_t>(width, indent + 20) - indent;
+        std::size_t end = std::min(text.size(), most);
         if (end < text.size()) {
             const std::size_t blank = text.rfind(' ', end);
             if (blank != std::string_view::npos && blank > 0) end = blank;
@@ -102,8 +108,41 @@ std::string Wrapped(std::string_view text, std::size_t indent) {
     return out;
 }
 
-std::string DescribeTable(const Tables& tables, const Table& table) {
-    std::string text = tables.LabelOf(table) + ", " + std::to_string(table.size) + " bytes";
+// What the header says of a member, without the key that stands before it.
+std::string DocOf(const Table& table, const Field& field) {
+    const headers::Member* const member = headers::FindMember(table.record, field.name);
+    if (member == nullptr) return {};
+    std::string doc = member->doc;
+    if (field.key != nullptr && doc == Quoted(field.key)) return {};
+    if (field.key != nullptr && doc.starts_with(Quoted(field.key) + ": ")) doc.erase(0, Quoted(field.key).size() + 2);
+    return doc;
+}
+
+class Describer {
+  public:
+    explicit Describer(std::size_t width) : width_(width == 0 ? kWidth : width) {}
+
+    bool ByName(std::string_view name);
+    bool ByCode(std::string_view text);
+    bool ByKey(std::string_view key);
+    std::string Take() { return std::move(text_); }
+
+  private:
+    static constexpr std::size_t kWidth = 116;
+
+    void Add(const std::string& part) { text_ += (text_.empty() ? "" : "\n") + part; }
+    void Add(const Command& command);
+    void Add(const events::EventRow& event);
+    void Add(const RuleBody& rule);
+    std::string Of(const Table& table) const;
+
+    Tables tables_;
+    std::size_t width_;
+    std::string text_;
+};
+
+std::string Describer::Of(const Table& table) const {
+    std::string text = tables_.LabelOf(table) + ", " + std::to_string(table.size) + " bytes";
     if (table.shape == Shape::Tuple) text += "; in the text a list of exactly its keyless values";
     if (table.shape == Shape::LooseTuple) text += "; in the text a list of its values, missing ones read as nothing";
     if (table.guarded) text += "; used only while its size word is right";
@@ -112,6 +151,8 @@ std::string DescribeTable(const Tables& tables, const Table& table) {
     if (table.writes != nullptr) text += "; a function tells which are written";
     if (table.afterRead != nullptr) text += "; a function completes what was read";
     text += "\n";
+    if (const headers::Record* const record = headers::FindRecord(table.record))
+        if (record->doc[0] != '\0') text += Wrapped(record->doc, 2, width_);
     std::size_t nameWidth = 5;
     std::size_t typeWidth = 4;
     for (const Field& field : table) {
@@ -134,71 +175,116 @@ std::string DescribeTable(const Tables& tables, const Table& table) {
         if (KindSentence(field.kind)[0] != '\0') rules.insert(rules.begin(), KindSentence(field.kind));
         text += "\n";
         constexpr std::size_t kIndent = 10;
-        if (!rules.empty()) text += Wrapped(Joined(rules, "; "), kIndent);
-        if (field.names != nullptr) text += Wrapped(NamesLine(*field.names), kIndent);
+        text += Wrapped(DocOf(table, field), kIndent, width_);
+        if (!rules.empty()) text += Wrapped(Joined(rules, "; "), kIndent, width_);
+        if (field.names != nullptr) text += Wrapped(NamesLine(*field.names), kIndent, width_);
     }
     return text;
 }
 
-std::string DescribeCommand(const Command& command) {
+void Describer::Add(const Command& command) {
     std::string text = std::string(command.name) + "\n";
-    if (command.parses()) text += "  parse: " + ParseWords(command) + "\n";
-    if (command.packs()) text += "  pack: " + PackWords(command) + "\n";
+    if (command.parses()) text += Wrapped("parse: " + Joined(ParseSentences(command), "; "), 2, width_);
+    if (command.packs()) text += Wrapped("pack: " + Joined(PackSentences(command), "; "), 2, width_);
     if (command.table == nullptr) text += "  no record of fixed layout\n";
-    return text;
+    Add(text);
+    if (command.table != nullptr) Add(Of(*command.table));
+    if (command.otherTable != nullptr) Add("or, told by the exact size of the buffer:\n\n" + Of(*command.otherTable));
+}
+
+void Describer::Add(const events::EventRow& event) {
+    Add(std::string(event.name) + "\n  event " + std::to_string(event.code) + ", of "
+        + std::to_string(event.reportedSize) + " bytes" + (event.needsNoData ? ", delivered also without \"Data\"" : "")
+        + "\n\n" + Of(*event.table));
+}
+
+void Describer::Add(const RuleBody& rule) {
+    Add(std::string(RuleNameOf(static_cast<std::int32_t>(rule.code), false)) + "\n  rule " + std::to_string(rule.code)
+        + ", of " + std::to_string(rule.size) + " bytes" + (rule.isRead ? "" : "; written only") + "\n\n"
+        + Of(*rule.table));
+}
+
+bool Describer::ByName(std::string_view name) {
+    // A configuration, an event and a rule may share a name: all are shown.
+    if (const Command* const command = FindCommand(name)) Add(*command);
+    for (const events::EventRow& event : events::Events())
+        if (EqualsFolded(event.name, name)) Add(event);
+    for (const RuleBody& rule : RuleBodies())
+        if (EqualsFolded(RuleNameOf(static_cast<std::int32_t>(rule.code), false), name)) Add(rule);
+    for (const events::TypedRow& typed : events::TypedRows()) {
+        if (!EqualsFolded(typed.name, name)) continue;
+        Add(std::string(typed.name) + "\n  typed text " + std::to_string(typed.code)
+            + (typed.isList ? ", a list of records" : "") + "\n\n" + Of(*typed.table));
+    }
+    for (const TemplateRow& row : Templates()) {
+        if (!EqualsFolded(row.name, name)) continue;
+        Add(std::string(row.name) + "\n  template" + (row.isByClass ? ", under the name of a class of rules" : "")
+            + "\n\n" + Of(*row.table));
+    }
+    if (text_.empty())
+        for (const Table* table : tables_.Of(name))
+            Add(Of(*table));
+    return !text_.empty();
+}
+
+bool Describer::ByCode(std::string_view text) {
+    std::uint32_t code = 0;
+    const bool isHex = text.starts_with("0x");
+    if (isHex) text.remove_prefix(2);
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), code, isHex ? 16 : 10);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return false;
+    if (const events::EventRow* const event = events::FindEvent(code)) Add(*event);
+    if (const RuleBody* const rule = FindRuleBody(code)) Add(*rule);
+    return !text_.empty();
+}
+
+// Every member that reads or writes the key, which may be the last of a path.
+bool Describer::ByKey(std::string_view key) {
+    std::set<std::string> told;
+    std::string text;
+    std::size_t count = 0;
+    for (const Table* table : tables_.all) {
+        for (const Field& field : *table) {
+            if (field.key == nullptr || field.key[0] == '\0') continue;
+            const std::string_view path = field.key;
+            const bool isIt = EqualsFolded(path, key)
+                              || (path.size() > key.size() && path[path.size() - key.size() - 1] == '/'
+                                  && EqualsFolded(path.substr(path.size() - key.size()), key));
+            const std::string member = std::string(table->record) + (field.name[0] == '\0' ? "" : ".") + field.name;
+            if (!isIt || !told.insert(member).second) continue;
+            ++count;
+            text += "  " + member + "  " + TypeOf(field) + (path == key ? "" : "  " + Quoted(path)) + "\n";
+            text += Wrapped(DocOf(*table, field), 10, width_);
+        }
+    }
+    if (count == 0) return false;
+    Add("key " + Quoted(key) + ", of " + std::to_string(count) + (count == 1 ? " member\n" : " members\n") + text);
+    return true;
 }
 
 } // namespace
 
-std::string CommandList() {
-    std::size_t width = 7;
-    std::size_t recordWidth = 6;
-    const auto recordOf = [](const Command& command) {
-        return std::string(command.table != nullptr ? command.table->record : "-");
-    };
-    for (const Command& command : Commands()) {
-        width = std::max(width, command.name.size());
-        recordWidth = std::max(recordWidth, recordOf(command).size());
-    }
-    std::string text =
-        Padded("command", width + 2) + Padded("does", 13) + Padded("record", recordWidth + 2) + "frame\n";
-    for (const Command& command : Commands()) {
-        const char* const does = !command.packs() ? "parse" : !command.parses() ? "pack" : "parse, pack";
-        text += Padded(std::string(command.name), width + 2) + Padded(does, 13)
-                + Padded(recordOf(command), recordWidth + 2) + FrameWord(command) + "\n";
-    }
-    return text;
+std::optional<std::string> Describe(std::string_view name, std::size_t width) {
+    Describer describer(width);
+    if (describer.ByName(name) || describer.ByCode(name) || describer.ByKey(name)) return describer.Take();
+    return std::nullopt;
 }
 
-std::optional<std::string> Describe(std::string_view name) {
-    const Tables tables;
-    std::string text;
-    const auto add = [&](const std::string& part) { text += (text.empty() ? "" : "\n") + part; };
-    // A configuration and an event may share a name, as "AccessControl" does: both are shown.
-    if (const Command* const command = FindCommand(name)) {
-        add(DescribeCommand(*command));
-        if (command->table != nullptr) add(DescribeTable(tables, *command->table));
-        if (command->otherTable != nullptr) {
-            add("or, told by the exact size of the buffer:\n\n" + DescribeTable(tables, *command->otherTable));
-        }
-    }
-    for (const events::EventRow& event : events::Events()) {
-        if (!EqualsFolded(event.name, name)) continue;
-        add(std::string(event.name) + "\n  event " + std::to_string(event.code)
-            + (event.needsNoData ? ", delivered also without \"Data\"" : "") + "\n\n"
-            + DescribeTable(tables, *event.table));
-        break;
-    }
-    for (const events::TypedRow& typed : events::TypedRows()) {
-        if (!EqualsFolded(typed.name, name)) continue;
-        add(std::string(typed.name) + "\n  typed text " + std::to_string(typed.code)
-            + (typed.isList ? ", a list of records" : "") + "\n\n" + DescribeTable(tables, *typed.table));
-    }
-    if (!text.empty()) return text;
-    for (const Table* table : tables.Of(name))
-        add(DescribeTable(tables, *table));
-    if (text.empty()) return std::nullopt;
-    return text;
+std::vector<std::string_view> AllNames() {
+    std::vector<std::string_view> names;
+    for (const Command& command : Commands())
+        names.push_back(command.name);
+    for (const events::EventRow& event : events::Events())
+        if (!event.name.empty()) names.push_back(event.name);
+    for (const RuleBody& rule : RuleBodies())
+        names.push_back(RuleNameOf(static_cast<std::int32_t>(rule.code), false));
+    for (const events::TypedRow& typed : events::TypedRows())
+        names.push_back(typed.name);
+    for (const TemplateRow& row : Templates())
+        names.push_back(row.name);
+    for (const std::string_view record : Tables().Records())
+        names.push_back(record);
+    return names;
 }
 
 } // namespace orrery::tool

@@ -166,6 +166,35 @@ Reply LookAt(const Command& command, const Value& root) {
     return reply;
 }
 
+std::string WrapValue(const Command& command, std::string_view value, std::size_t& before) {
+    std::string front = R"({"result":true,"params":{"table":)";
+    std::string behind = "}}";
+    if (command.parse != Command::Frame::Generic) {
+        const ParseFrame& frame = command.parseFrame;
+        switch (frame.source) {
+        case Source::Table:
+            break;
+        case Source::Caps:
+        case Source::CapsOrParams:
+            front = R"({"result":true,"params":{"caps":)";
+            break;
+        case Source::Params:
+            front = R"({"result":true,"params":{)" + Quoted(frame.name) + ":";
+            break;
+        case Source::Top:
+            front = R"({"result":true,)" + Quoted(frame.name) + ":";
+            behind = "}";
+            break;
+        case Source::Result:
+            front = R"({"result":)";
+            behind = "}";
+            break;
+        }
+    }
+    before = front.size();
+    return front + std::string(value) + behind;
+}
+
 std::string UnknownCommand(std::string_view name) {
     std::vector<std::string_view> names;
     for (const Command& command : Commands())

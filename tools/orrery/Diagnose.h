@@ -33,6 +33,9 @@ struct Reply {
 };
 Reply LookAt(const Command& command, const json::Value& root);
 
+// A reply around a bare value, as the command looks for it; `before`: the bytes in front of the value.
+std::string WrapValue(const Command& command, std::string_view value, std::size_t& before);
+
 std::string UnknownCommand(std::string_view name);
 std::string ExplainParse(const Command& command, Outcome outcome, const Document& document, std::uint32_t bufferSize);
 // `needed`: the capacity that the text would have taken.

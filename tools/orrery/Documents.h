@@ -2,16 +2,22 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrery::tool {
 
-// A line a command: name, directions, record, frame.
-std::string CommandList();
-// A command or an event with its record, or a record; nothing when there is none of them.
-std::optional<std::string> Describe(std::string_view name);
+enum class Listing : std::uint8_t { Commands, Events, Rules, Templates };
+// A line each, behind a line that names the columns; as JSON a list of objects.
+std::string List(Listing what, bool isJson = false);
+// All that stands under a name: a command, an event, a rule or a record; else under the code of an event or a rule;
+// else the members with a key. Nothing when there is none of them. `width`: of the lines; 0: as for a file.
+std::optional<std::string> Describe(std::string_view name, std::size_t width = 0);
+// All names that it knows.
+std::vector<std::string_view> AllNames();
 // Commands, records and events as one JSON document, from which bindings for other languages are made.
 std::string Schema();
 // A JSON Schema of a command's text; nothing when there is no such command.

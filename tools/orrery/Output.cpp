@@ -1,13 +1,13 @@
 #include "orrery/Output.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace orrery::tool {
 
 namespace {
 
 constexpr std::size_t kIndent = 2;
-constexpr std::size_t kWidest = 120; // of a record or a list of texts on one line, its indent not counted
 
 // Length of the well-formed UTF-8 sequence at the front; 0 when there is none.
 std::size_t SequenceLength(std::string_view text) {
@@ -134,13 +134,13 @@ std::size_t Node::Width() const {
     return width;
 }
 
-bool Node::StandsOnOneLine() const {
+bool Node::StandsOnOneLine(std::size_t width) const {
     if (IsSimple() || children_.empty()) return true;
     const auto& all = children_;
     if (!std::all_of(all.begin(), all.end(), [](const auto& child) { return child.second.IsSimple(); })) return false;
     if (isArray() && std::all_of(all.begin(), all.end(), [](const auto& child) { return child.second.IsNumber(); }))
         return true;
-    return Width() <= kWidest;
+    return Width() <= width;
 }
 
 void Node::AppendOneLine(std::string& out) const {
@@ -164,8 +164,8 @@ void Node::AppendOneLine(std::string& out) const {
 }
 
 // Nodes nest as deep as records and their lists do, a handful of levels.
-void Node::Append(std::string& out, std::size_t indent) const {
-    if (StandsOnOneLine()) return AppendOneLine(out);
+void Node::Append(std::string& out, std::size_t indent, std::size_t width) const {
+    if (StandsOnOneLine(width)) return AppendOneLine(out);
     out += isArray() ? "[" : "{";
     bool first = true;
     for (const auto& [key, child] : children_) {
@@ -173,22 +173,87 @@ void Node::Append(std::string& out, std::size_t indent) const {
         first = false;
         out.append(indent + kIndent, ' ');
         if (!key.empty()) out += key + ": ";
-        child.Append(out, indent + kIndent);
+        child.Append(out, indent + kIndent, width);
     }
     out += '\n';
     out.append(indent, ' ');
     out += isArray() ? ']' : '}';
 }
 
-std::string Node::PrintLine() const {
-    std::string out;
-    AppendOneLine(out);
-    return out += '\n';
+std::string Node::Bare() const {
+    if (kind_ != Kind::Scalar) return OneLine();
+    if (!token_.starts_with('"')) return token_;
+    std::string text;
+    for (std::size_t i = 1; i + 1 < token_.size(); ++i) {
+        if (token_[i] != '\\') {
+            text += token_[i];
+        } else if (token_[++i] != 'u') {
+            text += token_[i];
+        } else { // a control character, as Quoted writes it
+            text += static_cast<char>(std::stoi(token_.substr(i + 1, 4), nullptr, 16));
+            i += 4;
+        }
+    }
+    return text;
 }
 
-std::string Node::Print() const {
+void LineWriter::Grow(std::size_t more) {
+    room_.resize(std::max<std::size_t>({room_.size() * 2, used_ + more, std::size_t{4} << 10}));
+}
+
+void LineWriter::Integer(std::int64_t number) {
+    constexpr std::size_t kDigits = 20;
+    if (room_.size() - used_ < kDigits) Grow(kDigits);
+    char* const at = room_.data() + used_;
+    if (number >= 0 && number <= 9) { // most are 0
+        *at = static_cast<char>('0' + number);
+        ++used_;
+        return;
+    }
+    used_ = static_cast<std::size_t>(std::to_chars(at, at + kDigits, number).ptr - room_.data());
+}
+
+void LineWriter::Zeros(std::size_t count) {
+    constexpr std::string_view kZeros =
+        "0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, ";
+    constexpr std::size_t kOne = 3; // `0, `
+    constexpr std::size_t kMost = kZeros.size() / kOne;
+    if (count == 0) return;
+    Next();
+    for (; count > kMost; count -= kMost)
+        Append(kZeros);
+    Append(kZeros.substr(0, count * kOne - 2));
+}
+
+void LineWriter::Text(std::string_view text) {
+    const bool isPlain = std::none_of(
+        text.begin(), text.end(), [](char c) { return c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20; });
+    if (!isPlain) return Append(Quoted(text));
+    Put('"');
+    Append(text);
+    Put('"');
+}
+
+std::string LineWriter::Take() {
+    room_.resize(used_);
+    used_ = 0;
+    isFirst_ = true;
+    return std::exchange(room_, {});
+}
+
+std::string Node::OneLine() const {
     std::string out;
-    Append(out, 0);
+    AppendOneLine(out);
+    return out;
+}
+
+std::string Node::PrintLine() const {
+    return OneLine() += '\n';
+}
+
+std::string Node::Print(std::size_t width) const {
+    std::string out;
+    Append(out, 0, width);
     return out += '\n';
 }
 

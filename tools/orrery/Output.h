@@ -9,6 +9,9 @@
 
 namespace orrery::tool {
 
+// How a value of several parts stands. Inline: an object that reads as one value, such as a code with its name.
+enum class Brackets : std::uint8_t { Array, Object, Inline, InlineArray };
+
 class Node {
   public:
     static Node Number(std::int64_t number);
@@ -31,14 +34,22 @@ class Node {
 
     bool isArray() const { return kind_ == Kind::Array || kind_ == Kind::InlineArray; }
     std::size_t size() const { return children_.size(); }
+    // Leaves the first `count` members or elements.
+    void Truncate(std::size_t count) {
+        children_.erase(children_.begin() + static_cast<std::ptrdiff_t>(count), children_.end());
+    }
+    // A number as it is printed, a text without its quotes; of several parts one line of JSON.
+    std::string Bare() const;
     // The member or the element at a path such as "stuObject.nObjectID" or "stuTours[0].szName"; null when there is
     // none.
     const Node* Find(std::string_view path) const;
 
-    // Ends in a newline.
-    std::string Print() const;
-    // The same without a line break inside.
+    // Ends in a newline. Lists and records that are no wider, their indent not counted, stay on one line.
+    std::string Print(std::size_t width = kWidest) const;
+    static constexpr std::size_t kWidest = 120;
+    // The same without a line break inside; without any.
     std::string PrintLine() const;
+    std::string OneLine() const;
 
   private:
     enum class Kind : std::uint8_t { Scalar, Array, Object, Inline, InlineArray };
@@ -47,14 +58,86 @@ class Node {
 
     bool IsSimple() const { return kind_ != Kind::Array && kind_ != Kind::Object; }
     bool IsNumber() const;
-    bool StandsOnOneLine() const;
+    bool StandsOnOneLine(std::size_t width) const;
     std::size_t Width() const;
     void AppendOneLine(std::string& out) const;
-    void Append(std::string& out, std::size_t indent) const;
+    void Append(std::string& out, std::size_t indent, std::size_t width) const;
 
     Kind kind_;
     std::string token_;
     std::vector<std::pair<std::string, Node>> children_; // keys are quoted already; those of elements are empty
+};
+
+// JSON on one line, written as it is told.
+class LineWriter {
+  public:
+    struct Mark {
+        std::size_t used;
+        bool isFirst;
+    };
+
+    void Open(Brackets brackets) {
+        Put(IsArray(brackets) ? '[' : '{');
+        isFirst_ = true;
+    }
+    void Close(Brackets brackets) {
+        if (IsArray(brackets))
+            Put(']');
+        else
+            Append(isFirst_ ? "}" : " }");
+        isFirst_ = false;
+    }
+    // The name of a member; it has nothing to escape.
+    void Key(std::string_view key) {
+        constexpr std::size_t kAround = 6; // `, "` and `": `
+        if (room_.size() - used_ < key.size() + kAround) Grow(key.size() + kAround);
+        char* at = room_.data() + used_;
+        if (!isFirst_) *at++ = ',';
+        isFirst_ = false;
+        *at++ = ' ';
+        *at++ = '"';
+        key.copy(at, key.size());
+        at += key.size();
+        *at++ = '"';
+        *at++ = ':';
+        *at++ = ' ';
+        used_ = static_cast<std::size_t>(at - room_.data());
+    }
+    // Before each element.
+    void Next() {
+        if (!isFirst_) Append(", ");
+        isFirst_ = false;
+    }
+    void Token(std::string_view token) { Append(token); }
+    void Integer(std::int64_t number);
+    // Elements that are 0: most of a record's reserved words are.
+    void Zeros(std::size_t count);
+    void Text(std::string_view text);
+    // What was written behind a place is taken back.
+    Mark Place() const { return {used_, isFirst_}; }
+    void GoBack(const Mark& mark) {
+        used_ = mark.used;
+        isFirst_ = mark.isFirst;
+    }
+    void End() { Put('\n'); }
+
+    void Append(std::string_view text) {
+        if (room_.size() - used_ < text.size()) Grow(text.size());
+        text.copy(room_.data() + used_, text.size());
+        used_ += text.size();
+    }
+    std::size_t size() const { return used_; }
+    // All that was written.
+    std::string Take();
+
+  private:
+    static bool IsArray(Brackets brackets) { return brackets == Brackets::Array || brackets == Brackets::InlineArray; }
+    void Put(char c) { Append({&c, 1}); }
+    void Grow(std::size_t more);
+
+    std::string room_;
+    std::size_t used_ = 0;
+    bool isFirst_ = true;
 };
 
 std::string Quoted(std::string_view text);

@@ -20,144 +20,13 @@ namespace {
 // Larger whole numbers are printed as texts: readers keep numbers as doubles.
 constexpr std::int64_t kLargestExact = std::int64_t{1} << 53;
 
-Node Bytes(const std::byte* at, std::size_t size) {
-    constexpr char kHex[] = "0123456789abcdef";
-    std::string hex;
-    for (std::size_t i = 0; i < size; ++i) {
-        hex += kHex[std::to_integer<unsigned>(at[i]) >> 4];
-        hex += kHex[std::to_integer<unsigned>(at[i]) & 15];
-    }
-    return std::move(Node::Inline().Add("bytes", Node::Text(hex)));
-}
-
-// The text up to its terminator; as bytes when that would not tell all.
-Node PrintText(const std::byte* at, std::size_t capacity) {
-    const std::string_view text = TextAt(at, capacity);
-    std::size_t used = capacity;
-    while (used > 0 && at[used - 1] == std::byte{0})
-        --used;
-    if (used > text.size() || !IsUtf8(text)) return Bytes(at, used);
-    return Node::Text(text);
-}
-
-template <class Float>
-Node PrintReal(const std::byte* at) {
-    const auto number = Load<Float>(at);
-    if (std::isnan(number)) return Bytes(at, sizeof number);
-    if (std::isinf(number)) return Node::Text(number < 0 ? "-inf" : "inf");
-    char room[64];
-    const auto shortest = [&](auto value) { return std::string(room, std::to_chars(room, room + 64, value).ptr); };
-    std::string token = shortest(number);
-    if constexpr (sizeof(Float) < sizeof(double)) {
-        double back = 0;
-        std::from_chars(token.data(), token.data() + token.size(), back);
-        if (static_cast<Float>(back) != number) token = shortest(double{number});
-    }
-    if (token == "-0") token = "-0.0"; // the sign belongs to a real only
-    return Node::Token(std::move(token));
-}
-
-Node PrintInteger(const Field& field, const std::byte* at) {
-    if (field.cell == Cell::U64) {
-        const auto number = Load<std::uint64_t>(at);
-        return number > static_cast<std::uint64_t>(kLargestExact) ? Node::Text(std::to_string(number))
-                                                                  : Node::Unsigned(number);
-    }
-    const std::int64_t number = LoadInteger(field.cell, at);
-    if (number > kLargestExact || number < -kLargestExact) return Node::Text(std::to_string(number));
-    if (!HasNames(field)) return Node::Number(number);
-    Node code = Node::Inline();
-    code.Add("code", Node::Number(number));
-    const std::string name = NameOfCode(field, number);
-    if (!name.empty()) code.Add("name", Node::Text(name));
-    return code;
-}
-
-Node PrintElement(const Field& field, const std::byte* at, PrintOptions options) {
-    switch (field.cell) {
-    case Cell::Record:
-        return PrintRecord(*field.table, at, options);
-    case Cell::Char:
-        return PrintText(at, field.elementSize);
-    case Cell::F32:
-        return PrintReal<float>(at);
-    case Cell::F64:
-        return PrintReal<double>(at);
-    case Cell::Pointer:
-        return Node::Null();
-    default:
-        return PrintInteger(field, at);
-    }
-}
-
-Node PrintLevel(const Field& field, int level, const std::byte* at, std::uint32_t count, PrintOptions options) {
-    const int rank = std::min<int>(field.rank, Field::kMaxRank);
-    if (level >= rank) return PrintElement(field, at, options);
-    std::size_t stride = field.elementSize;
-    for (int i = rank - 1; i > level; --i)
-        stride *= field.dims[i];
-    Node list = Node::Array();
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const std::uint32_t inner = level + 1 < rank ? field.dims[level + 1] : 1;
-        list.Add(PrintLevel(field, level + 1, at + i * stride, inner, options));
-    }
-    return list;
-}
-
-// The items of a packed buffer, each with its head, its type's name and its type's record; up to the first that is cut
-// off or of no known type.
-Node PrintItems(const PackedItems& items, const std::byte* descriptor, PrintOptions options) {
-    const auto* const first = Load<const std::byte*>(descriptor + items.pointer);
-    if (first == nullptr) return Node::Null();
-    const std::int64_t end = LoadSlot(items.bytes, descriptor);
-    const std::int64_t count = LoadSlot(items.count, descriptor);
-    Node list = Node::Array();
-    std::int64_t offset = 0;
-    for (std::int64_t i = 0; i < count && offset + items.head->size <= end; ++i) {
-        const std::byte* const head = first + offset;
-        const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, head)));
-        const std::int64_t size = LoadSlot(items.size, head);
-        if (type.table == nullptr || size < type.table->size || offset + items.head->size + size > end) break;
-        Node item = Node::Object();
-        item.Add("name", Node::Text(type.name))
-            .Add("head", PrintRecord(*items.head, head, options))
-            .Add("record", PrintRecord(*type.table, head + items.head->size, options));
-        list.Add(std::move(item));
-        offset += items.head->size + size;
-    }
-    return list;
-}
-
-// Records without heads, all of the type that their descriptor tells.
-Node PrintBareItems(const PackedItems& items, const std::byte* descriptor, PrintOptions options) {
-    const auto* const first = Load<const std::byte*>(descriptor + items.pointer);
-    if (first == nullptr) return Node::Null();
-    const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, descriptor)));
-    const std::int64_t stride = LoadSlot(items.size, descriptor);
-    const std::int64_t count = type.table == nullptr || stride <= 0 ? 0 : LoadSlot(items.count, descriptor);
-    Node list = Node::Array();
-    for (std::int64_t i = 0; i < count && i * stride + type.table->size <= LoadSlot(items.bytes, descriptor); ++i)
-        list.Add(PrintRecord(*type.table, first + i * stride, options));
-    return list;
-}
-
-Node PrintPointer(const Field& field, const std::byte* record, PrintOptions options) {
-    const auto* const first = Load<const std::byte*>(record + field.offset);
-    if (first == nullptr) return Node::Null();
-    if (PointsToText(field)) return PrintText(first, std::strlen(reinterpret_cast<const char*>(first)));
-    if (PointsToOne(field)) return PrintRecord(*field.table, first, options);
-    std::int64_t count = field.count.exists() && !options.all ? LoadSlot(field.count, record) : INT32_MAX;
-    if (field.capacity.exists())
-        count = std::min(count, LoadSlot(field.capacity, record));
-    else
-        count = LoadSlot(field.count, record);
-    if (PointsToNumbers(field)) {
-        Node list = Node::InlineArray();
-        for (std::int64_t i = 0; i < count; ++i)
-            list.Add(Node::Number(LoadInteger(NumberBehind(field), first + i * field.table->size)));
-        return list;
-    }
-    return PrintRecords(*field.table, first, static_cast<std::size_t>(std::max<std::int64_t>(count, 0)), options);
+// Bytes up to the last that is not 0.
+std::size_t UsedBytes(const std::byte* at, std::size_t size) {
+    while (size >= sizeof(std::uint64_t) && Load<std::uint64_t>(at + size - sizeof(std::uint64_t)) == 0)
+        size -= sizeof(std::uint64_t);
+    while (size > 0 && at[size - 1] == std::byte{0})
+        --size;
+    return size;
 }
 
 // Whether a member says nothing that its record would not say without a text.
@@ -165,47 +34,371 @@ bool IsBlank(const Field& field, const std::byte* at) {
     if (field.kind == Kind::Size) return true;
     if (field.hasDefault && field.rank == 0 && field.cell != Cell::F32 && field.cell != Cell::F64)
         return LoadInteger(field.cell, at) == field.defaultValue;
-    return std::all_of(at, at + field.size, [](std::byte byte) { return byte == std::byte{0}; });
+    return at[0] == std::byte{0} && std::memcmp(at, at + 1, field.size - 1) == 0;
+}
+
+// Puts a record together as a tree.
+class TreeSink {
+  public:
+    using Mark = std::size_t;
+
+    void Open(Brackets brackets) {
+        switch (brackets) {
+        case Brackets::Array:
+            return Push(Node::Array());
+        case Brackets::Object:
+            return Push(Node::Object());
+        case Brackets::Inline:
+            return Push(Node::Inline());
+        case Brackets::InlineArray:
+            return Push(Node::InlineArray());
+        }
+    }
+    void Close(Brackets) {
+        Node node = std::move(open_.back().first);
+        key_ = std::move(open_.back().second);
+        open_.pop_back();
+        Put(std::move(node));
+    }
+    void Key(std::string_view key) { key_ = key; }
+    void Next() {}
+    void Token(std::string_view token) { Put(Node::Token(std::string(token))); }
+    void Integer(std::int64_t number) { Put(Node::Number(number)); }
+    void Zeros(std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i)
+            Integer(0);
+    }
+    void Text(std::string_view text) { Put(Node::Text(text)); }
+    Mark Place() const { return open_.back().first.size(); }
+    void GoBack(Mark mark) { open_.back().first.Truncate(mark); }
+
+    Node Take() { return std::move(whole_); }
+
+  private:
+    void Push(Node node) { open_.emplace_back(std::move(node), std::exchange(key_, {})); }
+    void Put(Node node) {
+        if (open_.empty())
+            whole_ = std::move(node);
+        else if (Node& parent = open_.back().first; parent.isArray())
+            parent.Add(std::move(node));
+        else
+            parent.Add(key_, std::move(node));
+    }
+
+    std::vector<std::pair<Node, std::string>> open_; // with the key that each stands under
+    std::string key_;
+    Node whole_ = Node::Null();
+};
+
+template <class Sink>
+class Printer {
+  public:
+    Printer(Sink& sink, PrintOptions options) : sink_(sink), options_(options) {}
+
+    // These answer how many members or elements stand there.
+    std::size_t Record(const Table& table, const std::byte* record) {
+        sink_.Open(Brackets::Object);
+        std::size_t count = 0;
+        for (const Field& field : table) {
+            if (field.alias || field.size == 0) continue; // no storage of its own
+            if (options_.brief && IsBlank(field, record + field.offset)) continue;
+            count += Member(table, field, record);
+        }
+        sink_.Close(Brackets::Object);
+        return count;
+    }
+    std::size_t Records(const Table& table, const std::byte* first, std::size_t count) {
+        sink_.Open(Brackets::Array);
+        for (std::size_t i = 0; i < count; ++i) {
+            sink_.Next();
+            Record(table, first + i * table.size);
+        }
+        sink_.Close(Brackets::Array);
+        return count;
+    }
+    void Behind(const Table& table, const Field& pointer, const std::byte* record) {
+        const PackedItems* const items = ItemsBehind(table);
+        if (items == nullptr)
+            Pointer(pointer, record);
+        else if (items->head == nullptr)
+            BareItems(*items, record);
+        else
+            Items(*items, record);
+    }
+    // All that a field holds, as far as its record's count goes.
+    std::size_t Value(const Field& field, const std::byte* record) {
+        std::uint32_t count = field.rank > 0 ? field.dims[0] : 1;
+        if (field.count.exists() && !options_.all)
+            count = static_cast<std::uint32_t>(std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, count));
+        return Level(field, 0, record + field.offset, count);
+    }
+    std::size_t Element(const Field& field, const std::byte* at) {
+        switch (field.cell) {
+        case Cell::Record:
+            return Record(*field.table, at);
+        case Cell::Char:
+            Text(at, field.elementSize);
+            break;
+        case Cell::F32:
+            Real<float>(at);
+            break;
+        case Cell::F64:
+            Real<double>(at);
+            break;
+        case Cell::Pointer:
+            sink_.Token("null");
+            break;
+        default:
+            Integer(field, at);
+            break;
+        }
+        return 1;
+    }
+
+  private:
+    // 0 for a member that tells nothing, which is left out.
+    std::size_t Member(const Table& table, const Field& field, const std::byte* record) {
+        const auto mark = sink_.Place();
+        sink_.Key(field.name);
+        if (field.cell == Cell::Pointer) {
+            Behind(table, field, record);
+            return 1;
+        }
+        const bool isNested = field.cell == Cell::Record || field.rank > 0;
+        if (Value(field, record) > 0 || !options_.brief || !isNested) return 1;
+        sink_.GoBack(mark);
+        return 0;
+    }
+
+    std::size_t Level(const Field& field, int level, const std::byte* at, std::uint32_t count) {
+        const int rank = std::min<int>(field.rank, Field::kMaxRank);
+        if (level >= rank) return Element(field, at);
+        std::size_t stride = field.elementSize;
+        for (int i = rank - 1; i > level; --i)
+            stride *= field.dims[i];
+        sink_.Open(Brackets::Array);
+        const bool isWhole = field.cell != Cell::Record && field.cell != Cell::Char && field.cell != Cell::Pointer
+                             && field.cell != Cell::F32 && field.cell != Cell::F64 && !HasNames(field);
+        if (isWhole && level + 1 == rank && count > 1 && at[0] == std::byte{0}
+            && std::memcmp(at, at + 1, count * stride - 1) == 0) {
+            sink_.Zeros(count);
+            sink_.Close(Brackets::Array);
+            return count;
+        }
+        for (std::uint32_t i = 0; i < count; ++i) {
+            const std::uint32_t inner = level + 1 < rank ? field.dims[level + 1] : 1;
+            sink_.Next();
+            Level(field, level + 1, at + i * stride, inner);
+        }
+        sink_.Close(Brackets::Array);
+        return count;
+    }
+
+    void Bytes(const std::byte* at, std::size_t size) {
+        constexpr char kHex[] = "0123456789abcdef";
+        std::string hex;
+        for (std::size_t i = 0; i < size; ++i) {
+            hex += kHex[std::to_integer<unsigned>(at[i]) >> 4];
+            hex += kHex[std::to_integer<unsigned>(at[i]) & 15];
+        }
+        sink_.Open(Brackets::Inline);
+        sink_.Key("bytes");
+        sink_.Text(hex);
+        sink_.Close(Brackets::Inline);
+    }
+
+    // The text up to its terminator; as bytes when that would not tell all.
+    void Text(const std::byte* at, std::size_t capacity) {
+        const std::string_view text = TextAt(at, capacity);
+        const std::size_t used = UsedBytes(at, capacity);
+        if (used > text.size() || !IsUtf8(text)) return Bytes(at, used);
+        sink_.Text(text);
+    }
+
+    template <class Float>
+    void Real(const std::byte* at) {
+        const auto number = Load<Float>(at);
+        if (std::isnan(number)) return Bytes(at, sizeof number);
+        if (std::isinf(number)) return sink_.Text(number < 0 ? "-inf" : "inf");
+        char room[64];
+        const auto shortest = [&](auto value) {
+            return std::string_view(room, static_cast<std::size_t>(std::to_chars(room, room + 64, value).ptr - room));
+        };
+        std::string_view token = shortest(number);
+        if constexpr (sizeof(Float) < sizeof(double)) {
+            double back = 0;
+            std::from_chars(token.data(), token.data() + token.size(), back);
+            if (static_cast<Float>(back) != number) token = shortest(double{number});
+        }
+        sink_.Token(token == "-0" ? "-0.0" : token); // the sign belongs to a real only
+    }
+
+    void Integer(const Field& field, const std::byte* at) {
+        if (field.cell == Cell::U64) {
+            const auto number = Load<std::uint64_t>(at);
+            if (number > static_cast<std::uint64_t>(kLargestExact)) return sink_.Text(std::to_string(number));
+        }
+        const std::int64_t number = LoadInteger(field.cell, at);
+        if (number > kLargestExact || number < -kLargestExact) return sink_.Text(std::to_string(number));
+        if (!HasNames(field)) return sink_.Integer(number);
+        sink_.Open(Brackets::Inline);
+        sink_.Key("code");
+        sink_.Integer(number);
+        const std::string name = NameOfCode(field, number);
+        if (!name.empty()) {
+            sink_.Key("name");
+            sink_.Text(name);
+        }
+        sink_.Close(Brackets::Inline);
+    }
+
+    // The items of a packed buffer, each with its head, its type's name and its type's record; up to the first that is
+    // cut off or of no known type.
+    void Items(const PackedItems& items, const std::byte* descriptor) {
+        const auto* const first = Load<const std::byte*>(descriptor + items.pointer);
+        if (first == nullptr) return sink_.Token("null");
+        const std::int64_t end = LoadSlot(items.bytes, descriptor);
+        const std::int64_t count = LoadSlot(items.count, descriptor);
+        sink_.Open(Brackets::Array);
+        std::int64_t offset = 0;
+        for (std::int64_t i = 0; i < count && offset + items.head->size <= end; ++i) {
+            const std::byte* const head = first + offset;
+            const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, head)));
+            const std::int64_t size = LoadSlot(items.size, head);
+            if (type.table == nullptr || size < type.table->size || offset + items.head->size + size > end) break;
+            sink_.Next();
+            sink_.Open(Brackets::Object);
+            sink_.Key("name");
+            sink_.Text(type.name);
+            sink_.Key("head");
+            Record(*items.head, head);
+            sink_.Key("record");
+            Record(*type.table, head + items.head->size);
+            sink_.Close(Brackets::Object);
+            offset += items.head->size + size;
+        }
+        sink_.Close(Brackets::Array);
+    }
+
+    // Records without heads, all of the type that their descriptor tells.
+    void BareItems(const PackedItems& items, const std::byte* descriptor) {
+        const auto* const first = Load<const std::byte*>(descriptor + items.pointer);
+        if (first == nullptr) return sink_.Token("null");
+        const ItemType type = items.typeOf(static_cast<std::uint32_t>(LoadSlot(items.code, descriptor)));
+        const std::int64_t stride = LoadSlot(items.size, descriptor);
+        const std::int64_t count = type.table == nullptr || stride <= 0 ? 0 : LoadSlot(items.count, descriptor);
+        sink_.Open(Brackets::Array);
+        for (std::int64_t i = 0; i < count && i * stride + type.table->size <= LoadSlot(items.bytes, descriptor); ++i) {
+            sink_.Next();
+            Record(*type.table, first + i * stride);
+        }
+        sink_.Close(Brackets::Array);
+    }
+
+    void Pointer(const Field& field, const std::byte* record) {
+        const auto* const first = Load<const std::byte*>(record + field.offset);
+        if (first == nullptr) return sink_.Token("null");
+        if (PointsToText(field)) return Text(first, std::strlen(reinterpret_cast<const char*>(first)));
+        if (PointsToOne(field)) {
+            Record(*field.table, first);
+            return;
+        }
+        std::int64_t count = field.count.exists() && !options_.all ? LoadSlot(field.count, record) : INT32_MAX;
+        if (field.capacity.exists())
+            count = std::min(count, LoadSlot(field.capacity, record));
+        else
+            count = LoadSlot(field.count, record);
+        if (!PointsToNumbers(field)) {
+            Records(*field.table, first, static_cast<std::size_t>(std::max<std::int64_t>(count, 0)));
+            return;
+        }
+        sink_.Open(Brackets::InlineArray);
+        for (std::int64_t i = 0; i < count; ++i) {
+            sink_.Next();
+            sink_.Integer(LoadInteger(NumberBehind(field), first + i * field.table->size));
+        }
+        sink_.Close(Brackets::InlineArray);
+    }
+
+    Sink& sink_;
+    PrintOptions options_;
+};
+
+// What `print` tells a printer, as a tree.
+template <class Print>
+Node TreeOf(PrintOptions options, const Print& print) {
+    TreeSink sink;
+    Printer<TreeSink> printer(sink, options);
+    print(printer);
+    return sink.Take();
+}
+
+// "[3]": an index at the front of a path, which it is taken from; -1 for anything else.
+std::int64_t TakeIndex(std::string_view& path) {
+    std::uint32_t index = 0;
+    const std::size_t close = path.find(']');
+    if (!path.starts_with('[') || close == std::string_view::npos) return -1;
+    const auto read = std::from_chars(path.data() + 1, path.data() + close, index);
+    if (read.ec != std::errc() || read.ptr != path.data() + close || close == 1) return -1;
+    path.remove_prefix(close + 1);
+    return index;
 }
 
 } // namespace
 
 Node PrintCell(const Field& field, const std::byte* at, PrintOptions options) {
-    return PrintElement(field, at, options);
+    return TreeOf(options, [&](auto& printer) { printer.Element(field, at); });
 }
 
 Node PrintBehind(const Table& table, const Field& pointer, const std::byte* record, PrintOptions options) {
-    const PackedItems* const items = ItemsBehind(table);
-    if (items == nullptr) return PrintPointer(pointer, record, options);
-    return items->head == nullptr ? PrintBareItems(*items, record, options) : PrintItems(*items, record, options);
+    return TreeOf(options, [&](auto& printer) { printer.Behind(table, pointer, record); });
 }
 
 Node PrintRecord(const Table& table, const std::byte* record, PrintOptions options) {
-    Node object = Node::Object();
-    for (const Field& field : table) {
-        if (field.alias || field.size == 0) continue; // no storage of its own
-        if (options.brief && IsBlank(field, record + field.offset)) continue;
-        if (field.cell == Cell::Pointer) {
-            object.Add(field.name, PrintBehind(table, field, record, options));
-            continue;
-        }
-        std::uint32_t count = field.rank > 0 ? field.dims[0] : 1;
-        if (field.count.exists() && !options.all) {
-            count = static_cast<std::uint32_t>(std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, count));
-        }
-        Node value = PrintLevel(field, 0, record + field.offset, count, options);
-        const bool isNested = field.cell == Cell::Record || field.rank > 0;
-        if (options.brief && isNested && value.size() == 0) continue;
-        object.Add(field.name, std::move(value));
-    }
-    return object;
+    return TreeOf(options, [&](auto& printer) { printer.Record(table, record); });
 }
 
 Node PrintRecords(const Table& table, const std::byte* first, std::size_t count, PrintOptions options) {
-    Node list = Node::Array();
-    for (std::size_t i = 0; i < count; ++i)
-        list.Add(PrintRecord(table, first + i * table.size, options));
-    return list;
+    return TreeOf(options, [&](auto& printer) { printer.Records(table, first, count); });
+}
+
+std::optional<Node> PrintMember(const Table& table, const std::byte* record, std::string_view path,
+                                PrintOptions options) {
+    const std::string_view name = path.substr(0, path.find_first_of(".["));
+    const Field* const field = std::find_if(table.begin(), table.end(), [&](const Field& each) {
+        return !each.alias && each.size > 0 && name == each.name;
+    });
+    if (name.empty() || field == table.end()) return std::nullopt;
+    path.remove_prefix(name.size());
+    if (field->cell == Cell::Pointer) {
+        const Node whole = PrintBehind(table, *field, record, options);
+        const Node* const found = whole.Find(path);
+        return found == nullptr ? std::nullopt : std::optional(*found);
+    }
+    if (path.empty()) return TreeOf(options, [&](auto& printer) { printer.Value(*field, record); });
+    const std::byte* at = record + field->offset;
+    if (field->rank == 1) {
+        const std::int64_t index = TakeIndex(path);
+        std::int64_t count = field->dims[0];
+        if (field->count.exists() && !options.all) count = std::min(count, LoadSlot(field->count, record));
+        if (index < 0 || index >= count) return std::nullopt;
+        at += index * field->elementSize;
+        if (path.empty()) return PrintCell(*field, at, options);
+    }
+    if (field->cell == Cell::Record && field->rank <= 1 && path.starts_with('.'))
+        return PrintMember(*field->table, at, path.substr(1), options);
+    const Node whole = TreeOf(options, [&](auto& printer) { printer.Value(*field, record); });
+    const Node* const found = field->rank == 1 ? nullptr : whole.Find(path);
+    return found == nullptr ? std::nullopt : std::optional(*found);
+}
+
+void AppendRecord(LineWriter& line, const Table& table, const std::byte* record, PrintOptions options) {
+    Printer<LineWriter>(line, options).Record(table, record);
+}
+
+void AppendRecords(LineWriter& line, const Table& table, const std::byte* first, std::size_t count,
+                   PrintOptions options) {
+    Printer<LineWriter>(line, options).Records(table, first, count);
 }
 
 } // namespace orrery::tool

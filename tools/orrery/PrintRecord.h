@@ -5,6 +5,8 @@
 
 #include "frame/record/Table.h"
 
+#include <optional>
+
 namespace orrery::tool {
 
 struct PrintOptions {
@@ -21,5 +23,13 @@ Node PrintBehind(const record::Table& table, const record::Field& pointer, const
                  PrintOptions options = {});
 // `count` records, one behind the other.
 Node PrintRecords(const record::Table& table, const std::byte* first, std::size_t count, PrintOptions options = {});
+// The member at a path such as "stuObject.nObjectID" or "stuTours[0].szName"; nothing when the record has none there.
+std::optional<Node> PrintMember(const record::Table& table, const std::byte* record, std::string_view path,
+                                PrintOptions options = {});
+
+// The same as the two above, on one line.
+void AppendRecord(LineWriter& line, const record::Table& table, const std::byte* record, PrintOptions options = {});
+void AppendRecords(LineWriter& line, const record::Table& table, const std::byte* first, std::size_t count,
+                   PrintOptions options = {});
 
 } // namespace orrery::tool

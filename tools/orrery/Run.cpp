@@ -1,14 +1,18 @@
 #include "orrery/Run.h"
 
+#include "orrery/Check.h"
 #include "orrery/Diagnose.h"
 #include "orrery/FillRecord.h"
+#include "orrery/Output.h"
 #include "orrery/PrintRecord.h"
 
+#include "explain/Packs.h"
+#include "explain/Places.h"
 #include "frame/record/Engine.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -101,13 +105,6 @@ std::string Notes(const Table& table, const json::Value& value) {
     return text;
 }
 
-std::string Told(const std::vector<std::string>& notes) {
-    std::string text;
-    for (const std::string& note : notes)
-        text += "orrery: note: " + note + "\n";
-    return text;
-}
-
 // One record of an object, one each of an array's elements.
 std::vector<std::byte> FillAll(const Table& table, const json::Value& value, Memory& memory) {
     const bool isList = value.type() == json::Type::Array;
@@ -125,94 +122,45 @@ std::vector<std::byte> FillAll(const Table& table, const json::Value& value, Mem
     return records;
 }
 
-// Members of the records that leave no trace in the text: it stays as it is without them, though the record does not.
-class Traceless {
-  public:
-    Traceless(const Command& command, const json::Value& root, const std::vector<std::byte>& records,
-              const std::string& text)
-        : command_(command), records_(records), text_(text), hasPointers_(HasPointers(*command.table)) {
-        Visit(root, {}, [](const json::Value& whole) { return whole; });
-    }
-    std::vector<std::string> notes;
-
-  private:
-    static constexpr int kMostTries = 4000;
-    using Rebuild = std::function<json::Value(const json::Value&)>;
-
-    void Try(const json::Value& without, const std::string& path) {
-        if (++tries_ > kMostTries) return;
-        try {
-            Memory memory;
-            const auto records = FillAll(*command_.table, without, memory);
-            // What the record would hold all the same is no loss.
-            if (!hasPointers_ && records == records_) return;
-            if (PackRecords(command_, records).text == text_) notes.push_back(path + " writes nothing");
-        } catch (const FillError&) {
-            // Other members need it.
+// The value of a document at a member's path; null when nobody wrote one there.
+const json::Value* ValueAt(const json::Value& root, std::string_view path) {
+    const json::Value* value = &root;
+    if (value->type() == json::Type::Array && !path.starts_with('[')) value = &(*value)[0u];
+    while (!path.empty()) {
+        if (path.front() == '.') path.remove_prefix(1);
+        if (path.starts_with('[')) {
+            std::uint32_t index = 0;
+            const std::size_t close = path.find(']');
+            std::from_chars(path.data() + 1, path.data() + close, index);
+            path.remove_prefix(close + 1);
+            if (value->type() != json::Type::Array && value == &root && index == 0) continue; // one record alone
+            if (index >= value->elements().size()) return nullptr;
+            value = &(*value)[index];
+        } else {
+            const std::string_view name = path.substr(0, path.find_first_of(".["));
+            value = &(*value)[name];
+            if (value->isNull()) return nullptr;
+            path.remove_prefix(name.size());
         }
     }
+    return value;
+}
 
-    // Records with pointers differ by their addresses anyway.
-    static bool SaysSomething(const json::Value& value) {
-        return value.isString() ? !value.asString().empty() : value.size() == 0 && value.asDouble() != 0;
-    }
-
-    void Visit(const json::Value& value, const std::string& path, const Rebuild& rebuild) {
-        if (value.type() == json::Type::Object) {
-            const auto members = value.members();
-            for (std::size_t i = 0; i < members.size() && tries_ < kMostTries; ++i) {
-                const std::string name = path + (path.empty() ? "" : ".") + std::string(members[i].key());
-                std::vector<json::Member> without(members.begin(), members.end());
-                without.erase(without.begin() + static_cast<std::ptrdiff_t>(i));
-                const std::size_t before = notes.size();
-                if (!hasPointers_ || SaysSomething(members[i].value))
-                    Try(rebuild(json::Value::OfObject(without.data(), static_cast<std::uint32_t>(without.size()))),
-                        name);
-                // What writes nothing as a whole does so in its parts; what writes something may hold parts that don't.
-                const bool isCode = !members[i].value["code"].isNull(); // with its name
-                if (notes.size() > before || members[i].value.size() == 0 || isCode) continue;
-                Visit(members[i].value, name, [&](const json::Value& changed) {
-                    std::vector<json::Member>& with = *levels_.emplace_back(
-                        std::make_unique<std::vector<json::Member>>(members.begin(), members.end()));
-                    with[i].value = changed;
-                    const json::Value whole =
-                        rebuild(json::Value::OfObject(with.data(), static_cast<std::uint32_t>(with.size())));
-                    return whole;
-                });
-                levels_.clear();
-            }
-        } else if (value.type() == json::Type::Array) {
-            const auto elements = value.elements();
-            for (std::size_t i = 0; i < elements.size() && tries_ < kMostTries; ++i) {
-                if (elements[i].type() != json::Type::Object) continue;
-                Visit(elements[i], path + "[" + std::to_string(i) + "]", [&](const json::Value& changed) {
-                    std::vector<json::Value>& with = *lists_.emplace_back(
-                        std::make_unique<std::vector<json::Value>>(elements.begin(), elements.end()));
-                    with[i] = changed;
-                    return rebuild(json::Value::OfArray(with.data(), static_cast<std::uint32_t>(with.size())));
-                });
-                lists_.clear();
-            }
-        }
-    }
-
-    const Command& command_;
-    const std::vector<std::byte>& records_;
-    const std::string& text_;
-    bool hasPointers_;
-    std::vector<std::unique_ptr<std::vector<json::Member>>> levels_;
-    std::vector<std::unique_ptr<std::vector<json::Value>>> lists_;
-    int tries_ = 0;
-};
-
-// Records behind the first that the text has no place for.
-std::vector<std::string> DroppedRecords(const Command& command, const std::vector<std::byte>& records,
-                                        const std::string& text) {
-    const std::size_t size = command.table->size;
-    if (records.size() < 2 * size) return {};
-    const std::vector<std::byte> first(records.begin(), records.begin() + static_cast<std::ptrdiff_t>(size));
-    if (PackRecords(command, first).text != text) return {};
-    return {std::to_string(records.size() / size) + " records, of which the text holds the first only"};
+// What of the records does not reach the text; of members those that somebody wrote.
+std::vector<explain::Finding> Losses(const Command& command, Document& document, const std::vector<std::byte>& records,
+                                     bool tries) {
+    const std::byte none{};
+    auto findings = explain::ExplainRecords(command, records.empty() ? &none : records.data(),
+                                            static_cast<std::uint32_t>(records.size()), tries)
+                        .findings;
+    std::erase_if(findings, [&](explain::Finding& finding) {
+        finding.at = ValueAt(document.root, finding.path);
+        return finding.at == nullptr;
+    });
+    explain::FindPlaces(document.text, document.root, document.arena, false, findings);
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const auto& left, const auto& right) { return left.offset < right.offset; });
+    return findings;
 }
 
 // ---- Parsing ----
@@ -346,7 +294,7 @@ Result Parse::Run() {
     Result result;
     result.out = (asList ? PrintRecords(table_, buffer_.bytes.data(), count, print)
                          : PrintRecord(table_, buffer_.bytes.data(), print))
-                     .Print();
+                     .Print(options_.width == 0 ? Node::kWidest : options_.width);
     result.err = Note(reply);
     if (!options_.pack) return result;
     if (!command_.packs()) {
@@ -371,6 +319,14 @@ Result ParseText(const Command& command, std::string_view text, const ParseOptio
     if (!command.parses()) return Refuse(ExplainParse(command, Outcome::UnknownCommand, Document({}), 0));
     if (command.table == nullptr) return Refuse(std::string(command.name) + " has no record of fixed layout");
     try {
+        std::string whole;
+        if (options.table) {
+            const Document bare(text);
+            if (!bare.ok) return Refuse(ExplainSyntax(bare));
+            std::size_t before = 0;
+            whole = WrapValue(command, bare.text, before);
+            text = whole;
+        }
         return Parse(command, text, options).Run();
     } catch (const FillError& error) {
         return Refuse(error.what());
@@ -379,21 +335,36 @@ Result ParseText(const Command& command, std::string_view text, const ParseOptio
     }
 }
 
+namespace {
+
+// The request that a client sends: a configuration is set by its name, any other command is called with its text.
+std::string Request(const Command& command, std::string text, std::uint32_t id) {
+    while (text.ends_with('\n'))
+        text.pop_back();
+    const bool isMethod = command.name.find('.') != std::string_view::npos;
+    const std::string method(isMethod ? command.name : "configManager.setConfig");
+    std::string request = "{ \"id\" : " + std::to_string(id) + ", \"method\" : " + Quoted(method) + ", \"params\" : ";
+    request += isMethod ? text : "{ \"name\" : " + Quoted(command.name) + ", \"table\" : " + text + " }";
+    return request + " }\n";
+}
+
+} // namespace
+
 Result PackText(const Command& command, std::string_view json, const PackOptions& options) {
     if (!command.packs()) return Refuse(ExplainPack(command, Outcome::UnknownCommand, 0, 0, 0));
     if (command.table == nullptr) return Refuse(std::string(command.name) + " has no record of fixed layout");
     try {
-        const Document document(json);
+        Document document(json);
         if (!document.ok) return Refuse(ExplainSyntax(document));
         Memory memory;
         const auto records = FillAll(*command.table, document.root, memory);
         const Packed packed = PackRecords(command, records, options.capacity);
         if (packed.outcome == Outcome::Done) {
             Result result{kDone, packed.text, Notes(*command.table, document.root)};
-            result.err += Told(DroppedRecords(command, records, packed.text));
-            if (options.warn || options.strict)
-                result.err += Told(Traceless(command, document.root, records, packed.text).notes);
+            const auto losses = Losses(command, document, records, options.warn || options.strict);
+            result.err += FindingLines(losses, options.file, document.text, options.json);
             if (options.strict && !result.err.empty()) result.exit = kFound;
+            if (options.request) result.out = Request(command, std::move(result.out), *options.request);
             return result;
         }
         return Refuse(ExplainPack(command, packed.outcome, static_cast<std::uint32_t>(records.size()), packed.capacity,

@@ -27,6 +27,8 @@ struct ParseOptions {
     bool all = false;
     bool brief = false;
     bool pack = false;
+    bool table = false;       // the text is the bare value, without the reply around it
+    std::size_t width = 0;    // of the terminal that is printed to; 0: to none
     std::string_view start{}; // JSON of the record that the buffer holds before the call
 };
 
@@ -34,6 +36,9 @@ struct PackOptions {
     std::optional<std::uint32_t> capacity{}; // of the text buffer; else as much as the text takes
     bool warn = false;                       // tells also what of the records leaves no trace in the text
     bool strict = false;                     // kFound when there is anything to tell
+    bool json = false;                       // it is told as an object a line
+    std::string file = "-";                  // where the records come from
+    std::optional<std::uint32_t> request{};  // the whole request that sets it, with this id
 };
 
 Result ParseText(const Command& command, std::string_view text, const ParseOptions& options = {});

@@ -1,16 +1,17 @@
 #include "orrery/ShowEvents.h"
 
 #include "orrery/Diagnose.h"
+#include "orrery/Input.h"
 #include "orrery/PrintRecord.h"
 #include "orrery/Suggest.h"
+#include "orrery/Terminal.h"
 
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleFrame.h"
 #include "events/EventMap.h"
+#include "events/ReqRealPicture.h"
 #include "events/TypedText.h"
 #include "frame/JsonParser.h"
-
-#include "orrery/calls.h"
 
 #include <algorithm>
 #include <new>
@@ -24,57 +25,187 @@ using json::Value;
 // Of an event in the text.
 struct Place {
     std::uint32_t index;
-    std::string action;
+    std::string_view action;
 };
+
+// What is delivered: an event, or what a text tells by a key of its own.
+struct Item {
+    std::uint32_t code;
+    std::string_view name;
+    std::uint32_t size;
+    const Place* place; // null: it has none
+    const record::Table* table;
+    const std::byte* first;
+    bool isList = false;
+    std::size_t count = 1;
+};
+
+constexpr std::string_view kAround[] = {"code", "name", "size", "action", "index", "file", "line"};
+
+// "code" and what else stands around the record.
+std::optional<Node> AroundOf(const Item& item, std::string_view name, const EventOptions& options) {
+    if (name == "code") return Node::Unsigned(item.code);
+    if (name == "name") return Node::Text(item.name);
+    if (name == "size") return Node::Unsigned(item.size);
+    if (name == "action" && item.place != nullptr && !item.place->action.empty()) return Node::Text(item.place->action);
+    if (name == "index" && item.place != nullptr) return Node::Unsigned(item.place->index);
+    if (name == "file" && !options.file.empty()) return Node::Text(options.file);
+    if (name == "line" && !options.file.empty()) return Node::Unsigned(options.line);
+    return std::nullopt;
+}
+
+std::optional<Node> MemberOf(const Item& item, std::string_view path, const EventOptions& options) {
+    if (std::ranges::find(kAround, path) != std::end(kAround)) return AroundOf(item, path, options);
+    return PrintMember(*item.table, item.first, path, PrintOptions{options.all, options.brief});
+}
+
+// A text in a column; a code by its name.
+std::string CellOf(const std::optional<Node>& member) {
+    if (!member) return {};
+    const Node* const name = member->Find("code") != nullptr ? member->Find("name") : nullptr;
+    return name != nullptr ? name->Bare() : member->Bare();
+}
+
+std::string CsvCell(const std::string& text) {
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"') quoted += '"';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+std::vector<std::string> ColumnsOf(const EventOptions& options) {
+    std::vector<std::string> columns;
+    for (const std::string_view around : kAround)
+        if (around != "size") columns.emplace_back(around);
+    columns.insert(columns.end(), options.fields.begin(), options.fields.end());
+    return columns;
+}
+
+// Texts get a column of so many characters: what comes later is not known yet when the first row is printed.
+std::size_t WidthOf(std::string_view column) {
+    constexpr std::size_t kNames = 28, kTexts = 12;
+    if (column == "name") return kNames;
+    if (column == "file") return kTexts;
+    if (std::ranges::find(kAround, column) != std::end(kAround)) return std::max<std::size_t>(column.size(), 5);
+    const std::size_t dot = column.rfind('.');
+    const bool isNumber = column.substr(dot == std::string_view::npos ? 0 : dot + 1).starts_with('n');
+    return std::max(column.size(), isNumber ? std::size_t{6} : kTexts);
+}
+
+template <class CellAt>
+std::string Row(const EventOptions& options, const CellAt& cellAt) {
+    const auto columns = ColumnsOf(options);
+    std::string row;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const std::string cell = cellAt(columns[i]);
+        if (options.format == Format::Csv) {
+            row += (i > 0 ? "," : "") + CsvCell(cell);
+            continue;
+        }
+        const std::size_t width = WidthOf(columns[i]);
+        const bool isLast = i + 1 == columns.size();
+        const std::string shown = options.width > 0 && !isLast ? CutTo(Printable(cell), width) : Printable(cell);
+        row += (i > 0 ? "  " : "") + shown;
+        if (!isLast) row.append(width - std::min(width, Columns(shown)), ' ');
+    }
+    while (options.format == Format::Table && row.ends_with(' '))
+        row.pop_back();
+    return (options.format == Format::Table ? CutTo(row, options.width) : row) + "\n";
+}
 
 struct Shown {
     const EventOptions& options;
     std::vector<Place> places; // of the events that will be delivered
-    std::string out;
+    LineWriter& out;
     std::uint32_t count = 0;
     std::size_t next = 0; // of the places
     bool ranOut = false;
+
+    bool Takes(const Item& item) const;
+    void Add(const Item& item);
+    void AddLine(const Item& item);
+    void AddPretty(const Item& item);
 };
 
-// Members of the record, or those that were asked for.
-void AddRecord(Node& node, const record::Table& table, const std::byte* record, const EventOptions& options) {
-    Node whole = PrintRecord(table, record, PrintOptions{options.all, options.brief});
+bool Shown::Takes(const Item& item) const {
+    return std::ranges::all_of(options.filters, [&](const Filter& filter) {
+        const std::optional<Node> member = MemberOf(item, filter.path(), options);
+        return filter.Takes(member ? &*member : nullptr);
+    });
+}
+
+void Shown::AddLine(const Item& item) {
+    const PrintOptions print{options.all, options.brief};
+    out.Open(Brackets::Object);
+    const auto number = [&](std::string_view name, std::int64_t value) {
+        out.Key(name);
+        out.Integer(value);
+    };
+    const auto text = [&](std::string_view name, std::string_view value) {
+        out.Key(name);
+        out.Text(value);
+    };
+    number("code", item.code);
+    text("name", item.name);
+    number("size", item.size);
+    if (item.place != nullptr && !item.place->action.empty()) text("action", item.place->action);
+    if (item.place != nullptr) number("index", item.place->index);
+    if (!options.file.empty()) text("file", options.file);
+    if (!options.file.empty()) number("line", static_cast<std::int64_t>(options.line));
     if (options.fields.empty()) {
-        node.Add("record", std::move(whole));
-        return;
+        out.Key(item.isList ? "records" : "record");
+        if (item.isList)
+            AppendRecords(out, *item.table, item.first, item.count, print);
+        else
+            AppendRecord(out, *item.table, item.first, print);
     }
     for (const std::string& field : options.fields) {
-        const Node* const found = whole.Find(field);
-        node.Add(field, found == nullptr ? Node::Null() : *found);
+        if (std::ranges::find(kAround, field) != std::end(kAround)) continue;
+        const auto member = PrintMember(*item.table, item.first, field, print);
+        const std::string key = Quoted(Printable(field));
+        out.Key(std::string_view(key).substr(1, key.size() - 2));
+        out.Token(member ? member->OneLine() : "null");
     }
+    out.Close(Brackets::Object);
+    out.End();
 }
 
-void AddSource(Node& node, const EventOptions& options) {
-    if (options.file.empty()) return;
-    node.Add("file", Node::Text(Printable(options.file))).Add("line", Node::Unsigned(options.line));
-}
-
-Node EventNode(const events::EventRow& row, const std::byte* record, std::uint32_t size, const Place* place,
-               const EventOptions& options) {
-    Node event = Node::Object();
-    event.Add("code", Node::Unsigned(row.code)).Add("name", Node::Text(row.name)).Add("size", Node::Unsigned(size));
-    if (place != nullptr) {
-        if (!place->action.empty()) event.Add("action", Node::Text(Printable(place->action)));
-        event.Add("index", Node::Unsigned(place->index));
+void Shown::AddPretty(const Item& item) {
+    const PrintOptions print{options.all, options.brief};
+    Node node = Node::Object();
+    for (const std::string_view name : kAround)
+        if (auto around = AroundOf(item, name, options)) node.Add(name, std::move(*around));
+    if (options.fields.empty() && item.isList)
+        node.Add("records", PrintRecords(*item.table, item.first, item.count, print));
+    else if (options.fields.empty())
+        node.Add("record", PrintRecord(*item.table, item.first, print));
+    for (const std::string& field : options.fields) {
+        if (std::ranges::find(kAround, field) != std::end(kAround)) continue;
+        auto member = PrintMember(*item.table, item.first, field, print);
+        node.Add(field, member ? std::move(*member) : Node::Null());
     }
-    AddSource(event, options);
-    AddRecord(event, *row.table, record, options);
-    return event;
+    out.Append(node.Print(options.width == 0 ? Node::kWidest : options.width));
 }
 
-Node TypedNode(const events::TypedRow& row, const std::byte* record, std::uint32_t size, PrintOptions options) {
-    Node typed = Node::Object();
-    typed.Add("code", Node::Unsigned(row.code)).Add("name", Node::Text(row.name)).Add("size", Node::Unsigned(size));
-    if (row.isList)
-        typed.Add("records", PrintRecords(*row.table, record, size / row.table->size, options));
+void Shown::Add(const Item& item) {
+    const bool isRow = options.format == Format::Csv || options.format == Format::Table;
+    if (item.isList && (isRow || !options.fields.empty() || !options.filters.empty())) {
+        Item one = item;
+        one.isList = false;
+        for (std::size_t i = 0; i < item.count; ++i, one.first += item.table->size)
+            Add(one);
+        return;
+    }
+    if (!Takes(item)) return;
+    if (isRow)
+        out.Append(Row(options, [&](const std::string& column) { return CellOf(MemberOf(item, column, options)); }));
+    else if (options.format == Format::Pretty)
+        AddPretty(item);
     else
-        typed.Add("record", PrintRecord(*row.table, record, options));
-    return typed;
+        AddLine(item);
 }
 
 // The library knows no exceptions: none may pass through it.
@@ -84,16 +215,15 @@ std::int32_t Show(std::uint32_t type, const void* record, std::uint32_t size, vo
     ++shown.count;
     try {
         const auto* const bytes = static_cast<const std::byte*>(record);
-        const PrintOptions options{shown.options.all, shown.options.brief};
-        const events::TypedRow* const typed = events::FindTyped(type);
+        if (const events::TypedRow* const typed = events::FindTyped(type)) {
+            shown.Add({type, typed->name, size, nullptr, typed->table, bytes, typed->isList,
+                       typed->isList ? size / typed->table->size : 1});
+            return 0;
+        }
+        const events::EventRow& row = *events::FindEvent(type);
         const Place* const place = shown.next < shown.places.size() ? &shown.places[shown.next] : nullptr;
-        Node node = typed != nullptr ? TypedNode(*typed, bytes, size, options)
-                                     : EventNode(*events::FindEvent(type), bytes, size, place, shown.options);
-        if (typed != nullptr)
-            AddSource(node, shown.options);
-        else
-            ++shown.next;
-        shown.out += shown.options.pretty ? node.Print() : node.PrintLine();
+        ++shown.next;
+        shown.Add({row.code, row.name, size, place, row.table, bytes});
     } catch (const std::bad_alloc&) {
         shown.ranOut = true;
     }
@@ -163,7 +293,7 @@ namespace {
 std::vector<Place> PlacesOf(const Value& root) {
     constexpr std::size_t kMostEvents = 128;
     std::vector<Place> places;
-    std::string action;
+    std::string_view action;
     const auto events = root[root["Event"].isNull() ? "EventList" : "Event"].elements();
     for (std::uint32_t i = 0; i < std::min(events.size(), kMostEvents); ++i) {
         const auto code = static_cast<std::uint32_t>(RuleCodeFromName(events[i]["Code"].asString()));
@@ -181,7 +311,7 @@ std::vector<Place> PlacesOf(const Value& root) {
 // "FILE, text at line 7: ".
 std::string SourceOf(const EventOptions& options) {
     if (options.file.empty() || (options.file == "-" && options.line == 1)) return {};
-    return Printable(options.file) + ", text at line " + std::to_string(options.line) + ": ";
+    return options.file + ", text at line " + std::to_string(options.line) + ": ";
 }
 std::string WithSource(const std::string& notes, const std::string& source) {
     constexpr std::string_view kFront = "orrery: ";
@@ -201,19 +331,19 @@ std::string WithSource(const std::string& notes, const std::string& source) {
 
 } // namespace
 
-Result ShowEvents(std::string_view text, const EventOptions& options) {
+Result ShowEvents(std::string_view text, const EventOptions& options, LineWriter& out) {
     try {
         const Document document(text);
         const std::string source = SourceOf(options);
+        if (const std::string_view encoding = ForeignEncoding(text); !encoding.empty())
+            return {kRefused, {}, "orrery: " + source + NotUtf8(encoding) + "\n"};
         if (!document.ok) return {kRefused, {}, "orrery: " + source + ExplainSyntax(document) + "\n"};
-        const std::string terminated(document.text);
-        Shown shown{options, PlacesOf(document.root), {}};
-        const auto size = static_cast<std::uint32_t>(terminated.size());
+        Shown shown{options, PlacesOf(document.root), out};
         const bool isTyped = IsTyped(document.root);
         if (isTyped)
-            CLIENT_ParseDataByCallback(terminated.c_str(), size, Show, &shown);
+            DeliverTyped(std::string(document.text).c_str(), Show, &shown);
         else
-            CLIENT_ParseAnalyzerEventData(terminated.c_str(), size, Show, &shown);
+            DeliverEvents(document.root, document.text.size(), Show, &shown);
         if (shown.ranOut) throw std::bad_alloc();
         std::string notes;
         const Value& rules = document.root["VideoAnalyseRule"];
@@ -222,10 +352,27 @@ Result ShowEvents(std::string_view text, const EventOptions& options) {
         if (hasEvents || !isTyped) notes += Notes(document.root);
         const Value& events = document.root[document.root["Event"].isNull() ? "EventList" : "Event"];
         const bool isShape = isTyped || events.type() == json::Type::Array;
-        return {isShape ? kDone : kRefused, shown.out, WithSource(notes, source)};
+        return {isShape ? kDone : kRefused, {}, WithSource(notes, source)};
     } catch (const std::bad_alloc&) {
         return {kRefused, {}, "orrery: out of memory\n"};
     }
+}
+
+Result ShowEvents(std::string_view text, const EventOptions& options) {
+    LineWriter out;
+    Result result = ShowEvents(text, options, out);
+    result.out = Coloured(out.Take(), options);
+    return result;
+}
+
+std::string Coloured(std::string out, const EventOptions& options) {
+    const bool isObjects = options.format == Format::Lines || options.format == Format::Pretty;
+    return options.colour && isObjects ? ColouredJson(out) : out;
+}
+
+std::string EventHead(const EventOptions& options) {
+    if (options.format != Format::Csv && options.format != Format::Table) return {};
+    return Row(options, [](const std::string& column) { return column; });
 }
 
 } // namespace orrery::tool

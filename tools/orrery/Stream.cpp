@@ -1,6 +1,9 @@
 #include "orrery/Stream.h"
 
+#include "orrery/Input.h"
+#include "orrery/Jobs.h"
 #include "orrery/Output.h"
+#include "orrery/Terminal.h"
 #include "orrery/TextSplitter.h"
 
 #include <algorithm>
@@ -8,80 +11,164 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <mutex>
+#include <optional>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace orrery::tool {
 
 namespace {
 
+// Texts that came with one look at a file, or what there is to say about the file itself.
+struct Batch {
+    std::string file;
+    std::vector<TextSplitter::Piece> pieces{};
+    Result said{};
+};
+
 class Stream {
   public:
-    Stream(std::string name, const StreamOptions& options) : name_(std::move(name)), options_(options) {}
+    explicit Stream(const StreamOptions& options)
+        : options_(options), jobs_(
+                                 options.jobs, [this](const Batch& batch) { return ShowAll(batch); },
+                                 [this](const Result& result) { return Print(result); }) {}
 
-    int Run() {
-        const bool isInput = name_ == "-";
-        const int file = isInput ? STDIN_FILENO : open(name_.c_str(), O_RDONLY | O_CLOEXEC);
-        if (file < 0) return Complain("can't read", kUsage);
-        char chunk[1 << 16];
-        for (;;) {
-            const ssize_t got = read(file, chunk, sizeof chunk);
-            if (got < 0 && errno == EINTR) continue;
-            if (got < 0) {
-                exit_ = Complain("can't read", kUsage);
-                break;
-            }
-            if (got == 0) {
-                if (!options_.follow || isInput) break;
-                usleep(kPause);
-                continue;
-            }
-            splitter_.Feed({chunk, static_cast<std::size_t>(got)});
-            while (const auto piece = splitter_.Next()) {
-                if (!Show(*piece)) return kRefused;
-            }
-        }
-        while (const auto piece = splitter_.Rest()) {
-            if (!Show(*piece)) return kRefused;
-        }
-        if (!isInput) close(file);
+    int Run(const std::vector<std::string>& files) {
+        jobs_.Give({{}, {}, {kDone, EventHead(options_.events), {}}});
+        for (const std::string& file : files)
+            if (!Read(file)) break;
+        jobs_.Finish();
         return exit_;
     }
 
   private:
     static constexpr unsigned kPause = 200'000; // microseconds between two looks at a file that may have grown
 
-    int Complain(const char* what, int exit) {
-        std::fprintf(stderr, "orrery: %s %s: %s\n", what, name_ == "-" ? "standard input" : name_.c_str(),
-                     std::strerror(errno));
-        return exit;
-    }
     // False when nobody reads what is printed any more.
-    bool Show(const TextSplitter::Piece& piece) {
-        EventOptions options = options_.events;
-        options.file = name_;
-        options.line = piece.line;
-        const Result result = ShowEvents(piece.text, options);
-        const bool isWritten = std::fwrite(result.out.data(), 1, result.out.size(), stdout) == result.out.size()
-                               && std::fflush(stdout) == 0;
-        std::fputs(result.err.c_str(), stderr);
-        exit_ = std::max(exit_, result.exit);
-        if (!isWritten) std::fprintf(stderr, "orrery: can't write: %s\n", std::strerror(errno));
-        return isWritten;
+    bool Read(const std::string& name) {
+        const bool isInput = name == "-";
+        const int file = isInput ? STDIN_FILENO : open(name.c_str(), O_RDONLY | O_CLOEXEC);
+        if (file < 0) return Complain(name);
+        struct stat about {};
+        const bool isFile = fstat(file, &about) == 0 && S_ISREG(about.st_mode);
+        progress_.emplace(isInput ? "standard input" : Printable(name),
+                          isFile ? static_cast<std::uint64_t>(about.st_size) : 0, options_.progress);
+        const bool isWanted = ReadAll(name, file);
+        {
+            const std::lock_guard lock(printing_);
+            progress_.reset();
+        }
+        if (!isInput) close(file);
+        return isWanted;
     }
 
-    std::string name_;
+    bool ReadAll(const std::string& name, int file) {
+        TextSplitter splitter;
+        std::vector<char> chunk(kChunk);
+        std::uint64_t done = 0;
+        for (;;) {
+            const ssize_t got = read(file, chunk.data(), chunk.size());
+            if (got < 0 && errno == EINTR) continue;
+            if (got < 0) {
+                if (!Complain(name)) return false;
+                break;
+            }
+            if (got == 0) {
+                if (!options_.follow || file == STDIN_FILENO) break;
+                usleep(kPause);
+                continue;
+            }
+            const std::string_view bytes(chunk.data(), static_cast<std::size_t>(got));
+            if (done == 0 && !BeginsWell(name, bytes)) return true;
+            done += bytes.size();
+            splitter.Feed(bytes);
+            Batch batch{name};
+            while (auto piece = splitter.Next())
+                batch.pieces.push_back(std::move(*piece));
+            if (!batch.pieces.empty() && !jobs_.Give(std::move(batch))) return false;
+            const std::lock_guard lock(printing_);
+            progress_->Reached(done);
+        }
+        Batch batch{name};
+        while (auto piece = splitter.Rest())
+            batch.pieces.push_back(std::move(*piece));
+        return batch.pieces.empty() || jobs_.Give(std::move(batch));
+    }
+
+    // False for a file that holds no texts for devices.
+    bool BeginsWell(const std::string& name, std::string_view bytes) {
+        const std::string shown = name == "-" ? "standard input" : Printable(name);
+        if (bytes.starts_with(kByteOrderMark)) {
+            jobs_.Give(
+                {name,
+                 {},
+                 {kDone,
+                  {},
+                  "orrery: note: " + shown + " begins with a byte order mark, which is skipped: devices send none\n"}});
+            return true;
+        }
+        const std::string_view encoding = ForeignEncoding(bytes);
+        if (encoding.empty()) return true;
+        jobs_.Give({name, {}, {kRefused, {}, "orrery: " + shown + ": " + NotUtf8(encoding) + "\n"}});
+        return false;
+    }
+
+    bool Complain(const std::string& name) {
+        return jobs_.Give({name,
+                           {},
+                           {kUsage,
+                            {},
+                            "orrery: can't read " + (name == "-" ? "standard input" : Printable(name)) + ": "
+                                + std::strerror(errno) + "\n"}});
+    }
+
+    Result ShowAll(const Batch& batch) const {
+        try {
+            Result all = batch.said;
+            EventOptions options = options_.events;
+            options.file = Printable(batch.file);
+            LineWriter out;
+            for (const TextSplitter::Piece& piece : batch.pieces) {
+                options.line = piece.line;
+                const Result result = ShowEvents(piece.text, options, out);
+                all.exit = std::max(all.exit, result.exit);
+                all.err += result.err;
+            }
+            if (!batch.pieces.empty()) all.out += Coloured(out.Take(), options);
+            return all;
+        } catch (const std::bad_alloc&) {
+            return {kRefused, {}, "orrery: out of memory\n"};
+        }
+    }
+
+    bool Print(const Result& result) {
+        const std::lock_guard lock(printing_);
+        if (progress_ && !result.err.empty()) progress_->Clear();
+        const bool isWritten = std::fwrite(result.out.data(), 1, result.out.size(), stdout) == result.out.size()
+                               && std::fflush(stdout) == 0;
+        const int error = errno;
+        std::fputs(result.err.c_str(), stderr);
+        exit_ = std::max(exit_, result.exit);
+        if (isWritten) return true;
+        std::fprintf(stderr, "orrery: can't write: %s\n", std::strerror(error));
+        exit_ = std::max(exit_, kRefused);
+        return false;
+    }
+
+    static constexpr std::size_t kChunk = std::size_t{256} << 10;
+
     const StreamOptions& options_;
-    TextSplitter splitter_;
     int exit_ = kDone;
+    std::mutex printing_; // also of the bar
+    std::optional<Progress> progress_;
+    Jobs<Batch, Result> jobs_; // its threads end before the rest
 };
 
 } // namespace
 
 int StreamEvents(const std::vector<std::string>& files, const StreamOptions& options) {
-    int exit = kDone;
-    for (const std::string& file : files)
-        exit = std::max(exit, Stream(file, options).Run());
-    return exit;
+    return Stream(options).Run(files);
 }
 
 } // namespace orrery::tool

@@ -1,16 +1,37 @@
 #include "orrery/TextSplitter.h"
 
+#include "orrery/Input.h"
+
 #include <algorithm>
+#include <array>
 
 namespace orrery::tool {
 
 namespace {
 
 // Of the byte order: no text.
-constexpr std::string_view kMark = "\xEF\xBB\xBF";
+constexpr std::string_view kMark = kByteOrderMark;
 
 bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+// Bytes that tell something between quotes, and outside.
+using Bytes = std::array<bool, 256>;
+constexpr Bytes BytesOf(std::string_view all) {
+    Bytes bytes{};
+    for (const char c : all)
+        bytes[static_cast<unsigned char>(c)] = true;
+    return bytes;
+}
+constexpr Bytes kInText = BytesOf("\"\\\n");
+constexpr Bytes kOutside = BytesOf("\"{}[]\n");
+
+// Whether a value may stand behind this.
+bool MayFollow(std::string_view text) {
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return !text.empty() && (text.back() == ',' || text.back() == ':' || text.back() == '[');
 }
 
 } // namespace
@@ -19,7 +40,6 @@ void TextSplitter::Restart() {
     at_ = 0;
     depth_ = 0;
     begun_ = isLine_ = inText_ = escaped_ = false;
-    before_ = '\0';
 }
 
 void TextSplitter::Feed(std::string_view bytes) {
@@ -30,7 +50,8 @@ void TextSplitter::Feed(std::string_view bytes) {
 
 TextSplitter::Piece TextSplitter::Cut(std::size_t end) {
     Piece piece{buffer_.substr(begin_, end), line_};
-    line_ += static_cast<std::uint64_t>(std::count(piece.text.begin(), piece.text.end(), '\n'));
+    for (std::size_t at = 0; (at = piece.text.find('\n', at)) != std::string::npos; ++at)
+        ++line_;
     begin_ += end;
     Restart();
     while (!piece.text.empty() && IsBlank(piece.text.back()))
@@ -64,6 +85,10 @@ std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
         return std::nullopt;
     }
     for (; at_ < left.size(); ++at_) {
+        const Bytes& tells = inText_ ? kInText : kOutside;
+        while (!escaped_ && at_ < left.size() && !tells[static_cast<unsigned char>(left[at_])])
+            ++at_;
+        if (at_ == left.size()) break;
         const char c = left[at_];
         if (c == '\n') {
             if (at_ + 1 == left.size()) {
@@ -71,26 +96,19 @@ std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
                 continue;
             }
             // No value may begin here, so this one was cut off.
-            const bool mayFollow = !inText_ && (before_ == ',' || before_ == ':' || before_ == '[');
-            if (left[at_ + 1] == '{' && !mayFollow) return Cut(at_ + 1);
-            continue;
-        }
-        if (inText_) {
+            if (left[at_ + 1] == '{' && (inText_ || !MayFollow(left.substr(0, at_)))) return Cut(at_ + 1);
+        } else if (inText_) {
             if (escaped_)
                 escaped_ = false;
             else if (c == '\\')
                 escaped_ = true;
             else if (c == '"')
                 inText_ = false;
-            continue;
-        }
-        if (IsBlank(c)) continue;
-        before_ = c;
-        if (c == '"') {
+        } else if (c == '"') {
             inText_ = true;
         } else if (c == '{' || c == '[') {
             ++depth_;
-        } else if ((c == '}' || c == ']') && --depth_ == 0) {
+        } else if (--depth_ == 0) {
             return Cut(at_ + 1);
         }
     }

@@ -38,7 +38,6 @@ class TextSplitter {
     bool isLine_ = false; // with anything else: it ends with its line
     bool inText_ = false; // between quotes
     bool escaped_ = false;
-    char before_ = '\0'; // the last byte that is no blank
 };
 
 } // namespace orrery::tool

@@ -55,6 +55,10 @@ std::vector<std::string> RuleWords(const record::Table& table, const record::Fie
 // The same for people: "sets abLevel when present; written only when abLevel is set".
 std::vector<std::string> RuleSentences(const record::Table& table, const record::Field& field);
 
+// What a command does in each direction.
+std::vector<std::string> ParseSentences(const Command& command);
+std::vector<std::string> PackSentences(const Command& command);
+// The same in short words.
 std::string ParseWords(const Command& command);
 std::string PackWords(const Command& command);
 std::string FrameWord(Command::Frame frame);
