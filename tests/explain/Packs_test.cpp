@@ -1,10 +1,16 @@
 // What of records leaves no trace in their text is told, member by member, and nothing else is.
 #include "explain/Explained.h"
 
+#include "explain/Packs.h"
+#include "support/CallerMemory.h"
+#include "support/Specimens.h"
+#include "support/TableText.h"
+
 #include "orrery/access_control.h"
 #include "orrery/alarm_input.h"
 #include "orrery/device_settings.h"
 
+#include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
@@ -82,6 +88,32 @@ TEST(ExplainedRecords, TellWhyARecordIsRefused) {
               ORRERY_EXPLAIN_UNKNOWN_COMMAND);
     EXPECT_EQ(ORRERY_ExplainRecord("NTP", nullptr, sizeof ntp, Keep, &none), ORRERY_EXPLAIN_BAD_ARGUMENT);
     EXPECT_TRUE(none.empty());
+}
+
+// What is told of a record agrees with what its pack does, whatever the command.
+TEST(ExplainedRecords, OfEveryCommandAreRefusedWhereTheirPackIs) {
+    constexpr std::uint32_t kMostBytes = 32768; // larger ones take long
+    std::size_t packed = 0;
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs() || !command.parses() || command.table->size > kMostBytes) continue;
+        const std::uint32_t size = command.table->size;
+        const auto record = std::make_unique<std::byte[]>(size);
+        CallerMemory memory(4);
+        memory.PrepareBuffer(command, record.get(), size);
+        std::uint32_t length = 0;
+        const std::string reply = ReplyText(command);
+        RunParse(command, {reply.c_str(), record.get(), size, &length});
+        std::vector<char> text(std::size_t{1} << 20);
+        const bool isPacked =
+            RunPack(command, {record.get(), size, text.data(), static_cast<std::uint32_t>(text.size())})
+            == Outcome::Done;
+        const std::vector<std::byte> before(record.get(), record.get() + size);
+        const auto explained = explain::ExplainRecords(command, record.get(), size);
+        EXPECT_EQ(explained.isRefused, !isPacked) << command.name;
+        EXPECT_TRUE(std::equal(before.begin(), before.end(), record.get())) << command.name;
+        packed += isPacked;
+    }
+    EXPECT_GT(packed, 100u);
 }
 
 } // namespace

@@ -113,8 +113,12 @@ std::string DocOf(const Table& table, const Field& field) {
     const headers::Member* const member = headers::FindMember(table.record, field.name);
     if (member == nullptr) return {};
     std::string doc = member->doc;
-    if (field.key != nullptr && doc == Quoted(field.key)) return {};
-    if (field.key != nullptr && doc.starts_with(Quoted(field.key) + ": ")) doc.erase(0, Quoted(field.key).size() + 2);
+    if (field.key == nullptr) return doc;
+    std::string key = Quoted(field.key); // "A"."B", of the key A/B
+    for (std::size_t at = 0; (at = key.find('/', at)) != std::string::npos;)
+        key.replace(at, 1, "\".\"");
+    if (doc == key) return {};
+    if (doc.starts_with(key + ": ")) doc.erase(0, key.size() + 2);
     return doc;
 }
 

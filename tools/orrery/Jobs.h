@@ -19,7 +19,7 @@ class Jobs {
   public:
     Jobs(unsigned threads, std::function<Done(const Task&)> work, std::function<bool(const Done&)> hand)
         : work_(std::move(work)), hand_(std::move(hand)), most_(std::size_t{threads} * 4) {
-        for (unsigned i = 1; i < threads + (threads > 1 ? 1 : 0); ++i)
+        for (unsigned i = 0; threads > 1 && i < threads; ++i)
             threads_.emplace_back([this] { Run(); });
     }
     Jobs(const Jobs&) = delete;
