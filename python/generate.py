@@ -33,7 +33,7 @@ def safe(name: str) -> str:
 
 
 # What the module of records imports.
-IMPORTED = ("Array", "Bool", "Code", "Field", "Flagged", "Inside", "Listed", "Number", "PointedList", "PointedText",
+IMPORTED = ("Array", "Bool", "Code", "Field", "Flagged", "Inside", "Listed", "Mask", "Number", "PointedList", "PointedText",
             "Record", "Text", "List", "Optional", "Union")
 
 
@@ -77,6 +77,10 @@ class Generator:
         self.records = {record["name"]: record for record in schema["records"]}
         self.names = class_names(schema["records"])
         self.enumerations = {one["name"]: one for one in schema["enumerations"]}
+        fields = [field for record in schema["records"] for field in record["fields"] if field.get("enumeration")]
+        # Where every member that has its codes has them as bits.
+        self.masks = ({field["enumeration"] for field in fields if field.get("codesAre") == "bits"}
+                      - {field["enumeration"] for field in fields if field.get("codesAre") != "bits"})
         self.enumeration_names = {name: safe(camel(re.sub(r"^(CFG|EM|ORRERY)_", "", name)) + "Code")
                                   for name in self.enumerations}
         counts: Dict[str, int] = {}
@@ -89,13 +93,13 @@ class Generator:
     # ---- enumerations
 
     def enumerations_module(self) -> str:
-        out = ['"""Codes of members. Made by generate.py from the schema."""', "", "from enum import IntEnum", ""]
+        out = ['"""Codes of members. Made by generate.py from the schema."""', "", "from enum import IntEnum, IntFlag", ""]
         for name, one in self.enumerations.items():
             constants = one["constants"]
             prefix = os.path.commonprefix([constant["name"] + "_" for constant in constants]).rsplit("_", 1)[0] + "_"
             if len(constants) == 1:
                 prefix = name + "_"
-            out += ["", "class %s(IntEnum):" % self.enumeration_names[name],
+            out += ["", "class %s(%s):" % (self.enumeration_names[name], "IntFlag" if name in self.masks else "IntEnum"),
                     "    " + doc_of(one.get("doc", "") or name)]
             used: Set[str] = set()
             for constant in constants:
@@ -118,7 +122,10 @@ class Generator:
         if field.get("kind") == "bool" or field.get("kind") == "presence":
             return 'Bool("%s")' % form, "bool"
         enumeration = field.get("enumeration")
-        if enumeration in self.enumeration_names and field.get("codes"):
+        if enumeration in self.masks:
+            name = "enumerations." + self.enumeration_names[enumeration]
+            return 'Mask("%s", %s)' % (form, name), name
+        if enumeration in self.enumeration_names and field.get("codes") and field.get("codesAre") != "places":
             name = "enumerations." + self.enumeration_names[enumeration]
             return 'Code("%s", %s)' % (form, name), "Union[%s, int]" % name
         return 'Number[int]("%s")' % form, "int"
@@ -188,7 +195,7 @@ class Generator:
     def records_module(self) -> str:
         out = ['"""Records of commands, rules and events. Made by generate.py from the schema."""', "",
                "from typing import List, Optional, Union", "", "from . import _enumerations as enumerations",
-               "from ._memory import (Array, Bool, Code, Field, Flagged, Inside, Listed, Number, PointedList,",
+               "from ._memory import (Array, Bool, Code, Field, Flagged, Inside, Listed, Mask, Number, PointedList,",
                "                      PointedText, Record, Text)", ""]
         commands: Dict[str, List[str]] = {}
         writers: Dict[str, List[str]] = {}

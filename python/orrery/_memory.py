@@ -5,12 +5,13 @@ from __future__ import annotations
 import ctypes
 import locale
 import struct
-from enum import IntEnum
+from enum import IntEnum, IntFlag
 from typing import TYPE_CHECKING, Any, Callable, ClassVar, Generic, Iterator, List, Optional, Type, TypeVar, Union, overload
 
 T = TypeVar("T")
 R = TypeVar("R", bound="Record")
 E = TypeVar("E", bound=IntEnum)
+B = TypeVar("B", bound=IntFlag)
 F = TypeVar("F", bound="BaseField[Any]")
 
 Buffer = Union[bytearray, memoryview]
@@ -161,6 +162,21 @@ class Code(Codec[Union[E, int]]):
         return self._members.get(number, number)
 
     def put(self, record: Record, at: int, value: Union[E, int]) -> None:
+        self._number.put(record, at, int(value))
+
+
+class Mask(Codec[B]):
+    """Bits that stand for codes."""
+
+    def __init__(self, form: str, enumeration: Type[B]) -> None:
+        self._number = Number[int](form.upper())
+        self._enumeration = enumeration
+        self.size = self._number.size
+
+    def get(self, record: Record, at: int) -> B:
+        return self._enumeration(self._number.get(record, at))
+
+    def put(self, record: Record, at: int, value: B) -> None:
         self._number.put(record, at, int(value))
 
 

@@ -1,5 +1,6 @@
 """The package as a program uses it, and round trips of every command."""
 
+import enum
 import json
 import threading
 from typing import Any, List
@@ -115,6 +116,18 @@ def test_several_records_and_size_words() -> None:
     groups = orrery.parse_all("StorageGroup", reply([{"Name": "ReadWrite"}, {"Name": "Redundant"}]))
     assert [group.name for group in groups] == ["ReadWrite", "Redundant"]
     assert [group["Name"] for group in json.loads(orrery.pack(list(groups)))] == ["ReadWrite", "Redundant"]
+
+
+def test_bits_are_flags() -> None:
+    text = json.dumps({"Event": [{"Code": "TrafficJunction", "Data": {"Breaking": ["RunRedLight", "OverLine"]}}]})
+    junction = next(orrery.events(text)).record
+    assert isinstance(junction, records.TrafficjunctionEvent)
+    assert isinstance(junction.breaking_rule, enum.IntFlag)
+    assert bin(junction.breaking_rule).count("1") == 2
+    one = type(junction.breaking_rule)(1)
+    junction.breaking_rule = one | type(one)(1 << 31)  # a bit without a name stays
+    assert junction.breaking_rule == 0x80000001
+    assert one in junction.breaking_rule
 
 
 def test_templates() -> None:
