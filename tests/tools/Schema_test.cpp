@@ -1,11 +1,13 @@
 // The schema against what the compiler itself says of the public headers: its debug information.
 #include "orrery/Documents.h"
+#include "orrery/Schema.h"
 #include "tools/DebugInfo.h"
 
 #include "Commands.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
 
+#include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <json/json.h>
@@ -84,7 +86,7 @@ std::string TypeInSchema(const Json::Value& field) {
     std::string type = field["type"].asString();
     if (field.isMember("to")) {
         const std::string to = field["to"].asString();
-        type += to == "i32" ? ":int" : to == "u32" ? ":unsigned int" : ":" + to;
+        type += to == "i32" ? ":int" : to == "u32" ? ":unsigned int" : to == "u8" ? ":unsigned char" : ":" + to;
     }
     const bool isBytes = field["bytes"].asBool(); // the record is only the first of what stands there
     if (field.isMember("record")) type += ":" + (isBytes ? "unsigned char" : field["record"].asString());
@@ -126,6 +128,81 @@ TEST(Schema, AgreesWithTheDebugInformation) {
             EXPECT_TRUE(listed.contains(member)) << name << "." << member << " is not in the schema";
     }
     EXPECT_GT(compared, 200U);
+}
+
+// Takes a group of words apart: a new one does not compile here until it is asked for below.
+void AllWordsAreAskedFor() {
+    [[maybe_unused]] const auto [always, only, anyShape, exactly, zeroed, allOrNone, counted, nulls, refused,
+                                 readCondition, firstBytes, atLeast, owned, toBytes, failure] = record::ReadingWords{};
+    [[maybe_unused]] const auto [trueAtOne, hasUnless, unless, notNegative, atMost, condition, when, untilEmpty,
+                                 linkage, empty, skipped, unlessBare, keepsObject, fullCapacity] =
+        record::WritingWords{};
+    [[maybe_unused]] const auto [count, countUncapped, capacity, lent, single, keyed, amongKeys] = record::ListWords{};
+}
+
+TEST(Schema, TellsEachWordOfARow) {
+    using record::Field;
+    AllWordsAreAskedFor();
+    const record::Table& table = *FindCommand("Alarm")->table;
+    const Field number = *std::find_if(table.begin(), table.end(),
+                                       [](const Field& row) { return std::string_view(row.name) == "nPole"; });
+    const record::Slot slot{0, record::Cell::I32};
+    Field counted = number;
+    counted.count = slot;
+    Field pointer = number;
+    pointer.cell = record::Cell::Pointer;
+    pointer.table = &table;
+    pointer.count = pointer.capacity = slot;
+    const auto differs = [&](const Field& plain, const char* word, auto set) {
+        Field field = plain;
+        set(field);
+        EXPECT_NE(RowNode(table, field).Print(), RowNode(table, plain).Print()) << word;
+    };
+    // `failure` alone is no word of the text: what the log hears.
+    differs(number, "always", [](Field& row) { row.always = true; });
+    differs(number, "only", [](Field& row) { row.only = record::OnlyType::String; });
+    differs(number, "anyShape", [](Field& row) { row.anyShape = true; });
+    differs(number, "exactly", [](Field& row) { row.exactly = true; });
+    differs(number, "zeroed", [](Field& row) { row.zeroed = true; });
+    differs(number, "allOrNone", [](Field& row) { row.allOrNone = true; });
+    differs(counted, "counted", [](Field& row) { row.counted = true; });
+    differs(number, "nulls", [](Field& row) { row.nulls = record::Nulls::Stop; });
+    differs(number, "refused", [](Field& row) { row.refused = record::Nulls::CloseUp; });
+    differs(number, "readCondition", [&](Field& row) { row.readCondition = slot; });
+    differs(number, "firstBytes", [](Field& row) { row.firstBytes = 16; });
+    differs(number, "atLeast", [](Field& row) { row.atLeast = 2; });
+    differs(pointer, "owned", [](Field& row) { row.owned = true; });
+    differs(pointer, "toBytes", [](Field& row) { row.toBytes = true; });
+    differs(number, "trueAtOne", [](Field& row) { row.trueAtOne = true; });
+    differs(number, "unless", [](Field& row) { row.hasUnless = true; });
+    differs(number, "notNegative", [](Field& row) { row.notNegative = true; });
+    differs(number, "atMost", [](Field& row) { row.atMost = 9; });
+    differs(number, "condition", [&](Field& row) { row.condition = slot; });
+    differs(number, "when", [](Field& row) { row.when = [](const std::byte*) { return true; }; });
+    differs(number, "untilEmpty", [](Field& row) { row.untilEmpty = true; });
+    differs(number, "linkage", [](Field& row) { row.linkage = true; });
+    differs(number, "empty", [](Field& row) { row.empty = record::Empty::Null; });
+    differs(number, "skipped", [](Field& row) { row.skipped = record::Skipped::Hole; });
+    differs(number, "unlessBare", [](Field& row) { row.unlessBare = true; });
+    differs(number, "keepsObject", [](Field& row) { row.keepsObject = true; });
+    differs(number, "fullCapacity", [](Field& row) { row.fullCapacity = true; });
+    differs(number, "count", [&](Field& row) { row.count = slot; });
+    differs(counted, "countUncapped", [](Field& row) { row.countUncapped = true; });
+    differs(number, "capacity", [&](Field& row) { row.capacity = slot; });
+    differs(counted, "lent", [&](Field& row) { row.capacity = slot, row.lent = true; });
+    differs(pointer, "single", [](Field& row) { row.single = true; });
+    differs(number, "keyed", [](Field& row) { row.keyed = true; });
+    differs(number, "amongKeys", [](Field& row) { row.amongKeys = true; });
+    differs(number, "default", [](Field& row) { row.hasDefault = true; });
+    differs(number, "flag", [&](Field& row) { row.flag = slot; });
+    differs(number, "readable", [](Field& row) { row.readable = false; });
+    differs(number, "writable", [](Field& row) { row.writable = false; });
+    differs(number, "fromRoot", [](Field& row) { row.fromRoot = true; });
+    differs(number, "writtenAs", [](Field& row) { row.writtenAs = record::Kind::Bool; });
+    // Lent is not what the caller's room is.
+    Field room = counted;
+    room.capacity = slot;
+    differs(room, "lent", [](Field& row) { row.lent = true; });
 }
 
 } // namespace

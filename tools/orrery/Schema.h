@@ -27,6 +27,8 @@ void AddCodes(Node& node, std::string_view record, const record::Field& field);
 
 // All records with their fields; where several tables describe a record, its forms.
 Node RecordNodes(const Tables& tables);
+// What one row says of the text.
+Node RowNode(const record::Table& table, const record::Field& field);
 // Adds "record" and, where the record has several forms, "form".
 void AddRecord(Node& node, const Tables& tables, const record::Table& table, std::string_view key = "record");
 

@@ -263,6 +263,12 @@ void AddFields(Node& node, const Tables& tables, const Table& table, const std::
 
 } // namespace
 
+Node RowNode(const Table& table, const Field& field) {
+    Node node = Node::Object();
+    AddRow(node, table, field);
+    return node;
+}
+
 void AddRecord(Node& node, const Tables& tables, const Table& table, std::string_view key) {
     node.Add(key, Node::Text(table.record));
     if (tables.Of(table.record).size() > 1)
