@@ -4,9 +4,9 @@
  *
  * Every function answers non-zero for success and 0 for failure, and says nothing more.
  *
- * Stack: a parse needs at most 40 KB of it, a pack 28 KB, events 56 KB up to their callback, which has what is left: 96
- * KB hold events whose callback parses a configuration. The C library takes its own when it loads a converter of
- * texts, at the first text under a locale that needs one. */
+ * Stack: a parse needs at most 40 KB of it, a pack 28 KB, events 56 KB up to their callback, which has what is left, a
+ * typed text 72 KB: 96 KB hold events whose callback parses a configuration, 112 KB a typed text's. The C library takes
+ * its own when it loads a converter of texts, at the first text under a locale that needs one. */
 #ifndef ORRERY_ORRERY_H
 #define ORRERY_ORRERY_H
 
