@@ -145,11 +145,12 @@ TEST(ExplainExports, CommandsOfOneTableAreToldEach) {
 }
 
 TEST(ExplainExports, CommandsThatRefuseComeLastAndReadNothingOfARefusedCall) {
-    // The channel is read though the list beside it is missing, which fails the call.
+    // A rule of no known type fails the call, and others read lists of things with names.
     Fits fits;
-    fits.Find(R"({"result":true,"channel":3,"params":{}})");
-    ASSERT_LT(fits.PlaceOf("EncodeEncrypt"), fits.names.size());
-    EXPECT_EQ(fits.all[fits.PlaceOf("EncodeEncrypt")].bRefused, 1);
+    fits.Find(R"({"result":true,"params":{"table":[{"Type":"CrossLineDetection","Name":"n"},{"Type":"NoSuchRule"}]}})");
+    ASSERT_LT(fits.PlaceOf("VideoAnalyseRule"), fits.names.size());
+    EXPECT_EQ(fits.all[fits.PlaceOf("VideoAnalyseRule")].bRefused, 1);
+    EXPECT_EQ(fits.all.front().bRefused, 0);
     EXPECT_TRUE(std::is_sorted(fits.all.begin(), fits.all.end(), [](const ORRERY_FIT& left, const ORRERY_FIT& right) {
         return left.bRefused < right.bRefused;
     }));
