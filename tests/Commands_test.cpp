@@ -2,31 +2,18 @@
 // told here once more, from the commands' side.
 #include "Commands.h"
 #include "support/CommandCalls.h"
+#include "support/CommandNames.h"
 #include "support/Specimens.h"
 #include "support/TableText.h"
 
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
-#include <set>
 
 namespace orrery {
 namespace {
 
 using namespace test;
-
-using Names = std::set<std::string_view>;
-
-// The words of a line.
-Names NamesIn(std::string_view line) {
-    Names names;
-    while (!line.empty()) {
-        const std::string_view name = line.substr(0, line.find(' '));
-        names.insert(name);
-        line.remove_prefix(std::min(name.size() + 1, line.size()));
-    }
-    return names;
-}
 
 // Commands whose reply is read though the device refused the call.
 const Names kReadWhenRefused =
@@ -62,7 +49,7 @@ const Names kLosesItsNewline =
             "MCSGeneralCapacityResume MCSDataNodeOnline MCSDiskOnline MCSMetadataSlaveOnline "
             "MCSCatalogServerOnline EncodeEncrypt VideoAnalyseGlobal");
 const Names kLosesItsTerminator =
-    NamesIn("SnapInfo VideoInMetering VideoInOptions AutoStartupDelay VideoInExposure FishEye VideoInDefog "
+    NamesIn("VideoInMetering VideoInOptions AutoStartupDelay VideoInExposure FishEye VideoInDefog "
             "NvrEncrypt StroboscopicLamp VideoInBacklight");
 // Commands that write nothing behind their text.
 const Names kEndsWithItsText =
@@ -70,6 +57,31 @@ const Names kEndsWithItsText =
             "VideoDiagnosisRealProject VideoDiagnosisGlobal videoDiagnosisServer.getCaps");
 // Commands whose text must leave a byte more than its terminator.
 const Names kLeavesAByte = {"PtzPreset", "VideoInZoom", "VideoInFocus"};
+
+// Commands that a missing value is no failure to: with a length of 0, with the length as it was, and with what an empty
+// object gives. So is one to all of the generic frame.
+const Names kNoneIsNoLength =
+    NamesIn("Encode EncodePlan SmartEncode CANFilter VideoOut VideoColor ChannelTitle VideoWidget MonitorWall "
+            "VideoOutputComposite DisplaySource RecordSource MonitorCollection MonitorTour Record Raid StorageGroup "
+            "RemoteChannel RemoteDevice netApp.getCaps VideoInAnalyseRule");
+const Names kNoneLeavesTheLength = NamesIn(
+    "NvrEncrypt StroboscopicLamp VideoInOptions VideoInBacklight VideoInDefog VideoInZoom VideoInFocus PtzPreset");
+const Names kNoneIsEmpty =
+    NamesIn("MotionDetect Network encode.getCaps encode.getNAACaps encode.getCropCaps OSDManager.getCaps "
+            "OSDManager.getCustomCaps DspEncodeCap VideoInExposure VideoInMetering FishEye devVideoInput.getCaps "
+            "devVideoInput.getCapsEx PtzTour SplitTour SpotMatrix InfraredBoardTemplate InfraredBoard "
+            "ptz.getCurrentProtocolCaps ptz.getProtocol ptz.factory.instance capsManager.get&MasterSlaveTracker "
+            "masterSlaveTracker.factory.getCollect RaidGroup StoragePoolGroup StoragePositionGroup VideoAnalyseGlobal "
+            "SnapSource devVideoAnalyse.getCaps devVideoAnalyse.getCapsEx devAudioAnalyse.getCaps "
+            "intelli.getCaps.AnalyseMode intelli.getVideoAnalyseDeviceChannels devVideoAnalyse.factory.getCollect "
+            "videoDiagnosisServer.factory.getCollect netApp.getRemoteDeviceStatus system.listService "
+            "eventManager.getCaps capsManager.get&EventManagerEventHandler RecordFinder.getCaps "
+            "magicBox.getDeviceClass userManager.getActiveUserInfoAll");
+// Commands that take a reply without "result", but not one whose "result" refuses.
+const Names kReadWithoutResult =
+    NamesIn("SnapInfo WaterMark Ptz PtzAutoMovement devVideoInput.getCaps capsManager.get&MasterSlaveTracker "
+            "devAudioAnalyse.getCaps speak.getCaps VideoAnalyseGlobal VideoAnalyseModule VideoDiagnosisProfile "
+            "VideoDiagnosisTask VideoDiagnosisTask.x VideoDiagnosisProject");
 
 // Commands of the generic frame.
 struct Generics {
@@ -115,6 +127,48 @@ TEST(Commands, ARefusedCallIsReadByTheseOnly) {
         const bool isRead = kReadWhenRefused.contains(command.name);
         EXPECT_EQ(outcome, isRead ? Outcome::Done : Outcome::Refused) << command.name << refused;
         EXPECT_EQ(second.length() != 0, isRead) << command.name;
+    }
+}
+
+TEST(Commands, AMissingResultIsNoRefusalToTheseOnly) {
+    for (const Command& command : Commands()) {
+        if (!command.parses() || kReadWhenRefused.contains(command.name)) continue;
+        JsonTree reply = ReplyTree(command, {.most = 1, .records = 1});
+        reply.At("result") = JsonTree("null");
+        ParseCalls calls(command);
+        const bool isRead = kReadWithoutResult.contains(command.name);
+        EXPECT_EQ(calls.Run(reply.Text().c_str()), isRead ? Outcome::Done : Outcome::Refused) << command.name;
+    }
+}
+
+TEST(Commands, AMissingValueIsNoFailureToTheseOnly) {
+    for (const Command& command : Commands()) {
+        if (command.parse != Command::Frame::Family) continue;
+        // Some take "params" itself when there is no "caps" in it.
+        const std::string reply = command.parseFrame.source == Source::CapsOrParams
+                                      ? R"({"result":true})"
+                                      : Envelope(command, JsonTree("null")).Text();
+        ParseCalls calls(command);
+        const Outcome outcome = calls.Run(reply.c_str());
+        const std::uint32_t length = calls.length();
+        if (kNoneIsNoLength.contains(command.name) || kNoneLeavesTheLength.contains(command.name)) {
+            EXPECT_EQ(outcome, Outcome::Done) << command.name;
+            EXPECT_EQ(length, 0u) << command.name;
+        } else if (kNoneIsEmpty.contains(command.name)) {
+            EXPECT_EQ(outcome, Outcome::Done) << command.name;
+            EXPECT_EQ(length, command.table->size) << command.name;
+        } else {
+            EXPECT_EQ(outcome, Outcome::NoValue) << command.name;
+            EXPECT_EQ(length, 0u) << command.name;
+        }
+        // Whether the length is told.
+        if (command.table->hasSizeWords || HasPointers(*command.table)) continue;
+        std::vector<std::byte> buffer(command.table->size);
+        std::uint32_t told = 12345;
+        RunParse(command, {reply.c_str(), buffer.data(), command.table->size, &told});
+        const bool isTold = (outcome == Outcome::Done && !kNoneLeavesTheLength.contains(command.name))
+                            || command.name == "WorkState"; // also when the call fails
+        EXPECT_EQ(told, isTold ? length : 12345u) << command.name;
     }
 }
 

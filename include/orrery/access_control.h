@@ -2,8 +2,9 @@
  * work modes, texts on the display.
  *
  * Commands of one record or a list ("AccessControl", "AccessTimeSchedule", "AccessWorkMode") take an object as one
- * record and an array as a record an element; an empty array fails as a missing table does. They tell the bytes of the
- * records read, and write a bare record when exactly one fits the size, else a list of those that fit.
+ * record and an array as a record an element, in which a null is a record without keys; other types and an empty array
+ * fail as a missing table does. They tell the bytes of the records read, and write a bare record when exactly one fits
+ * the size, else a list of those that fit.
  *
  * Texts of all commands must be shorter than their buffer. Keys that are absent leave 0 unless told otherwise. */
 #ifndef ORRERY_ACCESS_CONTROL_H
@@ -54,7 +55,7 @@ typedef struct CFG_ACCESS_DOOR_PLAN {
     char szTimeSection[128]; /* "TimeSection": a section, in the text form of CFG_TIME_SECTION as a rule */
 } CFG_ACCESS_DOOR_PLAN;
 
-/* "AccessControl": one door. A null among the doors of a list reads as a door without keys. */
+/* "AccessControl": one door. */
 typedef struct CFG_ACCESS_CONTROL_INFO {
     char szName[128];            /* "Name" */
     int32_t emState;             /* "State": CFG_ACCESS_STATE_..., -1 absent */

@@ -1,6 +1,7 @@
 /* What a device watches: alarm inputs, network alarms, motion, video loss, blinded cameras, storage and network faults.
  *
- * A text of exactly the capacity is taken and loses its newline, but for "MotionDetect" and "ExAlarm". */
+ * All but "MotionDetect" are read from the reply of a refused call too. A text of exactly the capacity is taken and
+ * loses its newline, but for "MotionDetect" and "ExAlarm". */
 #ifndef ORRERY_ALARM_INPUT_H
 #define ORRERY_ALARM_INPUT_H
 
@@ -82,8 +83,8 @@ typedef struct CFG_MOTION_REGION_WINDOW {
                                                                  leftmost cell in its highest bit of nCol */
 } CFG_MOTION_REGION_WINDOW;
 
-/* "MotionDetect". A pack that fails leaves the text buffer as it was, and one that succeeds what is behind the
- * terminator. */
+/* "MotionDetect". A missing table reads as an empty one. A pack that fails leaves the text buffer as it was, and one
+ * that succeeds what is behind the terminator. */
 typedef struct CFG_MOTION_DETECT_INFO {
     int32_t nChannel; /* in no text; for the client's own use */
     int32_t bEnable;  /* "Enable" */

@@ -32,7 +32,8 @@ extern "C" {
 /* "VideoAnalyseRule", "AudioAnalyseRule", "IVSFramRule" (read only): the descriptor of a rule buffer; bufferSize and
  * recordSize of the calls are its size. Reading: pRuleBuf and nRuleLen are the caller's and stay. When the reply holds
  * more than fits, or a rule of a type that is not known, the call gives 0 and nRuleCount stays too; the buffer is
- * untouched when it is too small, and is cleared whole before the first rule is read. No "table" gives no rule.
+ * untouched when it is too small, and is cleared whole before the first rule is read. No "table" gives no rule;
+ * "result" is not looked at.
  * Writing: items as above; nRuleSize may be larger than the type's record, never smaller. No rules give the empty list,
  * also for a negative count or a null pRuleBuf, but then the call gives 0 and leaves `[  ]` with a newline. The text
  * may fill its buffer to the last byte, where the terminator takes the place of its newline. */

@@ -1,4 +1,7 @@
-/* Settings of a device's own alarms: bells, sound, events of devices behind it, things on the internet. */
+/* Settings of a device's own alarms: bells, sound, events of devices behind it, things on the internet.
+ *
+ * "One record or a list" is a record an element of a list, or one record from an object: other types and an empty list
+ * are refused. One whole record is written bare, several as a list. */
 #ifndef ORRERY_DEVICE_ALARM_H
 #define ORRERY_DEVICE_ALARM_H
 

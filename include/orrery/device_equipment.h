@@ -69,7 +69,8 @@ typedef struct CFG_LAMP {
     int32_t nAngle;  /* "Angle": of the beam, 0 to 100 */
 } CFG_LAMP;
 
-/* "Lighting": lamps of a camera, one record or a list, one a channel. Lists of lamps without an entry are not
+/* "Lighting": lamps of a camera, one record or a list, one a channel: an object is one record; other types and an empty
+ * list are refused. One whole record is written bare, several as a list. Lists of lamps without an entry are not
  * written. */
 typedef struct CFG_LIGHTING_INFO {
     int32_t bEnable;                     /* "Enable" */

@@ -34,7 +34,8 @@ typedef struct CFG_NET_COLLECTION_INFO {
 
 #define ORRERY_RTMP_CHANNELS 64
 
-/* "RTMP": a server that streams are pushed to, one record or a list. */
+/* "RTMP": a server that streams are pushed to, one record or a list: a record an element, or one from an object; other
+ * types and an empty list are refused. One whole record is written bare, several as a list. */
 typedef struct CFG_RTMP_INFO {
     int32_t bEnable;                              /* "Enable" */
     char szAddress[256];                          /* "Address": IP address or host name */

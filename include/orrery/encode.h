@@ -5,7 +5,9 @@
  * "CompressPlay".
  *
  * Commands of one record or a list ("Encode", "EncodeAdapt", "SmartEncode", "CompressPlay") write a bare record when
- * the size is that of one record, else a list of those that fit. Keys that are absent leave 0 unless told otherwise. */
+ * the size is that of one record, else a list of those that fit. An empty list is as good as a missing table; of
+ * "EncodeAdapt" and "CompressPlay" tables of other types are refused. Keys that are absent leave 0 unless told
+ * otherwise. */
 #ifndef ORRERY_ENCODE_H
 #define ORRERY_ENCODE_H
 
@@ -161,7 +163,8 @@ typedef struct CFG_ENCODE_FORMAT {
 #define ORRERY_ENCODE_FORMATS 4
 
 /* "Encode": the formats of one channel. A reply whose top-level "channel" is negative holds a list of records, any
- * other one record. A count is that of the list in the text, even above the 4 that are kept; writing ends at 4. */
+ * other one record. A missing table succeeds with a length of 0 and changes nothing. A count is that of the list in the
+ * text, even above the 4 that are kept; writing ends at 4. */
 typedef struct CFG_ENCODE_INFO {
     int32_t nChannel;       /* the reply's top-level "channel", of a list of records the index; not written */
     char szChannelName[64]; /* in no text; for the client's own use */
@@ -175,7 +178,9 @@ typedef struct CFG_ENCODE_INFO {
     uint32_t nFormatVersion; /* layout of the formats: reading sets 3 */
 } CFG_ENCODE_INFO;
 
-/* "EncodePlan": one planned encoding, of a list. Entries that are off stand as null in the text. */
+/* "EncodePlan": one planned encoding, of a list, a record an entry. Read from the reply of a refused call too; a table
+ * that is missing or no list succeeds with a length of 0. Written is always a list, in which entries that are off stand
+ * as null. */
 typedef struct CFG_ENCODE_PLAN_INFO {
     uint32_t bEnable;      /* 1 when the list has an entry at this place; only such entries are written */
     uint32_t nExpectTime;  /* "ExpectTime": days of recording that the disks are to hold */
@@ -206,7 +211,8 @@ typedef struct CFG_ENCODE_ADAPT_INFO {
     int32_t emFluencyMode; /* "FluencyMode": CFG_FLUENCY_MODE, 0 when absent */
 } CFG_ENCODE_ADAPT_INFO;
 
-/* "SmartEncode": encoding that spends bits where something moves, one record or a list. */
+/* "SmartEncode": encoding that spends bits where something moves: a list, or one record from any other value. A missing
+ * table succeeds with a length of 0. */
 typedef struct CFG_SMART_ENCODE_INFO {
     uint32_t bEnable; /* "Enable" */
     uint32_t dwReserved[64];
@@ -247,7 +253,8 @@ typedef struct CFG_ENCRYPT_ITEM {
     NET_TIME_V2 stuTime;     /* "Time": since when the key is in use; the caller sets its dwSize to 28 beforehand */
 } CFG_ENCRYPT_ITEM;
 
-/* "EncodeEncrypt": encryption of a channel's streams, in an array of the caller's. */
+/* "EncodeEncrypt": encryption of a channel's streams, in an array of the caller's. Read from the reply of a refused
+ * call too. A missing table fails; one that is no list succeeds with the length not set. */
 typedef struct CFG_ENCODE_ENCRYPT_INFO {
     int32_t nChannel;            /* the reply's "channel", 0 when absent, also of a reply without table; not written */
     CFG_ENCRYPT_ITEM* pstuItems; /* input: the caller's array; null has room for nothing */
@@ -269,7 +276,8 @@ typedef struct CFG_NVR_ENCRYPT_ITEM {
 
 /* "NvrEncrypt": encryption between camera and recorder. A list of lists fills a record a list, if all of them fit, and
  * tells a length of 0 all the same; a plain list fills one. A record is cleared only when it is read. Only a single
- * record is written: several give the text "null". */
+ * record is written: several give the text "null". A table of another type, a missing one and an empty list succeed
+ * with the length not set. */
 typedef struct CFG_NVR_ENCRYPT_INFO {
     int32_t nChannel; /* the reply's "channel", 0 when absent, in the first record, whatever the reply's table; not
                          written, but -1 puts the list into an outer list */
@@ -299,7 +307,7 @@ typedef struct CFG_STROBOSCOPIC_LAMP {
 } CFG_STROBOSCOPIC_LAMP;
 
 /* "StroboscopicLamp": flash lamps of a traffic camera. The length of a reply is this whole record's times nCount, which
- * may be more than was filled. */
+ * may be more than was filled. A missing table succeeds with the length not set. */
 typedef struct CFG_STROBOSCOPIC_LAMP_INFO {
     uint32_t nCount;                                     /* lamps in use, at most 8 */
     CFG_STROBOSCOPIC_LAMP stuLamps[ORRERY_STROBE_LAMPS]; /* the list itself */

@@ -386,8 +386,8 @@ typedef struct CFG_CALIBRATE_SCENE_INFO {
 
 /* "VideoAnalyseCalibrate": calibration at each position of a camera that moves. Entries are read in place: what the
  * text does not tell keeps the caller's value. Null pScenes gives 0, and so does a table that is no list, or has an
- * element that is no object; a null element is one without keys. Written is always a list; null pScenes gives 0 when
- * nRet is above 0. */
+ * element that is no object; a null element is one without keys. "result" is not looked at. Written is always a list;
+ * null pScenes gives 0 when nRet is above 0. */
 typedef struct CFG_VIDEOANALYSE_CALIBRATE_INFO {
     int32_t nMax;                      /* room at pScenes, set before reading, and before writing too */
     int32_t nRet;                      /* entries in use: those of the list, at most nMax */

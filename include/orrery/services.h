@@ -77,7 +77,7 @@ typedef struct CFG_EVENTHANDLER_CAPS_INFO {
     int32_t bMonitorTourEnable; /* "MonitorTourEnable": tours channels on a monitor */
 } CFG_EVENTHANDLER_CAPS_INFO;
 
-/* "RecordFinder.getCaps", from the reply's "caps". */
+/* "RecordFinder.getCaps", from the reply's "caps". A missing one reads as an empty one. */
 typedef struct CFG_RECORD_FINDER_CAPS {
     int32_t nMaxPageSize; /* "MaxPageSize": most entries that a page of a query may have */
 } CFG_RECORD_FINDER_CAPS;
@@ -134,7 +134,7 @@ typedef enum CFG_DEVICE_CLASS {
     CFG_DEVICE_CLASS_COUNT
 } CFG_DEVICE_CLASS;
 
-/* "magicBox.getDeviceClass": what kind of device it is, from the reply's "type". */
+/* "magicBox.getDeviceClass": what kind of device it is, from the reply's "type". A missing one is no failure. */
 typedef struct CFG_DEVICE_CLASS_INFO {
     int32_t emDeviceClass; /* the value itself: CFG_DEVICE_CLASS, 0 for every other text or type */
 } CFG_DEVICE_CLASS_INFO;
