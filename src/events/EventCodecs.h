@@ -15,35 +15,22 @@ namespace orrery::events {
 
 using namespace record;
 
-// A codec that is a function of its own, tied to the member types that it takes. `whole`: it takes an array at once.
-#define ORRERY_EVENT_CODEC(word, function, condition)                                                                  \
-    extern const CustomCodec function;                                                                                 \
-    struct word##Codec {                                                                                               \
-        static constexpr Kind kind = Kind::Custom;                                                                     \
-        static constexpr bool wholeMember = true;                                                                      \
-        template <class T>                                                                                             \
-        static constexpr bool accepts = condition;                                                                     \
-        const CustomCodec* codec = &function;                                                                          \
-    };                                                                                                                 \
-    inline constexpr word##Codec word {}
-
 // [ r, g, b, a ] with the first in the highest byte.
-ORRERY_EVENT_CODEC(PackedColor, kPackedColor, (std::is_same_v<T, std::uint32_t>));
+FUNCTION_CODEC(PackedColor, kPackedColor, (std::is_same_v<T, std::uint32_t>));
 // A real without its fraction, cut to the field's width.
-ORRERY_EVENT_CODEC(WholeReal, kWholeReal, kIsInteger<T>);
+FUNCTION_CODEC(WholeReal, kWholeReal, kIsInteger<T>);
 // [ degrees, minutes, seconds ] in millionths of a degree.
-ORRERY_EVENT_CODEC(Degrees, kDegrees, (std::is_same_v<T, std::uint32_t> || std::is_same_v<T, double>));
+FUNCTION_CODEC(Degrees, kDegrees, (std::is_same_v<T, std::uint32_t> || std::is_same_v<T, double>));
 // Integers that count thousandths.
-ORRERY_EVENT_CODEC(Thousandths, kThousandths, (std::is_same_v<T, float>));
-ORRERY_EVENT_CODEC(SignedThousandths, kSignedThousandths, (std::is_same_v<T, float>));
+FUNCTION_CODEC(Thousandths, kThousandths, (std::is_same_v<T, float>));
+FUNCTION_CODEC(SignedThousandths, kSignedThousandths, (std::is_same_v<T, float>));
 // An integer that is stored as unsigned when the text's is.
-ORRERY_EVENT_CODEC(AnyInteger, kAnyInteger, kIsInteger<T>);
+FUNCTION_CODEC(AnyInteger, kAnyInteger, kIsInteger<T>);
 // The first or second number of an array.
-ORRERY_EVENT_CODEC(FirstNumber, kFirstNumber, kIsInteger<T>);
-ORRERY_EVENT_CODEC(SecondNumber, kSecondNumber, kIsInteger<T>);
+FUNCTION_CODEC(FirstNumber, kFirstNumber, kIsInteger<T>);
+FUNCTION_CODEC(SecondNumber, kSecondNumber, kIsInteger<T>);
 // A state that counts from 1 in the record, with 0 for none.
-ORRERY_EVENT_CODEC(CountedFromOne, kCountedFromOne, kIsInteger<T>);
-#undef ORRERY_EVENT_CODEC
+FUNCTION_CODEC(CountedFromOne, kCountedFromOne, kIsInteger<T>);
 
 // A text of any length in a block of its own.
 struct OwnedTextCodec {

@@ -1,5 +1,6 @@
 #include "access/AccessControl.h"
 
+#include "access/Refusals.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>
@@ -747,19 +748,7 @@ constexpr const char* kCommands[] = {"AccessControlGeneral",    "AccessControl",
 
 TEST(Access, RefusedRepliesAndMissingTablesFail) {
     for (const char* command : kCommands) {
-        std::vector<char> buffer(64 << 10, 'x');
-        std::uint32_t length = kNoLength;
-        const auto parse = [&](const char* document) {
-            return CLIENT_ParseData(command, document, buffer.data(), static_cast<std::uint32_t>(buffer.size()),
-                                    &length);
-        };
-        EXPECT_EQ(parse(R"({ "result" : false, "params" : { "table" : { } } })"), 0) << command;
-        EXPECT_EQ(parse(R"({ "params" : { "table" : { } } })"), 0) << command;
-        EXPECT_EQ(parse(R"({ "result" : true, "params" : { "table" : null } })"), 0) << command;
-        EXPECT_EQ(parse(R"({ "result" : true })"), 0) << command;
-        EXPECT_EQ(buffer, std::vector<char>(buffer.size())) << command;
-        EXPECT_EQ(length, kNoLength);
-        EXPECT_EQ(parse(R"({ "result" : true, "params" : { "table" : { } } })"), 1) << command;
+        ExpectRefusalsToFail(command);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "access/VideoTalk.h"
 
+#include "access/Refusals.h"
 #include "support/Call.h"
 
 #include <gtest/gtest.h>
@@ -692,21 +693,7 @@ TEST(ShortcutCall, PositionTypes) {
 TEST(VideoTalk, RefusedRepliesAndMissingTablesFail) {
     for (const char* command : {"Building", "BuildingExternal", "DialRule", "VTNoAnswerForward", "VTOCall",
                                 "VTSCallInfo", "VideoTalkPhoneGeneral", "VideoTalkPhoneBasic"}) {
-        std::vector<char> buffer(64 << 10, 'x');
-        std::uint32_t length = kNoLength;
-        const auto parse = [&](const char* document) {
-            return CLIENT_ParseData(command, document, buffer.data(), static_cast<std::uint32_t>(buffer.size()),
-                                    &length);
-        };
-        EXPECT_EQ(parse(R"({ "result" : false, "params" : { "table" : { } } })"), 0) << command;
-        EXPECT_EQ(parse(R"({ "params" : { "table" : { } } })"), 0) << command;
-        EXPECT_EQ(parse(R"({ "result" : true, "params" : { "table" : null } })"), 0) << command;
-        EXPECT_EQ(buffer, std::vector<char>(buffer.size())) << command;
-        EXPECT_EQ(length, kNoLength);
-        EXPECT_EQ(parse(R"({ "result" : true, "params" : { "table" : { } } })"), 1) << command;
-        char small[4] = {'k', 'e', 'p', 't'};
-        EXPECT_EQ(CLIENT_ParseData(command, "{}", small, sizeof small, nullptr), 0) << command;
-        EXPECT_EQ(std::string(small, 4), "kept") << command;
+        ExpectRefusalsToFail(command);
     }
 }
 

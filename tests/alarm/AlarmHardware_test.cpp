@@ -72,7 +72,7 @@ TEST(AlarmOut, EverythingWritten) {
 }
 
 TEST(AlarmOut, ARecordOrAList) {
-    test::ExpectOneOrMany<CFG_ALARM_OUT_INFO>(
+    test::ExpectAlarmsOneOrMany<CFG_ALARM_OUT_INFO>(
         "AlarmOut", R"({ "Level2" : 1 })",
         R"({ "Level1" : 0, "Mode" : 0, "Name" : "", "PulseDelay" : 0, "Slot" : 0, "Type" : "" })");
 }
@@ -85,7 +85,7 @@ TEST(ExAlarmOut, BothWays) {
     EXPECT_EQ(a->nMode, 2);
     EXPECT_FALSE(ReadsRefused<Record>("ExAlarmOut"));
     EXPECT_EQ(Pack("ExAlarmOut", *a), R"({ "Mode" : 2, "Name" : "Lamp" })");
-    test::ExpectOneOrMany<Record>("ExAlarmOut", R"({ "Mode" : 1 })", R"({ "Mode" : 0, "Name" : "" })");
+    test::ExpectAlarmsOneOrMany<Record>("ExAlarmOut", R"({ "Mode" : 1 })", R"({ "Mode" : 0, "Name" : "" })");
 }
 
 // ---- Devices on a serial line ----
@@ -109,9 +109,10 @@ TEST(SerialAlarmDevices, BothWays) {
         Record record{3, "P", 4, -5, {CFG_COMM_DATA_BITS_8, CFG_COMM_STOP_BITS_1_5, CFG_COMM_PARITY_MARK, 9}};
         EXPECT_EQ(Pack(command, record), R"({ "Address" : -5, "Attribute" : [ 115200, 8, "Mark", "1.5" ], )"
                                          R"("Enable" : true, "Port" : 4, "ProtocolName" : "P" })");
-        test::ExpectOneOrMany<Record>(command, R"({ "Port" : 1 })",
-                                      R"({ "Address" : 0, "Attribute" : [ 300, 5, "None", "1" ], "Enable" : false, )"
-                                      R"("Port" : 0, "ProtocolName" : "" })");
+        test::ExpectAlarmsOneOrMany<Record>(
+            command, R"({ "Port" : 1 })",
+            R"({ "Address" : 0, "Attribute" : [ 300, 5, "None", "1" ], "Enable" : false, )"
+            R"("Port" : 0, "ProtocolName" : "" })");
     }
 }
 
@@ -201,7 +202,7 @@ TEST(ExAlarm, AListAndOneRecord) {
 }
 
 TEST(ExAlarm, ARecordOrAList) {
-    test::ExpectOneOrMany<CFG_ALARM_INPUT_INFO>(
+    test::ExpectAlarmsOneOrMany<CFG_ALARM_INPUT_INFO>(
         "ExAlarm", R"({ "Name" : "a" })",
         R"({ "DisableDelay" : 0, "Enable" : false, "EnableControl" : "Normal", "EnableDelay" : 0, )" + kNoHandler
             + R"(, "ID" : "", "Level1" : 0, "Name" : "", "Pole" : 0, "SenseMethod" : "DoorMagnetism", )"
@@ -232,9 +233,9 @@ TEST(SCADADev, BothWays) {
     record->nLevel = 4;
     EXPECT_EQ(Pack("SCADADev", *record), R"({ "DevName" : "N", "DevType" : "T", "Enable" : true, )" + kNoHandler
                                              + R"(, "Level" : 4, "Slot" : -1 })");
-    test::ExpectOneOrMany<Scada>("SCADADev", R"({ "Level" : 1 })",
-                                 R"({ "DevName" : "", "DevType" : "", "Enable" : false, )" + kNoHandler
-                                     + R"(, "Level" : 0, "Slot" : 0 })");
+    test::ExpectAlarmsOneOrMany<Scada>("SCADADev", R"({ "Level" : 1 })",
+                                       R"({ "DevName" : "", "DevType" : "", "Enable" : false, )" + kNoHandler
+                                           + R"(, "Level" : 0, "Slot" : 0 })");
 }
 
 TEST(SCADADev, TakesCommentsInItsText) {

@@ -11,17 +11,11 @@ namespace orrery {
 namespace {
 
 using test::Cleared;
+using test::Many;
 using test::Pack;
 using test::Parse;
 using test::ReadsRefused;
 using test::WeekText;
-
-std::string Many(int count, const std::string& element) {
-    std::string list = "[ ";
-    for (int i = 0; i < count; ++i)
-        list += (i == 0 ? "" : ", ") + element;
-    return list + " ]";
-}
 
 // ---- "AlarmServer" ----
 

@@ -1,4 +1,5 @@
 // Faults that a device watches itself for.
+#include "alarm/RecordLists.h"
 #include "orrery/alarm_device_faults.h"
 #include "orrery/linkage.h"
 #include "support/Call.h"
@@ -12,6 +13,7 @@ namespace {
 
 using test::Cleared;
 using test::kNotBegun;
+using test::Many;
 using test::Pack;
 using test::Parse;
 using test::ParseDocument;
@@ -35,13 +37,6 @@ void ExpectPlain(const CFG_EVENT_HANDLER_INFO& handler, int delay) {
     EXPECT_EQ(handler.abDelay, 1);
     EXPECT_EQ(handler.stuTimeSectionEx.stuTimeSection[0][0].nEndHour, 2);
     EXPECT_EQ(handler.stuTimeSection[0][0].nEndHour, 0);
-}
-
-std::string Many(int count, const std::string& element) {
-    std::string list = "[ ";
-    for (int i = 0; i < count; ++i)
-        list += (i == 0 ? "" : ", ") + element;
-    return list + " ]";
 }
 
 // ---- A switch and a linkage ----

@@ -11,19 +11,13 @@ namespace orrery {
 namespace {
 
 using test::Cleared;
+using test::Many;
 using test::Pack;
 using test::Parse;
 using test::ReadsRefused;
 using test::WeekText;
 
 const std::string kNoHandler = "\"EventHandler\" : { \"TimeSection\" : " + WeekText(7) + " }";
-
-std::string Many(int count, const std::string& element) {
-    std::string list = "[ ";
-    for (int i = 0; i < count; ++i)
-        list += (i == 0 ? "" : ", ") + element;
-    return list + " ]";
-}
 
 TEST(HighSpeed, BothWays) {
     const auto a = Parse<CFG_HIGH_SPEED_INFO>("HighSpeed", R"({ "Enable" : true, "SpeedHighLine" : 120, "Time" : 5,

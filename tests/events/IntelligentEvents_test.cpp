@@ -1,5 +1,6 @@
 // Every intelligent event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventMap.h"
+#include "events/Members.h"
 #include "orrery/events_common.h"
 #include "orrery/events_intelligent_crossing.h"
 #include "orrery/events_intelligent_detection.h"
@@ -57,16 +58,6 @@ std::string EveryKey(const char* more) {
 
 constexpr const char* kObjects = R"(,"Objects":[{"ObjectID":103},{"ObjectID":104}])";
 
-#define HAS(member, value)                                                                                             \
-    if constexpr (requires { r.member; }) {                                                                            \
-        EXPECT_EQ(r.member, value) << name;                                                                            \
-    }                                                                                                                  \
-    static_assert(true)
-#define HAS_TEXT(member, value)                                                                                        \
-    if constexpr (requires { r.member; }) {                                                                            \
-        EXPECT_STREQ(r.member, value) << name;                                                                         \
-    }                                                                                                                  \
-    static_assert(true)
 template <class R, class... Others>
 constexpr bool kIsOneOf = (std::is_same_v<R, Others> || ...);
 

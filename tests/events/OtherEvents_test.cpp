@@ -1,6 +1,7 @@
 // The events of devices, fleets, doors and cards: each from a text that sets every key, from one that sets none, and
 // field by field in its order.
 #include "events/EventMap.h"
+#include "events/Members.h"
 #include "events/ReqRealPicture.h"
 #include "orrery/events_common.h"
 #include "orrery/events_other_access.h"
@@ -51,17 +52,6 @@ constexpr const char* kEveryKey = R"({
     "IC":"ic 1","NetBarName":"bar","NetBarID":"bar 1","RFID":["one","two"],"DetectRegion":[100,-200],
     "BulletHoles":[{"ObjectID":1},{"ObjectID":2,"ObjectType":"Hole","BoundingBox":[1,2,3,4],"Center":[5,6],
                     "Sequence":7,"Score":10}]})";
-
-#define HAS(member, value)                                                                                             \
-    if constexpr (requires { r.member; }) {                                                                            \
-        EXPECT_EQ(r.member, value) << name;                                                                            \
-    }                                                                                                                  \
-    static_assert(true)
-#define HAS_TEXT(member, value)                                                                                        \
-    if constexpr (requires { r.member; }) {                                                                            \
-        EXPECT_STREQ(r.member, value) << name;                                                                         \
-    }                                                                                                                  \
-    static_assert(true)
 
 // What every record has of these.
 template <class R>

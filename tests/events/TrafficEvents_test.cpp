@@ -1,5 +1,6 @@
 // Every traffic event from a text that sets every key, from one that sets none, and field by field in its order.
 #include "events/EventMap.h"
+#include "events/Members.h"
 #include "events/ReqRealPicture.h"
 #include "orrery/events_common.h"
 #include "orrery/events_traffic_conduct.h"
@@ -47,17 +48,6 @@ constexpr const char* kEveryKey = R"({
                   "MachineName":"machine","RoadwayNo":"road 1","DeviceAddress":"here","GroupID":71,"CountInGroup":4,
                   "IndexInGroup":1},
     "CommInfo":{"NTPCheckTime":"Successful","Country":"NL","Drivers":[{"ObjectID":105}]}})";
-
-#define HAS(member, value)                                                                                             \
-    if constexpr (requires { r.member; }) {                                                                            \
-        EXPECT_EQ(r.member, value) << name;                                                                            \
-    }                                                                                                                  \
-    static_assert(true)
-#define HAS_TEXT(member, value)                                                                                        \
-    if constexpr (requires { r.member; }) {                                                                            \
-        EXPECT_STREQ(r.member, value) << name;                                                                         \
-    }                                                                                                                  \
-    static_assert(true)
 
 // What the message around an event says; a bare event has none of it.
 struct Around {

@@ -30,6 +30,17 @@ bool OutcomeIsPlausible(Outcome outcome) {
            || outcome == Outcome::BadItem || outcome == Outcome::RecordTooSmall || outcome == Outcome::TextTooLong;
 }
 
+// Any outcome that a command can tell will do, and what it wrote is a text.
+void PackSafely(const Command& command, std::byte* record, std::size_t size, CallerMemory& memory) {
+    memory.Reset();
+    if (HasPointers(*command.table)) memory.MakePointersSafe(*command.table, record);
+    const Packed packed = Pack(command, record, size);
+    ASSERT_TRUE(OutcomeIsPlausible(packed.outcome)) << static_cast<int>(packed.outcome);
+    if (packed.outcome == Outcome::Done) {
+        ASSERT_EQ(FlawOf(packed.text), "");
+    }
+}
+
 TEST(Packing, RecordsOfAnyBytes) {
     const SweepBudget budget;
     for (const Command& command : DistinctCommands()) {
@@ -49,13 +60,7 @@ TEST(Packing, RecordsOfAnyBytes) {
             // Half of the records look as if their caller had set the size words.
             if (round % 2 == 0 || command.packFrame.stride != Stride::Record)
                 record::SetSizeWords(*command.table, record);
-            memory.Reset();
-            if (HasPointers(*command.table)) memory.MakePointersSafe(*command.table, record);
-            const Packed packed = Pack(command, record, size);
-            ASSERT_TRUE(OutcomeIsPlausible(packed.outcome)) << command.name << static_cast<int>(packed.outcome);
-            if (packed.outcome == Outcome::Done) {
-                ASSERT_EQ(FlawOf(packed.text), "") << command.name << " round " << round;
-            }
+            ASSERT_NO_FATAL_FAILURE(PackSafely(command, record, size, memory)) << command.name << " round " << round;
         }
     }
 }
@@ -76,13 +81,7 @@ TEST(Packing, WordsAtTheirLimits) {
             for (std::size_t at = 0; at + 4 <= size; at += 4)
                 record::Store(record + at, kWords[random() % std::size(kWords)]);
             record::SetSizeWords(*command.table, record);
-            memory.Reset();
-            if (HasPointers(*command.table)) memory.MakePointersSafe(*command.table, record);
-            const Packed packed = Pack(command, record, size);
-            ASSERT_TRUE(OutcomeIsPlausible(packed.outcome)) << command.name << static_cast<int>(packed.outcome);
-            if (packed.outcome == Outcome::Done) {
-                ASSERT_EQ(FlawOf(packed.text), "") << command.name << " round " << round;
-            }
+            ASSERT_NO_FATAL_FAILURE(PackSafely(command, record, size, memory)) << command.name << " round " << round;
         }
     }
 }

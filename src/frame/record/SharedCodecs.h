@@ -18,7 +18,8 @@ struct NamedBits {
     explicit NamedBits(const NameTable&&) = delete; // the row points to the table
 };
 
-#define ORRERY_SHARED_CODEC(word, function, condition)                                                                 \
+// A word whose codec is a function of its own, tied to the member types that it takes.
+#define FUNCTION_CODEC(word, function, condition)                                                                      \
     extern const CustomCodec function;                                                                                 \
     struct word##Codec {                                                                                               \
         static constexpr Kind kind = Kind::Custom;                                                                     \
@@ -30,10 +31,9 @@ struct NamedBits {
     inline constexpr word##Codec word {}
 
 // A number that counts from 1 in the text and from 0 in the record, such as a channel's.
-ORRERY_SHARED_CODEC(FromOne, kFromOne, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
+FUNCTION_CODEC(FromOne, kFromOne, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
 // How a joined picture is divided, by the names that composed pictures have: prefixes in any case, a name for every
 // code but negative ones, which write no key.
-ORRERY_SHARED_CODEC(SplitName, kSplitName, (std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::uint32_t>));
-#undef ORRERY_SHARED_CODEC
+FUNCTION_CODEC(SplitName, kSplitName, (std::is_same_v<T, std::int32_t>));
 
 } // namespace orrery::record

@@ -1,7 +1,7 @@
 // Words of rows for records behind a caller's pointers: one alone, lists that are taken whole or not at all, counts
 // that are told without an array.
 #include "frame/record/Engine.h"
-#include "support/JsonText.h"
+#include "support/Records.h"
 
 #include <gtest/gtest.h>
 
@@ -89,15 +89,7 @@ bool ReadInto(Owner& owner, const std::string& text) {
 }
 
 std::string Written(const Table& table, const Owner& owner) {
-    StackArena<4096> arena;
-    LocalText local(arena);
-    JsonParser parser(local);
-    std::string text(4096, '\0');
-    json::TextWriter out(text.data(), text.size());
-    WriteCall call{parser, out, nullptr, false, {}};
-    WriteRecord(table, reinterpret_cast<const std::byte*>(&owner), call);
-    text.resize(out.length());
-    return text;
+    return test::WriteBytes(table, &owner);
 }
 
 TEST(CallersRecords, OneRecordIsReadAndWrittenWhereThePointerLeads) {

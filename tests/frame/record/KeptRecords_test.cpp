@@ -1,7 +1,7 @@
 // Words of rows for records that hold something before they are read: presence flags that start anew, objects that
 // leave no trace, arrays of the caller's that are written whole.
 #include "frame/record/Engine.h"
-#include "support/JsonText.h"
+#include "support/Records.h"
 
 #include <gtest/gtest.h>
 
@@ -61,15 +61,7 @@ void ReadOver(Outer& record, const Table& table, const std::string& text) {
 }
 
 std::string Written(const Table& table, const Outer& record) {
-    StackArena<4096> arena;
-    LocalText local(arena);
-    JsonParser parser(local);
-    std::string text(4096, '\0');
-    json::TextWriter out(text.data(), text.size());
-    WriteCall call{parser, out, nullptr, false, {}};
-    WriteRecord(table, reinterpret_cast<const std::byte*>(&record), call);
-    text.resize(out.length());
-    return text;
+    return test::WriteBytes(table, &record);
 }
 
 TEST(KeptRecords, StartEveryFlagAnewAndKeepTheValues) {
