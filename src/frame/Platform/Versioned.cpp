@@ -11,28 +11,7 @@ namespace {
 
 using record::Cell;
 using record::Field;
-using record::Slot;
 using record::Table;
-
-constexpr std::uint32_t SizeOf(Cell cell) noexcept {
-    switch (cell) {
-    case Cell::I8:
-    case Cell::U8:
-    case Cell::Char:
-        return 1;
-    case Cell::I16:
-    case Cell::U16:
-        return 2;
-    case Cell::I64:
-    case Cell::U64:
-    case Cell::F64:
-        return 8;
-    case Cell::Pointer:
-        return sizeof(void*);
-    default:
-        return 4;
-    }
-}
 
 // Calls `input(offset, size)` for every pointer of the record, nested ones included, and for the room behind it.
 template <class Input>
@@ -45,7 +24,7 @@ void ForEachInput(const Table& table, std::uint32_t at, const Input& input) noex
             continue;
         }
         if (field.cell == Cell::Pointer) input(at + field.offset, field.size);
-        if (field.capacity.exists()) input(at + field.capacity.offset, SizeOf(field.capacity.cell));
+        if (field.capacity.exists()) input(at + field.capacity.offset, record::build::SizeOf(field.capacity.cell));
     }
 }
 
