@@ -62,6 +62,13 @@ TEST(SharedWords, AreWrittenAsTheyAreRead) {
     EXPECT_EQ(Write(kShared, ends), R"({ "channel" : -2147483648, "place" : 0, "split" : "Split4" })");
 }
 
+TEST(SharedWords, SplitsBelowTheFirstHaveNoName) {
+    const Shared record{.bits = 0, .channel = 0, .place = 0, .split = -1};
+    EXPECT_EQ(Write(kShared, record), R"({ "channel" : 1, "place" : 1 })");
+    const Shared least{.bits = 0, .channel = 0, .place = 0, .split = INT32_MIN};
+    EXPECT_EQ(Write(kShared, least), R"({ "channel" : 1, "place" : 1 })");
+}
+
 TEST(SharedWords, SplitsAreNamedInAnyCase) {
     EXPECT_EQ(Read(kShared, R"({ "split" : "split9" })").split, 9);
     EXPECT_EQ(Read(kShared, R"({ "split" : "pip" })").split, 1000); // a bare prefix, and nothing added
