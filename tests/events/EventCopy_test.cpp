@@ -79,8 +79,9 @@ TEST(EventCopy, EveryEventStaysAsItWasDelivered) {
 }
 
 TEST(EventCopy, TypedRecordsStayWithTheirListsAndRules) {
-    const char* const text = R"({"ObjectList":[{"ObjectID":7,"FilePath":"/a/b.jpg"},{"ObjectID":9,"FilePath":"/c"}],)"
-                             R"("VideoAnalyseRule":[{"Type":"CrossLineDetection","Name":"Gate","Enable":true}]})";
+    const char* const text =
+        R"({"ObjectList":[{"ObjectID":7,"Image":{"FilePath":"/a"}},{"ObjectID":9,"Image":{"FilePath":"/c"}}],)"
+        R"("VideoAnalyseRule":[{"Type":"CrossLineDetection","Name":"Gate","Enable":true}]})";
     struct Kept {
         std::uint32_t type;
         std::uint32_t size;
@@ -102,7 +103,7 @@ TEST(EventCopy, TypedRecordsStayWithTheirListsAndRules) {
     ASSERT_EQ(kept[1].size, 2 * sizeof(EVENT_OBJECT_INFO));
     const auto* const objects = reinterpret_cast<const EVENT_OBJECT_INFO*>(kept[1].copy.bytes.get());
     EXPECT_EQ(objects[0].nObjectID, 7);
-    EXPECT_STREQ(objects[0].pszFilePath, "/a/b.jpg");
+    EXPECT_STREQ(objects[0].pszFilePath, "/a");
     EXPECT_EQ(objects[1].nObjectID, 9);
     EXPECT_STREQ(objects[1].pszFilePath, "/c");
 }
