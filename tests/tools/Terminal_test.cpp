@@ -62,7 +62,7 @@ TEST(Jobs, HandOverInTheOrderThatTheyWereGiven) {
                     if (task % 7 == 0) std::this_thread::sleep_for(std::chrono::milliseconds(2));
                     return task;
                 },
-                [&](const int& done) {
+                [&](int& done) {
                     handed += std::to_string(done) + ' ';
                     return true;
                 });
@@ -80,7 +80,7 @@ TEST(Jobs, EndWhenNoMoreIsWanted) {
     for (const unsigned threads : {1u, 3u}) {
         int handed = 0;
         Jobs<int, int> jobs(
-            threads, [](const int& task) { return task; }, [&](const int&) { return ++handed < 3; });
+            threads, [](const int& task) { return task; }, [&](int&) { return ++handed < 3; });
         int given = 0;
         while (given < 10'000 && jobs.Give(given))
             ++given;

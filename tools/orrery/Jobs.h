@@ -17,7 +17,7 @@ namespace orrery::tool {
 template <class Task, class Done>
 class Jobs {
   public:
-    Jobs(unsigned threads, std::function<Done(const Task&)> work, std::function<bool(const Done&)> hand)
+    Jobs(unsigned threads, std::function<Done(const Task&)> work, std::function<bool(Done&)> hand)
         : work_(std::move(work)), hand_(std::move(hand)), most_(std::size_t{threads} * 4) {
         for (unsigned i = 0; threads > 1 && i < threads; ++i)
             threads_.emplace_back([this] { Run(); });
@@ -29,7 +29,9 @@ class Jobs {
     // Waits while much is under way. False when no more is wanted.
     bool Give(Task task) {
         if (threads_.empty()) {
-            isWanted_ = isWanted_ && hand_(work_(task));
+            if (!isWanted_) return false;
+            Done done = work_(task);
+            isWanted_ = hand_(done);
             return isWanted_;
         }
         std::unique_lock lock(mutex_);
@@ -89,7 +91,7 @@ class Jobs {
         if (isHanding_) return;
         isHanding_ = true;
         while (!tasks_.empty() && tasks_.front().state == State::IsDone) {
-            const Done done = std::move(tasks_.front().done);
+            Done done = std::move(tasks_.front().done);
             tasks_.pop_front();
             changed_.notify_all();
             if (!isWanted_) continue;
@@ -102,7 +104,7 @@ class Jobs {
     }
 
     std::function<Done(const Task&)> work_;
-    std::function<bool(const Done&)> hand_;
+    std::function<bool(Done&)> hand_;
     std::size_t most_;
     std::vector<std::thread> threads_;
     std::mutex mutex_;

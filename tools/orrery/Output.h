@@ -71,6 +71,10 @@ class Node {
 // JSON on one line, written as it is told.
 class LineWriter {
   public:
+    LineWriter() = default;
+    // Writes over a text that is needed no more.
+    explicit LineWriter(std::string room) : room_(std::move(room)) { room_.resize(room_.capacity()); }
+
     struct Mark {
         std::size_t used;
         bool isFirst;

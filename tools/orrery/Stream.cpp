@@ -15,6 +15,7 @@
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace orrery::tool {
 
@@ -32,7 +33,7 @@ class Stream {
     explicit Stream(const StreamOptions& options)
         : options_(options), jobs_(
                                  options.jobs, [this](const Batch& batch) { return ShowAll(batch); },
-                                 [this](const Result& result) { return Print(result); }) {}
+                                 [this](Result& result) { return Print(result); }) {}
 
     int Run(const std::vector<std::string>& files) {
         jobs_.Give({{}, {}, {kDone, EventHead(options_.events), {}}});
@@ -123,26 +124,31 @@ class Stream {
                                 + std::strerror(errno) + "\n"}});
     }
 
-    Result ShowAll(const Batch& batch) const {
+    std::string TakeSpare() {
+        const std::lock_guard lock(printing_);
+        return std::exchange(spare_, {});
+    }
+
+    Result ShowAll(const Batch& batch) {
         try {
             Result all = batch.said;
             EventOptions options = options_.events;
             options.file = Printable(batch.file);
-            LineWriter out;
+            LineWriter out(TakeSpare());
             for (const TextSplitter::Piece& piece : batch.pieces) {
                 options.line = piece.line;
                 const Result result = ShowEvents(piece.text, options, out);
                 all.exit = std::max(all.exit, result.exit);
                 all.err += result.err;
             }
-            if (!batch.pieces.empty()) all.out += Coloured(out.Take(), options);
+            if (!batch.pieces.empty()) all.out = Coloured(out.Take(), options);
             return all;
         } catch (const std::bad_alloc&) {
             return {kRefused, {}, "orrery: out of memory\n"};
         }
     }
 
-    bool Print(const Result& result) {
+    bool Print(Result& result) {
         const std::lock_guard lock(printing_);
         if (progress_ && !result.err.empty()) progress_->Clear();
         const bool isWritten = std::fwrite(result.out.data(), 1, result.out.size(), stdout) == result.out.size()
@@ -150,6 +156,7 @@ class Stream {
         const int error = errno;
         std::fputs(result.err.c_str(), stderr);
         exit_ = std::max(exit_, result.exit);
+        spare_ = std::move(result.out);
         if (isWritten) return true;
         std::fprintf(stderr, "orrery: can't write: %s\n", std::strerror(error));
         exit_ = std::max(exit_, kRefused);
@@ -161,6 +168,7 @@ class Stream {
     const StreamOptions& options_;
     int exit_ = kDone;
     std::mutex printing_; // also of the bar
+    std::string spare_;   // what was printed: its memory is used again
     std::optional<Progress> progress_;
     Jobs<Batch, Result> jobs_; // its threads end before the rest
 };
