@@ -187,81 +187,79 @@ bool MemberBench::Parse(std::size_t i) {
     return done;
 }
 
+std::int32_t MemberBench::Findings(std::size_t i) const {
+    const auto take = [](const ORRERY_FINDING*, void*) -> int32_t { return 1; };
+    return ORRERY_ExplainReply(name, texts[i].data(), texts[i].size(), 0, take, nullptr);
+}
+
+bool MemberBench::Explain(std::size_t i) {
+    return Findings(i) >= 0;
+}
+
 bool MemberBench::Clear(std::size_t i) {
-    std::int32_t MemberBench::Findings(std::size_t i) const {
-        const auto take = [](const ORRERY_FINDING*, void*) -> int32_t { return 1; };
-        return ORRERY_ExplainReply(name, texts[i].data(), texts[i].size(), 0, take, nullptr);
+    // What a call clears, so that pointers of the caller's own stay, and the size that its first record begins
+    // with.
+    if (test::HasPointers(*command_.table)) {
+        if (command_.parseFrame.parsed != nullptr) command_.parseFrame.parsed(buffer_.get());
+        for (const std::span<std::byte> room : rooms_[i])
+            std::memset(room.data(), 0, room.size());
+    } else {
+        std::uint32_t word;
+        std::memcpy(&word, buffer_.get(), sizeof word);
+        std::memset(buffer_.get(), 0, size_);
+        if (command_.parseFrame.stride != Stride::Record) std::memcpy(buffer_.get(), &word, sizeof word);
     }
+    benchmark::ClobberMemory();
+    return true;
+}
 
-    bool MemberBench::Explain(std::size_t i) {
-        return Findings(i) >= 0;
-    }
+bool MemberBench::ParseTextAndClear(std::size_t i) {
+    Clear(i);
+    byhand::LocalDocument document;
+    document->Parse(texts[i].c_str());
+    benchmark::DoNotOptimize(document);
+    return !document->HasParseError();
+}
 
-    bool MemberBench::Clear(std::size_t) {
-        // What a call clears, so that pointers of the caller's own stay, and the size that its first record begins
-        // with.
-        if (test::HasPointers(*command_.table)) {
-            if (command_.parseFrame.parsed != nullptr) command_.parseFrame.parsed(buffer_.get());
-            for (const std::span<std::byte> room : rooms_[i])
-                std::memset(room.data(), 0, room.size());
-        } else {
-            std::uint32_t word;
-            std::memcpy(&word, buffer_.get(), sizeof word);
-            std::memset(buffer_.get(), 0, size_);
-            if (command_.parseFrame.stride != Stride::Record) std::memcpy(buffer_.get(), &word, sizeof word);
-        }
-        benchmark::ClobberMemory();
-        return true;
-    }
+bool MemberBench::ParseSimdJsonAndClear(std::size_t i) {
+    Clear(i);
+    simdjson::dom::element root;
+    const auto error = parser_.parse(padded_[i]).get(root);
+    benchmark::DoNotOptimize(root);
+    return error == simdjson::SUCCESS;
+}
 
-    bool MemberBench::ParseTextAndClear(std::size_t i) {
-        Clear(i);
-        byhand::LocalDocument document;
-        document->Parse(texts[i].c_str());
-        benchmark::DoNotOptimize(document);
-        return !document->HasParseError();
-    }
+bool MemberBench::Pack(std::size_t i) {
+    // Where nothing is written behind the text, clearing is the client's.
+    if (command_.packFrame.capacity == Capacity::Bare) std::memset(packed_.get(), 0, room_);
+    const bool done = CLIENT_PacketData(name, kept_[i].get(), size_, packed_.get(), static_cast<uint32_t>(room_)) != 0;
+    benchmark::ClobberMemory();
+    return done;
+}
 
-    bool MemberBench::ParseSimdJsonAndClear(std::size_t i) {
-        Clear(i);
-        simdjson::dom::element root;
-        const auto error = parser_.parse(padded_[i]).get(root);
-        benchmark::DoNotOptimize(root);
-        return error == simdjson::SUCCESS;
-    }
+bool MemberBench::WriteAndClear(std::size_t i) {
+    byhand::LocalDocument document;
+    static_cast<byhand::Value&>(*document) = Build(*due_[i], document->GetAllocator());
+    rapidjson::StringBuffer out;
+    byhand::Write(*document, out);
+    benchmark::DoNotOptimize(out.GetString());
+    std::memset(packed_.get(), 0, room_);
+    benchmark::ClobberMemory();
+    return true;
+}
 
-    bool MemberBench::Pack(std::size_t i) {
-        // Where nothing is written behind the text, clearing is the client's.
-        if (command_.packFrame.capacity == Capacity::Bare) std::memset(packed_.get(), 0, room_);
-        const bool done =
-            CLIENT_PacketData(name, kept_[i].get(), size_, packed_.get(), static_cast<uint32_t>(room_)) != 0;
-        benchmark::ClobberMemory();
-        return done;
+bool MemberBench::IsGood() {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (Parse(i) && ParseTextAndClear(i) && ParseSimdJsonAndClear(i)) continue;
+        std::fprintf(stderr, "%s: text %zu is not read\n%s\n", name, i, texts[i].c_str());
+        return false;
     }
-
-    bool MemberBench::WriteAndClear(std::size_t i) {
-        byhand::LocalDocument document;
-        static_cast<byhand::Value&>(*document) = Build(*due_[i], document->GetAllocator());
-        rapidjson::StringBuffer out;
-        byhand::Write(*document, out);
-        benchmark::DoNotOptimize(out.GetString());
-        std::memset(packed_.get(), 0, room_);
-        benchmark::ClobberMemory();
-        return true;
+    for (std::size_t i = 0; i < records(); ++i) {
+        if (Pack(i) && !due_[i]->HasParseError() && !due_[i]->IsNull()) continue;
+        std::fprintf(stderr, "%s: record %zu is not packed\n", name, i);
+        return false;
     }
-
-    bool MemberBench::IsGood() {
-        for (std::size_t i = 0; i < texts.size(); ++i) {
-            if (Parse(i) && ParseTextAndClear(i) && ParseSimdJsonAndClear(i)) continue;
-            std::fprintf(stderr, "%s: text %zu is not read\n%s\n", name, i, texts[i].c_str());
-            return false;
-        }
-        for (std::size_t i = 0; i < records(); ++i) {
-            if (Pack(i) && !due_[i]->HasParseError() && !due_[i]->IsNull()) continue;
-            std::fprintf(stderr, "%s: record %zu is not packed\n", name, i);
-            return false;
-        }
-        return true;
-    }
+    return true;
+}
 
 } // namespace orrery::bench
