@@ -46,7 +46,7 @@ class HeapIn : public orrery::test::CompiledLocales {
 
 enum : int { kRight = 10, kRefused, kEmpty, kNothing, kWrong };
 
-// Runs `call` for each allocation; `Accepts` says which ends are right. There are many failures inside the C library.
+// Runs `call` for each allocation; `Accepts` says which ends are right. A call makes several, in the C library at least.
 template <class Call, class Accepts>
 void TryEach(Call call, Accepts accepts) {
     int others = 0;
@@ -57,7 +57,7 @@ void TryEach(Call call, Accepts accepts) {
             others += end != kRight;
         }
     }
-    EXPECT_GT(others, 20);
+    EXPECT_GT(others, 10);
 }
 
 TEST_F(HeapIn, AParseFailsOrIsRight) {
