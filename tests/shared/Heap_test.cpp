@@ -46,7 +46,8 @@ class HeapIn : public orrery::test::CompiledLocales {
 
 enum : int { kRight = 10, kRefused, kEmpty, kNothing, kWrong };
 
-// Runs `call` for each allocation; `Accepts` says which ends are right. A call makes several, in the C library at least.
+// Runs `call` for each allocation; `Accepts` says which ends are right. A call makes several, in the C library at
+// least.
 template <class Call, class Accepts>
 void TryEach(Call call, Accepts accepts) {
     int others = 0;

@@ -105,15 +105,16 @@ class Writer {
 
     // What keys at the whole reply hold, those of records inside the table's included.
     struct Keys {
-        std::vector<Node> values;                         // of the place itself
-        std::vector<std::pair<std::string, Keys>> inside; // of objects
+        std::string key;
+        std::vector<Node> values; // of the place itself
+        std::vector<Keys> inside; // of objects
 
-        Keys& At(std::string_view key) {
-            for (auto& [name, keys] : inside) {
-                if (name == key) return keys;
+        Keys& At(std::string_view wanted) {
+            for (Keys& keys : inside) {
+                if (keys.key == wanted) return keys;
             }
-            inside.emplace_back(key, Keys{});
-            return inside.back().second;
+            inside.push_back({std::string(wanted), {}, {}});
+            return inside.back();
         }
         Keys& Path(std::string_view path) {
             Keys* keys = this;
@@ -137,8 +138,10 @@ class Writer {
     // `more`: what members of other names are.
     Node Object(Keys keys, std::vector<Node> more = {}) {
         Node properties = Node::Object();
-        for (auto& [name, each] : keys.inside)
-            properties.Add(name, Place(std::move(each)));
+        for (Keys& each : keys.inside) {
+            const std::string key = each.key;
+            properties.Add(key, Place(std::move(each)));
+        }
         Node node = TypeOrNull("object");
         node.Add("properties", std::move(properties));
         if (!more.empty()) node.Add("additionalProperties", AnyOf(std::move(more)));
