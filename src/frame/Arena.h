@@ -51,11 +51,6 @@ class Arena {
     // From here on the heap gives this arena at most `bytes` more; what goes beyond is as if there were no memory.
     void Limit(std::size_t bytes) noexcept { allowance_ = bytes; }
 
-    // A few bytes that are always there, aligned to 16: what a caller who can't be refused writes into when the arena
-    // is exhausted. Nobody reads them.
-    static constexpr std::size_t kSpareSize = 16;
-    void* Spare() noexcept { return spare_; }
-
     // True once an allocation has failed: the call that owns the arena then fails as a whole.
     bool failed() const noexcept { return failed_; }
     // For whoever could not get another resource that the call cannot go on without, or needs more than can be counted.
@@ -84,7 +79,6 @@ class Arena {
     std::size_t total_ = 0;                         // of all chunks so far
     std::size_t allowance_ = static_cast<std::size_t>(-1);
     bool failed_ = false;
-    alignas(16) std::byte spare_[kSpareSize];
 };
 
 // An arena with its first chunk inside itself, for a function's own frame.

@@ -3,25 +3,14 @@
 #include "frame/json/WalkStack.h"
 
 #include <algorithm>
-#include <bit>
-#include <limits>
-#include <memory>
 
 namespace orrery::json {
 
 const Value kNull;
 
-static_assert(sizeof(Value) <= Arena::kSpareSize);
-
 namespace {
 
 constexpr std::uint32_t kLinearSearchLimit = 8;
-constexpr unsigned kFirstGrowth = 2; // 4 elements
-constexpr unsigned kLastGrowth = 31;
-
-Value& NobodyReads(Arena& arena) noexcept {
-    return *new (arena.Spare()) Value;
-}
 
 // Index of the first member whose key is not below `key`.
 std::uint32_t LowerBound(const Member* members, std::uint32_t count, std::string_view key) noexcept {
@@ -36,23 +25,6 @@ std::uint32_t LowerBound(const Member* members, std::uint32_t count, std::string
         count = below ? count - half - 1 : half;
     }
     return first;
-}
-
-// Room for more than `size` entries, a power of two so that growing entry by entry copies each only a few times. Null
-// when there is none to be had.
-template <class Entry>
-Entry* Enlarge(Arena& arena, const Entry* old, std::uint32_t oldSize, std::uint32_t size,
-               std::uint8_t& growth) noexcept {
-    const unsigned needed = std::max(kFirstGrowth, static_cast<unsigned>(std::bit_width(size)));
-    if (needed > kLastGrowth) {
-        arena.MarkFailed();
-        return nullptr;
-    }
-    Entry* const room = arena.Array<Entry>(std::size_t{1} << needed);
-    if (room == nullptr) return nullptr;
-    if (oldSize > 0) std::memcpy(static_cast<void*>(room), old, oldSize * sizeof(Entry));
-    growth = static_cast<std::uint8_t>(needed);
-    return room;
 }
 
 } // namespace
@@ -136,49 +108,6 @@ const Value& Value::operator[](std::string_view key) const noexcept {
     }
     const std::uint32_t index = LowerBound(members, size_, key);
     return index < size_ && members[index].key() == key ? members[index].value : kNull;
-}
-
-std::uint32_t Value::Capacity() const noexcept {
-    return growth_ == 0 ? size_ : std::uint32_t{1} << growth_;
-}
-
-Value& Value::At(Arena& arena, std::string_view key) noexcept {
-    if (type_ != Type::Object) *this = OfObject(nullptr, 0);
-    // Most writers add their members in key order.
-    const bool append = size_ == 0 || CompareKeys(payload_.members[size_ - 1].key(), key) < 0;
-    const std::uint32_t index = append ? size_ : LowerBound(payload_.members, size_, key);
-    if (!append && payload_.members[index].key() == key) return payload_.members[index].value;
-    if (key.size() > std::numeric_limits<std::uint32_t>::max()) {
-        arena.MarkFailed();
-        return NobodyReads(arena);
-    }
-    char* const text = arena.Array<char>(key.size() + kKeySlack);
-    if (text == nullptr) return NobodyReads(arena);
-    std::memset(text + key.size(), 0, kKeySlack);
-    if (!key.empty()) std::memcpy(text, key.data(), key.size());
-    if (size_ == Capacity()) {
-        Member* const room = Enlarge(arena, payload_.members, size_, size_, growth_);
-        if (room == nullptr) return NobodyReads(arena);
-        payload_.members = room;
-    }
-    Member* const place = payload_.members + index;
-    std::memmove(static_cast<void*>(place + 1), place, (size_ - index) * sizeof(Member));
-    ++size_;
-    new (place) Member{text, static_cast<std::uint32_t>(key.size()), Value{}};
-    return place->value;
-}
-
-Value& Value::At(Arena& arena, std::uint32_t index) noexcept {
-    if (type_ != Type::Array) *this = OfArray(nullptr, 0);
-    if (index < size_) return payload_.elements[index];
-    if (index >= Capacity()) {
-        Value* const room = Enlarge(arena, payload_.elements, size_, index, growth_);
-        if (room == nullptr) return NobodyReads(arena);
-        payload_.elements = room;
-    }
-    std::uninitialized_fill(payload_.elements + size_, payload_.elements + index + 1, Value{});
-    size_ = index + 1;
-    return payload_.elements[index];
 }
 
 int ArrayDepth(const Value& value, unsigned sampleShift, Arena& arena) noexcept {

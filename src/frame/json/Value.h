@@ -1,6 +1,6 @@
 // One value of a JSON document. Values are plain 16-byte words over an arena: they own nothing, copy freely and stay
 // valid as long as the arena and, for texts without escapes, the parsed text itself. A copy shares its elements and
-// members with the original, so only one of the two may grow afterwards.
+// members with the original.
 //
 // Devices send whatever they like, so nothing here ever fails: a look-up that misses yields null, a conversion of an
 // unfitting type yields zero, false or empty.
@@ -31,7 +31,7 @@ struct Member;
 
 class Value {
   public:
-    constexpr Value() noexcept : type_(Type::Null), growth_(0), size_(0), payload_{} {}
+    constexpr Value() noexcept : type_(Type::Null), size_(0), payload_{} {}
     static Value OfInt(std::int32_t number) noexcept {
         Value value(Type::Int);
         value.payload_.number = number;
@@ -127,13 +127,6 @@ class Value {
     }
     std::span<const Member> members() const noexcept;
 
-    // For texts whose keys are known only at run time. Each turns the value into an empty object (array) first when it
-    // is none, inserts a null member (elements up to `index`) when there is none yet, and returns it; the key's text is
-    // copied. When the arena is exhausted the result is a value that nobody reads, and the arena has failed. The result
-    // is good until the next call of At on the same value. Members cost least when they come in ascending key order.
-    Value& At(Arena& arena, std::string_view key) noexcept;
-    Value& At(Arena& arena, std::uint32_t index) noexcept;
-
   private:
     friend struct Member;
 
@@ -170,16 +163,14 @@ class Value {
         PutWords(at, kLittle ? code | std::uint64_t{size} << 32 : code << 56 | size, payload);
     }
 
-    explicit Value(Type type, std::uint32_t size = 0) noexcept : type_(type), growth_(0), size_(size), payload_{} {}
+    explicit Value(Type type, std::uint32_t size = 0) noexcept : type_(type), size_(size), payload_{} {}
 
     bool ConvertToBool() const noexcept;
     std::int32_t ConvertToInt() const noexcept;
     std::uint32_t ConvertToUInt() const noexcept;
     double ConvertToDouble() const noexcept;
-    std::uint32_t Capacity() const noexcept;
 
     Type type_;
-    std::uint8_t growth_; // 0: no room beyond size_; otherwise there is room for 2^growth_ elements or members
     std::uint32_t size_;
     Payload payload_;
 };
