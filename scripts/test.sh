@@ -164,7 +164,10 @@ scripts/install-deps.sh all
 times+=("$(printf '%-8s %4d s' install "$SECONDS")")
 ASAN_SYMBOLIZER_PATH=$(command -v llvm-symbolizer-14 || true)
 export ASAN_SYMBOLIZER_PATH
-if command -v ccache >/dev/null; then export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+if command -v ccache >/dev/null; then
+    export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1 # what another checkout compiled serves this one
+fi
 mkdir -p "$results"
 for stage in "${stages[@]}"; do
     run_stage "$stage"
