@@ -115,7 +115,12 @@ def dependents():
 
 
 def suites(path):
-    return ['*%s.*' % name for name in re.findall(r'^TEST(?:_F|_P)?\((\w+),', open(TREE + '/' + path).read(), re.M)]
+    return sorted(set(re.findall(r'^(?:TYPED_)?TEST(?:_F|_P)?\((\w+),', open(TREE + '/' + path).read(), re.M)))
+
+
+def filter_of(names):
+    """Suites may have parameters: Values/Name.Test/3."""
+    return ['%s%s.*' % (before, name) for name in names for before in ('', '*/')]
 
 
 # ---- Trying one ---------------------------------------------------------------------------------------------------
@@ -152,9 +157,9 @@ def suites_below(pattern):
 def killer(folder, without):
     """The tests that tell most for their time come first: headers against tables, then those of the family. Those of
     the frame have tables of their own, which no change touches."""
-    frame = [] if folder.startswith('frame') else suites_below('frame/**/*')
+    frame = [] if folder.startswith('frame') else filter_of(suites_below('frame/**/*'))
     return (failure(TOOL_TESTS, 'Headers.*:FieldValues.*', without)
-            or failure(TESTS, ':'.join(suites_below(folder + '/*') + ['Commands*']), [SLOW] + without)
+            or failure(TESTS, ':'.join(filter_of(suites_below(folder + '/*')) + ['Commands*']), [SLOW] + without)
             or failure(TOOL_TESTS, '*', without)
             or failure(TESTS, '*', [SLOW] + frame + without)
             or failure(TESTS, SLOW, without))
@@ -235,11 +240,11 @@ def verdict(change, by_file, source, compiler, touched):
         # from the header have to find it when they are compiled again.
         readers = {s: target for target in by_file[change.file] if source[target].endswith('_test.cpp')
                    for s in suites(source[target])}
-        found = killer(folder, list(readers))
+        found = killer(folder, filter_of(readers))
         if not found and readers:
             found = killer(folder, [])
             test = re.search(r'(\w+)(?:/\d+)?\.[\w/]+$', found or '')
-            reader = test and readers.get('*%s.*' % test.group(1))
+            reader = test and readers.get(test.group(1))
             if found and not (reader and still_fails(reader, '*' + test.group(0), change, compiler, touched)):
                 found = None
         if not found:

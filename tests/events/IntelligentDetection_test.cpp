@@ -227,6 +227,21 @@ TEST(Men, SixtyFourInARecord) {
     }));
 }
 
+TEST(RoadWorks, ABoxHasFourNumbers) {
+    using R = DEV_EVENT_ROADCONSTRUCTION_INFO;
+    for (const char* const code : {"RoadConstruction", "RoadBlock"}) {
+        for (const char* const tooFew : {"[]", "[9]", "[1,2,3]", "7", "null"}) {
+            const auto box = Field(code, "{\"BoundingBox\":" + std::string(tooFew) + "}", &R::stuBoundingBox);
+            EXPECT_EQ(box.nLeft, 0) << code << tooFew;
+            EXPECT_EQ(box.nTop, 0) << code << tooFew;
+            EXPECT_EQ(box.nRight, 0) << code << tooFew;
+        }
+        const auto box = Field(code, R"({"BoundingBox":[1,2,3,4,5]})", &R::stuBoundingBox);
+        EXPECT_EQ(box.nLeft, 1) << code;
+        EXPECT_EQ(box.nBottom, 4) << code;
+    }
+}
+
 TEST(Crowd, AlarmIsTheLowTwoBits) {
     using R = DEV_EVENT_CROWDDETECTION_INFO;
     for (int mask = 0; mask < 8; ++mask) {

@@ -297,6 +297,22 @@ TEST(Multicast, AStreamThatIsNoListReadsAsEmpty) {
     }
 }
 
+TEST(Multicast, AnyStreamThatTheReplyLacksReadsAsEmpty) {
+    const char* const keys[] = {"TS", "RTP", "QVII", "RTPAudio"};
+    for (std::size_t there = 0; there < 4; ++there) {
+        auto record = Cleared<CFG_MULTICAST_INFO>();
+        Prepare(*record, 0xEE);
+        EXPECT_EQ(ParseInto(record.get(), Reply("{ \"" + std::string(keys[there]) + "\" : [ { \"Channel\" : 6 } ] }")),
+                  1);
+        for (std::size_t stream = 0; stream < 4; ++stream) {
+            const CFG_MULTICAST_STREAM& read = (*record).*kStreams[stream];
+            EXPECT_EQ(read.nCount, stream == there ? 1 : 0) << keys[there] << keys[stream];
+            EXPECT_EQ(read.stuItem[0].nChannel, stream == there ? 6 : 0) << keys[there] << keys[stream];
+            EXPECT_EQ(read.stuItem[1].nChannel, 0) << keys[there] << keys[stream];
+        }
+    }
+}
+
 TEST(Multicast, WhatTheReplyMustHold) {
     const auto before = Cleared<CFG_MULTICAST_INFO>();
     Prepare(*before, 0xEE);
