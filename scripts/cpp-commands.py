@@ -11,8 +11,7 @@ HEAD = """// Made by scripts/cpp-commands.py from `orrery schema`; do not edit. 
 #ifndef ORRERY_CPP_COMMANDS_H
 #define ORRERY_CPP_COMMANDS_H
 
-#include <cstddef>
-#include <cstdint>
+#include "orrery/cpp_records.h"
 
 // clang-format off
 """
@@ -41,8 +40,19 @@ def only(names):
     return "commands::" + identifier(names[0]) if len(names) == 1 else "detail::several_commands"
 
 
-def cases(codes):
-    return " || ".join("code == %du" % code for code in sorted(codes))
+def codes(numbers):
+    return "codes<%s>" % ", ".join("%du" % number for number in sorted(numbers))
+
+
+def declared(names):
+    """As many declarations a line as it holds."""
+    lines = [""]
+    for name in names:
+        word = "struct %s; " % name
+        if len(lines[-1]) + len(word) > 121:
+            lines.append("")
+        lines[-1] += word
+    return [line.rstrip() for line in lines]
 
 
 def main():
@@ -65,33 +75,8 @@ def main():
 
     out = [HEAD]
     used = set(of_record) | set(others) | set(rules) | set(events) | {row["record"] for row in templates}
-    out += ["struct %s;" % name for name in sorted(used)]
+    out += declared(sorted(used))
     out += ["", "namespace orrery {", "",
-            "namespace detail {",
-            "struct no_command {};",
-            "struct several_commands {};",
-            "// What a command's type says of it.",
-            "template <class R, bool IsCommand, bool Parses, bool Packs>",
-            "struct command {",
-            "    using record = R;",
-            "    static constexpr bool is_command = IsCommand, parses = Parses, packs = Packs;",
-            "};",
-            "// What is known of a record: what reads and what writes it, where that is one command only; a command that",
-            "// knows its size words; its size.",
-            "template <class R>",
-            "struct record_of {",
-            "    using parsed_by = no_command;",
-            "    using packed_by = no_command;",
-            "    static const char* any_command() { return nullptr; }",
-            "    static constexpr std::size_t size = 0;",
-            "};",
-            "template <class R>",
-            "struct codes_of {",
-            "    static constexpr bool is_rule = false, is_event = false;",
-            "    static bool rule(std::uint32_t) { return false; }",
-            "    static bool event(std::uint32_t) { return false; }",
-            "};",
-            "} // namespace detail", "",
             "// Configurations and methods, each under its name; what cannot stand in a name is '_'.",
             "namespace commands {"]
     out += [command_type(command) for command in commands]
@@ -104,27 +89,20 @@ def main():
     rows = {}
     for name, served in of_record.items():
         rows[name] = (only([c["name"] for c in served if c["parse"]]), only([c["name"] for c in served if c["pack"]]),
-                      served[0]["name"])
+                      "commands::" + identifier(served[0]["name"]))
     for name, command in others.items():
         one = "commands::" + identifier(command["name"])
-        rows.setdefault(name, (one, one, command["name"]))
+        rows.setdefault(name, (one, one, one))
     for row in templates:
-        rows.setdefault(row["record"], ("no_command", "no_command", row["name"]))
-    for name in sorted(rows):
-        parsed, packed, command = (word.replace("detail::", "") for word in rows[name])
-        out.append("template <> struct record_of< ::%s> { using parsed_by = %s; using packed_by = %s; "
-                   'static const char* any_command() { return "%s"; } static constexpr std::size_t size = %d; };' %
-                   (name, parsed, packed, command, sizes[name]))
-    for name in sorted(set(rules) | set(events)):
-        if name not in rows:
-            out.append("template <> struct record_of< ::%s> { using parsed_by = no_command; using packed_by = no_command; "
-                       "static const char* any_command() { return nullptr; } static constexpr std::size_t size = %d; };" %
-                       (name, sizes[name]))
-        tests = ["static bool %s(std::uint32_t%s) { return %s; }" %
-                 (word, " code" if name in of else "", cases(of[name]) if name in of else "false")
-                 for word, of in (("rule", rules), ("event", events))]
-        out.append("template <> struct codes_of< ::%s> { static constexpr bool is_rule = %s, is_event = %s; %s };" %
-                   (name, str(name in rules).lower(), str(name in events).lower(), " ".join(tests)))
+        rows.setdefault(row["record"], ("no_command", "no_command", "templates::" + identifier(row["name"])))
+    for name in sorted(used):
+        served = ", ".join(rows[name]).replace("detail::", "") if name in rows else ""
+        coded = [codes(of.get(name, ())) for of in (rules, events)]
+        while coded and coded[-1] == "codes<>":
+            coded.pop()
+        base = "known_record" if served or not coded else "coded_record"
+        words = ", ".join(word for word in ["%d" % sizes[name], served] + coded if word)
+        out.append("template <> struct record_of< ::%s> : %s<%s> {};" % (name, base, words))
     out += ["} // namespace detail"]
     print("\n".join(out) + TAIL, end="")
 

@@ -329,8 +329,8 @@ class rule_view {
     // Whether the rule's record is an R.
     template <class R>
     bool is() const noexcept {
-        static_assert(detail::codes_of<R>::is_rule, "no rule has this record");
-        return detail::codes_of<R>::rule(code()) && size() >= sizeof(R);
+        static_assert(detail::record_of<R>::rules::any, "no rule has this record");
+        return detail::record_of<R>::rules::has(code()) && size() >= sizeof(R);
     }
     // A copy of the rule's record; refused when it is no R.
     template <class R>
@@ -398,8 +398,8 @@ class rule_buffer {
     template <class R>
     bool add(std::uint32_t code, const R& record, std::uint8_t id = 0,
              std::int32_t rule_class = CFG_RULE_CLASS_NORMAL) {
-        static_assert(detail::codes_of<R>::is_rule, "no rule has this record");
-        if (!detail::codes_of<R>::rule(code) || count_ == ORRERY_MOST_RULES) return false;
+        static_assert(detail::record_of<R>::rules::any, "no rule has this record");
+        if (!detail::record_of<R>::rules::has(code) || count_ == ORRERY_MOST_RULES) return false;
         CFG_RULE_INFO head = CFG_RULE_INFO();
         head.dwRuleType = code;
         head.nRuleSize = static_cast<std::int32_t>(sizeof(R));
@@ -483,8 +483,8 @@ class event_view {
     // The record; null when the code is none of R's.
     template <class R>
     const R* as() const noexcept {
-        static_assert(detail::codes_of<R>::is_event, "no event has this record");
-        return detail::codes_of<R>::event(code_) ? static_cast<const R*>(record_) : nullptr;
+        static_assert(detail::record_of<R>::events::any, "no event has this record");
+        return detail::record_of<R>::events::has(code_) ? static_cast<const R*>(record_) : nullptr;
     }
 
   private:
