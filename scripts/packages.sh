@@ -51,7 +51,7 @@ stage_debian() {
     rm -rf "$out/debian"
     mkdir -p "$out/debian/orrery"
     git archive HEAD | tar x -C "$out/debian/orrery"
-    (cd "$out/debian/orrery" && DEB_BUILD_OPTIONS=nocheck dpkg-buildpackage -b -us -uc)
+    (cd "$out/debian/orrery" && DEB_BUILD_OPTIONS="nocheck ${DEB_BUILD_OPTIONS:-}" dpkg-buildpackage -b -us -uc)
     lintian --allow-root --fail-on error,warning "$out"/debian/*.changes
 }
 

@@ -1,105 +1,170 @@
 #!/usr/bin/env bash
 # Builds for other platforms and runs there what they can: longer than scripts/test.sh, and no part of it.
 #   platforms.sh [STAGE...]   bits32 aarch64 windows (all of them without a name)
-# Needs a release build in build/ (scripts/test.sh release) to compare with, and Debian's packages: g++-aarch64-linux-gnu
-# and qemu-user, g++-mingw-w64-x86-64-posix and wine64, g++-multilib (which cannot stand beside g++-aarch64-linux-gnu),
-# libgtest-dev. Results: build/platforms.
+# Needs a companion of this machine to compare with: build/orrery (scripts/test.sh release), or what COMPANION names. The
+# Debian packages that a stage needs are installed when they are missing. TEST_FOLDERS names the folders of tests/ to
+# run, for example "frame events" (all when empty). Results: build/platforms.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
 out=$root/build/platforms
+companion=$(realpath -m "${COMPANION:-build/orrery}")
 mkdir -p "$out"
 if command -v ccache >/dev/null; then export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
 stages=("$@")
 [ ${#stages[@]} -gt 0 ] || stages=(bits32 aarch64 windows)
-googletest=/usr/src/googletest/googletest
+googletest=/usr/src/googletest
 
-# Records hold 64-bit pointers: CMake says so.
+needs() { # needs PACKAGE...
+    local package missing=() as_root=()
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# Records hold 64-bit pointers: CMake says so. (Nothing is linked, so no 32-bit libraries are needed.)
 stage_bits32() {
     rm -rf "$out/bits32"
-    if cmake -S . -B "$out/bits32" -G Ninja -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32 >"$out/bits32.txt" 2>&1; then
+    if cmake -S . -B "$out/bits32" -G Ninja -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32 \
+        -DCMAKE_TRY_COMPILE_TARGET_TYPE=STATIC_LIBRARY >"$out/bits32.txt" 2>&1; then
         echo "platforms: a 32-bit build is configured" >&2
         exit 1
     fi
     grep -q 'laid out for 64-bit pointers' "$out/bits32.txt"
 }
 
+# The parser of arguments is headers alone, but stands where this machine's own headers do, which are not the platform's.
+headers_alone() {
+    needs libcli11-dev
+    mkdir -p "$out/headers/include" "$out/headers/share/cmake"
+    ln -sfn /usr/include/CLI "$out/headers/include/CLI"
+    cp -r /usr/share/cmake/CLI11 "$out/headers/share/cmake/"
+}
+
 configure() { # configure NAME TOOLCHAIN
+    headers_alone
     cmake -S . -B "$out/$1" -G Ninja -DCMAKE_BUILD_TYPE=Release "-DCMAKE_TOOLCHAIN_FILE=$root/cmake/toolchains/$2.cmake" \
-        -DORRERY_STATIC=OFF
+        "-DCLI11_DIR=$out/headers/share/cmake/CLI11" -DORRERY_STATIC=OFF
     cmake --build "$out/$1"
+}
+
+same() { # same WHAT HERE THERE
+    diff -u "$2" "$3" >"$3.diff" && return
+    head -40 "$3.diff" >&2
+    echo "platforms: other $1: $3.diff" >&2
+    exit 1
 }
 
 # Layout of all records, and the texts of an empty record of every command, as the companion of this machine has them.
 same_texts() { # same_texts NAME RUNNER...
     local name=$1 command
     shift
-    "$@" layout | tr -d '\r' | diff -u tests/golden/layout.txt - || { echo "platforms: another layout" >&2; exit 1; }
+    [ -x "$companion" ] || { echo "platforms: no $companion to compare with" >&2; exit 2; }
+    "$companion" layout >"$out/layout.here.txt"
+    "$@" layout >"$out/$name.layout.txt"
+    same layout "$out/layout.here.txt" "$out/$name.layout.txt"
+    "$companion" schema >"$out/schema.here.json"
+    "$@" schema >"$out/$name.schema.json"
+    same schema "$out/schema.here.json" "$out/$name.schema.json"
     echo '{}' >"$out/empty.json"
-    for companion in here there; do : >"$out/$name.$companion.txt"; done
-    build/orrery schema | python3 -c 'import json, sys
+    for place in here there; do : >"$out/$name.$place.txt"; done
+    python3 -c 'import json, sys
 for command in json.load(sys.stdin)["commands"]:
-    if command["pack"]: print(command["name"])' >"$out/commands.txt"
+    if command["pack"]: print(command["name"])' <"$out/schema.here.json" >"$out/commands.txt"
     while read -r command; do
-        echo "$command: $(build/orrery pack "$command" "$out/empty.json" 2>&1)" >>"$out/$name.here.txt"
-        echo "$command: $("$@" pack "$command" "$out/empty.json" 2>&1 | tr -d '\r')" >>"$out/$name.there.txt"
+        echo "$command: $("$companion" pack "$command" "$out/empty.json" 2>&1)" >>"$out/$name.here.txt"
+        echo "$command: $("$@" pack "$command" "$out/empty.json" 2>&1)" >>"$out/$name.there.txt"
     done <"$out/commands.txt"
-    diff -u "$out/$name.here.txt" "$out/$name.there.txt" || { echo "platforms: other texts" >&2; exit 1; }
-    echo "platforms: $name: layout and the texts of $(wc -l <"$out/commands.txt") commands are the same"
+    same texts "$out/$name.here.txt" "$out/$name.there.txt"
+    echo "platforms: $name: layout, schema and the texts of $(wc -l <"$out/commands.txt") commands are the same"
 }
 
-# The tests that need nothing but the library, GoogleTest and what this platform has.
+# The referee of the tests is no package of these platforms: its sources are those of this machine's.
+jsoncpp() {
+    local at=$out/jsoncpp site
+    [ -z "$(compgen -G "$at/*/src/lib_json/json_value.cpp")" ] || return 0
+    needs dpkg-dev
+    mkdir -p "$at/lists/partial"
+    site=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | sed -n 1p)
+    echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $site bookworm main" >"$at/sources.list"
+    (
+        cd "$at"
+        own=(-o "Dir::Etc::SourceList=$at/sources.list" -o Dir::Etc::SourceParts=- -o "Dir::State::Lists=$at/lists")
+        apt-get "${own[@]}" update
+        apt-get "${own[@]}" -o APT::Sandbox::User=root source libjsoncpp
+    )
+}
+
+# The tests that need nothing but the library, GoogleTest, the referee and what this platform has.
 tests_of() { # tests_of COMPILER FLAG...
     local compiler=$1 file
     shift
-    find tests -name '*_test.cpp' ! -path 'tests/tools/*' ! -path 'tests/shared/*' | LC_ALL=C sort | while read -r file; do
-        if "$compiler" -std=c++20 "$@" -MM "$file" >/dev/null 2>&1 && ! grep -q FailingAllocator "$file"; then
+    # shellcheck disable=SC2086 # several names
+    (cd tests && find ${TEST_FOLDERS:-.} -name '*_test.cpp' ! -path '*tools/*' ! -path '*shared/*') |
+        sed 's|^\(\./\)\?|tests/|' | LC_ALL=C sort | while read -r file; do
+        if ! grep -qE "${LACKS:-^$.}" "$file" && "$compiler" -std=c++20 "$@" -E "$root/$file" >/dev/null 2>&1; then
             echo "$file"
+        else
+            echo "platforms: left out, the platform lacks what it uses: $file" >&2
         fi
     done
 }
 
 run_tests() { # run_tests NAME COMPILER RUNNER...
-    local name=$1 compiler=$2 build=$out/$1 file
+    local name=$1 compiler=$2 build=$out/$1 file source objects=()
     shift 2
-    local flags=(-Iinclude -Isrc -Iexplain -Itests "-I$googletest/include" "-DORRERY_TEST_DATA=\"$root/tests\"")
+    jsoncpp
+    source=$(compgen -G "$out/jsoncpp/*/src/lib_json")
+    # shellcheck disable=SC2206 # several words
+    local flags=("-I$root/include" "-I$root/src" "-I$root" "-I$root/tests" "-I$googletest/googletest/include"
+        "-I$googletest/googlemock/include" "-I${source%/src/lib_json}/include" "-DORRERY_TEST_DATA=\"$root/tests\""
+        -DJSONCPP_NO_LOCALE_SUPPORT $FLAGS)
     mkdir -p "$build/tests"
     tests_of "$compiler" "${flags[@]}" >"$build/tests.txt"
     {
         echo "rule cc"
-        echo "  command = ${CMAKE_CXX_COMPILER_LAUNCHER:-} $compiler -std=c++20 -O1 ${flags[*]//\"/\\\"} -I$googletest -c \$in -o \$out"
-        local objects=()
+        echo "  depfile = \$out.d"
+        echo "  deps = gcc"
+        echo "  command = ${CMAKE_CXX_COMPILER_LAUNCHER:-} $compiler -std=c++20 -O1 -MD -MF \$out.d ${flags[*]//\"/\\\"}" \
+            "-I$googletest/googletest -I$googletest/googlemock -c \$in -o \$out"
         while read -r file; do
-            objects+=("tests/${file//\//_}.o")
-            echo "build tests/${file//\//_}.o: cc $root/$file"
-        done < <(cat "$build/tests.txt"; ls tests/support/*.cpp | grep -v FailingAllocator)
-        for file in gtest-all gtest_main; do
-            objects+=("tests/$file.o")
-            echo "build tests/$file.o: cc $googletest/src/$file.cc"
-        done
+            objects+=("tests/$(basename "$(dirname "$file")").$(basename "$file").o")
+            echo "build ${objects[-1]}: cc $file"
+        done < <(sed "s|^|$root/|" "$build/tests.txt"; ls "$root"/tests/support/*.cpp "$source"/json_{reader,value,writer}.cpp \
+            "$googletest"/googletest/src/gtest{-all,_main}.cc "$googletest/googlemock/src/gmock-all.cc")
         echo "rule ld"
-        echo "  command = $compiler \$in -Lexplain -L. -lorrery_explain_core -lorrery_core $LINK -o \$out"
-        echo "build tests/orrery_tests$EXE: ld ${objects[*]}"
+        echo "  command = $compiler \$in -Lexplain -L. -lorrery_explain_core -lorrery_core" \
+            "-Wl,--wrap=malloc,--wrap=free $LINK -o \$out"
+        echo "build tests/orrery_tests$EXE: ld ${objects[*]} | liborrery_core.a explain/liborrery_explain_core.a"
     } >"$build/tests.ninja"
-    (cd "$root" && ninja -C "$build" -f tests.ninja)
+    ninja ${CMAKE_BUILD_PARALLEL_LEVEL:+"-j$CMAKE_BUILD_PARALLEL_LEVEL"} -C "$build" -f tests.ninja
     "$@" "$build/tests/orrery_tests$EXE" --gtest_brief=1
     echo "platforms: $name: the tests of $(wc -l <"$build/tests.txt") files passed"
 }
 
 stage_aarch64() {
+    needs g++-aarch64-linux-gnu qemu-user libgmock-dev
     configure aarch64 aarch64
     local run=(qemu-aarch64 -L /usr/aarch64-linux-gnu)
     same_texts aarch64 "${run[@]}" "$out/aarch64/orrery"
-    LINK=-pthread EXE='' run_tests aarch64 aarch64-linux-gnu-g++ "${run[@]}"
+    FLAGS='' LINK=-pthread EXE='' run_tests aarch64 aarch64-linux-gnu-g++ "${run[@]}"
 }
 
 stage_windows() {
+    needs g++-mingw-w64-x86-64-posix wine64 libgmock-dev
     configure windows mingw-w64
     local wine
     wine=$(command -v wine64 || command -v wine || echo /usr/lib/wine/wine64)
     export WINEDEBUG=-all WINEPREFIX=$out/wine
     same_texts windows "$wine" "$out/windows/orrery.exe"
-    LINK='-static' EXE=.exe run_tests windows x86_64-w64-mingw32-g++-posix "$wine"
+    # Locales of POSIX, and gigabytes of text that the system only lends.
+    LACKS='support/Locales|MAP_NORESERVE' \
+        FLAGS="-I$root/tests/support/windows -Dmalloc_usable_size=_msize" LINK='-static' EXE=.exe \
+        run_tests windows x86_64-w64-mingw32-g++-posix "$wine"
 }
 
 for stage in "${stages[@]}"; do

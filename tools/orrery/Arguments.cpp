@@ -5,13 +5,13 @@
 #include "orrery/Input.h"
 #include "orrery/Output.h"
 #include "orrery/Suggest.h"
+#include "orrery/System.h"
 #include "orrery/Terminal.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace orrery::tool {
 
@@ -32,7 +32,7 @@ Arguments::Arguments()
            "Exit status: 0 done, 1 refused (standard error tells why), 2 wrong arguments, 3 not all of a text went "
            "through ('check', --strict).",
            "orrery"),
-      warns_(isatty(STDERR_FILENO) == 1) {
+      warns_(IsTerminal(kErrors)) {
     app_.set_version_flag("--version", "orrery " ORRERY_VERSION);
     app_.add_option("--color", colour_, "always, never, or auto: on terminals, unless NO_COLOR is set")
         ->check(CLI::IsMember({"auto", "always", "never"}));
@@ -92,14 +92,14 @@ int Arguments::RunParse() {
     if (!Read(file_, text) || (!startFile_.empty() && !Read(startFile_, start))) return kUsage;
     parse_.start = start;
     parse_.table = isTable_;
-    parse_.width = TerminalWidth(STDOUT_FILENO);
+    parse_.width = TerminalWidth(kOutput);
     Result result = ParseText(name_, text, parse_);
-    if (UsesColour(colour_, STDOUT_FILENO)) result.out = ColouredJson(result.out);
+    if (UsesColour(colour_, kOutput)) result.out = ColouredJson(result.out);
     if ((warns_ || isStrict_) && result.exit == kDone) {
         check_.records = parse_.records;
         check_.table = isTable_;
         const Result found = CheckText(name_, file_.empty() || file_ == "-" ? "-" : file_, text, check_);
-        result.err += UsesColour(colour_, STDERR_FILENO) ? ColouredFindings(found.out) : found.out;
+        result.err += UsesColour(colour_, kErrors) ? ColouredFindings(found.out) : found.out;
         if (isStrict_ && found.exit != kDone) result.exit = found.exit;
     }
     return Show(result);
@@ -127,7 +127,7 @@ int Arguments::RunPack() {
     pack_.file = file_.empty() ? "-" : file_;
     pack_.strict = isStrict_;
     Result result = PackText(name_, text, pack_);
-    if (!pack_.json && UsesColour(colour_, STDERR_FILENO)) result.err = ColouredFindings(result.err);
+    if (!pack_.json && UsesColour(colour_, kErrors)) result.err = ColouredFindings(result.err);
     return Show(result);
 }
 
@@ -161,7 +161,7 @@ int Arguments::RunCheck() {
             continue;
         }
         Result result = CheckText(name_, each, text, check_);
-        if (!check_.json && UsesColour(colour_, STDOUT_FILENO)) result.out = ColouredFindings(result.out);
+        if (!check_.json && UsesColour(colour_, kOutput)) result.out = ColouredFindings(result.out);
         const int shown = Show(result);
         if (exit == kDone || (exit == kFound && shown != kDone)) exit = shown;
     }
@@ -205,9 +205,9 @@ int Arguments::RunEvents() {
                      : format_ == "csv"               ? Format::Csv
                      : format_ == "table"             ? Format::Table
                                                       : Format::Lines;
-    options.colour = UsesColour(colour_, STDOUT_FILENO);
-    options.width = TerminalWidth(STDOUT_FILENO);
-    stream_.progress = isatty(STDOUT_FILENO) != 1;
+    options.colour = UsesColour(colour_, kOutput);
+    options.width = TerminalWidth(kOutput);
+    stream_.progress = !IsTerminal(kOutput);
     return StreamEvents(files_, stream_);
 }
 
@@ -271,7 +271,7 @@ void Arguments::AddDescribe() {
     describe->add_option("NAME", name_, "Name of a command, an event, a rule or a record; a code; a key")->required();
     describe->callback([this] {
         run_ = [this] {
-            const std::size_t width = TerminalWidth(STDOUT_FILENO);
+            const std::size_t width = TerminalWidth(kOutput);
             if (const auto text = Describe(name_, width)) return Show({kDone, *text, {}});
             return Show({kRefused,
                          {},

@@ -3,18 +3,18 @@
 #include "orrery/Input.h"
 #include "orrery/Jobs.h"
 #include "orrery/Output.h"
+#include "orrery/System.h"
 #include "orrery/Terminal.h"
 #include "orrery/TextSplitter.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
 #include <mutex>
 #include <optional>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <thread>
 #include <utility>
 
 namespace orrery::tool {
@@ -44,40 +44,34 @@ class Stream {
     }
 
   private:
-    static constexpr unsigned kPause = 200'000; // microseconds between two looks at a file that may have grown
+    static constexpr std::chrono::milliseconds kPause{200}; // between two looks at a file that may have grown
 
     // False when nobody reads what is printed any more.
     bool Read(const std::string& name) {
-        const bool isInput = name == "-";
-        const int file = isInput ? STDIN_FILENO : open(name.c_str(), O_RDONLY | O_CLOEXEC);
-        if (file < 0) return Complain(name);
-        struct stat about {};
-        const bool isFile = fstat(file, &about) == 0 && S_ISREG(about.st_mode);
-        progress_.emplace(isInput ? "standard input" : Printable(name),
-                          isFile ? static_cast<std::uint64_t>(about.st_size) : 0, options_.progress);
+        ByteSource file(name);
+        if (!file.isOpen()) return Complain(name);
+        progress_.emplace(file.isInput() ? "standard input" : Printable(name), file.Size(), options_.progress);
         const bool isWanted = ReadAll(name, file);
         {
             const std::lock_guard lock(printing_);
             progress_.reset();
         }
-        if (!isInput) close(file);
         return isWanted;
     }
 
-    bool ReadAll(const std::string& name, int file) {
+    bool ReadAll(const std::string& name, ByteSource& file) {
         TextSplitter splitter;
         std::vector<char> chunk(kChunk);
         std::uint64_t done = 0;
         for (;;) {
-            const ssize_t got = read(file, chunk.data(), chunk.size());
-            if (got < 0 && errno == EINTR) continue;
+            const std::ptrdiff_t got = file.Read(chunk.data(), chunk.size());
             if (got < 0) {
                 if (!Complain(name)) return false;
                 break;
             }
             if (got == 0) {
-                if (!options_.follow || file == STDIN_FILENO) break;
-                usleep(kPause);
+                if (!options_.follow || file.isInput()) break;
+                std::this_thread::sleep_for(kPause);
                 continue;
             }
             const std::string_view bytes(chunk.data(), static_cast<std::size_t>(got));

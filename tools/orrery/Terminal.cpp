@@ -1,11 +1,11 @@
 #include "orrery/Terminal.h"
 
+#include "orrery/System.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 namespace orrery::tool {
 
@@ -32,14 +32,13 @@ bool IsContinuation(char c) {
 } // namespace
 
 std::size_t TerminalWidth(int stream) {
-    if (isatty(stream) != 1) return 0;
+    if (!IsTerminal(stream)) return 0;
     if (const char* const told = std::getenv("COLUMNS"); told != nullptr) {
         const long columns = std::strtol(told, nullptr, 10);
         if (columns > 0) return static_cast<std::size_t>(columns);
     }
-    winsize size{};
-    if (ioctl(stream, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) return size.ws_col;
-    return 80;
+    const std::size_t columns = TerminalColumns(stream);
+    return columns > 0 ? columns : 80;
 }
 
 bool UsesColour(std::string_view when, int stream) {
@@ -48,7 +47,7 @@ bool UsesColour(std::string_view when, int stream) {
     const char* const no = std::getenv("NO_COLOR");
     const char* const kind = std::getenv("TERM");
     if (no != nullptr && no[0] != '\0') return false;
-    return isatty(stream) == 1 && kind != nullptr && std::string_view(kind) != "dumb";
+    return IsTerminal(stream) && kind != nullptr && std::string_view(kind) != "dumb";
 }
 
 std::string ColouredJson(std::string_view json) {
@@ -119,7 +118,7 @@ std::string CutTo(std::string_view line, std::size_t width) {
 
 Progress::Progress(std::string name, std::uint64_t total, bool isShown) : name_(std::move(name)), total_(total) {
     constexpr std::uint64_t kLong = std::uint64_t{4} << 20; // what is read before anybody asks
-    if (isShown && total > kLong) width_ = TerminalWidth(STDERR_FILENO);
+    if (isShown && total > kLong) width_ = TerminalWidth(kErrors);
 }
 
 std::string Progress::Line(std::string_view name, std::uint64_t done, std::uint64_t total, std::size_t width) {

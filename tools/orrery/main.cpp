@@ -1,11 +1,13 @@
 // The companion. `orrery --help` tells what it does.
 #include "orrery/Arguments.h"
+#include "orrery/System.h"
 
 #include <cstdio>
 #include <exception>
 #include <string_view>
 
 int main(int argc, char** argv) {
+    orrery::tool::LeaveBytesAsTheyAre();
     try {
         orrery::tool::Arguments arguments;
         // What the shells ask is not for the parser: it may be anything.
