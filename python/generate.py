@@ -33,8 +33,8 @@ def safe(name: str) -> str:
 
 
 # What the module of records imports.
-IMPORTED = ("Array", "Bool", "Code", "Field", "Flagged", "Inside", "Listed", "Mask", "Number", "PointedList", "PointedText",
-            "Record", "Text", "List", "Optional", "Union")
+IMPORTED = ("Array", "Bool", "Code", "Field", "Flagged", "Inside", "Listed", "Mask", "Number", "PackedList", "PointedList",
+            "PointedText", "Record", "Text", "List", "Optional", "Union")
 
 
 def class_names(records: List[Json]) -> Dict[str, str]:
@@ -53,15 +53,25 @@ def class_names(records: List[Json]) -> Dict[str, str]:
 
 def member_names(record: Json) -> Dict[str, str]:
     short = {field["name"]: safe(snake(PREFIX.sub("", field["name"]))) for field in record["fields"]
-             if not hidden(field)}
+             if not hidden(record, field)}
     taken: Dict[str, int] = {}
     for name in short.values():
         taken[name] = taken.get(name, 0) + 1
     return {name: one if taken[one] == 1 else safe(snake(name)) for name, one in short.items()}
 
 
-def hidden(field: Json) -> bool:
+def packed(record: Json) -> Optional[Json]:
+    """The member that leads to records of a type which the record tells itself."""
+    if "head" in record.get("items", {"head": None}):
+        return None
+    return next(field for field in record["fields"] if field.get("pointer", {}).get("elements") == "bytes")
+
+
+def hidden(record: Json, field: Json) -> bool:
     """What another member stands for: counts, flags, rooms, size words, reserved bytes."""
+    leads = packed(record)
+    if leads is not None and field["name"] in (leads["pointer"]["items"], leads["pointer"]["bytes"], record["items"]["size"]):
+        return True
     return field.get("role") in ("count", "flag", "capacity", "size", "reserved")
 
 
@@ -149,7 +159,11 @@ class Generator:
         if elements == "text":
             return "PointedText(%d)" % field["offset"], "Optional[str]"
         if elements == "bytes":
-            return None  # packed items: parse_rules() has them
+            if packed(record) is None:
+                return None  # items with heads: parse_rules() has them
+            beside = (record["items"]["code"], record["items"]["size"], field["pointer"]["items"], field["pointer"]["bytes"])
+            return ("PackedList(%d, %s)" % (field["offset"], ", ".join(self.plain(record, name) for name in beside)),
+                    "List[Record]")
         if "record" in field:
             codec, kind = "Inside(%s)" % self.names[field["record"]], self.names[field["record"]]
         else:
@@ -195,8 +209,8 @@ class Generator:
     def records_module(self) -> str:
         out = ['"""Records of commands, rules and events. Made by generate.py from the schema."""', "",
                "from typing import List, Optional, Union", "", "from . import _enumerations as enumerations",
-               "from ._memory import (Array, Bool, Code, Field, Flagged, Inside, Listed, Mask, Number, PointedList,",
-               "                      PointedText, Record, Text)", ""]
+               "from ._memory import (Array, Bool, Code, Field, Flagged, Inside, Listed, Mask, Number, PackedList,",
+               "                      PointedList, PointedText, Record, Text)", ""]
         commands: Dict[str, List[str]] = {}
         writers: Dict[str, List[str]] = {}
         for command in self.schema["commands"]:
@@ -205,6 +219,7 @@ class Generator:
                 writers.setdefault(command["record"], []).append(command["name"])
         for template in self.schema["templates"]:
             commands.setdefault(template["record"], []).append(template["name"])
+        holding: Set[str] = set()  # packed records, themselves or inside
         for record in self.ordered():
             name = record["name"]
             names = member_names(record)
@@ -218,11 +233,15 @@ class Generator:
             if len(writers.get(name, [])) == 1:
                 out.append('    only_command_ = "%s"' % writers[name][0])
             members = []
+            holders = []
             lists = False
             for field in record["fields"]:
-                made = None if hidden(field) else self.member(record, field)
+                made = None if hidden(record, field) else self.member(record, field)
                 if made is None:
                     continue
+                if made[0].startswith("PackedList") or field["type"] == "record" and field["record"] in holding:
+                    holders.append(names[field["name"]])
+                    holding.add(name)
                 lists |= made[0].startswith("PointedList")
                 members.append(names[field["name"]])
                 says = [field.get("doc", "")]
@@ -234,6 +253,8 @@ class Generator:
                         "    " + doc_of(" ".join(says))]
             if lists:
                 out.append("    has_lists_ = True")
+            if holders:
+                out.append("    packed_ = %r" % holders)
             out += ["    fields_ = %r" % members, ""]
         return "\n".join(out)
 

@@ -37,7 +37,10 @@ probe() { # probe TREE NAME
             "$tree/include/orrery/explain.h" 2>/dev/null | tr -d '(' | LC_ALL=C sort -u |
             while read -r record; do echo "__typeof__($record)* abi_call_$record = 0;"; done
     } >"$out.c"
-    "$compiler" -std=gnu99 -g -shared -fPIC -I"$tree/include" "$out.c" -o "$out.so"
+    "$compiler" -std=gnu99 -g -shared -fPIC -I"$tree/include" "$out.c" -o "$out.so" || {
+        echo "abi: the headers of $tree do not compile" >&2
+        exit 2
+    }
     [ "$(grep -c '^int abi_of_' "$out.c")" -gt 0 ] || { echo "abi: no records in $tree" >&2; exit 2; }
 }
 

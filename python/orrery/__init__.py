@@ -17,7 +17,7 @@ from typing import Any, Iterator, List, NamedTuple, Optional, Union
 from . import _library
 from ._commands import COMMANDS, EVENTS, NAMES_OF_CODES, RULES, TEMPLATES, TYPED, Reading, Several, Templates
 from ._library import Finding, Refused, explain, version
-from ._memory import Buffer, Record, lists_of
+from ._memory import Buffer, Record, lists_of, packed_of
 
 __all__ = [
     "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "pack", "pack_rules", "parse", "parse_all",
@@ -26,6 +26,7 @@ __all__ = [
 
 Json = Union[str, bytes]
 _MOST_ELEMENTS = 1 << 16
+Record.rule_types_ = RULES
 _LARGEST_TEXT = 64 << 20
 
 
@@ -43,9 +44,9 @@ def _parse(command: str, text: Json) -> Record:
     name, record_type = found
     data = _bytes(text)
     elements = 32
+    record = record_type()
+    record.command = name
     while True:
-        record = record_type()
-        record.command = name
         lists = list(lists_of(record)) if record_type.has_lists_ else []
         for pointed in lists:
             pointed.lend(record, elements)
@@ -53,8 +54,26 @@ def _parse(command: str, text: Json) -> Record:
             raise Refused("%s: the reply is refused" % name, explain(name, data))
         # A list that is full may have been cut.
         if elements >= _MOST_ELEMENTS or not any(pointed.is_full(record) for pointed in lists):
-            return record
+            break
         elements *= 8
+        record = record_type()
+        record.command = name
+    return _with_rules(record, name, data) if record_type.packed_ else record
+
+
+def _with_rules(record: Record, command: str, data: bytes) -> Record:
+    """The rules of groups, which told their types when there was no room for them."""
+    elements = 8
+    while elements <= _MOST_ELEMENTS:
+        full = [(packed, group) for packed, group in packed_of(record) if packed.is_full(group)]
+        if not full:
+            break
+        for packed, group in full:
+            packed.lend(group, elements)
+        if not _library.parse(command, data, record._buffer):
+            raise Refused("%s: the reply is refused" % command, explain(command, data))
+        elements *= 8
+    return record
 
 
 parse: Reading = _parse  # type: ignore[assignment]

@@ -50,6 +50,8 @@ class Record:
     only_command_: ClassVar[Optional[str]] = None  # the one that writes it
     is_written_: ClassVar[bool] = False
     has_lists_: ClassVar[bool] = False
+    packed_: ClassVar[List[str]] = []  # members that are packed records or hold such
+    rule_types_: ClassVar["dict[int, Type[Record]]"] = {}
     prepare_: ClassVar[Optional[Callable[[str, Buffer], None]]] = None
 
     __slots__ = ("_buffer", "_at", "_kept", "command")
@@ -374,6 +376,65 @@ class PointedList(BaseField[List[T]]):
             and self._room is not None
             and 0 < self._room.load(record) <= self._count.load(record)
         )
+
+
+class PackedList(BaseField[List[Record]]):
+    """Rules of one type behind a pointer, record behind record: a code beside them tells which."""
+
+    def __init__(self, offset: int, code: Field[int], stride: Field[int], count: Field[int], room: Field[int]) -> None:
+        self._offset = offset
+        self._code = code
+        self._stride = stride
+        self._count = count
+        self._room = room
+
+    def load(self, record: Record) -> List[Record]:
+        kind = Record.rule_types_.get(self._code.load(record))
+        address = pointer_at(record, self._offset)
+        stride, room = self._stride.load(record), self._room.load(record)
+        if kind is None or address == 0 or stride < kind.size_:
+            return []
+        count = min(self._count.load(record), room // stride)
+        buffer = at_address(address, max(room, 0))
+        return [kind.view(buffer, i * stride, record._kept) for i in range(count)]
+
+    def store(self, record: Record, value: List[Record]) -> None:
+        kind = Record.rule_types_.get(self._code.load(record))
+        if value and (kind is None or any(type(rule) is not kind for rule in value)):
+            raise TypeError("rules of another type than %d" % self._code.load(record))
+        stride = kind.size_ if kind is not None else 0
+        buffer = bytearray().join(bytes(rule) for rule in value)
+        for rule in value:
+            record._kept.extend(rule._kept)
+        self._stride.store(record, stride)
+        self._lend(record, buffer)
+        self._count.store(record, len(value))
+
+    def _lend(self, record: Record, buffer: bytearray) -> None:
+        if buffer:
+            point(record, self._offset, buffer)
+        else:
+            _ADDRESS.pack_into(record._buffer, record._at + self._offset, 0)
+        self._room.store(record, len(buffer))
+
+    def lend(self, record: Record, elements: int) -> None:
+        """Room for the rules of a reply that has told their type."""
+        self._lend(record, bytearray(max(0, elements * self._stride.load(record))))
+
+    def is_full(self, record: Record) -> bool:
+        stride = self._stride.load(record)
+        return stride > 0 and self._room.load(record) // stride <= self._count.load(record)
+
+
+def packed_of(record: Record) -> "Iterator[tuple[PackedList, Record]]":
+    for name in record.packed_:
+        field = getattr(type(record), name)
+        if isinstance(field, PackedList):
+            yield field, record
+            continue
+        held = getattr(record, name)
+        for inner in held if isinstance(held, list) else [held]:
+            yield from packed_of(inner)
 
 
 def lists_of(record: Record) -> Iterator[PointedList[Any]]:

@@ -3,6 +3,7 @@
 import enum
 import json
 import threading
+from random import Random
 from typing import Any, List
 
 import pytest
@@ -112,6 +113,35 @@ def test_lists_behind_pointers_are_lent_and_grow() -> None:
     assert many.devices == list(range(500))
 
 
+def test_groups_of_rules_have_room_for_all_of_them() -> None:
+    many = [{"Name": "yard %d" % i, "Id": i} for i in range(100)]
+    rules = orrery.parse("VideoInAnalyseRule", reply([
+        {"Rules": {"MoveDetection": {"Enable": True, "Rule": many}, "FireDetection": {"Rule": [{"Name": "stove"}]}}},
+        {"Rules": {"NoSuchDetection": {"Rule": [{}]}, "LeftDetection": {"Rule": []}}}]))
+    fire, move = rules.scenes[0].rule_groups
+    assert (fire.rule_type, move.rule_type) == (12, 9)
+    assert [type(rule) for rule in fire.rule_buf] == [records.RuleFire]
+    assert [getattr(rule, "rule_name") for rule in move.rule_buf] == [one["Name"] for one in many]
+    assert [group.rule_buf for group in rules.scenes[1].rule_groups] == [[]]
+
+    # Rules are views: what is set in them is written. Other rules take their place.
+    setattr(move.rule_buf[7], "rule_name", "pool")
+    fire.rule_buf = [records.RuleFire(rule_name="oven"), records.RuleFire(rule_name="grill")]
+    back = json.loads(orrery.pack(rules))[0]["Rules"]
+    assert [rule["Name"] for rule in back["FireDetection"]["Rule"]] == ["oven", "grill"]
+    assert [rule["Name"] for rule in back["MoveDetection"]["Rule"]][6:9] == ["yard 6", "pool", "yard 8"]
+    with pytest.raises(TypeError):
+        fire.rule_buf = [records.RuleMove()]
+    fire.rule_buf = []
+    assert json.loads(orrery.pack(rules))[0]["Rules"]["FireDetection"]["Rule"] == []
+
+    # A record of one's own says the type first.
+    scene = records.VideoinanalyseScene(rule_groups=[records.RuleGroup(rule_type=12)])
+    scene.rule_groups[0].rule_buf = [records.RuleFire(rule_name="kiln")]
+    made = records.VideoinanalyseRules(scenes=[scene])
+    assert json.loads(orrery.pack(made))[0]["Rules"]["FireDetection"]["Rule"][0]["Name"] == "kiln"
+
+
 def test_several_records_and_size_words() -> None:
     groups = orrery.parse_all("StorageGroup", reply([{"Name": "ReadWrite"}, {"Name": "Redundant"}]))
     assert [group.name for group in groups] == ["ReadWrite", "Redundant"]
@@ -167,7 +197,49 @@ def value_for(draw: Any, codec: Any) -> Any:
     return None
 
 
+# Lists hold hundreds of values: they come of one seed.
+def element_for(random: Random, codec: Any, depth: int = 0) -> Any:
+    if isinstance(codec, memory.Text):
+        return "".join(random.choice("abcdefgh 123") for _ in range(random.randint(0, min(codec._most, 12))))
+    if isinstance(codec, memory.Bool):
+        return random.random() < 0.5
+    if isinstance(codec, memory.Code):
+        return random.choice(sorted(codec._members.values()))
+    if isinstance(codec, memory.Mask):
+        return codec._enumeration(random.randint(0, 3))
+    if isinstance(codec, memory.Number):
+        return random.randint(0, 100)
+    if isinstance(codec, memory.Array):
+        return [element_for(random, codec._of, depth) for _ in range(codec._length)]
+    record = codec._of()
+    if depth < 3:
+        fill_lists(random, record, depth + 1)
+        for name in record.fields_:
+            field = getattr(type(record), name)
+            if type(field) is memory.Field and not isinstance(field._codec, memory.Inside):
+                setattr(record, name, element_for(random, field._codec, depth))
+    return record
+
+
+def fill_lists(random: Random, record: memory.Record, depth: int = 0) -> int:
+    """Sets lists with counts, and looks whether they say what was set; how many there were with elements."""
+    lists = 0
+    for name in record.fields_:
+        field = getattr(type(record), name)
+        if type(field) is memory.Field and isinstance(field._codec, memory.Inside):
+            lists += fill_lists(random, getattr(record, name), depth + 1)
+        elif type(field) is memory.Listed:
+            of = field._codec._of
+            length = random.randint(0, min(field._codec._length, 3 if of.size < 10000 else 1))
+            value = [element_for(random, of, depth) for _ in range(length)]
+            setattr(record, name, value)
+            assert getattr(record, name) == value, name
+            lists += length > 0
+    return lists
+
+
 WENT_ROUND = set()
+WITH_LISTS = set()
 READ_ONLY = {name for name, (_, kind) in COMMANDS.items() if not kind.is_written_}
 
 
@@ -195,6 +267,7 @@ def test_every_command_takes_its_record(command: str, data: Any) -> None:
     name, kind = COMMANDS[command]
     record = kind()
     fill(data.draw, record)
+    lists = fill_lists(data.draw(st.randoms(use_true_random=True)), record)
     try:
         text = orrery.pack(record, name)
     except orrery.Refused:
@@ -210,9 +283,12 @@ def test_every_command_takes_its_record(command: str, data: Any) -> None:
         return
     assert json.loads(second) == json.loads(first)
     WENT_ROUND.add(command)
+    if lists > 0:
+        WITH_LISTS.add(command)
 
 
 def test_most_commands_went_round() -> None:
     """Behind the test above: it passes what a command refuses, but not when that is all it meets."""
     both = [name for name in COMMANDS if name not in READ_ONLY]
     assert len(WENT_ROUND) > 0.75 * len(both), sorted(set(both) - WENT_ROUND)
+    assert len(WITH_LISTS) > 100, sorted(WITH_LISTS)
