@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What is packed, built whole and tried on a bare system: longer than scripts/test.sh, and no part of it.
-#   packages.sh [STAGE...]   embedded port debian root python abi (all of them without a name)
+#   packages.sh [STAGE...]   embedded port archive debian root python (all of them without a name)
 # Needs root for the stage `root`, and the packages that it names when they are missing. Results: build/packages.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -13,7 +13,7 @@ if command -v ccache >/dev/null; then
     export CCACHE_DIR
 fi
 stages=("$@")
-[ ${#stages[@]} -gt 0 ] || stages=(embedded port debian root python abi)
+[ ${#stages[@]} -gt 0 ] || stages=(embedded port archive debian root python)
 
 needs() { # needs PROGRAM PACKAGE
     command -v "$1" >/dev/null || [ -x "/usr/sbin/$1" ] || { echo "packages: $1 is missing (Debian: $2)" >&2; exit 2; }
@@ -42,6 +42,21 @@ stage_port() {
         "$out/port-client/consumer"
         [ -s "$out/port-$linkage/package/share/orrery/LICENSE" ]
     done
+}
+
+# cpack's archive, unpacked where nothing was built: the companion runs and a client finds the package.
+stage_archive() {
+    cmake -S . -B "$out/archive" -G Ninja -DCMAKE_BUILD_TYPE=Release
+    cmake --build "$out/archive"
+    rm -rf "$out/unpacked" "$out/archive-client" "$out"/archive/*.tar.gz
+    (cd "$out/archive" && cpack)
+    mkdir "$out/unpacked"
+    tar xf "$out"/archive/orrery-*.tar.gz -C "$out/unpacked" --strip-components=1
+    "$out/unpacked/bin/orrery" --version
+    cmake -S tests/packaging/find_package -B "$out/archive-client" -G Ninja -DCONSUMER_LANGUAGE=C \
+        "-DCMAKE_PREFIX_PATH=$out/unpacked" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
+    cmake --build "$out/archive-client"
+    "$out/archive-client/consumer"
 }
 
 # Packages of the committed tree. A finding of lintian that is an error or a warning is a failure.
@@ -103,8 +118,6 @@ stage_python() {
     python3 python/generate.py "$out/python/schema.json" "$out/python/orrery"
     (cd "$out/python" && mypy --strict orrery tests)
 }
-
-stage_abi() { scripts/abi.sh; }
 
 for stage in "${stages[@]}"; do
     echo "=== $stage"

@@ -1,5 +1,10 @@
 #!/usr/bin/env bash
 # Every test there is. Stages, in order: format, release, gcc, asan, fuzz, tsan; name some to run only those.
+# `long` (about an hour) is what a release wants more, and each of its stages has a name too:
+#   abi                       records and functions against the last tagged version, its programs on this library
+#   embedded port archive     inside a client's build (FetchContent), as a port for vcpkg, as cpack's archive
+#   debian root python        Debian packages without a finding of lintian, on a bare system; types of the Python package
+#   bits32 aarch64 windows    refused; library, companion and tests under qemu-user; the same under wine64
 # A stage that fails does not stop the others. The last line is "N passed, M failed": one for each test that ctest ran,
 # each fuzz target and each stage that could not run its tests. What failed stands above it.
 # Results stay in build/results: JUnit files, a log a stage, fuzz findings.
@@ -12,13 +17,19 @@ fuzz_seconds=${FUZZ_SECONDS:-30}
 jobs=$(nproc)
 
 all_stages=(format release gcc asan fuzz tsan)
-stages=("$@")
+package_stages=(embedded port archive debian root python)
+platform_stages=(bits32 aarch64 windows)
+long_stages=(release abi "${package_stages[@]}" "${platform_stages[@]}")
+stages=()
+for stage in "$@"; do
+    if [ "$stage" = long ]; then stages+=("${long_stages[@]}"); else stages+=("$stage"); fi
+done
 if [ ${#stages[@]} -eq 0 ]; then stages=("${all_stages[@]}"); fi
 for stage in "${stages[@]}"; do
-    case " ${all_stages[*]} " in
+    case " ${all_stages[*]} ${long_stages[*]} " in
     *" $stage "*) ;;
     *)
-        echo "test: no stage '$stage'; stages are: ${all_stages[*]}" >&2
+        echo "test: no stage '$stage'; stages are: ${all_stages[*]}; long: ${long_stages[*]}" >&2
         exit 2
         ;;
     esac
@@ -106,6 +117,10 @@ stage_tsan() {
     build tsan build/tsan
     tests tsan build/tsan -R Thread
 }
+
+stage_abi() { scripts/abi.sh; }
+for stage in "${package_stages[@]}"; do eval "stage_$stage() { scripts/packages.sh $stage; }"; done
+for stage in "${platform_stages[@]}"; do eval "stage_$stage() { scripts/platforms.sh $stage; }"; done
 
 # What a failed stage complained of, from its log: the closing lines are all that some readers see.
 excerpt() { # excerpt STAGE
