@@ -220,6 +220,8 @@ class Generator:
         for template in self.schema["templates"]:
             commands.setdefault(template["record"], []).append(template["name"])
         holding: Set[str] = set()  # packed records, themselves or inside
+        listing: Set[str] = set()  # with lists of the caller's, themselves or inside
+        sizing: Set[str] = set()  # with size words
         for record in self.ordered():
             name = record["name"]
             names = member_names(record)
@@ -233,8 +235,10 @@ class Generator:
             if len(writers.get(name, [])) == 1:
                 out.append('    only_command_ = "%s"' % writers[name][0])
             members = []
-            holders = []
-            lists = False
+            holders: List[str] = []  # of packed records
+            lists: List[str] = []
+            inner: List[str] = []
+            sized: List[str] = []
             for field in record["fields"]:
                 made = None if hidden(record, field) else self.member(record, field)
                 if made is None:
@@ -242,7 +246,12 @@ class Generator:
                 if made[0].startswith("PackedList") or field["type"] == "record" and field["record"] in holding:
                     holders.append(names[field["name"]])
                     holding.add(name)
-                lists |= made[0].startswith("PointedList")
+                if field.get("pointer", {}).get("owner") == "caller" and made[0].startswith("PointedList"):
+                    lists.append(names[field["name"]])
+                if field["type"] == "record" and field["record"] in listing:
+                    inner.append(names[field["name"]])
+                if field["type"] == "record" and field["record"] in sizing:
+                    sized.append(names[field["name"]])
                 members.append(names[field["name"]])
                 says = [field.get("doc", "")]
                 if field.get("unit"):
@@ -251,8 +260,19 @@ class Generator:
                     says.append("Range: %s." % (field["range"],))
                 out += ["    %s = %s" % (names[field["name"]], made[0]),
                         "    " + doc_of(" ".join(says))]
-            if lists:
-                out.append("    has_lists_ = True")
+            asked = [(next(one["offset"] for one in record["fields"] if one["name"] == field["asked"]), field["dims"][0])
+                     for field in record["fields"] if "asked" in field]
+            if asked:
+                out.append("    asked_ = %r" % asked)
+            words = [field["offset"] for field in record["fields"] if field.get("role") == "size"]
+            if words:
+                out.append("    size_word_ = %d" % words[0])
+            for attribute, found, kind in (("lists_", lists, listing), ("inner_", inner, listing), ("sized_", sized, sizing)):
+                if found:
+                    kind.add(name)
+                    out.append("    %s = %r" % (attribute, found))
+            if words:
+                sizing.add(name)
             if holders:
                 out.append("    packed_ = %r" % holders)
             out += ["    fields_ = %r" % members, ""]

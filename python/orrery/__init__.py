@@ -17,7 +17,7 @@ from typing import Any, Iterator, List, NamedTuple, Optional, Union
 from . import _library
 from ._commands import COMMANDS, EVENTS, NAMES_OF_CODES, RULES, TEMPLATES, TYPED, Reading, Several, Templates
 from ._library import Finding, Refused, explain, version
-from ._memory import Buffer, Record, lists_of, packed_of
+from ._memory import Buffer, Record, Rooms, packed_of
 
 __all__ = [
     "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "pack", "pack_rules", "parse", "parse_all",
@@ -43,21 +43,19 @@ def _parse(command: str, text: Json) -> Record:
         raise Refused("%r is no command" % command, [])
     name, record_type = found
     data = _bytes(text)
-    elements = 32
-    record = record_type()
-    record.command = name
+    rooms = Rooms() if record_type.lists_ or record_type.inner_ else None
     while True:
-        lists = list(lists_of(record)) if record_type.has_lists_ else []
-        for pointed in lists:
-            pointed.lend(record, elements)
-        if not _library.parse(name, data, record._buffer):
-            raise Refused("%s: the reply is refused" % name, explain(name, data))
-        # A list that is full may have been cut.
-        if elements >= _MOST_ELEMENTS or not any(pointed.is_full(record) for pointed in lists):
-            break
-        elements *= 8
         record = record_type()
         record.command = name
+        if rooms is not None:
+            rooms.lend(record)
+        taken = _library.parse(name, data, record._buffer)
+        if rooms is None or not rooms.grow([record], taken):
+            break
+    if not taken:
+        raise Refused("%s: the reply is refused" % name, explain(name, data))
+    if rooms is not None:
+        rooms.trim(record)
     return _with_rules(record, name, data) if record_type.packed_ else record
 
 
@@ -85,17 +83,24 @@ def _parse_all(command: str, text: Json, most: int = 64) -> List[Record]:
         raise Refused("%r is no command" % command, [])
     name, record_type = found
     data = _bytes(text)
-    buffer = bytearray(record_type.size_ * most)
-    _library.set_size_words(name, buffer)
-    length = _library.parse_into(name, data, buffer)
-    if length is None:
-        raise Refused("%s: the reply is refused" % name, explain(name, data))
-    records: List[Record] = []
-    for i in range(min(length // record_type.size_, most)):
-        record = record_type.view(buffer, i * record_type.size_, [buffer])
-        record.command = name
-        records.append(record)
-    return records
+    rooms = Rooms()
+    while True:
+        buffer = bytearray(record_type.size_ * most)
+        _library.set_size_words(name, buffer)
+        kept: List[object] = [buffer]
+        records: List[Record] = [record_type.view(buffer, i * record_type.size_, kept) for i in range(most)]
+        for record in records:
+            record.command = name
+            record.ask_()
+            rooms.lend(record)
+        length = _library.parse_into(name, data, buffer)
+        if length is None:
+            raise Refused("%s: the reply is refused" % name, explain(name, data))
+        records = records[: length // record_type.size_]
+        if not rooms.grow(records, True):
+            for record in records:
+                rooms.trim(record)
+            return records
 
 
 parse_all: Several = _parse_all  # type: ignore[assignment]

@@ -49,7 +49,11 @@ class Record:
     command_: ClassVar[Optional[str]] = None  # one whose record it is, for its size words
     only_command_: ClassVar[Optional[str]] = None  # the one that writes it
     is_written_: ClassVar[bool] = False
-    has_lists_: ClassVar[bool] = False
+    lists_: ClassVar[List[str]] = []  # members that are lists in the caller's memory
+    inner_: ClassVar[List[str]] = []  # members that are records with such lists
+    sized_: ClassVar[List[str]] = []  # members that are records with size words
+    size_word_: ClassVar[Optional[int]] = None  # its offset
+    asked_: ClassVar["List[tuple[int, int]]"] = []  # where a record says how many elements it wants: all that it can hold
     packed_: ClassVar[List[str]] = []  # members that are packed records or hold such
     rule_types_: ClassVar["dict[int, Type[Record]]"] = {}
     prepare_: ClassVar[Optional[Callable[[str, Buffer], None]]] = None
@@ -63,6 +67,7 @@ class Record:
         self.command: Optional[str] = None
         if self.command_ is not None and Record.prepare_ is not None:
             Record.prepare_(self.command_, self._buffer)
+        self.ask_()
         for name, value in members.items():
             if name not in self.fields_:
                 raise TypeError("%s has no member %r" % (type(self).__name__, name))
@@ -74,6 +79,10 @@ class Record:
         self = cls.__new__(cls)
         self._buffer, self._at, self._kept, self.command = buffer, at, kept, None
         return self
+
+    def ask_(self) -> None:
+        for offset, most in self.asked_:
+            struct.pack_into("=i", self._buffer, self._at + offset, most)
 
     if not TYPE_CHECKING:  # a checker tells by itself
 
@@ -362,13 +371,23 @@ class PointedList(BaseField[List[T]]):
             if field is not None:
                 field.store(record, len(value))
 
-    def lend(self, record: Record, elements: int) -> None:
-        """Room for a reply to be read into."""
+    def lend(self, record: Record, elements: int) -> List[Record]:
+        """Room for a reply to be read into; the records in it."""
         if self._room is not None:
             self._room.store(record, elements)
         elif self._count is not None:
-            return
-        point(record, self._offset, bytearray((elements if self._room is not None else 1) * self._of.size))
+            return []
+        else:
+            elements = 1
+        buffer = bytearray(elements * self._of.size)
+        point(record, self._offset, buffer)
+        if not isinstance(self._of, Inside):
+            return []
+        target = Record.view(buffer, 0, record._kept)
+        return [self._of.get(target, i * self._of.size) for i in range(elements)]
+
+    def element_size(self) -> int:
+        return self._of.size
 
     def is_full(self, record: Record) -> bool:
         return (
@@ -376,6 +395,17 @@ class PointedList(BaseField[List[T]]):
             and self._room is not None
             and 0 < self._room.load(record) <= self._count.load(record)
         )
+
+    def trim(self, record: Record, is_inner: bool) -> None:
+        """What is lent ends where the reply did: some commands write all that there is room for."""
+        if self._count is None or self._room is None:
+            return
+        count = self._count.load(record)
+        if count > 0 or is_inner and not isinstance(self._of, Inside):
+            self._room.store(record, min(count, self._room.load(record)))
+
+    def records(self, record: Record) -> List[Record]:
+        return self.load(record) if isinstance(self._of, Inside) else []  # type: ignore[return-value]
 
 
 class PackedList(BaseField[List[Record]]):
@@ -437,8 +467,80 @@ def packed_of(record: Record) -> "Iterator[tuple[PackedList, Record]]":
             yield from packed_of(inner)
 
 
-def lists_of(record: Record) -> Iterator[PointedList[Any]]:
-    for name in record.fields_:
-        field = getattr(type(record), name)
-        if isinstance(field, PointedList):
-            yield field
+def inner_of(record: Record, name: str) -> Iterator[Record]:
+    """A record inside another, or all of an array of them, whatever its count says."""
+    field = getattr(type(record), name)
+    if isinstance(field, Flagged):
+        field = field._field
+    held = [field._codec.get(record, record._at + field._offset)]
+    while held:
+        one = held.pop()
+        if isinstance(one, list):
+            held.extend(one)
+        else:
+            yield one
+
+
+def set_size_words(record: Record) -> None:
+    """Those of a record behind a pointer, which the library leaves to the caller."""
+    if record.size_word_ is not None:
+        struct.pack_into("=I", record._buffer, record._at + record.size_word_, record.size_)
+    for name in record.sized_:
+        for inner in inner_of(record, name):
+            set_size_words(inner)
+
+
+class Rooms:
+    """How much a call is lent: as many elements of each list as its replies were seen to need."""
+
+    MOST = 256 << 20  # bytes
+
+    def __init__(self) -> None:
+        self._elements: "dict[tuple[type, str], int]" = {}
+        self._bytes = 0
+
+    def lend(self, record: Record, depth: int = 0) -> None:
+        for name in record.inner_:
+            for inner in inner_of(record, name):
+                self.lend(inner, depth + 1)
+        for name in record.lists_:
+            field = getattr(type(record), name)
+            elements = self._elements.setdefault((type(record), name), 32 if depth == 0 else 8)
+            self._bytes += elements * field.element_size()  # of all calls: it bounds the work too
+            for element in field.lend(record, elements):
+                set_size_words(element)
+                self.lend(element, depth + 1)
+
+    def _full(self, record: Record) -> "Iterator[tuple[type, str]]":
+        for name in record.inner_:
+            for inner in inner_of(record, name):
+                yield from self._full(inner)
+        for name in record.lists_:
+            field = getattr(type(record), name)
+            if field.is_full(record):
+                yield type(record), name
+            for element in field.records(record):
+                yield from self._full(element)
+
+    def trim(self, record: Record, depth: int = 0) -> None:
+        for name in record.inner_:
+            for inner in inner_of(record, name):
+                self.trim(inner, depth + 1)
+        for name in record.lists_:
+            field = getattr(type(record), name)
+            for element in field.records(record):
+                self.trim(element, depth + 1)
+            field.trim(record, depth > 0)
+
+    def grow(self, records: "List[Any]", taken: bool) -> bool:
+        """Whether there is more to lend than a call had. A list that is full may have been cut; where the call was
+        refused, it may be for want of room in the first."""
+        if taken:
+            full = {one for record in records for one in self._full(record)}
+        else:
+            full = {one for one, elements in self._elements.items() if one[0] is type(records[0]) and elements <= 256}
+        if not full or self._bytes * 8 ** len(full) > self.MOST:
+            return False
+        for one in full:
+            self._elements[one] *= 8
+        return True

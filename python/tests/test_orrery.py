@@ -113,6 +113,29 @@ def test_lists_behind_pointers_are_lent_and_grow() -> None:
     assert many.devices == list(range(500))
 
 
+def test_lists_inside_and_behind_others_have_room() -> None:
+    filters = orrery.parse("CANFilter", reply([{"Filter": {"PID": list(range(40))}}, {"Filter": {"PID": [7]}}, {"Filter": {}}]))
+    assert [one.pids for one in filters.filters] == [list(range(40)), [7], []]
+    assert [one["Filter"].get("PID") for one in json.loads(orrery.pack(filters))] == [list(range(40)), [7], None]
+
+    source = {"DeviceInfo": {"VideoInputs": [{"Name": "front"}, {"Name": "back"}]},
+              "StartTime": "2024-02-03 04:05:06"}
+    tasks = orrery.parse("VideoDiagnosisTask", reply({"day": {"Sources": [source] * 9}, "night": {"Sources": [source]}}))
+    day, night = tasks.entries
+    assert (day.name, len(day.sources), night.name, len(night.sources)) == ("day", 9, "night", 1)
+    assert [one.name for one in day.sources[8].device_info.video_inputs] == ["front", "back"]
+    assert day.sources[8].start_time.time.hour == 4
+    many = orrery.parse("VideoDiagnosisTask", reply({"task %02d" % i: {"Sources": []} for i in range(40)}))
+    assert [entry.name for entry in many.entries] == ["task %02d" % i for i in range(40)]
+
+    profiles = orrery.parse("VideoDiagnosisProfile", reply({"strict": {"VideoLossDetection": {"Enable": True}}}))
+    assert profiles.entries[0].video_loss[0].enable is True
+
+    devices = orrery.parse_all("RemoteDevice", reply({"one": {"VideoInputs": [{"Name": str(i)} for i in range(50)]},
+                                                      "two": {"VideoInputs": [{"Name": "x"}]}}))
+    assert [[one.name for one in device.video_inputs] for device in devices] == [[str(i) for i in range(50)], ["x"]]
+
+
 def test_groups_of_rules_have_room_for_all_of_them() -> None:
     many = [{"Name": "yard %d" % i, "Id": i} for i in range(100)]
     rules = orrery.parse("VideoInAnalyseRule", reply([
