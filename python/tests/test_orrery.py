@@ -123,8 +123,9 @@ def test_lists_inside_and_behind_others_have_room() -> None:
     tasks = orrery.parse("VideoDiagnosisTask", reply({"day": {"Sources": [source] * 9}, "night": {"Sources": [source]}}))
     day, night = tasks.entries
     assert (day.name, len(day.sources), night.name, len(night.sources)) == ("day", 9, "night", 1)
-    assert [one.name for one in day.sources[8].device_info.video_inputs] == ["front", "back"]
-    assert day.sources[8].start_time.time.hour == 4
+    device, start = day.sources[8].device_info, day.sources[8].start_time
+    assert device is not None and [one.name for one in device.video_inputs] == ["front", "back"]
+    assert start is not None and start.time.hour == 4
     many = orrery.parse("VideoDiagnosisTask", reply({"task %02d" % i: {"Sources": []} for i in range(40)}))
     assert [entry.name for entry in many.entries] == ["task %02d" % i for i in range(40)]
 
