@@ -55,7 +55,8 @@ typedef struct CFG_PICINPIC_INFO {
                               are looked at, "Extend" among them */
     uint32_t nReturnSplit; /* entries in use */
     CFG_PICINPIC_SPLIT* pstuSplits; /* the caller's array of ways: the members but for "Extend", in the order of their
-                                       names; of two with one mode the last is written */
+                                       names, those that are null without windows; of two with one mode the last is
+                                       written */
 } CFG_PICINPIC_INFO;
 
 /* "SnapInfo": single pictures of an older device, at the document's top level; lists are texts of numbers with ":"

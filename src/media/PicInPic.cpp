@@ -44,7 +44,7 @@ PART(kSplit, CFG_PICINPIC_SPLIT,
          FIELD(emSplitMode),
          FIELD(nMaxTop),
          FIELD(nReturnTop),
-         FIELD(pstuTop, "", Record(kTop)).Count(AT(nReturnTop)).Capacity(AT(nMaxTop)).AnyShape(),
+         FIELD(pstuTop, "", Record(kTop)).Count(AT(nReturnTop)).Capacity(AT(nMaxTop)).AnyShape().Always(),
      });
 
 constexpr std::uint32_t kRecord = sizeof(CFG_PICINPIC_INFO);
@@ -55,13 +55,12 @@ std::byte* At(R* first, std::uint32_t index) {
     return reinterpret_cast<std::byte*>(first) + std::size_t{index} * sizeof(R);
 }
 
-// Each member is a way of dividing the picture, but "Extend", which only costs its turn.
+// Each member is a way of dividing the picture, a null one without windows; "Extend" only costs its turn.
 void ReadSplits(const Value& value, std::byte* record, ReadCall& call) noexcept {
     const auto info = Load<CFG_PICINPIC_INFO>(record);
     std::uint32_t visited = 0;
     std::uint32_t used = 0;
     for (const json::Member& member : value.members()) {
-        if (member.value.isNull()) continue;
         if (info.pstuSplits == nullptr || visited++ == info.nMaxSplit) break;
         if (member.key() == kExtend) continue;
         std::byte* const split = At(info.pstuSplits, used++);

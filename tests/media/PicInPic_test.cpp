@@ -127,11 +127,32 @@ TEST(PicInPic, VisitsAsManyMembersAsThereIsRoom) {
     EXPECT_EQ(pictures.infos[0].nReturnSplit, 2u);
     EXPECT_EQ(pictures.splits[0].emSplitMode, 1u);
     EXPECT_EQ(pictures.splits[1].emSplitMode, 4u);
+    // Without it all three turns are ways.
     Pictures without(1);
-    ASSERT_EQ(without.Parse(R"({"Split8":[{}],"Split4":null,"Split1":[{}],"Split6":[{}],"Split9":[{}]})"),
-              (Answer{1, kSize}));
+    ASSERT_EQ(without.Parse(R"({"Split8":[{}],"Split4":[{}],"Split1":[{}],"Split9":[{}]})"), (Answer{1, kSize}));
     EXPECT_EQ(without.infos[0].nReturnSplit, 3u);
     EXPECT_EQ(without.splits[2].emSplitMode, 8u);
+}
+
+TEST(PicInPic, AWayThatIsNullHasNoWindows) {
+    Pictures pictures(2);
+    pictures.splits[1].nReturnTop = 7;
+    pictures.infos[1].nReturnSplit = 7;
+    ASSERT_EQ(pictures.Parse(R"({"Split8":[{}],"Split4":null,"Split1":[{}],"Split6":[{}],"Split9":[{}]})"),
+              (Answer{1, kSize}));
+    EXPECT_EQ(pictures.infos[0].nReturnSplit, 3u);
+    EXPECT_EQ(pictures.splits[0].emSplitMode, 1u);
+    EXPECT_EQ(pictures.splits[1].emSplitMode, 4u);
+    EXPECT_EQ(pictures.splits[1].nReturnTop, 0u);
+    EXPECT_EQ(pictures.splits[2].emSplitMode, 6u);
+    EXPECT_EQ(pictures.splits[2].nReturnTop, 1u);
+    // "Extend" costs its turn also when it is null, and a null inside it is a record without ways.
+    ASSERT_EQ(pictures.Parse(R"({"Extend":null,"Split1":[{}],"Split4":[{}],"Split6":[{}]})"), (Answer{1, kSize}));
+    EXPECT_EQ(pictures.infos[0].nReturnSplit, 2u);
+    EXPECT_EQ(pictures.infos[1].nReturnSplit, 7u);
+    ASSERT_EQ(pictures.Parse(R"({"Extend":[null]})"), (Answer{1, 2 * kSize}));
+    EXPECT_EQ(pictures.infos[0].nReturnSplit, 0u);
+    EXPECT_EQ(pictures.infos[1].nReturnSplit, 0u);
 }
 
 TEST(PicInPic, ListsEndAtTheirRoom) {
