@@ -44,7 +44,7 @@ struct CallBench {
     void KeepRecords(std::size_t count) {
         for (std::size_t i = 0; i < count; ++i) {
             records.push_back(std::make_unique<R>());
-            CLIENT_ParseData(command, texts[i].c_str(), records.back().get(), sizeof(R), nullptr);
+            static_cast<void>(CLIENT_ParseData(command, texts[i].c_str(), records.back().get(), sizeof(R), nullptr));
         }
     }
 

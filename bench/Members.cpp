@@ -159,7 +159,7 @@ MemberBench::MemberBench(const MemberRow& row)
         kept_.push_back(std::make_unique<std::byte[]>(size_));
         keptMemory_.push_back(std::make_unique<test::CallerMemory>(row.most));
         keptMemory_.back()->PrepareBuffer(command_, kept_.back().get(), size_);
-        CLIENT_ParseData(name, texts[i].c_str(), kept_.back().get(), size_, nullptr);
+        static_cast<void>(CLIENT_ParseData(name, texts[i].c_str(), kept_.back().get(), size_, nullptr));
         due_.push_back(std::make_unique<rapidjson::Document>());
         if (Pack(i)) due_.back()->Parse(packed_.get());
     }

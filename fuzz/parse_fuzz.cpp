@@ -103,8 +103,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (FindCommand(name) == nullptr || command.table->hasSizeWords || test::HasPointers(*command.table)) continue;
         const test::FuzzBlock again(room, 0);
         std::memset(again.get(), 0, room);
-        CLIENT_ParseData(name, reinterpret_cast<const char*>(text.get()), again.get(), static_cast<std::uint32_t>(room),
-                         nullptr);
+        static_cast<void>(CLIENT_ParseData(name, reinterpret_cast<const char*>(text.get()), again.get(),
+                                           static_cast<std::uint32_t>(room), nullptr));
     }
 
     // What was read can be written, in order and with every bracket closed, whatever the text was.

@@ -9,6 +9,26 @@
 extern "C" {
 #endif
 
+/* A result that says whether there is a record or a text is to be looked at; cast it to void where it is known. (Null
+ * arguments are an ordinary failure, so no argument is declared as never null: a compiler would take the tests away.)
+ */
+#if defined(__cplusplus) && __cplusplus >= 201703L
+#define ORRERY_MUST_USE [[nodiscard]]
+#elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 202311L
+#define ORRERY_MUST_USE [[nodiscard]]
+#elif defined(__GNUC__)
+#define ORRERY_MUST_USE __attribute__((__warn_unused_result__))
+#else
+#define ORRERY_MUST_USE
+#endif
+
+/* Records are laid out for 64-bit pointers and for 64-bit numbers at multiples of 8. */
+#if defined(__cplusplus)
+static_assert(sizeof(void*) == 8 && alignof(double) == 8, "orrery's records want a 64-bit platform");
+#elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
+_Static_assert(sizeof(void*) == 8 && _Alignof(double) == 8, "orrery's records want a 64-bit platform");
+#endif
+
 /* The version of these headers. Until 1.0 records may grow with each minor version: the library's file name then has
  * both numbers, and a client runs with the minor version that it was compiled for. */
 #define ORRERY_VERSION_MAJOR 0
@@ -38,8 +58,8 @@ uint32_t ORRERY_Version(void);
  *
  * 0 for a null argument, an unknown command, a buffer below one record, text that is no JSON, a call that the device
  * refused, a missing table, or when memory ran out. */
-int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, uint32_t bufferSize,
-                         uint32_t* returnedLength);
+ORRERY_MUST_USE int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, uint32_t bufferSize,
+                                         uint32_t* returnedLength);
 
 /* Writes a record as the text that a device expects: what a client puts under "params"."table" of its own request.
  *
@@ -57,8 +77,8 @@ int32_t CLIENT_ParseData(const char* command, const char* text, void* buffer, ui
  *               that length is taken too and loses its newline or its terminator.
  *
  * 0 for a null argument, an unknown command, a record too small or a text too long, or when memory ran out. */
-int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize, char* textBuffer,
-                          uint32_t textCapacity);
+ORRERY_MUST_USE int32_t CLIENT_PacketData(const char* command, const void* record, uint32_t recordSize,
+                                          char* textBuffer, uint32_t textCapacity);
 
 /* Takes one decoded event. `eventType` is its code, ORRERY_EVENT_... of event_codes.h, and tells which record `record`
  * is: DEV_EVENT_<NAME>_INFO of the events_... headers. `recordSize` is the record's size, unless its header says
@@ -104,8 +124,8 @@ int32_t CLIENT_ParseDataByCallback(const char* data, uint32_t length, ORRERY_EVE
  *
  * 0 when an argument other than `classType` is null or zero, for an output below one record, text that is no JSON, a
  * call that the device refused, rules that do not fit or are of types without a record, or when memory ran out. */
-int32_t CLIENT_ParseVideoInAnalyse(const char* command, int32_t classType, const char* text, const void* reserved,
-                                   void* output, uint32_t outputSize);
+ORRERY_MUST_USE int32_t CLIENT_ParseVideoInAnalyse(const char* command, int32_t classType, const char* text,
+                                                   const void* reserved, void* output, uint32_t outputSize);
 
 #ifdef __cplusplus
 }
