@@ -9,9 +9,9 @@
 extern "C" {
 #endif
 
-/* A result that says whether there is a record or a text is to be looked at; cast it to void where it is known. (Null
- * arguments are an ordinary failure, so no argument is declared as never null: a compiler would take the tests away.)
- */
+/* A result that says whether there is a record or a text is to be looked at. In C++ a cast to void says that it need
+ * not be; compilers of C may want it kept. (Null arguments are an ordinary failure, so no argument is declared as never
+ * null: compilers would take the tests away.) */
 #if defined(__cplusplus) && __cplusplus >= 201703L
 #define ORRERY_MUST_USE [[nodiscard]]
 #elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 202311L
@@ -24,9 +24,11 @@ extern "C" {
 
 /* Records are laid out for 64-bit pointers and for 64-bit numbers at multiples of 8. */
 #if defined(__cplusplus)
-static_assert(sizeof(void*) == 8 && alignof(double) == 8, "orrery's records want a 64-bit platform");
+static_assert(sizeof(void*) == 8 && alignof(int64_t) == 8, "orrery's records want a 64-bit platform");
 #elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
-_Static_assert(sizeof(void*) == 8 && _Alignof(double) == 8, "orrery's records want a 64-bit platform");
+_Static_assert(sizeof(void*) == 8 && _Alignof(int64_t) == 8, "orrery's records want a 64-bit platform");
+#else
+typedef char ORRERY_WANTS_A_64_BIT_PLATFORM[sizeof(void*) == 8 ? 1 : -1];
 #endif
 
 /* The version of these headers. Until 1.0 records may grow with each minor version: the library's file name then has

@@ -582,7 +582,9 @@ class event_list {
         if (!next) return false;
         next->copy.reset(new (std::nothrow) unsigned char[bytes]);
         if (!next->copy) return false;
-        ORRERY_CopyEvent(event.code(), event.record(), event.size(), next->copy.get(), bytes);
+        const std::uint32_t copied =
+            ORRERY_CopyEvent(event.code(), event.record(), event.size(), next->copy.get(), bytes);
+        if (copied != bytes) return false;
         next->code = event.code();
         next->size = event.size();
         node* const added = next.get();

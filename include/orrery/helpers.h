@@ -3,6 +3,8 @@
 #ifndef ORRERY_HELPERS_H
 #define ORRERY_HELPERS_H
 
+#include "orrery/calls.h"
+
 #include <stdint.h>
 
 #ifdef __cplusplus
@@ -18,13 +20,13 @@ extern "C" {
  *             record is left alone.
  *
  * 0 for a null, an unknown command, or less than one record; 1 also for a record without size words. */
-int32_t ORRERY_SetSizeWords(const char* command, void* record, uint32_t recordSize);
+ORRERY_MUST_USE int32_t ORRERY_SetSizeWords(const char* command, void* record, uint32_t recordSize);
 
 /* Bytes that the rules of a reply take in a rule buffer (analyse_rules.h): the least nRuleLen with which
  * CLIENT_ParseData reads them. `command` is "VideoAnalyseRule", "AudioAnalyseRule" or "IVSFramRule"; of other commands,
  * and for texts that hold no rules or rules of types without a record, it is 0. So it is for a null, for text that is
  * no JSON, and when memory ran out. */
-uint32_t ORRERY_RuleBytes(const char* command, const char* text);
+ORRERY_MUST_USE uint32_t ORRERY_RuleBytes(const char* command, const char* text);
 
 /* Copies the record that an ORRERY_EVENT_CALLBACK was handed, and all that its pointers lead to, into one buffer, which
  * then is that record for as long as it is kept: the pointers of the copy lead into the same buffer. Call it from the
@@ -35,8 +37,8 @@ uint32_t ORRERY_RuleBytes(const char* command, const char* text);
  * bufferSize                      Bytes at `buffer`. When they are too few, nothing is written.
  *
  * The bytes that the copy takes; 0 for a null record, a code of no event, and a copy of 4 GB or more. */
-uint32_t ORRERY_CopyEvent(uint32_t eventType, const void* record, uint32_t recordSize, void* buffer,
-                          uint32_t bufferSize);
+ORRERY_MUST_USE uint32_t ORRERY_CopyEvent(uint32_t eventType, const void* record, uint32_t recordSize, void* buffer,
+                                          uint32_t bufferSize);
 
 #ifdef __cplusplus
 }
