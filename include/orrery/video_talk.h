@@ -155,9 +155,9 @@ typedef struct CFG_SHORTCUT_CALL {
 
 /* "ShortcutCall": numbers behind single keys, in an array of the caller's. The record is not cleared, and the length of
  * the call is added to: set it to 0 first. A table that is null or absent reads nothing and adds nothing, one of
- * another type than a list leaves the record as it is. Without an array nothing is read, and the call succeeds. A
- * record below its size is taken on writing, with 0 for what it lacks. Written is always a list, null when nothing is
- * in it. */
+ * another type than a list leaves the record as it is. Without an array the record stays as it is as well, and the call
+ * succeeds; without room in it the count becomes 0. A record below its size is taken on writing, with 0 for what it
+ * lacks. Written is always a list, null when nothing is in it. */
 typedef struct CFG_SHORTCUT_CALL_INFO {
     int32_t nMaxCount;            /* set by the caller: room in pstuCalls, records */
     CFG_SHORTCUT_CALL* pstuCalls; /* the elements; each is cleared before it is read */

@@ -75,6 +75,12 @@ PART(kShortcut, CFG_SHORTCUT_CALL,
          FIELD(emPositionType, "PositionType", Names(kPositionTypes)),
      });
 
+// Without an array the record stays as the client has it, its count too.
+void NeedCalls(const Field&, const json::Value&, std::byte* record, ReadCall& call) {
+    if (MEMBER(record, CFG_SHORTCUT_CALL_INFO, pstuCalls) == nullptr) call.refused = true;
+}
+constexpr CustomCodec kCallsNeeded{NeedCalls, nullptr};
+
 } // namespace
 
 bool HasRoomForDevices(const std::byte* record, std::uint32_t) {
@@ -178,6 +184,7 @@ TABLE(kPhoneBasic, CFG_VIDEO_TALK_PHONE_BASIC_INFO,
 TABLE(kShortcutCall, CFG_SHORTCUT_CALL_INFO,
       {
           FIELD(nMaxCount),
+          FIELD(pstuCalls, "", Custom(kCallsNeeded)).PointsTo(kShortcut).Alias(),
           FIELD(pstuCalls, "", Record(kShortcut)).Capacity(AT(nMaxCount)).Count(AT(nReturnCount)).Zeroed(),
           FIELD(nReturnCount),
       });

@@ -615,7 +615,8 @@ TEST(ShortcutCall, SucceedsWithoutAnArrayAndWithoutRoom) {
         Shortcuts list(1);
         list.info.Set(0, {room, room > 0 ? nullptr : reinterpret_cast<CFG_SHORTCUT_CALL*>(list.calls.data()), 99});
         EXPECT_EQ(list.Parse(R"([ { "CallNumber" : "1" } ])"), kAdded) << room;
-        EXPECT_EQ(list.count(), 0) << room;
+        EXPECT_EQ(list.count(), room > 0 ? 99 : 0) << room; // without an array the record stays as it is
+        EXPECT_EQ(list.info[0].nMaxCount, room) << room;
         EXPECT_EQ(list.calls[0].emPositionType, 0x11111111) << room;
         CFG_SHORTCUT_CALL_INFO info = list.info[0];
         info.nReturnCount = 1;
