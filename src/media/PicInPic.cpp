@@ -175,7 +175,11 @@ TABLE(kPicInPic, CFG_PICINPIC_INFO,
       {
           FIELD(nMaxSplit),
           FIELD(nReturnSplit),
-          FIELD(pstuSplits, "", Record(kSplit)).Count(AT(nReturnSplit)).Capacity(AT(nMaxSplit)).Keyed(),
+          FIELD(pstuSplits, "", Record(kSplit))
+              .Count(AT(nReturnSplit))
+              .Capacity(AT(nMaxSplit))
+              .Keyed()
+              .NullElement(Nulls::Named),
       });
 
 Outcome ParsePicInPic(const ParseRequest& request) noexcept {
