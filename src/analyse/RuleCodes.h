@@ -31,7 +31,7 @@ struct RowsOf<std::index_sequence<I...>> {
     static constexpr record::Name rows[] = {
         {events::kRuleNames[kRead[I]].code, events::kRuleNames[kRead[I]].text}...,
     };
-    static constexpr record::NameIndex index{rows};
+    static constexpr record::NameIndex index = record::IndexOver(rows);
 };
 using Rows = RowsOf<std::make_index_sequence<kRead.size()>>;
 

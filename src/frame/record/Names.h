@@ -59,21 +59,23 @@ struct NameIndex {
     static constexpr std::size_t kSize = std::bit_ceil(2 * N);
     std::array<std::uint16_t, 2 * kSize> places{}; // by text, then by code
 
-    constexpr explicit NameIndex(const Name (&rows)[N]) {
-        static_assert(N < 0xFFFF);
-        for (std::size_t i = 0; i < N; ++i) {
-            Put(0, NameHashes::OfText(rows[i].prefix, rows[i].text.size()), i);
-            Put(kSize, NameHashes::OfCode(rows[i].code), i);
-        }
-    }
-
-  private:
     constexpr void Put(std::size_t first, std::size_t hash, std::size_t row) {
         while (places[first + hash % kSize] != 0)
             ++hash;
         places[first + hash % kSize] = static_cast<std::uint16_t>(row + 1);
     }
 };
+// A function, as g++ leaves constants with constructors in memory that can be written.
+template <std::size_t N>
+constexpr NameIndex<N> IndexOver(const Name (&rows)[N]) {
+    static_assert(N < 0xFFFF);
+    NameIndex<N> index;
+    for (std::size_t i = 0; i < N; ++i) {
+        index.Put(0, NameHashes::OfText(rows[i].prefix, rows[i].text.size()), i);
+        index.Put(index.kSize, NameHashes::OfCode(rows[i].code), i);
+    }
+    return index;
+}
 
 struct NameTable {
     enum class Outside : std::uint8_t { NoKey, Null, Text };
@@ -159,5 +161,5 @@ constexpr NameTable ExactNames(const Name (&rows)[N]) {
 //           });
 #define NAMES(table, policy, ...)                                                                                      \
     inline constexpr ::orrery::record::Name table##Rows[] = __VA_ARGS__;                                               \
-    inline constexpr ::orrery::record::NameIndex table##Index{table##Rows};                                            \
+    inline constexpr ::orrery::record::NameIndex table##Index = ::orrery::record::IndexOver(table##Rows);              \
     inline constexpr ::orrery::record::NameTable table = ::orrery::record::NamesOver(table##Rows, policy, table##Index)
