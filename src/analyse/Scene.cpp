@@ -1,8 +1,10 @@
 #include "analyse/Scene.h"
 
+#include "frame/json/Digits.h"
+
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <cstring>
 
 namespace orrery::scenes {
 
@@ -100,34 +102,35 @@ static_assert(kMostNumbered == ORRERY_NUMBERED_SCENES && kMostNumbered == ORRERY
 
 class NumberedName {
   public:
-    NumberedName(const char* stem, std::uint32_t number) noexcept {
-        size_ = static_cast<std::size_t>(std::snprintf(text_, sizeof text_, "%s%u", stem, number));
+    NumberedName(std::string_view stem, std::uint32_t number) noexcept {
+        std::memcpy(text_, stem.data(), stem.size());
+        size_ = static_cast<std::size_t>(json::PutDigits(text_ + stem.size(), number) - text_);
     }
     operator std::string_view() const noexcept { return {text_, size_}; }
 
   private:
-    char text_[32];
+    static constexpr std::size_t kLongestStem = 16;
+    char text_[kLongestStem + json::kIntegerRoom];
     std::size_t size_;
 };
 
 // Members "Stem1" up to "Stem32" in the order of their names: 1, 10 to 19, 2, 20 and so on.
 template <class WriteOne>
-void WriteNumbered(const char* stem, std::uint32_t count, WriteCall& call, const WriteOne& writeOne) {
+void WriteNumbered(std::string_view stem, std::uint32_t count, WriteCall& call, const WriteOne& writeOne) {
     const auto write = [&](std::uint32_t number) {
-        if (number > count) return;
         call.Member(NumberedName(stem, number));
         writeOne(number - 1);
     };
-    for (std::uint32_t first = 1; first < 10; ++first) {
+    for (std::uint32_t first = 1; first < 10 && first <= count; ++first) {
         write(first);
-        for (std::uint32_t second = 0; second < 10; ++second)
+        for (std::uint32_t second = 0; second < 10 && 10 * first + second <= count; ++second)
             write(10 * first + second);
     }
 }
 
 // A caller's array, an entry a number.
 struct NumberedArray {
-    const char* stem;
+    std::string_view stem;
     const Table& table;
     std::size_t first; // places of the members
     std::size_t room;

@@ -1,6 +1,9 @@
 #include "analyse/SizeFilter.h"
 
+#include "frame/json/Pen.h"
 #include "frame/record/Engine.h"
+
+#include <cstring>
 
 namespace orrery::sizefilter {
 
@@ -14,9 +17,23 @@ void ReadNumberPair(const Field& field, const json::Value& value, std::byte* rec
 
 void WriteNumberPair(const Field& field, const std::byte* record, WriteCall& call) {
     call.Key();
+    const std::byte* const at = record + field.offset;
+    const std::int32_t first = Load<std::int32_t>(at), second = Load<std::int32_t>(at + 4);
+    json::Pen pen(call.out);
+    if (pen.has(8 + 2 * json::kIntegerRoom)) [[likely]] {
+        pen.Element([=](char* to) {
+            std::memcpy(to, "[ ", 2);
+            to = json::PutDigits(to + 2, first);
+            std::memcpy(to, ", ", 2);
+            to = json::PutDigits(to + 2, second);
+            std::memcpy(to, " ]", 2);
+            return to + 2;
+        });
+        return pen.Return(call.out);
+    }
     call.out.BeginArray();
-    call.out.Int(Load<std::int32_t>(record + field.offset));
-    call.out.Int(Load<std::int32_t>(record + field.offset + 4));
+    call.out.Int(first);
+    call.out.Int(second);
     call.out.EndArray();
 }
 

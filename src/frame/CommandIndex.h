@@ -61,7 +61,10 @@ class CommandIndex {
     }
     // The same, eight bytes at a time.
     static std::uint32_t HashNow(std::string_view name) noexcept {
-        if (name.size() < 8) return Hash(name);
+        if (name.size() < 8) {
+            const std::uint64_t word = FoldedShort(name.data(), name.size());
+            return NameHash(word, word, name.size());
+        }
         return NameHash(FoldedWord(name.data()), FoldedWord(name.data() + name.size() - 8), name.size());
     }
 

@@ -144,5 +144,21 @@ inline std::uint64_t FoldedWord(const char* text) noexcept {
     if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
     return Folded(word);
 }
+// The same of a text shorter than eight bytes, of which nothing behind it may be loaded: its two ends, which overlap.
+inline std::uint64_t FoldedShort(const char* text, std::size_t size) noexcept {
+    if (size >= 4) {
+        std::uint32_t low, high;
+        std::memcpy(&low, text, 4);
+        std::memcpy(&high, text + size - 4, 4);
+        if constexpr (std::endian::native == std::endian::big) {
+            low = __builtin_bswap32(low);
+            high = __builtin_bswap32(high);
+        }
+        return Folded(std::uint64_t{low} | std::uint64_t{high} << 8 * (size - 4));
+    }
+    if (size == 0) return 0;
+    const auto byte = [text](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(text[i])}; };
+    return Folded(byte(0) | byte(size / 2) << 8 * (size / 2) | byte(size - 1) << 8 * (size - 1));
+}
 
 } // namespace orrery

@@ -124,6 +124,10 @@ inline char* Print(char* out, std::int32_t number, unsigned width) noexcept {
         std::memcpy(out, &json::kDigitPairs[2 * static_cast<std::size_t>(number)], 2);
         return out + 2;
     }
+    if (width == 4 && static_cast<std::uint32_t>(number) < 10000) {
+        const auto year = static_cast<std::uint32_t>(number);
+        return json::PutPair(json::PutPair(out, year / 100), year % 100);
+    }
     char digits[12];
     std::uint32_t magnitude = static_cast<std::uint32_t>(number);
     if (number < 0) magnitude = 0 - magnitude;

@@ -105,12 +105,7 @@ bool EqualsFolded(std::string_view left, std::string_view right) noexcept {
     if (size != right.size()) return false;
     const char* const a = left.data();
     const char* const b = right.data();
-    if (size < 8) {
-        for (std::size_t i = 0; i < size; ++i) {
-            if (Folded(a[i]) != Folded(b[i])) return false;
-        }
-        return true;
-    }
+    if (size < 8) return FoldedShort(a, size) == FoldedShort(b, size);
     const auto sameAt = [a, b](std::size_t at) noexcept {
         const std::uint64_t x = Word(a + at);
         const std::uint64_t y = Word(b + at);

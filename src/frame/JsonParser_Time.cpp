@@ -90,6 +90,17 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
     if (record == nullptr) return out.Null();
     std::int32_t fields[kSectionFields];
     std::memcpy(fields, record, static_cast<std::size_t>(count) * sizeof *fields);
+    json::Pen pen(out);
+    if (pen.has(kTextRoom + 2)) [[likely]] {
+        // No field has anything to escape.
+        pen.Element([&](char* to) {
+            *to = '"';
+            char* const end = scan::PrintFields(to + 1, count, separators, widths, fields);
+            *end = '"';
+            return end + 1;
+        });
+        return pen.Return(out);
+    }
     char text[kTextRoom];
     const char* const end = scan::PrintFields(text, count, separators, widths, fields);
     out.String({text, static_cast<std::size_t>(end - text)});

@@ -85,10 +85,10 @@ LocalText::LocalText(Arena& arena) noexcept : arena_(arena) {
     // Kept as a copy: the text that nl_langinfo points to goes with its locale.
     const std::string_view name = nl_langinfo(CODESET);
     isCopy_ = name == "UTF-8" || name == "ANSI_X3.4-1968" || name == "US-ASCII";
+    if (isCopy_) return;
     const std::size_t size = std::min(name.size(), sizeof codeset_ - 1);
     std::memcpy(codeset_, name.data(), size);
     codeset_[size] = '\0';
-    if (isCopy_) return;
     for (const std::string_view family : kAsciiFamilies)
         keepsAscii_ |= name.substr(0, family.size()) == family;
 }

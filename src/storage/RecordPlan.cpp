@@ -4,6 +4,7 @@
 #include "frame/record/SharedCodecs.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace orrery {
 
@@ -49,13 +50,11 @@ void ReadDay(const Value& list, std::byte* day) noexcept {
 }
 
 void WriteDay(const std::byte* day, WriteCall& call) noexcept {
-    call.out.BeginArray();
-    for (std::size_t i = 0; i < ORRERY_DAY_SECTIONS; ++i) {
-        auto section = Load<CFG_TIME_SECTION>(day + i * sizeof(CFG_TIME_SECTION));
+    CFG_TIME_SECTION sections[ORRERY_DAY_SECTIONS];
+    std::memcpy(sections, day, sizeof sections);
+    for (CFG_TIME_SECTION& section : sections)
         section.dwMask = ToText(section.dwMask);
-        JsonParser::SetTimeSection(call.out, &section);
-    }
-    call.out.EndArray();
+    JsonParser::SetTimeSectionList(call.out, sections, ORRERY_DAY_SECTIONS);
 }
 
 // ---- "Record" ----

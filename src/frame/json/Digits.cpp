@@ -16,8 +16,17 @@ constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out witho
 char* PutFour(char* at, std::uint32_t below10000) noexcept {
     return PutPair(PutPair(at, below10000 / 100), below10000 % 100);
 }
+// Eight digits at once: the number is halved into fours, pairs and single digits, each in a lane of its own.
 char* PutEight(char* at, std::uint32_t number) noexcept {
-    return PutFour(PutFour(at, number / 10000), number % 10000);
+    if constexpr (std::endian::native != std::endian::little)
+        return PutFour(PutFour(at, number / 10000), number % 10000);
+    const std::uint64_t fours = number / 10000 | std::uint64_t{number % 10000} << 32;
+    const std::uint64_t hundreds = (fours * 10486 >> 20) & 0x0000007F0000007F; // a hundredth of 2^20, and a little more
+    const std::uint64_t pairs = hundreds | (fours - hundreds * 100) << 16;
+    const std::uint64_t tens = (pairs * 103 >> 10) & 0x000F000F000F000F;
+    const std::uint64_t digits = (tens | (pairs - tens * 10) << 8) + 0x3030303030303030;
+    std::memcpy(at, &digits, 8);
+    return at + 8;
 }
 
 // Lays the digits out as "%#.16g" does for exponents from -4 to 15. Copies go in whole blocks: `digits` has as many
@@ -68,18 +77,22 @@ char* PutOrdinary(char* at, double magnitude) noexcept {
     const auto bits = std::bit_cast<std::uint64_t>(magnitude);
     const int binary = static_cast<int>(bits >> 52) - 1023;
     const std::uint64_t mantissa = (bits & ((std::uint64_t{1} << 52) - 1)) | std::uint64_t{1} << 52;
-    const int shift = 52 - binary;        // the number is mantissa / 2^shift
+    const int shift = 52 - binary;        // the number is mantissa / 2^shift; 4 to 62
     int exponent = (binary * 1233) >> 12; // the decimal one or one less: 1233 / 4096 is a little below log10(2)
-    Wide product = Wide{mantissa} * kPowers[kPrecision - 1 - exponent];
-    auto digits = static_cast<std::uint64_t>(product >> shift);
+    std::uint64_t low = 0;                // of the product, whose digits stand above `shift`
+    const auto scaled = [&] {
+        const Wide product = Wide{mantissa} * kPowers[kPrecision - 1 - exponent];
+        low = static_cast<std::uint64_t>(product);
+        return static_cast<std::uint64_t>(product >> 64) << (64 - shift) | low >> shift;
+    };
+    std::uint64_t digits = scaled();
     if (digits >= kPowers[kPrecision]) {
         ++exponent;
-        product = Wide{mantissa} * kPowers[kPrecision - 1 - exponent];
-        digits = static_cast<std::uint64_t>(product >> shift);
+        digits = scaled();
     }
-    const Wide rest = product & ((Wide{1} << shift) - 1);
-    const Wide half = Wide{1} << (shift - 1);
-    if (rest > half || (rest == half && digits % 2 != 0)) ++digits;
+    const std::uint64_t rest = low << (64 - shift); // behind the point, highest bit one half
+    constexpr std::uint64_t kHalf = std::uint64_t{1} << 63;
+    if (rest > kHalf || (rest == kHalf && digits % 2 != 0)) ++digits;
     if (digits == kPowers[kPrecision]) {
         digits = kPowers[kPrecision - 1];
         ++exponent;
@@ -95,13 +108,8 @@ char* PutOrdinary(char* at, double magnitude) noexcept {
 } // namespace
 
 char* PutLongDigits(char* at, std::uint32_t number) noexcept {
-    constexpr std::uint32_t kEight = 100000000;
-    if (number >= kEight) {
-        at = PutDigits(at, number / kEight);
-        return PutEight(at, number % kEight);
-    }
-    at = PutDigits(at, number / 10000);
-    return PutFour(at, number % 10000);
+    const std::uint32_t thousands = number / 1000;
+    return PutThree(PutThree(PutDigits(at, thousands / 1000), thousands % 1000), number % 1000);
 }
 
 char* PutReal(char* at, double number) noexcept {
@@ -109,8 +117,9 @@ char* PutReal(char* at, double number) noexcept {
     if (std::signbit(number)) *at++ = '-';
     // Sizes and coordinates are whole numbers as a rule: zeros fill up their digits.
     if (magnitude < kWholeLimit && magnitude == static_cast<double>(static_cast<std::uint32_t>(magnitude))) {
-        std::memset(at, '0', kPrecision + 1);
-        *PutDigits(at, static_cast<std::uint32_t>(magnitude)) = '.';
+        char* const point = PutDigits(at, static_cast<std::uint32_t>(magnitude));
+        *point = '.';
+        std::memset(point + 1, '0', kPrecision);
         return at + kPrecision + 1;
     }
 #if defined(__SIZEOF_INT128__)

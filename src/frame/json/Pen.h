@@ -56,6 +56,19 @@ class Pen {
         separator_ = kSeparator;
         return true;
     }
+    // Opens an object as the value of the key just written; needs room for two bytes.
+    void BeginObject() noexcept {
+        std::memcpy(at_, "{ ", 2);
+        at_ += 2;
+        separator_ = 0;
+    }
+    void EndObject() noexcept {
+        std::memcpy(at_, " }", 2);
+        at_ += 2;
+        separator_ = kSeparator;
+    }
+    // Whether nothing was written since `other` stood here.
+    bool isAt(const Pen& other) const noexcept { return at_ == other.at_; }
     // The value of the key just written.
     template <class Put>
     void Value(Put put) noexcept {
@@ -72,9 +85,16 @@ class Pen {
         return true;
     }
 
+    // Takes eight bytes, of which the last get overwritten.
     static char* PutBool(char* at, bool flag) noexcept {
-        std::memcpy(at, flag ? "true " : "false", 5);
-        return at + (flag ? 4 : 5);
+        static constexpr char kWords[2][8] = {"false", "true"};
+        std::memcpy(at, kWords[flag], 8);
+        return at + 5 - flag;
+    }
+
+    static char* PutNull(char* at) noexcept {
+        std::memcpy(at, "null", 4);
+        return at + 4;
     }
 
   private:

@@ -40,42 +40,110 @@ unsigned Suspects(__m128i bytes) noexcept {
     const __m128i any = _mm_or_si128(_mm_or_si128(quote, backslash), _mm_or_si128(slash, control));
     return static_cast<unsigned>(_mm_movemask_epi8(any));
 }
+// A bit for every byte that a text may end at or that may need an escape: all control characters up to the last one
+// that does are among them.
+unsigned Stops(__m128i bytes) noexcept {
+    const __m128i quote = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"'));
+    const __m128i backslash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'));
+    const __m128i slash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('/'));
+    const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(13)), bytes);
+    const __m128i any = _mm_or_si128(_mm_or_si128(quote, backslash), _mm_or_si128(slash, control));
+    return static_cast<unsigned>(_mm_movemask_epi8(any));
+}
 #endif
 
-} // namespace
+// Of less than sixteen bytes.
+char* CopyFew(char* out, const char* text, std::size_t size) noexcept {
+    if (size >= 8) {
+        std::memcpy(out, text, 8);
+        std::memcpy(out + size - 8, text + size - 8, 8);
+    } else if (size >= 4) {
+        std::memcpy(out, text, 4);
+        std::memcpy(out + size - 4, text + size - 4, 4);
+    } else if (size > 0) {
+        out[0] = text[0];
+        out[size / 2] = text[size / 2];
+        out[size - 1] = text[size - 1];
+    }
+    return out + size;
+}
 
-char* PutCleanText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept {
+// PutText, with the text's size known or, else, to be found.
+template <bool Terminated>
+char* PutQuoted(char* at, const char* const text, std::size_t capacity, bool asciiOnly) noexcept {
     *at++ = '"';
+    const char* p = text;
+    const char* const end = text + capacity;
 #if ORRERY_SSE2
+    const unsigned high = asciiOnly ? 0xFFFF : 0;
+    char* const start = at;
     // What stands behind the terminator is copied along and overwritten later.
-    const __m128i zero = _mm_setzero_si128();
-    for (std::size_t from = 0; capacity >= 16;) {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + from));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(at + from), bytes);
-        const unsigned ends = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, zero)));
-        unsigned refused = Suspects(bytes);
-        if (asciiOnly) refused |= static_cast<unsigned>(_mm_movemask_epi8(bytes));
-        if (const unsigned any = ends | refused; any != 0) {
-            const int first = std::countr_zero(any);
-            if ((refused >> first & 1) != 0) return nullptr;
-            at += from + static_cast<unsigned>(first);
+    while (end - p >= 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(at), bytes);
+        const unsigned stops = Stops(bytes) | (static_cast<unsigned>(_mm_movemask_epi8(bytes)) & high);
+        if (stops == 0) {
+            p += 16;
+            at += 16;
+            // The last block ends where the capacity does and begins inside the one before, if nothing moved it.
+            const auto left = end - p;
+            if (left > 0 && left < 16 && at - start == p - text) {
+                p -= 16 - left;
+                at -= 16 - left;
+            }
+            continue;
+        }
+        const int good = std::countr_zero(stops);
+        p += good;
+        at += good;
+        const char letter = EscapeOf(*p);
+        if (Terminated && *p == '\0') {
             *at = '"';
             return at + 1;
         }
-        if (from + 16 == capacity) {
-            at[capacity] = '"';
-            return at + capacity + 1;
-        }
-        // The last block ends where the capacity does and begins inside the one before.
-        from = std::min(from + 16, capacity - 16);
+        if (static_cast<signed char>(*p) < 0) return nullptr;
+        *at = letter != 0 ? '\\' : *p;
+        at[1] = letter;
+        at += 1 + (letter != 0);
+        ++p;
     }
 #endif
-    for (std::size_t i = 0; i < capacity && text[i] != '\0'; ++i) {
-        if (EscapeOf(text[i]) != 0 || (asciiOnly && static_cast<signed char>(text[i]) < 0)) return nullptr;
-        *at++ = text[i];
+#if ORRERY_SSE2
+    // What is left is looked at behind a copy that ends in zeros, and copied no further than it goes.
+    char rest[32] = {};
+    const char* next = rest;
+    const char* const last = CopyFew(rest, p, static_cast<std::size_t>(end - p) % 16);
+    while (next != last) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(next));
+        const unsigned stops = Stops(bytes) | (static_cast<unsigned>(_mm_movemask_epi8(bytes)) & high);
+        const auto good = static_cast<std::size_t>(std::countr_zero(stops));
+        at = CopyFew(at, next, good);
+        next += good;
+        if (next == last || (Terminated && *next == '\0')) break;
+        if (static_cast<signed char>(*next) < 0) return nullptr;
+        const char letter = EscapeOf(*next);
+        *at = letter != 0 ? '\\' : *next;
+        at[1] = letter;
+        at += 1 + (letter != 0);
+        ++next;
     }
+#else
+    for (; p != end && !(Terminated && *p == '\0'); ++p) {
+        if (asciiOnly && static_cast<signed char>(*p) < 0) return nullptr;
+        const char letter = EscapeOf(*p);
+        *at = letter != 0 ? '\\' : *p;
+        at[1] = letter;
+        at += 1 + (letter != 0);
+    }
+#endif
     *at = '"';
     return at + 1;
+}
+
+} // namespace
+
+char* PutText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept {
+    return PutQuoted<true>(at, text, capacity, asciiOnly);
 }
 
 void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {
@@ -107,45 +175,29 @@ void TextWriter::Real(double number) noexcept {
     Scalar(text, static_cast<std::size_t>(PutReal(text, number) - text));
 }
 
-// Whether a text of 32 bytes or less is known to need no escape.
-bool TextWriter::IsClean(std::string_view text) noexcept {
-    const char* const p = text.data();
-    const std::size_t size = text.size();
-#if ORRERY_SSE2
-    if (size >= 16) {
-        const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-        const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + size - 16));
-        return (Suspects(low) | Suspects(high)) == 0;
-    }
-    if (size >= 8) {
-        const __m128i low = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
-        const __m128i high = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p + size - 8));
-        return Suspects(_mm_unpacklo_epi64(low, high)) == 0;
-    }
-    if (size >= 4) {
-        std::uint32_t low, high;
-        std::memcpy(&low, p, 4);
-        std::memcpy(&high, p + size - 4, 4);
-        return Suspects(_mm_set1_epi64x(static_cast<std::int64_t>(std::uint64_t{high} << 32 | low))) == 0;
-    }
-#endif
-    char any = 0;
-    for (const char byte : text)
-        any |= EscapeOf(byte);
-    return any == 0;
-}
-
 void TextWriter::String(std::string_view text) noexcept {
-    constexpr std::size_t kShort = 32;
-    if (text.size() <= kShort && IsClean(text)) {
-        if (char* const at = Room(text.size() + 2)) [[likely]] {
-            next_ = Quoted(Separated(at), text);
-            first_ = false;
-            return;
-        }
+    if (char* const at = Room(TextRoom(text.size()))) [[likely]] {
+        char* const to = Separated(at);
+        first_ = false;
+        next_ = PutQuoted<false>(to, text.data(), text.size(), false);
+        return;
     }
     Separate();
     Quote(text);
+}
+
+void TextWriter::Key(std::string_view key) noexcept {
+    constexpr std::string_view kColon = " : ";
+    if (char* const at = Room(TextRoom(key.size()) + kColon.size())) [[likely]] {
+        char* const end = PutQuoted<false>(Separated(at), key.data(), key.size(), false);
+        std::memcpy(end, kColon.data(), kColon.size());
+        next_ = end + kColon.size();
+    } else {
+        Separate();
+        Quote(key);
+        Append(kColon.data(), kColon.size());
+    }
+    first_ = true;
 }
 
 void TextWriter::Quote(std::string_view text) noexcept {
@@ -153,18 +205,6 @@ void TextWriter::Quote(std::string_view text) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
 #if ORRERY_SSE2
-    // A text of two blocks or less that is clean, as most are: the blocks overlap.
-    if (text.size() >= 16 && text.size() <= 32 && static_cast<std::size_t>(end_ - next_) > text.size()) {
-        const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-        const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(end - 16));
-        if ((Suspects(low) | Suspects(high)) == 0) [[likely]] {
-            _mm_storeu_si128(reinterpret_cast<__m128i*>(next_), low);
-            _mm_storeu_si128(reinterpret_cast<__m128i*>(next_ + text.size() - 16), high);
-            next_ += text.size();
-            *next_++ = '"';
-            return;
-        }
-    }
     // Whole blocks are stored before it is known how much of them is good: what is not gets overwritten.
     while (end - p >= 16 && end_ - next_ >= 16) {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
@@ -180,18 +220,6 @@ void TextWriter::Quote(std::string_view text) noexcept {
         next_ += good;
         Escaped(p, p + 1);
         ++p;
-    }
-    // Two halves that overlap cover what is left when it is clean.
-    const auto left = end - p;
-    if (left >= 8 && left < 16 && end_ - next_ >= left) {
-        const __m128i low = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
-        const __m128i high = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(end - 8));
-        if (Suspects(_mm_unpacklo_epi64(low, high)) == 0) {
-            _mm_storel_epi64(reinterpret_cast<__m128i*>(next_), low);
-            _mm_storel_epi64(reinterpret_cast<__m128i*>(next_ + left - 8), high);
-            next_ += left;
-            p = end;
-        }
     }
 #endif
     Escaped(p, end);

@@ -33,11 +33,12 @@ inline char* CopyShort(char* out, const char* text, std::size_t size) noexcept {
     return out + size;
 }
 
-// Writes a string up to its terminator or to its capacity, in quotes; `at` has room for `capacity` and
-// kCleanTextRoom bytes. Null when something in it is escaped or, with `asciiOnly`, is no ASCII; what stands at `at`
-// then is of no use.
-inline constexpr std::size_t kCleanTextRoom = 2;
-char* PutCleanText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept;
+// Writes a string up to its terminator or to its capacity, in quotes and escaped; `at` has room for TextRoom(capacity)
+// bytes. Null when, with `asciiOnly`, something in it is no ASCII; what stands at `at` then is of no use.
+constexpr std::size_t TextRoom(std::size_t capacity) {
+    return 2 * capacity + 2;
+}
+char* PutText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept;
 
 class TextWriter {
   public:
@@ -78,12 +79,7 @@ class TextWriter {
         Append(" }", 2);
         first_ = false;
     }
-    void Key(std::string_view key) noexcept {
-        Separate();
-        Quote(key);
-        Append(" : ", 3);
-        first_ = true;
-    }
+    void Key(std::string_view key) noexcept;
     // A key that is written already, as in `"Enable" : ` with its quotes, its colon and both blanks.
     void RawKey(std::string_view quoted) noexcept {
         Scalar(quoted.data(), quoted.size());
@@ -97,6 +93,18 @@ class TextWriter {
             return;
         }
         String(clean);
+    }
+    // Where the text ends so far, so that what comes behind can be taken back.
+    struct Place {
+        std::size_t used;
+        std::size_t lost;
+        bool first;
+    };
+    Place place() const noexcept { return {static_cast<std::size_t>(next_ - begin_), lost_, first_}; }
+    void TakeBack(const Place& place) noexcept {
+        next_ = begin_ + place.used;
+        lost_ = place.lost;
+        first_ = place.first;
     }
     // The element before once more: the last `size` bytes of the text. False when that can't be, and nothing is
     // written.
@@ -176,7 +184,6 @@ class TextWriter {
     void AppendPart(const char* text, std::size_t size) noexcept;
     void Grow(std::size_t size) noexcept;
     void Quote(std::string_view text) noexcept;
-    static bool IsClean(std::string_view text) noexcept;
     void Escaped(const char* p, const char* end) noexcept;
 
     char* begin_;

@@ -8,20 +8,6 @@ namespace orrery::record {
 
 namespace {
 
-// FoldedPrefix of a short text, of which nothing behind it may be loaded: its two ends, which overlap.
-std::uint64_t FoldedShort(const char* text, std::size_t size) noexcept {
-    if constexpr (std::endian::native == std::endian::big) return FoldedPrefix({text, size});
-    if (size >= 4) {
-        std::uint32_t low, high;
-        std::memcpy(&low, text, 4);
-        std::memcpy(&high, text + size - 4, 4);
-        return Folded(std::uint64_t{low} | std::uint64_t{high} << 8 * (size - 4));
-    }
-    if (size == 0) return 0;
-    const auto byte = [text](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(text[i])}; };
-    return Folded(byte(0) | byte(size / 2) << 8 * (size / 2) | byte(size - 1) << 8 * (size - 1));
-}
-
 template <class Word>
 bool SameEnds(const char* left, const char* right, std::size_t size) noexcept {
     Word words[4];

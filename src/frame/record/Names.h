@@ -24,8 +24,10 @@ constexpr std::uint64_t FoldedPrefix(std::string_view text) {
     return prefix;
 }
 
-// Whether a text goes out as it stands.
-constexpr bool NeedsNoEscape(std::string_view text) {
+// Whether a text goes out as it stands, and is no longer than names are.
+inline constexpr std::size_t kLongestPlainName = 64;
+constexpr bool IsPlainName(std::string_view text) {
+    if (text.size() > kLongestPlainName) return false;
     for (const char c : text) {
         if (c == '"' || c == '\\' || c == '/' || (c >= 8 && c <= 13)) return false;
     }
@@ -35,12 +37,12 @@ constexpr bool NeedsNoEscape(std::string_view text) {
 struct Name {
     std::int32_t code;
     Compare compare; // Exact: case counts in this one text, whatever the table says
-    bool clean;      // nothing in it is escaped when it is written
+    bool clean;      // nothing in it is escaped when it is written, and it is no longer than kLongestPlainName
     std::string_view text;
     std::uint64_t prefix; // FoldedPrefix(text)
 
     constexpr Name(std::int32_t itsCode, std::string_view itsText, Compare itsCompare = Compare::Folded)
-        : code(itsCode), compare(itsCompare), clean(NeedsNoEscape(itsText)), text(itsText),
+        : code(itsCode), compare(itsCompare), clean(IsPlainName(itsText)), text(itsText),
           prefix(FoldedPrefix(itsText)) {}
 };
 
@@ -77,11 +79,49 @@ constexpr NameIndex<N> IndexOver(const Name (&rows)[N]) {
     return index;
 }
 
+// Texts in quotes as they are written, one behind the other, with kSlack bytes behind the last that may be loaded. In
+// front of them stand their places, two bytes each, and one more for the end of the last. Only tables whose codes count
+// up and whose texts need no escape have it.
+struct QuotedNames {
+    static constexpr std::size_t kPlace = sizeof(std::uint16_t);
+    static constexpr std::size_t kSlack = 32;
+
+    template <std::size_t N>
+    static constexpr std::size_t SizeOf(const Name (&rows)[N]) {
+        std::size_t size = (N + 1) * kPlace;
+        for (std::size_t i = 0; i < N; ++i) {
+            if (!rows[i].clean || rows[i].code != std::int64_t{rows[0].code} + static_cast<std::int64_t>(i)) return 0;
+            size += rows[i].text.size() + 2;
+        }
+        return size + kSlack <= 0xFFFF ? size + kSlack : 0;
+    }
+    template <std::size_t Size, std::size_t N>
+    static constexpr std::array<char, Size> Of(const Name (&rows)[N]) {
+        std::array<char, Size> all{};
+        if constexpr (Size > 0) {
+            std::size_t at = (N + 1) * kPlace;
+            for (std::size_t i = 0; i <= N; ++i) {
+                const auto place = std::bit_cast<std::array<char, kPlace>>(static_cast<std::uint16_t>(at));
+                for (std::size_t k = 0; k < kPlace; ++k)
+                    all[i * kPlace + k] = place[k];
+                if (i == N) break;
+                all[at++] = '"';
+                for (const char c : rows[i].text)
+                    all[at++] = c;
+                all[at++] = '"';
+            }
+        }
+        return all;
+    }
+};
+
 struct NameTable {
     enum class Outside : std::uint8_t { NoKey, Null, Text };
 
     const Name* rows = nullptr;
     const std::uint16_t* index = nullptr; // a NameIndex; null: the rows are few and looked at one by one
+    const char* quoted = nullptr;         // QuotedNames, when it has them
+    std::int32_t firstCode = 0;
     std::uint16_t count = 0;
     std::uint16_t indexSize = 0; // of either half
     Compare compare = Compare::Folded;
@@ -120,6 +160,7 @@ template <std::size_t N>
 constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy) {
     policy.rows = rows;
     policy.count = N;
+    policy.firstCode = rows[0].code;
     policy.countsUp = true;
     for (std::size_t i = 1; i < N; ++i)
         policy.countsUp = policy.countsUp && rows[i].code == std::int64_t{rows[i - 1].code} + 1;
@@ -133,6 +174,14 @@ constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy, const Nam
     if (N <= kFew) return policy;
     policy.index = index.places.data();
     policy.indexSize = NameIndex<N>::kSize;
+    return policy;
+}
+
+template <std::size_t N, std::size_t Size>
+constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy, const NameIndex<N>& index,
+                              const std::array<char, Size>& quoted) {
+    policy = NamesOver(rows, policy, index);
+    if (Size > 0) policy.quoted = quoted.data();
     return policy;
 }
 
@@ -162,4 +211,7 @@ constexpr NameTable ExactNames(const Name (&rows)[N]) {
 #define NAMES(table, policy, ...)                                                                                      \
     inline constexpr ::orrery::record::Name table##Rows[] = __VA_ARGS__;                                               \
     inline constexpr ::orrery::record::NameIndex table##Index = ::orrery::record::IndexOver(table##Rows);              \
-    inline constexpr ::orrery::record::NameTable table = ::orrery::record::NamesOver(table##Rows, policy, table##Index)
+    inline constexpr auto table##Quoted =                                                                              \
+        ::orrery::record::QuotedNames::Of<::orrery::record::QuotedNames::SizeOf(table##Rows)>(table##Rows);            \
+    inline constexpr ::orrery::record::NameTable table =                                                               \
+        ::orrery::record::NamesOver(table##Rows, policy, table##Index, table##Quoted)

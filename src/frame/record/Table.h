@@ -37,9 +37,13 @@ enum class Plainly : std::uint8_t {
     Raw,      // a text as it stands
     Named,    // through a name table
     Inner,    // a record through another table
-    Element,  // one value of another codec; on reading only
-    Function, // the row's own function; on reading only
+    Element,  // one value of another codec
+    Function, // the row's own function
+    List,     // elements, whatever their words; on writing only
+    Nothing,  // a row that is only read; on writing only
 };
+// Longer keys stand in no node that is written the short way, so that one look at the room is enough for any.
+inline constexpr std::size_t kLongestPlainKey = 100;
 
 // One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
 // nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
@@ -153,6 +157,10 @@ struct Table {
         return *static_cast<const NameTable*>(references[node.reference]);
     }
     const Table& tableOf(const Node& node) const { return *static_cast<const Table*>(references[node.reference]); }
+    // Whether writing it is writing its keys: nothing holds it back, and nothing stands for it or among them.
+    bool isPlainObject() const {
+        return shape == Shape::Object && self.count == 0 && amongKeys == nullptr && !guarded && writes == nullptr;
+    }
     const Field* begin() const { return rows; }
     const Field* end() const { return rows + rowCount; }
 };
@@ -253,14 +261,41 @@ constexpr Plainly ReadPlainly(const Field& row) {
         return Plainly::No;
     return row.kind == Kind::Custom ? Plainly::Function : PlainValue(row, row.kind, Plainly::Element);
 }
+// A codec that always writes one value under the row's key.
+constexpr Plainly WritesElement(const Field& row) {
+    switch (row.kind) {
+    case Kind::Schedule:
+    case Kind::SectionList:
+        return row.wholeMember ? Plainly::Element : Plainly::No;
+    case Kind::Bool:
+    case Kind::Int:
+    case Kind::UInt:
+    case Kind::FullText:
+    case Kind::TimeSection:
+    case Kind::HolidaySchedule:
+    case Kind::NetTime:
+    case Kind::NetTimeEx:
+    case Kind::ClockTime:
+        return row.wholeMember ? Plainly::No : Plainly::Element;
+    default:
+        return Plainly::No;
+    }
+}
 constexpr Plainly WritePlainly(const Field& row) {
+    if (!row.writable) return Plainly::Nothing;
+    const bool isList = (row.rank > 0 || row.cell == Cell::Pointer) && !row.wholeMember && !row.single;
+    if (!row.amongKeys && !row.linkage && !row.condition.exists() && row.when == nullptr) {
+        if (row.kind == Kind::Custom) return Plainly::Function;
+        if (isList) return Plainly::List;
+    }
     WritingWords words = row;
     words.keepsObject = false; // the node knows
     words.unlessBare = false;  // as of this
-    if (words != WritingWords{} || static_cast<const ListWords&>(row) != ListWords{} || !row.writable
-        || row.kind != row.writtenAs)
+    if (words != WritingWords{} || static_cast<const ListWords&>(row) != ListWords{} || row.kind != row.writtenAs
+        || row.kind == Kind::Custom)
         return Plainly::No;
-    return PlainValue(row, row.kind, Plainly::No);
+    if (row.wholeMember) return WritesElement(row);
+    return PlainValue(row, row.kind, WritesElement(row));
 }
 
 // An array of which the words say nothing but how its count is told.
@@ -427,7 +462,7 @@ struct Tree {
 
     constexpr void SetRow(Node& node, const Field& row) {
         node.readPlainly = ReadPlainly(row);
-        node.writePlainly = WritePlainly(row);
+        node.writePlainly = node.keySize <= kLongestPlainKey ? WritePlainly(row) : Plainly::No;
         node.offset = row.offset;
         node.elementSize = row.elementSize;
         node.flag = row.flag;

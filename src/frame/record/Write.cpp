@@ -13,28 +13,50 @@ bool IsMaskEmpty(const Field& field, const std::byte* at) noexcept {
     return *at == std::byte{0} && std::memcmp(at, at + 1, field.size - 1) == 0;
 }
 
+// An object is opened at once where its place is open; if `write` finds nothing to put in it, what stands there is
+// taken back, and that it was empty is the answer. Elsewhere it is opened with the first key inside it.
+template <class Write>
+bool WriteObject(std::string_view quotedKey, WriteCall& call, const Write& write) noexcept {
+    OpenObject* const outer = call.object;
+    json::TextWriter& out = call.out;
+    if (!quotedKey.empty() && !outer->opened) {
+        OpenObject inner{outer, quotedKey, false};
+        call.object = &inner;
+        write();
+        call.object = outer;
+        if (inner.opened) out.EndObject();
+        return inner.opened;
+    }
+    const json::TextWriter::Place before = out.place();
+    if (!quotedKey.empty()) out.RawKey(quotedKey);
+    out.BeginObject();
+    const std::size_t start = out.length();
+    OpenObject inner{outer, {}, true};
+    if (outer == nullptr || !outer->opened) call.object = &inner;
+    write();
+    call.object = outer;
+    const bool isBare = out.length() == start;
+    isBare ? out.TakeBack(before) : out.EndObject();
+    return !isBare;
+}
+
 // The key of an object is written with the first key inside it.
 void WriteUnlessBare(const Table& table, std::string_view key, const std::byte* at, WriteCall& call) noexcept {
-    if (!IsWritten(table, at)) return;
-    OpenObject inner{call.object, key, false};
-    call.object = &inner;
-    WriteFields(table, at, call);
-    call.object = inner.parent;
-    if (inner.opened) call.out.EndObject();
+    if (IsWritten(table, at)) WriteObject(key, call, [&] { WriteFields(table, at, call); });
 }
 
 // A record whose row says nothing of writing.
 void WriteInner(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept {
-    if (!IsFlagged(node, record)) return;
     const Table& inner = table.tableOf(node);
     const std::string_view key = table.quotedKeyOf(node);
     const std::byte* const at = record + node.offset;
     if (node.unlessBare) return WriteUnlessBare(inner, key, at, call);
     call.Quoted(key);
     if (!IsWritten(inner, at)) return call.out.Null();
-    call.quotedKey = key;
     WriteRecord(inner, at, call);
 }
+
+} // namespace
 
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     // Members among the record's keys come with the keys.
@@ -99,55 +121,38 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         call.out.Null();
 }
 
-// The array that a record stands as.
-void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept {
-    const Node* node = table.nodes + table.self.first;
-    const Node* const end = node + table.self.count;
-    call.out.BeginArray();
-    for (;;) {
-        node = WriteElements(table, node, end, record, call);
-        if (node == end) break;
-        const Field& field = table.rows[node->row];
-        const std::byte* const at = record + node->offset;
-        if (IsElementWritten(field, at))
-            WriteElement(field, at, call);
-        else
-            call.out.Null();
-        ++node;
+void WriteNode(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept {
+    const std::string_view key = table.quotedKeyOf(node);
+    switch (node.writePlainly) {
+    case Plainly::Nothing:
+        return;
+    case Plainly::Inner:
+        return WriteInner(table, node, record, call);
+    case Plainly::Element:
+        call.Quoted(key);
+        return WriteElement(table.rows[node.row], record + node.offset, call);
+    case Plainly::List:
+        call.quotedKey = key;
+        return WriteList(table.rows[node.row], record, call);
+    case Plainly::Function: {
+        const Field& field = table.rows[node.row];
+        if (field.custom->write == nullptr) return;
+        call.quotedKey = key;
+        return field.custom->write(field, record, call);
     }
-    call.out.EndArray();
-}
-
-} // namespace
-
-void WriteNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call) noexcept {
-    const Node* const end = table.nodes + range.first + range.count;
-    for (const Node* node = table.nodes + range.first; node != end;) {
-        if (IsScalar(*node)) {
-            node = WriteRun(table, node, end, record, call);
-            continue;
-        }
-        const Node& other = *node++;
-        if (other.writePlainly == Plainly::Inner) {
-            WriteInner(table, other, record, call);
-            continue;
-        }
-        if (other.childCount == 0) {
-            call.quotedKey = table.quotedKeyOf(other);
-            WriteField(table.rows[other.row], record, call);
-            continue;
-        }
-        OpenObject inner{call.object, table.quotedKeyOf(other), false};
-        call.object = &inner;
-        WriteNodes(table, {other.firstChild, other.childCount}, record, call);
-        call.object = inner.parent;
-        if (inner.opened) {
-            call.out.EndObject();
-        } else if (other.staysNull) {
-            call.Quoted(table.quotedKeyOf(other));
-            call.out.Null();
-        }
+    default:
+        break;
     }
+    if (node.childCount == 0) {
+        call.quotedKey = key;
+        return WriteField(table.rows[node.row], record, call);
+    }
+    const bool isWritten = WriteObject(key, call, [&] {
+        WriteNodes(table, {node.firstChild, node.childCount}, record, call);
+    });
+    if (isWritten || !node.staysNull) return;
+    call.Quoted(key);
+    call.out.Null();
 }
 
 void WriteCall::Open(OpenObject& closed) noexcept {
@@ -181,25 +186,27 @@ void WriteChosen(const Table& table, const std::byte* record, WriteCall& call, R
 }
 
 void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    if (table.shape != Shape::Object) return WriteTuple(table, record, call);
     const auto outerKey = call.quotedKey;
-    if (table.shape != Shape::Object) {
-        WriteTuple(table, record, call);
-    } else {
-        OpenObject object{call.object, {}, false};
-        call.object = &object;
-        const std::size_t before = call.out.length();
-        for (std::uint16_t i = 0; i < table.self.count; ++i) {
-            const Node& node = table.nodes[table.self.first + i];
-            call.quotedKey = table.quotedKeyOf(node);
-            WriteField(table.rows[node.row], record, call);
-        }
-        WriteFields(table, record, call);
-        call.object = object.parent;
-        if (object.opened)
-            call.out.EndObject();
-        else if (call.out.length() == before)
-            call.out.Null();
+    if (table.self.count == 0) {
+        if (!WriteObject({}, call, [&] { WriteFields(table, record, call); })) call.out.Null();
+        call.quotedKey = outerKey;
+        return;
     }
+    OpenObject object{call.object, {}, false};
+    call.object = &object;
+    const std::size_t before = call.out.length();
+    for (std::uint16_t i = 0; i < table.self.count; ++i) {
+        const Node& node = table.nodes[table.self.first + i];
+        call.quotedKey = table.quotedKeyOf(node);
+        WriteField(table.rows[node.row], record, call);
+    }
+    WriteFields(table, record, call);
+    call.object = object.parent;
+    if (object.opened)
+        call.out.EndObject();
+    else if (call.out.length() == before)
+        call.out.Null();
     call.quotedKey = outerKey;
 }
 

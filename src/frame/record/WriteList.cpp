@@ -113,6 +113,15 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
         call.out.BeginArray();
         return call.out.EndArray();
     }
+    const int inner = field.cell == Cell::Pointer ? field.rank : 1;
+    if (field.writtenAs == Kind::Record && !field.keyed && inner == field.rank && IsAlwaysWritten(*field.table)) {
+        call.Key();
+        call.out.BeginArray();
+        const std::byte* at = elements.first;
+        for (std::uint32_t i = 0; i < elements.count; ++i, at += stride)
+            WriteRecord(*field.table, at, call);
+        return call.out.EndArray();
+    }
     std::uint32_t end = elements.count;
     if (field.skipped != Skipped::StaysNull) {
         // No place behind the last element that is written, and no key when there is none.
@@ -124,7 +133,6 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
         call.Key();
         return WriteByName(*field.table, {elements.first, end, stride}, call);
     }
-    const int inner = field.cell == Cell::Pointer ? field.rank : 1;
     call.Key();
     if (IsPlainNumber(field) && inner == field.rank) return WriteNumbers(elements.first, end, stride, call.out);
     call.out.BeginArray();

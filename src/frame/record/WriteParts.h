@@ -48,12 +48,15 @@ inline bool IsFlagged(const Node& node, const std::byte* record) noexcept {
         return LoadInteger(node.flag.cell, flag) != 0;
     }
 }
-// Writes the scalars from `node` on, up to the first node that is none, which it answers, or to `end`.
-const Node* WriteRun(const Table& table, const Node* node, const Node* end, const std::byte* record,
-                     WriteCall& call) noexcept;
-
-// The same for elements of an array: up to the first that is none or finds no room, is converted or has no text.
-const Node* WriteElements(const Table& table, const Node* node, const Node* end, const std::byte* record,
-                          WriteCall& call) noexcept;
+// What a row says, whatever its words; `call` has its key.
+void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept;
+// The array that a record stands as.
+void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept;
+// Whether a record is let out, whatever it holds.
+inline bool IsAlwaysWritten(const Table& table) noexcept {
+    return !table.guarded && table.writes == nullptr;
+}
+// Writes what a node says that is no scalar and is let out by its flag.
+void WriteNode(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept;
 
 } // namespace orrery::record

@@ -11,6 +11,7 @@ namespace {
 
 using json::Pen;
 static_assert(kKeyTextSlack >= Pen::kPadding);
+constexpr std::size_t kNameRoom = kLongestPlainName + 16; // quotes, and what a store goes beyond
 
 std::int64_t LoadScalar(const Node& node, const std::byte* at) noexcept {
     return LoadInteger(node.cell, at);
@@ -26,7 +27,7 @@ char* PutInteger(char* to, const Node& node, const std::byte* at) noexcept {
                                   : json::PutDigits(to, static_cast<std::uint32_t>(number));
 }
 
-const Name* NameOf(const Table& table, const Node& node, const std::byte* at) noexcept {
+[[gnu::always_inline]] inline const Name* NameOf(const Table& table, const Node& node, const std::byte* at) noexcept {
     const auto code = node.cell == Cell::I32 ? Load<std::int32_t>(at) : static_cast<std::int32_t>(LoadScalar(node, at));
     const NameTable& names = table.namesOf(node);
     if (!names.countsUp) return names.RowOf(code);
@@ -81,111 +82,258 @@ char* PutName(char* to, std::string_view clean) noexcept {
     return to + 1;
 }
 
-// A value that is no text of the record's.
-[[gnu::always_inline]] inline char* PutScalar(char* to, const Node& node, const Name* name,
-                                              const std::byte* at) noexcept {
-    switch (node.writePlainly) {
-    case Plainly::Switch:
-        return Pen::PutBool(to, Load<std::int32_t>(at) != 0);
-    case Plainly::Number:
-        return json::PutDigits(to, Load<std::int32_t>(at));
-    case Plainly::Integer:
-        return PutInteger(to, node, at);
-    case Plainly::Fraction:
-        return json::PutReal(to, LoadFraction(node, at));
-    default:
-        return PutName(to, name->text);
-    }
+std::int64_t CodeAt(const Node& node, const std::byte* at) noexcept {
+    if (node.cell == Cell::I32) [[likely]]
+        return Load<std::int32_t>(at);
+    return static_cast<std::int32_t>(LoadScalar(node, at));
 }
 
-// Null for one that is converted or has something to escape.
-char* PutText(char* to, const Node& node, const char* text, const WriteCall& call) noexcept {
+// The text of a code in quotes. Null when it has none or needs an escape.
+[[gnu::always_inline]] inline char* PutNamed(char* to, const Table& table, const Node& node,
+                                             const std::byte* at) noexcept {
+    const NameTable& names = table.namesOf(node);
+    const auto place = static_cast<std::uint64_t>(CodeAt(node, at) - names.firstCode);
+    if (names.quoted == nullptr) [[unlikely]] {
+        const Name* const name = NameOf(table, node, at);
+        return name != nullptr && name->clean ? PutName(to, name->text) : nullptr;
+    }
+    if (place >= names.count) return nullptr;
+    std::uint16_t places[2];
+    std::memcpy(places, names.quoted + place * QuotedNames::kPlace, sizeof places);
+    const char* const from = names.quoted + places[0];
+    const std::size_t size = places[1] - places[0];
+    std::memcpy(to, from, 16);
+    for (std::size_t i = 16; i < size; i += 16)
+        std::memcpy(to + i, from + i, 16);
+    return to + size;
+}
+
+// Null for one that is converted.
+char* PutText(char* to, const Node& node, const std::byte* at, const WriteCall& call) noexcept {
     const LocalText& texts = call.parser.text();
     const bool asciiOnly = node.writePlainly == Plainly::Local && !texts.isCopy();
     if (asciiOnly && !texts.isCopyOfAscii()) return nullptr;
-    return json::PutCleanText(to, text, node.elementSize, asciiOnly);
+    return json::PutText(to, reinterpret_cast<const char*>(at), node.elementSize, asciiOnly);
 }
 
-// Where the pen's owner goes on, once the writer itself has written. They take the pen by value, so that it need not
+// Where the pen's owner goes on, once the writer itself has written. It takes the pen by value, so that it need not
 // leave its registers.
-Pen Slowly(Pen pen, const Table& table, const Node& node, const std::byte* at, WriteCall& call) noexcept {
+[[gnu::noinline]] Pen Slowly(Pen pen, const Table& table, const Node& node, const std::byte* record,
+                             WriteCall& call) noexcept {
     pen.Return(call.out);
-    WriteScalar(table, node, at, call);
+    if (IsScalar(node))
+        WriteScalar(table, node, record + node.offset, call);
+    else
+        WriteNode(table, node, record, call);
     return Pen(call.out);
 }
-Pen Open(Pen pen, WriteCall& call) noexcept {
+
+// The keys of an object that the pen has just opened, and its end.
+[[gnu::noinline]] Pen Inside(Pen pen, const Table& table, NodeRange nodes, const std::byte* record,
+                             WriteCall& call) noexcept {
     pen.Return(call.out);
-    call.OpenObjects();
+    WriteNodes(table, nodes, record, call);
+    Pen after(call.out);
+    if (after.isAt(pen)) return after;
+    if (after.has(2)) {
+        after.EndObject();
+        return after;
+    }
+    call.out.EndObject();
     return Pen(call.out);
 }
-// The key stands there already.
-Pen ConvertText(Pen pen, const Node& node, const char* text, WriteCall& call) noexcept {
+
+// Whether the presence flag of the node's row, which has one, lets it out.
+[[gnu::always_inline]] inline bool IsFlagSet(const Node& node, const std::byte* record) noexcept {
+    const std::byte* const flag = record + node.flag.offset;
+    if (node.flag.cell <= Cell::U8) [[likely]]
+        return *flag != std::byte{0};
+    return IsFlagged(node, record);
+}
+
+// Writes the scalars from `node` on as elements of an array, up to the first node that is none or finds no room, is
+// converted or has no text, which it answers.
+const Node* WriteElements(const Table& table, const Node* node, const Node* end, const std::byte* record,
+                          WriteCall& call) noexcept {
+    constexpr std::size_t kRoom = std::max(json::kRealRoom, kNameRoom);
+    Pen pen(call.out);
+    for (; node != end && pen.has(kRoom); ++node) {
+        const std::byte* const at = record + node->offset;
+        switch (node->writePlainly) {
+        case Plainly::Switch:
+            pen.Element([=](char* to) { return Pen::PutBool(to, Load<std::int32_t>(at) != 0); });
+            continue;
+        case Plainly::Number:
+            pen.Element([=](char* to) { return json::PutDigits(to, Load<std::int32_t>(at)); });
+            continue;
+        case Plainly::Integer:
+            pen.Element([=](char* to) { return PutInteger(to, *node, at); });
+            continue;
+        case Plainly::Fraction:
+            pen.Element([=](char* to) { return json::PutReal(to, LoadFraction(*node, at)); });
+            continue;
+        case Plainly::Local:
+        case Plainly::Raw:
+            if (pen.has(json::TextRoom(node->elementSize))
+                && pen.TryElement([&](char* to) { return PutText(to, *node, at, call); }))
+                continue;
+            break;
+        case Plainly::Named:
+            if (pen.TryElement([&](char* to) { return PutNamed(to, table, *node, at); })) continue;
+            break;
+        default:
+            break;
+        }
+        break;
+    }
     pen.Return(call.out);
-    call.parser.SetJsonString(call.out, text, node.elementSize, node.writePlainly == Plainly::Local);
-    return Pen(call.out);
+    return node;
 }
 
 } // namespace
 
-const Node* WriteRun(const Table& table, const Node* node, const Node* end, const std::byte* record,
-                     WriteCall& call) noexcept {
+void WriteNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call) noexcept {
     // What a key and any value but a text take at the most; a key's padding lies within the value's room.
-    constexpr std::size_t kRoom = kQuotesAndColon + std::max(json::kRealRoom, Pen::kPadding);
+    constexpr std::size_t kRoom =
+        kLongestPlainKey + kQuotesAndColon + std::max({json::kRealRoom, Pen::kPadding, kNameRoom});
+    const Node* node = table.nodes + range.first;
+    const Node* const end = node + range.count;
+    for (; node != end && !call.object->opened; ++node) {
+        if (IsFlagged(*node, record)) Slowly(Pen(call.out), table, *node, record, call);
+    }
     Pen pen(call.out);
-    for (; node != end && IsScalar(*node); ++node) {
-        if (!IsFlagged(*node, record)) continue;
+    for (; node != end; ++node) {
+        if (node->flag.exists() && !IsFlagSet(*node, record)) continue;
         const std::byte* const at = record + node->offset;
-        std::size_t room = kRoom + node->keySize;
-        const Name* name = nullptr;
-        if (node->writePlainly == Plainly::Named) {
-            name = NameOf(table, *node, at);
-            if (name == nullptr || !name->clean) {
-                pen = Slowly(pen, table, *node, at, call);
-                continue;
+        if (!pen.has(kRoom)) [[unlikely]] {
+            pen = Slowly(pen, table, *node, record, call);
+            continue;
+        }
+        const auto putKey = [&] { pen.PaddedKey(table.keyTexts + node->quotedAt, node->keySize + kQuotesAndColon); };
+        const auto putNull = [&] {
+            putKey();
+            pen.Value([](char* to) { return Pen::PutNull(to); });
+        };
+        const auto beginOther = [&] {
+            pen.Return(call.out);
+            call.quotedKey = table.quotedKeyOf(*node);
+        };
+        switch (node->writePlainly) {
+        case Plainly::Switch:
+            putKey();
+            pen.Value([=](char* to) { return Pen::PutBool(to, Load<std::int32_t>(at) != 0); });
+            break;
+        case Plainly::Number:
+            putKey();
+            pen.Value([=](char* to) { return json::PutDigits(to, Load<std::int32_t>(at)); });
+            break;
+        case Plainly::Integer:
+            putKey();
+            pen.Value([=](char* to) { return PutInteger(to, *node, at); });
+            break;
+        case Plainly::Fraction:
+            putKey();
+            pen.Value([=](char* to) { return json::PutReal(to, LoadFraction(*node, at)); });
+            break;
+        case Plainly::Local:
+        case Plainly::Raw: {
+            const Pen before = pen;
+            if (pen.has(kRoom + json::TextRoom(node->elementSize))) [[likely]] {
+                putKey();
+                if (pen.TryValue([&](char* to) { return PutText(to, *node, at, call); })) break;
             }
-            room += name->text.size();
-        } else if (node->writePlainly >= Plainly::Local) {
-            room += node->elementSize;
+            pen = Slowly(before, table, *node, record, call);
+            break;
         }
-        if (!call.object->opened) [[unlikely]] {
-            pen = Open(pen, call);
+        case Plainly::Named: {
+            const Pen before = pen;
+            putKey();
+            if (!pen.TryValue([&](char* to) { return PutNamed(to, table, *node, at); }))
+                pen = Slowly(before, table, *node, record, call);
+            break;
         }
-        if (!pen.has(room)) [[unlikely]] {
-            pen = Slowly(pen, table, *node, at, call);
-            continue;
+        case Plainly::Inner: {
+            const Table& inner = table.tableOf(*node);
+            if (inner.shape != Shape::Object && IsAlwaysWritten(inner)) {
+                putKey();
+                pen.Return(call.out);
+                WriteTuple(inner, at, call);
+                pen = Pen(call.out);
+                break;
+            }
+            if (!inner.isPlainObject()) {
+                pen = Slowly(pen, table, *node, record, call);
+                break;
+            }
+            const Pen before = pen;
+            putKey();
+            pen.BeginObject();
+            pen = Inside(pen, inner, inner.members, at, call);
+            if (!pen.isFirst()) break;
+            pen = before;
+            if (!node->unlessBare) putNull();
+            break;
         }
-        pen.PaddedKey(table.keyTexts + node->quotedAt, node->keySize + kQuotesAndColon);
-        if (node->writePlainly < Plainly::Local || node->writePlainly == Plainly::Named) {
-            pen.Value([=](char* to) { return PutScalar(to, *node, name, at); });
-            continue;
+        case Plainly::Element:
+            pen.Return(call.out);
+            call.out.RawKey(table.quotedKeyOf(*node));
+            WriteElement(table.rows[node->row], at, call);
+            pen = Pen(call.out);
+            break;
+        case Plainly::Function: {
+            const Field& field = table.rows[node->row];
+            if (field.custom->write == nullptr) break;
+            beginOther();
+            field.custom->write(field, record, call);
+            pen = Pen(call.out);
+            break;
         }
-        const auto* const text = reinterpret_cast<const char*>(at);
-        if (!pen.TryValue([&](char* to) { return PutText(to, *node, text, call); })) {
-            pen = ConvertText(pen, *node, text, call);
+        case Plainly::List:
+            beginOther();
+            WriteList(table.rows[node->row], record, call);
+            pen = Pen(call.out);
+            break;
+        case Plainly::No: {
+            if (node->childCount == 0) {
+                beginOther();
+                WriteField(table.rows[node->row], record, call);
+                pen = Pen(call.out);
+                break;
+            }
+            const Pen before = pen;
+            putKey();
+            pen.BeginObject();
+            pen = Inside(pen, table, {node->firstChild, node->childCount}, record, call);
+            if (!pen.isFirst()) break;
+            pen = before;
+            if (node->staysNull) putNull();
+            break;
+        }
+        case Plainly::Nothing:
+            break;
         }
     }
     pen.Return(call.out);
-    return node;
 }
 
-const Node* WriteElements(const Table& table, const Node* node, const Node* end, const std::byte* record,
-                          WriteCall& call) noexcept {
-    Pen pen(call.out);
-    for (; node != end && IsScalar(*node); ++node) {
+void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept {
+    const Node* node = table.nodes + table.self.first;
+    const Node* const end = node + table.self.count;
+    const auto outerKey = call.quotedKey;
+    call.out.BeginArray();
+    for (;;) {
+        node = WriteElements(table, node, end, record, call);
+        if (node == end) break;
+        const Field& field = table.rows[node->row];
         const std::byte* const at = record + node->offset;
-        const Name* const name = node->writePlainly == Plainly::Named ? NameOf(table, *node, at) : nullptr;
-        const bool isText = node->writePlainly == Plainly::Local || node->writePlainly == Plainly::Raw;
-        if (node->writePlainly == Plainly::Named && (name == nullptr || !name->clean)) break;
-        if (!pen.has(json::kRealRoom + (name != nullptr ? name->text.size() : isText ? node->elementSize : 0))) break;
-        if (isText) {
-            const auto* const text = reinterpret_cast<const char*>(at);
-            if (!pen.TryElement([&](char* to) { return PutText(to, *node, text, call); })) break;
-        } else {
-            pen.Element([=](char* to) { return PutScalar(to, *node, name, at); });
-        }
+        if (IsElementWritten(field, at))
+            WriteElement(field, at, call);
+        else
+            call.out.Null();
+        ++node;
     }
-    pen.Return(call.out);
-    return node;
+    call.out.EndArray();
+    call.quotedKey = outerKey;
 }
 
 } // namespace orrery::record

@@ -169,6 +169,11 @@ void WriteLevels(const Field& field, int level, const std::byte* at, WriteCall& 
             call.out.Null();
         return;
     }
+    if (level + 1 == field.rank && field.writtenAs == Kind::TimeSection) {
+        JsonParser::SetTimeSectionList(call.out, reinterpret_cast<const CFG_TIME_SECTION*>(at),
+                                       static_cast<int>(field.dims[level]));
+        return;
+    }
     const std::uint32_t stride = StrideOf(field, level);
     call.out.BeginArray();
     for (std::uint32_t i = 0; i < field.dims[level]; ++i) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 #include <string>
 
@@ -27,8 +28,8 @@ TEST(Pen, WritesMembersAndElementsWhereTheWriterStands) {
     pen.PaddedKey(kKeys + 2, 11);
     pen.Value([](char* at) { return Pen::PutBool(at, false); });
     pen.PaddedKey(kKeys + 15, kLongSize);
-    EXPECT_FALSE(pen.TryValue([](char* at) { return PutCleanText(at, "a/b", 4, false); }));
-    EXPECT_TRUE(pen.TryValue([](char* at) { return PutCleanText(at, "ab", 3, false); }));
+    EXPECT_FALSE(pen.TryValue([](char* at) { return PutText(at, "a\xC3", 3, true); }));
+    EXPECT_TRUE(pen.TryValue([](char* at) { return PutText(at, "a/b", 4, true); }));
     pen.Return(out);
     out.Key("List");
     out.BeginArray();
@@ -41,7 +42,7 @@ TEST(Pen, WritesMembersAndElementsWhereTheWriterStands) {
     out.EndArray();
     out.EndObject();
     EXPECT_EQ(std::string_view(buffer.data(), out.length()),
-              "{ \"Enable\" : true, \"Enable\" : false, \"AKeyOfMoreThanThirtyTwoLettersInAll\" : \"ab\", "
+              "{ \"Enable\" : true, \"Enable\" : false, \"AKeyOfMoreThanThirtyTwoLettersInAll\" : \"a\\/b\", "
               "\"List\" : [ 7, 0.5000000000000000, 9 ] }");
 }
 
@@ -54,12 +55,45 @@ TEST(Pen, HasWhatTheWriterHasLessASeparator) {
     EXPECT_FALSE(Pen(nowhere).has(0));
 }
 
-// Every length in a field of every capacity, with each odd byte at each place; nothing outside the field is read and
-// nothing outside its room is written.
-TEST(PutCleanText, TakesTextsThatNeedNoEscape) {
-    for (std::size_t capacity = 1; capacity <= 70; ++capacity) {
+TEST(Pen, OpensAndClosesObjectsAsTheWriterDoes) {
+    std::string buffer(64, '?');
+    TextWriter out(buffer.data(), buffer.size());
+    out.BeginArray();
+    Pen pen(out);
+    pen.Element([](char* at) { return Pen::PutNull(at); });
+    pen.Return(out);
+    out.BeginObject();
+    pen = Pen(out);
+    pen.PaddedKey(kKeys + 2, 11);
+    const Pen start = pen;
+    pen.BeginObject();
+    EXPECT_TRUE(pen.isFirst());
+    EXPECT_FALSE(pen.isAt(start));
+    pen.EndObject();
+    EXPECT_FALSE(pen.isFirst());
+    pen.EndObject();
+    pen.Return(out);
+    out.EndArray();
+    EXPECT_EQ(std::string_view(buffer.data(), out.length()), "[ null, { \"Enable\" : {  } } ]");
+}
+
+// Both ways out of a text: as escapes written one by one, and as the whole-text functions write them.
+std::string Escaped(std::string_view text) {
+    std::string escaped = "\"";
+    for (const char c : text) {
+        const std::size_t at = std::string_view("\"\\/\b\t\n\f\r").find(c);
+        if (at != std::string_view::npos) escaped += '\\';
+        escaped += at != std::string_view::npos ? "\"\\/btnfr"[at] : c;
+    }
+    return escaped + '"';
+}
+
+// Every length in a field of every capacity, with each odd byte at each place, alone and in a row; nothing outside the
+// field is read and nothing outside its room is written.
+TEST(PutText, EscapesWhatNeedsItAndRefusesWhatIsNoAscii) {
+    for (std::size_t capacity = 1; capacity <= 53; ++capacity) {
         const test::GuardedBuffer field(capacity);
-        const test::GuardedBuffer room(capacity + kCleanTextRoom);
+        const test::GuardedBuffer room(TextRoom(capacity));
         for (std::size_t size = 0; size <= capacity; ++size) {
             const auto fill = [&] {
                 std::memset(field.data(), '/', capacity); // behind the terminator anything may stand
@@ -67,22 +101,86 @@ TEST(PutCleanText, TakesTextsThatNeedNoEscape) {
                     field.data()[i] = static_cast<char>('a' + i % 26);
                 if (size < capacity) field.data()[size] = '\0';
             };
+            const auto text = [&](bool asciiOnly) {
+                const char* const end = PutText(room.data(), field.data(), capacity, asciiOnly);
+                return end == nullptr ? std::string("refused")
+                                      : std::string(room.data(), static_cast<std::size_t>(end - room.data()));
+            };
             fill();
-            const char* const end = PutCleanText(room.data(), field.data(), capacity, true);
-            ASSERT_NE(end, nullptr) << size << " of " << capacity;
-            const std::string quoted = '"' + std::string(field.data(), size) + '"';
-            ASSERT_EQ(std::string_view(room.data(), static_cast<std::size_t>(end - room.data())), quoted);
+            ASSERT_EQ(text(true), '"' + std::string(field.data(), size) + '"') << size << " of " << capacity;
             for (std::size_t at = 0; at < size; at += 1 + at / 8) {
-                for (const char odd : {'"', '\\', '/', '\b', '\r', '\xC3'}) {
-                    fill();
-                    field.data()[at] = odd;
-                    ASSERT_EQ(PutCleanText(room.data(), field.data(), capacity, true), nullptr);
-                    const bool isClean = PutCleanText(room.data(), field.data(), capacity, false) != nullptr;
-                    ASSERT_EQ(isClean, odd == '\xC3') << at << " of " << size;
+                for (const char odd : {'"', '\\', '/', '\b', '\t', '\n', '\v', '\f', '\r', '\x07', '\x0E', '\xC3'}) {
+                    for (const std::size_t count : {std::size_t{1}, std::size_t{3}, size - at}) {
+                        fill();
+                        std::memset(field.data() + at, odd, std::min(count, size - at));
+                        const std::string due = Escaped({field.data(), size});
+                        ASSERT_EQ(text(true), odd == '\xC3' ? "refused" : due) << at << " of " << size;
+                        ASSERT_EQ(text(false), due) << at << " of " << size;
+                    }
                 }
             }
         }
     }
+}
+
+// The same through the writer, in a room that is just enough, whether or not there is room for twice the text.
+TEST(TextWriter, EscapesTextsOfEveryLengthInAnyRoom) {
+    for (std::size_t size = 0; size <= 53; ++size) {
+        for (std::size_t at = 0; at <= size; ++at) {
+            std::string text(size, 'x');
+            if (at < size) text[at] = '/';
+            if (at + 1 < size) text[at + 1] = '\0'; // a byte like any other
+            const std::string due = Escaped(text);
+            for (const std::size_t more : {std::size_t{0}, std::size_t{1}, 2 * size + 8}) {
+                const test::GuardedBuffer room(due.size() + more);
+                TextWriter out(room.data(), due.size() + more);
+                out.String(text);
+                ASSERT_EQ(std::string_view(room.data(), out.length()), due);
+                ASSERT_TRUE(out.fits());
+            }
+            const test::GuardedBuffer room(due.size() + 3);
+            TextWriter out(room.data(), due.size() + 3);
+            out.Key(text);
+            ASSERT_EQ(std::string_view(room.data(), out.length()), due + " : ");
+        }
+    }
+}
+
+TEST(TextWriter, TakesBackWhatItWrote) {
+    std::string buffer(12, '?');
+    TextWriter out(buffer.data(), buffer.size());
+    out.BeginArray();
+    out.Int(1);
+    const TextWriter::Place place = out.place();
+    out.String("longer than there is room");
+    EXPECT_FALSE(out.fits());
+    out.TakeBack(place);
+    EXPECT_TRUE(out.fits());
+    out.Int(2);
+    out.EndArray();
+    EXPECT_EQ(std::string_view(buffer.data(), out.length()), "[ 1, 2 ]");
+}
+
+TEST(PutDigits, WritesWhatPrintfDoes) {
+    const auto check = [](std::uint32_t number) {
+        char text[kIntegerRoom], due[16];
+        std::snprintf(due, sizeof due, "%u", number);
+        ASSERT_EQ(std::string_view(text, static_cast<std::size_t>(PutDigits(text, number) - text)), due);
+        const auto asSigned = static_cast<std::int32_t>(number);
+        std::snprintf(due, sizeof due, "%d", asSigned);
+        ASSERT_EQ(std::string_view(text, static_cast<std::size_t>(PutDigits(text, asSigned) - text)), due);
+    };
+    for (std::uint32_t number = 0; number < 12000; ++number)
+        check(number);
+    for (std::uint64_t ten = 1; ten <= 1000000000; ten *= 10) {
+        for (const std::uint64_t times : {1, 2, 5, 9, 10}) {
+            for (const std::uint64_t more : {0u, 1u, 7u, 4294967295u})
+                check(static_cast<std::uint32_t>(ten * times + more));
+        }
+    }
+    std::uint32_t any = 1;
+    for (int i = 0; i < 100000; ++i, any = any * 1664525 + 1013904223)
+        check(any >> any % 32);
 }
 
 } // namespace
