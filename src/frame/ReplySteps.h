@@ -32,7 +32,9 @@ class ReplyRecords {
                  record::ReadCall& call) noexcept
         : table_(table), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
           room_(request.bufferSize / stride), clears_(frame.clearing == Clearing::Read),
-          isVersioned_(frame.stride != Stride::Record), versioned_(table, frame.stride, stride), call_(call) {
+          isInPlace_(VersionedRecords::AreReadInPlace(table, frame.stride, stride)),
+          isVersioned_(frame.stride != Stride::Record && !isInPlace_), versioned_(table, frame.stride, stride),
+          call_(call) {
         if (isVersioned_) local_ = call.parser.text().arena().Array<std::byte>(table.size);
     }
 
@@ -49,6 +51,7 @@ class ReplyRecords {
     void Read(const json::Value& value, std::string_view memberName) noexcept {
         std::byte* const at = Next();
         if (isVersioned_) return ReadVersioned(value, at, memberName);
+        if (isInPlace_) return ReadInPlace(at, [&] { record::ReadRecord(table_, value, at, call_, memberName); });
         if (clears_) std::memset(at, 0, stride_);
         record::ReadRecord(table_, value, at, call_, memberName);
     }
@@ -58,6 +61,10 @@ class ReplyRecords {
         if (isVersioned_) {
             ReadVersioned(at, [&] { p = record::ReadRecordText(table_, p, local_, text, memberName); });
             return local_ == nullptr ? nullptr : p;
+        }
+        if (isInPlace_) {
+            ReadInPlace(at, [&] { p = record::ReadRecordText(table_, p, at, text, memberName); });
+            return p;
         }
         if (clears_) std::memset(at, 0, stride_);
         return record::ReadRecordText(table_, p, at, text, memberName);
@@ -74,6 +81,14 @@ class ReplyRecords {
     }
     void ReadVersioned(const json::Value& value, std::byte* at, std::string_view memberName) noexcept {
         ReadVersioned(at, [&] { record::ReadRecord(table_, value, local_, call_, memberName); });
+    }
+    // The same as through a local record, for those that VersionedRecords tells of. The caller's own word stays.
+    template <class Read>
+    void ReadInPlace(std::byte* at, Read read) noexcept {
+        const auto word = record::Load<std::uint32_t>(at);
+        std::memset(at, 0, stride_);
+        read(); // which sets the size words among the defaults
+        record::Store(at, word);
     }
     // A record that ends the call stays as the caller had it.
     template <class Read>
@@ -93,7 +108,8 @@ class ReplyRecords {
     std::uint32_t used_ = 0;
     std::uint32_t filled_ = 0;
     bool clears_;
-    bool isVersioned_;
+    bool isInPlace_;
+    bool isVersioned_; // through the local record
     VersionedRecords versioned_;
     std::byte* local_ = nullptr;
     record::ReadCall& call_;

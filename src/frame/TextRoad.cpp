@@ -14,10 +14,15 @@ namespace {
 
 // ---- Which commands ------------------------------------------------------------------------------------------------
 
+// A record that the caller gets back as it was when the road ends is copied first: beyond this size that takes longer
+// than the document of a reply that fills it.
+constexpr std::uint32_t kMostKept = 8 << 10;
+
 const char* WhyByDocument(const record::Table& table, bool isCleared) noexcept {
     if (!record::IsInText(table)) return "the table asks for its object as a whole";
     if (table.partsAskRoot) return "a part of the record has keys that start at the document";
     if (table.hasPointers && !isCleared) return "what the caller's pointers lead to cannot be put back";
+    if (table.size > kMostKept && !isCleared) return "the caller's record is too large to keep a copy of";
     return nullptr;
 }
 

@@ -3,6 +3,7 @@
 #include "frame/Platform/ParamConvert.h"
 #include "frame/record/Engine.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace orrery {
@@ -28,6 +29,14 @@ void ForEachInput(const Table& table, std::uint32_t at, const Input& input) noex
     }
 }
 
+// Whether a function takes part in reading the record, or something in it starts only once it is read.
+bool HasFunctions(const Table& table) noexcept {
+    if (table.afterRead != nullptr || table.startsWhenRead || table.amongKeys != nullptr) return true;
+    return std::ranges::any_of(table, [](const Field& field) {
+        return field.kind == record::Kind::Custom || (field.cell == Cell::Record && HasFunctions(*field.table));
+    });
+}
+
 // All fields at once. What stands behind a text's terminator comes along, where nobody who writes looks.
 void TakeWhole(const Table& table, const std::byte* caller, std::byte* local) noexcept {
     const auto word = record::Load<std::uint32_t>(local);
@@ -51,6 +60,12 @@ std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t buf
     if (word >= kWord || how == Stride::SizeWordByField) return word;
     LogSizeWord();
     return 0;
+}
+
+bool VersionedRecords::AreReadInPlace(const Table& table, Stride how, std::uint32_t stride) noexcept {
+    constexpr std::uint32_t kLarge = 4096; // below it a second record costs less than a look at all rows
+    return how == Stride::SizeWord && stride == table.size && stride >= kLarge && table.hasDefaults
+           && !table.hasPointers && !HasFunctions(table);
 }
 
 void VersionedRecords::Prepare(std::byte* local) const noexcept {

@@ -18,6 +18,11 @@ class VersionedRecords {
     VersionedRecords(const record::Table& table, Stride how, std::uint32_t stride) noexcept
         : table_(table), how_(how), stride_(stride) {}
 
+    // Whether records of this stride are read where they stand, once cleared, with the same result as through a local
+    // one: they are large, have this library's own layout and no pointers of the caller's, and no row's function can
+    // end the call and leave one as it was.
+    static bool AreReadInPlace(const record::Table& table, Stride how, std::uint32_t stride) noexcept;
+
     // Makes the local record as reading finds it: clear, with its size words, and with the pointers of the caller's
     // record and the room behind them. What else the caller's record holds never shows through.
     void Start(const std::byte* caller, std::byte* local) const noexcept;
