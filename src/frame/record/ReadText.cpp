@@ -15,18 +15,20 @@ using json::Value;
 // A value as a document of its own, which lies in this room when it is a short list of scalars, as most are.
 struct ShortList {
     static constexpr std::uint32_t kMost = 48;
-    Value elements[kMost];
+    alignas(Value) std::byte bytes[kMost * sizeof(Value)]; // left uninitialised on purpose
+
+    Value* elements() noexcept { return reinterpret_cast<Value*>(bytes); }
 };
 const char* ReadShortList(const char* p, Value& value, ShortList& room, const TextCall& text) noexcept {
     std::uint32_t count = 0;
     json::Step step = json::FirstEntry(p, text.end, ']');
     while (step.more) {
         if (count == ShortList::kMost || *step.at == '{' || *step.at == '[') return nullptr;
-        p = json::ReadScalar(step.at, text.end, text.arena(), &room.elements[count++]);
+        p = json::ReadScalar(step.at, text.end, text.arena(), room.elements() + count++);
         if (p == nullptr) return nullptr;
         step = json::NextEntry(p, text.end, ']');
     }
-    value = Value::OfArray(room.elements, count);
+    value = Value::OfArray(room.elements(), count);
     return step.at;
 }
 const char* ReadDocument(const char* p, Value& value, ShortList& room, const TextCall& text) noexcept {
@@ -54,6 +56,28 @@ bool Stands(const char* keyText, std::size_t size, const char* p, const char* en
     return static_cast<std::size_t>(end - p) >= size && std::memcmp(keyText, p, size) == 0;
 }
 
+// The value behind `, "Key" : ` when the node's key stands so at `p`, as nearly all devices write it: one look tells of
+// all that lies between two values. Null for any other text.
+inline const char* ValueOfNext(const Table& table, const Node& node, const char* p, const char* end) noexcept {
+    const char* const ours = table.keyTexts + node.quotedAt - 2;
+    const std::size_t size = node.keySize + std::size_t{7};
+#if ORRERY_SSE2
+    static_assert(kKeyTextSlack >= 32);
+    if (size > 32 || end - p <= 32) [[unlikely]]
+        return nullptr;
+    const auto same = [&](std::size_t at) {
+        const __m128i left = _mm_loadu_si128(reinterpret_cast<const __m128i*>(ours + at));
+        const __m128i right = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + at));
+        return std::uint64_t{static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(left, right)))};
+    };
+    if ((~(same(0) | same(16) << 16) & ((std::uint64_t{1} << size) - 1)) != 0) return nullptr;
+#else
+    if (end - p <= static_cast<std::ptrdiff_t>(size) || std::memcmp(ours, p, size) != 0) return nullptr;
+#endif
+    p += size;
+    return static_cast<unsigned char>(*p) > ' ' && *p != '/' ? p : nullptr;
+}
+
 const char* ReadNamedText(const Table& table, const char* p, std::byte* at, TextCall& text,
                           std::string_view memberName) noexcept;
 
@@ -69,14 +93,19 @@ const char* ReadElements(const Field& field, int level, const char* p, std::byte
     const bool innermost = level + 1 == field.rank;
     const std::uint32_t stride = StrideOf(field, level);
     const std::uint32_t room = field.dims[level];
+    const bool areNumbers = innermost && field.kind == Kind::Int && field.cell == Cell::I32;
     json::Step step = json::FirstEntry(p, text.end, ']');
     while (step.more) {
         p = step.at;
         if (counts.used < room && !text.call.refused) {
             std::byte* const slot = at + std::size_t{counts.used++} * stride;
             const bool isContainer = *p == '{' || *p == '[';
+            std::int32_t number;
             if (innermost && isContainer && field.kind == Kind::Record) {
                 p = ReadNamedText(*field.table, p, slot, text, {});
+            } else if (const char* after; areNumbers && (after = json::ReadShortInt(p, text.end, number)) != nullptr) {
+                Store(slot, number);
+                p = after;
             } else if (innermost) {
                 Value value;
                 p = ReadAny(p, value, text);
@@ -323,6 +352,7 @@ const char* Members::ReadAt(const Node& node, const char* p) noexcept {
 const char* Members::Read(const char* p) noexcept {
     const char* const end = text_.end;
     const char* const object = p;
+    const char* behind = nullptr; // the value before
     json::Step step = json::FirstEntry(p, end, '}');
     while (step.more) {
         p = step.at;
@@ -340,18 +370,22 @@ const char* Members::Read(const char* p) noexcept {
         }
         p = json::ValueBehindKey(p, end);
         if (p == nullptr) return nullptr;
-        if (node == nullptr) {
-            p = json::SkipValue(p, end, text_.arena());
-        } else if (node->shared) {
-            p = ReadShared(node, p);
-        } else {
-            if (!See(*node)) return nullptr;
-            next_ = node + 1;
-            const char* const after = ReadUsual(*node, p);
-            p = after != nullptr ? after : ReadAt(*node, p);
-        }
-        if (p == nullptr) return nullptr;
-        step = json::NextEntry(p, end, '}');
+        do {
+            if (node == nullptr) {
+                p = json::SkipValue(p, end, text_.arena());
+            } else if (node->shared) {
+                p = ReadShared(node, p);
+            } else {
+                if (!See(*node)) return nullptr;
+                next_ = node + 1;
+                const char* const after = ReadUsual(*node, p);
+                p = after != nullptr ? after : ReadAt(*node, p);
+            }
+            if (p == nullptr) return nullptr;
+            behind = p;
+            node = next_;
+        } while (node != end_ && (p = ValueOfNext(table_, *node, p, end)) != nullptr);
+        step = json::NextEntry(behind, end, '}');
     }
     for (const Node* node = tracks_ ? first_ : next_; node < lastAbsent_; ++node) {
         if (node->needsAbsent && !HasSeen(*node)) ReadAbsent(*node);
@@ -361,8 +395,28 @@ const char* Members::Read(const char* p) noexcept {
 
 // ---- Records -------------------------------------------------------------------------------------------------------
 
+// A point, a box or a colour: as many whole numbers as the record has. Null for anything else.
+const char* ReadNumbers(const Table& table, const char* p, std::byte* record, const TextCall& text) noexcept {
+    std::int32_t numbers[kMostInTuple];
+    const Node* const nodes = table.nodes + table.self.first;
+    const std::uint32_t wanted = table.self.count;
+    std::uint32_t count = 0;
+    json::Step step = json::FirstEntry(p, text.end, ']');
+    while (step.more) {
+        if (count == wanted || nodes[count].readPlainly != Plainly::Number) return nullptr;
+        p = json::ReadShortInt(step.at, text.end, numbers[count++]);
+        if (p == nullptr) return nullptr;
+        step = json::NextEntry(p, text.end, ']');
+    }
+    if (step.at == nullptr || count != wanted) return nullptr;
+    for (std::uint32_t i = 0; i < wanted; ++i)
+        Store(record + nodes[i].offset, numbers[i]);
+    return step.at;
+}
+
 // The elements are few, and their number has to be known before the first is read.
 const char* ReadTuple(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+    if (const char* const after = ReadNumbers(table, p, record, text)) return after;
     Value values[kMostInTuple];
     const std::uint32_t wanted = table.self.count;
     std::uint32_t count = 0;
