@@ -28,9 +28,56 @@ void InsertionSort(Member* first, Member* last) noexcept {
     }
 }
 
+// Objects of devices that keep an order of their own have a few dozen members: where these belong is found by their
+// prefixes alone, for the most part, and each moves once.
+constexpr std::uint32_t kFew = 40;
+
+struct Place {
+    std::uint64_t prefix; // of the member's key
+    std::uint32_t index;  // the member
+};
+static_assert(sizeof(Place) <= sizeof(Member) && alignof(Place) <= alignof(Member));
+
+std::uint32_t SortFew(Member* members, Place* places, std::uint32_t count) noexcept {
+    for (std::uint32_t next = 0; next < count; ++next) {
+        const std::uint64_t prefix = KeyPrefix(members[next]);
+        Place* hole = places + next;
+        for (; hole != places; --hole) {
+            const Place before = hole[-1];
+            if (before.prefix < prefix) break;
+            if (before.prefix == prefix && CompareKeys(members[before.index].key(), members[next].key()) <= 0) break;
+            *hole = before;
+        }
+        *hole = {prefix, next};
+    }
+    for (std::uint32_t first = 0; first < count; ++first) {
+        if (places[first].index == first) continue;
+        const Member held = members[first];
+        std::uint32_t to = first;
+        for (;;) {
+            const std::uint32_t from = places[to].index;
+            places[to].index = to;
+            if (from == first) break;
+            members[to] = members[from];
+            to = from;
+        }
+        members[to] = held;
+    }
+    std::uint32_t kept = 0;
+    for (std::uint32_t index = 0; index < count; ++index) {
+        const bool replaced = index + 1 < count && places[index].prefix == places[index + 1].prefix
+                              && members[index].key() == members[index + 1].key();
+        if (replaced) continue;
+        if (kept != index) members[kept] = members[index];
+        ++kept;
+    }
+    return kept;
+}
+
 } // namespace
 
 std::uint32_t SortMembers(Member* members, Member* scratch, std::uint32_t count) noexcept {
+    if (count <= kFew) return SortFew(members, reinterpret_cast<Place*>(scratch), count);
     const std::size_t total = count;
     for (std::size_t run = 0; run < total; run += kRun) {
         InsertionSort(members + run, members + std::min(run + kRun, total));

@@ -101,8 +101,10 @@ const Value& Value::operator[](std::string_view key) const noexcept {
     if (type_ != Type::Object) return kNull;
     const Member* const members = payload_.members;
     if (size_ <= kLinearSearchLimit) {
+        const std::uint64_t prefix = KeyPrefix(key);
         for (const Member *member = members, *end = members + size_; member != end; ++member) {
-            if (member->keySize == key.size() && member->key() == key) return member->value;
+            if (member->keySize != key.size() || KeyPrefix(*member) != prefix) continue;
+            if (key.size() <= 8 || member->key() == key) return member->value;
         }
         return kNull;
     }

@@ -7,7 +7,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <map>
 #include <random>
+#include <string>
 
 namespace orrery::json {
 namespace {
@@ -409,6 +411,26 @@ TEST(Reader, KeepsMembersInByteOrderAndTheLastOfDuplicates) {
     EXPECT_EQ(Read(R"({"abcdefgi":1,"abcdefgh":2})"), R"({ "abcdefgh" : 2, "abcdefgi" : 1 })");
     EXPECT_EQ(Read(R"({"abcdefghj":1,"abcdefghi":2})"), R"({ "abcdefghi" : 2, "abcdefghj" : 1 })");
     EXPECT_EQ(Read(R"({"\u0063hannel10":1,"\u0063hannel1":2,"channel1":3})"), R"({ "channel1" : 3, "channel10" : 1 })");
+}
+
+// However many members there are, and however many of them agree in their first eight bytes.
+TEST(Reader, SortsAnyNumberOfMembers) {
+    std::mt19937_64 random(46);
+    for (std::size_t count : {2u, 8u, 9u, 38u, 39u, 40u, 41u, 42u, 64u, 200u}) {
+        for (const char* const stem : {"", "a", "channel", "channel ", "a channel's name"}) {
+            std::map<std::string, std::size_t> due;
+            std::string text = "{";
+            for (std::size_t i = 0; i < count; ++i) {
+                const std::string key = stem + std::to_string(random() % (2 * count));
+                due[key] = i;
+                text += (i == 0 ? "\"" : ",\"") + key + "\":" + std::to_string(i);
+            }
+            std::string sorted = "{ ";
+            for (const auto& [key, i] : due)
+                sorted += (sorted.size() == 2 ? "\"" : ", \"") + key + "\" : " + std::to_string(i);
+            EXPECT_EQ(Read(text + "}"), sorted + " }");
+        }
+    }
 }
 
 TEST(Reader, SortsInnerObjectsWithoutForgettingTheOuterOrder) {
