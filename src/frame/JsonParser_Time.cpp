@@ -35,18 +35,20 @@ void Store(void* record, const std::int32_t* fields, int count) noexcept {
     std::memcpy(record, fields, static_cast<std::size_t>(count) * sizeof *fields);
 }
 
-// Nearly every device writes sections with two digits a field and a flag of one.
+// Nearly every device writes sections with two digits a field and a flag of one, or of two.
 bool ReadUsualSection(std::string_view text, CFG_TIME_SECTION* section) noexcept {
-    if (text.size() != 19) return false;
-    const char* const t = text.data();
+    if (text.size() != 19 && text.size() != 20) return false;
+    const std::size_t more = text.size() - 19;
+    const char* const t = text.data() + more;
     std::uint64_t bad = 0;
     const auto begin = scan::ReadClock(t + 2, bad);
     const auto end = scan::ReadClock(t + 11, bad);
     if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
+    if (more != 0 && !scan::IsDigit(text[0])) return false;
     // Each straight into its place: gathered first, they would be copied by wider loads that wait for the stores.
     auto* const at = reinterpret_cast<std::byte*>(section);
     const auto put = [at](std::size_t field, std::int32_t number) { std::memcpy(at + 4 * field, &number, 4); };
-    put(0, t[0] - '0');
+    put(0, t[0] - '0' + (more != 0 ? 10 * (text[0] - '0') : 0));
     put(1, begin.hour);
     put(2, begin.minute);
     put(3, begin.second);

@@ -4,6 +4,7 @@
 #include "frame/record/SharedCodecs.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace orrery {
@@ -21,11 +22,22 @@ struct MaskBits {
 };
 constexpr MaskBits kMaskBits[] = {{0x01, 0x02}, {0x02, 0x04}, {0x04, 0x01}, {0x08, 0x10}, {0x40, 0x40}};
 
-constexpr std::int32_t ToRecord(std::int32_t text) {
+constexpr std::uint32_t RecordBits(std::uint32_t text) {
     std::uint32_t mask = 0;
     for (const MaskBits& bits : kMaskBits)
-        mask |= (static_cast<std::uint32_t>(text) & bits.text) != 0 ? bits.record : 0;
-    return static_cast<std::int32_t>(mask);
+        mask |= (text & bits.text) != 0 ? bits.record : 0;
+    return mask;
+}
+// A week has 42 sections: all masks there are, once.
+constexpr std::uint32_t kTextBits = 0x7F;
+constexpr auto kRecordBits = [] {
+    std::array<std::uint8_t, kTextBits + 1> masks{};
+    for (std::uint32_t text = 0; text <= kTextBits; ++text)
+        masks[text] = static_cast<std::uint8_t>(RecordBits(text));
+    return masks;
+}();
+constexpr std::int32_t ToRecord(std::int32_t text) {
+    return kRecordBits[static_cast<std::uint32_t>(text) & kTextBits];
 }
 constexpr std::int32_t ToText(std::int32_t record) {
     std::uint32_t mask = 0;
@@ -42,10 +54,11 @@ void ReadDay(const Value& list, std::byte* day) noexcept {
     const auto texts = list.elements();
     for (std::size_t i = 0; i < std::min<std::size_t>(texts.size(), ORRERY_DAY_SECTIONS); ++i) {
         if (!texts[i].isString()) continue;
-        CFG_TIME_SECTION section{};
-        JsonParser::GetTimeSection(texts[i], &section);
-        section.dwMask = ToRecord(section.dwMask);
-        Store(day + i * sizeof section, section);
+        // Straight into its place: made elsewhere, it would be copied by wider loads that wait for the stores.
+        std::byte* const at = day + i * sizeof(CFG_TIME_SECTION);
+        Store(at, CFG_TIME_SECTION{});
+        JsonParser::GetTimeSection(texts[i], reinterpret_cast<CFG_TIME_SECTION*>(at));
+        SET_MEMBER(at, CFG_TIME_SECTION, dwMask, ToRecord(MEMBER(at, CFG_TIME_SECTION, dwMask)));
     }
 }
 

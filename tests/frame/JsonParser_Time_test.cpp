@@ -50,6 +50,13 @@ TEST(TimeSection, IsReadInFieldOrder) {
     EXPECT_EQ(section.nEndSec, 7);
     EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("4095 00:00:00-24:00:00"), &section));
     EXPECT_TRUE(section == (CFG_TIME_SECTION{4095, 0, 0, 0, 24, 0, 0}));
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("64 08:09:10-17:30:59"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{64, 8, 9, 10, 17, 30, 59}));
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("-7 08:09:10-17:30:59"), &section));
+    EXPECT_TRUE(section == (CFG_TIME_SECTION{-7, 8, 9, 10, 17, 30, 59}));
+    EXPECT_TRUE(JsonParser::GetTimeSection(StringValue(" 1 08:00:00-17:30:00"), &section));
+    EXPECT_TRUE(section == kWorkday);
+    EXPECT_FALSE(JsonParser::GetTimeSection(StringValue("x1 08:00:00-17:30:00"), &section));
     EXPECT_TRUE(JsonParser::GetTimeSection(StringValue(" 1 8:0:0-17:30:0"), &section));
     EXPECT_TRUE(section == kWorkday);
     EXPECT_TRUE(JsonParser::GetTimeSection(StringValue("1 08:00:00-17:30:00 and more"), &section));
