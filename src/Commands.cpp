@@ -286,7 +286,10 @@ constexpr Command kCommands[] = {
     Reply("OSDManager.getCaps", kOsdCaps, kCaps.Null(NullValue::OneRecord)),
     Reply("OSDManager.getCustomCaps", kOsdCustomCaps, kCaps.Null(NullValue::OneRecord)),
     Both("DspEncodeCap", kDspEncodeCap,
-         kParse.From(Source::Top, "DspEncodeCap").Result(ResultTest::NotTested).Null(NullValue::OneRecord),
+         kParse.From(Source::Top, "DspEncodeCap")
+             .Result(ResultTest::NotTested)
+             .Null(NullValue::OneRecord)
+             .Fills(offsetof(CFG_DSP_ENCODE_CAP, byImageSizeAssi), sizeof(CFG_DSP_ENCODE_CAP::byImageSizeAssi)),
          kPack.Under("\"DspEncodeCap\" : ")),
 
     // Video input

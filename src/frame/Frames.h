@@ -116,6 +116,9 @@ struct ParseFrame {
     // Chooses the shape that is taken, where something else than the value's own type settles it.
     Take (*takesBy)(const json::Value& root) = nullptr;
     bool looksBeside = false; // it looks at keys beside the value only
+    // Bytes of the record that the table's function behind the rows fills, whatever has been read.
+    std::uint32_t filledAt = 0;
+    std::uint32_t filledSize = 0;
     // Tells the reply's length after one record has been read, where it is none of the usual ones.
     std::uint32_t (*lengthBy)(const std::byte* record) = nullptr;
 
@@ -164,6 +167,11 @@ struct ParseFrame {
     constexpr ParseFrame Accepts(bool (*test)(const std::byte*, std::uint32_t)) const {
         return With(*this, &ParseFrame::accepts, test);
     }
+    // Where they are most of a large record, they are cleared only when the call fails.
+    constexpr ParseFrame Fills(std::size_t at, std::size_t size) const {
+        return With(With(*this, &ParseFrame::filledAt, static_cast<std::uint32_t>(at)), &ParseFrame::filledSize,
+                    static_cast<std::uint32_t>(size));
+    }
     constexpr ParseFrame OnceParsed(void (*function)(std::byte*)) const {
         return With(*this, &ParseFrame::parsed, function);
     }
@@ -180,7 +188,10 @@ constexpr ParseFrame Consistent(const ParseFrame& frame) {
     if (frame.stride != Stride::Record && reaches) a_word_that_does_not_go_with_a_size_word();
     const bool isNamed = frame.source == Source::Params || frame.source == Source::Top;
     if (isNamed != (frame.name[0] != '\0') || (frame.exactSize && frame.anySize)
-        || (frame.length == ReplyLength::Told) != (frame.lengthBy != nullptr)) {
+        || (frame.length == ReplyLength::Told) != (frame.lengthBy != nullptr)
+        || (frame.filledSize != 0
+            && (frame.clearing != Clearing::Buffer || frame.take != Take::One || frame.anySize
+                || frame.nullValue != NullValue::OneRecord || frame.takesNoJson))) {
         words_of_a_frame_that_contradict_each_other();
     }
     return frame;

@@ -17,7 +17,14 @@ void SetLength(const ParseRequest& request, std::uint32_t length) noexcept {
 }
 
 void Clear(const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride) noexcept {
-    if (frame.clearing == Clearing::Buffer) std::memset(request.buffer, 0, request.bufferSize);
+    auto* const buffer = static_cast<std::byte*>(request.buffer);
+    const std::uint32_t behind = frame.filledAt + frame.filledSize;
+    if (frame.clearing == Clearing::Buffer && frame.filledSize == 0) {
+        std::memset(buffer, 0, request.bufferSize);
+    } else if (frame.clearing == Clearing::Buffer) {
+        std::memset(buffer, 0, frame.filledAt);
+        std::memset(buffer + behind, 0, request.bufferSize - behind);
+    }
     if (frame.clearing == Clearing::Record) std::memset(request.buffer, 0, stride);
 }
 
@@ -131,7 +138,10 @@ Outcome ParseFamily(const record::Table& table, const ParseFrame& frame, const P
     if (frame.zeroesLength) SetLength(request, 0);
     Clear(frame, request, stride);
     if (const auto read = ParseFamilyText(table, frame, request, stride)) return *read;
-    return ParseFamilyDocument(table, frame, request, stride);
+    const Outcome outcome = ParseFamilyDocument(table, frame, request, stride);
+    const bool isRead = outcome == Outcome::Done || outcome == Outcome::RowRefused;
+    if (frame.filledSize != 0 && !isRead) std::memset(buffer + frame.filledAt, 0, frame.filledSize);
+    return outcome;
 }
 
 Outcome ParseGeneric(const record::Table& table, const GenericFrame& frame, const ParseRequest& request) noexcept {

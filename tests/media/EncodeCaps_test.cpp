@@ -249,6 +249,24 @@ TEST(DspEncodeCap, WithoutAnythingTheListsEndAtOnce) {
     }
 }
 
+// The lists of sizes are cleared only when nothing is read; what is behind the record, always.
+TEST(DspEncodeCap, AFailedCallLeavesAClearBuffer) {
+    constexpr std::size_t kMore = 24;
+    Records<CFG_DSP_ENCODE_CAP> failed(1, kMore, 0xCD);
+    EXPECT_EQ(
+        CLIENT_ParseData("DspEncodeCap", R"({"DspEncodeCap":{"ImageSize":[1]})", failed.data(), failed.size(), nullptr),
+        0);
+    EXPECT_TRUE(failed.isAll(0));
+    Records<CFG_DSP_ENCODE_CAP> read(1, kMore, 0xCD);
+    EXPECT_EQ(
+        CLIENT_ParseData("DspEncodeCap", R"({"DspEncodeCap":{"ImageSize":[1]}})", read.data(), read.size(), nullptr),
+        1);
+    EXPECT_EQ(read[0].byImageSize[0], 1);
+    EXPECT_EQ(read[0].dwImageSizeMask, 0u);
+    for (std::size_t i = 0; i < kMore; ++i)
+        EXPECT_EQ(read.data()[sizeof(CFG_DSP_ENCODE_CAP) + i], 0);
+}
+
 TEST(DspEncodeCap, ListsEndAtTheirArrays) {
     const std::string many = Times(257, "4");
     const auto cap =
