@@ -96,14 +96,15 @@ class Table {
 
 // Cost per byte of a short text to that of a long one: 1 is flat, below 1 length costs extra.
 inline constexpr double kFlat = 1 / 1.5;
+inline constexpr double kFlatLongest = 1 / 1.3;
 
 template <class Short, class Long>
 void Flat(const Table& table, const std::string& name, std::size_t variants, double shortBytes, double longBytes,
-          Short shortCall, Long longCall) {
+          Short shortCall, Long longCall, double bar = kFlat) {
     if (!table.Wants(name)) return;
     Ratio r = table.Compare(variants, longCall, shortCall);
     r.ratio *= longBytes / shortBytes;
-    Table::Print(name, r, kFlat);
+    Table::Print(name, r, bar);
 }
 
 inline double MeanSize(const std::vector<std::string>& texts) {

@@ -107,7 +107,7 @@ void Lengths(const Table& table) {
         if (!table.Wants(std::string("flat.reader.") + name)) continue;
         const Texts longer = TextsOfSize(static_cast<std::size_t>(size), kVariants);
         Flat(table, std::string("flat.reader.") + name, kVariants, MeanSize(base), MeanSize(longer), OrreryReader{base},
-             OrreryReader{longer});
+             OrreryReader{longer}, size == 10000000 ? kFlatLongest : kFlat);
     }
     auto shortAlarm = MakeLongAlarmBench(3500, kVariants);
     for (const auto& [name, size] : {std::pair{"35KB", 35000}, {"350KB", 350000}}) {
@@ -148,6 +148,8 @@ void RuleCounts(const Table& table) {
 // As many calls on two threads as each does alone, to what one does alone in the same time: 2 is perfect.
 template <class Make, class Call>
 void Threads(const Table& table, const std::string& name, Make make, Call call) {
+    if (!table.Wants(name)) return;
+    constexpr double kBar = 1.95;
     auto one = make(), two = make();
     const auto run = [&](auto& bench, std::size_t count) {
         auto bound = [&](std::size_t i) { return call(bench, i); };
@@ -166,7 +168,7 @@ void Threads(const Table& table, const std::string& name, Make make, Call call) 
         together.push_back((WallSeconds() - start) / static_cast<double>(count));
         ratios.push_back(2 * alone.back() / together.back());
     }
-    Table::Print(name, {Median(ratios), Median(together), Median(alone)}, 0);
+    Table::Print(name, {Median(ratios), Median(together), Median(alone)}, kBar);
 }
 
 void HeapLine(const std::string& name, const HeapUse& use, bool mustBeNone) {
@@ -291,10 +293,14 @@ void PrintTables(bool quick, const std::string& only) {
     HotLines(table, alarm, encode, rules, junction, manyEvents);
     Lengths(table);
     RuleCounts(table);
-    if (!only.empty()) return;
-    const auto make = [] { return MakeAlarmBench(3); };
-    Threads(table, "threads.2_to_1.Alarm.parse", make, [](AlarmBench& bench, std::size_t i) { return bench.Parse(i); });
-    Threads(table, "threads.2_to_1.Alarm.pack", make, [](AlarmBench& bench, std::size_t i) { return bench.Pack(i); });
+    const auto makeAlarm = [] { return MakeAlarmBench(3); };
+    const auto makeEncode = [] { return MakeEncodeBench(3); };
+    const auto parse = [](auto& bench, std::size_t i) { return bench.Parse(i); };
+    const auto pack = [](auto& bench, std::size_t i) { return bench.Pack(i); };
+    Threads(table, "threads.2_to_1.Alarm.parse", makeAlarm, parse);
+    Threads(table, "threads.2_to_1.Alarm.pack", makeAlarm, pack);
+    Threads(table, "threads.2_to_1.Encode.parse", makeEncode, parse);
+    Threads(table, "threads.2_to_1.Encode.pack", makeEncode, pack);
 }
 
 } // namespace orrery::bench
