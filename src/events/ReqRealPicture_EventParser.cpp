@@ -48,9 +48,7 @@ void CReqRealPicture::parseAlarmEvent(const Value& events, Circumstances& around
 namespace {
 
 void LogMissingBlock(const record::Field& field) noexcept {
-    if (field.failure == nullptr) return;
-    LogSetPosition("Events", 0, E_LOG_LEVEL_ERROR);
-    LogTrace(E_LOG_CODE_NONE, "%s", field.failure);
+    if (field.failure != nullptr) ORRERY_EVENT_ERROR("%s", field.failure);
 }
 
 } // namespace

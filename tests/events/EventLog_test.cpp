@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <set>
+
 namespace orrery::test {
 namespace {
 
@@ -71,6 +73,37 @@ TEST(EventLog, TellsOfEventsForWhichThereIsNoMemory) {
         EXPECT_LT(delivered, 20) << code;
         EXPECT_EQ(log.count(E_LOG_LEVEL_ERROR, line), 20 - delivered) << code;
     }
+}
+
+// Where the lines come from, as a client's log shows it.
+class Sources : public LogLines {
+  public:
+    void SetPosition(const char* file, int line, E_LOG_LEVEL level) override {
+        files.insert(file);
+        EXPECT_GT(line, 0);
+        LogLines::SetPosition(file, line, level);
+    }
+    std::set<std::string> files;
+};
+
+TEST(EventLog, NamesOneSourceForAllLines) {
+    std::string objects = "[{}";
+    for (int i = 1; i < 2000; ++i)
+        objects += ",{}";
+    objects += "]";
+    const std::string text = R"({"Event":[{"Code":"TrafficJam","Data":{"TrafficCar":{},"CommInfo":{"Drivers":)"
+                             + objects + R"(}}},{"Code":"ObjectDetection","Data":{"Objects":)" + objects + "}}]}";
+    Sources log;
+    HeapWatch watch;
+    const EventVisitor ignore = [](const Delivered&) {};
+    for (std::size_t n = 1; n < 20; ++n) {
+        watch.FailOnly(n);
+        CLIENT_ParseAnalyzerEventData(text.c_str(), 0, VisitEvent, const_cast<EventVisitor*>(&ignore));
+        watch.FailNone();
+    }
+    EXPECT_GE(log.count(E_LOG_LEVEL_ERROR, "New pstDriversInfo Failed"), 1);
+    EXPECT_GE(log.count(E_LOG_LEVEL_ERROR, "New pstObjectInfo Failed"), 1);
+    EXPECT_THAT(log.files, ElementsAre("ReqRealPicture_EventParser"));
 }
 
 } // namespace
