@@ -2,6 +2,7 @@
 
 #include "bench/Calls.h"
 #include "bench/Events.h"
+#include "bench/Explains.h"
 #include "bench/Heap.h"
 #include "bench/Hot.h"
 #include "bench/Members.h"
@@ -290,6 +291,7 @@ void PrintTables(bool quick, const std::string& only) {
         MemberBench bench(row);
         Members(table, bench);
     }
+    PrintExplains(table, !only.empty());
     HotLines(table, alarm, encode, rules, junction, manyEvents);
     Lengths(table);
     RuleCounts(table);

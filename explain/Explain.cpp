@@ -14,6 +14,7 @@
 #include "orrery/analyse_rules.h"
 
 #include <algorithm>
+#include <functional>
 #include <new>
 
 namespace orrery::explain {
@@ -284,7 +285,6 @@ void Text::Rules() {
         return;
     }
     walk_.AlsoReads({"Type", "Id", "Class"});
-    std::vector<std::string_view> names;
     std::uint32_t at = 0;
     for (const Value& rule : rules.elements()) {
         const Path inner = path.Element(at);
@@ -302,14 +302,11 @@ void Text::Rules() {
         if (type.isNull() || body == nullptr || !body->isRead) {
             std::string message =
                 type.isNull() ? "the rule names no \"Type\"" : "no rule is of the type " + Shown(type);
-            if (names.empty())
-                for (const RuleBody& known : RuleBodies())
-                    names.push_back(RuleNameOf(static_cast<std::int32_t>(known.code), false));
-            const auto near = type.isString() ? Nearest(type.asString(), names) : std::vector<std::string_view>{};
-            if (!near.empty()) message += "; the nearest is " + Quoted(near.front());
+            const std::string_view near = type.isString() ? NearestRule(type.asString()) : std::string_view();
+            if (!near.empty()) message += "; the nearest is " + Quoted(near);
             Refuses(ORRERY_FINDING_UNKNOWN_ITEM, type.isNull() ? rule : type, inner.Member("Type"),
                     message + ": all rules are refused");
-            if (!near.empty()) explanation_.findings.back().nearest = near.front();
+            explanation_.findings.back().nearest = near;
             continue;
         }
         walk_.Top(*body->table, rule, inner, {}, false);
@@ -436,8 +433,8 @@ void Text::Finish() {
         finding.length = whole_.size() - nul;
     }
     if (document_.arena.failed()) throw std::bad_alloc();
-    std::stable_sort(findings.begin(), findings.end(),
-                     [](const Finding& left, const Finding& right) { return left.offset < right.offset; });
+    if (!std::ranges::is_sorted(findings, std::less{}, &Finding::offset)) // a look costs less than a sort
+        std::ranges::stable_sort(findings, std::less{}, &Finding::offset);
 }
 
 Explanation Text::Explain() {

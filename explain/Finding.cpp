@@ -2,6 +2,7 @@
 
 #include "frame/json/TextWriter.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -9,27 +10,67 @@ namespace orrery::explain {
 
 using json::Type;
 
-std::string TextOf(const Path& path) {
-    std::string text;
-    std::vector<const Path*> steps;
-    for (const Path* step = &path; step->up != nullptr; step = step->up)
-        steps.push_back(step);
-    for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
-        if ((*step)->isElement) {
-            text += '[' + std::to_string((*step)->index) + ']';
-            continue;
-        }
-        if (!text.empty()) text += '.';
-        // A key of a device may hold anything; what would read as another path stands in quotes.
-        const std::string_view key = (*step)->key;
-        bool isPlain = !key.empty();
-        for (const char c : key)
-            isPlain = isPlain && static_cast<unsigned char>(c) > ' ' && c != '.' && c != '[' && c != '"' && c != '\\';
-        if (isPlain)
-            text += key;
-        else
-            text += Quoted(key);
+namespace {
+
+// A key of a device may hold anything; what would read as another path stands in quotes.
+constexpr std::array<bool, 256> kPlain = [] {
+    std::array<bool, 256> plain{};
+    for (unsigned c = ' ' + 1; c < plain.size(); ++c)
+        plain[c] = c != '.' && c != '[' && c != '"' && c != '\\';
+    return plain;
+}();
+
+bool IsPlain(std::string_view key) {
+    return !key.empty() && std::ranges::all_of(key, [](char c) { return kPlain[static_cast<unsigned char>(c)]; });
+}
+
+void Append(std::string& text, const Path& step) {
+    if (step.isElement) {
+        std::array<char, 12> room;
+        const auto end = std::to_chars(room.data() + 1, room.data() + room.size() - 1, step.index).ptr;
+        room[0] = '[';
+        *end = ']';
+        text.append(room.data(), end + 1);
+        return;
     }
+    if (!text.empty()) text += '.';
+    if (IsPlain(step.key))
+        text += step.key;
+    else
+        text += Quoted(step.key);
+}
+
+} // namespace
+
+std::string TextOf(const Path& path) {
+    std::array<const Path*, 32> nearest; // nearly all paths are shorter
+    std::vector<const Path*> others;
+    std::size_t count = 0, size = 0;
+    for (const Path* step = &path; step->up != nullptr; step = step->up) {
+        if (count < nearest.size())
+            nearest[count] = step;
+        else
+            others.push_back(step);
+        ++count;
+        size += step->isElement ? 4 : step->key.size() + 1;
+    }
+    std::string text;
+    text.reserve(size);
+    while (count > 0) {
+        --count;
+        Append(text, count < nearest.size() ? *nearest[count] : *others[count - nearest.size()]);
+    }
+    return text;
+}
+
+std::string Joined(std::initializer_list<std::string_view> parts) {
+    std::size_t size = 0;
+    for (const std::string_view part : parts)
+        size += part.size();
+    std::string text;
+    text.reserve(size);
+    for (const std::string_view part : parts)
+        text += part;
     return text;
 }
 
@@ -77,7 +118,7 @@ const char* WordOf(int kind) {
 }
 
 std::string FieldName(const record::Table& table, const record::Field& field) {
-    return std::string(table.record) + (field.name[0] == '\0' ? "" : ".") + field.name;
+    return Joined({table.record, field.name[0] == '\0' ? "" : ".", field.name});
 }
 
 const char* TypeName(const json::Value& value) {

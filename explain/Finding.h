@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,7 +36,6 @@ struct Finding {
     bool atKey = false;
     // Only functions could read it: to be tried before it is told.
     bool isTried = false;
-    bool isDropped = false;
     std::uint32_t lost = 0;
     std::uint32_t record = 0; // of the caller's buffer
     std::size_t offset = 0, length = 0;
@@ -46,6 +46,9 @@ struct Finding {
     const record::Table* table = nullptr;
     record::NodeRange range{};
 };
+
+// Parts of a sentence, in one block of memory.
+std::string Joined(std::initializer_list<std::string_view> parts);
 
 const char* WordOf(int kind);
 

@@ -6,7 +6,8 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_map>
+#include <bit>
+#include <functional>
 
 namespace orrery::explain {
 
@@ -36,6 +37,65 @@ constexpr std::array<Byte, 256> kBytes = [] {
     return bytes;
 }();
 
+// What stands in 64 bytes of a document, a bit each.
+#if ORRERY_SSE2
+class Block {
+  public:
+    static constexpr std::size_t kSize = 64;
+
+    // `p` stands outside a string.
+    explicit Block(const char* p) noexcept {
+        constexpr int kCase = 0x20; // '[' and '{', ']' and '}' differ by this bit alone
+        static_assert(('[' | kCase) == '{' && (']' | kCase) == '}');
+        for (unsigned part = 0; part < kSize / 16; ++part) {
+            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + part * 16));
+            const __m128i folded = _mm_or_si128(bytes, _mm_set1_epi8(kCase));
+            const auto take = [part](std::uint64_t& bits, __m128i among, char wanted) {
+                const auto found =
+                    static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(among, _mm_set1_epi8(wanted))));
+                bits |= std::uint64_t{found} << (part * 16);
+            };
+            take(quotes_, bytes, '"');
+            take(escapes_, bytes, '\\');
+            take(colons_, bytes, ':');
+            take(slashes_, bytes, '/');
+            take(opens_, folded, '{');
+            take(closes_, folded, '}');
+        }
+        std::uint64_t inside = quotes_; // and the quotes that open: an odd number of quotes up to here
+        for (unsigned shift = 1; shift < kSize; shift *= 2)
+            inside ^= inside << shift;
+        if (std::popcount(quotes_) % 2 != 0) { // the last string goes on behind the block
+            last_ = kSize - 1 - static_cast<unsigned>(std::countl_zero(quotes_));
+            known_ = (std::uint64_t{1} << last_) - 1;
+        }
+        outside_ = ~inside & known_;
+    }
+
+    // Neither comments nor escapes, and no end of what is open.
+    bool isPlain(std::size_t depth) const noexcept {
+        return (escapes_ & known_) == 0 && (slashes_ & outside_) == 0 && closes() < depth;
+    }
+    std::size_t opens() const noexcept { return Count(opens_ & outside_); }
+    std::size_t closes() const noexcept { return Count(closes_ & outside_); }
+    std::size_t colons() const noexcept { return Count(colons_ & outside_); }
+    // What comes behind the block, and behind the string that reaches over its end.
+    const char* Behind(const char* p, const char* end) const noexcept {
+        return last_ == kSize ? p + kSize : BehindString(p + last_ + 1, end);
+    }
+
+  private:
+    // Most blocks have none, and few processors' compilers may count by an instruction.
+    static std::size_t Count(std::uint64_t bits) noexcept {
+        return bits == 0 ? 0 : static_cast<std::size_t>(std::popcount(bits));
+    }
+
+    std::uint64_t quotes_ = 0, escapes_ = 0, colons_ = 0, slashes_ = 0, opens_ = 0, closes_ = 0;
+    std::uint64_t known_ = ~std::uint64_t{0}, outside_ = 0;
+    std::size_t last_ = kSize;
+};
+#endif
+
 } // namespace
 
 Skimmed Skim(std::string_view text) noexcept {
@@ -44,7 +104,21 @@ Skimmed Skim(std::string_view text) noexcept {
     const char* p = json::SkipBlanksAndComments(begin, end);
     Skimmed skimmed;
     std::size_t depth = 0;
+    [[maybe_unused]] const char* byBytes = p; // up to here byte after byte
     while (p != end) {
+#if ORRERY_SSE2
+        while (depth > 0 && p >= byBytes && static_cast<std::size_t>(end - p) >= Block::kSize) {
+            const Block block(p);
+            if (!block.isPlain(depth)) {
+                byBytes = p + Block::kSize;
+                break;
+            }
+            depth += block.opens() - block.closes();
+            skimmed.members += block.colons();
+            p = block.Behind(p, end);
+        }
+        if (p == end) break;
+#endif
         switch (kBytes[static_cast<unsigned char>(*p)]) {
         case Byte::Quote:
             p = BehindString(p + 1, end);
@@ -123,8 +197,13 @@ class Scan {
     Scan(std::string_view text, Arena& arena, bool hasDuplicates, std::vector<Finding>& findings)
         : begin_(text.data()), end_(begin_ + text.size()), arena_(arena), hasDuplicates_(hasDuplicates),
           findings_(findings) {
-        for (std::size_t i = 0; i < findings.size(); ++i)
-            if (findings[i].at != nullptr) wanted_[findings[i].at].push_back(i);
+        wanted_.reserve(findings.size());
+        for (std::uint32_t i = 0; i < findings.size(); ++i) {
+            if (findings[i].at == nullptr) continue;
+            wanted_.push_back({findings[i].at, i});
+            seen_[BitOf(findings[i].at) / 64] |= std::uint64_t{1} << BitOf(findings[i].at) % 64;
+        }
+        std::ranges::sort(wanted_, std::less{}, &Wanted::value);
     }
 
     void Run(const Value& root);
@@ -137,11 +216,31 @@ class Scan {
         const Value* value;
         std::size_t begin, key, keyEnd;
         bool isObject;
-        std::uint32_t next = 0;
+        std::uint32_t next = 0;  // element; of an object the member that comes next where they come sorted
         std::string_view name{}; // of the member that is being read
         std::size_t nameAt = 0, nameEnd = 0;
         std::vector<Seen> seen{};
+
+        // The member of that name; null when there is none.
+        const Value* Find() {
+            if (value == nullptr || value->type() != Type::Object) return nullptr;
+            const auto members = value->members();
+            if (next < members.size() && members[next].key() == name) return &members[next++].value;
+            const Value& held = (*value)[name];
+            if (&held == &json::kNull) return nullptr;
+            next = static_cast<std::uint32_t>((&held - &members[0].value) / 2) + 1;
+            return &held;
+        }
     };
+
+    struct Wanted {
+        const Value* value;
+        std::uint32_t finding;
+    };
+    // Most values are none of those that are wanted, which one look tells of nearly all.
+    static std::size_t BitOf(const Value* value) {
+        return (reinterpret_cast<std::uintptr_t>(value) / sizeof(Value)) % kSeenBits;
+    }
 
     std::size_t At(const char* p) const { return static_cast<std::size_t>(p - begin_); }
     void Place(const Value* value, std::size_t key, std::size_t keyEnd, std::size_t begin, std::size_t end);
@@ -153,16 +252,17 @@ class Scan {
     Arena& arena_;
     bool hasDuplicates_;
     std::vector<Finding>& findings_;
-    std::unordered_map<const Value*, std::vector<std::size_t>> wanted_;
+    static constexpr std::size_t kSeenBits = 4096;
+    std::array<std::uint64_t, kSeenBits / 64> seen_{};
+    std::vector<Wanted> wanted_; // by their addresses
     std::vector<Open> open_;
 };
 
 void Scan::Place(const Value* value, std::size_t key, std::size_t keyEnd, std::size_t begin, std::size_t end) {
-    if (value == nullptr) return;
-    const auto found = wanted_.find(value);
-    if (found == wanted_.end()) return;
-    for (const std::size_t index : found->second) {
-        Finding& finding = findings_[index];
+    if (value == nullptr || (seen_[BitOf(value) / 64] >> BitOf(value) % 64 & 1) == 0) return;
+    for (auto wanted = std::ranges::lower_bound(wanted_, value, std::less{}, &Wanted::value);
+         wanted != wanted_.end() && wanted->value == value; ++wanted) {
+        Finding& finding = findings_[wanted->finding];
         finding.offset = finding.atKey ? key : begin;
         finding.length = finding.atKey ? keyEnd - key : end - begin;
         finding.valueOffset = begin;
@@ -212,7 +312,7 @@ void Scan::Run(const Value& root) {
     std::size_t key = 0, keyEnd = 0;
     for (;;) {
         // A value.
-        p = json::SkipBlanksAndComments(p, end_);
+        p = json::SkipBlanks(p, end_);
         if (p == end_) return;
         const std::size_t begin = At(p);
         if (*p == '{' || *p == '[') {
@@ -230,7 +330,7 @@ void Scan::Run(const Value& root) {
         }
         // What follows it, up to the next value.
         for (;;) {
-            p = json::SkipBlanksAndComments(p, end_);
+            p = json::SkipBlanks(p, end_);
             if (p == end_) return;
             Open& open = open_.back();
             if (*p == ',') {
@@ -270,12 +370,8 @@ void Scan::Run(const Value& root) {
             open.nameEnd = At(p);
             key = open.nameAt;
             keyEnd = open.nameEnd;
-            current = nullptr;
-            if (open.value != nullptr && open.value->type() == Type::Object) {
-                const Value& held = (*open.value)[open.name];
-                if (&held != &json::kNull) current = &held;
-            }
-            p = json::SkipBlanksAndComments(p, end_);
+            current = open.Find();
+            p = json::SkipBlanks(p, end_);
             if (p != end_ && *p == ':') ++p;
             break;
         }

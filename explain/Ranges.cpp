@@ -7,8 +7,10 @@
 #include "events/TypedText.h"
 #include "explain/headers/HeaderWords.h"
 
-#include <unordered_map>
+#include <bit>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 namespace orrery::explain {
 
@@ -33,11 +35,22 @@ class Ranges {
         for (const TemplateRow& row : Templates())
             Meet(row.table);
         met_.clear();
+        // At the most half of the slots are taken, so that a look for what has none ends soon.
+        slots_.resize(std::bit_ceil(2 * ranges_.size() + 1));
+        for (const auto& [field, range] : ranges_) {
+            std::size_t at = PlaceOf(field);
+            while (slots_[at % slots_.size()].field != nullptr)
+                ++at;
+            slots_[at % slots_.size()] = {field, range};
+        }
+        ranges_.clear();
     }
 
     const Range* Find(const Field& field) const {
-        const auto found = ranges_.find(&field);
-        return found == ranges_.end() ? nullptr : &found->second;
+        for (std::size_t at = PlaceOf(&field);; ++at) {
+            const Slot& slot = slots_[at % slots_.size()];
+            if (slot.field == &field || slot.field == nullptr) return slot.field == nullptr ? nullptr : &slot.range;
+        }
     }
 
   private:
@@ -50,12 +63,21 @@ class Ranges {
             const bool isNumber = field.kind == Kind::Int || field.kind == Kind::UInt || field.kind == Kind::Real;
             if (words == nullptr || !isNumber || !field.readable) continue;
             const headers::Member* const member = words->Find(field.name);
-            if (member != nullptr && member->hasRange) ranges_.emplace(&field, Range{member->low, member->high});
+            if (member != nullptr && member->hasRange) ranges_.emplace_back(&field, Range{member->low, member->high});
         }
     }
 
+    struct Slot {
+        const Field* field = nullptr;
+        Range range{};
+    };
+    std::size_t PlaceOf(const Field* field) const {
+        return (reinterpret_cast<std::uintptr_t>(field) / alignof(Field) * 0x9E3779B97F4A7C15u >> 32) % slots_.size();
+    }
+
     std::unordered_set<const Table*> met_;
-    std::unordered_map<const Field*, Range> ranges_;
+    std::vector<std::pair<const Field*, Range>> ranges_;
+    std::vector<Slot> slots_;
 };
 
 } // namespace

@@ -8,8 +8,12 @@
 #include "frame/ReplySteps.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
+#include <new>
+#include <optional>
+#include <span>
 
 namespace orrery::explain {
 
@@ -144,6 +148,7 @@ class Translation {
         }
         std::uint32_t length = 0;
         const Outcome outcome = RunParse(*command_, {text.c_str(), buffer, static_cast<std::uint32_t>(size), &length});
+        if (outcome == Outcome::OutOfMemory) throw std::bad_alloc();
         hash.Add(&outcome, sizeof outcome);
         hash.Add(&length, sizeof length);
         for (std::uint32_t i = 0; i < records_; ++i)
@@ -167,58 +172,114 @@ class Translation {
     std::uint32_t itemBytes_ = 0;
 };
 
+// What one look at a function settles: the first finding of a kind at a place.
+struct Subject {
+    Finding* finding;
+    std::string name;
+    bool isRead = false;
+};
+
+// By record and key: what is read of one element is read of all.
+std::string NameOf(const Finding& finding, std::string_view text) {
+    std::string name = std::to_string(finding.kind) + finding.field + '|';
+    for (std::size_t i = 0; i < finding.path.size(); ++i) { // without the places in lists
+        name += finding.path[i];
+        if (finding.path[i] != '[') continue;
+        const std::size_t close = finding.path.find(']', i);
+        i = close == std::string::npos ? i : close;
+    }
+    if (finding.kind != ORRERY_FINDING_UNKNOWN_KEY)
+        name += text.substr(finding.valueOffset, finding.valueEnd - finding.valueOffset);
+    return name;
+}
+
+// What stands in the place of a value that some function may read: one of them changes what it reads, be it that the
+// key is there, a number, a text or a list.
+constexpr std::string_view kLoud[] = {"null", "1", "\"1\"", "true", "[1,1,1,1]", "2.5"};
+// A value that is read and says nothing is no mistake: without it, or with a text that nobody knows, all stays the
+// same.
+std::string_view Instead(int kind, std::size_t round) {
+    if (kind == ORRERY_FINDING_UNKNOWN_KEY) return kLoud[round];
+    return kind == ORRERY_FINDING_UNKNOWN_TEXT ? "\"\\u0001 no such text\"" : "null";
+}
+
+// Most of what is tried nothing reads, so it is tried all at once, and only where that changes a record by halves.
+class Tries {
+  public:
+    Tries(const Translation& translation, std::string_view text) : translation_(translation), text_(text) {}
+
+    // The values of the subjects stand one behind the other.
+    void Settle(std::span<Subject> subjects) {
+        if (subjects.empty() || !IsAnyRead(subjects)) return;
+        if (subjects.size() == 1) {
+            subjects.front().isRead = true;
+            return;
+        }
+        Settle(subjects.first(subjects.size() / 2));
+        Settle(subjects.subspan(subjects.size() / 2));
+    }
+
+  private:
+    bool IsAnyRead(std::span<const Subject> subjects) {
+        const bool isKey = std::ranges::any_of(
+            subjects, [](const Subject& each) { return each.finding->kind == ORRERY_FINDING_UNKNOWN_KEY; });
+        for (std::size_t round = 0; round < (isKey ? std::size(kLoud) : 1); ++round) {
+            if (work_ > kMostWork) return false;
+            if (!whole_) whole_ = Translate(std::string(text_));
+            std::string changed;
+            changed.reserve(text_.size());
+            std::size_t at = 0;
+            for (const Subject& subject : subjects) {
+                changed += text_.substr(at, subject.finding->valueOffset - at);
+                changed += Instead(subject.finding->kind, round);
+                at = subject.finding->valueEnd;
+            }
+            changed += text_.substr(at);
+            if (Translate(changed) != *whole_) return true;
+        }
+        return false;
+    }
+    std::uint64_t Translate(const std::string& text) {
+        work_ += text.size();
+        return translation_.Of(text);
+    }
+
+    const Translation& translation_;
+    std::string_view text_;
+    std::optional<std::uint64_t> whole_;
+    std::size_t work_ = 0;
+};
+
 } // namespace
 
 void DropWhatIsRead(const Command* command, std::string_view text, const Value& root, std::uint32_t records,
                     std::vector<Finding>& findings) {
-    const Translation translation(command, root, records);
-    std::map<std::string, bool> known; // by record and key: what is read of one element is read of all
-    std::size_t work = 0;
-    std::uint64_t whole = 0;
-    bool hasWhole = false;
+    std::vector<Subject> all;
+    std::map<std::string, bool> isRead;
     for (Finding& finding : findings) {
         if (!finding.isTried || finding.valueEnd == 0) continue;
-        std::string name = std::to_string(finding.kind) + finding.field + '|';
-        for (std::size_t i = 0; i < finding.path.size(); ++i) { // without the places in lists
-            name += finding.path[i];
-            if (finding.path[i] != '[') continue;
-            const std::size_t close = finding.path.find(']', i);
-            i = close == std::string::npos ? i : close;
-        }
-        const bool ofValue = finding.kind != ORRERY_FINDING_UNKNOWN_KEY;
-        if (ofValue) name += text.substr(finding.valueOffset, finding.valueEnd - finding.valueOffset);
-        const auto before = known.find(name);
-        if (before != known.end()) {
-            finding.isDropped = before->second;
-            continue;
-        }
-        if (work > kMostWork) continue;
-        const auto with = [&](std::string_view value) {
-            work += text.size();
-            std::string changed(text.substr(0, finding.valueOffset));
-            changed += value;
-            changed += text.substr(finding.valueEnd);
-            return translation.Of(changed);
-        };
-        if (!hasWhole) {
-            whole = translation.Of(std::string(text));
-            hasWhole = true;
-        }
-        bool isRead = false;
-        if (finding.kind == ORRERY_FINDING_UNKNOWN_TEXT) {
-            isRead = with("\"\\u0001 no such text\"") != whole;
-        } else {
-            const std::uint64_t without = with("null");
-            isRead = without != whole;
-            // A value that happens to say what nothing would says nothing of its key.
-            if (!ofValue) {
-                for (const char* const loud : {"1", "true", "\"1\"", "[1,1,1,1]", "2.5"})
-                    isRead = isRead || with(loud) != without;
-            }
-        }
-        finding.isDropped = known[name] = isRead;
+        std::string name = NameOf(finding, text);
+        if (isRead.emplace(name, false).second) all.push_back({&finding, std::move(name)});
     }
-    std::erase_if(findings, [](const Finding& finding) { return finding.isDropped; });
+    std::ranges::stable_sort(all, std::less{}, [](const Subject& each) { return each.finding->valueOffset; });
+    std::vector<Subject> subjects, inside; // those inside the value of another are tried one by one
+    std::size_t end = 0;
+    for (Subject& subject : all) {
+        const bool isInside = subject.finding->valueOffset < end;
+        if (!isInside) end = subject.finding->valueEnd;
+        (isInside ? inside : subjects).push_back(std::move(subject));
+    }
+    const Translation translation(command, root, records);
+    Tries tries(translation, text);
+    tries.Settle(subjects);
+    for (Subject& subject : inside)
+        tries.Settle({&subject, 1});
+    for (const auto* const settled : {&subjects, &inside})
+        for (const Subject& subject : *settled)
+            isRead[subject.name] = subject.isRead;
+    std::erase_if(findings, [&](const Finding& finding) {
+        return finding.isTried && finding.valueEnd != 0 && isRead[NameOf(finding, text)];
+    });
 }
 
 } // namespace orrery::explain

@@ -87,6 +87,8 @@ bool LooksAround(const Table& table) {
 }
 
 Finding& Walk::Add(int kind, int gravity, const Value& value, const Path& path, std::string message) {
+    constexpr std::size_t kUsual = 32;
+    if (findings_.capacity() == 0) findings_.reserve(kUsual);
     Finding& finding = findings_.emplace_back();
     finding.kind = kind;
     finding.gravity = gravity;
@@ -106,7 +108,7 @@ Finding& Walk::Add(int kind, int gravity, const Value& value, const Site& site, 
 bool Walk::WrongType(const Value& value, const Site& site, const char* wanted, std::string consequence) {
     if (value.isNull()) return false;
     Add(ORRERY_FINDING_WRONG_TYPE, ORRERY_FINDING_LOST, value, site,
-        Shown(value) + " where " + wanted + " is read: " + (consequence.empty() ? "it is not read" : consequence));
+        Joined({Shown(value), " where ", wanted, " is read: ", consequence.empty() ? "it is not read" : consequence}));
     return false;
 }
 

@@ -81,12 +81,15 @@ class Walk {
     void Schedule(const Site& site, const json::Value& value, std::uint32_t rows, std::uint32_t columns);
     void Numbers(const Site& site, const json::Value& value);
     void Custom(const Site& site, const json::Value& value);
+    void Groups(const Site& site, const json::Value& value);
+    void GroupRules(const Site& site, const json::Value& value);
     void AsSample(const Site& site, const json::Value& value, const json::Value& sample, const Path& path);
 
     Document& document_;
     std::vector<Finding>& findings_;
     std::vector<std::string_view> also_;
     Sharing sharing_;
+    const record::Table* groupRules_ = nullptr; // what the rules of the group that is walked are read by
     bool triesAll_ = false;
     int functionsAround_ = 0; // records around this one whose functions may look at any of its keys
 };

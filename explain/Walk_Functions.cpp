@@ -1,6 +1,7 @@
 #include "explain/WalkParts.h"
 
 #include "events/EventCodecs.h"
+#include "frame/PackedItems.h"
 #include "frame/json/Reader.h"
 
 #include <algorithm>
@@ -15,6 +16,10 @@ void Walk::Custom(const Site& site, const Value& value) {
     const Field& field = site.field;
     const CustomCodec* const codec = field.custom;
     if (codec == nullptr || codec->read == nullptr) return; // written only
+    if (field.table != nullptr && BareItemsBehind(*field.table) != nullptr) return Groups(site, value);
+    if (const PackedItems* const items = BareItemsBehind(site.table);
+        items != nullptr && items->pointer == field.offset)
+        return GroupRules(site, value);
     const bool isScalarNumber =
         value.type() != Type::String && value.type() != Type::Array && value.type() != Type::Object;
     if (codec == &events::kOwnedRecord) {

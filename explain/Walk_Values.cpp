@@ -1,6 +1,8 @@
 #include "explain/Ranges.h"
 #include "explain/WalkParts.h"
 
+#include "frame/record/Engine.h"
+
 #include <algorithm>
 
 namespace orrery::explain {
@@ -11,23 +13,12 @@ using json::Value;
 
 namespace {
 
+// What a member keeps of a number.
 std::int64_t Cut(Cell cell, std::int64_t number) {
-    switch (cell) {
-    case Cell::I8:
-        return static_cast<std::int8_t>(number);
-    case Cell::U8:
-        return static_cast<std::uint8_t>(number);
-    case Cell::I16:
-        return static_cast<std::int16_t>(number);
-    case Cell::U16:
-        return static_cast<std::uint16_t>(number);
-    case Cell::I32:
-        return static_cast<std::int32_t>(number);
-    case Cell::U32:
-        return static_cast<std::uint32_t>(number);
-    default:
-        return number;
-    }
+    if (cell == Cell::F32 || cell == Cell::F64) return number;
+    std::byte kept[sizeof number];
+    StoreInteger(cell, kept, number);
+    return LoadInteger(cell, kept);
 }
 
 unsigned Bits(Cell cell) {
@@ -73,8 +64,8 @@ void Walk::Number(const Site& site, const Value& value) {
             || (number >= static_cast<double>(range->low) && number <= static_cast<double>(range->high)))
             return;
         Add(ORRERY_FINDING_OUT_OF_RANGE, ORRERY_FINDING_NOTE, value, site,
-            Shown(value) + " is none of " + std::to_string(range->low) + " to " + std::to_string(range->high)
-                + "; it is stored as it stands");
+            Joined({Shown(value), " is none of ", std::to_string(range->low), " to ", std::to_string(range->high),
+                    "; it is stored as it stands"}));
         return;
     }
     const bool isFraction =

@@ -1,5 +1,10 @@
 #include "explain/Wanted.h"
 
+#include "explain/Finding.h"
+
+#include "analyse/EventTypeRegistry.h"
+#include "analyse/RuleBodyMap.h"
+
 namespace orrery::explain {
 
 std::string ResultWanted(ResultTest test) {
@@ -50,6 +55,14 @@ std::string Expected(std::string_view message) {
     if (has("object member name")) return "expected '}' or the name of a member, in quotes";
     if (has("is not a number")) return "expected a number; this is none";
     return std::string(message);
+}
+
+std::string_view NearestRule(std::string_view name) {
+    std::vector<std::string_view> names;
+    for (const RuleBody& known : RuleBodies())
+        names.push_back(RuleNameOf(static_cast<std::int32_t>(known.code), false));
+    const auto near = Nearest(name, names);
+    return near.empty() ? std::string_view() : near.front();
 }
 
 } // namespace orrery::explain

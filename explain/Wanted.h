@@ -15,4 +15,7 @@ std::string Wanted(Take take);
 // What a syntax error of the reader means to the text's author.
 std::string Expected(std::string_view message);
 
+// The rule type with a record whose name is most like this one; empty when none is like it.
+std::string_view NearestRule(std::string_view name);
+
 } // namespace orrery::explain

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <malloc.h>
+#include <new>
 
 namespace {
 
@@ -19,6 +20,13 @@ struct Watch {
 };
 
 thread_local Watch watch;
+
+// Of `new`.
+struct News {
+    std::size_t failAt = 0; // 0: nothing fails
+    std::size_t seen = 0;
+};
+thread_local News news;
 
 bool FailsNow() {
     ++watch.allocations;
@@ -57,7 +65,31 @@ void __wrap_free(void* block) {
 }
 }
 
+// These go past the watch above, which counts the library's own memory.
+void* operator new(std::size_t size) {
+    if (news.failAt != 0 && ++news.seen == news.failAt) throw std::bad_alloc();
+    void* const block = __real_malloc(size == 0 ? 1 : size);
+    if (block == nullptr) throw std::bad_alloc();
+    return block;
+}
+void operator delete(void* block) noexcept {
+    __real_free(block);
+}
+void operator delete(void* block, std::size_t) noexcept {
+    __real_free(block);
+}
+
 namespace orrery::test {
+
+NewWatch::NewWatch(std::size_t n) {
+    news = {n, 0};
+}
+NewWatch::~NewWatch() {
+    news = {};
+}
+bool NewWatch::hasFailed() const {
+    return news.seen >= news.failAt;
+}
 
 HeapWatch::HeapWatch() {
     watch = Watch{};

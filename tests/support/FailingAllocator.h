@@ -31,4 +31,16 @@ class HeapWatch {
     void ResetPeak();
 };
 
+// Makes the n-th `new` of this thread throw while it lives, counted from 1; those after it succeed. The library itself
+// uses none, and what stands beside it does.
+class NewWatch {
+  public:
+    explicit NewWatch(std::size_t n);
+    NewWatch(const NewWatch&) = delete;
+    NewWatch& operator=(const NewWatch&) = delete;
+    ~NewWatch();
+
+    bool hasFailed() const;
+};
+
 } // namespace orrery::test

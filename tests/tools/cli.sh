@@ -116,6 +116,63 @@ what="bash completion"
 got=$(PATH="$(dirname "$program"):$PATH" bash -c '. "$1"; COMP_WORDS=(orrery describe CFG_NTP_I); COMP_CWORD=2; _orrery; echo "${COMPREPLY[*]}"' - "$scratch/completion.bash" 2>/dev/null)
 [ "$got" = CFG_NTP_INFO ] || fail "completed: $got"
 
+run 0 complete parse NTP --fields nPo
+out_has 'nPort'
+
+# Replies of several files, in their order, whoever is done first.
+what="parse of several files"
+for i in 1 2 3 4 5 6; do
+    printf '{"result":true,"params":{"table":{"Port":%d,"Address":"host, %d"}}}' $((i * 10)) $i >"$scratch/ntp$i.json"
+done
+run 0 parse NTP --no-warn --brief "$scratch"/ntp[12].json
+out_is '{ "nPort": 10, "szAddress": "host, 1" }
+{ "nPort": 20, "szAddress": "host, 2" }
+'
+for jobs in 1 4; do
+    run 0 parse NTP --no-warn --jobs $jobs --format csv --fields nPort,szAddress "$scratch"/ntp[123456].json
+    out_is "file,index,nPort,szAddress
+$(for i in 1 2 3 4 5 6; do echo "$scratch/ntp$i.json,0,${i}0,\"host, $i\""; done)
+"
+done
+run 0 parse NTP --no-warn --format jsonl --brief "$scratch/ntp3.json"
+out_is "{ \"file\": \"$scratch/ntp3.json\", \"index\": 0, \"record\": { \"nPort\": 30, \"szAddress\": \"host, 3\" } }
+"
+run 0 parse NTP --no-warn --filter 'nPort>40' --fields nPort --format jsonl "$scratch"/ntp[123456].json
+out_is "{ \"file\": \"$scratch/ntp5.json\", \"index\": 0, \"nPort\": 50 }
+{ \"file\": \"$scratch/ntp6.json\", \"index\": 0, \"nPort\": 60 }
+"
+run 0 parse NTP --no-warn --format table --fields nPort "$scratch/ntp1.json"
+out_has "nPort"
+# One that is not there stops none of the others, and the worst of all is what the program ends with.
+run 2 parse NTP --no-warn --brief --jobs 3 "$scratch/ntp1.json" "$scratch/none.json" "$scratch/ntp2.json"
+out_is '{ "nPort": 10, "szAddress": "host, 1" }
+{ "nPort": 20, "szAddress": "host, 2" }
+'
+err_has "none.json"
+printf '{"result":false}' >"$scratch/refused.json"
+run 1 parse NTP --no-warn "$scratch/refused.json" "$scratch/ntp1.json"
+out_has '"nPort": 10'
+run 2 parse NTP --format csv "$scratch/ntp1.json"
+err_has '--fields'
+run 2 parse NTP --format jsonl --pack "$scratch/ntp1.json"
+err_has '--pack'
+
+# Fields that no record has: refused, unless somebody hears of them.
+input='{"nPrt":123}' run 1 pack NTP --no-warn
+no_out
+err_has 'nPrt: no such field in CFG_NTP_INFO; did you mean nPort'
+input='{"nPrt":123,
+  "nPort":5}' run 0 pack NTP --warn
+out_has '"Port" : 5'
+err_has '-:1:2: lost: nPrt (CFG_NTP_INFO): no such field in CFG_NTP_INFO; did you mean nPort? [unknown-key]'
+input='{"stuServers":[{},{"nPrt":1}]}' run 3 pack NTP --strict --json
+python3 -c 'import json, sys
+found = json.loads(open(sys.argv[1]).readline())
+assert (found["path"], found["kind"], found["nearest"]) == ("stuServers[1].nPrt", "unknown-key", "nPort"), found' \
+    "$scratch/err" || fail "said: $(cat "$scratch/err")"
+input='{"nPort":"x","nPrt":1}' run 1 pack NTP --warn
+no_out
+
 # What of a text is passed over.
 run 0 check Alarm "$reply" --records 1
 no_out

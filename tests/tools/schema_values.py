@@ -30,6 +30,9 @@ class Text:
         self.before = []    # Values that the caller sets; of kind "block" those behind a pointer of so many bytes
         self.after = []
         self.functions = []  # names of fields that functions read
+        self.removable = []  # of those, the objects in the text that they are told by, and their keys
+        self.likely = {}     # of those, the Values that the members' types let expect
+        self.stored = []     # of those, Values of kind "moved": the members that change when the key goes
         self.shared = []     # of those whose key another field has, with a value for that one
         self.caller = False
 
@@ -64,6 +67,14 @@ class Maker:
         if field["type"] == "record":
             return self.size(field["record"])
         return SIZES[field["type"]] * (field["dims"][-1] if field["type"] == "char" and field["dims"] else 1)
+
+    def bytes_of(self, field):
+        if "pointer" in field:
+            return SIZES["ptr"]
+        size = self.element_size(field)
+        for extent in field.get("dims", [])[:-1] if field["type"] == "char" else field.get("dims", []):
+            size *= extent
+        return size
 
     def field_of(self, form, name):
         for field in form["fields"]:
@@ -128,7 +139,10 @@ class Maker:
             elif parts[-1] in holder:
                 self.read(row, holder[parts[-1]], form, place, text, path)
             else:
+                before = len(text.functions)
                 holder[parts[-1]] = self.field(row, form, place, text, path)
+                if len(text.functions) > before and row.get("function", {}).get("read") is not False:
+                    text.removable.append((holder, parts[-1]))
         for row in later:
             value.update(self.field(row, form, place, text, path))
         for row in whole:  # the object itself
@@ -170,10 +184,7 @@ class Maker:
             self.flagged(row, form, place, text, path)
             return self.coded(row, shifted(place, row["offset"]), text, name)
         if row["kind"] == "custom" or (row.get("function") or {}).get("read"):
-            text.functions.append(name or path + row["key"])
-            if row.get("pointer", {}).get("owner") == "caller":
-                self.lend(row, form, place, 8, text)
-            return row.get("sample", self.next())
+            return self.by_function(row, form, place, text, name or path + row["key"])
         at = shifted(place, row["offset"])
         if row["kind"] == "presence":
             text.after.append(Value(at, row["type"], 1, name))
@@ -194,6 +205,38 @@ class Maker:
         value = self.level(row, levels, at, text, path, count)
         if "count" in row:
             self.counted(row, form, place, count, text, path)
+        return value
+
+    def by_function(self, row, form, place, text, name):
+        """A value for a function of a row's own: what it makes of it is told by the member's type, as a rule."""
+        text.functions.append(name)
+        likely = []
+        value = row.get("sample", self.next())
+        if "offset" in row and "type" in row:
+            at = shifted(place, row["offset"])
+            number = type(value) in (int, float) and not row.get("dims") and row["type"] in SIZES
+            if row["type"] == "record" and "sample" not in row and not row["dims"]:
+                inner = Text()
+                inner.caller = text.caller
+                value = self.record(self.form(row), at, inner, text.caller, None, name + ".")
+                likely = inner.after if not inner.reply else []
+                text.before += inner.before
+                text.functions += inner.functions
+                text.removable += inner.removable
+                text.stored += inner.stored
+                text.likely.update(inner.likely)
+            elif row["type"] == "char" and len(row["dims"]) == 1:
+                value = value if "sample" in row else f"F{value}"
+                likely = [Value(at, "text", value.encode(), name)] if isinstance(value, str) else []
+            elif row.get("codes") and "sample" not in row and not row["dims"]:
+                value = row["codes"][value % len(row["codes"])]["name"]
+                likely = [Value(at, row["type"], self.code_of(row, value), name)]
+            elif number and row["type"] not in ("record", "char", "ptr"):
+                likely = [Value(at, row["type"], value, name)]
+            text.stored.append(Value(at, "moved", self.bytes_of(row), name))
+        text.likely[name] = likely
+        if row.get("pointer", {}).get("owner") == "caller":
+            self.lend(row, form, place, 8, text)
         return value
 
     def coded(self, row, at, text, name):
@@ -533,6 +576,16 @@ def resolve(base, place):
             if address == 0:
                 return 0
     return address
+
+
+def images(base, values):
+    """The bytes of the members that functions read, by name."""
+    found = {}
+    for value in values:
+        address = resolve(base, value.place)
+        if address:
+            found[value.name] = ctypes.string_at(address, value.value)
+    return found
 
 
 def differences(base, values, completed=None):

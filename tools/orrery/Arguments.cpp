@@ -8,9 +8,7 @@
 #include "orrery/System.h"
 #include "orrery/Terminal.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <stdexcept>
 
 namespace orrery::tool {
@@ -59,27 +57,51 @@ int Arguments::Run() {
     }
 }
 
-int Arguments::Show(const Result& result) const {
-    const bool isWritten =
-        std::fwrite(result.out.data(), 1, result.out.size(), stdout) == result.out.size() && std::fflush(stdout) == 0;
-    const int error = errno;
-    std::fputs(result.err.c_str(), stderr);
-    if (isWritten) return result.exit;
-    std::fprintf(stderr, "orrery: can't write: %s\n", std::strerror(error));
-    return kRefused;
+void Arguments::AddShape(CLI::App& command, std::vector<std::string>& fields, unsigned& jobs, const char* row) {
+    command
+        .add_option("--format", format_,
+                    std::string("jsonl: an object a line; pretty: over several lines; csv, table: a row ") + row
+                        + " ('parse', 'events')")
+        ->check(CLI::IsMember({"jsonl", "pretty", "csv", "table"}));
+    command
+        .add_option("--fields", fields,
+                    "Print these members of the records only: nEventID,stuObject.nObjectID ('parse', 'events')")
+        ->delimiter(',')
+        ->allow_extra_args(false);
+    command
+        .add_option("--filter", filters_,
+                    "Print what passes only: name=AccessControl, nSpeed>60, stuObject.szObjectType~car; all of several "
+                    "('parse', 'events')")
+        ->allow_extra_args(false);
+    command.add_option("--jobs", jobs, "Work on so many texts at a time; their order is kept ('parse', 'events')")
+        ->check(CLI::Range(1, 64));
+}
+
+Format Arguments::FormatOf(Format usual) const {
+    return isPretty_ || format_ == "pretty" ? Format::Pretty
+           : format_ == "csv"               ? Format::Csv
+           : format_ == "table"             ? Format::Table
+           : format_ == "jsonl"             ? Format::Lines
+                                            : usual;
+}
+
+std::vector<Filter> Arguments::FiltersGiven() const {
+    return {filters_.begin(), filters_.end()};
 }
 
 void Arguments::AddParse() {
-    CLI::App* const parse = app_.add_subcommand("parse", "Print a device's reply as a record, in JSON by field names");
+    ParseOptions& options = parse_.parse;
+    CLI::App* const parse = app_.add_subcommand("parse", "Print devices' replies as records, in JSON by field names");
     parse->add_option("COMMAND", name_, "Name of a configuration or a method ('orrery commands')")->required();
-    parse->add_option("FILE", file_, "The reply; standard input by default");
+    parse->add_option("FILES", files_, "The replies, one a file; standard input by default");
     auto* const records =
-        parse->add_option("--records", parse_.records, "Room for so many records (as many as the reply holds)");
-    parse->add_option("--bytes", parse_.bytes, "A buffer of exactly so many bytes")->excludes(records);
+        parse->add_option("--records", options.records, "Room for so many records (as many as the reply holds)");
+    parse->add_option("--bytes", options.bytes, "A buffer of exactly so many bytes")->excludes(records);
     parse->add_flag("--table", isTable_, "The text is the bare value, without the reply around it");
-    parse->add_flag("--all", parse_.all, "Print lists whole, also what is not in use");
-    parse->add_flag("--brief", parse_.brief, "Print what the reply told, and not the zeros around it");
-    parse->add_flag("--pack", parse_.pack, "Print also the text that packing the record gives");
+    parse->add_flag("--all", options.all, "Print lists whole, also what is not in use");
+    parse->add_flag("--brief", options.brief, "Print what the reply told, and not the zeros around it");
+    AddShape(*parse, options.fields, parse_.jobs, "a record, which wants --fields");
+    parse->add_flag("--pack", options.pack, "Print also the text that packing the record gives");
     parse->add_option("--start", startFile_, "Record that the buffer holds before, for commands that look at it");
     parse->add_flag("--warn,!--no-warn", warns_, "Tell what of the reply is passed over (on by default on a terminal)");
     parse->add_flag("--strict", isStrict_, "The same, and exit with 3 when there is anything to tell");
@@ -87,22 +109,27 @@ void Arguments::AddParse() {
 }
 
 int Arguments::RunParse() {
-    std::string text;
+    if (files_.empty()) files_.emplace_back("-");
+    ParseOptions& options = parse_.parse;
     std::string start;
-    if (!Read(file_, text) || (!startFile_.empty() && !Read(startFile_, start))) return kUsage;
-    parse_.start = start;
-    parse_.table = isTable_;
-    parse_.width = TerminalWidth(kOutput);
-    Result result = ParseText(name_, text, parse_);
-    if (UsesColour(colour_, kOutput)) result.out = ColouredJson(result.out);
-    if ((warns_ || isStrict_) && result.exit == kDone) {
-        check_.records = parse_.records;
-        check_.table = isTable_;
-        const Result found = CheckText(name_, file_.empty() || file_ == "-" ? "-" : file_, text, check_);
-        result.err += UsesColour(colour_, kErrors) ? ColouredFindings(found.out) : found.out;
-        if (isStrict_ && found.exit != kDone) result.exit = found.exit;
-    }
-    return Show(result);
+    if (!startFile_.empty() && !Read(startFile_, start)) return kUsage;
+    options.start = start;
+    options.table = isTable_;
+    options.width = TerminalWidth(kOutput);
+    options.format = FormatOf(Format::Pretty);
+    options.filters = FiltersGiven();
+    const bool isPlain = options.format == Format::Pretty && options.fields.empty() && options.filters.empty();
+    if (IsRows(options.format) && options.fields.empty())
+        throw std::invalid_argument("--format " + format_ + ": --fields tells which members are columns");
+    if (options.pack && !isPlain)
+        throw std::invalid_argument("--pack prints records whole: no --format, --fields or --filter goes with it");
+    parse_.check.records = options.records;
+    parse_.check.table = isTable_;
+    parse_.warn = warns_;
+    parse_.strict = isStrict_;
+    parse_.colour = UsesColour(colour_, kOutput);
+    parse_.findingColour = UsesColour(colour_, kErrors);
+    return ParseFiles(name_, files_, parse_);
 }
 
 void Arguments::AddPack() {
@@ -112,8 +139,10 @@ void Arguments::AddPack() {
     pack->add_option("--capacity", pack_.capacity, "A text buffer of so many bytes (as much as it takes)");
     pack->add_flag("--request", isRequest_, "Print the whole request that sets it, not its \"table\" alone");
     pack->add_option("--id", request_, "The id of the request (1)");
-    pack->add_flag("--warn,!--no-warn", warns_,
-                   "Tell what of the records writes nothing (on by default on a terminal)");
+    pack->add_flag(
+        "--warn,!--no-warn", warns_,
+        "Tell what of the records writes nothing, and pass over fields that no record has, which are refused "
+        "otherwise (on by default on a terminal)");
     pack->add_flag("--strict", isStrict_, "The same, and exit with 3 when there is anything to tell");
     pack->add_flag("--json", pack_.json, "Tell it as an object a line, for programs");
     pack->callback([this] { run_ = [this] { return RunPack(); }; });
@@ -128,7 +157,7 @@ int Arguments::RunPack() {
     pack_.strict = isStrict_;
     Result result = PackText(name_, text, pack_);
     if (!pack_.json && UsesColour(colour_, kErrors)) result.err = ColouredFindings(result.err);
-    return Show(result);
+    return PrintResult(result);
 }
 
 void Arguments::AddCheck() {
@@ -162,8 +191,8 @@ int Arguments::RunCheck() {
         }
         Result result = CheckText(name_, each, text, check_);
         if (!check_.json && UsesColour(colour_, kOutput)) result.out = ColouredFindings(result.out);
-        const int shown = Show(result);
-        if (exit == kDone || (exit == kFound && shown != kDone)) exit = shown;
+        const int shown = PrintResult(result);
+        exit = WorseExit(exit, shown);
     }
     return exit;
 }
@@ -173,25 +202,10 @@ void Arguments::AddEvents() {
     CLI::App* const events = app_.add_subcommand(
         "events", "Print the analyzer events of a text, and what else its keys tell, as records, in JSON, a line each");
     events->add_option("FILES", files_, "Texts, one a line or one behind the other; standard input by default");
-    events
-        ->add_option("--format", format_,
-                     "jsonl: an object a line; pretty: over several lines; csv, table: a row an event")
-        ->check(CLI::IsMember({"jsonl", "pretty", "csv", "table"}));
+    AddShape(*events, options.fields, stream_.jobs, "an event");
     events->add_flag("--pretty", isPretty_, "The same as --format pretty");
     events->add_flag("--all", options.all, "Print lists whole, also what is not in use");
     events->add_flag("--brief", options.brief, "Print what the text told, and not the zeros around it");
-    events
-        ->add_option("--fields", options.fields,
-                     "Print these members of the records only: nEventID,stuObject.nObjectID")
-        ->delimiter(',')
-        ->allow_extra_args(false);
-    events
-        ->add_option(
-            "--filter", filters_,
-            "Print what passes only: name=AccessControl, nSpeed>60, stuObject.szObjectType~car; all of several")
-        ->allow_extra_args(false);
-    events->add_option("--jobs", stream_.jobs, "Decode so many texts at a time; their order is kept")
-        ->check(CLI::Range(1, 64));
     events->add_flag("--follow", stream_.follow, "Go on when a file grows, until the program is ended");
     events->callback([this] { run_ = [this] { return RunEvents(); }; });
 }
@@ -199,12 +213,8 @@ void Arguments::AddEvents() {
 int Arguments::RunEvents() {
     if (files_.empty()) files_.emplace_back("-");
     EventOptions& options = stream_.events;
-    for (const std::string& filter : filters_)
-        options.filters.emplace_back(filter);
-    options.format = isPretty_ || format_ == "pretty" ? Format::Pretty
-                     : format_ == "csv"               ? Format::Csv
-                     : format_ == "table"             ? Format::Table
-                                                      : Format::Lines;
+    options.filters = FiltersGiven();
+    options.format = FormatOf(Format::Lines);
     options.colour = UsesColour(colour_, kOutput);
     options.width = TerminalWidth(kOutput);
     stream_.progress = !IsTerminal(kOutput);
@@ -222,7 +232,7 @@ void Arguments::AddDiff() {
             std::string left;
             std::string right;
             if (!Read(file_, left) || !Read(startFile_, right)) return kUsage;
-            return Show(DiffTexts(name_, left, right));
+            return PrintResult(DiffTexts(name_, left, right));
         };
     });
 }
@@ -238,7 +248,7 @@ void Arguments::AddTemplate() {
         run_ = [this]() -> int {
             std::string text;
             if (!Read(file_, text)) return kUsage;
-            return Show(tool::ShowTemplate(name_, text, template_));
+            return PrintResult(tool::ShowTemplate(name_, text, template_));
         };
     });
 }
@@ -259,7 +269,7 @@ void Arguments::AddCommands() {
                                  : listsRules_     ? Listing::Rules
                                  : listsTemplates_ ? Listing::Templates
                                                    : Listing::Commands;
-            return Show({kDone, List(what, isJson_), {}});
+            return PrintResult({kDone, List(what, isJson_), {}});
         };
     });
 }
@@ -272,11 +282,11 @@ void Arguments::AddDescribe() {
     describe->callback([this] {
         run_ = [this] {
             const std::size_t width = TerminalWidth(kOutput);
-            if (const auto text = Describe(name_, width)) return Show({kDone, *text, {}});
-            return Show({kRefused,
-                         {},
-                         "orrery: no command, event, rule, record, code or key " + Printable(Quoted(name_))
-                             + DidYouMean(name_, AllNames()) + "\n"});
+            if (const auto text = Describe(name_, width)) return PrintResult({kDone, *text, {}});
+            return PrintResult({kRefused,
+                                {},
+                                "orrery: no command, event, rule, record, code or key " + Printable(Quoted(name_))
+                                    + DidYouMean(name_, AllNames()) + "\n"});
         };
     });
 }
@@ -287,26 +297,26 @@ void Arguments::AddDocuments() {
     schema->add_option("--json-schema", name_, "Print a JSON Schema of the text of this command instead");
     schema->callback([this] {
         run_ = [this] {
-            if (name_.empty()) return Show({kDone, Schema(), {}});
-            if (const auto text = JsonSchema(name_)) return Show({kDone, *text, {}});
-            return Show({kRefused, {}, "orrery: " + UnknownCommand(name_) + "\n"});
+            if (name_.empty()) return PrintResult({kDone, Schema(), {}});
+            if (const auto text = JsonSchema(name_)) return PrintResult({kDone, *text, {}});
+            return PrintResult({kRefused, {}, "orrery: " + UnknownCommand(name_) + "\n"});
         };
     });
     app_.add_subcommand("layout", "Print all record tables as plain text, a line a row")->callback([this] {
-        run_ = [this] { return Show({kDone, Layout(), {}}); };
+        run_ = [] { return PrintResult({kDone, Layout(), {}}); };
     });
 }
 
 // For packages and shells.
 void Arguments::AddHidden() {
     app_.add_subcommand("manual", "Print the manual page")->group("")->callback([this] {
-        run_ = [this] { return Show({kDone, ManualPage(app_), {}}); };
+        run_ = [this] { return PrintResult({kDone, ManualPage(app_), {}}); };
     });
     CLI::App* const completion = app_.add_subcommand("completion", "Print the completion of a shell")->group("");
     completion->add_option("SHELL", name_, "bash, zsh or fish")
         ->required()
         ->check(CLI::IsMember({"bash", "zsh", "fish"}));
-    completion->callback([this] { run_ = [this] { return Show({kDone, CompletionScript(name_), {}}); }; });
+    completion->callback([this] { run_ = [this] { return PrintResult({kDone, CompletionScript(name_), {}}); }; });
 }
 
 } // namespace orrery::tool

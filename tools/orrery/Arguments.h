@@ -3,6 +3,7 @@
 
 #include "orrery/Check.h"
 #include "orrery/Documents.h"
+#include "orrery/ParseFiles.h"
 #include "orrery/ShowTemplate.h"
 #include "orrery/Stream.h"
 
@@ -38,14 +39,17 @@ class Arguments {
     int RunPack();
     int RunCheck();
     int RunEvents();
-    int Show(const Result& result) const;
+    // What 'parse' and 'events' share.
+    void AddShape(CLI::App& command, std::vector<std::string>& fields, unsigned& jobs, const char* row);
+    Format FormatOf(Format usual) const;
+    std::vector<Filter> FiltersGiven() const;
 
     CLI::App app_;
     std::function<int()> run_;
 
     std::string name_, file_, startFile_;
     std::vector<std::string> files_;
-    ParseOptions parse_;
+    FilesOptions parse_;
     PackOptions pack_;
     CheckOptions check_;
     TemplateOptions template_;

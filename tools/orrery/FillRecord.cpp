@@ -319,7 +319,7 @@ void FillItems(const PackedItems& items, const Value& value, std::byte* descript
             else if (member.key() == "record")
                 FillRecord(*sizes[i].table, member.value, at + items.head->size, memory, place + ".record");
             else if (member.key() != "name")
-                Fail(place + "." + Printable(member.key()), "an item has a name, a head and a record");
+                memory.Unknown(member, place + "." + Printable(member.key()), "an item", {"name", "head", "record"});
         }
         StoreSlot(items.size, at, static_cast<std::int64_t>(sizes[i].size));
         at += items.head->size + sizes[i].size;
@@ -349,8 +349,8 @@ void FillFields(const Table& table, const Value& value, std::byte* record, Memor
             for (const Field& row : table) {
                 if (row.size > 0 && !row.alias) names.push_back(row.name);
             }
-            Fail(pathOf(member.key()),
-                 "no such field in " + std::string(table.record) + DidYouMean(member.key(), names));
+            memory.Unknown(member, pathOf(member.key()), table.record, names);
+            continue;
         }
         if (field->cell != Cell::Pointer)
             FillLevel(*field, 0, member.value, record + field->offset, memory, pathOf(field->name));
@@ -369,6 +369,21 @@ void FillFields(const Table& table, const Value& value, std::byte* record, Memor
 }
 
 } // namespace
+
+void Memory::Unknown(const json::Member& member, const std::string& path, const char* record,
+                     const std::vector<std::string_view>& names) {
+    const std::string message = "no such field in " + std::string(record) + DidYouMean(member.key(), names);
+    if (unknown_ == nullptr) Fail(path, message);
+    explain::Finding& finding = unknown_->emplace_back();
+    finding.kind = ORRERY_FINDING_UNKNOWN_KEY;
+    finding.gravity = ORRERY_FINDING_LOST;
+    finding.at = &member.value;
+    finding.atKey = true;
+    finding.path = path;
+    finding.field = record;
+    finding.message = message;
+    if (const auto nearest = explain::Nearest(member.key(), names); !nearest.empty()) finding.nearest = nearest.front();
+}
 
 std::byte* Memory::Allocate(std::size_t size) {
     if (size > kMostBytes - used_) throw FillError("the lists behind pointers take more memory than this program uses");

@@ -1,6 +1,7 @@
 // JSON by field names into a record, the way back from PrintRecord; strict, because a person may have written it.
 #pragma once
 
+#include "explain/Finding.h"
 #include "frame/json/Value.h"
 #include "frame/record/Table.h"
 
@@ -17,13 +18,21 @@ struct FillError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// What stands behind the pointers of records.
+// What a filling carries along: what stands behind the pointers of records, and the fields that no record has.
 class Memory {
   public:
+    // `unknown`: takes such fields, which are passed over then; without it they are refused.
+    explicit Memory(std::vector<explain::Finding>* unknown = nullptr) : unknown_(unknown) {}
+
+    // A member of `record` that has no place there. `names`: those that do. Throws FillError where nobody takes it.
+    void Unknown(const json::Member& member, const std::string& path, const char* record,
+                 const std::vector<std::string_view>& names);
+
     // Cleared. Throws FillError for more than any client has behind its pointers.
     std::byte* Allocate(std::size_t size);
 
   private:
+    std::vector<explain::Finding>* unknown_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     std::size_t used_ = 0;
 };

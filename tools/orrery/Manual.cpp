@@ -168,7 +168,12 @@ _orrery() {
     found=("${found[@]/$'\t'/:}")
     _describe -V orrery found
 }
-_orrery "$@"
+# Loaded by compinit when it is wanted, or read by a user's own file.
+if [[ "${zsh_eval_context[-1]}" == loadautofunc ]]; then
+    _orrery "$@"
+else
+    compdef _orrery orrery
+fi
 )sh";
     }
     if (shell == "fish") {
@@ -214,7 +219,7 @@ void AddFields(const record::Table& table, std::string_view path, const std::str
     }
 }
 
-// Members of the events; of one alone when a filter names it.
+// Members of a command's record, or of the events; of one alone when a filter names it.
 Found FieldsOf(std::string_view last, const std::vector<std::string>& words) {
     std::string only;
     for (const std::string& word : words) {
@@ -225,6 +230,12 @@ Found FieldsOf(std::string_view last, const std::vector<std::string>& words) {
     const std::string front(comma == std::string_view::npos ? "" : last.substr(0, comma + 1));
     const std::string_view path = last.substr(front.size());
     Found found;
+    const bool isParse = words.size() > 2 && words.front() == "parse";
+    const Command* const command = isParse ? FindCommand(words[1]) : nullptr;
+    if (command != nullptr && command->table != nullptr) {
+        AddFields(*command->table, path, front, found);
+        return found;
+    }
     for (const events::EventRow& event : events::Events())
         if (only.empty() || EqualsFolded(event.name, only)) AddFields(*event.table, path, front, found);
     return found;

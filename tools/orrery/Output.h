@@ -113,6 +113,11 @@ class LineWriter {
         isFirst_ = false;
     }
     void Token(std::string_view token) { Append(token); }
+    // Members as they were written elsewhere, with what separates them.
+    void Splice(std::string_view members) {
+        Append(members);
+        isFirst_ = false;
+    }
     void Integer(std::int64_t number);
     // Elements that are 0: most of a record's reserved words are.
     void Zeros(std::size_t count);

@@ -1,6 +1,7 @@
 #include "orrery/PrintRecord.h"
 
 #include "orrery/Codes.h"
+#include "orrery/Outline.h"
 #include "orrery/Words.h"
 
 #include "frame/PackedItems.h"
@@ -10,6 +11,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <type_traits>
+#include <unordered_map>
 
 namespace orrery::tool {
 
@@ -34,8 +37,11 @@ bool IsBlank(const Field& field, const std::byte* at) {
     if (field.kind == Kind::Size) return true;
     if (field.hasDefault && field.rank == 0 && field.cell != Cell::F32 && field.cell != Cell::F64)
         return LoadInteger(field.cell, at) == field.defaultValue;
-    return at[0] == std::byte{0} && std::memcmp(at, at + 1, field.size - 1) == 0;
+    return IsClear(at, field.size);
 }
+
+// The outline of a table's records; `all` as PrintOptions has it.
+const Outline& OutlineOf(const Table& table, bool all);
 
 // Puts a record together as a tree.
 class TreeSink {
@@ -97,6 +103,8 @@ class Printer {
 
     // These answer how many members or elements stand there.
     std::size_t Record(const Table& table, const std::byte* record) {
+        if constexpr (std::is_same_v<Sink, LineWriter>)
+            if (!options_.brief) return Splice(OutlineOf(table, options_.all), table, record);
         sink_.Open(Brackets::Object);
         std::size_t count = 0;
         for (const Field& field : table) {
@@ -155,17 +163,53 @@ class Printer {
         return 1;
     }
 
+    // The line of a cleared record, with where its members stand in it.
+    static Outline Draw(const Table& table, bool all) {
+        const std::vector<std::byte> clear(table.size);
+        Outline outline;
+        LineWriter line;
+        Printer<LineWriter> printer(line, {.all = all});
+        line.Open(Brackets::Object);
+        for (const Field& field : table) {
+            if (field.alias || field.size == 0) continue;
+            const auto place = [&] { return static_cast<std::uint32_t>(line.size()); };
+            const std::uint32_t begin = place();
+            line.Key(field.name);
+            const std::uint32_t value = place();
+            printer.Content(table, field, clear.data());
+            const bool isItems = field.cell == Cell::Pointer && ItemsBehind(table) != nullptr;
+            outline.members.push_back({&field, begin, value, place(), !isItems});
+        }
+        line.Close(Brackets::Object);
+        outline.text = line.Take();
+        return outline;
+    }
+
   private:
+    std::size_t Splice(const Outline& outline, const Table& table, const std::byte* record) {
+        std::size_t done = 0; // of the outline's text
+        for (const Outline::Member& member : outline.members) {
+            if (member.IsZero(record, options_.all)) continue;
+            sink_.Splice(outline.Part(done, member.value));
+            Content(table, *member.field, record);
+            done = member.end;
+        }
+        sink_.Splice(outline.Part(done, outline.text.size()));
+        return outline.members.size();
+    }
+
+    std::size_t Content(const Table& table, const Field& field, const std::byte* record) {
+        if (field.cell != Cell::Pointer) return Value(field, record);
+        Behind(table, field, record);
+        return 1;
+    }
+
     // 0 for a member that tells nothing, which is left out.
     std::size_t Member(const Table& table, const Field& field, const std::byte* record) {
         const auto mark = sink_.Place();
         sink_.Key(field.name);
-        if (field.cell == Cell::Pointer) {
-            Behind(table, field, record);
-            return 1;
-        }
-        const bool isNested = field.cell == Cell::Record || field.rank > 0;
-        if (Value(field, record) > 0 || !options_.brief || !isNested) return 1;
+        const bool isNested = field.cell == Cell::Record || (field.cell != Cell::Pointer && field.rank > 0);
+        if (Content(table, field, record) > 0 || !options_.brief || !isNested) return 1;
         sink_.GoBack(mark);
         return 0;
     }
@@ -323,6 +367,17 @@ class Printer {
     Sink& sink_;
     PrintOptions options_;
 };
+
+const Outline& OutlineOf(const Table& table, bool all) {
+    // Of each thread its own: what is kept is found without a lock.
+    thread_local std::unordered_map<const Table*, Outline> kept[2];
+    auto& outlines = kept[all ? 1 : 0];
+    const auto found = outlines.find(&table);
+    if (found != outlines.end()) return found->second;
+    // Records stand inside others, so that this draws those first.
+    Outline outline = Printer<LineWriter>::Draw(table, all);
+    return outlines.emplace(&table, std::move(outline)).first->second;
+}
 
 // What `print` tells a printer, as a tree.
 template <class Print>

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -148,7 +149,7 @@ const json::Value* ValueAt(const json::Value& root, std::string_view path) {
 
 // What of the records does not reach the text; of members those that somebody wrote.
 std::vector<explain::Finding> Losses(const Command& command, Document& document, const std::vector<std::byte>& records,
-                                     bool tries) {
+                                     std::vector<explain::Finding> unknown, bool tries) {
     const std::byte none{};
     auto findings = explain::ExplainRecords(command, records.empty() ? &none : records.data(),
                                             static_cast<std::uint32_t>(records.size()), tries)
@@ -157,6 +158,7 @@ std::vector<explain::Finding> Losses(const Command& command, Document& document,
         finding.at = ValueAt(document.root, finding.path);
         return finding.at == nullptr;
     });
+    std::ranges::move(unknown, std::back_inserter(findings));
     explain::FindPlaces(document.text, document.root, document.arena, false, findings);
     std::stable_sort(findings.begin(), findings.end(),
                      [](const auto& left, const auto& right) { return left.offset < right.offset; });
@@ -164,6 +166,9 @@ std::vector<explain::Finding> Losses(const Command& command, Document& document,
 }
 
 // ---- Parsing ----
+
+// What stands around a record that is one of many.
+constexpr std::string_view kFile = "file", kIndex = "index";
 
 // The caller's side of one parse.
 struct Buffer {
@@ -187,6 +192,9 @@ class Parse {
     void Call(std::size_t size);
     std::size_t RecordsRead(const Reply& reply) const;
     std::string Note(const Reply& reply) const;
+    std::string Print(std::size_t count, bool asList) const;
+    std::string Shown(const std::byte* record, std::size_t index) const;
+    std::optional<Node> MemberOf(const std::byte* record, std::size_t index, std::string_view path) const;
 
     const Command& command_;
     const Table& table_;
@@ -269,6 +277,50 @@ std::string Parse::Note(const Reply& reply) const {
     return {};
 }
 
+std::optional<Node> Parse::MemberOf(const std::byte* record, std::size_t index, std::string_view path) const {
+    if (path == kFile) return Node::Text(Printable(options_.file));
+    if (path == kIndex) return Node::Unsigned(index);
+    return PrintMember(table_, record, path, {options_.all, options_.brief});
+}
+
+// One record as a line, or as an object over several; empty for one that a filter keeps back.
+std::string Parse::Shown(const std::byte* record, std::size_t index) const {
+    const auto memberOf = [&](std::string_view path) { return MemberOf(record, index, path); };
+    const bool isWanted = std::ranges::all_of(options_.filters, [&](const Filter& filter) {
+        const std::optional<Node> member = memberOf(filter.path());
+        return filter.Takes(member ? &*member : nullptr);
+    });
+    if (!isWanted) return {};
+    if (IsRows(options_.format)) {
+        return Row(options_.format, options_.width, tool::ColumnsOf(options_),
+                   [&](const std::string& column) { return CellOf(memberOf(column)); });
+    }
+    Node node = Node::Object();
+    for (const std::string_view around : {kFile, kIndex})
+        node.Add(around, *memberOf(around));
+    for (const std::string& field : options_.fields) {
+        if (field == kFile || field == kIndex) continue;
+        auto member = memberOf(field);
+        node.Add(field, member ? std::move(*member) : Node::Null());
+    }
+    if (options_.fields.empty()) node.Add("record", PrintRecord(table_, record, {options_.all, options_.brief}));
+    if (options_.format == Format::Lines) return node.PrintLine();
+    return node.Print(options_.width == 0 ? Node::kWidest : options_.width);
+}
+
+std::string Parse::Print(std::size_t count, bool asList) const {
+    const PrintOptions print{options_.all, options_.brief};
+    const std::byte* const first = buffer_.bytes.data();
+    if (options_.format == Format::Pretty && options_.fields.empty() && options_.filters.empty()) {
+        return (asList ? PrintRecords(table_, first, count, print) : PrintRecord(table_, first, print))
+            .Print(options_.width == 0 ? Node::kWidest : options_.width);
+    }
+    std::string out;
+    for (std::size_t i = 0; i < count; ++i)
+        out += Shown(first + i * table_.size, i);
+    return out;
+}
+
 Result Parse::Run() {
     const Reply reply = LookAt(command_, document_.root);
     const bool fixed = options_.bytes || options_.records;
@@ -289,12 +341,8 @@ Result Parse::Run() {
     }
 
     const std::size_t count = RecordsRead(reply);
-    const PrintOptions print{options_.all, options_.brief};
-    const bool asList = reply.isList || count != 1;
     Result result;
-    result.out = (asList ? PrintRecords(table_, buffer_.bytes.data(), count, print)
-                         : PrintRecord(table_, buffer_.bytes.data(), print))
-                     .Print(options_.width == 0 ? Node::kWidest : options_.width);
+    result.out = Print(count, reply.isList || count != 1);
     result.err = Note(reply);
     if (!options_.pack) return result;
     if (!command_.packs()) {
@@ -314,6 +362,12 @@ Result Parse::Run() {
 }
 
 } // namespace
+
+std::vector<std::string> ColumnsOf(const ParseOptions& options) {
+    std::vector<std::string> columns = {std::string(kFile), std::string(kIndex)};
+    columns.insert(columns.end(), options.fields.begin(), options.fields.end());
+    return columns;
+}
 
 Result ParseText(const Command& command, std::string_view text, const ParseOptions& options) {
     if (!command.parses()) return Refuse(ExplainParse(command, Outcome::UnknownCommand, Document({}), 0));
@@ -356,12 +410,14 @@ Result PackText(const Command& command, std::string_view json, const PackOptions
     try {
         Document document(json);
         if (!document.ok) return Refuse(ExplainSyntax(document));
-        Memory memory;
+        std::vector<explain::Finding> unknown;
+        const bool isTold = options.warn || options.strict;
+        Memory memory(isTold ? &unknown : nullptr);
         const auto records = FillAll(*command.table, document.root, memory);
         const Packed packed = PackRecords(command, records, options.capacity);
         if (packed.outcome == Outcome::Done) {
             Result result{kDone, packed.text, Notes(*command.table, document.root)};
-            const auto losses = Losses(command, document, records, options.warn || options.strict);
+            const auto losses = Losses(command, document, records, std::move(unknown), isTold);
             result.err += FindingLines(losses, options.file, document.text, options.json);
             if (options.strict && !result.err.empty()) result.exit = kFound;
             if (options.request) result.out = Request(command, std::move(result.out), *options.request);

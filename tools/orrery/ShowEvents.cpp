@@ -59,61 +59,12 @@ std::optional<Node> MemberOf(const Item& item, std::string_view path, const Even
     return PrintMember(*item.table, item.first, path, PrintOptions{options.all, options.brief});
 }
 
-// A text in a column; a code by its name.
-std::string CellOf(const std::optional<Node>& member) {
-    if (!member) return {};
-    const Node* const name = member->Find("code") != nullptr ? member->Find("name") : nullptr;
-    return name != nullptr ? name->Bare() : member->Bare();
-}
-
-std::string CsvCell(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '"') quoted += '"';
-        quoted += c;
-    }
-    return quoted + '"';
-}
-
 std::vector<std::string> ColumnsOf(const EventOptions& options) {
     std::vector<std::string> columns;
     for (const std::string_view around : kAround)
         if (around != "size") columns.emplace_back(around);
     columns.insert(columns.end(), options.fields.begin(), options.fields.end());
     return columns;
-}
-
-// Texts get a column of so many characters: what comes later is not known yet when the first row is printed.
-std::size_t WidthOf(std::string_view column) {
-    constexpr std::size_t kNames = 28, kTexts = 12;
-    if (column == "name") return kNames;
-    if (column == "file") return kTexts;
-    if (std::ranges::find(kAround, column) != std::end(kAround)) return std::max<std::size_t>(column.size(), 5);
-    const std::size_t dot = column.rfind('.');
-    const bool isNumber = column.substr(dot == std::string_view::npos ? 0 : dot + 1).starts_with('n');
-    return std::max(column.size(), isNumber ? std::size_t{6} : kTexts);
-}
-
-template <class CellAt>
-std::string Row(const EventOptions& options, const CellAt& cellAt) {
-    const auto columns = ColumnsOf(options);
-    std::string row;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const std::string cell = cellAt(columns[i]);
-        if (options.format == Format::Csv) {
-            row += (i > 0 ? "," : "") + CsvCell(cell);
-            continue;
-        }
-        const std::size_t width = WidthOf(columns[i]);
-        const bool isLast = i + 1 == columns.size();
-        const std::string shown = options.width > 0 && !isLast ? CutTo(Printable(cell), width) : Printable(cell);
-        row += (i > 0 ? "  " : "") + shown;
-        if (!isLast) row.append(width - std::min(width, Columns(shown)), ' ');
-    }
-    while (options.format == Format::Table && row.ends_with(' '))
-        row.pop_back();
-    return (options.format == Format::Table ? CutTo(row, options.width) : row) + "\n";
 }
 
 struct Shown {
@@ -191,7 +142,7 @@ void Shown::AddPretty(const Item& item) {
 }
 
 void Shown::Add(const Item& item) {
-    const bool isRow = options.format == Format::Csv || options.format == Format::Table;
+    const bool isRow = IsRows(options.format);
     if (item.isList && (isRow || !options.fields.empty() || !options.filters.empty())) {
         Item one = item;
         one.isList = false;
@@ -201,7 +152,8 @@ void Shown::Add(const Item& item) {
     }
     if (!Takes(item)) return;
     if (isRow)
-        out.Append(Row(options, [&](const std::string& column) { return CellOf(MemberOf(item, column, options)); }));
+        out.Append(Row(options.format, options.width, ColumnsOf(options),
+                       [&](const std::string& column) { return CellOf(MemberOf(item, column, options)); }));
     else if (options.format == Format::Pretty)
         AddPretty(item);
     else
@@ -371,8 +323,7 @@ std::string Coloured(std::string out, const EventOptions& options) {
 }
 
 std::string EventHead(const EventOptions& options) {
-    if (options.format != Format::Csv && options.format != Format::Table) return {};
-    return Row(options, [](const std::string& column) { return column; });
+    return IsRows(options.format) ? RowOfNames(options.format, options.width, ColumnsOf(options)) : std::string();
 }
 
 } // namespace orrery::tool

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orrery/Filter.h"
+#include "orrery/Rows.h"
 #include "orrery/Run.h"
 
 #include <cstdint>
@@ -10,13 +11,6 @@
 #include <vector>
 
 namespace orrery::tool {
-
-enum class Format {
-    Lines,  // an object a line
-    Pretty, // an object over several lines, for people
-    Csv,    // a row an event, behind a row of names
-    Table,  // the same in columns, for people
-};
 
 struct EventOptions {
     Format format = Format::Lines;

@@ -2,8 +2,11 @@
 
 #include "orrery/Input.h"
 
+#include "frame/json/Value.h"
+
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace orrery::tool {
 
@@ -16,7 +19,7 @@ bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
-// Bytes that tell something between quotes, and outside.
+// The next byte that tells something, between quotes or outside.
 using Bytes = std::array<bool, 256>;
 constexpr Bytes BytesOf(std::string_view all) {
     Bytes bytes{};
@@ -26,6 +29,26 @@ constexpr Bytes BytesOf(std::string_view all) {
 }
 constexpr Bytes kInText = BytesOf("\"\\\n");
 constexpr Bytes kOutside = BytesOf("\"{}[]\n");
+
+std::size_t NextTelling(std::string_view text, std::size_t at, bool inText) {
+#if ORRERY_SSE2
+    constexpr int kCase = 0x20; // '[' and '{', ']' and '}' differ by this bit alone
+    static_assert(('[' | kCase) == '{' && (']' | kCase) == '}');
+    for (; at + 16 <= text.size(); at += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text.data() + at));
+        const auto is = [](__m128i among, char wanted) { return _mm_cmpeq_epi8(among, _mm_set1_epi8(wanted)); };
+        const __m128i folded = _mm_or_si128(bytes, _mm_set1_epi8(kCase));
+        const __m128i others = inText ? is(bytes, '\\') : _mm_or_si128(is(folded, '{'), is(folded, '}'));
+        const __m128i all = _mm_or_si128(_mm_or_si128(is(bytes, '"'), is(bytes, '\n')), others);
+        const int found = _mm_movemask_epi8(all);
+        if (found != 0) return at + static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(found)));
+    }
+#endif
+    const Bytes& tells = inText ? kInText : kOutside;
+    while (at < text.size() && !tells[static_cast<unsigned char>(text[at])])
+        ++at;
+    return at;
+}
 
 // Whether a value may stand behind this.
 bool MayFollow(std::string_view text) {
@@ -85,9 +108,7 @@ std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
         return std::nullopt;
     }
     for (; at_ < left.size(); ++at_) {
-        const Bytes& tells = inText_ ? kInText : kOutside;
-        while (!escaped_ && at_ < left.size() && !tells[static_cast<unsigned char>(left[at_])])
-            ++at_;
+        if (!escaped_) at_ = NextTelling(left, at_, inText_);
         if (at_ == left.size()) break;
         const char c = left[at_];
         if (c == '\n') {

@@ -1,0 +1,155 @@
+// Explaining while there is no memory: each allocation fails in turn, be it the library's or a text's beside it.
+#include "explain/Explained.h"
+
+#include "support/FailingAllocator.h"
+
+#include "orrery/alarm_input.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sstream>
+
+namespace orrery::test {
+namespace {
+
+// What is told goes to memory of its own, which does not fail.
+struct Told {
+    static constexpr std::size_t kRoom = 64;
+    std::int32_t kinds[kRoom] = {};
+    std::uint64_t offsets[kRoom] = {};
+    std::size_t count = 0;
+
+    bool operator==(const Told&) const = default;
+
+    static std::int32_t Take(const ORRERY_FINDING* finding, void* user) {
+        auto& told = *static_cast<Told*>(user);
+        if (told.count == kRoom) return 0;
+        told.kinds[told.count] = finding->nKind;
+        told.offsets[told.count] = finding->nOffset;
+        ++told.count;
+        return 1;
+    }
+    static std::int32_t TakeFit(const ORRERY_FIT* fit, void* user) {
+        auto& told = *static_cast<Told*>(user);
+        if (told.count == kRoom) return 0;
+        told.kinds[told.count] = static_cast<std::int32_t>(fit->nRead);
+        ++told.count;
+        return 1;
+    }
+};
+
+// Either all is told, or that there was no memory and nothing. Answers how many times there was none.
+std::size_t FailsInTurn(const std::function<std::int32_t(Told&)>& call) {
+    Told whole;
+    const std::int32_t expected = call(whole);
+    EXPECT_GT(expected, 0);
+    std::size_t failures = 0;
+    const auto check = [&](std::int32_t count, const Told& told, const char* what, std::size_t n) {
+        if (count == ORRERY_EXPLAIN_NO_MEMORY) {
+            ++failures;
+            EXPECT_EQ(told.count, 0u) << what << ' ' << n;
+        } else {
+            EXPECT_EQ(count, expected) << what << ' ' << n;
+            EXPECT_TRUE(told == whole) << what << ' ' << n;
+        }
+    };
+    constexpr std::size_t kMost = 20'000;
+    std::size_t n = 1;
+    for (bool isEnd = false; !isEnd && n < kMost; ++n) {
+        Told told;
+        std::int32_t count = 0;
+        {
+            const NewWatch watch(n);
+            count = call(told);
+            isEnd = !watch.hasFailed();
+        }
+        check(count, told, "new", n);
+    }
+    EXPECT_LT(n, kMost);
+    n = 1;
+    for (bool isEnd = false; !isEnd && n < kMost; ++n) {
+        Told told;
+        std::int32_t count = 0;
+        {
+            HeapWatch watch;
+            watch.FailOnly(n);
+            count = call(told);
+            isEnd = watch.failures() == 0;
+        }
+        check(count, told, "malloc", n);
+    }
+    EXPECT_LT(n, kMost);
+    return failures;
+}
+
+std::size_t Replies(const char* command, const std::string& text) {
+    return FailsInTurn(
+        [&](Told& told) { return ORRERY_ExplainReply(command, text.data(), text.size(), 0, Told::Take, &told); });
+}
+
+TEST(NoMemory, ForFindingsOfEveryKind) {
+    EXPECT_GT(Replies("NTP", R"({"result":true,"params":{"table":{"Prot":1,"Port":"x","Port":"y","Enable":null}}} {})"),
+              20u);
+    EXPECT_GT(Replies("Alarm", R"({"result":true,"params":{"table":[{"Nmae":1,"SensorType":"none"},[],{"Name":")"
+                                   + std::string(200, 'n') + R"("}]}})"),
+              20u);
+    EXPECT_GT(Replies("NTP", R"({"result":)"), 2u);
+}
+
+TEST(NoMemory, WhereFunctionsAreTried) {
+    EXPECT_GT(Replies("VideoWidget", R"({"result":true,"params":{"table":[{"Nonsense":1,"Other":2}]}})"), 5u);
+    EXPECT_GT(
+        Replies("VideoAnalyseRule", R"({"result":true,"params":{"table":[{"Type":"CrossLineDetection","Nmae":1}]}})"),
+        5u);
+}
+
+TEST(NoMemory, ForADocumentThatIsLargerThanTheStack) {
+    std::string list;
+    for (int i = 0; i < 3000; ++i)
+        list += R"({"Name":"alarm","Nothing":[1,2,3]},)";
+    list.back() = ']';
+    // Not each of thousands of findings: the first and the last allocations of the document are those that matter.
+    const std::string text = R"({"result":true,"params":{"table":[)" + list + "}}";
+    for (std::size_t n = 1; n < 12; ++n) {
+        Told told;
+        HeapWatch watch;
+        watch.FailOnly(n);
+        const std::int32_t count = ORRERY_ExplainReply("Alarm", text.data(), text.size(), 0, Told::Take, &told);
+        if (watch.failures() > 0) {
+            EXPECT_EQ(count, ORRERY_EXPLAIN_NO_MEMORY) << n;
+        }
+    }
+}
+
+TEST(NoMemory, ForEvents) {
+    const std::string text = R"({"Event":[{"Code":"NoSuchEvent"},{"Code":"AlarmLocal","Data":{},"Actoin":1}]})";
+    EXPECT_GT(
+        FailsInTurn([&](Told& told) { return ORRERY_ExplainEvents(text.data(), text.size(), Told::Take, &told); }), 5u);
+}
+
+TEST(NoMemory, ForRecords) {
+    const auto alarm = std::make_unique<CFG_ALARM_INPUT_INFO>();
+    alarm->nChannel = 3;
+    EXPECT_GT(FailsInTurn([&](Told& told) {
+                  return ORRERY_ExplainRecord("Alarm", alarm.get(), sizeof *alarm, Told::Take, &told);
+              }),
+              5u);
+}
+
+TEST(NoMemory, ForFits) {
+    const std::string text = R"({"result":true,"params":{"table":{"Port":123,"UpdatePeriod":10}}})";
+    Told whole;
+    const std::int32_t expected = ORRERY_FindFits(text.data(), text.size(), Told::TakeFit, &whole);
+    for (std::size_t n = 1; n < 400; n += 7) {
+        Told told;
+        const NewWatch watch(n);
+        const std::int32_t count = ORRERY_FindFits(text.data(), text.size(), Told::TakeFit, &told);
+        if (count != ORRERY_EXPLAIN_NO_MEMORY || !watch.hasFailed()) {
+            EXPECT_EQ(count, expected) << n;
+        }
+    }
+}
+
+} // namespace
+} // namespace orrery::test
