@@ -259,6 +259,31 @@ TEST(RoundTrip, RandomBytesOfEveryRecordComeBack) {
     }
 }
 
+// Lines are put together of prepared parts, trees of the members one by one.
+TEST(Lines, AreTheTreesOfTheirRecords) {
+    std::mt19937 random(20261122);
+    for (const Table* table : AllTables()) {
+        const bool isLarge = table->size > 100000;
+        for (int round = isLarge ? 1 : 0; round < (isLarge ? 2 : 12); ++round) {
+            std::vector<std::byte> record(table->size);
+            // None at first; then a few, also counts, flags and the beginnings of texts.
+            for (const Field& field : *table) {
+                if (round == 0 || field.size == 0 || random() % 4 != 0) continue;
+                const std::size_t at = random() % 3 == 0 ? random() % field.size : 0;
+                record[field.offset + at] = static_cast<std::byte>(random() % 3 == 0 ? random() : 1 + random() % 3);
+            }
+            ClearPointers(*table, record.data());
+            for (const PrintOptions options : {PrintOptions{}, {.all = true}, {.brief = true}}) {
+                if (isLarge && options.all) continue; // megabytes of zeros
+                LineWriter line;
+                AppendRecord(line, *table, record.data(), options);
+                ASSERT_EQ(line.Take(), PrintRecord(*table, record.data(), options).OneLine())
+                    << table->record << ' ' << options.all << options.brief;
+            }
+        }
+    }
+}
+
 TEST(RoundTrip, EveryFloatPatternComesBack) {
     std::mt19937 random(7);
     SAMPLE_INFO record{};
