@@ -37,6 +37,10 @@ struct Fits {
         fits.all.push_back(*fit);
         return static_cast<int>(fits.names.size()) < fits.most ? 1 : 0;
     }
+    static Fits Of(const std::string& text) {
+        const Fits fits = Fits::Of(text);
+        return fits;
+    }
     std::int32_t Find(const std::string& text) { return ORRERY_FindFits(text.data(), text.size(), Take, this); }
     std::size_t PlaceOf(const std::string& name) const {
         return static_cast<std::size_t>(std::find(names.begin(), names.end(), name) - names.begin());
@@ -139,16 +143,15 @@ TEST(ExplainExports, TheFitsOfAReply) {
 }
 
 TEST(ExplainExports, CommandsOfOneTableAreToldEach) {
-    Fits fits;
-    fits.Find(R"({"result":true,"params":{"table":{"Enable":true,"EventHandler":{}}}})");
+    const Fits fits = Fits::Of(R"({"result":true,"params":{"table":{"Enable":true,"EventHandler":{}}}})");
     EXPECT_TRUE(fits.Has("ChassisIntrusion"));
     EXPECT_TRUE(fits.Has("Emergency"));
 }
 
 TEST(ExplainExports, CommandsThatRefuseComeLastAndReadNothingOfARefusedCall) {
     // A rule of no known type fails the call, and others read lists of things with names.
-    Fits fits;
-    fits.Find(R"({"result":true,"params":{"table":[{"Type":"CrossLineDetection","Name":"n"},{"Type":"NoSuchRule"}]}})");
+    const Fits fits = Fits::Of(
+        R"({"result":true,"params":{"table":[{"Type":"CrossLineDetection","Name":"n"},{"Type":"NoSuchRule"}]}})");
     ASSERT_TRUE(fits.Has("VideoAnalyseRule"));
     EXPECT_EQ(fits.all[fits.PlaceOf("VideoAnalyseRule")].bRefused, 1);
     EXPECT_EQ(fits.all.front().bRefused, 0);
@@ -156,15 +159,13 @@ TEST(ExplainExports, CommandsThatRefuseComeLastAndReadNothingOfARefusedCall) {
         return left.bRefused < right.bRefused;
     }));
 
-    Fits refused;
-    refused.Find(R"({"result":false,"params":{"table":{"Port":123,"UpdatePeriod":10}}})");
+    const Fits refused = Fits::Of(R"({"result":false,"params":{"table":{"Port":123,"UpdatePeriod":10}}})");
     EXPECT_FALSE(refused.Has("NTP"));
     EXPECT_TRUE(refused.Has("RTSP"));
 }
 
 TEST(ExplainExports, EventsHaveNoCommandsName) {
-    Fits fits;
-    fits.Find(R"({"Event":[{"Code":"VideoMotion","Data":{"Name":"n"}}]})");
+    const Fits fits = Fits::Of(R"({"Event":[{"Code":"VideoMotion","Data":{"Name":"n"}}]})");
     ASSERT_FALSE(fits.names.empty());
     EXPECT_EQ(fits.names[0], "");
 }

@@ -74,24 +74,20 @@ TEST(Groups, ANinthGroupIsDroppedAndOnesPassedOverTakeNoRoom) {
     EXPECT_EQ(dropped(InGroups("{" + groups + R"(,"WanderDetection":{},"StayDetection":{})" + "}")), 2u);
 }
 
+// The one finding: its word, and its path below the scene.
+std::string Only(const std::string& rules) {
+    constexpr std::string_view kScene = "params.table[0].";
+    const auto found = InGroups(rules);
+    if (found.size() != 1) return std::to_string(found.size()) + " findings";
+    return found[0].word + ' ' + found[0].path.substr(kScene.size());
+}
+
 TEST(Groups, WhatIsNoGroupAndNoListOfRules) {
-    const auto none = InGroups(R"([1])");
-    ASSERT_EQ(none.size(), 1u);
-    EXPECT_EQ(none[0].word, "wrong-type");
-    EXPECT_EQ(none[0].path, "params.table[0].Rules");
-    const auto rules = InGroups(R"({"FireDetection":{"Rule":{"Name":"a"}}})");
-    ASSERT_EQ(rules.size(), 1u);
-    EXPECT_EQ(rules[0].word, "wrong-type");
-    EXPECT_EQ(rules[0].path, "params.table[0].Rules.FireDetection.Rule");
-    const auto null = InGroups(R"({"FireDetection":{"Rule":[{},null]}})");
-    ASSERT_EQ(null.size(), 1u);
-    EXPECT_EQ(null[0].word, "null");
-    EXPECT_EQ(null[0].path, "params.table[0].Rules.FireDetection.Rule[1]");
+    EXPECT_EQ(Only("[1]"), "wrong-type Rules");
+    EXPECT_EQ(Only(R"({"FireDetection":{"Rule":{"Name":"a"}}})"), "wrong-type Rules.FireDetection.Rule");
+    EXPECT_EQ(Only(R"({"FireDetection":{"Rule":[{},null]}})"), "null Rules.FireDetection.Rule[1]");
     // A type that has a size, and no record.
-    const auto counted = InGroups(R"({"TrafficNoPassing":{"Rule":[{"Name":"a"}]}})");
-    ASSERT_EQ(counted.size(), 1u);
-    EXPECT_EQ(counted[0].word, "unknown-item");
-    EXPECT_EQ(counted[0].path, "params.table[0].Rules.TrafficNoPassing.Rule");
+    EXPECT_EQ(Only(R"({"TrafficNoPassing":{"Rule":[{"Name":"a"}]}})"), "unknown-item Rules.TrafficNoPassing.Rule");
     EXPECT_TRUE(InGroups(R"({"TrafficNoPassing":{"Rule":[]}})").empty());
 }
 

@@ -72,6 +72,41 @@ const char* OfLength(ReplyLength rule) {
     return "";
 }
 
+const char* OfForm(Form form) {
+    switch (form) {
+    case Form::One:
+        return "one record";
+    case Form::Array:
+        return "a list of as many records as there are";
+    case Form::BareIfOne:
+    case Form::BareIfExact:
+        return "one record bare, several as a list";
+    case Form::ByMember:
+        return "an object with each record under its name";
+    case Form::Nothing:
+        return "an empty text of JSON, whatever the record";
+    case Form::NoText:
+        return "no text at all";
+    }
+    return "";
+}
+
+const char* OfCapacity(Capacity rule) {
+    switch (rule) {
+    case Capacity::Strict:
+        return "the text must be shorter than its buffer";
+    case Capacity::Loose:
+        return "a text of exactly its buffer's size loses its last character to the terminator";
+    case Capacity::Raw:
+        return "a text of exactly its buffer's size has no terminator";
+    case Capacity::OneBefore:
+        return "the text must be shorter than its buffer by two";
+    case Capacity::Bare:
+        return "nothing is written behind the text";
+    }
+    return "";
+}
+
 const char* kSized = "each record begins with its caller's size, which may be an older one's";
 
 } // namespace
@@ -116,47 +151,11 @@ std::vector<std::string> PackSentences(const Command& command) {
         return said;
     }
     const PackFrame& frame = command.packFrame;
-    switch (frame.form) {
-    case Form::One:
-        said.push_back("one record");
-        break;
-    case Form::Array:
-        said.push_back("a list of as many records as there are");
-        break;
-    case Form::BareIfOne:
-    case Form::BareIfExact:
-        said.push_back("one record bare, several as a list");
-        break;
-    case Form::ByMember:
-        said.push_back("an object with each record under its name");
-        break;
-    case Form::Nothing:
-        said.push_back("an empty text of JSON, whatever the record");
-        break;
-    case Form::NoText:
-        said.push_back("no text at all");
-        break;
-    }
+    said.push_back(OfForm(frame.form));
     if (frame.quotedKey[0] != '\0')
         said.push_back("under the key "
                        + std::string(frame.quotedKey, 0, std::string_view(frame.quotedKey).rfind('"') + 1));
-    switch (frame.capacity) {
-    case Capacity::Strict:
-        said.push_back("the text must be shorter than its buffer");
-        break;
-    case Capacity::Loose:
-        said.push_back("a text of exactly its buffer's size loses its last character to the terminator");
-        break;
-    case Capacity::Raw:
-        said.push_back("a text of exactly its buffer's size has no terminator");
-        break;
-    case Capacity::OneBefore:
-        said.push_back("the text must be shorter than its buffer by two");
-        break;
-    case Capacity::Bare:
-        said.push_back("nothing is written behind the text");
-        break;
-    }
+    said.push_back(OfCapacity(frame.capacity));
     if (frame.stride != Stride::Record) said.push_back(kSized);
     if (frame.exactSize) said.push_back("the record must have exactly its size");
     if (frame.keepsText) said.push_back("a call that fails leaves the text buffer as it was");
