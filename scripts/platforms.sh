@@ -83,20 +83,34 @@ for command in json.load(sys.stdin)["commands"]:
     echo "platforms: $name: layout, schema and the texts of $(wc -l <"$out/commands.txt") commands are the same"
 }
 
+# apt for files that are only looked at: nothing of it is installed here.
+apart() { # apart FOLDER LINE [OPTION...]
+    local at=$1 line=$2 site
+    shift 2
+    mkdir -p "$at/lists/partial" "$at/cache/archives/partial"
+    site=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | sed -n 1p)
+    echo "${line/ / [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $site bookworm }" >"$at/sources.list"
+    own=(-o "Dir::Etc::SourceList=$at/sources.list" -o Dir::Etc::SourceParts=- -o "Dir::State::Lists=$at/lists"
+        -o "Dir::Cache=$at/cache" -o Dir::State::status=/dev/null -o APT::Sandbox::User=root "$@")
+    apt-get "${own[@]}" update
+}
+
+# Libraries of a whole Arm system, whose converters of texts the cross compiler's packages lack.
+arm_system() {
+    local at=$out/arm64 package
+    [ ! -d "$at/root/usr/lib/aarch64-linux-gnu/gconv" ] || return 0
+    apart "$at" 'deb main' -o APT::Architecture=arm64 -o APT::Architectures::=arm64
+    (cd "$at" && apt-get "${own[@]}" download libc6 libgcc-s1 libstdc++6)
+    for package in "$at"/*.deb; do dpkg -x "$package" "$at/root"; done
+}
+
 # The referee of the tests is no package of these platforms: its sources are those of this machine's.
 jsoncpp() {
-    local at=$out/jsoncpp site
+    local at=$out/jsoncpp
     [ -z "$(compgen -G "$at/*/src/lib_json/json_value.cpp")" ] || return 0
     needs dpkg-dev
-    mkdir -p "$at/lists/partial"
-    site=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | sed -n 1p)
-    echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $site bookworm main" >"$at/sources.list"
-    (
-        cd "$at"
-        own=(-o "Dir::Etc::SourceList=$at/sources.list" -o Dir::Etc::SourceParts=- -o "Dir::State::Lists=$at/lists")
-        apt-get "${own[@]}" update
-        apt-get "${own[@]}" -o APT::Sandbox::User=root source libjsoncpp
-    )
+    apart "$at" 'deb-src main'
+    (cd "$at" && apt-get "${own[@]}" source libjsoncpp)
 }
 
 # The tests that need nothing but the library, GoogleTest, the referee and what this platform has.
@@ -146,11 +160,35 @@ run_tests() { # run_tests NAME COMPILER RUNNER...
     echo "platforms: $name: the tests of $(wc -l <"$build/tests.txt") files passed"
 }
 
+# Clients of the shared library, as they are built there.
+run_clients() { # run_clients NAME C_COMPILER CXX_COMPILER RUNNER...
+    local name=$1 c=$2 cxx=$3 program
+    shift 3
+    mkdir -p "$out/$name/clients"
+    (
+        cd "$out/$name" # where the library is found when it is loaded
+        for program in tests/packaging/consumer.c examples/{parse_and_pack,print_events,walk_rules}.c \
+            tests/packaging/consumer.cpp examples/typed.cpp; do
+            local compiler=("$c" -std=c99)
+            case $program in *.cpp) compiler=("$cxx" -std=c++11) ;; esac
+            # shellcheck disable=SC2086 # several words
+            "${compiler[@]}" "-I$root/include" "$root/$program" -o "client$EXE" -L. -lorrery $CLIENT_LINK
+            "$@" "./client$EXE" >"clients/$(basename "$program").txt" || {
+                echo "platforms: $name: $program fails" >&2
+                exit 1
+            }
+        done
+    )
+    echo "platforms: $name: $(find "$out/$name/clients" -name '*.txt' | wc -l) clients of the shared library ran"
+}
+
 stage_aarch64() {
     needs g++-aarch64-linux-gnu qemu-user libgmock-dev
     configure aarch64 aarch64
-    local run=(qemu-aarch64 -L /usr/aarch64-linux-gnu)
+    arm_system
+    local run=(qemu-aarch64 -L "$out/arm64/root")
     same_texts aarch64 "${run[@]}" "$out/aarch64/orrery"
+    EXE='' CLIENT_LINK=-Wl,-rpath,. run_clients aarch64 aarch64-linux-gnu-gcc aarch64-linux-gnu-g++ "${run[@]}"
     FLAGS='' LINK=-pthread EXE='' run_tests aarch64 aarch64-linux-gnu-g++ "${run[@]}"
 }
 
@@ -161,10 +199,23 @@ stage_windows() {
     wine=$(command -v wine64 || command -v wine || echo /usr/lib/wine/wine64)
     export WINEDEBUG=-all WINEPREFIX=$out/wine
     same_texts windows "$wine" "$out/windows/orrery.exe"
+    EXE=.exe CLIENT_LINK='-static-libgcc -static-libstdc++' \
+        run_clients windows x86_64-w64-mingw32-gcc-posix x86_64-w64-mingw32-g++-posix "$wine"
     # Locales of POSIX, and gigabytes of text that the system only lends.
     LACKS='support/Locales|MAP_NORESERVE' \
         FLAGS="-I$root/tests/support/windows -Dmalloc_usable_size=_msize" LINK='-static' EXE=.exe \
         run_tests windows x86_64-w64-mingw32-g++-posix "$wine"
+    # Texts in the process's code page, which follows the locale of who starts it here.
+    needs locales
+    local page locale
+    for page in 932:ja_JP 936:zh_CN 1252:de_DE; do
+        locale=${page#*:}
+        mkdir -p "$out/locales"
+        [ -d "$out/locales/$locale.UTF-8" ] || localedef -i "$locale" -f UTF-8 "$out/locales/$locale.UTF-8"
+        LOCPATH=$out/locales LC_ALL=$locale.UTF-8 ORRERY_CODE_PAGE=${page%:*} \
+            "$wine" "$out/windows/tests/orrery_tests.exe" --gtest_brief=1 --gtest_filter='CodePage.*'
+        echo "platforms: windows: texts in code page ${page%:*} passed"
+    done
 }
 
 for stage in "${stages[@]}"; do
