@@ -11,7 +11,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE BOTH)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 # Programs run without the compiler's own libraries beside them.
-add_link_options(-static-libgcc -static-libstdc++ -Wl,-Bstatic,-lstdc++,-lwinpthread,-Bdynamic)
+add_link_options(-static)
 # g++ 12 puts one and the same inline constant into read-only data in one file and into writable data in another, which
 # this linker takes for two.
 add_link_options(-Wl,--allow-multiple-definition)
