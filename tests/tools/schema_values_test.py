@@ -9,7 +9,8 @@ import subprocess
 import sys
 import unittest
 
-from schema_values import Lack, Maker, Memory, Text, Value, differences, images
+from schema_texts import Texts, put, result_of
+from schema_values import Lack, Maker, Memory, Text, differences, images
 
 COMPANION, LIBRARY = sys.argv[1:3]
 CALLBACK = ctypes.CFUNCTYPE(ctypes.c_int32, ctypes.c_uint32, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p,
@@ -27,6 +28,7 @@ class Trial:
     def __init__(self, schema, second=False, unknown=False):
         self.schema = schema
         self.maker = Maker(schema, second, unknown)
+        self.texts = Texts(schema, self.maker)
         self.looked, self.by_function, self.shared, self.completed = 0, 0, 0, set()
         # Of the keys that functions read: those whose value stands as the member's type lets expect, those whose
         # member changes when the key goes, and of the others why nothing is compared.
@@ -64,55 +66,33 @@ class Trial:
             else:
                 self.uncompared["its member stays the same: nothing tells what it takes"] += 1
 
-    def put(self, reply, path, value):
-        parts = path.split("/")
-        for part in parts[:-1]:
-            reply = reply.setdefault(part, {})
-        reply[parts[-1]] = value
-
     # ---- Commands ---------------------------------------------------------------------------------------------------
 
     def command(self, command):
         """What is wrong with a command; nothing when all is in its place."""
-        reading = command["reading"]
-        form = self.maker.form(command)
-        size = self.maker.size(command["record"])
-        text = Text()
-        # The caller's own input stays: its size words are among it.
-        sized = reading["stride"] != "record" or reading["clears"] == "kept"
-        shapes = reading["shapes"]
-        count = 2 if "records" in (shapes["array"],) or shapes["object"] == "members" else 1
-        if "items" in form:
-            return self.items(command, form, size)
-        values = []
-        for i in range(count):
-            member = None
-            if shapes["object"] == "members":
-                member = self.maker.member_names(form, count)[i]
-            values.append((member, self.maker.record(form, (i * size,), text, sized, member, f"[{i}]." if i else "")))
-        value = values[0][1]
-        if shapes["object"] == "members":
-            value = dict(values)
-        elif shapes["array"] == "records":
-            value = [each for _, each in values]
-        reply = {"result": 1 if reading["result"] == "integerNonZero" else True, **text.reply}
-        self.put(reply, reading["value"][0], value)
-        memory = Memory(count * size)
-        memory.prepare(text.before)
+        if "items" in self.maker.form(command):
+            return [f"{rule['name']}: {each}" for rule in self.texts.rules_of(command)
+                    for each in self.parsed(command, self.texts.rule(command, rule))]
+        return self.parsed(command, self.texts.command(command))
+
+    def parsed(self, command, made):
+        memory = Memory(made.size)
+        memory.prepare(made.text.before)
         told = ctypes.c_uint32(0)
-        done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), memory.base,
-                                        count * size, ctypes.byref(told))
+        done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(made.reply).encode(), memory.base,
+                                        made.size, ctypes.byref(told))
         if done != 1:
-            return [f"refused: {json.dumps(reply)[:300]}"]
-        wrong = self.differences(memory.base, text)
+            return [f"refused: {json.dumps(made.reply)[:300]}"]
+        wrong = self.differences(memory.base, made.text)
 
         def again():
-            other = Memory(count * size)
-            other.prepare(text.before)
-            done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), other.base,
-                                            count * size, None)
-            return images(other.base, text.stored) if done == 1 else None
-        self.functions(memory.base, text, again)
+            other = Memory(made.size)
+            other.prepare(made.text.before)
+            done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(made.reply).encode(), other.base,
+                                            made.size, None)
+            return images(other.base, made.text.stored) if done == 1 else None
+        if "items" not in self.maker.form(command):
+            self.functions(memory.base, made.text, again)
         return wrong
 
     def absent(self, command):
@@ -122,8 +102,8 @@ class Trial:
             return []
         text, memory = Text(), Memory(self.maker.size(command["record"]))
         self.maker.absent(form, (0,), text)
-        reply = {"result": 1 if reading["result"] == "integerNonZero" else True}
-        self.put(reply, reading["value"][0], {})
+        reply = {"result": result_of(reading)}
+        put(reply, reading["value"][0], {})
         if reading["value"][0] == "result":
             return []
         done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), memory.base,
@@ -132,43 +112,6 @@ class Trial:
             # Functions may insist on their keys.
             return [] if any("function" in field for field in form["fields"]) else [f"refused: {reply}"]
         return self.differences(memory.base, text)
-
-    # ---- Rules ------------------------------------------------------------------------------------------------------
-
-    def items(self, command, form, size):
-        rules = [rule for rule in self.schema["rules"]
-                 if rule["descriptor"] == command["record"] and not rule.get("writeOnly")]
-        wrong = []
-        for rule in rules:
-            wrong += [f"{rule['name']}: {each}" for each in self.rule(command, form, size, rule)]
-        return wrong
-
-    def item(self, form, rule):
-        """A packed item: its text, and the memory behind the descriptor's pointer."""
-        items, text = form["items"], Text()
-        pointer = next(field for field in form["fields"] if "items" in field.get("pointer", {}))
-        member = lambda word: self.maker.field_of(form, pointer["pointer"][word])
-        head = self.maker.records[items["head"]]
-        value = self.maker.record(self.maker.form(rule), (pointer["offset"], head["size"]), text)
-        value[items["typeKey"]] = rule["name"]
-        room = head["size"] + rule["size"]
-        if pointer["pointer"]["owner"] == "caller":
-            text.before = [Value((pointer["offset"],), "block", room, ""),
-                           Value((member("bytes")["offset"],), member("bytes")["type"], room, "")] + text.before
-        for name, wanted in ((items["code"], rule["code"]), (items["size"], rule["size"])):
-            field = self.maker.field_of(head, name)
-            text.after.append(Value((pointer["offset"], field["offset"]), field["type"], wanted, name))
-        text.after.append(Value((member("items")["offset"],), member("items")["type"], 1, member("items")["name"]))
-        return text, value
-
-    def rule(self, command, form, size, rule):
-        text, value = self.item(form, rule)
-        memory = Memory(size)
-        memory.prepare(text.before)
-        reply = {"result": True, **text.reply}
-        self.put(reply, command["reading"]["value"][0], [value])
-        done = library.CLIENT_ParseData(command["name"].encode(), json.dumps(reply).encode(), memory.base, size, None)
-        return ["refused"] if done != 1 else self.differences(memory.base, text)
 
     # ---- Events and typed texts ---------------------------------------------------------------------------------------
 
@@ -184,81 +127,56 @@ class Trial:
         return wrong if len(calls) == 1 else [f"handed over {len(calls)} times: {json.dumps(reply)[:300]}"]
 
     def event(self, event):
-        form, keys, text = self.maker.form(event), self.schema["texts"]["events"], Text()
-        value = self.maker.record(form, (0,), text)
-        self.supplied(form, text)
-        one = {keys["name"]: event["name"], keys["action"]: "Stop", keys["data"]: value, **text.reply}
+        made = self.texts.event(event)
 
         def look(code, record, size):
             wrong = [] if (code, size) == (event["code"], event["size"]) else [f"code {code}, {size} bytes"]
-            wrong += self.differences(record, text)
+            wrong += self.differences(record, made.text)
 
             def again():
                 found = []
-                self.delivered(library.CLIENT_ParseAnalyzerEventData, {keys["list"][0]: [one]},
-                               lambda _code, other, _size: found.append(images(other, text.stored)) or [])
+                self.delivered(library.CLIENT_ParseAnalyzerEventData, made.reply,
+                               lambda _code, other, _size: found.append(images(other, made.text.stored)) or [])
                 return found[0] if found else None
-            self.functions(record, text, again)
+            self.functions(record, made.text, again)
             return wrong
-        return self.delivered(library.CLIENT_ParseAnalyzerEventData, {keys["list"][0]: [one]}, look)
-
-    def supplied(self, form, text):
-        for field in form["fields"]:
-            if field.get("supplied") == "action":
-                text.after.append(Value((field["offset"],), field["type"], 2, field["name"]))
+        return self.delivered(library.CLIENT_ParseAnalyzerEventData, made.reply, look)
 
     def typed(self, typed):
-        form, text = self.maker.form(typed), Text()
-        if any(field.get("pointer", {}).get("items") for field in form["fields"]):
-            return self.typed_items(typed, form)
-        value = self.maker.record(form, (0,), text)
+        if any(field.get("pointer", {}).get("items") for field in self.maker.form(typed)["fields"]):
+            return self.typed_items(typed)
+        made = self.texts.typed(typed)
 
         def look(code, record, size):
-            wrong = [] if code == typed["code"] and size == self.maker.size(typed["record"]) else [f"{code}, {size}"]
-            return wrong + self.differences(record, text)
-        reply = {typed["name"]: [value] if typed["list"] else value, **text.reply}
-        return self.delivered(library.CLIENT_ParseDataByCallback, reply, look)
+            wrong = [] if code == typed["code"] and size == made.size else [f"{code}, {size}"]
+            return wrong + self.differences(record, made.text)
+        return self.delivered(library.CLIENT_ParseDataByCallback, made.reply, look)
 
-    def typed_items(self, typed, form):
+    def rules(self):
+        return [rule for rule in self.schema["rules"] if not rule.get("writeOnly")]
+
+    def typed_items(self, typed):
         wrong = []
-        for rule in self.schema["rules"]:
-            if not rule.get("writeOnly"):
-                text, value = self.item(form, rule)
-                wrong += self.delivered(library.CLIENT_ParseDataByCallback, {typed["name"]: [value]},
-                                        lambda code, record, size, text=text: self.differences(record, text))
+        for rule in self.rules():
+            made = self.texts.typed_rule(typed, rule)
+            wrong += self.delivered(library.CLIENT_ParseDataByCallback, made.reply,
+                                    lambda code, record, size, made=made: self.differences(record, made.text))
         return wrong
 
     def template(self, template):
-        form, around = self.maker.form(template), self.schema["texts"]["templates"]
-        place, code = around["value"][0], 0
-        if template["class"]:
-            chosen = next(each for each in around["classes"] if each["name"])
-            place, code = f"{place}/{chosen['name']}", chosen["code"]
-        if "items" in form:
-            rules = [rule for rule in self.schema["rules"] if not rule.get("writeOnly")]
-            return [f"{rule['name']}: {each}" for rule in rules
-                    for each in self.template_rule(template, form, rule, place, code)]
-        text, memory = Text(), Memory(self.maker.size(template["record"]))
-        self.put_template(template, place, self.maker.record(form, (0,), text))
-        return self.run_template(template, code, memory, text)
+        if "items" in self.maker.form(template):
+            return [f"{rule['name']}: {each}" for rule in self.rules()
+                    for each in self.run_template(template, self.texts.template_rule(template, rule))]
+        return self.run_template(template, self.texts.template(template))
 
-    def put_template(self, _template, place, value):
-        self.reply = {"result": True}
-        self.put(self.reply, place, value)
-
-    def run_template(self, template, code, memory, text):
-        memory.prepare(text.before)
-        done = library.CLIENT_ParseVideoInAnalyse(template["name"].encode(), code, json.dumps(self.reply).encode(),
+    def run_template(self, template, made):
+        memory = Memory(made.size)
+        memory.prepare(made.text.before)
+        done = library.CLIENT_ParseVideoInAnalyse(template["name"].encode(), made.code, json.dumps(made.reply).encode(),
                                                   b"x", memory.base, memory.size)
         if done != 1:
-            return [f"refused: {json.dumps(self.reply)[:300]}"]
-        return self.differences(memory.base, text)
-
-    def template_rule(self, template, form, rule, place, code):
-        text, value = self.item(form, rule)
-        value[form["items"]["classKey"]] = place.split("/")[-1]
-        self.put_template(template, place, {"Some rule": value})
-        return self.run_template(template, code, Memory(self.maker.size(template["record"])), text)
+            return [f"refused: {json.dumps(made.reply)[:300]}"]
+        return self.differences(memory.base, made.text)
 
 
 def all_wrong(trial, kind, run, skip=lambda each: False):

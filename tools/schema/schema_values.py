@@ -409,6 +409,10 @@ class Maker:
                     text.after.append(Value(at, "text" if field["type"] == "char" else field["type"],
                                             b"" if field["type"] == "char" else value, name))
 
+    def words(self, row, room):
+        """A text that fills the member's room."""
+        return (f"T{self.next()} of {row['name']} " * 40)[:room]
+
     # ---- Single values ------------------------------------------------------------------------------------------------
 
     def code_of(self, field, name):
@@ -448,7 +452,7 @@ class Maker:
         if kind in ("text", "rawText", "fullText"):
             room = row["dims"][-1] - (1 if row["terminator"] else 0)
             room = min(room, row.get("firstBytes", room), 400)
-            value = (f"T{self.next()} of {row['name']} " * 40)[:room]
+            value = self.words(row, room)
             put(at, "text" if room < row["dims"][-1] else "full", value.encode())
             return value
         if kind == "names":
