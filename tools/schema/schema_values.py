@@ -447,6 +447,9 @@ class Maker:
             return number
         if kind == "real":
             number = self.next() + 0.25
+            if self.ranged and "range" in row:
+                low, high = row["range"]
+                number = low + (high - low) * (1 + number // 1 % 3) / 4
             put(at, row["type"], number)
             return number
         if kind in ("text", "rawText", "fullText"):
