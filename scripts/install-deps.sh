@@ -1,18 +1,22 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building and testing need; those that are there already are left alone.
-# install-deps.sh [build|all]: `build` is what the library and the companion need, `all` (default) everything.
+# install-deps.sh [build|all|site]: `build` is what the library and the companion need, `all` (default) everything for
+# building and testing, `site` also the browser that looks at the reference site.
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config libcli11-dev python3)
 test=(abigail-tools binutils ccache clang-14 clang-format-14 llvm-14 libclang-rt-14-dev libgmock-dev libgtest-dev
-    jq libjsoncpp-dev locales python3-hypothesis python3-jsonschema python3-pytest)
+    jq libjsoncpp-dev locales python3-hypothesis python3-jsonschema python3-markdown python3-pytest)
 bench=(libbenchmark-dev libsimdjson-dev nlohmann-json3-dev rapidjson-dev)
+
+site=(chromium chromium-driver python3-selenium)
 
 case ${1:-all} in
 build) wanted=("${build[@]}") ;;
 all) wanted=("${build[@]}" "${test[@]}" "${bench[@]}") ;;
+site) wanted=("${build[@]}" "${test[@]}" "${bench[@]}" "${site[@]}") ;;
 *)
-    echo "usage: $0 [build|all]" >&2
+    echo "usage: $0 [build|all|site]" >&2
     exit 2
     ;;
 esac

@@ -5,6 +5,7 @@
 #   embedded port archive     inside a client's build (FetchContent), as a port for vcpkg, as cpack's archive
 #   debian root python        Debian packages without a finding of lintian, on a bare system; types of the Python package
 #   bits32 aarch64 windows    refused; library, companion and tests under qemu-user; the same under wine64
+#   site                      the reference site, in a browser as well
 # A stage that fails does not stop the others. The last line is "N passed, M failed": one for each test that ctest ran,
 # each fuzz target and each stage that could not run its tests. What failed stands above it.
 # Results stay in build/results: JUnit files, a log a stage, fuzz findings.
@@ -19,7 +20,7 @@ jobs=$(nproc)
 all_stages=(format release gcc asan fuzz tsan)
 package_stages=(embedded port archive debian root python)
 platform_stages=(bits32 aarch64 windows)
-long_stages=(release abi "${package_stages[@]}" "${platform_stages[@]}")
+long_stages=(release abi site "${package_stages[@]}" "${platform_stages[@]}")
 stages=()
 for stage in "$@"; do
     if [ "$stage" = long ]; then stages+=("${long_stages[@]}"); else stages+=("$stage"); fi

@@ -6,6 +6,7 @@ import re
 import markdown
 
 from .markup import code, page
+from .recipes import PARAGRAPH, programs_of
 
 # Documents and their pages.
 PAGES = {"docs/cookbook.md": "cookbook.html", "docs/platforms.md": "platforms.html", "docs/schema.md": "schema.html",
@@ -13,12 +14,6 @@ PAGES = {"docs/cookbook.md": "cookbook.html", "docs/platforms.md": "platforms.ht
 LANGUAGES = {".c": ("C", "c"), ".cpp": ("C++", "c"), ".py": ("Python", "python")}
 LINK = re.compile(r"\[([^\]]+)\]\(([^)#:]+)(#[^)]*)?\)")
 FENCE = re.compile(r"^```(\w*)\n(.*?)^```$", re.S | re.M)
-
-
-def programs_of(line):
-    """The programs that a line of the cookbook names: it has links to them and nothing else."""
-    found = re.findall(r"\[[^\]]+\]\(([^)]+\.(?:cpp|c|py))\)", line)
-    return found if found and re.fullmatch(r"(?:\[[^\]]+\]\([^)]+\)|[\s·,:]|and|print)+", line) else []
 
 
 def slug(text):
@@ -45,7 +40,7 @@ def rendered(source, document, root_path):
                 language, colours = LANGUAGES[os.path.splitext(name)[1]]
                 open_now = " open" if language == "C" or len(names) == 1 else ""
                 parts.append(f'<details class="source"{open_now}><summary>{language} <code>{path}</code></summary>{code(file.read(), colours)}</details>')
-        return keep(f'<div class="sources">{"".join(parts)}</div><p class="prints">print</p>')
+        return keep(f'<div class="sources">{"".join(parts)}</div><p class="prints">{"prints" if len(names) == 1 else "each prints"}</p>')
 
     def link(match):
         text, to, anchor = match.groups()
@@ -53,7 +48,7 @@ def rendered(source, document, root_path):
         return f"[{text}]({PAGES[path]}{anchor or ''})" if path in PAGES else f"{text} (`{path}`)" if text != to else f"`{path}`"
 
     source = FENCE.sub(lambda match: keep(code(match.group(2), {"c": "c", "cpp": "c", "python": "python"}.get(match.group(1), ""))), source)
-    source = re.sub(r"^\[.*$(?:\n^(?!\s*$).*$)*", programs, source, flags=re.M)
+    source = PARAGRAPH.sub(programs, source)
     source = LINK.sub(link, source)
     html_text = markdown.markdown(source, extensions=["tables"])
     html_text = re.sub(r"<p>KEPT(\d+)KEPT</p>", lambda match: kept[int(match.group(1))], html_text)

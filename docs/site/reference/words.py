@@ -68,14 +68,12 @@ def json_type(row, model):
 
 def absent(row):
     """What an absent key gives; empty where there is no key."""
-    if "key" not in row or not row["type"] or row["kind"] == "presence":
-        return "0" if row["kind"] == "presence" else ""
-    if row.get("writeOnly"):
-        return ""
-    if row.get("function", {}).get("read") and "default" not in row:
-        return ""
     if "default" in row:
         return str(row["default"])
+    if "key" not in row or not row["type"] or row["kind"] == "presence":
+        return "0" if row["kind"] == "presence" else ""
+    if row.get("writeOnly") or row.get("function", {}).get("read"):
+        return ""
     if row["type"] == "char" and len(row["dims"]) == 1:
         return "empty"
     if row["type"] == "ptr":
