@@ -87,6 +87,11 @@ struct CallBench {
         benchmark::ClobberMemory();
         return done;
     }
+    bool ClearText(std::size_t) {
+        std::memset(buffer.get(), 0, room);
+        benchmark::ClobberMemory();
+        return true;
+    }
     bool PackTheirs(std::size_t i) {
         const bool done = packByHand(*records[i], buffer.get(), room);
         benchmark::ClobberMemory();

@@ -23,6 +23,7 @@ struct MemberRow {
     const char* command;
     unsigned records = 1; // in a reply
     unsigned most = 4;    // elements of a list at the most; pointers of the caller's lead to as many
+    double packBar = 3;   // how many times as long building and writing the document takes at the least
 };
 
 std::span<const MemberRow> MemberRows();
@@ -35,6 +36,7 @@ class MemberBench {
     const char* name;
     Texts texts;
     bool packs = false;
+    double packBar;
 
     bool Parse(std::size_t i);
     bool ParseTextAndClear(std::size_t i);
@@ -47,6 +49,7 @@ class MemberBench {
     std::size_t records() const { return kept_.size(); }
     bool Pack(std::size_t i);
     bool WriteAndClear(std::size_t i);
+    bool ClearText(std::size_t i);
 
     // Every text is read, and what is packed of it is JSON; says on standard error what is not.
     bool IsGood();

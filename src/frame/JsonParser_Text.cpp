@@ -20,10 +20,6 @@ std::uint64_t Word(const char* text) noexcept {
     return word;
 }
 
-unsigned char Folded(char letter) noexcept {
-    return static_cast<unsigned char>(letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter);
-}
-
 } // namespace
 
 bool JsonParser::GetJsonString(const json::Value& value, char* destination, std::size_t capacity,

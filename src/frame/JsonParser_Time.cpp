@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 namespace orrery {
 
@@ -111,6 +112,7 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
 // Of a section in quotes, and what a store of it takes beyond.
 constexpr std::size_t kSectionText = 21;
 constexpr std::size_t kSectionRoom = 24;
+constexpr char kEmptySection[] = "\"0 00:00:00-00:00:00\"";
 
 // The counterpart of ReadUsualSection: a week has 42 of them or 70. Null when a field has more digits than usual.
 char* PutUsualSection(char* to, const void* section) noexcept {
@@ -128,18 +130,18 @@ char* PutUsualSection(char* to, const void* section) noexcept {
     const __m128i ones = _mm_sub_epi16(numbers, _mm_mullo_epi16(tens, _mm_set1_epi16(10)));
     const __m128i digits = _mm_add_epi16(_mm_or_si128(tens, _mm_slli_epi16(ones, 8)), _mm_set1_epi16(0x3030));
     // Two letters a number, the first lowest.
-    const auto first = static_cast<std::uint64_t>(_mm_cvtsi128_si64(digits));
-    const auto second = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(digits, digits)));
-    constexpr std::uint64_t kHour = 0xFFFF0000, kMinute = 0xFFFF00000000;
-    const std::uint64_t flagToMinute = (first >> 8 & 0xFF) | std::uint64_t{' '} << 8 | (first & kHour)
-                                       | std::uint64_t{':'} << 32 | (first & kMinute) << 8 | std::uint64_t{':'} << 56;
-    const std::uint64_t secondToMinute = (second & 0xFFFF) | std::uint64_t{'-'} << 16 | (second & kHour) << 8
-                                         | std::uint64_t{':'} << 40 | (second & kMinute) << 16;
-    const auto lastSecond = static_cast<std::uint32_t>(':' | second >> 48 << 8 | std::uint64_t{'"'} << 24);
-    *to = '"';
-    std::memcpy(to + 1, &flagToMinute, 8);
-    std::memcpy(to + 9, &secondToMinute, 8);
-    std::memcpy(to + 17, &lastSecond, 4);
+    const auto put = [to, digits]<int Lane>(std::integral_constant<int, Lane>, std::size_t field) {
+        const auto pair = static_cast<std::uint16_t>(_mm_extract_epi16(digits, Lane));
+        std::memcpy(to + 3 * field, &pair, 2);
+    };
+    std::memcpy(to, kEmptySection, kSectionText);
+    to[1] = static_cast<char>(_mm_cvtsi128_si32(digits) >> 8 & 0xFF);
+    put(std::integral_constant<int, 1>{}, 1);
+    put(std::integral_constant<int, 2>{}, 2);
+    put(std::integral_constant<int, 3>{}, 3);
+    put(std::integral_constant<int, 5>{}, 4);
+    put(std::integral_constant<int, 6>{}, 5);
+    put(std::integral_constant<int, 7>{}, 6);
 #else
     std::uint32_t fields[kSectionFields];
     std::uint32_t outside = 0; // its highest bit is set when a field is
@@ -148,7 +150,7 @@ char* PutUsualSection(char* to, const void* section) noexcept {
         outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
     }
     if (outside >> 31 != 0) return nullptr;
-    std::memcpy(to, "\"0 00:00:00-00:00:00\"", kSectionText);
+    std::memcpy(to, kEmptySection, kSectionText);
     to[1] = static_cast<char>('0' + fields[0]);
     for (int i = 1; i < kSectionFields; ++i)
         json::PutPair(to + 3 * i, fields[i]);
