@@ -32,7 +32,7 @@ def driver(names):
 
 
 def expected(sample, language):
-    packed = sample[f"{language}_packed"]
+    packed = sample["packed"]
     return "\n".join(sample[f"{language}_output"] + ([packed] if packed is not None else [])).strip()
 
 

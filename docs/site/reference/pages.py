@@ -76,8 +76,8 @@ class Pages:
         if not sample:
             return ""
         parts = []
-        for language, source, lines, packed in (("C", sample.c, sample.c_output, sample.c_packed),
-                                                ("Python", sample.python, sample.python_output, sample.python_packed)):
+        for language, source, lines, packed in (("C", sample.c, sample.c_output, sample.packed),
+                                                ("Python", sample.python, sample.python_output, sample.packed)):
             if not source:
                 continue
             out = "\n".join(lines + ([packed] if packed else []))

@@ -3,19 +3,16 @@ import generate  # of the Python package: its names
 
 ROOM = 8       # records that a program lends where a reply holds several
 MOST_SHOWN = 4
-# Whose arrays stand in arrays that the caller lends: the Python package lends the outer ones alone.
-NOT_IN_PYTHON = ("VideoDiagnosisTask",)
 PLAIN = ("bool", "int", "uint", "real", "names", "text", "fullText", "rawText")
 TEXT_ROOM = 65536
 
 
 class Sample:
-    def __init__(self, name, c, python, c_lines, python_lines, text, packed=None, python_packed=None):
+    def __init__(self, name, c, python, c_lines, python_lines, text, packed=None):
         self.name, self.c, self.python = name, c, python
         self.c_output, self.python_output = c_lines, python_lines
         self.text = text      # what the programs read
-        # The text that they end with.
-        self.c_packed, self.python_packed = packed, python_packed
+        self.packed = packed  # the text that they end with
 
 
 class Shown:
@@ -63,7 +60,7 @@ class Samples:
         found, inside = [], []
         names = generate.member_names(self.model.records[record])
         for row in self.model.records[record]["fields"]:
-            if generate.hidden(row) or row["name"] not in value or "pointer" in row:
+            if generate.hidden(self.model.records[record], row) or row["name"] not in value or "pointer" in row:
                 continue
             dims = row["dims"][:-1] if row["type"] == "char" else row["dims"]
             if row["type"] == "record" and not dims and row["kind"] == "record" and isinstance(value[row["name"]], dict):
@@ -135,15 +132,6 @@ class Samples:
         return any(row.get("writesCapacity") or ("record" in row and row["type"] == "record" and self.writes_room(row["record"]))
                    for row in self.model.records[record]["fields"])
 
-    def lends_inside(self, record):
-        """Whether what is lent stands in records inside: what the Python package has no room for."""
-        def lends(name, seen):
-            return any(row.get("pointer", {}).get("owner") == "caller"
-                       or ("record" in row and row["record"] not in seen and lends(row["record"], seen | {row["record"]}))
-                       for row in self.model.records[name]["fields"])
-        return any("record" in row and row["record"] != record and lends(row["record"], {record, row["record"]})
-                   for row in self.model.records[record]["fields"] if not row.get("items"))
-
     # ---- Commands
 
     def command(self, command):
@@ -164,7 +152,7 @@ class Samples:
         for i in range(example.count):
             self.lent(record, f"records[{i}]" if several else "record", example.records[i], lines, statics)
         if self.has_sizes(record):
-            lines.insert(0, f'ORRERY_SetSizeWords("{name}", {"" if several else "&"}{variable}, sizeof {variable});')
+            lines.insert(0, f'if (!ORRERY_SetSizeWords("{name}", {"" if several else "&"}{variable}, sizeof {variable})) return 1;')
         c = [f'/* Reads a reply of "{name}"' + (" and writes the text that sets it." if packs else ".") + " */",
              "#include <orrery/orrery.h>", "#include <stdio.h>", "", "int main(void) {",
              f"    static char reply[{TEXT_ROOM}]" + (f", text[{room}];" if packs else ";"),
@@ -192,14 +180,10 @@ class Samples:
             python_lines.append(f"records: {example.count}")
         python += [each.python_print(first) for each in shown]
         python_lines += [each.python_line() for each in shown]
-        python_packs = packs and not self.lends_inside(record) and not (several and lines and "room" in "".join(statics))
-        if python_packs:
+        if packs:
             python.append(f"print(orrery.pack({variable}))")
-        if name.startswith(NOT_IN_PYTHON):
-            python = []
         packed = example.packed if packs else None
-        return Sample(name, "\n".join(c), "\n".join(python), c_lines, python_lines, example.reply, packed,
-                      packed if python_packs else None)
+        return Sample(name, "\n".join(c), "\n".join(python), c_lines, python_lines, example.reply, packed)
 
     def written(self, command, example):
         """Of a command that is only written: a record of its own."""
@@ -256,7 +240,7 @@ int main(void) {{
             python.append(f'print(orrery.pack_rules(rules, "{name}"))')
         lines = [f"rule {code}" for code in codes]
         packed = example.packed if packs else None
-        return Sample(name, c, "\n".join(python), lines, lines, example.reply, packed, packed)
+        return Sample(name, c, "\n".join(python), lines, lines, example.reply, packed)
 
     def rule(self, rule):
         example = self.examples.rules[rule["name"]]
@@ -363,7 +347,7 @@ int main(void) {{
         lines, statics = [], []
         self.lent(record, "record", example.records[0], lines, statics)
         if self.has_sizes(record):
-            lines.insert(0, f'ORRERY_SetSizeWords("{name}", &record, sizeof record);')
+            lines.insert(0, f'if (!ORRERY_SetSizeWords("{name}", &record, sizeof record)) return 1;')
         c = [f'/* Reads a template of "{name}". */', "#include <orrery/orrery.h>", "#include <stdio.h>", "",
              "int main(void) {", f"    static char reply[{TEXT_ROOM}];", f"    static {record} record;"]
         c += [f"    {each}" for each in statics] + ["", "    reply[fread(reply, 1, sizeof reply - 1, stdin)] = '\\0';"]
