@@ -11,6 +11,7 @@ out=$root/build/platforms
 companion=$(realpath -m "${COMPANION:-build/orrery}")
 mkdir -p "$out"
 if command -v ccache >/dev/null; then export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+version=$(sed -n 's/^project(orrery VERSION \([0-9]*\.[0-9]*\).*/\1/p' CMakeLists.txt)
 stages=("$@")
 [ ${#stages[@]} -gt 0 ] || stages=(bits32 aarch64 windows)
 googletest=/usr/src/googletest
@@ -53,34 +54,53 @@ configure() { # configure NAME TOOLCHAIN
 }
 
 same() { # same WHAT HERE THERE
-    diff -u "$2" "$3" >"$3.diff" && return
+    if diff -u "$2" "$3" >"$3.diff"; then return; fi
     head -40 "$3.diff" >&2
     echo "platforms: other $1: $3.diff" >&2
     exit 1
 }
 
-# Layout of all records, and the texts of an empty record of every command, as the companion of this machine has them.
-same_texts() { # same_texts NAME RUNNER...
-    local name=$1 command
+# What the companion says, as this machine's says it: layout of all records, the schema, a reply with its findings, events.
+# (A name that begins with a slash is an option on Windows.)
+same_companion() { # same_companion NAME RUNNER...
+    local name=$1 what where program
     shift
     [ -x "$companion" ] || { echo "platforms: no $companion to compare with" >&2; exit 2; }
-    "$companion" layout >"$out/layout.here.txt"
-    "$@" layout >"$out/$name.layout.txt"
-    same layout "$out/layout.here.txt" "$out/$name.layout.txt"
-    "$companion" schema >"$out/schema.here.json"
-    "$@" schema >"$out/$name.schema.json"
-    same schema "$out/schema.here.json" "$out/$name.schema.json"
-    echo '{}' >"$out/empty.json"
-    for place in here there; do : >"$out/$name.$place.txt"; done
-    python3 -c 'import json, sys
-for command in json.load(sys.stdin)["commands"]:
-    if command["pack"]: print(command["name"])' <"$out/schema.here.json" >"$out/commands.txt"
-    while read -r command; do
-        echo "$command: $("$companion" pack "$command" "$out/empty.json" 2>&1)" >>"$out/$name.here.txt"
-        echo "$command: $("$@" pack "$command" "$out/empty.json" 2>&1)" >>"$out/$name.there.txt"
-    done <"$out/commands.txt"
-    same texts "$out/$name.here.txt" "$out/$name.there.txt"
-    echo "platforms: $name: layout, schema and the texts of $(wc -l <"$out/commands.txt") commands are the same"
+    echo '{"Event":[{"Code":"CrossLineDetection","Data":{"Name":"Fence"}},{"Code":"Nothing"}]}' >build/platforms/events.json
+    for what in layout schema "parse Alarm examples/alarm-reply.json --pack" "events build/platforms/events.json" \
+        "describe Alarm" "check NTP examples/alarm-reply.json" "check nowhere.json"; do
+        for where in here there; do
+            if [ $where = here ]; then program=("$companion"); else program=("$@"); fi
+            # shellcheck disable=SC2086 # several words
+            "${program[@]}" $what >"$out/$name.$where.txt" 2>&1 || echo "status $?" >>"$out/$name.$where.txt"
+        done
+        same "$what" "$out/$name.here.txt" "$out/$name.there.txt"
+    done
+    echo "platforms: $name: the companion says the same"
+}
+
+# What the shared library makes of every command, as this machine's does.
+same_texts() { # same_texts NAME PROGRAM
+    local name=$1 folder
+    shift
+    folder=$(dirname "$companion")
+    "$companion" schema >"$out/schema.json"
+    python3 - "$out/schema.json" >"$out/commands.txt" <<'PYTHON'
+import json, sys
+schema = json.load(open(sys.argv[1]))
+records = {record["name"]: record for record in schema["records"]}
+def leads(name):
+    return any(field["type"] == "ptr" or field["type"] == "record" and leads(field["record"])
+               for field in records[name]["fields"])
+for command in schema["commands"]:
+    if command["pack"]:
+        print(command["name"], records[command["record"]]["size"], int(command["parse"]), int(leads(command["record"])))
+PYTHON
+    cc -std=c99 -Iinclude tests/packaging/texts.c -o "$out/texts" "$folder/liborrery.so" "-Wl,-rpath,$folder"
+    "$out/texts" <"$out/commands.txt" >"$out/texts.here.txt"
+    (cd "$out/$name" && "$@") <"$out/commands.txt" | tr -d '\r' >"$out/$name.texts.txt"
+    same texts "$out/texts.here.txt" "$out/$name.texts.txt"
+    echo "platforms: $name: texts and records of $(wc -l <"$out/commands.txt") commands are the same"
 }
 
 # apt for files that are only looked at: nothing of it is installed here.
@@ -160,19 +180,23 @@ run_tests() { # run_tests NAME COMPILER RUNNER...
     echo "platforms: $name: the tests of $(wc -l <"$build/tests.txt") files passed"
 }
 
-# Clients of the shared library, as they are built there.
+# Clients of the shared library, as they are built there; `texts` stays for same_texts.
 run_clients() { # run_clients NAME C_COMPILER CXX_COMPILER RUNNER...
-    local name=$1 c=$2 cxx=$3 program
+    local name=$1 c=$2 cxx=$3 program compiler
     shift 3
     mkdir -p "$out/$name/clients"
     (
         cd "$out/$name" # where the library is found when it is loaded
         for program in tests/packaging/consumer.c examples/{parse_and_pack,print_events,walk_rules}.c \
-            tests/packaging/consumer.cpp examples/typed.cpp; do
-            local compiler=("$c" -std=c99)
+            tests/packaging/consumer.cpp examples/typed.cpp tests/packaging/texts.c; do
+            compiler=("$c" -std=c99)
             case $program in *.cpp) compiler=("$cxx" -std=c++11) ;; esac
             # shellcheck disable=SC2086 # several words
-            "${compiler[@]}" "-I$root/include" "$root/$program" -o "client$EXE" -L. -lorrery $CLIENT_LINK
+            "${compiler[@]}" "-I$root/include" "$root/$program" -o "client$EXE" $CLIENT_LINK
+            if [ "$program" = tests/packaging/texts.c ]; then
+                mv "client$EXE" "texts$EXE"
+                continue
+            fi
             "$@" "./client$EXE" >"clients/$(basename "$program").txt" || {
                 echo "platforms: $name: $program fails" >&2
                 exit 1
@@ -187,8 +211,10 @@ stage_aarch64() {
     configure aarch64 aarch64
     arm_system
     local run=(qemu-aarch64 -L "$out/arm64/root")
-    same_texts aarch64 "${run[@]}" "$out/aarch64/orrery"
-    EXE='' CLIENT_LINK=-Wl,-rpath,. run_clients aarch64 aarch64-linux-gnu-gcc aarch64-linux-gnu-g++ "${run[@]}"
+    same_companion aarch64 "${run[@]}" "$out/aarch64/orrery"
+    EXE='' CLIENT_LINK='-L. -lorrery -Wl,-rpath,.' \
+        run_clients aarch64 aarch64-linux-gnu-gcc aarch64-linux-gnu-g++ "${run[@]}"
+    same_texts aarch64 "${run[@]}" ./texts
     FLAGS='' LINK=-pthread EXE='' run_tests aarch64 aarch64-linux-gnu-g++ "${run[@]}"
 }
 
@@ -198,9 +224,21 @@ stage_windows() {
     local wine
     wine=$(command -v wine64 || command -v wine || echo /usr/lib/wine/wine64)
     export WINEDEBUG=-all WINEPREFIX=$out/wine
-    same_texts windows "$wine" "$out/windows/orrery.exe"
-    EXE=.exe CLIENT_LINK='-static-libgcc -static-libstdc++' \
+    "$wine" cmd /c ver >/dev/null # the first start makes its folder, and takes long
+    same_companion windows "$wine" "$out/windows/orrery.exe"
+    # The library shows the documented functions, and needs the system's own libraries.
+    x86_64-w64-mingw32-objdump -p "$out/windows/liborrery-$version.dll" >"$out/windows.dll.txt"
+    sed -n '/Ordinal\/Name Pointer/,/^$/s/.*\] //p' "$out/windows.dll.txt" | grep -v Table | c++filt |
+        LC_ALL=C sort >"$out/windows.exports.txt"
+    LC_ALL=C sort tests/packaging/exports.txt >"$out/exports.txt"
+    same exports "$out/exports.txt" "$out/windows.exports.txt"
+    if grep 'DLL Name' "$out/windows.dll.txt" | grep -viE 'kernel32|msvcrt|advapi32|ucrt'; then
+        echo "platforms: the library needs the above" >&2
+        exit 1
+    fi
+    EXE=.exe CLIENT_LINK='liborrery.dll.a -static' \
         run_clients windows x86_64-w64-mingw32-gcc-posix x86_64-w64-mingw32-g++-posix "$wine"
+    same_texts windows "$wine" ./texts.exe
     # Locales of POSIX, and gigabytes of text that the system only lends.
     LACKS='support/Locales|MAP_NORESERVE' \
         FLAGS="-I$root/tests/support/windows -Dmalloc_usable_size=_msize" LINK='-static' EXE=.exe \

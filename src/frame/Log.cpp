@@ -1,3 +1,6 @@
+#ifdef _WIN32 // the library shows what stands here
+#define ORRERY_API __declspec(dllexport)
+#endif
 #include "frame/Log.h"
 
 #include <atomic>
