@@ -38,7 +38,8 @@ struct Fits {
         return static_cast<int>(fits.names.size()) < fits.most ? 1 : 0;
     }
     static Fits Of(const std::string& text) {
-        const Fits fits = Fits::Of(text);
+        Fits fits;
+        ORRERY_FindFits(text.data(), text.size(), Take, &fits);
         return fits;
     }
     std::int32_t Find(const std::string& text) { return ORRERY_FindFits(text.data(), text.size(), Take, this); }

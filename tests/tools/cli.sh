@@ -95,7 +95,7 @@ for shell in bash zsh fish; do
     if command -v $shell >/dev/null; then $shell -n "$scratch/completion.$shell" || fail "$shell cannot read it"; fi
 done
 run 0 complete par
-out_has $'parse\tPrint a device'
+out_has $'parse\tPrint devices'
 run 0 complete parse nt
 out_has $'NTP\tCFG_NTP_INFO'
 run 0 complete events --format ''
@@ -125,8 +125,8 @@ for i in 1 2 3 4 5 6; do
     printf '{"result":true,"params":{"table":{"Port":%d,"Address":"host, %d"}}}' $((i * 10)) $i >"$scratch/ntp$i.json"
 done
 run 0 parse NTP --no-warn --brief "$scratch"/ntp[12].json
-out_is '{ "nPort": 10, "szAddress": "host, 1" }
-{ "nPort": 20, "szAddress": "host, 2" }
+out_is '{ "szAddress": "host, 1", "nPort": 10 }
+{ "szAddress": "host, 2", "nPort": 20 }
 '
 for jobs in 1 4; do
     run 0 parse NTP --no-warn --jobs $jobs --format csv --fields nPort,szAddress "$scratch"/ntp[123456].json
@@ -135,7 +135,7 @@ $(for i in 1 2 3 4 5 6; do echo "$scratch/ntp$i.json,0,${i}0,\"host, $i\""; done
 "
 done
 run 0 parse NTP --no-warn --format jsonl --brief "$scratch/ntp3.json"
-out_is "{ \"file\": \"$scratch/ntp3.json\", \"index\": 0, \"record\": { \"nPort\": 30, \"szAddress\": \"host, 3\" } }
+out_is "{ \"file\": \"$scratch/ntp3.json\", \"index\": 0, \"record\": { \"szAddress\": \"host, 3\", \"nPort\": 30 } }
 "
 run 0 parse NTP --no-warn --filter 'nPort>40' --fields nPort --format jsonl "$scratch"/ntp[123456].json
 out_is "{ \"file\": \"$scratch/ntp5.json\", \"index\": 0, \"nPort\": 50 }
@@ -145,8 +145,8 @@ run 0 parse NTP --no-warn --format table --fields nPort "$scratch/ntp1.json"
 out_has "nPort"
 # One that is not there stops none of the others, and the worst of all is what the program ends with.
 run 2 parse NTP --no-warn --brief --jobs 3 "$scratch/ntp1.json" "$scratch/none.json" "$scratch/ntp2.json"
-out_is '{ "nPort": 10, "szAddress": "host, 1" }
-{ "nPort": 20, "szAddress": "host, 2" }
+out_is '{ "szAddress": "host, 1", "nPort": 10 }
+{ "szAddress": "host, 2", "nPort": 20 }
 '
 err_has "none.json"
 printf '{"result":false}' >"$scratch/refused.json"
@@ -165,7 +165,7 @@ input='{"nPrt":123,
   "nPort":5}' run 0 pack NTP --warn
 out_has '"Port" : 5'
 err_has '-:1:2: lost: nPrt (CFG_NTP_INFO): no such field in CFG_NTP_INFO; did you mean nPort? [unknown-key]'
-input='{"stuServers":[{},{"nPrt":1}]}' run 3 pack NTP --strict --json
+input='{"nServerNum":2,"stuServers":[{"nPort":1},{"nPrt":1}]}' run 3 pack NTP --strict --json
 python3 -c 'import json, sys
 found = json.loads(open(sys.argv[1]).readline())
 assert (found["path"], found["kind"], found["nearest"]) == ("stuServers[1].nPrt", "unknown-key", "nPort"), found' \
