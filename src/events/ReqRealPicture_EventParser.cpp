@@ -5,6 +5,7 @@
 #include "events/ReqRealPicture.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace orrery {
 
@@ -22,10 +23,29 @@ NAMES(kActions, record::kFolded.UnknownLeaves(),
           {EVENT_ACTION_STOP, "Stop"},
       });
 
-std::uint32_t CodeOf(const Value& event) noexcept {
+std::uint32_t CodeOf(const Value& code) noexcept {
     constexpr std::size_t kLongestName = 127;
-    return static_cast<std::uint32_t>(RuleCodeFromName(event["Code"].asString().substr(0, kLongestName)));
+    return static_cast<std::uint32_t>(RuleCodeFromName(code.asString().substr(0, kLongestName)));
 }
+
+// What every event is asked for, found in one pass.
+struct EventParts {
+    const Value* action = &json::kNull;
+    const Value* code = &json::kNull;
+    const Value* data = &json::kNull;
+
+    explicit EventParts(const Value& event) noexcept {
+        for (const json::Member& member : event.members()) {
+            const std::string_view key = member.key();
+            if (key.size() == 4 && std::memcmp(key.data(), "Code", 4) == 0)
+                code = &member.value;
+            else if (key.size() == 4 && std::memcmp(key.data(), "Data", 4) == 0)
+                data = &member.value;
+            else if (key == "Action")
+                action = &member.value;
+        }
+    }
+};
 
 } // namespace
 
@@ -54,14 +74,15 @@ void LogMissingBlock(const record::Field& field) noexcept {
 } // namespace
 
 void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventCall& common) noexcept {
-    const std::uint32_t code = CodeOf(event);
+    const EventParts parts(event);
+    const std::uint32_t code = CodeOf(*parts.code);
     const EventRow* row = events::FindEvent(code);
-    const Value& data = event["Data"];
+    const Value& data = *parts.data;
     if (data.isNull() && (row == nullptr || !row->needsNoData)) return;
 
     // An event without a word of its own acts as the one before it did.
     events::EventContext& fields = common.fields;
-    if (const auto action = kActions.CodeOf(event["Action"].asString())) {
+    if (const auto action = kActions.CodeOf(parts.action->asString())) {
         fields.nAction = *action;
         fields.dwAction = static_cast<std::uint32_t>(*action);
         fields.byEventAction = static_cast<std::uint8_t>(*action);

@@ -30,7 +30,23 @@ void InsertionSort(Member* first, Member* last) noexcept {
 
 // Objects of devices that keep an order of their own have a few dozen members: where these belong is found by their
 // prefixes alone, for the most part, and each moves once.
-constexpr std::uint32_t kFew = 40;
+constexpr std::uint32_t kFew = MemberOrders::kMost;
+static_assert(kFew < 64);
+
+// Whether the members come in the order of those before; they are sorted then, and no key stands twice.
+bool SortAlike(Member* members, const Member* same, std::uint32_t count, const std::uint8_t* places) noexcept {
+    std::uint64_t before = 0;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const Member& member = same[places[i]];
+        const std::uint64_t prefix = KeyPrefix(member);
+        if (i > 0 && before >= prefix) {
+            if (before > prefix || CompareKeys(members[i - 1].key(), member.key()) >= 0) return false;
+        }
+        before = prefix;
+        members[i] = member;
+    }
+    return true;
+}
 
 struct Place {
     std::uint64_t prefix; // of the member's key
@@ -38,7 +54,7 @@ struct Place {
 };
 static_assert(sizeof(Place) <= sizeof(Member) && alignof(Place) <= alignof(Member));
 
-std::uint32_t SortFew(Member* members, Place* places, std::uint32_t count) noexcept {
+std::uint32_t SortFew(Member* members, Place* places, std::uint32_t count, std::uint8_t* order) noexcept {
     for (std::uint32_t next = 0; next < count; ++next) {
         const std::uint64_t prefix = KeyPrefix(members[next]);
         Place* hole = places + next;
@@ -50,6 +66,8 @@ std::uint32_t SortFew(Member* members, Place* places, std::uint32_t count) noexc
         }
         *hole = {prefix, next};
     }
+    for (std::uint32_t i = 0; i < count; ++i)
+        order[i] = static_cast<std::uint8_t>(places[i].index);
     for (std::uint32_t first = 0; first < count; ++first) {
         if (places[first].index == first) continue;
         const Member held = members[first];
@@ -76,14 +94,21 @@ std::uint32_t SortFew(Member* members, Place* places, std::uint32_t count) noexc
 
 } // namespace
 
-std::uint32_t SortMembers(Member* members, Member* scratch, std::uint32_t count) noexcept {
-    if (count <= kFew) return SortFew(members, reinterpret_cast<Place*>(scratch), count);
+std::uint32_t SortMembers(Member* members, Member* same, std::uint32_t count, MemberOrders& orders) noexcept {
+    if (count <= kFew) {
+        if ((orders.known >> count & 1) != 0) {
+            if (SortAlike(members, same, count, orders.places[count])) return count;
+            std::copy(same, same + count, members);
+        }
+        orders.known |= std::uint64_t{1} << count;
+        return SortFew(members, reinterpret_cast<Place*>(same), count, orders.places[count]);
+    }
     const std::size_t total = count;
     for (std::size_t run = 0; run < total; run += kRun) {
         InsertionSort(members + run, members + std::min(run + kRun, total));
     }
     Member* from = members;
-    Member* to = scratch;
+    Member* to = same;
     for (std::size_t width = kRun; width < total; width *= 2) {
         for (std::size_t run = 0; run < total; run += 2 * width) {
             const std::size_t middle = std::min(run + width, total);

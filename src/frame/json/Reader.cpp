@@ -88,6 +88,7 @@ class Reader {
     const char* const end_;
     Arena& arena_;
     SyntaxError* const error_;
+    MemberOrders orders_;
     void* block_ = nullptr; // the stack behind an arena's header, once it has outgrown `near_`
     std::byte* bottom_ = near_;
     alignas(16) std::byte near_[kStackSize]; // left uninitialised on purpose
@@ -242,8 +243,8 @@ const char* Reader::Read(Value& root) noexcept {
                 auto count = static_cast<std::uint32_t>(bytes / sizeof(Member));
                 auto* const members = reinterpret_cast<Member*>(entries);
                 if (!sorted) {
-                    auto* const scratch = reinterpret_cast<Member*>(const_cast<std::byte*>(from));
-                    count = SortMembers(members, scratch, count);
+                    auto* const same = reinterpret_cast<Member*>(const_cast<std::byte*>(from));
+                    count = SortMembers(members, same, count, orders_);
                 }
                 Value::PutObject(top, members, count);
             } else {
