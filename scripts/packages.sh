@@ -105,6 +105,30 @@ c++ -std=c++11 examples/typed.cpp $(pkg-config --cflags --libs orrery) -o typed
 ./typed >/dev/null
 cc -std=c99 examples/explain.c $(pkg-config --cflags --libs orrery-explain) -o explain
 ./explain NTP <reply.json
+python3 - <<'PYTHON'
+# The cookbook's programs print what stands under them.
+import gzip, os, re, subprocess
+told = "/usr/share/doc/orrery/cookbook.md"
+with (gzip.open(told + ".gz", "rt") if os.path.exists(told + ".gz") else open(told)) as file:
+    text = file.read()
+ran = 0
+for names, output in re.findall(r"\n((?:[^\n]+\n)*[^\n]*\bprints?)\n\n```\n(.*?)```", text, re.S):
+    for name in re.findall(r"\(\.\./(examples/cookbook/[^)]+)\)", names):
+        with open(name) as file:
+            threads = ["-pthread"] if re.search(r"#include <(pthread\.h|thread)>", file.read()) else []
+        package = "orrery-explain" if "findings" in name else "orrery"
+        found = subprocess.run(["pkg-config", "--cflags", "--libs", package], check=True, text=True, stdout=subprocess.PIPE)
+        compilers = {".c": ["cc", "-std=c99"], ".cpp": ["c++", "-std=c++11"]}
+        compiler = compilers.get(os.path.splitext(name)[1])
+        if compiler is not None:
+            subprocess.run([*compiler, name, *found.stdout.split(), *threads, "-o", "recipe"], check=True)
+        command = ["./recipe"] if compiler is not None else ["python3", name]
+        told = subprocess.run(command, check=True, text=True, stdout=subprocess.PIPE).stdout
+        assert told == output, (name, told, output)
+        ran += 1
+assert ran > 10, ran
+print(ran, "programs of the cookbook ran")
+PYTHON
 apt-get remove -y liborrery0.1
 INSIDE
 }
