@@ -239,8 +239,8 @@ stage_windows() {
     EXE=.exe CLIENT_LINK='liborrery.dll.a -static' \
         run_clients windows x86_64-w64-mingw32-gcc-posix x86_64-w64-mingw32-g++-posix "$wine"
     same_texts windows "$wine" ./texts.exe
-    # Locales of POSIX, and gigabytes of text that the system only lends.
-    LACKS='support/Locales|MAP_NORESERVE' \
+    # POSIX and its locales, and gigabytes of text that the system only lends.
+    LACKS='support/Locales|MAP_NORESERVE|<unistd.h>|gmtime_r' \
         FLAGS="-I$root/tests/support/windows -Dmalloc_usable_size=_msize" LINK='-static' EXE=.exe \
         run_tests windows x86_64-w64-mingw32-g++-posix "$wine"
     # Texts in the process's code page, which follows the locale of who starts it here.
