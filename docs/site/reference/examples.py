@@ -24,7 +24,7 @@ class Showing(Maker):
             text = f"192.0.2.{number}"
         elif low.endswith("url"):
             text = f"rtsp://192.0.2.{number}/live"
-        elif "time" in low:
+        elif low.endswith("time"):
             text = f"2026-11-20 09:30:{number % 60:02}"
         else:
             text = f"{key} {number}"

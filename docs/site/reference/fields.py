@@ -25,7 +25,7 @@ def meaning(row):
     if stripped and (stripped.group(1) in key or row.get("key") == ""):
         doc = doc[stripped.end():]
     # What a column of its own says, or the codes below.
-    return "" if doc == row.get("unit") or ("codes" in row and re.fullmatch(r"[A-Z0-9_]+_\.\.\.", doc)) else doc
+    return "" if doc == row.get("unit") or ("enumeration" in row and re.fullmatch(r"[A-Z0-9_]+_\.\.\.", doc)) else doc
 
 
 class Fields:

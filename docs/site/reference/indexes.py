@@ -37,7 +37,9 @@ class Indexes:
         doc = self.model.records[record].get("doc", "")
         # What stands before the first colon says again which command it is.
         doc = re.sub(r'^(?:"[^"]*"(?:,| and)?\s*)+(?:\(\d+\))?:\s*', "", doc)
-        return esc(first_sentence(doc))[:240]
+        if re.fullmatch(r'(?:"[^"]*"(?:,| and)?\s*)+\.?', doc):
+            return ""  # nothing but its names
+        return esc(first_sentence(doc)[:240])
 
     # ---- Lists
 
@@ -45,7 +47,7 @@ class Indexes:
         parts, contents = ["<h1>Commands</h1><p>Names that <code>CLIENT_ParseData</code> and <code>CLIENT_PacketData</code> take, by the header of their record.</p>"], []
         for header, commands in self.families():
             anchor = re.sub(r"\W", "-", header.split("/")[-1][:-2])
-            rows = [self.row(self.pages.link("command", each["name"]), " ".join(way for way in ("parse", "pack") if each[way]),
+            rows = [self.row(self.pages.link("command", each["name"]), "&nbsp;".join(way for way in ("parse", "pack") if each[way]),
                              self.pages.link("record", each["record"]), self.summary(each["record"])) for each in commands]
             parts.append(f'<section><h2 id="{anchor}">{esc(self.model.family(header))}</h2><p class="note"><code>&lt;{esc(header)}&gt;</code></p>'
                          + self.table(("Command", "Ways", "Record", "What it is"), rows, self.model.family(header)) + "</section>")

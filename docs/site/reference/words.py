@@ -80,7 +80,7 @@ def absent(row):
         return "null" if row.get("pointer", {}).get("owner") == "library" else "as it was"
     levels = row["dims"][:-1] if row["type"] == "char" else row["dims"]
     if row["type"] == "record":
-        return "its own defaults" if not levels else "none"
+        return ("its own defaults" if row["kind"] == "record" else "0s") if not levels else "none"
     return "0" if not levels else "none" if "count" in row else "0s"
 
 
