@@ -71,11 +71,28 @@ def filled(words, indent):
     return "".join("\n" + " " * indent + each for each in lines + [line])
 
 
+LARGE = 40000  # characters of a text that is shown in part
+
+
+def in_part(value):
+    """Of a large text lists are cut behind their first elements, where it then says how many there are more."""
+    return cut(value) if len(json.dumps(value)) > LARGE else value
+
+
+def cut(value, most=3):
+    if isinstance(value, dict):
+        return {key: cut(each) for key, each in value.items()}
+    if isinstance(value, list):
+        more = [f"… {len(value) - most} more"] if len(value) > most + 1 else []
+        return [cut(each) for each in (value[:most] if more else value)] + more
+    return value
+
+
 JSON_TOKEN = re.compile(r'(?P<k>"(?:\\.|[^"\\])*")(?=\s*:)|(?P<s>"(?:\\.|[^"\\])*")|(?P<n>-?\b\d[\d.eE+-]*|\btrue\b|\bfalse\b|\bnull\b)')
 
 
 def json_text(value):
-    text = value if isinstance(value, str) else json_lines(value)
+    text = value if isinstance(value, str) else json_lines(in_part(value))
     out, at = [], 0
     for match in JSON_TOKEN.finditer(text):
         out += [esc(text[at:match.start()]), f'<span class="{match.lastgroup}">{esc(match.group())}</span>']

@@ -80,6 +80,8 @@ class Pages:
                                                 ("Python", sample.python, sample.python_output, sample.packed)):
             if not source:
                 continue
+            if packed and len(packed) > markup.LARGE // 10:
+                packed = packed[:markup.LARGE // 10] + " …"
             out = "\n".join(lines + ([packed] if packed else []))
             printed = f'<p class="prints">prints</p>{code(out)}' if out else ""
             parts.append(f"<h3>{language}</h3>{code(source, language.lower())}{printed}")
