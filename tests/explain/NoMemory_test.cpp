@@ -93,7 +93,7 @@ TEST(NoMemory, ForFindingsOfEveryKind) {
               20u);
     EXPECT_GT(Replies("Alarm", R"({"result":true,"params":{"table":[{"Nmae":1,"SensorType":"none"},[],{"Name":")"
                                    + std::string(200, 'n') + R"("}]}})"),
-              20u);
+              5u);
     EXPECT_GT(Replies("NTP", R"({"result":)"), 2u);
 }
 
