@@ -102,6 +102,13 @@ TEST(NoMemory, WhereFunctionsAreTried) {
     EXPECT_GT(
         Replies("VideoAnalyseRule", R"({"result":true,"params":{"table":[{"Type":"CrossLineDetection","Nmae":1}]}})"),
         5u);
+    // A document that is no reply's usual size, so that reading it again takes memory as well.
+    std::string list;
+    for (int i = 0; i < 6000; ++i)
+        list += "1,";
+    list.back() = ']';
+    EXPECT_GT(Replies("VideoWidget", R"({"result":true,"params":{"table":[{"Nonsense":[)" + list + R"(,"Other":2}]}})"),
+              5u);
 }
 
 TEST(NoMemory, ForADocumentThatIsLargerThanTheStack) {
