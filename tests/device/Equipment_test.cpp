@@ -117,6 +117,18 @@ TEST(AirCondition, TextsAreCutAndLinesLeftOut) {
     EXPECT_STREQ(parsed->stuItems[1].szComm, "");
 }
 
+// The text of a line that ends in a number is all that stands in its field.
+TEST(AirCondition, NothingStandsBehindALine) {
+    for (const std::string number : {"5", "42", "365", "8000", "65535", "-7"}) {
+        const std::string line = "{ \"K\" : " + number + " }";
+        const auto parsed = Parse<CFG_AIR_CONDITION_INFO>("AirCondition", "[ { \"Comm\" : " + line + " } ]");
+        const char* const field = parsed->stuItems[0].szComm;
+        EXPECT_EQ(std::string_view(field, line.size()), line);
+        const std::string behind(field + line.size(), sizeof parsed->stuItems[0].szComm - line.size());
+        EXPECT_EQ(behind.find_first_not_of('\0'), std::string::npos) << line;
+    }
+}
+
 // ---- Lighting ----
 
 TEST(Lighting, ThereAndBack) {

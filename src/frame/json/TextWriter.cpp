@@ -258,16 +258,21 @@ bool TextWriter::Write(const Value& value, Arena& arena) noexcept {
     };
     WalkStack<Level, 16> levels(arena);
     const Value* current = &value;
+    // Values also go to fields of records, where nobody clears what stands behind a text.
+    const auto number = [this](auto what) {
+        char digits[kIntegerRoom];
+        Scalar(digits, static_cast<std::size_t>(PutDigits(digits, what) - digits));
+    };
     for (;;) {
         switch (current->type()) {
         case Type::Null:
             Null();
             break;
         case Type::Int:
-            Int(current->asInt());
+            number(current->asInt());
             break;
         case Type::UInt:
-            UInt(current->asUInt());
+            number(current->asUInt());
             break;
         case Type::Real:
             Real(current->asDouble());

@@ -21,14 +21,15 @@ namespace {
 
 using test::TextOf;
 
-// What `write` writes into ample room.
+// What `write` writes into ample room; of that it may touch `behind` bytes behind its end.
 template <class Write>
-std::string Written(Write write) {
+std::string Written(Write write, std::size_t behind = 0) {
     std::string buffer(4096, '?');
     TextWriter writer(buffer.data(), buffer.size());
     write(writer);
     EXPECT_TRUE(writer.fits());
-    EXPECT_EQ(buffer.find_first_not_of('?', writer.length()), std::string::npos) << "touched more than it wrote";
+    EXPECT_EQ(buffer.find_first_not_of('?', writer.length() + behind), std::string::npos)
+        << "touched more than it wrote";
     buffer.resize(writer.length());
     return buffer;
 }
@@ -77,13 +78,14 @@ TEST(TextWriter, SeparatesOnEveryLevel) {
 
 TEST(TextWriter, WritesIntegersInDecimal) {
     const auto written = [](auto number) {
-        return Written([&](TextWriter& w) {
+        const auto write = [&](TextWriter& w) {
             if constexpr (std::is_signed_v<decltype(number)>) {
                 w.Int(number);
             } else {
                 w.UInt(number);
             }
-        });
+        };
+        return Written(write, 3); // digits go out four at a time
     };
     EXPECT_EQ(written(std::int32_t{0}), "0");
     EXPECT_EQ(written(std::int32_t{-1}), "-1");
@@ -91,6 +93,15 @@ TEST(TextWriter, WritesIntegersInDecimal) {
     EXPECT_EQ(written(std::numeric_limits<std::int32_t>::min()), "-2147483648");
     EXPECT_EQ(written(std::uint32_t{0}), "0");
     EXPECT_EQ(written(std::numeric_limits<std::uint32_t>::max()), "4294967295");
+}
+
+TEST(TextWriter, TouchesNothingBehindAWholeValue) {
+    for (const char* const text : {"7", "42", "365", "8000", "65535", "-1", "2147483647", "[ 3 ]", "{ \"a\" : 5 }"}) {
+        StackArena<1024> arena;
+        Value value;
+        ASSERT_TRUE(Parse(text, arena, value));
+        EXPECT_EQ(Written([&](TextWriter& w) { EXPECT_TRUE(w.Write(value, arena)); }), text);
+    }
 }
 
 TEST(TextWriter, WritesRealsWithSixteenDigits) {
