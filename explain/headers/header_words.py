@@ -56,14 +56,16 @@ class Scanner:
         self.records, self.enumerations, self.shared = [], [], {}
         self.code, self.above, self.inside = "", "", ""
         self.behind = None  # who takes a comment behind it on its line
-        self.depth = 0
+        self.depth, self.lines, self.apart, self.is_first = 0, 0, "", True
         self.record = self.enumeration = None
         ours = True
         for match in TOKEN.finditer(text):
             token = match.group()
             if token.startswith("#"):
-                marker = re.match(r'#\s*(?:line )?\d+ "(.*)"', token)
+                marker = re.match(r'#\s*(?:line )?\d+ "(.*)"( [12])?', token)
                 if marker:
+                    if marker.group(2):  # a file begins, or goes on
+                        self.above, self.apart, self.is_first = "", "", marker.group(2) == " 1"
                     ours = "orrery/" in marker.group(1).replace("\\", "/") or marker.group(1) == "<stdin>"
             elif not ours:
                 continue
@@ -71,6 +73,10 @@ class Scanner:
                 self.comment(token)
             elif token == "\n":
                 self.behind = None
+                self.lines += 1
+                if self.lines > 1 and self.depth == 0 and not self.code.strip() and self.above:
+                    # Not right above: of a macro between, of a part of the file, or of the whole file.
+                    self.apart, self.above = squeeze(self.apart + " " + self.above), ""
                 self.code += " "
             elif not token.isspace():
                 self.take(token)
@@ -92,21 +98,25 @@ class Scanner:
         elif self.behind is not None:
             self.behind["behind"] = squeeze(self.behind["behind"] + " " + word)
         elif not word.startswith("----"):  # the title of a part of the file
+            self.lines = 0
             self.above = squeeze(self.above + " " + word)
 
     def take(self, token):
         if token == "{":
             code = squeeze(self.code)
             if self.depth == 0 and re.search(r"\bstruct\b", code):
-                self.record = {"name": last_word(code), "comment": self.above, "members": []}
+                self.record = {"name": last_word(code), "comment": self.above or self.apart, "members": []}
                 self.records.append(self.record)
             elif self.depth == 0 and re.search(r"\benum\b", code):
                 name = last_word(code)
-                self.enumeration = {"name": "" if name == "enum" else name, "doc": self.above, "constants": []}
+                # A file that begins with its codes tells what they are at its head.
+                doc = self.above or (self.apart if self.is_first else "")
+                self.enumeration = {"name": "" if name == "enum" else name, "doc": doc, "constants": []}
                 self.enumerations.append(self.enumeration)
             if not code.startswith("extern"):
                 self.depth += 1
-            self.above, self.code, self.behind = "", "", None
+            self.is_first = False
+            self.above, self.apart, self.code, self.behind = "", "", "", None
         elif token == "}":
             if self.enumeration is not None:
                 self.constant()
@@ -114,7 +124,7 @@ class Scanner:
                 self.depth -= 1
             if self.depth == 0:
                 self.record = self.enumeration = None
-            self.above, self.code, self.inside, self.behind = "", "", "", None
+            self.above, self.apart, self.code, self.inside, self.behind = "", "", "", "", None
         elif token == "," and self.enumeration is not None:
             self.constant()
         elif token == ";":
@@ -127,7 +137,7 @@ class Scanner:
                           "behind": self.inside, "above": self.above}
                 self.record["members"].append(member)
                 self.behind = member
-            self.above, self.inside, self.code = "", "", ""
+            self.above, self.apart, self.inside, self.code = "", "", "", ""
         else:
             self.behind = None
             self.code += token

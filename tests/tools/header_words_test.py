@@ -48,6 +48,15 @@ typedef enum FIRST_KIND {
     FIRST_KIND_TEN         /* "Ten" */
 } FIRST_KIND;
 enum { PLAIN_A = 1 /* "A" */, PLAIN_B = PLAIN_A << 4 };
+/* Of a macro. */
+#define A_MACRO 1
+
+enum { APART = 1 };
+/* Of another macro. */
+#define ANOTHER_MACRO 1
+
+/* Right above. */
+enum { ABOVE = 1 };
 }
 '''
 
@@ -95,7 +104,7 @@ class HeaderWords(unittest.TestCase):
         self.assertEqual(self.member("DEV_EVENT_THIRD_INFO", "nNumber")["doc"], '"Number"')
 
     def test_constants(self):
-        kinds, plain = self.enumerations
+        kinds, plain, apart, above = self.enumerations
         self.assertEqual((kinds["name"], kinds["doc"]), ("FIRST_KIND", "Kinds."))
         self.assertEqual(kinds["constants"], [
             {"name": "FIRST_KIND_UNKNOWN", "value": -1, "doc": ""},
@@ -105,6 +114,13 @@ class HeaderWords(unittest.TestCase):
         self.assertEqual((plain["name"], plain["doc"]), ("", ""))
         self.assertEqual(plain["constants"], [{"name": "PLAIN_A", "value": 1, "doc": '"A"'},
                                               {"name": "PLAIN_B", "value": 16, "doc": ""}])
+
+        self.assertEqual((apart["doc"], above["doc"]), ("", "Right above."))
+
+    def test_a_file_that_begins_with_its_codes(self):
+        told = header_words.words_of('# 1 "orrery/one.h" 1\n/* Codes. */\n\nenum { ONE = 1 };\n\nenum { TWO = 2 };\n'
+                                     '# 1 "orrery/two.h" 1\n/* Not of codes. */\n\nextern "C" {\nenum { SIX = 6 };\n}\n')
+        self.assertEqual([each["doc"] for each in told["enumerations"]], ["Codes.", "", ""])
 
     def test_units(self):
         for doc, unit in {'"Delay": seconds': "seconds", '"Delay": seconds until it ends': "seconds",
