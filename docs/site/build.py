@@ -27,7 +27,10 @@ def read(path):
 def main():
     companion, output = Companion(os.path.abspath(sys.argv[1])), os.path.abspath(sys.argv[3])
     schema = json.loads(companion.run(["schema"])[1])
-    headers = {"orrery/" + os.path.basename(path): read(path) for path in sorted(glob.glob(os.path.join(SOURCE, "include/orrery/*.h")))}
+    headers = {
+        "orrery/" + os.path.basename(path): read(path)
+        for path in sorted(glob.glob(os.path.join(SOURCE, "include/orrery/*.h")))
+    }
     model = Model(schema, json.loads(read("docs/schema-2.json")), headers)
     examples = Examples(schema, companion)
     examples.make()
@@ -40,8 +43,12 @@ def main():
     files.update(indexes.all())
     files.update(documents(pages, SOURCE))
     files["search-index.js"] = index(pages, indexes)
-    lost = sorted(name for kind in (examples.commands, examples.rules, examples.events, examples.typed, examples.templates)
-                  for name, example in kind.items() if example.findings)
+    lost = sorted(
+        name
+        for kind in (examples.commands, examples.rules, examples.events, examples.typed, examples.templates)
+        for name, example in kind.items()
+        if example.findings
+    )
 
     if os.path.isdir(output):
         shutil.rmtree(output)

@@ -21,7 +21,14 @@ BASE = "file://" + SITE + "/"
 def browser(scripts=True):
     options = Options()
     options.binary_location = CHROMIUM
-    for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--hide-scrollbars", "--disable-dev-shm-usage", "--window-size=1360,900"):
+    for argument in (
+        "--headless=new",
+        "--no-sandbox",
+        "--disable-gpu",
+        "--hide-scrollbars",
+        "--disable-dev-shm-usage",
+        "--window-size=1360,900",
+    ):
         options.add_argument(argument)
     options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
     if not scripts:
@@ -54,7 +61,9 @@ class Site(unittest.TestCase):
         self.assertEqual(self.active().get_attribute("id"), "q")
         self.active().send_keys(text)
         WebDriverWait(self.browser, 20).until(lambda each: each.find_elements(By.CSS_SELECTOR, "#hits:not([hidden]) li"))
-        return [tuple(each.text.split("\n")[:3]) for each in self.browser.find_elements(By.CSS_SELECTOR, "#hits [role=option]")]
+        return [
+            tuple(each.text.split("\n")[:3]) for each in self.browser.find_elements(By.CSS_SELECTOR, "#hits [role=option]")
+        ]
 
     def enter(self, ending):
         self.active().send_keys(Keys.ENTER)
@@ -62,8 +71,11 @@ class Site(unittest.TestCase):
 
     def seen(self, anchor):
         """Whether an element stands within the window."""
-        return self.browser.execute_script("const box = document.getElementById(arguments[0]).getBoundingClientRect();"
-                                           "return box.top >= 0 && box.top < innerHeight;", anchor)
+        return self.browser.execute_script(
+            "const box = document.getElementById(arguments[0]).getBoundingClientRect();"
+            "return box.top >= 0 && box.top < innerHeight;",
+            anchor,
+        )
 
     def until_seen(self, anchor):
         WebDriverWait(self.browser, 20).until(lambda _: self.seen(anchor))
@@ -120,14 +132,26 @@ class Site(unittest.TestCase):
     def test_a_deep_link(self):
         self.go("commands/NTP.html#nServerNum")
         self.until_seen("nServerNum")
-        plain, marked = (self.browser.execute_script("return getComputedStyle(document.querySelector(arguments[0])).backgroundColor", each)
-                         for each in ("#nPort > th", "#nServerNum > th"))
+        plain, marked = (
+            self.browser.execute_script(
+                "return getComputedStyle(document.querySelector(arguments[0])).backgroundColor", each
+            )
+            for each in ("#nPort > th", "#nServerNum > th")
+        )
         self.assertNotEqual(plain, marked)
 
     def kinds(self):
         """A page or more of every kind."""
         told = random.Random(20)
-        pages = ["index.html", "cookbook.html", "schema.html", "platforms.html", "python.html", "changes.html", "search.html"]
+        pages = [
+            "index.html",
+            "cookbook.html",
+            "schema.html",
+            "platforms.html",
+            "python.html",
+            "changes.html",
+            "search.html",
+        ]
         pages = [each for each in pages if os.path.exists(f"{SITE}/{each}")]
         for folder in ("commands", "records", "rules", "events", "texts", "codes", "keys"):
             files = sorted(os.listdir(f"{SITE}/{folder}"))
@@ -140,7 +164,10 @@ class Site(unittest.TestCase):
         pages = self.kinds()
         self.assertGreater(len(pages), 30)
         for width, height in ((1360, 900), (360, 740)):
-            self.browser.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {"width": width, "height": height, "deviceScaleFactor": 1, "mobile": width < 500})
+            self.browser.execute_cdp_cmd(
+                "Emulation.setDeviceMetricsOverride",
+                {"width": width, "height": height, "deviceScaleFactor": 1, "mobile": width < 500},
+            )
             for page in pages:
                 self.go(page)
                 self.assertEqual(self.browser.get_log("browser"), [], page)
@@ -151,13 +178,17 @@ class Site(unittest.TestCase):
     def test_the_console_is_looked_at(self):
         self.go("index.html")
         self.browser.execute_script("setTimeout(() => { throw new Error('planted'); })")
-        WebDriverWait(self.browser, 20).until(lambda each: any("planted" in line["message"] for line in each.get_log("browser")))
+        WebDriverWait(self.browser, 20).until(
+            lambda each: any("planted" in line["message"] for line in each.get_log("browser"))
+        )
 
     def test_in_the_dark(self):
         self.go("commands/NTP.html")
         ground = lambda: self.browser.execute_script("return getComputedStyle(document.body).backgroundColor")
         self.assertEqual(ground(), "rgb(255, 255, 255)")
-        self.browser.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": "dark"}]})
+        self.browser.execute_cdp_cmd(
+            "Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": "dark"}]}
+        )
         self.assertEqual(ground(), "rgb(18, 23, 29)")
         self.browser.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
 
@@ -191,8 +222,12 @@ class Site(unittest.TestCase):
         shot("command")
         self.hits("Port ntp")
         shot("search")
-        self.browser.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": "dark"}]})
-        self.browser.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {"width": 390, "height": 844, "deviceScaleFactor": 2, "mobile": True})
+        self.browser.execute_cdp_cmd(
+            "Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": "dark"}]}
+        )
+        self.browser.execute_cdp_cmd(
+            "Emulation.setDeviceMetricsOverride", {"width": 390, "height": 844, "deviceScaleFactor": 2, "mobile": True}
+        )
         self.go("commands/Alarm.html")
         shot("telephone")
         self.browser.execute_cdp_cmd("Emulation.clearDeviceMetricsOverride", {})

@@ -21,8 +21,13 @@ UTF8 = "C.UTF-8"
 
 def packages(*names):
     config = os.path.dirname(glob.glob(f"{PREFIX}/**/orrery.pc", recursive=True)[0])
-    told = subprocess.run(["pkg-config", "--cflags", "--libs", *names], stdout=subprocess.PIPE, check=True, text=True,
-                          env=dict(os.environ, PKG_CONFIG_LIBDIR=config)).stdout.split()
+    told = subprocess.run(
+        ["pkg-config", "--cflags", "--libs", *names],
+        stdout=subprocess.PIPE,
+        check=True,
+        text=True,
+        env=dict(os.environ, PKG_CONFIG_LIBDIR=config),
+    ).stdout.split()
     return told + [f"-Wl,-rpath,{os.path.dirname(config)}"], os.path.dirname(config)
 
 
@@ -57,8 +62,13 @@ class Cookbook(unittest.TestCase):
         return [program]
 
     def run_program(self, path, **environment):
-        done = subprocess.run(self.built(path), stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False,
-                              env=dict(os.environ, PYTHONPATH=WORK, ORRERY_LIBRARY_PATH=self.libraries, **environment))
+        done = subprocess.run(
+            self.built(path),
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            check=False,
+            env=dict(os.environ, PYTHONPATH=WORK, ORRERY_LIBRARY_PATH=self.libraries, **environment),
+        )
         self.assertEqual(done.returncode, 0, f"{path}: {done.stderr.decode()}")
         return done.stdout
 
@@ -82,12 +92,17 @@ class Cookbook(unittest.TestCase):
     @unittest.skipUnless(shutil.which("localedef"), "no localedef")
     def test_the_local_encoding(self):
         os.makedirs(f"{WORK}/locales")
-        subprocess.run(["localedef", "-c", "--quiet", "--no-archive", "-i", "POSIX", "-f", "ISO-8859-1", f"{WORK}/locales/latin"],
-                       check=False, stderr=subprocess.DEVNULL)
+        subprocess.run(
+            ["localedef", "-c", "--quiet", "--no-archive", "-i", "POSIX", "-f", "ISO-8859-1", f"{WORK}/locales/latin"],
+            check=False,
+            stderr=subprocess.DEVNULL,
+        )
         if not os.path.isdir(f"{WORK}/locales/latin"):
             self.skipTest("no charmap of ISO-8859-1")
         for kind in ("c", "cpp", "py"):
-            told = self.run_program(f"{SOURCE}/examples/cookbook/encodings.{kind}", LC_ALL="latin", LOCPATH=f"{WORK}/locales")
+            told = self.run_program(
+                f"{SOURCE}/examples/cookbook/encodings.{kind}", LC_ALL="latin", LOCPATH=f"{WORK}/locales"
+            )
             self.assertEqual(told.split(b"\n")[0], b"54 fc 72 ", kind)
             self.assertIn('"Name" : "Tür"'.encode(), told)
 
@@ -96,7 +111,10 @@ class Cookbook(unittest.TestCase):
         if not os.path.exists(page):
             self.skipTest("no site")
         with open(page, encoding="utf-8") as file:
-            shown = [html.unescape(re.sub(r"<[^>]+>", "", each)) for each in re.findall(r"<pre[^>]*><code>(.*?)</code></pre>", file.read(), re.S)]
+            shown = [
+                html.unescape(re.sub(r"<[^>]+>", "", each))
+                for each in re.findall(r"<pre[^>]*><code>(.*?)</code></pre>", file.read(), re.S)
+            ]
         for names, output in self.found:
             self.assertIn(output.rstrip(), shown)
             for name in names:

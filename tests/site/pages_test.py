@@ -28,7 +28,7 @@ def safe(name):
 
 
 def luminance(color):
-    channels = [int(color[i:i + 2], 16) / 255 for i in (1, 3, 5)]
+    channels = [int(color[i : i + 2], 16) / 255 for i in (1, 3, 5)]
     linear = [each / 12.92 if each <= 0.04045 else ((each + 0.055) / 1.055) ** 2.4 for each in channels]
     return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
 
@@ -53,16 +53,27 @@ class Pages(unittest.TestCase):
     def test_finds_wrong_links(self):
         with tempfile.TemporaryDirectory() as folder:
             with open(f"{folder}/a.html", "w", encoding="utf-8") as file:
-                file.write('<main id="x"><p id="x"><a href="b.html">b</a><a href="#y">y</a><a href="c.css">c</a>'
-                           '<a href="https://example.org/">out</a><a href="a.html#x">good</a><b></main>')
+                file.write(
+                    '<main id="x"><p id="x"><a href="b.html">b</a><a href="#y">y</a><a href="c.css">c</a>'
+                    '<a href="https://example.org/">out</a><a href="a.html#x">good</a><b></main>'
+                )
             _, _, wrong = wrong_links(folder)
-        self.assertEqual(sorted(each.split(": ", 1)[1].split(" ")[0] for each in wrong if "closed" not in each),
-                         ["https://example.org/", "id", "no", "no", "no"])
+        self.assertEqual(
+            sorted(each.split(": ", 1)[1].split(" ")[0] for each in wrong if "closed" not in each),
+            ["https://example.org/", "id", "no", "no", "no"],
+        )
         self.assertTrue(any("closed" in each for each in wrong))
 
     def test_everything_has_a_page(self):
-        for kind, folder in (("commands", "commands"), ("records", "records"), ("rules", "rules"), ("events", "events"),
-                             ("typed", "texts"), ("templates", "texts"), ("enumerations", "codes")):
+        for kind, folder in (
+            ("commands", "commands"),
+            ("records", "records"),
+            ("rules", "rules"),
+            ("events", "events"),
+            ("typed", "texts"),
+            ("templates", "texts"),
+            ("enumerations", "codes"),
+        ):
             files = {name for name in os.listdir(os.path.join(SITE, folder))}
             for each in self.schema[kind]:
                 self.assertIn(safe(each["name"] or str(each["code"])) + ".html", files, kind)
@@ -138,7 +149,7 @@ class Pages(unittest.TestCase):
 
     def test_the_search_knows_everything(self):
         text = read("search-index.js")
-        index = json.loads(text[text.index("=") + 1:].rstrip().rstrip(";"))
+        index = json.loads(text[text.index("=") + 1 :].rstrip().rstrip(";"))
         anchors = {}
 
         def reached(address):
@@ -153,7 +164,9 @@ class Pages(unittest.TestCase):
             self.assertTrue(reached(address), address)
         self.assertEqual(kinds["command"], {each["name"] for each in self.schema["commands"]})
         self.assertEqual(kinds["record"], set(self.records))
-        self.assertEqual(kinds["constant"], {each["name"] for one in self.schema["enumerations"] for each in one["constants"]})
+        self.assertEqual(
+            kinds["constant"], {each["name"] for one in self.schema["enumerations"] for each in one["constants"]}
+        )
         for key, members in index["keys"].items():
             for record, member in zip(members[::2], members[1::2]):
                 self.assertTrue(reached(f"records/{safe(index['records'][record])}.html#{member}"), f"{key}: {member}")
@@ -165,8 +178,13 @@ class Pages(unittest.TestCase):
     def test_pages_are_for_everybody(self):
         for name in glob.glob(f"{SITE}/**/*.html", recursive=True):
             page = read(os.path.relpath(name, SITE))
-            for part in ('<html lang="en">', '<meta name="viewport" content="width=device-width, initial-scale=1">',
-                         '<a class="skip" href="#main">', '<main id="main"', '<label class="hidden" for="q">'):
+            for part in (
+                '<html lang="en">',
+                '<meta name="viewport" content="width=device-width, initial-scale=1">',
+                '<a class="skip" href="#main">',
+                '<main id="main"',
+                '<label class="hidden" for="q">',
+            ):
                 self.assertEqual(page.count(part), 1, f"{name}: {part}")
             self.assertEqual(len(re.findall(r"<h1[ >]", page)), 1, name)
             self.assertEqual(re.findall(r"<(?:style|script)>| style=| on\w+=\"", page), [], name)
@@ -176,10 +194,16 @@ class Pages(unittest.TestCase):
 
     def test_colours_can_be_told_apart(self):
         sheet = read("style.css")
-        schemes = [dict(re.findall(r"--(\w+): (#[0-9a-f]{3,6});", block)) for block in re.findall(r":root \{(.*?)\}", sheet, re.S)[:2]]
+        schemes = [
+            dict(re.findall(r"--(\w+): (#[0-9a-f]{3,6});", block))
+            for block in re.findall(r":root \{(.*?)\}", sheet, re.S)[:2]
+        ]
         self.assertEqual(len(schemes), 2)
         for scheme in schemes:
-            full = {name: "#" + "".join(each * 2 for each in value[1:]) if len(value) == 4 else value for name, value in scheme.items()}
+            full = {
+                name: "#" + "".join(each * 2 for each in value[1:]) if len(value) == 4 else value
+                for name, value in scheme.items()
+            }
             for front in ("text", "soft", "link", "key", "string", "number", "word", "comment"):
                 for back in ("paper", "raised", "badge") if front in ("text", "link") else ("paper", "raised"):
                     self.assertGreaterEqual(contrast(full[front], full[back]), 4.5, f"{front} on {back}")

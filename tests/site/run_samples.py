@@ -10,24 +10,38 @@ import shutil
 import subprocess
 import sys
 
-PARTS = 4   # programs of C, compiled side by side
+PARTS = 4  # programs of C, compiled side by side
 LEAST = 590  # programs that there are
 
 
 def driver(names):
     """A program that runs a sample by its number: the arguments are the number and its input."""
-    lines = ['#include <orrery/orrery.h>', '#include <stdio.h>', '#include <stdlib.h>', '#include <string.h>']
+    lines = ["#include <orrery/orrery.h>", "#include <stdio.h>", "#include <stdlib.h>", "#include <string.h>"]
     for number, name in names:
-        lines += [f"#define main main_{number}", f"#define on_event on_event_{number}", f'#include "{number}.c"',
-                  "#undef main", "#undef on_event"]
-    lines += ["int main(int count, char** arguments) {", "    int at, failed = 0;",
-              "    for (at = 1; at + 2 < count; at += 3) {",
-              "        int done = -1;",
-              '        if (!freopen(arguments[at + 1], "r", stdin) || !freopen(arguments[at + 2], "w", stdout)) return 2;',
-              "        switch (atoi(arguments[at])) {"]
+        lines += [
+            f"#define main main_{number}",
+            f"#define on_event on_event_{number}",
+            f'#include "{number}.c"',
+            "#undef main",
+            "#undef on_event",
+        ]
+    lines += [
+        "int main(int count, char** arguments) {",
+        "    int at, failed = 0;",
+        "    for (at = 1; at + 2 < count; at += 3) {",
+        "        int done = -1;",
+        '        if (!freopen(arguments[at + 1], "r", stdin) || !freopen(arguments[at + 2], "w", stdout)) return 2;',
+        "        switch (atoi(arguments[at])) {",
+    ]
     lines += [f"        case {number}: done = main_{number}(); break;" for number, _ in names]
-    lines += ["        }", '        if (done) { printf("returned %d\\n", done); failed = 1; }', "    }",
-              "    fclose(stdout);", "    return failed;", "}"]
+    lines += [
+        "        }",
+        '        if (done) { printf("returned %d\\n", done); failed = 1; }',
+        "    }",
+        "    fclose(stdout);",
+        "    return failed;",
+        "}",
+    ]
     return "\n".join(lines)
 
 
@@ -57,8 +71,22 @@ def main():
         names = [(number, sample["name"]) for number, sample in enumerate(samples) if number % PARTS == part]
         with open(f"{work}/part{part}.c", "w", encoding="utf-8") as file:
             file.write(driver(names))
-        command = [compiler, "-std=c99", "-pedantic", "-Wall", "-Wextra", "-Werror", "-O0", f"-I{include}", f"{work}/part{part}.c",
-                   f"-L{library}", "-lorrery", f"-Wl,-rpath,{library}", "-o", f"{work}/part{part}"]
+        command = [
+            compiler,
+            "-std=c99",
+            "-pedantic",
+            "-Wall",
+            "-Wextra",
+            "-Werror",
+            "-O0",
+            f"-I{include}",
+            f"{work}/part{part}.c",
+            f"-L{library}",
+            "-lorrery",
+            f"-Wl,-rpath,{library}",
+            "-o",
+            f"{work}/part{part}",
+        ]
         compiles.append((part, names, subprocess.Popen(command)))
         if len(compiles) >= 2:
             compiles[-2][2].wait()
@@ -82,7 +110,9 @@ def main():
         sys.stdin = io.StringIO(json.dumps(sample["text"]))
         try:
             with contextlib.redirect_stdout(out):
-                exec(compile(sample["python"], sample["name"], "exec"), {"__name__": "__main__"})  # pylint: disable=exec-used
+                exec(
+                    compile(sample["python"], sample["name"], "exec"), {"__name__": "__main__"}
+                )  # pylint: disable=exec-used
             told = out.getvalue().strip()
         except Exception as error:  # pylint: disable=broad-except
             told = f"{type(error).__name__}: {error}"

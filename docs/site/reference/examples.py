@@ -37,13 +37,13 @@ class Showing(Maker):
 class Example:
     def __init__(self, reply, count=1):
         self.reply, self.count = reply, count
-        self.records = []   # as the companion prints them, without what the text does not tell
+        self.records = []  # as the companion prints them, without what the text does not tell
         self.packed = None  # the text that they give
         self.request = None  # the whole request
-        self.lent = []      # what the caller has to lend: (offset path, elements)
+        self.lent = []  # what the caller has to lend: (offset path, elements)
         self.findings = ""  # what the companion finds lost of the text
-        self.code = 0       # of a template's class
-        self.says = {}      # of a command: what reading and writing do, in sentences
+        self.code = 0  # of a template's class
+        self.says = {}  # of a command: what reading and writing do, in sentences
 
 
 class Companion:
@@ -54,8 +54,15 @@ class Companion:
         self.environment = dict(os.environ, LC_ALL="C.UTF-8")
 
     def run(self, arguments, text=""):
-        done = subprocess.run([self.path, *arguments], input=text, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-                              text=True, env=self.environment, check=False)
+        done = subprocess.run(
+            [self.path, *arguments],
+            input=text,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            text=True,
+            env=self.environment,
+            check=False,
+        )
         return done.returncode, done.stdout, done.stderr
 
     def each(self, jobs):
@@ -101,9 +108,13 @@ class Examples:
 
     def make(self):
         jobs = []
-        rule_command = {rule["descriptor"]: command for command in reversed(self.schema["commands"])
-                        if command["parse"] and command["pack"] for rule in self.schema["rules"]
-                        if rule["descriptor"] == command["record"]}
+        rule_command = {
+            rule["descriptor"]: command
+            for command in reversed(self.schema["commands"])
+            if command["parse"] and command["pack"]
+            for rule in self.schema["rules"]
+            if rule["descriptor"] == command["record"]
+        }
         for command in self.schema["commands"]:
             jobs.append(lambda command=command: self.command(command))
         for rule in self.schema["rules"]:
@@ -230,8 +241,10 @@ class Examples:
         self.templates[template["name"]] = example
         arguments = ["template", template["name"]]
         if template["class"]:
-            arguments += ["--class", next(each["name"] for each in self.schema["texts"]["templates"]["classes"]
-                                          if each["code"] == example.code)]
+            arguments += [
+                "--class",
+                next(each["name"] for each in self.schema["texts"]["templates"]["classes"] if each["code"] == example.code),
+            ]
         status, out, err = self.companion.run(arguments, json.dumps(example.reply))
         if status != 0:
             self.failed(template["name"], "template: " + err)

@@ -4,9 +4,9 @@ import re
 from . import words
 from .markup import esc
 
-MOST_ROWS = 120   # of records inside that stand on a page beside its own
-MOST_USERS = 6    # a record that more hold has its page alone
-FEW_CODES = 8     # what stands open
+MOST_ROWS = 120  # of records inside that stand on a page beside its own
+MOST_USERS = 6  # a record that more hold has its page alone
+FEW_CODES = 8  # what stands open
 
 
 def dims_of(row):
@@ -23,7 +23,7 @@ def meaning(row):
     key = row.get("key", "").split("/")
     stripped = re.match(r'"([^"]*)"(?:\."[^"]*")*\s*(?:[:;,]\s*|$)', doc)
     if stripped and (stripped.group(1) in key or row.get("key") == ""):
-        doc = doc[stripped.end():]
+        doc = doc[stripped.end() :]
     # What a column of its own says, or the codes below.
     return "" if doc == row.get("unit") or ("enumeration" in row and re.fullmatch(r"[A-Z0-9_]+_\.\.\.", doc)) else doc
 
@@ -38,11 +38,17 @@ class Fields:
         for row in form.get("secondKeys", []):
             second.setdefault(row["name"], []).append(row)
         rows = [self.row(row, second.pop(row["name"], []), root, here, prefix, before) for row in form["fields"]]
-        rest = [row for each in second.values() for row in each] + [{"type": "", "dims": [], **row} for row in form.get("otherKeys", [])]
+        rest = [row for each in second.values() for row in each] + [
+            {"type": "", "dims": [], **row} for row in form.get("otherKeys", [])
+        ]
         rows += [self.row(row, [], root, here, prefix + "key-" if "name" in row else prefix, before) for row in rest]
-        columns = "".join(f'<th scope="col">{each}</th>' for each in ("Member", "Key", "Type", "Unit and range", "Absent", "Meaning"))
-        return (f'<div class="wide" tabindex="0" role="region" aria-label="{esc(label)}"><table class="fields"><thead><tr>{columns}</tr></thead>'
-                f"<tbody>{''.join(rows)}</tbody></table></div>")
+        columns = "".join(
+            f'<th scope="col">{each}</th>' for each in ("Member", "Key", "Type", "Unit and range", "Absent", "Meaning")
+        )
+        return (
+            f'<div class="wide" tabindex="0" role="region" aria-label="{esc(label)}"><table class="fields"><thead><tr>{columns}</tr></thead>'
+            f"<tbody>{''.join(rows)}</tbody></table></div>"
+        )
 
     def key(self, row, before):
         if "key" not in row:
@@ -69,10 +75,21 @@ class Fields:
             limits.append(esc(row["unit"]))
         if "range" in row:
             limits.append(f'{row["range"][0]}&nbsp;to&nbsp;{row["range"][1]}')
-        cells = (("key", "Key", "<br>".join(keys)), ("type", "Type", kind), ("limits", "Unit and range", "<br>".join(limits)),
-                 ("absent", "Absent", esc(words.absent(row))), ("says", "Meaning", self.says(row, root, here)))
-        return f'<tr id="{esc(anchor)}"><th scope="row">{first}</th>' + "".join(
-            f'<td class="{css}{"" if content else " none"}" data-label="{label}">{content}</td>' for css, label, content in cells) + "</tr>"
+        cells = (
+            ("key", "Key", "<br>".join(keys)),
+            ("type", "Type", kind),
+            ("limits", "Unit and range", "<br>".join(limits)),
+            ("absent", "Absent", esc(words.absent(row))),
+            ("says", "Meaning", self.says(row, root, here)),
+        )
+        return (
+            f'<tr id="{esc(anchor)}"><th scope="row">{first}</th>'
+            + "".join(
+                f'<td class="{css}{"" if content else " none"}" data-label="{label}">{content}</td>'
+                for css, label, content in cells
+            )
+            + "</tr>"
+        )
 
     def type_link(self, row, root, here):
         name = words.c_type(row)
@@ -89,7 +106,9 @@ class Fields:
         if codes:
             terms = "".join(self.code_line(each, row, root) for each in codes)
             listing = f'<ul class="codes">{terms}</ul><p class="rule">{esc(rest)}</p>'
-            out.append(listing if len(codes) <= FEW_CODES else f"<details><summary>{len(codes)} codes</summary>{listing}</details>")
+            out.append(
+                listing if len(codes) <= FEW_CODES else f"<details><summary>{len(codes)} codes</summary>{listing}</details>"
+            )
         elif row.get("enumeration") in self.model.enumerations:
             out.append(f'<p class="rule">codes: {self.list_link(row["enumeration"], root)}</p>')
         rules = words.sentences(row, self.model)

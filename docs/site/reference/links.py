@@ -32,15 +32,23 @@ def wrong_links(folder, parsed_of=15):
     """(pages, links, what is wrong): links without an end, anchors that stand twice, and of every so many pages elements
     that are not closed."""
     anchors, links, wrong = {}, set(), []
-    files = sorted(os.path.relpath(os.path.join(path, name), folder)
-                   for path, _, names in os.walk(folder) for name in names if name.endswith(".html"))
+    files = sorted(
+        os.path.relpath(os.path.join(path, name), folder)
+        for path, _, names in os.walk(folder)
+        for name in names
+        if name.endswith(".html")
+    )
     count = 0
     for i, file in enumerate(files):
         with open(os.path.join(folder, file), encoding="utf-8") as opened:
             text = opened.read()
         found = [html.unescape(each) for each in ANCHOR.findall(text)]
         anchors[file] = set(found)
-        wrong += [f"{file}: id {each} stands twice" for each in anchors[file] if found.count(each) > 1] if len(found) > len(anchors[file]) else []
+        wrong += (
+            [f"{file}: id {each} stands twice" for each in anchors[file] if found.count(each) > 1]
+            if len(found) > len(anchors[file])
+            else []
+        )
         told = LINK.findall(text)
         count += len(told)
         links.update((file, html.unescape(each)) for each in told)
@@ -54,7 +62,11 @@ def wrong_links(folder, parsed_of=15):
         if split.scheme or split.netloc:
             wrong.append(f"{file}: {link} leads outside")
             continue
-        to = file if not split.path else os.path.normpath(os.path.join(os.path.dirname(file), urllib.parse.unquote(split.path)))
+        to = (
+            file
+            if not split.path
+            else os.path.normpath(os.path.join(os.path.dirname(file), urllib.parse.unquote(split.path)))
+        )
         if to not in anchors:
             if to.endswith(".html") or not os.path.exists(os.path.join(folder, to)):
                 wrong.append(f"{file}: no page {link}")

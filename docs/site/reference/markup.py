@@ -5,18 +5,32 @@ import re
 
 WIDTH = 72  # of a line of JSON
 
-NAVIGATION = (("commands/index.html", "Commands"), ("records/index.html", "Records"), ("rules/index.html", "Rules"),
-              ("events/index.html", "Events"), ("codes/index.html", "Codes"), ("keys/index.html", "Keys"),
-              ("cookbook.html", "Cookbook"))
-C_WORDS = ("static const struct return if for while else switch case default break void char int unsigned size_t sizeof "
-           "long double float uint8_t uint16_t uint32_t uint64_t int32_t int64_t auto NULL nullptr class public "
-           "override int8_t bool").split()
+NAVIGATION = (
+    ("commands/index.html", "Commands"),
+    ("records/index.html", "Records"),
+    ("rules/index.html", "Rules"),
+    ("events/index.html", "Events"),
+    ("codes/index.html", "Codes"),
+    ("keys/index.html", "Keys"),
+    ("cookbook.html", "Cookbook"),
+)
+C_WORDS = (
+    "static const struct return if for while else switch case default break void char int unsigned size_t sizeof "
+    "long double float uint8_t uint16_t uint32_t uint64_t int32_t int64_t auto NULL nullptr class public "
+    "override int8_t bool"
+).split()
 PYTHON_WORDS = "import from for in if else return def class with as not print None True False lambda while yield".split()
 TOKENS = {
-    "c": re.compile(r'(?P<c>/\*.*?\*/|//[^\n]*)|(?P<s>R"\(.*?\)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])*\'|<orrery/\w+\.h>)|'
-                    r'(?P<p>^\#\w+)|(?P<w>\b[A-Za-z_]\w*\b)|(?P<n>\b\d[\w.]*)', re.S | re.M),
-    "python": re.compile(r'(?P<s>[rf]?""".*?"""|[rf]?"(?:\\.|[^"\\\n])*"|[rf]?\'(?:\\.|[^\'\\\n])*\')|(?P<c>\#[^\n]*)|'
-                         r'(?P<w>\b[A-Za-z_]\w*\b)|(?P<n>\b\d[\w.]*)', re.S),
+    "c": re.compile(
+        r'(?P<c>/\*.*?\*/|//[^\n]*)|(?P<s>R"\(.*?\)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])*\'|<orrery/\w+\.h>)|'
+        r"(?P<p>^\#\w+)|(?P<w>\b[A-Za-z_]\w*\b)|(?P<n>\b\d[\w.]*)",
+        re.S | re.M,
+    ),
+    "python": re.compile(
+        r'(?P<s>[rf]?""".*?"""|[rf]?"(?:\\.|[^"\\\n])*"|[rf]?\'(?:\\.|[^\'\\\n])*\')|(?P<c>\#[^\n]*)|'
+        r"(?P<w>\b[A-Za-z_]\w*\b)|(?P<n>\b\d[\w.]*)",
+        re.S,
+    ),
 }
 
 
@@ -27,7 +41,7 @@ def esc(text):
 def code(text, language=""):
     """The lines of a program, coloured."""
     if language not in TOKENS:
-        return f"<pre tabindex=\"0\"><code>{esc(text.rstrip())}</code></pre>"
+        return f'<pre tabindex="0"><code>{esc(text.rstrip())}</code></pre>'
     words = PYTHON_WORDS if language == "python" else C_WORDS
 
     def span(match):
@@ -38,7 +52,7 @@ def code(text, language=""):
 
     out, at, text = [], 0, text.rstrip()
     for match in TOKENS[language].finditer(text):
-        out += [esc(text[at:match.start()]), span(match)]
+        out += [esc(text[at : match.start()]), span(match)]
         at = match.end()
     return f"<pre tabindex=\"0\"><code>{''.join(out)}{esc(text[at:])}</code></pre>"
 
@@ -88,14 +102,16 @@ def cut(value, most=3):
     return value
 
 
-JSON_TOKEN = re.compile(r'(?P<k>"(?:\\.|[^"\\])*")(?=\s*:)|(?P<s>"(?:\\.|[^"\\])*")|(?P<n>-?\b\d[\d.eE+-]*|\btrue\b|\bfalse\b|\bnull\b)')
+JSON_TOKEN = re.compile(
+    r'(?P<k>"(?:\\.|[^"\\])*")(?=\s*:)|(?P<s>"(?:\\.|[^"\\])*")|(?P<n>-?\b\d[\d.eE+-]*|\btrue\b|\bfalse\b|\bnull\b)'
+)
 
 
 def json_text(value):
     text = value if isinstance(value, str) else json_lines(in_part(value))
     out, at = [], 0
     for match in JSON_TOKEN.finditer(text):
-        out += [esc(text[at:match.start()]), f'<span class="{match.lastgroup}">{esc(match.group())}</span>']
+        out += [esc(text[at : match.start()]), f'<span class="{match.lastgroup}">{esc(match.group())}</span>']
         at = match.end()
     return f"<pre tabindex=\"0\"><code>{''.join(out)}{esc(text[at:])}</code></pre>"
 
@@ -115,7 +131,11 @@ class Prose:
                 return f"<code>{esc(ticked)}</code>"
             if quoted:
                 to = self.places.get(("command", quoted)) or self.places.get(("event", quoted))
-                return f'<a href="{root}{to}">&quot;{esc(quoted)}&quot;</a>' if to and to != here else f"&quot;{esc(quoted)}&quot;"
+                return (
+                    f'<a href="{root}{to}">&quot;{esc(quoted)}&quot;</a>'
+                    if to and to != here
+                    else f"&quot;{esc(quoted)}&quot;"
+                )
             to = self.places.get(("name", name))
             if to and to != here:
                 return f'<a href="{root}{to}"><code>{esc(name)}</code></a>'
@@ -123,7 +143,7 @@ class Prose:
 
         out, at = [], 0
         for match in self.NAMES.finditer(text):
-            out += [esc(text[at:match.start()]), link(match)]
+            out += [esc(text[at : match.start()]), link(match)]
             at = match.end()
         return "".join(out) + esc(text[at:])
 
@@ -132,9 +152,14 @@ def page(title, body, root, kind, summary="", trail=(), contents=()):
     """A whole page. `root`: the way up to the site's folder. `trail`: pairs of address and name of the pages above.
     `contents`: pairs of anchor and name of the sections."""
     navigation = "".join(
-        f'<li><a href="{root}{to}"{" aria-current=page" if kind == name else ""}>{name}</a></li>' for to, name in NAVIGATION)
+        f'<li><a href="{root}{to}"{" aria-current=page" if kind == name else ""}>{name}</a></li>' for to, name in NAVIGATION
+    )
     crumbs = "".join(f'<li><a href="{root}{to}">{esc(name)}</a></li>' for to, name in trail)
-    crumbs = f'<nav class="trail" aria-label="Where this stands"><ol>{crumbs}<li aria-current="page">{esc(title)}</li></ol></nav>' if trail else ""
+    crumbs = (
+        f'<nav class="trail" aria-label="Where this stands"><ol>{crumbs}<li aria-current="page">{esc(title)}</li></ol></nav>'
+        if trail
+        else ""
+    )
     inside = "".join(f'<li><a href="#{esc(anchor)}">{esc(name)}</a></li>' for anchor, name in contents)
     inside = f'<nav class="contents" aria-label="On this page"><ul>{inside}</ul></nav>' if len(contents) > 2 else ""
     described = f'<meta name="description" content="{esc(summary[:300])}">\n' if summary else ""

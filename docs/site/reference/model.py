@@ -14,8 +14,11 @@ class Model:
         self.records = {record["name"]: record for record in schema["records"]}
         self.enumerations = {each["name"]: each for each in schema["enumerations"]}
         self.commands = {command["name"]: command for command in schema["commands"]}
-        self.constants = {constant["name"]: (each["name"], constant["value"])
-                          for each in schema["enumerations"] for constant in each["constants"]}
+        self.constants = {
+            constant["name"]: (each["name"], constant["value"])
+            for each in schema["enumerations"]
+            for constant in each["constants"]
+        }
         # Lower case as well: the texts of a device name commands in any case.
         self.folded = {name.lower(): name for name in self.commands}
         self.header_of = self.find_headers()

@@ -1,7 +1,9 @@
 """C and Python programs for everything, made from the schema, and what they print by the companion's account."""
 import generate  # of the Python package: its names
 
-ROOM = 8       # records that a program lends where a reply holds several
+from .lending import Lending
+
+ROOM = 8  # records that a program lends where a reply holds several
 MOST_SHOWN = 4
 PLAIN = ("bool", "int", "uint", "real", "names", "text", "fullText", "rawText")
 TEXT_ROOM = 65536
@@ -11,7 +13,7 @@ class Sample:
     def __init__(self, name, c, python, c_lines, python_lines, text, packed=None):
         self.name, self.c, self.python = name, c, python
         self.c_output, self.python_output = c_lines, python_lines
-        self.text = text      # what the programs read
+        self.text = text  # what the programs read
         self.packed = packed  # the text that they end with
 
 
@@ -50,9 +52,10 @@ class Shown:
         return f"{self.value:g}" if self.row["type"] in ("f32", "f64") else str(self.value)
 
 
-class Samples:
+class Samples(Lending):
     def __init__(self, model, examples):
-        self.model, self.examples = model, examples
+        super().__init__(model)
+        self.examples = examples
         self.classes = generate.class_names(model.schema["records"])
 
     def shown(self, record, value):
@@ -74,64 +77,6 @@ class Samples:
                 found.append(Shown(f"{row['name']}.{each.c}", f"{names[row['name']]}.{each.python}", each.row, each.value))
         return found[:MOST_SHOWN]
 
-    # ---- What the caller has to provide
-
-    def has_sizes(self, record, seen=()):
-        for row in self.model.records[record]["fields"]:
-            if row["kind"] == "size":
-                return True
-            if row["type"] == "record" and row["record"] not in seen and self.has_sizes(row["record"], (*seen, record)):
-                return True
-        return False
-
-    def sizes(self, record, place):
-        """Size words of a record and of those inside it."""
-        for row in self.model.records[record]["fields"]:
-            here = f"{place}.{row['name']}"
-            if row["kind"] == "size":
-                yield f"{here} = sizeof {place};"
-            elif row["type"] == "record" and row["kind"] != "none" and not row["dims"]:
-                yield from self.sizes(row["record"], here)
-
-    def lent(self, record, place, value, lines, statics):
-        """Room behind the pointers of the caller's in a record, for as many elements as the example has."""
-        value = value if isinstance(value, dict) else {}
-        for row in self.model.records[record]["fields"]:
-            told = value.get(row["name"])
-            if row["type"] == "record" and row["kind"] != "none":
-                few = [("", told)]
-                for extent in row["dims"]:
-                    few = [(f"{index}[{i}]", each[i] if isinstance(each, list) and i < len(each) else None)
-                           for index, each in few for i in range(min(2, extent))]
-                if "asked" in row:
-                    lines.append(f"{place}.{row['asked']} = {len(told) if isinstance(told, list) else 2};")
-                for index, each in few:
-                    self.lent(row["record"], f"{place}.{row['name']}{index}", each, lines, statics)
-                continue
-            pointer = row.get("pointer", {})
-            if pointer.get("owner") != "caller" or row.get("items"):
-                continue
-            name = f"room{len(statics) or ''}"
-            if pointer["elements"] == "bytes":
-                statics.append(f"static uint8_t {name}[1 << 20];")
-                lines += [f"{place}.{row['name']} = {name};", f"{place}.{pointer['bytes']} = sizeof {name};"]
-                continue
-            kind = row["record"] if "record" in row else {"i32": "int32_t", "u32": "uint32_t", "u8": "uint8_t"}[row["to"]]
-            elements = told if isinstance(told, list) else [told] if isinstance(told, dict) else []
-            count = len(elements) or (1 if pointer["elements"] == "one" else 2)
-            statics.append(f"static {kind} {name}[{count}];")
-            lines.append(f"{place}.{row['name']} = {name};")
-            if pointer.get("room"):
-                lines.append(f"{place}.{pointer['room']} = {count};")
-            for i in range(count if "record" in row else 0):
-                lines += self.sizes(row["record"], f"{name}[{i}]")
-                self.lent(row["record"], f"{name}[{i}]", elements[i] if i < len(elements) else None, lines, statics)
-
-    def writes_room(self, record):
-        """Whether a text tells all elements that there is room for: it then changes with the room."""
-        return any(row.get("writesCapacity") or ("record" in row and row["type"] == "record" and self.writes_room(row["record"]))
-                   for row in self.model.records[record]["fields"])
-
     # ---- Commands
 
     def command(self, command):
@@ -152,11 +97,18 @@ class Samples:
         for i in range(example.count):
             self.lent(record, f"records[{i}]" if several else "record", example.records[i], lines, statics)
         if self.has_sizes(record):
-            lines.insert(0, f'if (!ORRERY_SetSizeWords("{name}", {"" if several else "&"}{variable}, sizeof {variable})) return 1;')
-        c = [f'/* Reads a reply of "{name}"' + (" and writes the text that sets it." if packs else ".") + " */",
-             "#include <orrery/orrery.h>", "#include <stdio.h>", "", "int main(void) {",
-             f"    static char reply[{TEXT_ROOM}]" + (f", text[{room}];" if packs else ";"),
-             f"    static {record} {f'records[{ROOM}]' if several else 'record'};"]
+            lines.insert(
+                0, f'if (!ORRERY_SetSizeWords("{name}", {"" if several else "&"}{variable}, sizeof {variable})) return 1;'
+            )
+        c = [
+            f'/* Reads a reply of "{name}"' + (" and writes the text that sets it." if packs else ".") + " */",
+            "#include <orrery/orrery.h>",
+            "#include <stdio.h>",
+            "",
+            "int main(void) {",
+            f"    static char reply[{TEXT_ROOM}]" + (f", text[{room}];" if packs else ";"),
+            f"    static {record} {f'records[{ROOM}]' if several else 'record'};",
+        ]
         c += [f"    {each}" for each in statics] + ["    uint32_t length = 0;", ""]
         c.append("    reply[fread(reply, 1, sizeof reply - 1, stdin)] = '\\0';")
         c += [f"    {each}" for each in lines]
@@ -170,7 +122,11 @@ class Samples:
         c_lines += [each.c_line() for each in shown]
         if packs:
             size = "length" if several else "sizeof record"
-            c += ["", f'    if (!CLIENT_PacketData("{name}", {address}, {size}, text, sizeof text)) return 1;', "    puts(text);"]
+            c += [
+                "",
+                f'    if (!CLIENT_PacketData("{name}", {address}, {size}, text, sizeof text)) return 1;',
+                "    puts(text);",
+            ]
         c += ["    return 0;", "}"]
 
         call = "parse_all" if several else "parse"
@@ -190,11 +146,22 @@ class Samples:
         name, record = command["name"], command["record"]
         lines, statics = [], []
         self.lent(record, "record", example.records[0], lines, statics)
-        c = [f'/* Writes the text that sets "{name}". */', "#include <orrery/orrery.h>", "#include <stdio.h>", "",
-             "int main(void) {", f"    static char text[{TEXT_ROOM}];", f"    static {record} record;"]
+        c = [
+            f'/* Writes the text that sets "{name}". */',
+            "#include <orrery/orrery.h>",
+            "#include <stdio.h>",
+            "",
+            "int main(void) {",
+            f"    static char text[{TEXT_ROOM}];",
+            f"    static {record} record;",
+        ]
         c += [f"    {each}" for each in statics] + [""] + [f"    {each}" for each in lines]
-        c += [f'    if (!CLIENT_PacketData("{name}", &record, sizeof record, text, sizeof text)) return 1;',
-              "    puts(text);", "    return 0;", "}"]
+        c += [
+            f'    if (!CLIENT_PacketData("{name}", &record, sizeof record, text, sizeof text)) return 1;',
+            "    puts(text);",
+            "    return 0;",
+            "}",
+        ]
         return Sample(name, "\n".join(c), "", [], [], None, example.packed)
 
     # ---- Rules
@@ -234,8 +201,14 @@ int main(void) {{
     puts(text);
 """
         c += f"    free(rules.{data});\n    return 0;\n}}"
-        python = ["import sys", "import orrery", "", f'rules = orrery.parse_rules(sys.stdin.read(), "{name}")',
-                  "for rule in rules:", '    print(f"rule {rule.code}")']
+        python = [
+            "import sys",
+            "import orrery",
+            "",
+            f'rules = orrery.parse_rules(sys.stdin.read(), "{name}")',
+            "for rule in rules:",
+            '    print(f"rule {rule.code}")',
+        ]
         if packs:
             python.append(f'print(orrery.pack_rules(rules, "{name}"))')
         lines = [f"rule {code}" for code in codes]
@@ -254,7 +227,8 @@ int main(void) {{
         code = constant or str(rule["code"])
         head = items["head"]
         prints = [f"            {each.c_print('rule')}" for each in shown]
-        c = f"""/* Walks the rules of a channel and shows those of "{rule['name']}". */
+        c = (
+            f"""/* Walks the rules of a channel and shows those of "{rule['name']}". */
 #include <orrery/orrery.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -276,21 +250,34 @@ int main(void) {{
         memcpy(&head, rules.{members['data']} + at, sizeof head); /* items are aligned for nothing */
         if (head.{items['code']} == {code}) {{
             memcpy(&rule, rules.{members['data']} + at + sizeof head, sizeof rule);
-""" + "\n".join(prints) + f"""
+"""
+            + "\n".join(prints)
+            + f"""
         }}
         at += sizeof head + (size_t)head.{items['size']};
     }}
     free(rules.{members['data']});
     return 0;
 }}"""
-        python = ["import sys", "import orrery", "",
-                  f'for rule in orrery.parse_rules(sys.stdin.read(), "{command["name"]}"):',
-                  f'    if rule.name == "{rule["name"]}":']
+        )
+        python = [
+            "import sys",
+            "import orrery",
+            "",
+            f'for rule in orrery.parse_rules(sys.stdin.read(), "{command["name"]}"):',
+            f'    if rule.name == "{rule["name"]}":',
+        ]
         python += [f"        {each.python_print('rule.record')}" for each in shown] or ["        print(rule.code)"]
         if not shown:
             return None
-        return Sample(rule["name"], c, "\n".join(python), [each.c_line() for each in shown],
-                      [each.python_line() for each in shown], example.reply)
+        return Sample(
+            rule["name"],
+            c,
+            "\n".join(python),
+            [each.c_line() for each in shown],
+            [each.python_line() for each in shown],
+            example.reply,
+        )
 
     # ---- Events, typed texts, templates
 
@@ -300,7 +287,8 @@ int main(void) {{
         shown = self.shown(record, value)
         prints = [f"    {each.c_print('record', '->')}" for each in shown]
         code = constant or str(told["code"])
-        c = f"""/* Shows each "{name}" of a text. */
+        c = (
+            f"""/* Shows each "{name}" of a text. */
 #include <orrery/orrery.h>
 #include <stdio.h>
 
@@ -309,7 +297,9 @@ static int32_t on_event(uint32_t type, const void* data, uint32_t size, void* re
     (void)size, (void)reserved, (void)sequence, (void)user;
     if (type != {code}) return 0;
     puts("{name}");
-""" + "".join(each + "\n" for each in prints) + f"""    {'' if shown else '(void)record; '}return 0;
+"""
+            + "".join(each + "\n" for each in prints)
+            + f"""    {'' if shown else '(void)record; '}return 0;
 }}
 
 int main(void) {{
@@ -317,25 +307,52 @@ int main(void) {{
     const size_t length = fread(text, 1, sizeof text - 1, stdin);
     return !{call}(text, (uint32_t)length, on_event, NULL);
 }}"""
-        python = ["import sys", "import orrery", "", f"for event in orrery.{python_call}(sys.stdin.read()):",
-                  f"    if event.code == {told['code']}:", f'        print("{name}")']
+        )
+        python = [
+            "import sys",
+            "import orrery",
+            "",
+            f"for event in orrery.{python_call}(sys.stdin.read()):",
+            f"    if event.code == {told['code']}:",
+            f'        print("{name}")',
+        ]
         python += [f"        {each.python_print('event.record')}" for each in shown]
-        return Sample(name, c, "\n".join(python), [name] + [each.c_line() for each in shown],
-                      [name] + [each.python_line() for each in shown], example.reply)
+        return Sample(
+            name,
+            c,
+            "\n".join(python),
+            [name] + [each.c_line() for each in shown],
+            [name] + [each.python_line() for each in shown],
+            example.reply,
+        )
 
     def event(self, event):
         example = self.examples.events[event["name"]]
         told = example.records[0]
         # The data may tell another code than the event's own.
         record = next(each["record"] for each in self.model.schema["events"] if each["code"] == told["code"])
-        return self.delivered(event["name"], example, told, record, "CLIENT_ParseAnalyzerEventData",
-                              self.model.code_constant("ORRERY_EVENT", told["code"]), "events")
+        return self.delivered(
+            event["name"],
+            example,
+            told,
+            record,
+            "CLIENT_ParseAnalyzerEventData",
+            self.model.code_constant("ORRERY_EVENT", told["code"]),
+            "events",
+        )
 
     def typed(self, typed):
         example = self.examples.typed[typed["name"]]
         told = next(each for each in example.records if each["name"] == typed["name"])
-        return self.delivered(typed["name"], example, told, typed["record"], "CLIENT_ParseDataByCallback",
-                              self.model.code_constant("ORRERY_TYPED", told["code"]), "typed")
+        return self.delivered(
+            typed["name"],
+            example,
+            told,
+            typed["record"],
+            "CLIENT_ParseDataByCallback",
+            self.model.code_constant("ORRERY_TYPED", told["code"]),
+            "typed",
+        )
 
     def template(self, template):
         name, record = template["name"], template["record"]
@@ -348,26 +365,45 @@ int main(void) {{
         self.lent(record, "record", example.records[0], lines, statics)
         if self.has_sizes(record):
             lines.insert(0, f'if (!ORRERY_SetSizeWords("{name}", &record, sizeof record)) return 1;')
-        c = [f'/* Reads a template of "{name}". */', "#include <orrery/orrery.h>", "#include <stdio.h>", "",
-             "int main(void) {", f"    static char reply[{TEXT_ROOM}];", f"    static {record} record;"]
+        c = [
+            f'/* Reads a template of "{name}". */',
+            "#include <orrery/orrery.h>",
+            "#include <stdio.h>",
+            "",
+            "int main(void) {",
+            f"    static char reply[{TEXT_ROOM}];",
+            f"    static {record} record;",
+        ]
         c += [f"    {each}" for each in statics] + ["", "    reply[fread(reply, 1, sizeof reply - 1, stdin)] = '\\0';"]
         c += [f"    {each}" for each in lines]
         c.append(f'    if (!CLIENT_ParseVideoInAnalyse("{name}", {constant}, reply, "", &record, sizeof record)) return 1;')
         c += [f"    {each.c_print('record')}" for each in shown] + ["    return 0;", "}"]
-        python = ["import sys", "import orrery", "",
-                  f'record = orrery.parse_template("{name}", sys.stdin.read(), {example.code})']
+        python = [
+            "import sys",
+            "import orrery",
+            "",
+            f'record = orrery.parse_template("{name}", sys.stdin.read(), {example.code})',
+        ]
         python += [each.python_print("record") for each in shown]
-        return Sample(name, "\n".join(c), "\n".join(python), [each.c_line() for each in shown],
-                      [each.python_line() for each in shown], example.reply)
+        return Sample(
+            name,
+            "\n".join(c),
+            "\n".join(python),
+            [each.c_line() for each in shown],
+            [each.python_line() for each in shown],
+            example.reply,
+        )
 
     def all(self):
         """Every sample, by kind and name."""
         schema, made = self.model.schema, {}
-        for kind, rows, make, known in (("commands", schema["commands"], self.command, self.examples.commands),
-                                        ("rules", schema["rules"], self.rule, self.examples.rules),
-                                        ("events", schema["events"], self.event, self.examples.events),
-                                        ("typed", schema["typed"], self.typed, self.examples.typed),
-                                        ("templates", schema["templates"], self.template, self.examples.templates)):
+        for kind, rows, make, known in (
+            ("commands", schema["commands"], self.command, self.examples.commands),
+            ("rules", schema["rules"], self.rule, self.examples.rules),
+            ("events", schema["events"], self.event, self.examples.events),
+            ("typed", schema["typed"], self.typed, self.examples.typed),
+            ("templates", schema["templates"], self.template, self.examples.templates),
+        ):
             for each in rows:
                 if each["name"] in known:
                     sample = make(each)

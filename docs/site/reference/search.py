@@ -31,19 +31,48 @@ def index(pages, indexes):
         for constant in each["constants"]:
             doc = constant.get("doc", "")
             texts = re.match(r'(?:"[^"]*"(?:, )?)*', doc).group()
-            add("constant", constant["name"], f"{places['list', each['name']]}#{constant['name']}", f"{constant['value']} {doc}")
+            add(
+                "constant",
+                constant["name"],
+                f"{places['list', each['name']]}#{constant['name']}",
+                f"{constant['value']} {doc}",
+            )
             for text in re.findall(r'"([^"]+)"', texts):
-                add("code", text, f"{places['list', each['name']]}#{constant['name']}", f"{constant['value']} {constant['name']}")
+                add(
+                    "code",
+                    text,
+                    f"{places['list', each['name']]}#{constant['name']}",
+                    f"{constant['value']} {constant['name']}",
+                )
     for record in schema["records"]:  # texts of codes without constants
         for field in record["fields"]:
             for code in field.get("codes", []):
                 if "constant" not in code and code["name"]:
-                    add("code", code["name"], f"{places['record', record['name']]}#{field['name']}", f"{code['code']} {record['name']}.{field['name']}")
-    for name, title in (("cookbook.html", "Cookbook"), ("schema.html", "Schema"), ("platforms.html", "Platforms and compatibility"),
-                        ("python.html", "Python"), ("changes.html", "Changes")):
+                    add(
+                        "code",
+                        code["name"],
+                        f"{places['record', record['name']]}#{field['name']}",
+                        f"{code['code']} {record['name']}.{field['name']}",
+                    )
+    for name, title in (
+        ("cookbook.html", "Cookbook"),
+        ("schema.html", "Schema"),
+        ("platforms.html", "Platforms and compatibility"),
+        ("python.html", "Python"),
+        ("changes.html", "Changes"),
+    ):
         add("page", title, name, "")
     numbers = {record["name"]: i for i, record in enumerate(schema["records"])}
-    keys = {key: [word for record, member in members for word in (numbers[record], member)] for key, members in indexes.key_rows().items()}
+    keys = {
+        key: [word for record, member in members for word in (numbers[record], member)]
+        for key, members in indexes.key_rows().items()
+    }
     users = [", ".join(model.commands_of.get(record["name"], [])[:2]) for record in schema["records"]]
-    data = {"kinds": KINDS, "records": [record["name"] for record in schema["records"]], "users": users, "entries": entries, "keys": keys}
+    data = {
+        "kinds": KINDS,
+        "records": [record["name"] for record in schema["records"]],
+        "users": users,
+        "entries": entries,
+        "keys": keys,
+    }
     return "window.orreryIndex=" + json.dumps(data, ensure_ascii=False, separators=(",", ":")) + ";\n"

@@ -1,34 +1,132 @@
 """What the words of a field say, in sentences. Words without a value of their own say what the schema's description
 says of them; a word that neither knows ends the build."""
 
-INTS = {"i8": "int8_t", "u8": "uint8_t", "i16": "int16_t", "u16": "uint16_t", "i32": "int32_t", "u32": "uint32_t",
-        "i64": "int64_t", "u64": "uint64_t", "f32": "float", "f64": "double", "char": "char"}
+INTS = {
+    "i8": "int8_t",
+    "u8": "uint8_t",
+    "i16": "int16_t",
+    "u16": "uint16_t",
+    "i32": "int32_t",
+    "u32": "uint32_t",
+    "i64": "int64_t",
+    "u64": "uint64_t",
+    "f32": "float",
+    "f64": "double",
+    "char": "char",
+}
 
 KINDS = {
-    "none": "", "size": "number", "presence": "any value", "memberName": "member's name", "memberCode": "member's name",
-    "bool": "true or false", "int": "number", "uint": "number", "real": "number", "text": "text", "rawText": "text",
-    "fullText": "text", "names": "text of a code", "record": "object", "timeSection": "text: \"1 08:00:00-17:30:00\"",
-    "schedule": "list of lists of time sections", "sectionList": "list of time sections",
-    "holidaySchedule": "7 or 8 lists of time sections", "netTime": "text: \"2026-11-20 09:30:00\"",
-    "netTimeEx": "text: \"2026-11-20 09:30:00.250\"", "clockTime": "text: \"09:30:00\"", "date": "text: \"2026-11-20\"",
-    "utcTime": "number: seconds since 1970", "splitMode": "text: \"Split9\"", "bitMask": "list of bit numbers",
-    "bitMaskLoose": "list of bit numbers", "switches": "list of places that are 1", "supplied": "", "custom": "",
+    "none": "",
+    "size": "number",
+    "presence": "any value",
+    "memberName": "member's name",
+    "memberCode": "member's name",
+    "bool": "true or false",
+    "int": "number",
+    "uint": "number",
+    "real": "number",
+    "text": "text",
+    "rawText": "text",
+    "fullText": "text",
+    "names": "text of a code",
+    "record": "object",
+    "timeSection": 'text: "1 08:00:00-17:30:00"',
+    "schedule": "list of lists of time sections",
+    "sectionList": "list of time sections",
+    "holidaySchedule": "7 or 8 lists of time sections",
+    "netTime": 'text: "2026-11-20 09:30:00"',
+    "netTimeEx": 'text: "2026-11-20 09:30:00.250"',
+    "clockTime": 'text: "09:30:00"',
+    "date": 'text: "2026-11-20"',
+    "utcTime": "number: seconds since 1970",
+    "splitMode": 'text: "Split9"',
+    "bitMask": "list of bit numbers",
+    "bitMaskLoose": "list of bit numbers",
+    "switches": "list of places that are 1",
+    "supplied": "",
+    "custom": "",
 }
 SHAPES = {"object": "object", "tuple": "list", "longTuple": "list", "looseTuple": "list"}
-SUPPLIED = {"action": "the event's action", "group": "the event's picture group", "notification": "the notification around the event"}
-ELEMENTS = {"leavesHole": "keeps its place and does not count", "closesUp": "is passed over", "ends": "ends the list",
-            "endsList": "ends the list", "stops": "ends the list", "stop": "ends the list", "named": "is an element by its name"}
-ROLES = {"size": "bytes of the record", "count": "elements in use of {of}", "capacity": "room for {of}",
-         "flag": "1 when {of} was there, and written only then", "condition": "decides about {of}", "reserved": "reserved"}
+SUPPLIED = {
+    "action": "the event's action",
+    "group": "the event's picture group",
+    "notification": "the notification around the event",
+}
+ELEMENTS = {
+    "leavesHole": "keeps its place and does not count",
+    "closesUp": "is passed over",
+    "ends": "ends the list",
+    "endsList": "ends the list",
+    "stops": "ends the list",
+    "stop": "ends the list",
+    "named": "is an element by its name",
+}
+ROLES = {
+    "size": "bytes of the record",
+    "count": "elements in use of {of}",
+    "capacity": "room for {of}",
+    "flag": "1 when {of} was there, and written only then",
+    "condition": "decides about {of}",
+    "reserved": "reserved",
+}
 
 # Shown in columns of their own, or by `sentences` below.
-SHOWN = {"name", "type", "to", "record", "form", "offset", "dims", "key", "relativeTo", "kind", "writtenAs", "codes",
-         "codesAre", "compare", "lastWins", "unknownText", "unknownCode", "unknownCodeText", "enumeration", "doc", "unit",
-         "range", "default", "role", "of", "count", "countUncapped", "pointer", "function", "sample", "supplied",
-         "terminator", "flag", "only", "readIf", "writeIf", "firstBytes", "atLeast", "atMost", "unless", "nullElement",
-         "refusedElement", "writeEmpty", "writeSkipped", "asked", "room"}
-ONLY = {"string": "texts", "bool": "true and false", "integer": "whole numbers", "unsigned": "whole numbers above 2147483647",
-        "integral": "whole numbers, true and false", "array": "lists"}
+SHOWN = {
+    "name",
+    "type",
+    "to",
+    "record",
+    "form",
+    "offset",
+    "dims",
+    "key",
+    "relativeTo",
+    "kind",
+    "writtenAs",
+    "codes",
+    "codesAre",
+    "compare",
+    "lastWins",
+    "unknownText",
+    "unknownCode",
+    "unknownCodeText",
+    "enumeration",
+    "doc",
+    "unit",
+    "range",
+    "default",
+    "role",
+    "of",
+    "count",
+    "countUncapped",
+    "pointer",
+    "function",
+    "sample",
+    "supplied",
+    "terminator",
+    "flag",
+    "only",
+    "readIf",
+    "writeIf",
+    "firstBytes",
+    "atLeast",
+    "atMost",
+    "unless",
+    "nullElement",
+    "refusedElement",
+    "writeEmpty",
+    "writeSkipped",
+    "asked",
+    "room",
+}
+ONLY = {
+    "string": "texts",
+    "bool": "true and false",
+    "integer": "whole numbers",
+    "unsigned": "whole numbers above 2147483647",
+    "integral": "whole numbers, true and false",
+    "array": "lists",
+}
 
 
 def c_type(row):
@@ -36,7 +134,15 @@ def c_type(row):
     if row["type"] == "record":
         return row["record"]
     if row["type"] == "ptr":
-        return ("uint8_t" if row.get("bytes") else row["record"] if "record" in row else INTS[row["to"]] if "to" in row else "void") + "*"
+        return (
+            "uint8_t"
+            if row.get("bytes")
+            else row["record"]
+            if "record" in row
+            else INTS[row["to"]]
+            if "to" in row
+            else "void"
+        ) + "*"
     return INTS.get(row["type"], "")  # a key without a member has none
 
 
@@ -54,8 +160,15 @@ def json_type(row, model):
         return f"list of {shape}s" if levels or pointer == "list" else shape
     if kind == "custom":
         codec = row.get("function", {}).get("codec")
-        return {"namedBits": "list of texts", "byKeys": "object", "ownedText": "text", "packedColor": "[r, g, b, a]",
-                "degrees": "[degrees, minutes, seconds]", "splitName": "text", "ownedRecord": "object"}.get(codec, "number" if codec else "")
+        return {
+            "namedBits": "list of texts",
+            "byKeys": "object",
+            "ownedText": "text",
+            "packedColor": "[r, g, b, a]",
+            "degrees": "[degrees, minutes, seconds]",
+            "splitName": "text",
+            "ownedRecord": "object",
+        }.get(codec, "number" if codec else "")
     word = KINDS[kind]
     if kind in ("schedule", "sectionList", "holidaySchedule", "bitMask", "bitMaskLoose", "switches") or not word:
         return word
@@ -99,7 +212,11 @@ def sentences(row, model):
     if "role" in row:
         said.append(ROLES[row["role"]].format(of=", ".join(row.get("of", [])) or "others"))
     if "writtenAs" in row:
-        said.append("nothing is written" if row["writtenAs"] == "none" else f"written as {KINDS[row['writtenAs']] or row['writtenAs']}")
+        said.append(
+            "nothing is written"
+            if row["writtenAs"] == "none"
+            else f"written as {KINDS[row['writtenAs']] or row['writtenAs']}"
+        )
     function = row.get("function", {})
     if "codec" not in function and function:
         ways = [word for word, has in (("read", function.get("read")), ("written", function.get("write"))) if has]
@@ -108,7 +225,11 @@ def sentences(row, model):
     if row["kind"] in ("text", "rawText") and row["type"] == "char":
         said.append(f"at most {row['dims'][-1] - 1} bytes" + (", not converted" if row["kind"] == "rawText" else ""))
     elif row["kind"] == "fullText":
-        said.append(f"at most {row['dims'][-1]} bytes, then without a terminator" if not row.get("terminator") else f"at most {row['dims'][-1] - 1} bytes")
+        said.append(
+            f"at most {row['dims'][-1]} bytes, then without a terminator"
+            if not row.get("terminator")
+            else f"at most {row['dims'][-1] - 1} bytes"
+        )
     if "flag" in row:
         said.append(f"sets {row['flag']}; written only when {row['flag']} is set")
     if "count" in row:
@@ -119,19 +240,31 @@ def sentences(row, model):
             said.append(f"{word} for: {row[word]}")
     if "only" in row:
         said.append(f"read from {ONLY[row['only']]} only")
-    for word, sentence in (("readIf", "read only when {} is set"), ("writeIf", "written only when {} is set"),
-                           ("firstBytes", "cut at {} bytes before it is converted"),
-                           ("atLeast", "read only with at least {} elements"), ("unless", "not written at {}"),
-                           ("atMost", "written as {} when larger"),
-                           ("nullElement", "a null element {}"), ("refusedElement", "an element of the wrong shape {}")):
+    for word, sentence in (
+        ("readIf", "read only when {} is set"),
+        ("writeIf", "written only when {} is set"),
+        ("firstBytes", "cut at {} bytes before it is converted"),
+        ("atLeast", "read only with at least {} elements"),
+        ("unless", "not written at {}"),
+        ("atMost", "written as {} when larger"),
+        ("nullElement", "a null element {}"),
+        ("refusedElement", "an element of the wrong shape {}"),
+    ):
         if word in row:
             value = ELEMENTS.get(row[word], row[word]) if word.endswith("Element") else row[word]
             said.append(sentence.format(value))
     if "writeEmpty" in row:
-        said.append("written as [] when empty" if row["writeEmpty"] in ("array", "list") else f"written as {row['writeEmpty']} when empty")
+        said.append(
+            "written as [] when empty"
+            if row["writeEmpty"] in ("array", "list")
+            else f"written as {row['writeEmpty']} when empty"
+        )
     if "writeSkipped" in row:
-        said.append("elements not written leave a null, but none at the end" if row["writeSkipped"] == "hole"
-                    else "elements not written leave no place")
+        said.append(
+            "elements not written leave a null, but none at the end"
+            if row["writeSkipped"] == "hole"
+            else "elements not written leave no place"
+        )
     for word in row:
         if word not in SHOWN:
             said.append(model.described[("field", word)])
@@ -159,10 +292,17 @@ def codes(row):
     unknown = row["unknownText"]
     rest.append("other texts leave the member" if unknown == "leaves" else f"other texts read as {unknown}")
     other = row["unknownCode"]
-    rest.append({"noKey": "other codes are not written", "null": "other codes write null"}.get(
-        other, f"other codes write \"{row.get('unknownCodeText', '')}\""))
+    rest.append(
+        {"noKey": "other codes are not written", "null": "other codes write null"}.get(
+            other, f"other codes write \"{row.get('unknownCodeText', '')}\""
+        )
+    )
     if row["compare"] == "exact":
         rest.append("texts compare with case")
     if "codesAre" in row:
-        rest.append("codes are masks of bits, a text each" if row["codesAre"] == "bits" else "codes are places of elements, a key each")
+        rest.append(
+            "codes are masks of bits, a text each"
+            if row["codesAre"] == "bits"
+            else "codes are places of elements, a key each"
+        )
     return [(each["code"], each["name"], each.get("constant")) for each in row["codes"]], "; ".join(rest)
