@@ -56,7 +56,6 @@ class Samples(Lending):
     def __init__(self, model, examples):
         super().__init__(model)
         self.examples = examples
-        self.classes = generate.class_names(model.schema["records"])
 
     def shown(self, record, value):
         """Members that the example tells: at first the record's own, then those of records inside."""
