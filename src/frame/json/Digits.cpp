@@ -13,7 +13,7 @@ namespace {
 constexpr int kPrecision = 16;
 constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out without a search for their digits
 
-char* PutFour(char* at, std::uint32_t below10000) noexcept {
+[[maybe_unused]] char* PutFour(char* at, std::uint32_t below10000) noexcept {
     return PutPair(PutPair(at, below10000 / 100), below10000 % 100);
 }
 // Eight digits at once: the number is halved into fours, pairs and single digits, each in a lane of its own.

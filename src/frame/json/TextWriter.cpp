@@ -50,7 +50,6 @@ unsigned Stops(__m128i bytes) noexcept {
     const __m128i any = _mm_or_si128(_mm_or_si128(quote, backslash), _mm_or_si128(slash, control));
     return static_cast<unsigned>(_mm_movemask_epi8(any));
 }
-#endif
 
 // Of less than sixteen bytes.
 char* CopyFew(char* out, const char* text, std::size_t size) noexcept {
@@ -67,6 +66,7 @@ char* CopyFew(char* out, const char* text, std::size_t size) noexcept {
     }
     return out + size;
 }
+#endif
 
 // PutText, with the text's size known or, else, to be found.
 template <bool Terminated>
