@@ -213,6 +213,18 @@ TEST(CalibrateArea, CornersCloseUpWhileTheyCount) {
     EXPECT_EQ(WrittenAreas(ReadAreas(R"({"Area":[]})")).find("\"Area\""), std::string::npos);
 }
 
+TEST(CalibrateArea, StaffsEndAtTheirRoomAndNullsDoNotCount) {
+    std::string staffs = "{},null";
+    for (int i = 2; i < 21; ++i)
+        staffs += ",{\"Length\":" + std::to_string(i) + "}";
+    const Scene scene = ReadAreas("{\"Staffs\":[" + staffs + "]}");
+    EXPECT_EQ(scene.stuAreas[0].nStaffNum, 19); // twenty places, one of them a null
+    EXPECT_EQ(scene.stuAreas[0].stuStaffs[1].fLength, 0.0f);
+    EXPECT_EQ(scene.stuAreas[0].stuStaffs[2].fLength, 2.0f);
+    EXPECT_EQ(scene.stuAreas[0].stuStaffs[19].fLength, 19.0f);
+    EXPECT_EQ(scene.stuAreas[0].nMethod, 0);
+}
+
 TEST(CalibrateArea, ATypeIsKnownInItsPlaceAlone) {
     const Scene scene = ReadAreas(R"({"Type":""},{"Type":"GROUD"},{"Type":"Horizontal"},{"Type":"Vertical"},
         {"Type":"Any"},{"Type":"Any"})");
