@@ -154,7 +154,7 @@ def suites_below(pattern):
             for s in suites(os.path.relpath(path, TREE))]
 
 
-def killer(folder, without):
+def killer(folder, without, slow=True):
     """The tests that tell most for their time come first: headers against tables, then those of the family. Those of
     the frame have tables of their own, which no change touches."""
     frame = [] if folder.startswith('frame') else filter_of(suites_below('frame/**/*'))
@@ -162,7 +162,7 @@ def killer(folder, without):
             or failure(TESTS, ':'.join(filter_of(suites_below(folder + '/*')) + ['Commands*']), [SLOW] + without)
             or failure(TOOL_TESTS, '*', without)
             or failure(TESTS, '*', [SLOW] + frame + without)
-            or failure(TESTS, SLOW, without))
+            or (failure(TESTS, SLOW, without) if slow else None))
 
 
 class Compiler:
@@ -240,9 +240,9 @@ def verdict(change, by_file, source, compiler, touched):
         # from the header have to find it when they are compiled again.
         readers = {s: target for target in by_file[change.file] if source[target].endswith('_test.cpp')
                    for s in suites(source[target])}
-        found = killer(folder, filter_of(readers))
+        found = killer(folder, filter_of(readers), slow=False)
         if not found and readers:
-            found = killer(folder, [])
+            found = killer(folder, [], slow=False)
             test = re.search(r'(\w+)(?:/\d+)?\.[\w/]+$', found or '')
             reader = test and readers.get(test.group(1))
             if found and not (reader and still_fails(reader, '*' + test.group(0), change, compiler, touched)):

@@ -65,10 +65,14 @@ void __wrap_free(void* block) {
 }
 }
 
-// These go past the watch above, which counts the library's own memory.
+// These go past the watch above, which counts the library's own memory. All forms that pair with one another stand
+// here: a sanitizer minds a block of its own `new` in another's `delete`.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    if (news.failAt != 0 && ++news.seen == news.failAt) return nullptr;
+    return __real_malloc(size == 0 ? 1 : size);
+}
 void* operator new(std::size_t size) {
-    if (news.failAt != 0 && ++news.seen == news.failAt) throw std::bad_alloc();
-    void* const block = __real_malloc(size == 0 ? 1 : size);
+    void* const block = operator new(size, std::nothrow);
     if (block == nullptr) throw std::bad_alloc();
     return block;
 }
@@ -76,6 +80,9 @@ void operator delete(void* block) noexcept {
     __real_free(block);
 }
 void operator delete(void* block, std::size_t) noexcept {
+    __real_free(block);
+}
+void operator delete(void* block, const std::nothrow_t&) noexcept {
     __real_free(block);
 }
 
