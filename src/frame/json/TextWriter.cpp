@@ -261,7 +261,8 @@ bool TextWriter::Write(const Value& value, Arena& arena) noexcept {
     // Values also go to fields of records, where nobody clears what stands behind a text.
     const auto number = [this](auto what) {
         char digits[kIntegerRoom];
-        Scalar(digits, static_cast<std::size_t>(PutDigits(digits, what) - digits));
+        Separate();
+        Append(digits, static_cast<std::size_t>(PutDigits(digits, what) - digits));
     };
     for (;;) {
         switch (current->type()) {
