@@ -3,6 +3,7 @@
 #include "frame/LocalText.h"
 #include "orrery/calls.h"
 #include "orrery/device_settings.h"
+#include "support/LocalTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -39,23 +40,13 @@ const CodePageText* OfThisProcess() {
 std::string ToLocal(std::string_view source, int capacity = 32) {
     StackArena<1024> arena;
     LocalText text(arena);
-    std::string room(static_cast<std::size_t>(capacity) + 4, '#');
-    const int count = text.ConvertUtf8ToLocal(source.data(), static_cast<int>(source.size()), room.data(), capacity);
-    EXPECT_LT(count, capacity);
-    EXPECT_EQ(room[static_cast<std::size_t>(count)], '\0');
-    EXPECT_EQ(room.substr(static_cast<std::size_t>(capacity)), "####") << "written past the capacity";
-    return room.substr(0, static_cast<std::size_t>(count));
+    return test::ToLocal(text, source, capacity);
 }
 
 std::string ToUtf8(std::string_view source, int capacity = 32) {
     StackArena<1024> arena;
     LocalText text(arena);
-    std::string room(static_cast<std::size_t>(capacity) + 4, '#');
-    const int count = text.ConvertLocalToUtf8(source.data(), static_cast<int>(source.size()), room.data(), capacity);
-    EXPECT_LT(count, capacity);
-    EXPECT_EQ(room[static_cast<std::size_t>(count)], '\0');
-    EXPECT_EQ(room.substr(static_cast<std::size_t>(capacity)), "####") << "written past the capacity";
-    return room.substr(0, static_cast<std::size_t>(count));
+    return test::ToUtf8(text, source, capacity);
 }
 
 TEST(CodePage, IsTheOneThatTheTestsAreRunFor) {

@@ -3,6 +3,7 @@
 #include "frame/LocalText.h"
 #include "orrery/network.h"
 #include "support/FailingAllocator.h"
+#include "support/LocalTexts.h"
 #include "support/Locales.h"
 
 #include "orrery/calls.h"
@@ -29,26 +30,10 @@ using test::ProcessLocale;
 using test::StringValue;
 using test::TextOf;
 using test::ThreadLocale;
+using test::ToLocal;
+using test::ToUtf8;
 
 class LocalTextIn : public test::CompiledLocales {};
-
-std::string ToLocal(LocalText& text, std::string_view source, int capacity) {
-    std::string room(static_cast<std::size_t>(capacity) + 4, '#');
-    const int count = text.ConvertUtf8ToLocal(source.data(), static_cast<int>(source.size()), room.data(), capacity);
-    EXPECT_LT(count, capacity);
-    EXPECT_EQ(room[static_cast<std::size_t>(count)], '\0');
-    EXPECT_EQ(room.substr(static_cast<std::size_t>(capacity)), "####") << "written past the capacity";
-    return room.substr(0, static_cast<std::size_t>(count));
-}
-
-std::string ToUtf8(LocalText& text, std::string_view source, int capacity) {
-    std::string room(static_cast<std::size_t>(capacity) + 4, '#');
-    const int count = text.ConvertLocalToUtf8(source.data(), static_cast<int>(source.size()), room.data(), capacity);
-    EXPECT_LT(count, capacity);
-    EXPECT_EQ(room[static_cast<std::size_t>(count)], '\0');
-    EXPECT_EQ(room.substr(static_cast<std::size_t>(capacity)), "####") << "written past the capacity";
-    return room.substr(0, static_cast<std::size_t>(count));
-}
 
 void ExpectBoundedCopy(LocalText& text) {
     EXPECT_TRUE(text.isCopy());
