@@ -82,16 +82,20 @@ class Indexes:
             "All records.",
         )
 
-    def rules(self):
-        rows = [
+    def coded_rows(self, kind, member):
+        """A row for each of those that a code tells."""
+        return [
             self.row(
-                self.pages.link("rule", each["name"] or str(each["code"])),
+                self.pages.link(kind, each["name"] or str(each["code"])),
                 str(each["code"]),
                 self.pages.link("record", each["record"]),
                 self.summary(each["record"]),
             )
-            for each in self.model.schema["rules"]
+            for each in self.model.schema[member]
         ]
+
+    def rules(self):
+        rows = self.coded_rows("rule", "rules")
         self.put(
             "rules/index.html",
             "Rules",
@@ -102,15 +106,7 @@ class Indexes:
         )
 
     def events(self):
-        rows = [
-            self.row(
-                self.pages.link("event", each["name"] or str(each["code"])),
-                str(each["code"]),
-                self.pages.link("record", each["record"]),
-                self.summary(each["record"]),
-            )
-            for each in self.model.schema["events"]
-        ]
+        rows = self.coded_rows("event", "events")
         typed = [
             self.row(
                 self.pages.link("typed", each["name"]),
