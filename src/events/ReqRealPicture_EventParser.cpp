@@ -37,9 +37,9 @@ struct EventParts {
     explicit EventParts(const Value& event) noexcept {
         for (const json::Member& member : event.members()) {
             const std::string_view key = member.key();
-            if (key.size() == 4 && std::memcmp(key.data(), "Code", 4) == 0)
+            if (key == "Code")
                 code = &member.value;
-            else if (key.size() == 4 && std::memcmp(key.data(), "Data", 4) == 0)
+            else if (key == "Data")
                 data = &member.value;
             else if (key == "Action")
                 action = &member.value;
