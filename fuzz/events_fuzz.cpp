@@ -1,5 +1,5 @@
 // Any text as analyzer events: every record that is delivered can be read to its last byte, and so can every block that
-// it points to. What follows the text's terminator chooses the circumstances.
+// it points to, and those of a copy that is kept. What follows the text's terminator chooses the circumstances.
 #include "Circumstances.h"
 #include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
@@ -12,10 +12,22 @@
 
 namespace {
 
-std::int32_t Walk(std::uint32_t type, const void* record, std::uint32_t, void*, std::int32_t, void* user) {
-    const orrery::events::EventRow* const row = orrery::events::FindEvent(type);
+struct Client {
+    std::uint64_t total = 0;
+    bool copies = false;
+};
+
+std::int32_t Walk(std::uint32_t type, const void* record, std::uint32_t size, void*, std::int32_t, void* user) {
+    using namespace orrery;
+    auto& client = *static_cast<Client*>(user);
+    const events::EventRow* const row = events::FindEvent(type);
     if (row == nullptr || record == nullptr) std::abort();
-    *static_cast<std::uint64_t*>(user) += orrery::test::SumOfRecord(*row->table, static_cast<const std::byte*>(record));
+    const std::uint64_t sum = test::SumOfRecord(*row->table, static_cast<const std::byte*>(record));
+    client.total += sum;
+    if (!client.copies) return 0;
+    test::ReadCopy(type, record, size, [&](const std::byte* copy) {
+        if (test::SumOfRecord(*row->table, copy) != sum) std::abort();
+    });
     return 0;
 }
 
@@ -29,15 +41,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!source.empty()) std::memcpy(text.get(), source.data(), source.size());
     text[source.size()] = '\0';
 
-    static std::uint64_t total = 0;
+    static Client client;
+    client.copies = (choice.flags & 16) != 0;
     orrery::fuzz::Circumstances around(choice);
     if ((choice.flags & 8) == 0) {
-        if (CLIENT_ParseAnalyzerEventData(text.get(), 0, Walk, &total) != 1) std::abort();
+        if (CLIENT_ParseAnalyzerEventData(text.get(), 0, Walk, &client) != 1) std::abort();
     } else { // a whole message
         orrery::CReqRealPicture picture;
         picture.dwPacketType = orrery::CReqRealPicture::kPacketType;
         picture.dwPacketSubType = orrery::CReqRealPicture::kPacketSubType;
-        if (picture.deserialize(text.get(), source.size()) != 0) picture.deliver(Walk, &total);
+        if (picture.deserialize(text.get(), source.size()) != 0) picture.deliver(Walk, &client);
     }
     if (!around.Calm()) std::abort();
     return 0;

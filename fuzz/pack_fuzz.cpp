@@ -50,7 +50,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (sizeChoice % 4 == 1) records = sizeChoice / 4 % (2 * whole);
     if (command.otherTable != nullptr && !isOther && records == command.otherTable->size)
         return 0; // pointers of no one
-    if (sizeChoice % 4 == 2 && whole <= kLarge) records = whole * (1 + sizeChoice / 4 % 3);
+    // Several large ones now and then.
+    if (sizeChoice % 4 == 2 && whole <= (sizeChoice / 64 % 8 == 1 ? 16 * kLarge : kLarge))
+        records = whole * (1 + sizeChoice / 4 % 3);
     const test::FuzzBlock record(records, flavour % 8);
     const bool once = (flavour & 16) != 0 || (whole > kLarge && bytes.size() < whole);
     const auto items = (capacityChoice >> 31) != 0 && records >= whole ? test::FirstItems(table) : std::nullopt;

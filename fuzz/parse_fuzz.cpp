@@ -8,6 +8,7 @@
 #include "support/CommandCalls.h"
 
 #include "orrery/calls.h"
+#include "orrery/helpers.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -28,6 +29,7 @@ std::size_t SizeOf(const Command& command, std::uint32_t choice) {
     const std::size_t most = record <= kMuch || (choice >> 8) % 8 == 1 ? 3 : 1; // records
     switch (choice % 4) {
     case 0:
+        if (command.otherTable != nullptr && choice / 4 % 2 == 1) return command.otherTable->size;
         return 1 + choice / 4 % 64;
     case 1:
         return record + choice / 4 % 64;
@@ -100,9 +102,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // By its name a command answers the same; other names are none.
     const char folded[] = {'a', 'L', 'A', 'r', 'M', static_cast<char>(flavour % 3 != 0 ? 0 : flavour), 0};
     for (const char* const name : {command.name.data(), static_cast<const char*>(folded)}) {
-        if (FindCommand(name) == nullptr || command.table->hasSizeWords || test::HasPointers(*command.table)) continue;
+        if (FindCommand(name) == nullptr || test::HasPointers(*command.table)) continue;
         const test::FuzzBlock again(room, 0);
         std::memset(again.get(), 0, room);
+        const bool isSet = ORRERY_SetSizeWords(name, again.get(), static_cast<std::uint32_t>(room)) != 0;
+        if (isSet != (room >= FindCommand(name)->table->size)) std::abort();
         static_cast<void>(CLIENT_ParseData(name, reinterpret_cast<const char*>(text.get()), again.get(),
                                            static_cast<std::uint32_t>(room), nullptr));
     }

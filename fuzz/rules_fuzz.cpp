@@ -9,6 +9,7 @@
 
 #include "frame/record/Engine.h"
 #include "orrery/analyse_rules.h"
+#include "orrery/helpers.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -99,12 +100,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     rules.nRuleLen = static_cast<std::int32_t>(room);
     fuzz::Circumstances around(choice);
     std::uint32_t length = 0;
+    std::size_t at = 0; // what the rules take
     const Outcome outcome =
         RunParse(command, {reinterpret_cast<const char*>(text.get()), &rules, sizeof rules, &length});
     if (outcome == Outcome::OutOfMemory && !around.memoryFailed()) std::abort();
     if (outcome == Outcome::Done) {
         // As a client walks it: each item stands whole in the buffer.
-        std::size_t at = 0;
         for (std::int32_t i = 0; i < rules.nRuleCount; ++i) {
             if (room - at < kHead) std::abort();
             CFG_RULE_INFO head;
@@ -114,6 +115,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         Write(*commands[0], rules, around);
     }
+    const bool memoryFailed = around.memoryFailed();
+    if (!around.Calm()) std::abort();
+    // What was told to be enough is what it takes.
+    const std::size_t needed = ORRERY_RuleBytes(command.name.data(), reinterpret_cast<const char*>(text.get()));
+    if (outcome == Outcome::Done && !memoryFailed && (needed <= room ? at != needed : at > needed)) std::abort();
     if (!around.Calm()) std::abort();
     return 0;
 }

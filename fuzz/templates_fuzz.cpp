@@ -5,6 +5,7 @@
 #include "support/FuzzInput.h"
 
 #include "orrery/calls.h"
+#include "orrery/helpers.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -34,9 +35,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CFG_ANALYSERULES_INFO rules{-1, reinterpret_cast<std::uint8_t*>(items.get()), static_cast<std::int32_t>(room)};
     if (hasItems) std::memcpy(record.get(), &rules, sizeof rules);
 
+    const std::string name(row.name);
+    if ((roomChoice >> 31) != 0 && ORRERY_SetSizeWords(name.c_str(), record.get(), row.table->size) != 1) std::abort();
     fuzz::Circumstances around(choice);
     const int reserved = 0;
-    const std::string name(row.name);
     const std::int32_t result = CLIENT_ParseVideoInAnalyse(
         name.c_str(), classType, reinterpret_cast<const char*>(text.get()), &reserved, record.get(), row.table->size);
     if (result != 0 && result != 1) std::abort();

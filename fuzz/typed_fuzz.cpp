@@ -1,5 +1,6 @@
 // Any text whose keys tell what it carries: every record that is handed over can be read to its last byte, and so can
-// every block that it points to. What follows the text's terminator chooses the circumstances.
+// every block that it points to, and those of a copy that is kept. What follows the text's terminator chooses the
+// circumstances.
 #include "Circumstances.h"
 #include "analyse/RuleFrame.h"
 #include "events/EventMap.h"
@@ -32,30 +33,41 @@ void WalkRules(const EVENT_RULE_TABLE& table) {
     }
 }
 
-std::int32_t Walk(std::uint32_t type, const void* record, std::uint32_t size, void*, std::int32_t, void* user) {
-    auto& total = *static_cast<std::uint64_t*>(user);
-    const auto* const bytes = static_cast<const std::byte*>(record);
-    if (record == nullptr) std::abort();
-    if (const events::EventRow* const event = events::FindEvent(type)) {
-        total += test::SumOfRecord(*event->table, bytes);
-        return 0;
-    }
+std::uint64_t SumOf(std::uint32_t type, const std::byte* record, std::uint32_t size) {
+    if (const events::EventRow* const event = events::FindEvent(type)) return test::SumOfRecord(*event->table, record);
     const events::TypedRow* const row = events::FindTyped(type);
     if (row == nullptr || size % row->table->size != 0 || (!row->isList && size != row->table->size)) std::abort();
     if (type == ORRERY_TYPED_VIDEO_ANALYSE_RULE) {
-        WalkRules(*static_cast<const EVENT_RULE_TABLE*>(record));
+        WalkRules(*reinterpret_cast<const EVENT_RULE_TABLE*>(record));
         return 0;
     }
     if (type == ORRERY_TYPED_TRAFFIC_FLOW_STAT) {
         // Room that nothing was read into is no list.
-        auto flow = *static_cast<const CFG_TRAFFICFLOWSTAT_INFO*>(record);
+        auto flow = *reinterpret_cast<const CFG_TRAFFICFLOWSTAT_INFO*>(record);
         if (flow.nExtraNum > flow.nExtraMax) std::abort();
         if (flow.nExtraNum == 0) flow.pExtraConfigs = nullptr;
-        total += test::SumOfRecord(*row->table, reinterpret_cast<const std::byte*>(&flow));
-        return 0;
+        return test::SumOfRecord(*row->table, reinterpret_cast<const std::byte*>(&flow));
     }
+    std::uint64_t sum = 0;
     for (std::uint32_t at = 0; at < size; at += row->table->size)
-        total += test::SumOfRecord(*row->table, bytes + at);
+        sum += test::SumOfRecord(*row->table, record + at);
+    return sum;
+}
+
+struct Client {
+    std::uint64_t total = 0;
+    bool copies = false;
+};
+
+std::int32_t Walk(std::uint32_t type, const void* record, std::uint32_t size, void*, std::int32_t, void* user) {
+    auto& client = *static_cast<Client*>(user);
+    if (record == nullptr) std::abort();
+    const std::uint64_t sum = SumOf(type, static_cast<const std::byte*>(record), size);
+    client.total += sum;
+    if (!client.copies) return 0;
+    test::ReadCopy(type, record, size, [&](const std::byte* copy) {
+        if (SumOf(type, copy, size) != sum) std::abort();
+    });
     return 0;
 }
 
@@ -69,9 +81,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!source.empty()) std::memcpy(text.get(), source.data(), source.size());
     text[source.size()] = '\0';
 
-    static std::uint64_t total = 0;
+    static Client client;
+    client.copies = (choice.flags & 16) != 0;
     fuzz::Circumstances around(choice);
-    const std::int32_t result = CLIENT_ParseDataByCallback(text.get(), 0, Walk, &total);
+    const std::int32_t result = CLIENT_ParseDataByCallback(text.get(), 0, Walk, &client);
     if (result != 0 && result != 1) std::abort();
     if (!around.Calm()) std::abort();
     return 0;

@@ -2,6 +2,7 @@
 // analysis rule and for each event, in several circumstances: fuzz_seeds DIRECTORY
 #include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleBodyMap.h"
+#include "analyse/SceneDetail.h"
 #include "analyse/Templates.h"
 #include "events/EventMap.h"
 #include "events/TypedText.h"
@@ -43,14 +44,15 @@ std::string Circumstances(unsigned locale, unsigned flags, unsigned allocation) 
     Put(bytes, static_cast<std::uint16_t>(allocation));
     return bytes;
 }
-constexpr unsigned kLocales = 7, kSink = 1, kFailOnly = 2, kFailFrom = 4, kNotification = 8;
+constexpr unsigned kLocales = 7, kSink = 1, kFailOnly = 2, kFailFrom = 4, kNotification = 8, kCopies = 16;
 
-// Characters of three and four bytes in front of each member that is a text.
+// Characters of three and four bytes and escapes in front of each member that is a text.
 std::string NotAscii(const std::string& text) {
     std::string all;
     for (std::size_t i = 0; i < text.size(); ++i) {
         all += text[i];
-        if (i > 0 && text[i] == '"' && text[i - 1] == ':') all += "\xE4\xB8\xAD\xF0\x9F\x98\x80\xC3\x8A";
+        if (i > 0 && text[i] == '"' && text[i - 1] == ':')
+            all += "\xE4\xB8\xAD\xF0\x9F\x98\x80\xC3\x8A\\u4E2D\\uD83D\\uDE00\\n";
     }
     return all;
 }
@@ -72,8 +74,9 @@ void WriteTexts(const char* target, const std::string& name, const std::string& 
               + Circumstances(turn % 2, flags | kSink | (turn % 3 == 0 ? kFailFrom : kFailOnly), turn / 3 % 4));
 }
 
-void WriteCommand(const Command& command) {
-    const std::string name(command.name);
+// `reply` makes its replies.
+template <class Reply>
+void WriteCommand(const Command& command, const std::string& name, Reply reply) {
     const std::uint32_t number = test::FuzzNumberOf(command.name);
     std::vector<std::byte> record(command.table->size);
     test::CallerMemory memory;
@@ -82,8 +85,12 @@ void WriteCommand(const Command& command) {
         Put(prefix, number);
         Put(prefix, std::uint32_t{1}); // a buffer of one record
         Put(prefix, std::uint8_t{0});
-        WriteTexts("parse", name, prefix, 0,
-                   [&](const test::TextOptions& options) { return test::ReplyText(command, options); });
+        WriteTexts("parse", name, prefix, 0, reply);
+        if (command.otherTable != nullptr) { // a buffer that tells which of the two records it is
+            prefix[sizeof number] = 4;
+            WriteTexts("parse", name + ".other", prefix, 0, reply);
+            prefix[sizeof number] = 1;
+        }
         // A value of every shape, and none.
         const char* const values[] = {"null", "[]", "{}", "5", "\"x\"", "[[{}],[null]]", "[null,{}]"};
         const std::string shaped = test::Envelope(command, test::JsonTree(values[turn % std::size(values)])).Text();
@@ -91,7 +98,7 @@ void WriteCommand(const Command& command) {
         const char* const replies[] = {"", "{", R"({"result":false})", R"({"result":true})", "[1", "\"\\u12\""};
         Write("parse", name + ".reply", prefix + replies[turn % std::size(replies)]);
         memory.PrepareBuffer(command, record.data(), record.size());
-        RunParse(command, {test::ReplyText(command).c_str(), record.data(), command.table->size, nullptr});
+        RunParse(command, {reply(test::TextOptions{}).c_str(), record.data(), command.table->size, nullptr});
     }
     if (!command.packs() || ItemsBehind(*command.table) != nullptr) return;
     constexpr std::size_t kMost = std::size_t{16} << 10;
@@ -109,7 +116,13 @@ void WriteCommand(const Command& command) {
     Write("pack", name + ".characters", seed(5, 0, static_cast<std::uint8_t>(8 | 32 | (1 + turn % 3) << 6), bytes));
     Write("pack", name + ".any", seed(turn, 0, 8 | 64, std::string("\xD6\xD0\x01\x00\x02\xFF", 6)));
     Write("pack", name + ".memory", seed(4, static_cast<std::uint16_t>(3 + turn % 3 * 4), 8 | 64, bytes));
-    Write("pack", name + ".two", seed(5, 2 + 4, 8, bytes));
+    Write("pack", name + ".two", seed(5, 2 + 4 + 64, 8, bytes));
+    if (record.size() > kMost) { // what stands behind
+        const std::size_t from = record.size() - kMost;
+        Write("pack", name + ".end",
+              seed(static_cast<std::uint32_t>(8 * from + 5), 0, 8 | 16,
+                   std::string(reinterpret_cast<const char*>(record.data()) + from, kMost)));
+    }
     if (const auto items = test::FirstItems(*command.table)) {
         const std::string described(reinterpret_cast<const char*>(record.data() + *items),
                                     std::min(kMost, record.size() - *items));
@@ -124,13 +137,33 @@ void WriteCommand(const Command& command) {
     Write("pack", name + ".short", seed(4, static_cast<std::uint16_t>(1 + 4 * (turn % 50)), 0, bytes));
 }
 
+// What a scene tells of itself has other keys for scenes of other types.
+void WriteScenes() {
+    const Command& command = *FindCommand("VideoAnalyseGlobal");
+    for (const char* const type : {"Traffic", "FaceDetection", "TrafficPatrol", "Normal"}) {
+        WriteCommand(command, std::string(command.name) + "." + type, [&](const test::TextOptions& options) {
+            test::JsonTree global = test::RecordTree(*command.table, options);
+            if (global.kind() != test::JsonTree::Kind::Object) global = test::JsonTree::Object();
+            const bool isOfFaces = scenes::GroupOfScene(type) == scenes::kFaces;
+            for (const char* const name : {"Scene", "Scene1"}) {
+                test::JsonTree scene = test::JsonTree::Object();
+                scene.Add("Type", test::JsonTree::String(type));
+                scene.Add("TypeList", test::JsonTree(R"(["Normal","City","FaceRecognition"])"));
+                scene.Add("Detail", test::RecordTree(isOfFaces ? scenes::kFaceDetail : scenes::kSceneDetail, options));
+                global.At(name) = scene;
+            }
+            return test::Envelope(command, global).Text();
+        });
+    }
+}
+
 void WriteEvent(const events::EventRow& row) {
     if (row.name.empty()) return;
     const auto text = [&](const test::TextOptions& options) {
         return R"({"Event":[{"Code":")" + std::string(row.name) + R"(","Action":"Start","Data":)"
                + test::RecordTree(*row.table, options).Text() + "}]}";
     };
-    WriteTexts("events", std::string(row.name), "", 0, text);
+    WriteTexts("events", std::string(row.name), "", turn % 2 == 0 ? kCopies : 0, text);
     // The same as a notification, with all that stands around its events.
     const auto notified = [&](const test::TextOptions& options) {
         return R"({"params":{"info":{"Transfer":"Offline","Channel":2,"CountInGroup":2,"IndexInGroup":1,"PictureType":1,)"
@@ -139,7 +172,7 @@ void WriteEvent(const events::EventRow& row) {
                R"("VideoPath":"v","Events":[{"Code":")"
                + std::string(row.name) + R"(","Data":)" + test::RecordTree(*row.table, options).Text() + "}]}}}";
     };
-    if (turn % 4 == 0) WriteTexts("events", std::string(row.name) + ".notified", "", kNotification, notified);
+    if (turn % 4 == 0) WriteTexts("events", std::string(row.name) + ".notified", "", kNotification | kCopies, notified);
 }
 
 void WriteRule(const RuleBody& body) {
@@ -254,7 +287,7 @@ void WriteTyped(const events::TypedRow& row) {
         const std::string value = isList ? "[" + record + ",null]" : record;
         return "{" + lanes + "\"" + std::string(row.name) + "\":" + value + "}";
     };
-    WriteTexts("typed", std::string(row.name), "", 0, text);
+    WriteTexts("typed", std::string(row.name), "", turn % 2 == 0 ? kCopies : 0, text);
 }
 
 void WriteTemplate(const TemplateRow& row) {
@@ -267,7 +300,7 @@ void WriteTemplate(const TemplateRow& row) {
     std::string prefix;
     Put(prefix, static_cast<std::uint8_t>(&row - Templates().data()));
     Put(prefix, static_cast<std::uint8_t>(CFG_RULE_CLASS_TRAFFIC));
-    Put(prefix, std::uint32_t{60000});
+    Put(prefix, std::uint32_t{1} << 31 | 60000u);
     WriteTexts("templates", std::string(row.name), prefix, 0, text);
 }
 
@@ -280,7 +313,9 @@ int main(int argc, char** argv) {
     }
     directory = argv[1];
     for (const Command& command : test::DistinctCommands())
-        WriteCommand(command);
+        WriteCommand(command, std::string(command.name),
+                     [&](const test::TextOptions& options) { return test::ReplyText(command, options); });
+    WriteScenes();
     for (const events::EventRow& row : events::Events())
         WriteEvent(row);
     for (const RuleBody& body : RuleBodies())

@@ -35,7 +35,7 @@
 #endif
 #endif
 
-#ifndef SANITIZED // sanitizers make frames larger
+#if !defined(SANITIZED) && defined(__OPTIMIZE__) // without, frames are larger than those of the library that ships
 
 namespace orrery {
 namespace {
