@@ -64,10 +64,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (flavour & 8) record::SetSizeWords(table, record.get() + at);
         if (test::HasPointers(table)) memory.MakePointersSafe(table, record.get() + at);
     }
-    // A size word of the caller's own moves the records behind the first: their pointers are wherever it says.
-    if (test::HasPointers(table) && command.packFrame.stride != Stride::Record) {
-        if (records < whole) return 0;
-        record::SetSizeWords(table, record.get());
+    if (test::HasPointers(table)) {
+        if (records < whole) return 0; // pointers of no one
+        // A size word of the caller's own moves the records behind the first: their pointers are wherever it says.
+        if (command.packFrame.stride != Stride::Record) record::SetSizeWords(table, record.get());
     }
 
     fuzz::Choice choice;

@@ -52,7 +52,7 @@ std::string NotAscii(const std::string& text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         all += text[i];
         if (i > 0 && text[i] == '"' && text[i - 1] == ':')
-            all += "\xE4\xB8\xAD\xF0\x9F\x98\x80\xC3\x8A\\u4E2D\\uD83D\\uDE00\\n";
+            all += "\xE4\xB8\xAD\xF0\x9F\x98\x80\xC3\x8A\\u4E2D\\uD83D\\uDE00\\u00CA\\b\\f\\n\\r\\t";
     }
     return all;
 }
@@ -278,7 +278,7 @@ std::string Rule(const PackedItems& items, const test::TextOptions& options) {
     return rule.Text();
 }
 
-void WriteTyped(const events::TypedRow& row) {
+void WriteTyped(const events::TypedRow& row, const std::string& name) {
     const auto text = [&](const test::TextOptions& options) {
         const std::string record = row.table->items != nullptr ? Rule(*row.table->items, options)
                                                                : test::RecordTree(*row.table, options).Text();
@@ -287,11 +287,12 @@ void WriteTyped(const events::TypedRow& row) {
         const std::string value = isList ? "[" + record + ",null]" : record;
         return "{" + lanes + "\"" + std::string(row.name) + "\":" + value + "}";
     };
-    WriteTexts("typed", std::string(row.name), "", turn % 2 == 0 ? kCopies : 0, text);
+    WriteTexts("typed", name, "", turn % 2 == 0 ? kCopies : 0, text);
 }
 
-void WriteTemplate(const TemplateRow& row) {
-    const auto text = [&](const test::TextOptions& options) {
+void WriteTemplate(const TemplateRow& row, const std::string& name) {
+    const auto text = [&](test::TextOptions options) {
+        options.seed += turn; // scenes of several classes
         if (!row.isByClass) return R"({"result":true,"params":)" + test::RecordTree(*row.table, options).Text() + "}";
         const std::string value = row.table->items != nullptr ? R"({"a":)" + Rule(*row.table->items, options) + "}"
                                                               : test::RecordTree(*row.table, options).Text();
@@ -301,7 +302,7 @@ void WriteTemplate(const TemplateRow& row) {
     Put(prefix, static_cast<std::uint8_t>(&row - Templates().data()));
     Put(prefix, static_cast<std::uint8_t>(CFG_RULE_CLASS_TRAFFIC));
     Put(prefix, std::uint32_t{1} << 31 | 60000u);
-    WriteTexts("templates", std::string(row.name), prefix, 0, text);
+    WriteTexts("templates", name, prefix, 0, text);
 }
 
 } // namespace
@@ -321,11 +322,13 @@ int main(int argc, char** argv) {
     for (const RuleBody& body : RuleBodies())
         WriteRule(body);
     for (const events::TypedRow& row : events::TypedRows())
-        WriteTyped(row);
-    for (int i = 0; i < 8; ++i) // rules of several types
-        WriteTyped(*events::FindTyped("VideoAnalyseRule")), ++turn;
-    for (const TemplateRow& row : Templates())
-        WriteTemplate(row);
+        WriteTyped(row, std::string(row.name));
+    for (int i = 0; i < 8; ++i) { // rules of several types
+        const std::string number = "." + std::to_string(i);
+        WriteTyped(*events::FindTyped("VideoAnalyseRule"), "VideoAnalyseRule" + number);
+        for (const TemplateRow& row : Templates())
+            WriteTemplate(row, std::string(row.name) + number);
+    }
     WriteRequests();
     return 0;
 }
