@@ -34,7 +34,7 @@ def safe(name: str) -> str:
 
 # What the module of records imports.
 IMPORTED = ("Array", "Bool", "Code", "Field", "Flagged", "Inside", "Listed", "Mask", "Number", "PackedList", "PointedList",
-            "PointedText", "Record", "Text", "List", "Optional", "Union")
+            "PointedText", "Record", "RuleItems", "Text", "List", "Optional", "Union")
 
 
 def class_names(records: List[Json]) -> Dict[str, str]:
@@ -60,16 +60,16 @@ def member_names(record: Json) -> Dict[str, str]:
     return {name: one if taken[one] == 1 else safe(snake(name)) for name, one in short.items()}
 
 
-def packed(record: Json) -> Optional[Json]:
-    """The member that leads to records of a type which the record tells itself."""
-    if "head" in record.get("items", {"head": None}):
+def items(record: Json) -> Optional[Json]:
+    """The member that leads to rules: of a type which the record tells itself, or with a head before each."""
+    if "items" not in record:
         return None
     return next(field for field in record["fields"] if field.get("pointer", {}).get("elements") == "bytes")
 
 
 def hidden(record: Json, field: Json) -> bool:
     """What another member stands for: counts, flags, rooms, size words, reserved bytes."""
-    leads = packed(record)
+    leads = items(record)
     if leads is not None and field["name"] in (leads["pointer"]["items"], leads["pointer"]["bytes"], record["items"]["size"]):
         return True
     return field.get("role") in ("count", "flag", "capacity", "size", "reserved")
@@ -159,10 +159,11 @@ class Generator:
         if elements == "text":
             return "PointedText(%d)" % field["offset"], "Optional[str]"
         if elements == "bytes":
-            if packed(record) is None:
-                return None  # items with heads: parse_rules() has them
-            beside = (record["items"]["code"], record["items"]["size"], field["pointer"]["items"], field["pointer"]["bytes"])
-            return ("PackedList(%d, %s)" % (field["offset"], ", ".join(self.plain(record, name) for name in beside)),
+            beside = [field["pointer"]["items"], field["pointer"]["bytes"]]
+            made = "RuleItems"
+            if "head" not in record["items"]:
+                beside, made = [record["items"]["code"], record["items"]["size"]] + beside, "PackedList"
+            return ("%s(%d, %s)" % (made, field["offset"], ", ".join(self.plain(record, name) for name in beside)),
                     "List[Record]")
         if "record" in field:
             codec, kind = "Inside(%s)" % self.names[field["record"]], self.names[field["record"]]
@@ -210,7 +211,7 @@ class Generator:
         out = ['"""Records of commands, rules and events. Made by generate.py from the schema."""', "",
                "from typing import List, Optional, Union", "", "from . import _enumerations as enumerations",
                "from ._memory import (Array, Bool, Code, Field, Flagged, Inside, Listed, Mask, Number, PackedList,",
-               "                      PointedList, PointedText, Record, Text)", ""]
+               "                      PointedList, PointedText, Record, RuleItems, Text)", ""]
         commands: Dict[str, List[str]] = {}
         writers: Dict[str, List[str]] = {}
         for command in self.schema["commands"]:
@@ -246,6 +247,8 @@ class Generator:
                 if made[0].startswith("PackedList") or field["type"] == "record" and field["record"] in holding:
                     holders.append(names[field["name"]])
                     holding.add(name)
+                if made[0].startswith("RuleItems"):
+                    out.append('    items_ = "%s"' % names[field["name"]])
                 if field.get("pointer", {}).get("owner") == "caller" and made[0].startswith("PointedList"):
                     lists.append(names[field["name"]])
                 if field["type"] == "record" and field["record"] in listing:

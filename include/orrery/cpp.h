@@ -252,6 +252,7 @@ ORRERY_CPP_MUST_USE result<std::vector<sized<typename detail::target<T>::record>
 template <class T>
 ORRERY_CPP_MUST_USE result<box<typename T::record>> parse_template(const char* text, std::int32_t class_type) {
     static_assert(!T::is_command, "a method of orrery::templates");
+    static_assert(!std::is_same<typename T::record, CFG_ANALYSERULES_INFO>::value, "rules have parse_rules()");
     box<typename T::record> record;
     if (!record) return errc::no_memory;
     const char reserved = 0;
@@ -459,6 +460,26 @@ ORRERY_CPP_MUST_USE result<rule_buffer> parse_rules(const char* text) {
 template <class T>
 ORRERY_CPP_MUST_USE result<rule_buffer> parse_rules(const std::string& text) {
     return parse_rules<T>(text.c_str());
+}
+// Reads a template of rules: T is templates::VideoInAnalyse_getTemplateRule, `class_type` a CFG_RULE_CLASS_... .
+// Nothing tells beforehand how much its rules need: a little first, then as much as any.
+template <class T>
+ORRERY_CPP_MUST_USE result<rule_buffer> parse_rules(const char* text, std::int32_t class_type) {
+    static_assert(std::is_same<typename T::record, CFG_ANALYSERULES_INFO>::value && !T::is_command,
+                  "a template of rules");
+    const char reserved = 0;
+    for (std::size_t room = std::size_t{1} << 18; room <= std::size_t{1} << 24; room *= 64) {
+        rule_buffer buffer(room);
+        CFG_ANALYSERULES_INFO rules = buffer.descriptor();
+        if (CLIENT_ParseVideoInAnalyse(T::name(), class_type, text, &reserved, &rules, sizeof rules) == 0) continue;
+        buffer.adopt(rules.nRuleCount);
+        return result<rule_buffer>(std::move(buffer));
+    }
+    return errc::refused;
+}
+template <class T>
+ORRERY_CPP_MUST_USE result<rule_buffer> parse_rules(const std::string& text, std::int32_t class_type) {
+    return parse_rules<T>(text.c_str(), class_type);
 }
 // Writes them: the empty list for an empty buffer.
 template <class T>

@@ -14,10 +14,10 @@ from __future__ import annotations
 
 from typing import Any, Iterator, List, NamedTuple, Optional, Union
 
-from . import _library
+from . import _library, _records
 from ._commands import COMMANDS, EVENTS, NAMES_OF_CODES, RULES, TEMPLATES, TYPED, Reading, Several, Templates
 from ._library import Finding, Refused, explain, version
-from ._memory import Buffer, Record, Rooms, packed_of
+from ._memory import Record, Rooms, Rule, lend_items, packed_of
 
 __all__ = [
     "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "pack", "pack_rules", "parse", "parse_all",
@@ -26,7 +26,9 @@ __all__ = [
 
 Json = Union[str, bytes]
 _MOST_ELEMENTS = 1 << 16
+_MOST_RULES = 32
 Record.rule_types_ = RULES
+Record.rule_names_ = NAMES_OF_CODES
 _LARGEST_TEXT = 64 << 20
 
 
@@ -49,6 +51,8 @@ def _parse(command: str, text: Json) -> Record:
         record.command = name
         if rooms is not None:
             rooms.lend(record)
+        if record.items_ is not None:
+            lend_items(record, _library.rule_bytes(name, data))
         taken = _library.parse(name, data, record._buffer)
         if rooms is None or not rooms.grow([record], taken):
             break
@@ -128,50 +132,16 @@ def _pack(name: str, data: bytes) -> str:
     raise Refused("%s: the record is refused" % name, [])
 
 
-class Rule(NamedTuple):
-    """A rule of a channel: its code (RULE of enumerations), id, class and record."""
-
-    code: int
-    record: Record
-    id: int = 0
-    rule_class: int = 1
-
-    @property
-    def name(self) -> str:
-        return NAMES_OF_CODES.get(self.code, "")
-
-
-def _items(buffer: Buffer, count: int, kept: List[object]) -> Iterator[Rule]:
-    at = 0
-    for _ in range(count):
-        if at + _library.RULE_HEAD.size > len(buffer):
-            return
-        code, size, number, rule_class = _library.RULE_HEAD.unpack_from(buffer, at)
-        at += _library.RULE_HEAD.size
-        record_type = RULES.get(code)
-        if record_type is None or size < record_type.size_ or at + size > len(buffer):
-            return
-        yield Rule(code, record_type.view(buffer, at, kept), number, rule_class)
-        at += size
-
-
 def parse_rules(text: Json, command: str = "VideoAnalyseRule") -> List[Rule]:
     """The rules of a channel, from the reply of "VideoAnalyseRule", "AudioAnalyseRule" or "IVSFramRule"."""
-    data = _bytes(text)
-    buffer = bytearray(_library.rule_bytes(command, data))
-    count = _library.parse_rules(command, data, buffer)
-    if count is None:
-        raise Refused("%s: the reply is refused" % command, explain(command, data))
-    return list(_items(buffer, count, [buffer]))
+    record = _parse(command, text)
+    if not isinstance(record, _records.Analyserules):
+        raise ValueError("%r has no rules" % command)
+    return record.rule_buf
 
 
 def pack_rules(rules: List[Rule], command: str = "VideoAnalyseRule") -> str:
-    buffer = bytearray()
-    for rule in rules:
-        if not isinstance(rule.record, RULES.get(rule.code, type(None))):
-            raise TypeError("%s is no record of rule %d" % (type(rule.record).__name__, rule.code))
-        buffer += _library.RULE_HEAD.pack(rule.code, rule.record.size_, rule.id, rule.rule_class) + bytes(rule.record)
-    return _pack(command, _library.rule_descriptor(buffer, len(rules)))
+    return _pack(command, bytes(_records.Analyserules(rule_buf=rules)))
 
 
 class Event(NamedTuple):
@@ -211,10 +181,17 @@ def typed(text: Json) -> Iterator[Event]:
 def _parse_template(method: str, text: Json, class_type: int = 1) -> Record:
     if method not in TEMPLATES:
         raise Refused("%r is no method with a template" % method, [])
-    record = TEMPLATES[method]()
-    if not _library.parse_template(method, class_type, _bytes(text), record._buffer):
-        raise Refused("%s: the reply is refused" % method, [])
-    return record
+    data = _bytes(text)
+    # Nothing tells beforehand how much its rules need: a little first, then as much as any.
+    largest = max(kind.size_ for kind in RULES.values())
+    for room in (1 << 18, _MOST_RULES * (1024 + largest)):
+        record = TEMPLATES[method]()
+        lend_items(record, room)
+        if _library.parse_template(method, class_type, data, record._buffer):
+            return record
+        if record.items_ is None:
+            break
+    raise Refused("%s: the reply is refused" % method, [])
 
 
 parse_template: Templates = _parse_template  # type: ignore[assignment]

@@ -4,7 +4,6 @@ from __future__ import annotations
 
 import ctypes
 import os
-import struct
 import threading
 from typing import Any, Callable, List, NamedTuple, Optional
 
@@ -76,26 +75,10 @@ def set_size_words(command: str, buffer: Buffer) -> None:
 
 Record.prepare_ = set_size_words
 
-RULE_HEAD = struct.Struct("=IiB3xi512x")
-_DESCRIPTOR = struct.Struct("=i4xQi4x")
-
 
 def rule_bytes(command: str, text: bytes) -> int:
     size: int = _rule_bytes(command.encode(), text)
     return size
-
-
-def rule_descriptor(buffer: Buffer, count: int) -> bytes:
-    return _DESCRIPTOR.pack(count, address_of(buffer), len(buffer))
-
-
-def parse_rules(command: str, text: bytes, buffer: Buffer) -> Optional[int]:
-    """How many rules were read into the buffer; None when the call is refused."""
-    descriptor = bytearray(rule_descriptor(buffer, 0))
-    if not parse(command, text, descriptor):
-        return None
-    count: int = _DESCRIPTOR.unpack(descriptor)[0]
-    return count
 
 
 def decode(text: bytes, of_typed: bool, add: Callable[[int, bytearray, int], None]) -> bool:

@@ -6,7 +6,8 @@ import ctypes
 import locale
 import struct
 from enum import IntEnum, IntFlag
-from typing import TYPE_CHECKING, Any, Callable, ClassVar, Generic, Iterator, List, Optional, Type, TypeVar, Union, overload
+from typing import (TYPE_CHECKING, Any, Callable, ClassVar, Generic, Iterator, List, NamedTuple, Optional, Type, TypeVar, Union,
+                    overload)
 
 T = TypeVar("T")
 R = TypeVar("R", bound="Record")
@@ -55,7 +56,9 @@ class Record:
     size_word_: ClassVar[Optional[int]] = None  # its offset
     asked_: ClassVar["List[tuple[int, int]]"] = []  # where a record says how many elements it wants: all that it can hold
     packed_: ClassVar[List[str]] = []  # members that are packed records or hold such
+    items_: ClassVar[Optional[str]] = None  # the member that is a list of rules of any types
     rule_types_: ClassVar["dict[int, Type[Record]]"] = {}
+    rule_names_: ClassVar["dict[int, str]"] = {}
     prepare_: ClassVar[Optional[Callable[[str, Buffer], None]]] = None
 
     __slots__ = ("_buffer", "_at", "_kept", "command")
@@ -112,9 +115,24 @@ class Record:
         return out
 
 
+class Rule(NamedTuple):
+    """A rule of a channel: its code (RULE of enumerations), id, class and record."""
+
+    code: int
+    record: Record
+    id: int = 0
+    rule_class: int = 1
+
+    @property
+    def name(self) -> str:
+        return Record.rule_names_.get(self.code, "")
+
+
 def _plain(value: Any, all_members: bool) -> Any:
     if isinstance(value, Record):
         return value.as_dict(all_members)
+    if isinstance(value, Rule):
+        return {**value._asdict(), "record": value.record.as_dict(all_members)}
     if isinstance(value, list):
         return [_plain(element, all_members) for element in value]
     return value
@@ -408,6 +426,14 @@ class PointedList(BaseField[List[T]]):
         return self.load(record) if isinstance(self._of, Inside) else []  # type: ignore[return-value]
 
 
+def lend_bytes(record: Record, offset: int, buffer: bytearray, room: Field[int]) -> None:
+    if buffer:
+        point(record, offset, buffer)
+    else:
+        _ADDRESS.pack_into(record._buffer, record._at + offset, 0)
+    room.store(record, len(buffer))
+
+
 class PackedList(BaseField[List[Record]]):
     """Rules of one type behind a pointer, record behind record: a code beside them tells which."""
 
@@ -437,23 +463,68 @@ class PackedList(BaseField[List[Record]]):
         for rule in value:
             record._kept.extend(rule._kept)
         self._stride.store(record, stride)
-        self._lend(record, buffer)
+        lend_bytes(record, self._offset, buffer, self._room)
         self._count.store(record, len(value))
-
-    def _lend(self, record: Record, buffer: bytearray) -> None:
-        if buffer:
-            point(record, self._offset, buffer)
-        else:
-            _ADDRESS.pack_into(record._buffer, record._at + self._offset, 0)
-        self._room.store(record, len(buffer))
 
     def lend(self, record: Record, elements: int) -> None:
         """Room for the rules of a reply that has told their type."""
-        self._lend(record, bytearray(max(0, elements * self._stride.load(record))))
+        lend_bytes(record, self._offset, bytearray(max(0, elements * self._stride.load(record))), self._room)
 
     def is_full(self, record: Record) -> bool:
         stride = self._stride.load(record)
         return stride > 0 and self._room.load(record) // stride <= self._count.load(record)
+
+
+_RULE_HEAD = struct.Struct("=IiB3xi512x")  # CFG_RULE_INFO: code, bytes behind it, id, class
+
+
+class RuleItems(BaseField[List[Rule]]):
+    """Rules of any types behind a pointer, a head before each record. A reply may count rules that have no item."""
+
+    def __init__(self, offset: int, count: Field[int], room: Field[int]) -> None:
+        self._offset = offset
+        self._count = count
+        self._room = room
+
+    def load(self, record: Record) -> List[Rule]:
+        address, room = pointer_at(record, self._offset), self._room.load(record)
+        if address == 0 or room <= 0:
+            return []
+        buffer = at_address(address, room)
+        rules: List[Rule] = []
+        at = 0
+        while len(rules) < self._count.load(record) and at + _RULE_HEAD.size <= room:
+            code, size, number, rule_class = _RULE_HEAD.unpack_from(buffer, at)
+            at += _RULE_HEAD.size
+            kind = Record.rule_types_.get(code)
+            if kind is None or size < kind.size_ or at + size > room:
+                break
+            rules.append(Rule(code, kind.view(buffer, at, record._kept), number, rule_class))
+            at += size
+        return rules
+
+    def store(self, record: Record, value: List[Rule]) -> None:
+        buffer = bytearray()
+        for rule in value:
+            kind = Record.rule_types_.get(rule.code)
+            if kind is None or type(rule.record) is not kind:
+                raise TypeError("%s is no record of rule %d" % (type(rule.record).__name__, rule.code))
+            buffer += _RULE_HEAD.pack(rule.code, kind.size_, rule.id, rule.rule_class) + bytes(rule.record)
+        for rule in value:
+            record._kept.extend(rule.record._kept)
+        lend_bytes(record, self._offset, buffer, self._room)
+        self._count.store(record, len(value))
+
+    def lend(self, record: Record, size: int) -> None:
+        """Room for the rules of a reply."""
+        lend_bytes(record, self._offset, bytearray(size), self._room)
+
+
+def lend_items(record: Record, size: int) -> None:
+    """Room for the rules of a reply, where its record is a list of them."""
+    field = getattr(type(record), record.items_ or "", None)
+    if isinstance(field, RuleItems):
+        field.lend(record, size)
 
 
 def packed_of(record: Record) -> "Iterator[tuple[PackedList, Record]]":

@@ -4,7 +4,7 @@ import enum
 import json
 import threading
 from random import Random
-from typing import Any, List
+from typing import Any, List, Literal
 
 import pytest
 from hypothesis import HealthCheck, given, settings
@@ -13,7 +13,7 @@ from hypothesis import strategies as st
 import orrery
 from orrery import _memory as memory
 from orrery import enumerations, records
-from orrery._commands import COMMANDS
+from orrery._commands import COMMANDS, NAMES_OF_CODES, RULES
 
 
 def reply(table: Any) -> str:
@@ -88,6 +88,28 @@ def test_rules_go_round() -> None:
         orrery.pack_rules([orrery.Rule(2, records.Ntp())])
     with pytest.raises(orrery.Refused):
         orrery.parse_rules(reply([{"Type": "NoSuchDetection"}]))
+    with pytest.raises(ValueError):
+        orrery.parse_rules(reply({"Port": 123}), "NTP")
+
+
+def test_a_record_of_rules_is_a_record_as_any() -> None:
+    channel = orrery.parse("VideoAnalyseRule", reply([{"Type": "CrossLineDetection", "Name": "Fence", "Id": 3},
+                                                      {"Type": "MoveDetection", "Name": "Yard"}]))
+    fence, yard = channel.rule_buf
+    assert (fence.code, fence.id, fence.name) == (2, 3, "CrossLineDetection")
+    assert isinstance(fence.record, records.RuleCrossline) and isinstance(yard.record, records.RuleMove)
+    fence.record.rule_name = "Wall"  # a view: what is set in it is written
+    assert [rule["Name"] for rule in json.loads(orrery.pack(channel, "VideoAnalyseRule"))] == ["Wall", "Yard"]
+    channel.rule_buf = [yard]
+    assert channel == records.Analyserules(rule_buf=[yard])
+    assert channel != records.Analyserules(rule_buf=[yard._replace(id=1)])
+    assert channel.as_dict()["rule_buf"][0]["record"]["rule_name"] == "Yard"
+    assert [rule["Name"] for rule in json.loads(orrery.pack(channel, "AudioAnalyseRule"))] == ["Yard"]
+    with pytest.raises(TypeError):
+        channel.rule_buf = [orrery.Rule(2, yard.record)]
+    assert channel.rule_buf == [yard]
+    channel.rule_buf = []
+    assert json.loads(orrery.pack(channel, "VideoAnalyseRule")) == []
 
 
 def test_events_stay_with_what_their_pointers_lead_to() -> None:
@@ -104,6 +126,19 @@ def test_events_stay_with_what_their_pointers_lead_to() -> None:
     assert [event.record.object_id for event in objects] == [7, 9]  # type: ignore[attr-defined]
     with pytest.raises(orrery.Refused):
         orrery.typed("no JSON")
+
+
+def test_rules_among_what_a_text_carries() -> None:
+    text = json.dumps({"VideoAnalyseRule": [{"Type": "CrossLineDetection", "Name": "Fence", "Id": 3, "Class": "Traffic"},
+                                            {"Type": "MoveDetection", "Name": "Yard", "Class": "Normal"}]})
+    tables = [one.record for one in orrery.typed(text)]
+    assert [type(table) for table in tables] == [records.EventRuleTable]
+    rules: List[orrery.Rule] = getattr(tables[0], "rule_buf")
+    assert [(rule.name, rule.id, rule.rule_class) for rule in rules] == [("CrossLineDetection", 3, 2),
+                                                                        ("MoveDetection", 0, 1)]
+    assert [getattr(rule.record, "rule_name") for rule in rules] == ["Fence", "Yard"]
+    with pytest.raises(orrery.Refused):
+        orrery.typed(json.dumps({"VideoAnalyseRule": [{"Type": "NoSuchDetection"}]}))
 
 
 def test_lists_behind_pointers_are_lent_and_grow() -> None:
@@ -190,6 +225,29 @@ def test_templates() -> None:
     assert made.ptz_preset_id == 4
     with pytest.raises(orrery.Refused):
         orrery.parse_template("VideoInAnalyse.getTemplateGlobal", "no JSON")
+
+
+def test_templates_of_rules() -> None:
+    def template(rules: Any) -> str:
+        return json.dumps({"result": True, "params": {"Normal": rules}})
+
+    method: Literal["VideoInAnalyse.getTemplateRule"] = "VideoInAnalyse.getTemplateRule"
+    made = orrery.parse_template(method, template({"A": {"Type": "CrossLineDetection", "Class": "Normal", "Name": "Line"},
+                                                   "B": None,
+                                                   "C": {"Type": "MoveDetection", "Class": "Normal", "Name": "Move"}}))
+    assert [(rule.name, getattr(rule.record, "rule_name")) for rule in made.rule_buf] == [("CrossLineDetection", "Line"),
+                                                                                          ("MoveDetection", "Move")]
+    assert orrery.parse_template(method, template({}), 1).rule_buf == []
+    assert orrery.parse_template(method, template({"A": {"Type": "MoveDetection", "Class": "Normal"}}), 2).rule_buf == []
+    # As many as a channel has, of the type with the largest record.
+    largest = max(RULES, key=lambda code: RULES[code].size_)
+    rule = {"Type": NAMES_OF_CODES[largest], "Class": "Traffic"}
+    many = orrery.parse_template(method, template({str(i): rule for i in range(32)}))
+    assert [one.code for one in many.rule_buf] == [largest] * 32
+    with pytest.raises(orrery.Refused):
+        orrery.parse_template(method, template({"A": {"Type": "NoSuchDetection", "Class": "Normal"}}))
+    with pytest.raises(orrery.Refused):
+        orrery.parse_template(method, template({"A": {"Type": "MoveDetection"}}))
 
 
 def test_threads_parse_at_once() -> None:

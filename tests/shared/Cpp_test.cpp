@@ -175,6 +175,35 @@ TEST(CppRules, EmptyAndRefusedRepliesAreToldApart) {
     EXPECT_FALSE(orrery::parse_rules<orrery::commands::VideoAnalyseRule>("no JSON"));
 }
 
+TEST(CppRules, OfATemplateAreReadByTheirClass) {
+    using Template = orrery::templates::VideoInAnalyse_getTemplateRule;
+    // A rule that is null counts and takes no item.
+    const std::string some =
+        R"({"result":true,"params":{"Normal":{"A":{"Type":"CrossLineDetection","Class":"Normal",)"
+        R"("Name":"Line"},"B":{"Type":"MoveDetection","Class":"Normal","Name":"Yard"},"C":null}}})";
+    auto rules = orrery::parse_rules<Template>(some, CFG_RULE_CLASS_NORMAL);
+    ASSERT_TRUE(rules);
+    ASSERT_EQ(rules->size(), 2u);
+    const auto line = (*rules->begin()).as<CFG_RULE_CROSSLINE_INFO>();
+    ASSERT_TRUE(line);
+    EXPECT_STREQ((*line)->szRuleName, "Line");
+    const auto other = orrery::parse_rules<Template>(some, CFG_RULE_CLASS_TRAFFIC);
+    ASSERT_TRUE(other);
+    EXPECT_TRUE(other->empty());
+    EXPECT_FALSE(orrery::parse_rules<Template>("no JSON", CFG_RULE_CLASS_NORMAL));
+}
+
+TEST(CppRules, OfATemplateHaveRoomForTheLargest) {
+    std::string many = R"({"result":true,"params":{"Traffic":{)";
+    for (int i = 0; i < ORRERY_MOST_RULES; ++i)
+        many += (i == 0 ? "\"" : ",\"") + std::to_string(i) + R"(":{"Type":"TrafficControl","Class":"Traffic"})";
+    const auto rules =
+        orrery::parse_rules<orrery::templates::VideoInAnalyse_getTemplateRule>(many + "}}}", CFG_RULE_CLASS_TRAFFIC);
+    ASSERT_TRUE(rules);
+    EXPECT_EQ(rules->size(), std::size_t{ORRERY_MOST_RULES});
+    EXPECT_EQ(rules->bytes(), ORRERY_MOST_RULES * (sizeof(CFG_RULE_INFO) + sizeof(CFG_RULE_TRAFFICCONTROL_INFO)));
+}
+
 constexpr const char* kEvents =
     R"({"Event":[{"Code":"CrossLineDetection","Data":{"Object":{"Image":{"FilePath":"/first"}}}},{"Code":"NoSuchEvent"},)"
     R"({"Code":"MoveDetection","Data":{"Object":{"Image":{"FilePath":"/second"}}}}]})";

@@ -31,6 +31,7 @@ Arguments::Arguments()
            "through ('check', --strict).",
            "orrery"),
       warns_(IsTerminal(kErrors)) {
+    app_.allow_windows_style_options(false); // a name that begins with a slash is a file's
     app_.set_version_flag("--version", "orrery " ORRERY_VERSION);
     app_.add_option("--color", colour_, "always, never, or auto: on terminals, unless NO_COLOR is set")
         ->check(CLI::IsMember({"auto", "always", "never"}));
