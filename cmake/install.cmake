@@ -24,6 +24,14 @@ if(ORRERY_TOOLS AND TARGET orrery_manual)
     install(FILES ${manual}/orrery.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
 endif()
 
+# What stands above, and nothing else: `cmake --build . --target orrery_installed`.
+add_custom_target(orrery_installed DEPENDS ${ORRERY_LIBRARIES})
+foreach(target IN ITEMS orrery_cli orrery_manual)
+    if(TARGET ${target})
+        add_dependencies(orrery_installed ${target})
+    endif()
+endforeach()
+
 # find_package(orrery) gives the targets orrery::orrery and orrery::explain.
 install(EXPORT orreryTargets NAMESPACE orrery:: DESTINATION ${ORRERY_PACKAGE_DIR} COMPONENT development)
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/orreryConfig.cmake.in

@@ -76,6 +76,11 @@ fi
 
 tag=${1:-$(git describe --tags --abbrev=0 --match 'v[0-9]*' 2>/dev/null || true)}
 if [ -z "$tag" ]; then
+    versions=$(grep -cs '^## [0-9]' CHANGELOG.md || true)
+    if [ "${versions:-0}" -gt 1 ]; then
+        echo "abi: error: there were versions before this one (CHANGELOG.md), but no tag of them is here: fetch the tags" >&2
+        exit 2
+    fi
     echo "abi: no version is tagged yet"
     exit 0
 fi

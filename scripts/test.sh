@@ -119,6 +119,15 @@ stage_tsan() {
     tests tsan build/tsan -R Thread
 }
 
+# The tests of the site with what they need, which is what is installed: the other tests are not built for it.
+stage_site() {
+    scripts/install-deps.sh site
+    cmake --preset test
+    cmake --build build/test -j "$jobs" --target orrery_installed
+    tests site build/test -R '^site\.'
+    grep -q '<testcase name="site.browser"' "$results/site.xml"
+}
+
 stage_abi() { scripts/abi.sh; }
 for stage in "${package_stages[@]}"; do eval "stage_$stage() { scripts/packages.sh $stage; }"; done
 for stage in "${platform_stages[@]}"; do eval "stage_$stage() { scripts/platforms.sh $stage; }"; done

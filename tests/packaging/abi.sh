@@ -20,6 +20,10 @@ git init -q
 git add include examples CMakeLists.txt scripts tests
 git commit -qm "A release"
 "$released/scripts/abi.sh" | grep -q 'no version is tagged yet' || { echo "a tag where there is none" >&2; exit 1; }
+# A checkout that lacks its tags is no first version.
+printf '## 0.2.0\n\n## 0.1.0\n' >"$released/CHANGELOG.md"
+! "$released/scripts/abi.sh" >/dev/null 2>&1 || { echo "passed without the tags of earlier versions" >&2; exit 1; }
+rm "$released/CHANGELOG.md"
 git tag -am "Release $version" "v$version"
 for file in "$(dirname "$library")"/liborrery.so*; do ln -s "$file" "$released/build/"; done
 
