@@ -59,13 +59,13 @@ template <class Read>
 void ReadCopy(std::uint32_t type, const void* record, std::uint32_t size, Read read) {
     constexpr std::size_t kRoom = std::size_t{256} << 10, kBehind = 64;
     alignas(std::max_align_t) static std::byte room[kRoom + kBehind];
-    constexpr std::byte kUntouched{0xA5};
+    constexpr std::byte kFilling{0xA5};
     const std::uint32_t needed = ORRERY_CopyEvent(type, record, size, nullptr, 0);
     if (needed == 0 && size != 0) std::abort();
     if (needed == 0 || needed > kRoom) return;
-    std::memset(room, static_cast<int>(kUntouched), needed + kBehind);
+    std::memset(room, static_cast<int>(kFilling), needed + kBehind);
     const auto isUntouched = [](const std::byte* from, const std::byte* to) {
-        return std::all_of(from, to, [](std::byte byte) { return byte == kUntouched; });
+        return std::all_of(from, to, [](std::byte byte) { return byte == kFilling; });
     };
     if (ORRERY_CopyEvent(type, record, size, room, needed - 1) != needed) std::abort();
     if (!isUntouched(room, room + std::min<std::size_t>(needed, kBehind))) std::abort();
