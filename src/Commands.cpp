@@ -549,7 +549,7 @@ constexpr Command kCommands[] = {
     Both("VideoAnalyseGlobal", kAnalyseGlobal,
          kParse.Result(ResultTest::FalseRefuses).Null(NullValue::OneRecord).Clears(Clearing::Kept), kLoose),
     Both("VideoAnalyseCalibrate", kAnalyseCalibrate,
-         kUntested.Takes(Take::List).TakesBy(CalibrateTakes).Clears(Clearing::Kept).Accepts(HasCalibrateRoom),
+         kUntested.Takes(Take::List).Clears(Clearing::Kept).Accepts(HasCalibrateRoom),
          kPack.Accepts(HasCalibrateScenes)),
 
     // Analysis modules

@@ -375,7 +375,7 @@ typedef struct CFG_CALIBRATE_SCENE_INFO {
     int32_t nPtzPresetId;   /* "PtzPresetID"; 0 when "CalibrateArea" is no list */
     int32_t bCalibrateArea; /* 1 when "CalibrateArea" was there; not looked at on writing */
     int32_t nAreaNum;       /* entries of stuAreas in use */
-    CFG_CALIBRATE_AREA stuAreas[ORRERY_CALIBRATE_AREAS]; /* "CalibrateArea" */
+    CFG_CALIBRATE_AREA stuAreas[ORRERY_CALIBRATE_AREAS]; /* "CalibrateArea"; an empty list leaves it as it is */
     int32_t nPositionPan;  /* "Position", first of exactly three numbers, otherwise none is read: tenths of a degree, 0
                               to  3600; in the text 0 to 1 for the first half turn and -1 to 0 for the second */
     int32_t nPositionTilt; /* "Position", second number: tenths of a degree, -1800 to 1800; 1 to -1 in the text. Out of
@@ -385,9 +385,10 @@ typedef struct CFG_CALIBRATE_SCENE_INFO {
 } CFG_CALIBRATE_SCENE_INFO;
 
 /* "VideoAnalyseCalibrate": calibration at each position of a camera that moves. Entries are read in place: what the
- * text does not tell keeps the caller's value. Null pScenes gives 0, and so does a table that is no list, or has an
- * element that is no object; a null element is one without keys. "result" is not looked at. Written is always a list;
- * null pScenes gives 0 when nRet is above 0. */
+ * text does not tell keeps the caller's value. Null pScenes gives 0, and so does a table that is no list. An element
+ * that is no object ends the call with 0 where there is room for it, and those in front of it have been read; a null
+ * element is one without keys. "result" is not looked at. Written is always a list; null pScenes gives 0 when nRet is
+ * above 0. */
 typedef struct CFG_VIDEOANALYSE_CALIBRATE_INFO {
     int32_t nMax;                      /* room at pScenes, set before reading, and before writing too */
     int32_t nRet;                      /* entries in use: those of the list, at most nMax */

@@ -107,8 +107,12 @@ void WritePosition(const Field&, const std::byte* record, WriteCall& call) {
 
 constexpr CustomCodec kPosition{ReadPosition, WritePosition, "[0.25,-0.5,0.5]"};
 
-// Also what belongs to the list as a whole.
-void ReadCalibrateAreas(const json::Value& scene, std::byte* record, ReadCall&) {
+// Also what belongs to the list as a whole. An element that is no scene ends the list of scenes, and the call with it.
+void FinishScene(const json::Value& scene, std::byte* record, ReadCall& call) {
+    if (!scene.isObject()) {
+        call.refused = true;
+        return;
+    }
     const json::Value& areas = scene["CalibrateArea"];
     if (!areas.isArray()) SET_MEMBER(record, CFG_CALIBRATE_SCENE_INFO, nPtzPresetId, 0);
     ReadAreaTypes(areas, record + offsetof(CFG_CALIBRATE_SCENE_INFO, stuAreas));
@@ -120,12 +124,12 @@ PART(kCalibrateScene, CFG_CALIBRATE_SCENE_INFO,
          FIELD(nPtzPresetId, "PtzPresetID", Int),
          FIELD(bCalibrateArea, "CalibrateArea", Presence),
          FIELD(nAreaNum),
-         FIELD(stuAreas, "CalibrateArea", Record(kCalibrateArea)).Count(AT(nAreaNum)),
+         FIELD(stuAreas, "CalibrateArea", Record(kCalibrateArea)).Count(AT(nAreaNum)).AtLeast(1),
          FIELD(nPositionPan, "Position", Custom(kPosition)),
          FIELD(nPositionTilt),
          FIELD(nPositionZoom),
      })
-    .AfterRead(ReadCalibrateAreas);
+    .AfterRead(FinishScene);
 
 } // namespace
 
@@ -141,14 +145,6 @@ TABLE(
         FIELD(pScenes, "", Record(scenes::kCalibrateScene)).Capacity(AT(nMax)).Count(AT(nRet)).WriteEmpty(Empty::Array),
     });
 static_assert(sizeof(CFG_VIDEOANALYSE_CALIBRATE_INFO) == 16);
-
-// One element that is no scene spoils the list; a list is then a shape that is not taken.
-Take CalibrateTakes(const json::Value& root) {
-    const auto elements = root["params"]["table"].elements();
-    const bool areScenes =
-        std::all_of(elements.begin(), elements.end(), [](const json::Value& element) { return element.isObject(); });
-    return areScenes ? Take::List : Take::Text;
-}
 
 bool HasCalibrateRoom(const std::byte* record, std::uint32_t) {
     return MEMBER(record, CFG_VIDEOANALYSE_CALIBRATE_INFO, pScenes) != nullptr;

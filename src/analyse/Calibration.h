@@ -82,7 +82,6 @@ PART(kCalibrateAreas, CFG_CALIBRATE_AREAS_INFO,
 
 // "VideoAnalyseCalibrate"
 extern const record::TypedTable<CFG_VIDEOANALYSE_CALIBRATE_INFO> kAnalyseCalibrate;
-Take CalibrateTakes(const json::Value& root);
 bool HasCalibrateRoom(const std::byte* record, std::uint32_t size);
 bool HasCalibrateScenes(const std::byte* record, std::uint32_t size);
 

@@ -68,7 +68,7 @@ TEST(VideoAnalyseCalibrate, FillsAsManyAsThereIsRoomFor) {
 }
 
 TEST(VideoAnalyseCalibrate, RefusesWhatIsNoListOfScenes) {
-    for (const char* table : {"null", "{}", "7", "\"x\"", "[[]]", R"([{"SceneID":1},[]])", "[7]"}) {
+    for (const char* table : {"null", "{}", "7", "\"x\"", "true"}) {
         Positions positions(2);
         EXPECT_EQ(positions.Parse(table), kRefused) << table;
     }
@@ -80,6 +80,36 @@ TEST(VideoAnalyseCalibrate, RefusesWhatIsNoListOfScenes) {
         CLIENT_ParseData(kCommand, R"({"result":false,"params":{"table":[]}})", positions.record.data(), 16, &length),
         1);
     EXPECT_EQ(CLIENT_ParseData(kCommand, R"({"params":{"table":[]}})", positions.record.data(), 15, &length), 0);
+}
+
+TEST(VideoAnalyseCalibrate, AnElementThatIsNoSceneEndsTheList) {
+    for (const char* none : {"[]", "7", "\"x\"", "true", "1.5"}) {
+        const std::string table = std::string(R"([{"SceneID":4},)") + none + R"(,{"SceneID":6}])";
+        Positions positions(3);
+        EXPECT_EQ(positions.Parse(table), (Answer{0, 16})) << none;
+        EXPECT_EQ(positions.scenes[0].nSceneId, 4) << none; // those in front of it stand
+        EXPECT_EQ(positions.scenes[2].nSceneId, 0) << none;
+        // What there is no room for is not looked at.
+        positions.Describe(1, 0);
+        EXPECT_EQ(positions.Parse(table), kRead) << none;
+        EXPECT_EQ(positions.used(), 1) << none;
+        positions.Describe(2, 0);
+        EXPECT_EQ(positions.Parse(table).result, 0) << none;
+    }
+}
+
+TEST(VideoAnalyseCalibrate, AnEmptyListOfAreasLeavesTheAreas) {
+    Positions positions(1);
+    positions.scenes[0].nAreaNum = 3;
+    positions.scenes[0].stuAreas[2].fLength = 5;
+    EXPECT_EQ(positions.Parse(R"([{"CalibrateArea":[],"PtzPresetID":7}])"), kRead);
+    EXPECT_EQ(positions.scenes[0].bCalibrateArea, 1);
+    EXPECT_EQ(positions.scenes[0].nPtzPresetId, 7);
+    EXPECT_EQ(positions.scenes[0].nAreaNum, 3);
+    EXPECT_EQ(positions.scenes[0].stuAreas[2].fLength, 5);
+    EXPECT_EQ(positions.Parse(R"([{"CalibrateArea":[{"Length":2}]}])"), kRead);
+    EXPECT_EQ(positions.scenes[0].nAreaNum, 1);
+    EXPECT_EQ(positions.scenes[0].stuAreas[0].fLength, 2);
 }
 
 TEST(VideoAnalyseCalibrate, PacksNothingFromNowhere) {
