@@ -40,7 +40,7 @@ typedef struct CFG_TRAFFICFLOW_LANE {
     char szStatName[ORRERY_RULE_TEXT];                      /* "StatName" */
     int32_t nPresetId;                                      /* "PresetID": preset of the camera at which it counts */
     CFG_POLYGON stuDetectLine[2];                           /* "DetectLine": up to two points; written both */
-    int32_t abDetectLine;
+    int32_t abDetectLine;                                   /* 1 when "DetectLine" was there, points or not */
 } CFG_TRAFFICFLOW_LANE;
 
 /* "TrafficFlowStat": flows by lane. The caller's array pExtraConfigs and its room nExtraMax are set before the call;

@@ -72,8 +72,8 @@ PART(kFlowLane, CFG_TRAFFICFLOW_LANE,
              .RefusedElement(Nulls::LeaveHole),
          FIELD(szStatName, "StatName", Text),
          FIELD(nPresetId, "PresetID", Int),
-         FIELD(stuDetectLine, "DetectLine", Record(kCorner)).SetsAndNeeds(AT(abDetectLine)),
-         FIELD(abDetectLine),
+         FIELD(stuDetectLine, "DetectLine", Record(kCorner)).WriteIf(AT(abDetectLine)),
+         FIELD(abDetectLine, "DetectLine", Presence),
      });
 
 // ---- Lanes behind the eighth ----

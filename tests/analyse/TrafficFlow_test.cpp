@@ -383,6 +383,15 @@ std::unique_ptr<Stat> ReadStat(std::unique_ptr<Stat> record, const std::string& 
     return record;
 }
 
+TEST(TrafficFlowStat, ALineOfAnotherTypeIsThereAllTheSame) {
+    const auto read =
+        ReadStat(Cleared<Stat>(), R"({"Config":[{"DetectLine":7},{"DetectLine":[]},{"DetectLine":null}]})");
+    EXPECT_EQ(read->stuConfigs[0].abDetectLine, 1);
+    EXPECT_EQ(read->stuConfigs[0].stuDetectLine[0].nX, 0);
+    EXPECT_EQ(read->stuConfigs[1].abDetectLine, 1);
+    EXPECT_EQ(read->stuConfigs[2].abDetectLine, 0);
+}
+
 TEST(TrafficFlowStat, GoesRoundWhole) {
     std::string day = "\"1 01:00:00-02:00:00\"";
     for (int i = 2; i < 12; ++i)
