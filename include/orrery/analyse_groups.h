@@ -29,7 +29,8 @@ typedef struct CFG_RULE_GROUP_INFO {
     int32_t bHasEventHandler;
     CFG_EVENT_HANDLER_INFO stuEventHandler; /* "EventHandler": what an alarm of the group does; its own week is read,
                                                but stuTimeSchedule is written */
-    CFG_TIME_SCHEDULE stuTimeSchedule;      /* "EventHandler"."TimeSection": when the group is armed */
+    CFG_TIME_SCHEDULE stuTimeSchedule;      /* "EventHandler"."TimeSection": when the group is armed; without a holiday
+                                               of its own that of stuEventHandler is written behind its week */
     int32_t nRuleNum;                       /* rules in the buffer */
     uint8_t* pRuleBuf;   /* "Rule": the records of the group's type (rule_bodies.h, traffic_rules.h) */
     int32_t nRuleBufLen; /* bytes at pRuleBuf */

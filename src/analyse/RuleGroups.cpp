@@ -58,14 +58,21 @@ void WriteRules(const Field&, const std::byte* group, WriteCall& call) {
 }
 constexpr CustomCodec kRules{ReadRules, WriteRules};
 
-// The linkage goes out with the group's schedule in place of its own.
+// The linkage goes out with the group's schedule over its own: a holiday that only the linkage has stays behind the
+// week.
 void WriteLinkage(const Field&, const std::byte* group, WriteCall& call) {
     if (MEMBER(group, Group, bHasEventHandler) == 0) return;
     auto* const linkage = call.parser.text().arena().Array<std::byte>(sizeof(CFG_EVENT_HANDLER_INFO));
     if (linkage == nullptr) return;
     std::memcpy(linkage, group + offsetof(Group, stuEventHandler), sizeof(CFG_EVENT_HANDLER_INFO));
-    std::memcpy(linkage + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSectionEx), group + offsetof(Group, stuTimeSchedule),
-                sizeof(CFG_TIME_SCHEDULE));
+    const std::byte* const schedule = group + offsetof(Group, stuTimeSchedule);
+    std::byte* const written = linkage + offsetof(CFG_EVENT_HANDLER_INFO, stuTimeSectionEx);
+    constexpr std::size_t kWeekAt = offsetof(CFG_TIME_SCHEDULE, stuTimeSection);
+    if (MEMBER(schedule, CFG_TIME_SCHEDULE, bEnableHoliday) != 0)
+        std::memcpy(written, schedule, sizeof(CFG_TIME_SCHEDULE));
+    else
+        std::memcpy(written + kWeekAt, schedule + kWeekAt,
+                    sizeof(CFG_TIME_SECTION[ORRERY_WEEK_DAYS][ORRERY_DAY_SECTIONS]));
     call.Key();
     WriteRecord(kEventHandler, linkage, call);
 }

@@ -212,6 +212,18 @@ TEST(RuleGroups, AGroupsLinkageStandsOnceAndHasItsSchedule) {
     EXPECT_NE(text.find("\"TimeSection\" : " + Week(8, "1 09:00:00-17:30:00")), std::string::npos) << text;
     EXPECT_EQ(text.find("EventHandler"), text.rfind("EventHandler"));
 
+    // A holiday that only one of the two has is written.
+    CFG_RULE_GROUP_INFO& written = caller.all->stuScenes[0].stuRuleGroups[0];
+    const auto has = [&](int days) {
+        return caller.Pack().find("\"TimeSection\" : " + Week(days, "1 09:00:00-17:30:00")) != std::string::npos;
+    };
+    written.stuTimeSchedule.bEnableHoliday = 0;
+    EXPECT_TRUE(has(8));
+    written.stuEventHandler.stuTimeSectionEx.bEnableHoliday = 0;
+    EXPECT_TRUE(has(7));
+    written.stuTimeSchedule.bEnableHoliday = 1;
+    EXPECT_TRUE(has(8));
+
     caller.all->stuScenes[0].stuRuleGroups[0].bHasEventHandler = 0;
     const std::string without = caller.Pack();
     const std::size_t rule = without.find("\"Rule\" : ");
