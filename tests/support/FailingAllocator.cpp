@@ -5,6 +5,18 @@
 #include <malloc.h>
 #include <new>
 
+#ifdef _WIN32
+#include <atomic>
+#include <windows.h>
+#endif
+
+extern "C" {
+void* __real_malloc(std::size_t size);
+void __real_free(void* block);
+void* __wrap_malloc(std::size_t size);
+void __wrap_free(void* block);
+}
+
 namespace {
 
 struct Watch {
@@ -19,16 +31,37 @@ struct Watch {
     std::ptrdiff_t peakBytes = 0;
 };
 
-thread_local Watch watch;
-
 // Of `new`.
 struct News {
     std::size_t failAt = 0; // 0: nothing fails
     std::size_t seen = 0;
 };
-thread_local News news;
+struct OfThread {
+    Watch watch;
+    News news;
+};
 
-bool FailsNow() {
+#ifdef _WIN32
+// This compiler's thread_local takes its memory from malloc. (A thread keeps its own: tests start few.)
+OfThread& Mine() {
+    static std::atomic<DWORD> slot{TLS_OUT_OF_INDEXES};
+    if (slot == TLS_OUT_OF_INDEXES) {
+        const DWORD made = TlsAlloc();
+        DWORD none = TLS_OUT_OF_INDEXES;
+        if (!slot.compare_exchange_strong(none, made)) TlsFree(made);
+    }
+    void* mine = TlsGetValue(slot);
+    if (mine == nullptr) TlsSetValue(slot, mine = new (__real_malloc(sizeof(OfThread))) OfThread);
+    return *static_cast<OfThread*>(mine);
+}
+#else
+OfThread& Mine() {
+    thread_local OfThread mine;
+    return mine;
+}
+#endif
+
+bool FailsNow(Watch& watch) {
     ++watch.allocations;
     ++watch.seen;
     const bool fails = watch.failAt != 0 && (watch.onwards ? watch.seen >= watch.failAt : watch.seen == watch.failAt);
@@ -39,14 +72,10 @@ bool FailsNow() {
 } // namespace
 
 extern "C" {
-void* __real_malloc(std::size_t size);
-void __real_free(void* block);
-void* __wrap_malloc(std::size_t size);
-void __wrap_free(void* block);
-
 void* __wrap_malloc(std::size_t size) {
+    Watch& watch = Mine().watch;
     if (!watch.active) return __real_malloc(size);
-    if (FailsNow()) return nullptr;
+    if (FailsNow(watch)) return nullptr;
     void* const block = __real_malloc(size);
     if (block != nullptr) {
         ++watch.liveBlocks;
@@ -57,6 +86,7 @@ void* __wrap_malloc(std::size_t size) {
 }
 
 void __wrap_free(void* block) {
+    Watch& watch = Mine().watch;
     if (watch.active && block != nullptr) {
         --watch.liveBlocks;
         watch.liveBytes -= static_cast<std::ptrdiff_t>(malloc_usable_size(block));
@@ -76,6 +106,7 @@ void __wrap_free(void* block) {
 // These go past the watch above, which counts the library's own memory. All forms that pair with one another stand
 // here: a sanitizer minds a block of its own `new` in another's `delete`.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    News& news = Mine().news;
     if (news.failAt != 0 && ++news.seen == news.failAt) return nullptr;
     return __real_malloc(size == 0 ? 1 : size);
 }
@@ -98,53 +129,53 @@ void operator delete(void* block, const std::nothrow_t&) noexcept {
 namespace orrery::test {
 
 NewWatch::NewWatch(std::size_t n) {
-    news = {n, 0};
+    Mine().news = {n, 0};
 }
 NewWatch::~NewWatch() {
-    news = {};
+    Mine().news = {};
 }
 bool NewWatch::hasFailed() const {
-    return news.seen >= news.failAt;
+    return Mine().news.seen >= Mine().news.failAt;
 }
 
 HeapWatch::HeapWatch() {
-    watch = Watch{};
-    watch.active = true;
+    Mine().watch = Watch{};
+    Mine().watch.active = true;
 }
 HeapWatch::~HeapWatch() {
-    watch = Watch{};
+    Mine().watch = Watch{};
 }
 
 void HeapWatch::FailOnly(std::size_t n) {
-    watch.failAt = n;
-    watch.seen = 0;
-    watch.onwards = false;
+    Mine().watch.failAt = n;
+    Mine().watch.seen = 0;
+    Mine().watch.onwards = false;
 }
 void HeapWatch::FailFrom(std::size_t n) {
     FailOnly(n);
-    watch.onwards = true;
+    Mine().watch.onwards = true;
 }
 void HeapWatch::FailNone() {
     FailOnly(0);
 }
 
 std::size_t HeapWatch::allocations() const {
-    return watch.allocations;
+    return Mine().watch.allocations;
 }
 std::size_t HeapWatch::failures() const {
-    return watch.failures;
+    return Mine().watch.failures;
 }
 std::ptrdiff_t HeapWatch::liveBlocks() const {
-    return watch.liveBlocks;
+    return Mine().watch.liveBlocks;
 }
 std::ptrdiff_t HeapWatch::liveBytes() const {
-    return watch.liveBytes;
+    return Mine().watch.liveBytes;
 }
 std::ptrdiff_t HeapWatch::peakBytes() const {
-    return watch.peakBytes;
+    return Mine().watch.peakBytes;
 }
 void HeapWatch::ResetPeak() {
-    watch.peakBytes = watch.liveBytes;
+    Mine().watch.peakBytes = Mine().watch.liveBytes;
 }
 
 } // namespace orrery::test
