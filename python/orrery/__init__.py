@@ -20,8 +20,8 @@ from ._library import Finding, Refused, explain, version
 from ._memory import Record, Rooms, Rule, lend_items, packed_of
 
 __all__ = [
-    "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "pack", "pack_rules", "parse", "parse_all",
-    "parse_rules", "parse_template", "typed", "version",
+    "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "explain_record", "pack", "pack_rules", "parse",
+    "parse_all", "parse_rules", "parse_template", "typed", "version",
 ]
 
 Json = Union[str, bytes]
@@ -110,16 +110,25 @@ def _parse_all(command: str, text: Json, most: int = 64) -> List[Record]:
 parse_all: Several = _parse_all  # type: ignore[assignment]
 
 
-def pack(record: Union[Record, List[Any]], command: Optional[str] = None) -> str:
-    """The text of a record, or of a list of them, to be sent under "params"."table". A record that was parsed knows its
-    command; of others it has to be said where several have the record."""
+def _records_of(record: Union[Record, List[Any]], command: Optional[str]) -> "tuple[str, bytes]":
     records: List[Record] = record if isinstance(record, list) else [record]
     if not records:
         raise ValueError("no record")
     name = command or records[0].command or records[0].only_command_
     if name is None:
         raise ValueError("which command is %s for?" % type(records[0]).__name__)
-    return _pack(name, b"".join(bytes(one) for one in records))
+    return name, b"".join(bytes(one) for one in records)
+
+
+def pack(record: Union[Record, List[Any]], command: Optional[str] = None) -> str:
+    """The text of a record, or of a list of them, to be sent under "params"."table". A record that was parsed knows its
+    command; of others it has to be said where several have the record."""
+    return _pack(*_records_of(record, command))
+
+
+def explain_record(record: Union[Record, List[Any]], command: Optional[str] = None) -> List[Finding]:
+    """What liborrery-explain says of a record that is to be packed; nothing where that library is not installed."""
+    return _library.explain_bytes(*_records_of(record, command))
 
 
 def _pack(name: str, data: bytes) -> str:
@@ -129,7 +138,7 @@ def _pack(name: str, data: bytes) -> str:
         if text is not None:
             return text.decode("utf-8", "surrogateescape")
         room *= 8
-    raise Refused("%s: the record is refused" % name, [])
+    raise Refused("%s: the record is refused" % name, _library.explain_bytes(name, data))
 
 
 def parse_rules(text: Json, command: str = "VideoAnalyseRule") -> List[Rule]:

@@ -121,19 +121,26 @@ class _FINDING(ctypes.Structure):
 
 _TAKES_FINDING = ctypes.CFUNCTYPE(_i32, ctypes.POINTER(_FINDING), _address)
 _loading = threading.Lock()
-_explanations: List[Any] = []
+_explaining: List[Any] = []
 
 
-def explain(command: str, text: "str | bytes") -> List[Finding]:
-    """What liborrery-explain says of a reply; nothing where that library is not installed."""
+def _explanations() -> "tuple[Any, Any]":
+    """Those of replies and of records; none of either where that library is not installed."""
     with _loading:
-        if not _explanations:
+        if not _explaining:
             try:
                 library = _load("liborrery-explain")
             except OSError:
-                return []
-            _explanations.append(_function(library, "ORRERY_ExplainReply", _i32, _bytes, _bytes, ctypes.c_size_t, _u32,
-                                           _TAKES_FINDING, _address))
+                return None, None
+            size = ctypes.c_size_t
+            _explaining.append((
+                _function(library, "ORRERY_ExplainReply", _i32, _bytes, _bytes, size, _u32, _TAKES_FINDING, _address),
+                _function(library, "ORRERY_ExplainRecord", _i32, _bytes, _bytes, _u32, _TAKES_FINDING, _address)))
+        replies, records = _explaining[0]
+        return replies, records
+
+
+def _findings(function: Any, *arguments: Any) -> List[Finding]:
     found: List[Finding] = []
 
     def taken(finding: Any, _user: object) -> int:
@@ -143,9 +150,20 @@ def explain(command: str, text: "str | bytes") -> List[Finding]:
                              one.szMessage.decode("utf-8", "replace")))
         return 1
 
-    data = text.encode("utf-8", "surrogateescape") if isinstance(text, str) else text
-    _explanations[0](command.encode(), data, len(data), 0, _TAKES_FINDING(taken), None)
+    if function is not None:
+        function(*arguments, _TAKES_FINDING(taken), None)
     return found
+
+
+def explain(command: str, text: "str | bytes") -> List[Finding]:
+    """What liborrery-explain says of a reply; nothing where that library is not installed."""
+    data = text.encode("utf-8", "surrogateescape") if isinstance(text, str) else text
+    return _findings(_explanations()[0], command.encode(), data, len(data), 0)
+
+
+def explain_bytes(command: str, records: bytes) -> List[Finding]:
+    """The same of records: why they are refused, and what of them leaves no trace in the text."""
+    return _findings(_explanations()[1], command.encode(), records, len(records))
 
 
 class Refused(Exception):
@@ -155,5 +173,6 @@ class Refused(Exception):
         self.findings = findings
         worst = [finding for finding in findings if finding.gravity == 3] or findings
         if worst:
-            message += ": %d:%d %s: %s" % (worst[0].line, worst[0].column, worst[0].path, worst[0].message)
+            place = "%d:%d " % (worst[0].line, worst[0].column) if worst[0].line > 0 else ""
+            message += ": %s%s: %s" % (place, worst[0].path, worst[0].message)
         super().__init__(message)

@@ -9,4 +9,4 @@ cp -r "$source/python/orrery" "$source/python/tests" "$work/"
 "$companion" schema >"$work/schema.json"
 "$python" "$source/python/generate.py" "$work/schema.json" "$work/orrery"
 cd "$work"
-ORRERY_LIBRARY_PATH=$libraries PYTHONPATH=$work "$python" -m pytest -q -p no:cacheprovider tests
+ORRERY_EXAMPLES=$source/examples ORRERY_LIBRARY_PATH=$libraries PYTHONPATH=$work "$python" -m pytest -q -p no:cacheprovider tests
