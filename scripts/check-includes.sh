@@ -13,7 +13,7 @@ src=${1:-$(dirname "$0")/../src}
 level() { # of a file, by its path below src
     case $1 in
     frame/json/*) echo 1 ;;
-    frame/Arena.* | frame/JsonParser*.* | frame/LocalText*.* | frame/Log.* | frame/NameHash.h | frame/With.h) echo 2 ;;
+    frame/Arena.* | frame/JsonParser*.* | frame/LocalText*.* | frame/Lock*.* | frame/Log.* | frame/NameHash.h | frame/With.h) echo 2 ;;
     frame/record/*) echo 3 ;;
     frame/*) echo 4 ;;
     */*) echo 5 ;;

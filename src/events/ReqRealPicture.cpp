@@ -154,7 +154,7 @@ void CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcep
 }
 
 void CReqRealPicture::deliver(ORRERY_EVENT_CALLBACK callback, void* user) noexcept {
-    const std::lock_guard<std::recursive_mutex> hold(csEvents);
+    const std::lock_guard<RecursiveLock> hold(csEvents);
     while (EventNode* const node = lstEvents.TakeFirst()) {
         if (callback != nullptr) HandOver(callback, node->dwEventType, node->pEventInfo, node->dwBufSize, user);
     }

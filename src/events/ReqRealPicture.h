@@ -2,11 +2,10 @@
 #pragma once
 
 #include "events/EventContext.h"
+#include "frame/Lock.h"
 #include "frame/Request/IPDU.h"
 
 #include "orrery/calls.h"
-
-#include <mutex>
 
 namespace orrery {
 
@@ -68,7 +67,7 @@ class CReqRealPicture final : public IPDU {
     std::uint32_t dwPicID[2] = {};
     std::uint64_t bAck = 0;
     EventList lstEvents;
-    std::recursive_mutex csEvents;
+    RecursiveLock csEvents;
 
   private:
     // What a notification says about all of its events.

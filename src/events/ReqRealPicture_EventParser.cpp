@@ -113,7 +113,7 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     record::ReadRecord(*row->table, data, record, call);
 
     *node = {nullptr, nullptr, row->code, record, row->reportedSize};
-    const std::lock_guard<std::recursive_mutex> hold(csEvents);
+    const std::lock_guard<RecursiveLock> hold(csEvents);
     lstEvents.Append(*node);
 }
 

@@ -3,28 +3,29 @@
 #endif
 #include "frame/Log.h"
 
+#include "frame/Lock.h"
+
 #include <atomic>
 #include <cstdarg>
-#include <mutex>
 
 namespace {
 
 // Both are initialised at compile time, so a static initialiser of the host may log before this file's turn comes.
 // Sinks stay the host's property: the library owns none, so there is nothing to destroy when it is unloaded.
-constinit std::recursive_mutex logLock;
+constinit orrery::RecursiveLock logLock;
 constinit std::atomic<LogSink*> installedSink = nullptr; // changed and called under the lock only
 
 // Runs `call` on the sink, if there is one, under the log lock. Recursive, because a sink may log in its turn.
 template <class Call>
 void Forward(Call call) noexcept {
-    const std::lock_guard<std::recursive_mutex> hold(logLock);
+    const std::lock_guard<orrery::RecursiveLock> hold(logLock);
     if (LogSink* const sink = installedSink.load(std::memory_order_relaxed)) call(*sink);
 }
 
 } // namespace
 
 LogSink* LogOne_SetSink(LogSink* sink) {
-    const std::lock_guard<std::recursive_mutex> hold(logLock);
+    const std::lock_guard<orrery::RecursiveLock> hold(logLock);
     return installedSink.exchange(sink, std::memory_order_relaxed);
 }
 

@@ -1,12 +1,12 @@
 // A JSON-RPC request and the state that its answer leaves.
 #pragma once
 
+#include "frame/Lock.h"
 #include "frame/Request/HeapText.h"
 #include "frame/Request/IPDU.h"
 
 #include <forward_list>
 #include <memory>
-#include <mutex>
 
 namespace orrery {
 
@@ -39,7 +39,7 @@ class CRequest : public IPDU {
 
   protected:
     std::forward_list<std::unique_ptr<IPDU>> pending_; // sub-items that wait for their turn
-    std::recursive_mutex lock_;
+    RecursiveLock lock_;
 
   public:
     std::uint32_t nSessionId = 0; // "session"
