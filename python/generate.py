@@ -210,8 +210,8 @@ class Generator:
     def records_module(self) -> str:
         out = ['"""Records of commands, rules and events. Made by generate.py from the schema."""', "",
                "from typing import List, Optional, Union", "", "from . import _enumerations as enumerations",
-               "from ._memory import (Array, Bool, Code, Field, Flagged, Inside, Listed, Mask, Number, PackedList,",
-               "                      PointedList, PointedText, Record, RuleItems, Text)", ""]
+               "from ._memory import Array, Bool, Code, Field, Flagged, Inside, Listed, Mask, Number, Record, Text",
+               "from ._pointers import PackedList, PointedList, PointedText, RuleItems", ""]
         commands: Dict[str, List[str]] = {}
         writers: Dict[str, List[str]] = {}
         for command in self.schema["commands"]:

@@ -17,7 +17,8 @@ from typing import Any, Iterator, List, NamedTuple, Optional, Union
 from . import _library, _records
 from ._commands import COMMANDS, EVENTS, NAMES_OF_CODES, RULES, TEMPLATES, TYPED, Reading, Several, Templates
 from ._library import Finding, Refused, explain, version
-from ._memory import Record, Rooms, Rule, lend_items, packed_of
+from ._memory import Record, Rule
+from ._pointers import Rooms, lend_items, packed_of
 
 __all__ = [
     "Event", "Finding", "Record", "Refused", "Rule", "events", "explain", "explain_record", "pack", "pack_rules", "parse",
