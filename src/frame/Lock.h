@@ -18,6 +18,7 @@ class RecursiveLock {
     RecursiveLock& operator=(const RecursiveLock&) = delete;
 
     void lock() noexcept;
+    bool try_lock() noexcept;
     void unlock() noexcept;
 
   private:

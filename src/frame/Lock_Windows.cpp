@@ -16,6 +16,16 @@ void RecursiveLock::lock() noexcept {
     ++depth_;
 }
 
+bool RecursiveLock::try_lock() noexcept {
+    const DWORD thread = GetCurrentThreadId();
+    if (holder_.load(std::memory_order_relaxed) != thread) {
+        if (TryAcquireSRWLockExclusive(reinterpret_cast<SRWLOCK*>(&system_)) == 0) return false;
+        holder_.store(thread, std::memory_order_relaxed);
+    }
+    ++depth_;
+    return true;
+}
+
 void RecursiveLock::unlock() noexcept {
     if (--depth_ > 0) return;
     holder_.store(0, std::memory_order_relaxed);

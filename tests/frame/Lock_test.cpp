@@ -33,5 +33,23 @@ TEST(LockThread, IsLockedAgainByItsHolderAndHeldUntilTheLastUnlock) {
     EXPECT_EQ(most, 1);
 }
 
+TEST(LockThread, IsTriedWithoutWaiting) {
+    RecursiveLock lock;
+    ASSERT_TRUE(lock.try_lock());
+    EXPECT_TRUE(lock.try_lock()); // again, by its holder
+    bool others = true;
+    std::thread([&] { others = lock.try_lock(); }).join();
+    EXPECT_FALSE(others);
+    lock.unlock();
+    std::thread([&] { others = lock.try_lock(); }).join();
+    EXPECT_FALSE(others);
+    lock.unlock();
+    std::thread([&] {
+        others = lock.try_lock();
+        if (others) lock.unlock();
+    }).join();
+    EXPECT_TRUE(others);
+}
+
 } // namespace
 } // namespace orrery
