@@ -1,12 +1,13 @@
 #include "explain/Places.h"
 
+#include "explain/TextBlock.h"
+
 #include "frame/json/Scan.h"
 #include "frame/json/StringDecoder.h"
 #include "frame/json/WalkStack.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <functional>
 
 namespace orrery::explain {
@@ -15,16 +16,6 @@ using json::Type;
 using json::Value;
 
 namespace {
-
-// Behind the closing quote of the string whose first byte is at `p`.
-const char* BehindString(const char* p, const char* end) noexcept {
-    for (;;) {
-        p = json::FindQuoteOrBackslash(p, end);
-        if (p == end) return end;
-        if (*p == '"') return p + 1;
-        p += end - p < 2 ? 1 : 2;
-    }
-}
 
 enum class Byte : unsigned char { Other, Quote, Opens, Closes, Colon, Slash };
 constexpr std::array<Byte, 256> kBytes = [] {
@@ -37,65 +28,6 @@ constexpr std::array<Byte, 256> kBytes = [] {
     return bytes;
 }();
 
-// What stands in 64 bytes of a document, a bit each.
-#if ORRERY_SSE2
-class Block {
-  public:
-    static constexpr std::size_t kSize = 64;
-
-    // `p` stands outside a string.
-    explicit Block(const char* p) noexcept {
-        constexpr int kCase = 0x20; // '[' and '{', ']' and '}' differ by this bit alone
-        static_assert(('[' | kCase) == '{' && (']' | kCase) == '}');
-        for (unsigned part = 0; part < kSize / 16; ++part) {
-            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + part * 16));
-            const __m128i folded = _mm_or_si128(bytes, _mm_set1_epi8(kCase));
-            const auto take = [part](std::uint64_t& bits, __m128i among, char wanted) {
-                const auto found =
-                    static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(among, _mm_set1_epi8(wanted))));
-                bits |= std::uint64_t{found} << (part * 16);
-            };
-            take(quotes_, bytes, '"');
-            take(escapes_, bytes, '\\');
-            take(colons_, bytes, ':');
-            take(slashes_, bytes, '/');
-            take(opens_, folded, '{');
-            take(closes_, folded, '}');
-        }
-        std::uint64_t inside = quotes_; // and the quotes that open: an odd number of quotes up to here
-        for (unsigned shift = 1; shift < kSize; shift *= 2)
-            inside ^= inside << shift;
-        if (std::popcount(quotes_) % 2 != 0) { // the last string goes on behind the block
-            last_ = kSize - 1 - static_cast<unsigned>(std::countl_zero(quotes_));
-            known_ = (std::uint64_t{1} << last_) - 1;
-        }
-        outside_ = ~inside & known_;
-    }
-
-    // Neither comments nor escapes, and no end of what is open.
-    bool isPlain(std::size_t depth) const noexcept {
-        return (escapes_ & known_) == 0 && (slashes_ & outside_) == 0 && closes() < depth;
-    }
-    std::size_t opens() const noexcept { return Count(opens_ & outside_); }
-    std::size_t closes() const noexcept { return Count(closes_ & outside_); }
-    std::size_t colons() const noexcept { return Count(colons_ & outside_); }
-    // What comes behind the block, and behind the string that reaches over its end.
-    const char* Behind(const char* p, const char* end) const noexcept {
-        return last_ == kSize ? p + kSize : BehindString(p + last_ + 1, end);
-    }
-
-  private:
-    // Most blocks have none, and few processors' compilers may count by an instruction.
-    static std::size_t Count(std::uint64_t bits) noexcept {
-        return bits == 0 ? 0 : static_cast<std::size_t>(std::popcount(bits));
-    }
-
-    std::uint64_t quotes_ = 0, escapes_ = 0, colons_ = 0, slashes_ = 0, opens_ = 0, closes_ = 0;
-    std::uint64_t known_ = ~std::uint64_t{0}, outside_ = 0;
-    std::size_t last_ = kSize;
-};
-#endif
-
 } // namespace
 
 Skimmed Skim(std::string_view text) noexcept {
@@ -107,15 +39,16 @@ Skimmed Skim(std::string_view text) noexcept {
     [[maybe_unused]] const char* byBytes = p; // up to here byte after byte
     while (p != end) {
 #if ORRERY_SSE2
-        while (depth > 0 && p >= byBytes && static_cast<std::size_t>(end - p) >= Block::kSize) {
-            const Block block(p);
-            if (!block.isPlain(depth)) {
-                byBytes = p + Block::kSize;
+        while (depth > 0 && p >= byBytes && static_cast<std::size_t>(end - p) >= TextBlock::kSize) {
+            const TextBlock block(p);
+            if (!block.isPlain(depth) || block.hasSlashes()) { // what may be a comment is looked at byte by byte
+                byBytes = p + TextBlock::kSize;
                 break;
             }
             depth += block.opens() - block.closes();
             skimmed.members += block.colons();
-            p = block.Behind(p, end);
+            p += block.size();
+            if (block.size() < TextBlock::kSize) p = BehindString(p + 1, end);
         }
         if (p == end) break;
 #endif

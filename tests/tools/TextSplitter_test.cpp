@@ -17,7 +17,7 @@ Pieces Split(const std::string& stream, std::size_t chunk = 1 << 20) {
     for (std::size_t at = 0; at < stream.size(); at += chunk) {
         splitter.Feed(std::string_view(stream).substr(at, chunk));
         while (const auto piece = splitter.Next())
-            pieces.emplace_back(piece->text, piece->line);
+            pieces.emplace_back(piece->text, piece->line); // copied: it stays until more is fed
     }
     while (const auto piece = splitter.Rest())
         pieces.emplace_back(piece->text, piece->line);

@@ -1,28 +1,46 @@
 #include "orrery/Outline.h"
 
-#include <algorithm>
-#include <cstring>
+#include <bit>
 
 namespace orrery::tool {
 
 using namespace record;
 
-bool IsClear(const std::byte* at, std::size_t size) {
-    constexpr std::size_t kWord = sizeof(std::uint64_t), kStep = 4 * kWord;
-    for (; size >= kStep; at += kStep, size -= kStep) {
-        const std::uint64_t any = Load<std::uint64_t>(at) | Load<std::uint64_t>(at + kWord)
-                                  | Load<std::uint64_t>(at + 2 * kWord) | Load<std::uint64_t>(at + 3 * kWord);
-        if (any != 0) return false;
-    }
-    for (; size >= kWord; at += kWord, size -= kWord)
-        if (Load<std::uint64_t>(at) != 0) return false;
-    return std::all_of(at, at + size, [](std::byte byte) { return byte == std::byte{0}; });
+namespace {
+
+constexpr std::size_t kWord = sizeof(std::uint64_t), kStep = 8 * kWord;
+
+bool IsStepClear(const std::byte* at) {
+#if ORRERY_SSE2
+    const auto load = [at](std::size_t i) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at) + i); };
+    const __m128i any = _mm_or_si128(_mm_or_si128(load(0), load(1)), _mm_or_si128(load(2), load(3)));
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(any, _mm_setzero_si128())) == 0xFFFF;
+#else
+    std::uint64_t any = 0;
+    for (std::size_t i = 0; i < kStep; i += kWord)
+        any |= Load<std::uint64_t>(at + i);
+    return any == 0;
+#endif
 }
 
-bool Outline::Member::IsZero(const std::byte* record, bool all) const {
-    // Of a list in use its elements are printed, zeros or not.
-    if (field->count.exists() && !all && LoadSlot(field->count, record) > 0) return false;
-    return isAlike && IsClear(record + field->offset, field->size);
+} // namespace
+
+std::size_t FirstSet(const std::byte* record, std::size_t from, std::size_t size) {
+    while (from + kStep <= size && IsStepClear(record + from))
+        from += kStep;
+    for (; from + kWord <= size; from += kWord) {
+        const auto word = Load<std::uint64_t>(record + from);
+        if (word == 0) continue;
+        const int bits = std::endian::native == std::endian::little ? std::countr_zero(word) : std::countl_zero(word);
+        return from + static_cast<std::size_t>(bits) / 8;
+    }
+    while (from < size && record[from] == std::byte{0})
+        ++from;
+    return from;
+}
+
+bool IsClear(const std::byte* at, std::size_t size) {
+    return FirstSet(at, 0, size) == size;
 }
 
 } // namespace orrery::tool

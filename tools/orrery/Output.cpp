@@ -226,12 +226,16 @@ void LineWriter::Zeros(std::size_t count) {
 }
 
 void LineWriter::Text(std::string_view text) {
-    const bool isPlain = std::none_of(
-        text.begin(), text.end(), [](char c) { return c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20; });
-    if (!isPlain) return Append(Quoted(text));
-    Put('"');
-    Append(text);
-    Put('"');
+    constexpr std::size_t kQuotes = 2;
+    if (room_.size() - used_ < text.size() + kQuotes) Grow(text.size() + kQuotes);
+    char* at = room_.data() + used_;
+    *at++ = '"';
+    for (const char c : text) { // most are short
+        if (c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20) return Append(Quoted(text));
+        *at++ = c;
+    }
+    *at++ = '"';
+    used_ = static_cast<std::size_t>(at - room_.data());
 }
 
 std::string LineWriter::Take() {

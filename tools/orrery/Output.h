@@ -71,10 +71,6 @@ class Node {
 // JSON on one line, written as it is told.
 class LineWriter {
   public:
-    LineWriter() = default;
-    // Writes over a text that is needed no more.
-    explicit LineWriter(std::string room) : room_(std::move(room)) { room_.resize(room_.capacity()); }
-
     struct Mark {
         std::size_t used;
         bool isFirst;
@@ -88,7 +84,7 @@ class LineWriter {
         if (IsArray(brackets))
             Put(']');
         else
-            Append(isFirst_ ? "}" : " }");
+            isFirst_ ? Put('}') : Append(" }");
         isFirst_ = false;
     }
     // The name of a member; it has nothing to escape.
@@ -137,11 +133,17 @@ class LineWriter {
     }
     std::size_t size() const { return used_; }
     // All that was written.
+    std::string_view text() const { return std::string_view(room_).substr(0, used_); }
     std::string Take();
+    // Begins anew, in the same memory.
+    void Clear() { GoBack({0, true}); }
 
   private:
     static bool IsArray(Brackets brackets) { return brackets == Brackets::Array || brackets == Brackets::InlineArray; }
-    void Put(char c) { Append({&c, 1}); }
+    void Put(char c) {
+        if (room_.size() == used_) Grow(1);
+        room_[used_++] = c;
+    }
     void Grow(std::size_t more);
 
     std::string room_;

@@ -8,6 +8,7 @@
 #include "frame/record/Engine.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -103,14 +104,16 @@ class Printer {
 
     // These answer how many members or elements stand there.
     std::size_t Record(const Table& table, const std::byte* record) {
-        if constexpr (std::is_same_v<Sink, LineWriter>)
-            if (!options_.brief) return Splice(OutlineOf(table, options_.all), table, record);
+        if constexpr (std::is_same_v<Sink, LineWriter>) {
+            const Outline& outline = OutlineOf(table, options_.all);
+            return options_.brief ? Brief(outline, table, record) : Splice(outline, table, record);
+        }
         sink_.Open(Brackets::Object);
         std::size_t count = 0;
         for (const Field& field : table) {
             if (field.alias || field.size == 0) continue; // no storage of its own
             if (options_.brief && IsBlank(field, record + field.offset)) continue;
-            count += Member(table, field, record);
+            count += Member(table, field, field.name, record);
         }
         sink_.Close(Brackets::Object);
         return count;
@@ -178,7 +181,17 @@ class Printer {
             const std::uint32_t value = place();
             printer.Content(table, field, clear.data());
             const bool isItems = field.cell == Cell::Pointer && ItemsBehind(table) != nullptr;
-            outline.members.push_back({&field, begin, value, place(), !isItems});
+            const bool isDefault = field.hasDefault && field.defaultValue != 0;
+            outline.members.push_back({.field = &field,
+                                       .name = field.name,
+                                       .begin = begin,
+                                       .value = value,
+                                       .end = place(),
+                                       .offset = field.offset,
+                                       .size = field.size,
+                                       .count = all ? Slot{} : field.count,
+                                       .isAlike = !isItems,
+                                       .isPlainlyBlank = field.kind != Kind::Size && !isDefault});
         }
         line.Close(Brackets::Object);
         outline.text = line.Take();
@@ -188,14 +201,29 @@ class Printer {
   private:
     std::size_t Splice(const Outline& outline, const Table& table, const std::byte* record) {
         std::size_t done = 0; // of the outline's text
+        SetBytes set(record, table.size);
         for (const Outline::Member& member : outline.members) {
-            if (member.IsZero(record, options_.all)) continue;
+            const bool isInUse = member.count.exists() && LoadSlot(member.count, record) > 0;
+            if (member.isAlike && !isInUse && !set.AnyIn(member.offset, member.size)) continue;
             sink_.Splice(outline.Part(done, member.value));
             Content(table, *member.field, record);
             done = member.end;
         }
         sink_.Splice(outline.Part(done, outline.text.size()));
         return outline.members.size();
+    }
+
+    std::size_t Brief(const Outline& outline, const Table& table, const std::byte* record) {
+        sink_.Open(Brackets::Object);
+        std::size_t count = 0;
+        SetBytes set(record, table.size);
+        for (const Outline::Member& member : outline.members) {
+            const bool isBlank = member.isPlainlyBlank ? !set.AnyIn(member.offset, member.size)
+                                                       : IsBlank(*member.field, record + member.offset);
+            if (!isBlank) count += Member(table, *member.field, member.name, record);
+        }
+        sink_.Close(Brackets::Object);
+        return count;
     }
 
     std::size_t Content(const Table& table, const Field& field, const std::byte* record) {
@@ -205,9 +233,9 @@ class Printer {
     }
 
     // 0 for a member that tells nothing, which is left out.
-    std::size_t Member(const Table& table, const Field& field, const std::byte* record) {
+    std::size_t Member(const Table& table, const Field& field, std::string_view name, const std::byte* record) {
         const auto mark = sink_.Place();
-        sink_.Key(field.name);
+        sink_.Key(name);
         const bool isNested = field.cell == Cell::Record || (field.cell != Cell::Pointer && field.rank > 0);
         if (Content(table, field, record) > 0 || !options_.brief || !isNested) return 1;
         sink_.GoBack(mark);
@@ -369,14 +397,19 @@ class Printer {
 };
 
 const Outline& OutlineOf(const Table& table, bool all) {
-    // Of each thread its own: what is kept is found without a lock.
+    // Of each thread its own: what is kept is found without a lock, and what was asked for last without a search.
     thread_local std::unordered_map<const Table*, Outline> kept[2];
+    constexpr std::size_t kLast = 64;
+    thread_local std::array<std::pair<const Table*, const Outline*>, kLast> last[2];
+    auto& [asked, answer] = last[all ? 1 : 0][reinterpret_cast<std::uintptr_t>(&table) / alignof(Table) % kLast];
+    if (asked == &table) return *answer;
     auto& outlines = kept[all ? 1 : 0];
-    const auto found = outlines.find(&table);
-    if (found != outlines.end()) return found->second;
+    auto found = outlines.find(&table);
     // Records stand inside others, so that this draws those first.
-    Outline outline = Printer<LineWriter>::Draw(table, all);
-    return outlines.emplace(&table, std::move(outline)).first->second;
+    if (found == outlines.end()) found = outlines.emplace(&table, Printer<LineWriter>::Draw(table, all)).first;
+    asked = &table;
+    answer = &found->second;
+    return *answer;
 }
 
 // What `print` tells a printer, as a tree.

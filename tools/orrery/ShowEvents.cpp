@@ -1,20 +1,19 @@
 #include "orrery/ShowEvents.h"
 
 #include "orrery/Diagnose.h"
+#include "orrery/EventSurvey.h"
 #include "orrery/Input.h"
 #include "orrery/PrintRecord.h"
-#include "orrery/Suggest.h"
 #include "orrery/Terminal.h"
 
-#include "analyse/EventTypeRegistry.h"
 #include "analyse/RuleFrame.h"
 #include "events/EventMap.h"
 #include "events/ReqRealPicture.h"
 #include "events/TypedText.h"
-#include "frame/JsonParser.h"
 
 #include <algorithm>
 #include <new>
+#include <span>
 
 namespace orrery::tool {
 
@@ -22,18 +21,12 @@ namespace {
 
 using json::Value;
 
-// Of an event in the text.
-struct Place {
-    std::uint32_t index;
-    std::string_view action;
-};
-
 // What is delivered: an event, or what a text tells by a key of its own.
 struct Item {
     std::uint32_t code;
     std::string_view name;
     std::uint32_t size;
-    const Place* place; // null: it has none
+    const EventPlace* place; // null: it has none
     const record::Table* table;
     const std::byte* first;
     bool isList = false;
@@ -69,7 +62,7 @@ std::vector<std::string> ColumnsOf(const EventOptions& options) {
 
 struct Shown {
     const EventOptions& options;
-    std::vector<Place> places; // of the events that will be delivered
+    std::span<const EventPlace> places; // of the events that will be delivered
     LineWriter& out;
     std::uint32_t count = 0;
     std::size_t next = 0; // of the places
@@ -173,7 +166,7 @@ std::int32_t Show(std::uint32_t type, const void* record, std::uint32_t size, vo
             return 0;
         }
         const events::EventRow& row = *events::FindEvent(type);
-        const Place* const place = shown.next < shown.places.size() ? &shown.places[shown.next] : nullptr;
+        const EventPlace* const place = shown.next < shown.places.size() ? &shown.places[shown.next] : nullptr;
         ++shown.next;
         shown.Add({row.code, row.name, size, place, row.table, bytes});
     } catch (const std::bad_alloc&) {
@@ -182,82 +175,17 @@ std::int32_t Show(std::uint32_t type, const void* record, std::uint32_t size, vo
     return 0;
 }
 
-// Why an event was passed over; empty when it was not.
-std::string WhyNot(const Value& event) {
-    const Value& name = event["Code"];
-    if (name.isNull()) return "no \"Code\"";
-    const auto code = static_cast<std::uint32_t>(RuleCodeFromName(name.asString()));
-    const events::EventRow* const row = events::FindEvent(code);
-    if (row == nullptr) {
-        std::vector<std::string_view> names;
-        for (const events::EventRow& known : events::Events())
-            names.push_back(known.name);
-        return "no event is named " + Printable(Quoted(name.asString())) + DidYouMean(name.asString(), names);
-    }
-    if (event["Data"].isNull() && !row->needsNoData) return "no \"Data\"";
-    return {};
-}
-
 // A text that tells by its keys what it carries.
 bool IsTyped(const Value& root) {
     return std::ranges::any_of(root.members(),
                                [](const json::Member& member) { return events::FindTyped(member.key()) != nullptr; });
 }
 
-// The rules of a typed text are taken all or none.
+// The rules of a typed text, where it has any, are taken all or none.
 std::string WhyNoRules(const Value& rules) {
-    if (RuleArraySizeNeeded(rules) > 0) return {};
+    if (rules.isNull() || RuleArraySizeNeeded(rules) > 0) return {};
     if (rules.elements().empty()) return "orrery: note: \"VideoAnalyseRule\" holds no rules\n";
     return "orrery: note: \"VideoAnalyseRule\" was passed over: a rule is of a type without a record\n";
-}
-
-std::string Notes(const Value& root) {
-    constexpr std::size_t kMostEvents = 128; // of one text
-    constexpr std::size_t kMostNotes = 8;
-    const bool isSingle = !root["Event"].isNull();
-    const std::string key = isSingle ? "Event" : "EventList";
-    const Value& list = root[key];
-    std::vector<std::string> notes;
-    if (list.isNull())
-        notes.push_back("the text has neither \"Event\" nor \"EventList\"");
-    else if (list.type() != json::Type::Array)
-        notes.push_back("\"" + key + "\" is no list");
-    if (list.elements().size() > kMostEvents) {
-        notes.push_back("\"" + key + "\" holds " + std::to_string(list.size()) + " events; the first "
-                        + std::to_string(kMostEvents) + " are read");
-    }
-    for (std::size_t i = 0; i < std::min(list.elements().size(), kMostEvents) && notes.size() <= kMostNotes; ++i) {
-        const std::string why = WhyNot(list.elements()[i]);
-        if (!why.empty()) notes.push_back(key + "[" + std::to_string(i) + "] was passed over: " + why);
-    }
-    std::string text;
-    for (std::size_t i = 0; i < std::min(notes.size(), kMostNotes); ++i)
-        text += "orrery: note: " + notes[i] + "\n";
-    if (notes.size() > kMostNotes) text += "orrery: note: and more of the kind\n";
-    return text;
-}
-
-} // namespace
-
-namespace {
-
-// The events that will be delivered, in order. One without a word of its own acts as the one before it did.
-std::vector<Place> PlacesOf(const Value& root) {
-    constexpr std::size_t kMostEvents = 128;
-    std::vector<Place> places;
-    std::string_view action;
-    const auto events = root[root["Event"].isNull() ? "EventList" : "Event"].elements();
-    for (std::uint32_t i = 0; i < std::min(events.size(), kMostEvents); ++i) {
-        const auto code = static_cast<std::uint32_t>(RuleCodeFromName(events[i]["Code"].asString()));
-        const events::EventRow* const row = events::FindEvent(code);
-        const Value& data = events[i]["Data"];
-        if (row == nullptr || (data.isNull() && !row->needsNoData)) continue;
-        for (const std::string_view known : {"Pulse", "Start", "Stop"})
-            if (EqualsFolded(events[i]["Action"].asString(), known)) action = known;
-        if (row->rename != nullptr && events::FindEvent(row->rename(data)) == nullptr) continue;
-        places.push_back({i, action});
-    }
-    return places;
 }
 
 // "FILE, text at line 7: ".
@@ -285,26 +213,27 @@ std::string WithSource(const std::string& notes, const std::string& source) {
 
 Result ShowEvents(std::string_view text, const EventOptions& options, LineWriter& out) {
     try {
+        const auto refused = [&](const std::string& why) {
+            return Result{kRefused, {}, "orrery: " + SourceOf(options) + why + "\n"};
+        };
         const Document document(text);
-        const std::string source = SourceOf(options);
         if (const std::string_view encoding = ForeignEncoding(text); !encoding.empty())
-            return {kRefused, {}, "orrery: " + source + NotUtf8(encoding) + "\n"};
-        if (!document.ok) return {kRefused, {}, "orrery: " + source + ExplainSyntax(document) + "\n"};
-        Shown shown{options, PlacesOf(document.root), out};
-        const bool isTyped = IsTyped(document.root);
+            return refused(NotUtf8(encoding));
+        if (!document.ok) return refused(ExplainSyntax(document));
+        const Value& root = document.root;
+        const EventSurvey survey = SurveyEvents(root);
+        Shown shown{options, survey.places, out};
+        const bool isTyped = IsTyped(root);
         if (isTyped)
             DeliverTyped(std::string(document.text).c_str(), Show, &shown);
         else
-            DeliverEvents(document.root, document.text.size(), Show, &shown);
+            DeliverEvents(root, document.text.size(), Show, &shown);
         if (shown.ranOut) throw std::bad_alloc();
         std::string notes;
-        const Value& rules = document.root["VideoAnalyseRule"];
-        if (isTyped && !rules.isNull()) notes += WhyNoRules(rules);
-        const bool hasEvents = !document.root["Event"].isNull() || !document.root["EventList"].isNull();
-        if (hasEvents || !isTyped) notes += Notes(document.root);
-        const Value& events = document.root[document.root["Event"].isNull() ? "EventList" : "Event"];
-        const bool isShape = isTyped || events.type() == json::Type::Array;
-        return {isShape ? kDone : kRefused, {}, WithSource(notes, source)};
+        if (isTyped) notes += WhyNoRules(root["VideoAnalyseRule"]);
+        if (survey.hasKey || !isTyped) notes += survey.notes;
+        if (!notes.empty()) notes = WithSource(notes, SourceOf(options));
+        return {isTyped || survey.isList ? kDone : kRefused, {}, std::move(notes)};
     } catch (const std::bad_alloc&) {
         return {kRefused, {}, "orrery: out of memory\n"};
     }
@@ -317,9 +246,11 @@ Result ShowEvents(std::string_view text, const EventOptions& options) {
     return result;
 }
 
+bool IsColoured(const EventOptions& options) {
+    return options.colour && (options.format == Format::Lines || options.format == Format::Pretty);
+}
 std::string Coloured(std::string out, const EventOptions& options) {
-    const bool isObjects = options.format == Format::Lines || options.format == Format::Pretty;
-    return options.colour && isObjects ? ColouredJson(out) : out;
+    return IsColoured(options) ? ColouredJson(out) : out;
 }
 
 std::string EventHead(const EventOptions& options) {

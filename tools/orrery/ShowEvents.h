@@ -32,6 +32,7 @@ Result ShowEvents(std::string_view text, const EventOptions& options = {});
 // The same for one text of many: what is printed goes to `out`, and no colours yet.
 Result ShowEvents(std::string_view text, const EventOptions& options, LineWriter& out);
 // Objects in colours, if they are asked for.
+bool IsColoured(const EventOptions& options);
 std::string Coloured(std::string out, const EventOptions& options);
 
 // The first line of a table or of comma-separated values; empty for objects.

@@ -21,11 +21,27 @@ namespace orrery::tool {
 
 namespace {
 
-// Texts that came with one look at a file, or what there is to say about the file itself.
+// Texts of a file that are shown together, or what there is to say about the file itself.
 struct Batch {
     std::string file;
-    std::vector<TextSplitter::Piece> pieces{};
     Result said{};
+    std::string texts{}; // one behind the other
+    struct Place {
+        std::size_t end; // of a text among them
+        std::uint64_t line;
+    };
+    std::vector<Place> places{};
+
+    void Add(const TextSplitter::Piece& piece) {
+        texts += piece.text;
+        places.push_back({texts.size(), piece.line});
+    }
+};
+
+// What is printed of a batch.
+struct Shown {
+    Result said;
+    LineWriter out;
 };
 
 class Stream {
@@ -33,10 +49,10 @@ class Stream {
     explicit Stream(const StreamOptions& options)
         : options_(options), jobs_(
                                  options.jobs, [this](const Batch& batch) { return ShowAll(batch); },
-                                 [this](Result& result) { return Print(result); }) {}
+                                 [this](Shown& shown) { return Print(shown); }) {}
 
     int Run(const std::vector<std::string>& files) {
-        jobs_.Give({{}, {}, {kDone, EventHead(options_.events), {}}});
+        jobs_.Give({{}, {kDone, EventHead(options_.events), {}}});
         for (const std::string& file : files)
             if (!Read(file)) break;
         jobs_.Finish();
@@ -78,17 +94,22 @@ class Stream {
             if (done == 0 && !BeginsWell(name, bytes)) return true;
             done += bytes.size();
             splitter.Feed(bytes);
-            Batch batch{name};
-            while (auto piece = splitter.Next())
-                batch.pieces.push_back(std::move(*piece));
-            if (!batch.pieces.empty() && !jobs_.Give(std::move(batch))) return false;
+            if (!GiveAll(name, [&] { return splitter.Next(); })) return false;
             const std::lock_guard lock(printing_);
             progress_->Reached(done);
         }
+        return GiveAll(name, [&] { return splitter.Rest(); });
+    }
+
+    // A few texts at a time: what is printed of them is still in the processor's caches when the system takes it.
+    template <class Next>
+    bool GiveAll(const std::string& name, const Next& next) {
         Batch batch{name};
-        while (auto piece = splitter.Rest())
-            batch.pieces.push_back(std::move(*piece));
-        return batch.pieces.empty() || jobs_.Give(std::move(batch));
+        while (const auto piece = next()) {
+            batch.Add(*piece);
+            if (batch.texts.size() >= kTogether && !jobs_.Give(std::exchange(batch, {name}))) return false;
+        }
+        return batch.places.empty() || jobs_.Give(std::move(batch));
     }
 
     // False for a file that holds no texts for devices.
@@ -97,7 +118,6 @@ class Stream {
         if (bytes.starts_with(kByteOrderMark)) {
             jobs_.Give(
                 {name,
-                 {},
                  {kDone,
                   {},
                   "orrery: note: " + shown + " begins with a byte order mark, which is skipped: devices send none\n"}});
@@ -105,66 +125,73 @@ class Stream {
         }
         const std::string_view encoding = ForeignEncoding(bytes);
         if (encoding.empty()) return true;
-        jobs_.Give({name, {}, {kRefused, {}, "orrery: " + shown + ": " + NotUtf8(encoding) + "\n"}});
+        jobs_.Give({name, {kRefused, {}, "orrery: " + shown + ": " + NotUtf8(encoding) + "\n"}});
         return false;
     }
 
     bool Complain(const std::string& name) {
         return jobs_.Give({name,
-                           {},
                            {kUsage,
                             {},
                             "orrery: can't read " + (name == "-" ? "standard input" : Printable(name)) + ": "
                                 + std::strerror(errno) + "\n"}});
     }
 
-    std::string TakeSpare() {
+    LineWriter TakeSpare() {
         const std::lock_guard lock(printing_);
         return std::exchange(spare_, {});
     }
 
-    Result ShowAll(const Batch& batch) {
+    Shown ShowAll(const Batch& batch) {
         try {
-            Result all = batch.said;
+            Shown all{batch.said, TakeSpare()};
             EventOptions options = options_.events;
             options.file = Printable(batch.file);
-            LineWriter out(TakeSpare());
-            for (const TextSplitter::Piece& piece : batch.pieces) {
-                options.line = piece.line;
-                const Result result = ShowEvents(piece.text, options, out);
-                all.exit = std::max(all.exit, result.exit);
-                all.err += result.err;
+            std::size_t begin = 0;
+            for (const Batch::Place& place : batch.places) {
+                options.line = place.line;
+                const std::string_view text = std::string_view(batch.texts).substr(begin, place.end - begin);
+                const Result result = ShowEvents(text, options, all.out);
+                all.said.exit = std::max(all.said.exit, result.exit);
+                all.said.err += result.err;
+                begin = place.end;
             }
-            if (!batch.pieces.empty()) all.out = Coloured(out.Take(), options);
+            if (IsColoured(options)) all.said.out += Coloured(all.out.Take(), options);
             return all;
         } catch (const std::bad_alloc&) {
-            return {kRefused, {}, "orrery: out of memory\n"};
+            return {{kRefused, {}, "orrery: out of memory\n"}, {}};
         }
     }
 
-    bool Print(Result& result) {
+    bool Print(Shown& shown) {
         const std::lock_guard lock(printing_);
-        if (progress_ && !result.err.empty()) progress_->Clear();
-        const bool isWritten = std::fwrite(result.out.data(), 1, result.out.size(), stdout) == result.out.size()
-                               && std::fflush(stdout) == 0;
+        const Result& said = shown.said;
+        if (progress_ && !said.err.empty()) progress_->Clear();
+        const bool isWritten = Write(said.out) && Write(shown.out.text()) && std::fflush(stdout) == 0;
         const int error = errno;
-        std::fputs(result.err.c_str(), stderr);
-        exit_ = std::max(exit_, result.exit);
-        spare_ = std::move(result.out);
+        std::fputs(said.err.c_str(), stderr);
+        exit_ = std::max(exit_, said.exit);
+        spare_ = std::move(shown.out);
+        spare_.Clear();
         if (isWritten) return true;
         std::fprintf(stderr, "orrery: can't write: %s\n", std::strerror(error));
         exit_ = std::max(exit_, kRefused);
         return false;
     }
 
-    static constexpr std::size_t kChunk = std::size_t{256} << 10;
+    static bool Write(std::string_view text) {
+        return text.empty() || std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    }
+
+    static constexpr std::size_t kChunk = std::size_t{64} << 10;
+    static constexpr std::size_t kTogether = std::size_t{16} << 10;
 
     const StreamOptions& options_;
     int exit_ = kDone;
     std::mutex printing_; // also of the bar
-    std::string spare_;   // what was printed: its memory is used again
+    LineWriter spare_;    // what was printed: its memory is used again
     std::optional<Progress> progress_;
-    Jobs<Batch, Result> jobs_; // its threads end before the rest
+    Jobs<Batch, Shown> jobs_; // its threads end before the rest
 };
 
 } // namespace

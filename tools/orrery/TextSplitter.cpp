@@ -2,7 +2,7 @@
 
 #include "orrery/Input.h"
 
-#include "frame/json/Value.h"
+#include "explain/TextBlock.h"
 
 #include <algorithm>
 #include <array>
@@ -60,7 +60,7 @@ bool MayFollow(std::string_view text) {
 } // namespace
 
 void TextSplitter::Restart() {
-    at_ = 0;
+    at_ = byBytes_ = 0;
     depth_ = 0;
     begun_ = isLine_ = inText_ = escaped_ = false;
 }
@@ -72,33 +72,55 @@ void TextSplitter::Feed(std::string_view bytes) {
 }
 
 TextSplitter::Piece TextSplitter::Cut(std::size_t end) {
-    Piece piece{buffer_.substr(begin_, end), line_};
-    for (std::size_t at = 0; (at = piece.text.find('\n', at)) != std::string::npos; ++at)
-        ++line_;
+    Piece piece{std::string_view(buffer_).substr(begin_, end), line_};
+    for (std::size_t at = 0; (at = piece.text.find('\n', at)) != std::string_view::npos; ++at)
+        ++line_; // a look for the next one is quick where there are few
     begin_ += end;
     Restart();
     while (!piece.text.empty() && IsBlank(piece.text.back()))
-        piece.text.pop_back();
+        piece.text.remove_suffix(1);
     return piece;
 }
 
-std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
-    if (!begun_ && !isLine_) {
-        while (begin_ < buffer_.size()) {
-            if (IsBlank(buffer_[begin_])) {
-                line_ += buffer_[begin_++] == '\n';
-            } else if (std::string_view(buffer_).substr(begin_).starts_with(kMark)) {
-                begin_ += kMark.size();
-            } else if (!isEnd && kMark.starts_with(std::string_view(buffer_).substr(begin_))) {
-                return std::nullopt;
-            } else {
-                break;
-            }
+// To the first byte of a text. False when it is not there yet.
+bool TextSplitter::Begin(bool isEnd) {
+    if (begun_ || isLine_) return true;
+    while (begin_ < buffer_.size()) {
+        if (IsBlank(buffer_[begin_])) {
+            line_ += buffer_[begin_++] == '\n';
+        } else if (std::string_view(buffer_).substr(begin_).starts_with(kMark)) {
+            begin_ += kMark.size();
+        } else if (!isEnd && kMark.starts_with(std::string_view(buffer_).substr(begin_))) {
+            return false;
+        } else {
+            break;
         }
-        if (begin_ == buffer_.size()) return std::nullopt;
-        begun_ = buffer_[begin_] == '{' || buffer_[begin_] == '[';
-        isLine_ = !begun_;
     }
+    if (begin_ == buffer_.size()) return false;
+    begun_ = buffer_[begin_] == '{' || buffer_[begin_] == '[';
+    isLine_ = !begun_;
+    return true;
+}
+
+// Over what neither ends the text nor could: 64 bytes at a time.
+void TextSplitter::SkipPlain([[maybe_unused]] std::string_view left) {
+#if ORRERY_SSE2
+    while (!inText_ && depth_ > 0 && at_ >= byBytes_ && left.size() - at_ >= explain::TextBlock::kSize) {
+        const explain::TextBlock block(left.data() + at_);
+        if (!block.isPlain(depth_) || block.hasNewlines()) {
+            byBytes_ = at_ + explain::TextBlock::kSize;
+            return;
+        }
+        depth_ += block.opens() - block.closes();
+        at_ += block.size();
+        inText_ = block.size() < explain::TextBlock::kSize;
+        at_ += inText_; // its quote
+    }
+#endif
+}
+
+std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
+    if (!Begin(isEnd)) return std::nullopt;
     const std::string_view left = std::string_view(buffer_).substr(begin_);
     if (isLine_) {
         const std::size_t end = left.find('\n', at_);
@@ -108,6 +130,7 @@ std::optional<TextSplitter::Piece> TextSplitter::Take(bool isEnd) {
         return std::nullopt;
     }
     for (; at_ < left.size(); ++at_) {
+        SkipPlain(left);
         if (!escaped_) at_ = NextTelling(left, at_, inText_);
         if (at_ == left.size()) break;
         const char c = left[at_];

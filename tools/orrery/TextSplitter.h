@@ -12,7 +12,7 @@ namespace orrery::tool {
 class TextSplitter {
   public:
     struct Piece {
-        std::string text;
+        std::string_view text;  // until more is fed
         std::uint64_t line = 1; // of the stream, at which it begins
     };
 
@@ -25,6 +25,8 @@ class TextSplitter {
 
   private:
     std::optional<Piece> Take(bool isEnd);
+    bool Begin(bool isEnd);
+    void SkipPlain(std::string_view left);
     Piece Cut(std::size_t end);
     void Restart();
 
@@ -33,6 +35,7 @@ class TextSplitter {
     std::uint64_t line_ = 1;
     // Of the text at the buffer's beginning: how far it was looked at, and what was open there.
     std::size_t at_ = 0;
+    std::size_t byBytes_ = 0; // up to here byte after byte
     std::size_t depth_ = 0;
     bool begun_ = false;  // with a bracket
     bool isLine_ = false; // with anything else: it ends with its line
