@@ -14,8 +14,10 @@
 #include "orrery/analyse_rules.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <new>
+#include <span>
 
 namespace orrery::explain {
 
@@ -25,8 +27,16 @@ using json::Value;
 namespace {
 
 // What stands around the value of any reply.
-const std::vector<std::string_view> kEnvelope = {"SID",    "error",  "id",  "method", "object",
-                                                 "params", "result", "seq", "session"};
+constexpr auto kEnvelope =
+    std::to_array<std::string_view>({"SID", "error", "id", "method", "object", "params", "result", "seq", "session"});
+// What stands around an event, and what functions of any look at beside its rows.
+constexpr auto kAroundEvents = std::to_array<std::string_view>({"Event", "EventList"});
+constexpr auto kAroundEvent = std::to_array<std::string_view>({"Action", "Code", "Data", "Index"});
+constexpr auto kInEvents = std::to_array<std::string_view>({"GroupID", "CountInGroup", "IndexInGroup"});
+constexpr auto kInRules = std::to_array<std::string_view>({"Type", "Id", "Class"});
+
+constexpr record::Name kActionRows[] = {{0, "Pulse"}, {1, "Start"}, {2, "Stop"}};
+constexpr record::NameTable kActions = record::FoldedNames(kActionRows).UnknownLeaves();
 
 class Text {
   public:
@@ -58,6 +68,7 @@ class Text {
     Explanation explanation_;
     Walk walk_;
     Path root_, params_, value_;
+    const Value* paramsValue_ = &json::kNull;
 };
 
 bool Text::Parse(bool isFatal) {
@@ -84,15 +95,15 @@ bool Text::Refuses(int kind, const Value& at, const Path& path, std::string mess
 
 const Path& Text::PathOf(Source source, const char* name) {
     params_ = root_.Member("params");
+    paramsValue_ = &document_.root["params"];
     switch (source) {
     case Source::Table:
         value_ = params_.Member("table");
         break;
-    case Source::Caps:
-        value_ = params_.Member("caps");
-        break;
     case Source::CapsOrParams:
-        if (document_.root["params"]["caps"].isNull()) return params_;
+        if ((*paramsValue_)["caps"].isNull()) return params_;
+        [[fallthrough]];
+    case Source::Caps:
         value_ = params_.Member("caps");
         break;
     case Source::Params:
@@ -111,31 +122,31 @@ const Path& Text::PathOf(Source source, const char* name) {
     return value_;
 }
 
-// Keys beside the value.
+// Keys beside the value, whose path was asked for.
 void Text::Around(Source source, const char* name) {
-    std::vector<std::string_view> known = kEnvelope;
-    if (source == Source::Top) known.push_back(name);
-    const bool hasCaps = !document_.root["params"]["caps"].isNull();
-    walk_.Around(document_.root, known, command_ == nullptr ? nullptr : command_->table, "", root_);
-    std::vector<std::string_view> inner;
+    std::array<std::string_view, kEnvelope.size() + 1> known;
+    std::ranges::copy(kEnvelope, known.begin());
+    if (source == Source::Top) known.back() = name;
+    const record::Table* const table = command_ == nullptr ? nullptr : command_->table;
+    walk_.Around(document_.root, std::span(known).first(kEnvelope.size() + (source == Source::Top)), table, "", root_);
+    std::string_view inner;
     switch (source) {
     case Source::Table:
-        inner = {"table"};
-        break;
-    case Source::Caps:
-        inner = {"caps"};
+        inner = "table";
         break;
     case Source::CapsOrParams:
-        if (!hasCaps) return;
-        inner = {"caps"};
+        if ((*paramsValue_)["caps"].isNull()) return;
+        [[fallthrough]];
+    case Source::Caps:
+        inner = "caps";
         break;
     case Source::Params:
-        inner = {name};
+        inner = name;
         break;
     default:
         break;
     }
-    walk_.Around(document_.root["params"], inner, command_ == nullptr ? nullptr : command_->table, "params/", params_);
+    walk_.Around(*paramsValue_, std::span(&inner, inner.empty() ? 0 : 1), table, "params/", params_);
 }
 
 // What the device itself says.
@@ -226,8 +237,7 @@ void Text::Reply() {
                 std::string("the reply is ") + TypeName(root) + ", not an object");
         return;
     }
-    if (!ResultPasses(frame.result, root["result"])) {
-        const Value& result = root["result"];
+    if (const Value& result = root["result"]; !ResultPasses(frame.result, result)) {
         Refuses(ORRERY_FINDING_REFUSED, result, root_.Member("result"),
                 (result.isNull() ? std::string("there is no \"result\"") : "\"result\" is " + Shown(result))
                     + "; the command wants " + ResultWanted(frame.result));
@@ -251,10 +261,8 @@ void Text::Reply() {
     const bool isEmptyList = !isTable && holds == Holds::Elements && value.size() == 0 && !frame.takesEmptyLists;
     if (value.isNull() || isEmptyList) {
         const bool isFatal = !isTable && frame.nullValue == NullValue::Fails;
-        const Value& params = root["params"];
-        const Value& nearest = !value.isNull()                                   ? value
-                               : frame.source != Source::Top && !params.isNull() ? params
-                                                                                 : root;
+        const bool isInParams = frame.source != Source::Top && !paramsValue_->isNull();
+        const Value& nearest = !value.isNull() ? value : isInParams ? *paramsValue_ : root;
         walk_.Add(ORRERY_FINDING_NO_VALUE, isFatal ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, nearest, path,
                   isEmptyList ? "the list is empty: no record" : "there is nothing here: no record is read");
         explanation_.isRefused = isFatal;
@@ -284,7 +292,7 @@ void Text::Rules() {
                                  : Shown(rules) + " where a list of rules is read: no rule is read");
         return;
     }
-    walk_.AlsoReads({"Type", "Id", "Class"});
+    walk_.AlsoReads(kInRules);
     std::uint32_t at = 0;
     for (const Value& rule : rules.elements()) {
         const Path inner = path.Element(at);
@@ -321,7 +329,7 @@ void Text::Events() {
     const char* const key = isSingle ? "Event" : "EventList";
     const Value& list = root[key];
     const Path path = root_.Member(key);
-    walk_.Around(root, {"Event", "EventList"}, nullptr, "", root_);
+    walk_.Around(root, kAroundEvents, nullptr, "", root_);
     if (list.type() != Type::Array) {
         walk_.Add(list.isNull() ? ORRERY_FINDING_NO_VALUE : ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST,
                   list.isNull() ? root : list, list.isNull() ? root_ : path,
@@ -329,8 +337,6 @@ void Text::Events() {
                                 : Shown(list) + " where a list of events is read: no event is read");
         return;
     }
-    static const record::Name kActionRows[] = {{0, "Pulse"}, {1, "Start"}, {2, "Stop"}};
-    const record::NameTable actions = record::FoldedNames(kActionRows).UnknownLeaves();
     std::vector<std::string_view> names;
     std::uint32_t at = 0;
     for (const Value& event : list.elements()) {
@@ -373,7 +379,7 @@ void Text::Events() {
             continue;
         }
         const Value& action = event["Action"];
-        if (!action.isNull() && actions.Find(action.asString()) == nullptr) {
+        if (!action.isNull() && kActions.Find(action.asString()) == nullptr) {
             walk_
                 .Add(ORRERY_FINDING_UNKNOWN_TEXT, ORRERY_FINDING_LOST, action, inner.Member("Action"),
                      Shown(action) + " is no action: the event acts as the one before; known are Pulse, Start, Stop")
@@ -384,8 +390,8 @@ void Text::Events() {
             passedOver(event, inner, "no event goes by what its \"Data\" names");
             continue;
         }
-        walk_.AlsoReads({"GroupID", "CountInGroup", "IndexInGroup"});
-        walk_.Around(event, {"Action", "Code", "Data", "Index"}, row->table, "", inner);
+        walk_.AlsoReads(kInEvents);
+        walk_.Around(event, kAroundEvent, row->table, "", inner);
         // Functions of an event look at all of it, from whatever row.
         walk_.SetAlways(true);
         walk_.Top(*row->table, data, inner.Member("Data"), {}, false);

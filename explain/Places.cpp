@@ -39,16 +39,17 @@ Skimmed Skim(std::string_view text) noexcept {
     [[maybe_unused]] const char* byBytes = p; // up to here byte after byte
     while (p != end) {
 #if ORRERY_SSE2
-        while (depth > 0 && p >= byBytes && static_cast<std::size_t>(end - p) >= TextBlock::kSize) {
-            const TextBlock block(p);
+        using Block = TextBlock<false>;
+        while (depth > 0 && p >= byBytes && static_cast<std::size_t>(end - p) >= Block::kSize) {
+            const Block block(p);
             if (!block.isPlain(depth) || block.hasSlashes()) { // what may be a comment is looked at byte by byte
-                byBytes = p + TextBlock::kSize;
+                byBytes = p + Block::kSize;
                 break;
             }
-            depth += block.opens() - block.closes();
-            skimmed.members += block.colons();
+            depth += block.opens - block.closes;
+            skimmed.members += block.colons;
             p += block.size();
-            if (block.size() < TextBlock::kSize) p = BehindString(p + 1, end);
+            if (block.size() < Block::kSize) p = BehindString(p + 1, end);
         }
         if (p == end) break;
 #endif

@@ -37,18 +37,19 @@ class Ranges {
         met_.clear();
         // At the most half of the slots are taken, so that a look for what has none ends soon.
         slots_.resize(std::bit_ceil(2 * ranges_.size() + 1));
+        mask_ = slots_.size() - 1;
         for (const auto& [field, range] : ranges_) {
             std::size_t at = PlaceOf(field);
-            while (slots_[at % slots_.size()].field != nullptr)
-                ++at;
-            slots_[at % slots_.size()] = {field, range};
+            while (slots_[at].field != nullptr)
+                at = Behind(at);
+            slots_[at] = {field, range};
         }
         ranges_.clear();
     }
 
     const Range* Find(const Field& field) const {
-        for (std::size_t at = PlaceOf(&field);; ++at) {
-            const Slot& slot = slots_[at % slots_.size()];
+        for (std::size_t at = PlaceOf(&field);; at = Behind(at)) {
+            const Slot& slot = slots_[at];
             if (slot.field == &field || slot.field == nullptr) return slot.field == nullptr ? nullptr : &slot.range;
         }
     }
@@ -72,18 +73,20 @@ class Ranges {
         Range range{};
     };
     std::size_t PlaceOf(const Field* field) const {
-        return (reinterpret_cast<std::uintptr_t>(field) / alignof(Field) * 0x9E3779B97F4A7C15u >> 32) % slots_.size();
+        return (reinterpret_cast<std::uintptr_t>(field) / alignof(Field) * 0x9E3779B97F4A7C15u >> 32) & mask_;
     }
+    std::size_t Behind(std::size_t place) const { return (place + 1) & mask_; }
 
     std::unordered_set<const Table*> met_;
     std::vector<std::pair<const Field*, Range>> ranges_;
-    std::vector<Slot> slots_;
+    std::vector<Slot> slots_; // a power of two
+    std::size_t mask_ = 0;
 };
 
 } // namespace
 
 const Range* RangeOf(const Field& field) {
-    static const Ranges ranges;
+    static const Ranges ranges; // at first use: where rows lie, no compiler knows
     return ranges.Find(field);
 }
 

@@ -20,6 +20,8 @@ inline const char* BehindString(const char* p, const char* end) noexcept {
 }
 
 #if ORRERY_SSE2
+// `Newlines`: they are looked for too.
+template <bool Newlines>
 class TextBlock {
   public:
     static constexpr std::size_t kSize = 64;
@@ -40,39 +42,45 @@ class TextBlock {
             take(escapes_, bytes, '\\');
             take(colons_, bytes, ':');
             take(slashes_, bytes, '/');
-            take(newlines_, bytes, '\n');
+            if constexpr (Newlines) take(newlines_, bytes, '\n');
             take(opens_, folded, '{');
             take(closes_, folded, '}');
         }
         std::uint64_t inside = quotes_; // and the quotes that open: an odd number of quotes up to here
         for (unsigned shift = 1; shift < kSize; shift *= 2)
             inside ^= inside << shift;
-        if (std::popcount(quotes_) % 2 != 0) { // the last string goes on behind the block
+        if (inside >> (kSize - 1) != 0) { // the last string goes on behind the block
             last_ = kSize - 1 - static_cast<unsigned>(std::countl_zero(quotes_));
             known_ = (std::uint64_t{1} << last_) - 1;
         }
-        outside_ = ~inside & known_;
+        const std::uint64_t outside = ~inside & known_;
+        slashes_ &= outside;
+        opens = Count(opens_ & outside);
+        closes = Count(closes_ & outside);
+        colons = Count(colons_ & outside);
     }
 
+    // Outside of strings.
+    std::size_t opens, closes, colons;
+
     // No escapes, and no end of what is open.
-    bool isPlain(std::size_t depth) const noexcept { return (escapes_ & known_) == 0 && closes() < depth; }
-    bool hasSlashes() const noexcept { return (slashes_ & outside_) != 0; }
+    bool isPlain(std::size_t depth) const noexcept { return (escapes_ & known_) == 0 && closes < depth; }
+    bool hasSlashes() const noexcept { return slashes_ != 0; }
     // Inside of strings too.
     bool hasNewlines() const noexcept { return (newlines_ & known_) != 0; }
-    std::size_t opens() const noexcept { return Count(opens_ & outside_); }
-    std::size_t closes() const noexcept { return Count(closes_ & outside_); }
-    std::size_t colons() const noexcept { return Count(colons_ & outside_); }
     // How far it tells: kSize, or up to the quote of the string that reaches over its end.
     std::size_t size() const noexcept { return last_; }
 
   private:
-    // Most blocks have none, and few processors' compilers may count by an instruction.
+    // Without the instruction, which not every processor has.
     static std::size_t Count(std::uint64_t bits) noexcept {
-        return bits == 0 ? 0 : static_cast<std::size_t>(std::popcount(bits));
+        bits -= bits >> 1 & 0x5555555555555555u;
+        bits = (bits & 0x3333333333333333u) + (bits >> 2 & 0x3333333333333333u);
+        return static_cast<std::size_t>(((bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0Fu) * 0x0101010101010101u >> 56);
     }
 
     std::uint64_t quotes_ = 0, escapes_ = 0, colons_ = 0, slashes_ = 0, newlines_ = 0, opens_ = 0, closes_ = 0;
-    std::uint64_t known_ = ~std::uint64_t{0}, outside_ = 0;
+    std::uint64_t known_ = ~std::uint64_t{0};
     std::size_t last_ = kSize;
 };
 #endif

@@ -216,13 +216,18 @@ void Walk::Nodes(const Table& table, NodeRange range, const Value& object, const
         const std::uint64_t prefix = json::KeyPrefix(member);
         const auto order = [&](const record::Node& each) {
             if (each.prefix != prefix) return each.prefix < prefix ? -1 : 1;
+            if (each.keySize == member.keySize && member.keySize <= sizeof prefix) return 0; // it is all of the key
             return json::CompareKeys(table.keyOf(each), member.key());
         };
-        while (node != end && order(*node) < 0)
+        int is = -1;
+        while (node != end && (is = order(*node)) < 0)
             ++node;
         const record::Node* const first = node;
-        while (node != end && order(*node) == 0)
-            ++node;
+        if (node != end && is == 0) {
+            do
+                ++node;
+            while (node != end && order(*node) == 0);
+        }
         if (first == node) {
             if (reportsUnknown && !IsReadBeside(object, member)) Unknown(table, range, member, path);
             continue;
@@ -314,7 +319,10 @@ void Walk::Shared(const Table& table, const record::Node* first, const record::N
 }
 
 void Walk::Node(const Table& table, const record::Node& node, const Value& value, const Path& path) {
-    if (node.childCount == 0) return Row({table, table.rows[node.row], path}, value);
+    if (node.childCount == 0) {
+        if (!IsPlainlyRead(table, node, value)) Row({table, table.rows[node.row], path}, value);
+        return;
+    }
     if (value.type() == Type::Object)
         return Nodes(table, {node.firstChild, node.childCount, node.childLastAbsent}, value, path, true);
     if (value.isNull())
@@ -380,13 +388,13 @@ void Walk::FromRoot(const Table& table, const Value& root, const Path& path) {
     }
 }
 
-void Walk::Around(const Value& object, const std::vector<std::string_view>& known, const Table* table,
+void Walk::Around(const Value& object, std::span<const std::string_view> known, const Table* table,
                   std::string_view prefix, const Path& path) {
     std::vector<std::string_view> keys;
     for (const json::Member& member : object.members()) {
         if (std::find(known.begin(), known.end(), member.key()) != known.end()) continue;
         if (keys.empty()) {
-            keys = known;
+            keys.assign(known.begin(), known.end());
             if (table != nullptr) RootKeys(*table, prefix, keys);
         }
         if (std::find(keys.begin(), keys.end(), member.key()) != keys.end()) continue;

@@ -5,6 +5,7 @@
 
 #include "frame/Document.h"
 
+#include <span>
 #include <vector>
 
 namespace orrery::explain {
@@ -26,15 +27,15 @@ class Walk {
     void FromRoot(const record::Table& table, const json::Value& root, const Path& path);
     // Reports members of an object that stand outside all records: those that are neither among `known` nor keys of
     // `table` that start at the document, below the object of its own `prefix` ("params/").
-    void Around(const json::Value& object, const std::vector<std::string_view>& known, const record::Table* table,
+    void Around(const json::Value& object, std::span<const std::string_view> known, const record::Table* table,
                 std::string_view prefix, const Path& path);
 
     Finding& Add(int kind, int gravity, const json::Value& value, const Path& path, std::string message);
 
     // An object's keys that its table reads only by functions, beside its rows: found by trying.
     void SetAlways(bool tries) { triesAll_ = tries; }
-    // Keys that are read although no row of the record's own object says so.
-    void AlsoReads(std::vector<std::string_view> keys) { also_ = std::move(keys); }
+    // Keys that are read although no row of the record's own object says so. They outlive the walk.
+    void AlsoReads(std::span<const std::string_view> keys) { also_ = keys; }
 
   private:
     // Nodes of one key that read one object together: what another of them reads is no unknown key.
@@ -64,6 +65,8 @@ class Walk {
     void Shared(const record::Table& table, const record::Node* first, const record::Node* end,
                 const json::Value& value, const Path& path);
     void Node(const record::Table& table, const record::Node& node, const json::Value& value, const Path& path);
+    // Whether a value is just what a row wants whose words say nothing of reading: nearly all are.
+    bool IsPlainlyRead(const record::Table& table, const record::Node& node, const json::Value& value);
     Finding& UnknownKey(const json::Member& member, const Path& path, std::string field, bool isTried);
     void Unknown(const record::Table& table, record::NodeRange range, const json::Member& member, const Path& path);
     void Row(const Site& site, const json::Value& value);
@@ -87,7 +90,7 @@ class Walk {
 
     Document& document_;
     std::vector<Finding>& findings_;
-    std::vector<std::string_view> also_;
+    std::span<const std::string_view> also_;
     Sharing sharing_;
     const record::Table* groupRules_ = nullptr; // what the rules of the group that is walked are read by
     bool triesAll_ = false;

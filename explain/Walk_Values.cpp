@@ -36,6 +36,33 @@ unsigned Bits(Cell cell) {
 
 } // namespace
 
+bool Walk::IsPlainlyRead(const Table& table, const record::Node& node, const Value& value) {
+    switch (node.readPlainly) {
+    case Plainly::Switch:
+        return value.isBool();
+    case Plainly::Integer:
+        if (node.kind == Kind::Bool) return value.isBool();
+        if (value.asInt() < 0 || value.asInt() > INT8_MAX) return false; // not in every member
+        [[fallthrough]];
+    case Plainly::Number: {
+        if (!value.isInt()) return false;
+        const Range* const range = RangeOf(table.rows[node.row]);
+        return range == nullptr || (value.asInt() >= range->low && value.asInt() <= range->high);
+    }
+    case Plainly::Local:
+    case Plainly::Raw: {
+        if (!value.isString()) return false;
+        const std::string_view text = value.asString();
+        return text.size() < node.elementSize && text.find('\0') == std::string_view::npos
+               && (node.readPlainly == Plainly::Raw || text.empty() || document_.text.isCopyOf(text));
+    }
+    case Plainly::Named:
+        return value.isString() && table.rows[node.row].names->Find(value.asString()) != nullptr;
+    default:
+        return false;
+    }
+}
+
 void Walk::Number(const Site& site, const Value& value) {
     const Field& field = site.field;
     const bool isReal = field.cell == Cell::F32 || field.cell == Cell::F64;

@@ -1,6 +1,7 @@
 // The texts of a stream, however they are laid out and however their bytes arrive.
 #include "orrery/TextSplitter.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>
@@ -54,6 +55,43 @@ TEST(TextSplitter, LooksAnewBehindATextThatNeverEnds) {
 TEST(TextSplitter, TakesALineOfAnythingElseAsAText) {
     const Pieces expected = {{"no text", 1}, {"{\"a\":1}", 3}, {"]", 3}, {"17", 4}};
     EXPECT_EQ(Split("no text\n\n{\"a\":1}]\n17"), expected);
+}
+
+// Long texts are looked at in blocks, which must not change what they are.
+TEST(TextSplitter, SplitsLongTextsAsByteByByte) {
+    const std::string filler = R"("name":"a text of some length, with ] and } in it","list":[1,2,3,[4,5,{"x":"}"}]],)";
+    const std::string escaped = R"("quote":"behind \"quotes\" { and \\","slash":"\\",)";
+    std::vector<std::string> texts;
+    for (std::size_t shift = 0; shift < 70; ++shift) {
+        const std::string blank(shift, ' ');
+        texts.push_back("{" + blank + filler + filler + R"("end":1})");
+        texts.push_back("{" + filler + blank + escaped + filler + R"("end":[]})");
+        texts.push_back("{" + blank + filler + "\n" + filler + R"("end":{}})");
+        texts.push_back("[" + blank + R"({"a":[[[[1]]]]},")" + std::string(shift * 3, '[') + R"("])");
+    }
+    std::string stream;
+    Pieces expected;
+    std::uint64_t line = 1;
+    for (const std::string& text : texts) {
+        stream += text + "\n";
+        expected.emplace_back(text, line);
+        line += 1 + static_cast<std::uint64_t>(std::count(text.begin(), text.end(), '\n'));
+    }
+    EXPECT_EQ(Split(stream), expected);
+    EXPECT_EQ(Split(stream, 1), expected);
+    EXPECT_EQ(Split(stream, 77), expected);
+}
+
+// One that is cut off is given up where the next begins, wherever in a block that is.
+TEST(TextSplitter, GivesUpLongTextsThatAreCutOff) {
+    const std::string whole =
+        R"({"a":"0123456789012345678901234567890123456789","b":[1,2,3,{"c":"more text behind it"}]})";
+    for (std::size_t size = 1; size < whole.size(); ++size) {
+        const std::string cut = whole.substr(0, size);
+        if (cut.back() == ',' || cut.back() == ':' || cut.back() == '[') continue; // a value may follow
+        const Pieces expected = {{cut, 1}, {whole, 2}};
+        EXPECT_EQ(Split(cut + "\n" + whole + "\n"), expected);
+    }
 }
 
 TEST(TextSplitter, HandsOutATextAsSoonAsItIsThere) {

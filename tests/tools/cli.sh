@@ -173,6 +173,19 @@ assert (found["path"], found["kind"], found["nearest"]) == ("stuServers[1].nPrt"
 input='{"nPort":"x","nPrt":1}' run 1 pack NTP --warn
 no_out
 
+# What is given without its count: a line for people, an object with its place for programs.
+input='{"nPort":5,
+  "stuServers":[{"nPort":1}]}' run 0 pack NTP
+err_has 'orrery: note: stuServers is given without its count nServerNum'
+input='{"nPort":5,
+  "stuServers":[{"nPort":1}]}' run 0 pack NTP --json
+python3 -c 'import json, sys
+found = [json.loads(line) for line in open(sys.argv[1])]
+assert [(each["line"], each["column"], each["gravity"], each["path"]) for each in found] == [
+    (2, 16, "note", "stuServers")], found
+assert found[0]["message"] == "is given without its count nServerNum", found' \
+    "$scratch/err" || fail "said: $(cat "$scratch/err")"
+
 # What of a text is passed over.
 run 0 check Alarm "$reply" --records 1
 no_out
@@ -186,6 +199,38 @@ python3 -c 'import json, sys
 found = json.load(open(sys.argv[1]))
 assert (found["line"], found["column"], found["kind"], found["nearest"]) == (1, 35, "unknown-key", "Port"), found' \
     "$scratch/out" || fail "printed: $(cat "$scratch/out")"
+# The same as rows, in part, of several files at a time.
+bad='{"result":true,"params":{"table":{"Port":"123","Prot":1}}}'
+printf '%s' "$bad" >"$scratch/bad1.json"
+printf '{"result":true,"params":{"table":{"Port":5}}}' >"$scratch/good.json"
+printf '%s' "$bad" >"$scratch/bad2.json"
+for jobs in 1 3; do
+    run 3 check NTP --jobs $jobs --format csv --fields file,line,kind,path "$scratch"/{bad1,good,bad2}.json
+    out_is "file,line,kind,path
+$scratch/bad1.json,1,wrong-type,params.table.Port
+$scratch/bad1.json,1,unknown-key,params.table.Prot
+$scratch/bad2.json,1,wrong-type,params.table.Port
+$scratch/bad2.json,1,unknown-key,params.table.Prot
+"
+done
+input=$bad run 3 check NTP --filter kind=unknown-key
+out_is '-:1:48: lost: params.table.Prot (CFG_NTP_INFO): nothing reads this key; the nearest that is read is "Port" [unknown-key]
+'
+input=$bad run 3 check NTP --filter 'path~port' --format jsonl --fields kind,nearest,column
+out_is '{ "kind": "wrong-type", "nearest": null, "column": 42 }
+'
+input=$bad run 3 check NTP --format table --filter 'column>42'
+out_has 'unknown-key'
+input=$bad run 0 check NTP --filter gravity=refused
+no_out
+input=$bad run 2 check NTP --filter kinds=unknown-key
+err_has 'no member "kinds" of a finding; there are file, line,'
+input=$bad run 2 check NTP --fields kind
+err_has 'name a --format'
+run 2 check NTP "$scratch/bad1.json" "$scratch/none.json" "$scratch/bad2.json"
+[ "$(wc -l <"$scratch/out")" = 4 ] || fail "printed: $(cat "$scratch/out")"
+err_has 'none.json'
+
 input='{"result":true,"params":{"table":{"TCPPort":37777,"SSLPort":443,"StreamPolicy":"None"}}}' run 0 check
 err_has 'checked as DVRIP: '
 input='{"result":true' run 1 check

@@ -58,23 +58,23 @@ int Arguments::Run() {
     }
 }
 
-void Arguments::AddShape(CLI::App& command, std::vector<std::string>& fields, unsigned& jobs, const char* row) {
+void Arguments::AddShape(CLI::App& command, std::vector<std::string>& fields, const Shape& shape) {
+    const std::string where = std::string(" (") + shape.commands + ")";
     command
         .add_option("--format", format_,
-                    std::string("jsonl: an object a line; pretty: over several lines; csv, table: a row ") + row
-                        + " ('parse', 'events')")
+                    "jsonl: an object a line; pretty: " + std::string(shape.pretty) + "; csv, table: a row " + shape.row
+                        + where)
         ->check(CLI::IsMember({"jsonl", "pretty", "csv", "table"}));
-    command
-        .add_option("--fields", fields,
-                    "Print these members of the records only: nEventID,stuObject.nObjectID ('parse', 'events')")
+    command.add_option("--fields", fields, "Print these " + std::string(shape.fields) + where)
         ->delimiter(',')
         ->allow_extra_args(false);
     command
         .add_option("--filter", filters_,
-                    "Print what passes only: name=AccessControl, nSpeed>60, stuObject.szObjectType~car; all of several "
-                    "('parse', 'events')")
+                    "Print what passes only: " + std::string(shape.filters) + "; all of several" + where)
         ->allow_extra_args(false);
-    command.add_option("--jobs", jobs, "Work on so many texts at a time; their order is kept ('parse', 'events')")
+    command
+        .add_option("--jobs", jobs_,
+                    "Work on so many texts at a time; their order is kept ('parse', 'check', 'events')")
         ->check(CLI::Range(1, 64));
 }
 
@@ -101,7 +101,7 @@ void Arguments::AddParse() {
     parse->add_flag("--table", isTable_, "The text is the bare value, without the reply around it");
     parse->add_flag("--all", options.all, "Print lists whole, also what is not in use");
     parse->add_flag("--brief", options.brief, "Print what the reply told, and not the zeros around it");
-    AddShape(*parse, options.fields, parse_.jobs, "a record, which wants --fields");
+    AddShape(*parse, options.fields, {"a record, which wants --fields"});
     parse->add_flag("--pack", options.pack, "Print also the text that packing the record gives");
     parse->add_option("--start", startFile_, "Record that the buffer holds before, for commands that look at it");
     parse->add_flag("--warn,!--no-warn", warns_, "Tell what of the reply is passed over (on by default on a terminal)");
@@ -124,6 +124,7 @@ int Arguments::RunParse() {
         throw std::invalid_argument("--format " + format_ + ": --fields tells which members are columns");
     if (options.pack && !isPlain)
         throw std::invalid_argument("--pack prints records whole: no --format, --fields or --filter goes with it");
+    parse_.jobs = jobs_;
     parse_.check.records = options.records;
     parse_.check.table = isTable_;
     parse_.warn = warns_;
@@ -166,7 +167,10 @@ void Arguments::AddCheck() {
         "check", "Tell what of a device's replies is passed over or refused, a line a finding\n"
                  "orrery check [COMMAND | events] FILE...: without a name, as the command that fits each text best");
     check->add_option("FILES", files_, "The name, if any, and the replies; standard input by default");
-    check->add_flag("--json", check_.json, "An object a line, for programs");
+    check->add_flag("--json", isJson_, "The same as --format jsonl: an object a line, for programs");
+    AddShape(*check, check_.fields,
+             {"a finding", "a line for people", "members of a finding only: file,line,path,kind,message",
+              "gravity=lost, kind=unknown-key, path~Port", "'check'"});
     check->add_flag("--table", isTable_, "The texts are bare values, without the reply around them");
     check->add_option("--records", check_.records, "Room for so many records (as many as the reply holds)");
     check->callback([this] { run_ = [this] { return RunCheck(); }; });
@@ -183,19 +187,14 @@ int Arguments::RunCheck() {
         std::fputs("orrery: --table: a bare value tells no command; name the one that it is of\n", stderr);
         return kUsage;
     }
-    int exit = kDone;
-    for (const std::string& each : files_) {
-        std::string text;
-        if (!Read(each, text)) {
-            exit = kUsage;
-            continue;
-        }
-        Result result = CheckText(name_, each, text, check_);
-        if (!check_.json && UsesColour(colour_, kOutput)) result.out = ColouredFindings(result.out);
-        const int shown = PrintResult(result);
-        exit = WorseExit(exit, shown);
-    }
-    return exit;
+    check_.format = isJson_ ? Format::Lines : FormatOf(Format::Pretty);
+    check_.filters = FiltersGiven();
+    check_.width = TerminalWidth(kOutput);
+    if (check_.format == Format::Pretty && !check_.fields.empty())
+        throw std::invalid_argument("--fields: a line for people tells all; name a --format");
+    RefuseUnknownMembers(check_);
+    const bool isColoured = check_.format == Format::Pretty && UsesColour(colour_, kOutput);
+    return CheckFiles(name_, files_, check_, jobs_, isColoured);
 }
 
 void Arguments::AddEvents() {
@@ -203,7 +202,7 @@ void Arguments::AddEvents() {
     CLI::App* const events = app_.add_subcommand(
         "events", "Print the analyzer events of a text, and what else its keys tell, as records, in JSON, a line each");
     events->add_option("FILES", files_, "Texts, one a line or one behind the other; standard input by default");
-    AddShape(*events, options.fields, stream_.jobs, "an event");
+    AddShape(*events, options.fields, {"an event"});
     events->add_flag("--pretty", isPretty_, "The same as --format pretty");
     events->add_flag("--all", options.all, "Print lists whole, also what is not in use");
     events->add_flag("--brief", options.brief, "Print what the text told, and not the zeros around it");
@@ -218,6 +217,7 @@ int Arguments::RunEvents() {
     options.format = FormatOf(Format::Lines);
     options.colour = UsesColour(colour_, kOutput);
     options.width = TerminalWidth(kOutput);
+    stream_.jobs = jobs_;
     stream_.progress = !IsTerminal(kOutput);
     return StreamEvents(files_, stream_);
 }

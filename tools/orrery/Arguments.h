@@ -39,8 +39,15 @@ class Arguments {
     int RunPack();
     int RunCheck();
     int RunEvents();
-    // What 'parse' and 'events' share.
-    void AddShape(CLI::App& command, std::vector<std::string>& fields, unsigned& jobs, const char* row);
+    // What 'parse', 'check' and 'events' share: how much is printed, and in which form.
+    struct Shape {
+        const char* row;
+        const char* pretty = "over several lines";
+        const char* fields = "members of the records only: nEventID,stuObject.nObjectID";
+        const char* filters = "name=AccessControl, nSpeed>60, stuObject.szObjectType~car";
+        const char* commands = "'parse', 'events'";
+    };
+    void AddShape(CLI::App& command, std::vector<std::string>& fields, const Shape& shape);
     Format FormatOf(Format usual) const;
     std::vector<Filter> FiltersGiven() const;
 
@@ -57,6 +64,7 @@ class Arguments {
     std::vector<std::string> filters_;
     std::string format_, colour_ = "auto";
     std::uint32_t request_ = 1;
+    unsigned jobs_ = 1;
     bool warns_, isStrict_ = false, isPretty_ = false, isJson_ = false, isTable_ = false, isRequest_ = false;
     bool listsEvents_ = false, listsRules_ = false, listsTemplates_ = false;
 };

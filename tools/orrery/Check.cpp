@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <exception>
+#include <optional>
+#include <stdexcept>
 #include <vector>
 
 namespace orrery::tool {
@@ -27,8 +29,12 @@ struct Told {
     std::exception_ptr failure{};
 };
 
+constexpr const char* kGravity[] = {"", "note", "lost", "refused"};
+// What a finding tells, in this order; the last two where there is something to tell.
+constexpr std::string_view kMembers[] = {"file",    "line", "column", "offset",  "length",  "kind",
+                                         "gravity", "path", "field",  "message", "nearest", "lost"};
+
 std::string FindingLine(const ORRERY_FINDING& finding, std::string_view file) {
-    static const char* const kGravity[] = {"", "note", "lost", "refused"};
     std::string line(file);
     line += ':' + std::to_string(finding.nLine) + ':' + std::to_string(finding.nColumn) + ": "
             + kGravity[finding.nGravity] + ": ";
@@ -46,8 +52,7 @@ Node Utf8(std::string_view text) {
     return Node::Text(IsUtf8(text) ? std::string(text) : Printable(text));
 }
 
-std::string FindingObject(const ORRERY_FINDING& finding, std::string_view file) {
-    static const char* const kGravity[] = {"", "note", "lost", "refused"};
+Node FindingNode(const ORRERY_FINDING& finding, std::string_view file) {
     Node node = Node::Object();
     node.Add("file", Utf8(file))
         .Add("line", Node::Unsigned(finding.nLine))
@@ -61,7 +66,29 @@ std::string FindingObject(const ORRERY_FINDING& finding, std::string_view file) 
         .Add("message", Utf8(finding.szMessage));
     if (finding.szNearest[0] != '\0') node.Add("nearest", Utf8(finding.szNearest));
     if (finding.nLost != 0) node.Add("lost", Node::Unsigned(finding.nLost));
-    return node.PrintLine();
+    return node;
+}
+
+// Empty for a finding that a filter keeps back.
+std::string ShownFinding(const ORRERY_FINDING& finding, std::string_view file, const CheckOptions& options) {
+    const bool isForPeople = options.format == Format::Pretty;
+    if (isForPeople && options.filters.empty()) return FindingLine(finding, file);
+    const Node node = FindingNode(finding, file);
+    const auto takes = [&](const Filter& filter) { return filter.Takes(node.Find(filter.path())); };
+    if (!std::ranges::all_of(options.filters, takes)) return {};
+    if (isForPeople) return FindingLine(finding, file);
+    const auto member = [&](const std::string& name) {
+        const Node* const found = node.Find(name);
+        return found == nullptr ? std::nullopt : std::optional(*found);
+    };
+    if (IsRows(options.format))
+        return Row(options.format, options.width, ColumnsOf(options),
+                   [&](const std::string& column) { return CellOf(member(column)); });
+    if (options.fields.empty()) return node.PrintLine();
+    Node some = Node::Object();
+    for (const std::string& field : options.fields)
+        some.Add(field, member(field).value_or(Node::Null()));
+    return some.PrintLine();
 }
 
 std::int32_t Tell(const ORRERY_FINDING* finding, void* user) noexcept {
@@ -70,7 +97,7 @@ std::int32_t Tell(const ORRERY_FINDING* finding, void* user) noexcept {
         ORRERY_FINDING own = *finding;
         own.nOffset -= std::min<std::uint64_t>(own.nOffset, told.before);
         if (own.nLine == 1) own.nColumn -= std::min(own.nColumn - 1, static_cast<std::uint32_t>(told.before));
-        told.out += told.options.json ? FindingObject(own, told.file) : FindingLine(own, told.file);
+        told.out += ShownFinding(own, told.file, told.options);
         return 1;
     } catch (...) {
         told.failure = std::current_exception();
@@ -102,7 +129,7 @@ std::string Keys(std::uint32_t count, const char* what) {
 } // namespace
 
 std::string FindingLines(const std::vector<explain::Finding>& findings, std::string_view file, std::string_view text,
-                         bool isJson) {
+                         const CheckOptions& options) {
     std::string lines;
     for (const explain::Finding& found : findings) {
         ORRERY_FINDING finding{};
@@ -124,9 +151,27 @@ std::string FindingLines(const std::vector<explain::Finding>& findings, std::str
         finding.szField = found.field.c_str();
         finding.szMessage = found.message.c_str();
         finding.szNearest = found.nearest.c_str();
-        lines += isJson ? FindingObject(finding, file) : FindingLine(finding, file);
+        lines += ShownFinding(finding, file, options);
     }
     return lines;
+}
+
+std::vector<std::string> ColumnsOf(const CheckOptions& options) {
+    if (!options.fields.empty()) return options.fields;
+    return {"file", "line", "column", "gravity", "kind", "path", "field", "message"};
+}
+
+void RefuseUnknownMembers(const CheckOptions& options) {
+    std::vector<std::string> named = options.fields;
+    for (const Filter& filter : options.filters)
+        named.push_back(filter.path());
+    for (const std::string& name : named) {
+        if (std::ranges::find(kMembers, name) != std::end(kMembers)) continue;
+        std::string known;
+        for (const std::string_view member : kMembers)
+            known.append(known.empty() ? "" : ", ").append(member);
+        throw std::invalid_argument("no member " + Printable(Quoted(name)) + " of a finding; there are " + known);
+    }
 }
 
 bool IsChecked(std::string_view command) {
@@ -182,7 +227,7 @@ Result CheckText(std::string_view command, std::string_view file, std::string_vi
     }
     if (count < 0) return {kRefused, {}, "orrery: out of memory\n"};
     result.out = std::move(told.out);
-    result.exit = count > 0 ? kFound : kDone;
+    result.exit = result.out.empty() ? kDone : kFound;
     return result;
 }
 

@@ -398,22 +398,28 @@ void FillRecord(const Table& table, const Value& value, std::byte* record, Memor
     FillFields(table, value, record, memory, path);
 }
 
-std::vector<std::string> PassedOver(const Table& table, const Value& value, const std::string& path) {
-    std::vector<std::string> notes;
+std::vector<explain::Finding> PassedOver(const Table& table, const Value& value, const std::string& path) {
+    std::vector<explain::Finding> notes;
     const auto isGiven = [&](const Slot& slot) { return !value[SlotName(table, slot)].isNull(); };
     for (const Field& field : table) {
         const Value& given = value[field.name];
         if (!IsStored(field) || given.isNull()) continue;
         const std::string place = (path.empty() ? std::string() : path + ".") + field.name;
         const bool isEmpty = given.type() == Type::Array && given.size() == 0;
-        if (field.count.exists() && !isGiven(field.count) && !isEmpty)
-            notes.push_back(place + " is given without its count " + SlotName(table, field.count));
-        if (field.writable && field.flag.exists() && !isGiven(field.flag) && !isEmpty)
-            notes.push_back(place + " is given without its flag " + SlotName(table, field.flag));
+        const auto without = [&](const char* what, const Slot& slot) {
+            explain::Finding& note = notes.emplace_back();
+            note.kind = ORRERY_FINDING_WRITES_NOTHING;
+            note.gravity = ORRERY_FINDING_NOTE;
+            note.at = &given;
+            note.path = place;
+            note.field = explain::FieldName(table, field);
+            note.message = std::string("is given without its ") + what + " " + SlotName(table, slot);
+        };
+        if (field.count.exists() && !isGiven(field.count) && !isEmpty) without("count", field.count);
+        if (field.writable && field.flag.exists() && !isGiven(field.flag) && !isEmpty) without("flag", field.flag);
         if (field.table == nullptr || (field.cell == Cell::Pointer && ItemsBehind(table) != nullptr)) continue;
         const auto inside = [&](const Value& record, const std::string& where) {
-            const auto more = PassedOver(*field.table, record, where);
-            notes.insert(notes.end(), more.begin(), more.end());
+            std::ranges::move(PassedOver(*field.table, record, where), std::back_inserter(notes));
         };
         if (field.rank == 0 && field.cell == Cell::Record) inside(given, place);
         if (field.rank != 1 && field.cell != Cell::Pointer) continue;

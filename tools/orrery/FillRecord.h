@@ -41,9 +41,10 @@ class Memory {
 void FillRecord(const record::Table& table, const json::Value& value, std::byte* record, Memory& memory,
                 const std::string& path = {});
 
-// Fields of a value that packing will pass over, because the count or the flag that they need is not given: a line
-// each, as for a person who wrote the value. The value must have passed FillRecord.
-std::vector<std::string> PassedOver(const record::Table& table, const json::Value& value, const std::string& path = {});
+// Fields of a value that packing will pass over, because the count or the flag that they need is not given, as a note
+// for the person who wrote the value: its path, "is given without ...". The value must have passed FillRecord.
+std::vector<explain::Finding> PassedOver(const record::Table& table, const json::Value& value,
+                                         const std::string& path = {});
 
 // Gives the pointers of a record room for `count` elements each, their capacities included.
 void GiveRoom(const record::Table& table, std::byte* record, std::uint32_t count, Memory& memory);

@@ -2,6 +2,7 @@
 // that no row reads are allowed, as devices send them too, and so is null, which is as good as no key.
 #include "orrery/Documents.h"
 #include "orrery/Output.h"
+#include "orrery/Samples.h"
 #include "orrery/Schema.h"
 #include "orrery/Words.h"
 
@@ -219,7 +220,7 @@ class Writer {
     Node Untold(const Table& table, const Field& field) {
         switch (field.kind) {
         case Kind::Custom:
-            return Sample(field);
+            return Sample(table, field);
         case Kind::Presence:
             return Node::Object();
         case Kind::Schedule:
@@ -247,11 +248,12 @@ class Writer {
         return ListOf(std::move(node), isPointer ? 0 : field.dims[0], field.exactly ? field.dims[0] : field.atLeast);
     }
 
-    static Node Sample(const Field& field) {
+    static Node Sample(const Table& table, const Field& field) {
         Node node = Node::Object();
-        if (field.custom->sample == nullptr) return node;
+        const char* const sample = SampleOf(table, field);
+        if (sample == nullptr) return node;
         Node examples = Node::Array();
-        examples.Add(Node::Token(field.custom->sample));
+        examples.Add(Node::Token(sample));
         node.Add("examples", std::move(examples));
         return node;
     }
@@ -306,7 +308,7 @@ class Writer {
         case Kind::SplitMode:
             return Pattern("^(Split|PIP|Free|CompositeSplit)");
         case Kind::Custom:
-            return Sample(field);
+            return Sample(table, field);
         default:
             return Node::Object();
         }

@@ -54,24 +54,48 @@ int PrintResult(const Result& result) {
     return kRefused;
 }
 
-int ParseFiles(const std::string& command, const std::vector<std::string>& files, const FilesOptions& options) {
+namespace {
+
+// The row of names, and what `work` makes of each file.
+template <class Options, class Work>
+int ForAll(const std::vector<std::string>& files, const Options& options, unsigned threads, const Work& work) {
     int exit = kDone;
-    const ParseOptions& parse = options.parse;
-    if (IsRows(parse.format)) {
-        exit = PrintResult({kDone, RowOfNames(parse.format, parse.width, ColumnsOf(parse)), {}});
+    if (IsRows(options.format)) {
+        exit = PrintResult({kDone, RowOfNames(options.format, options.width, ColumnsOf(options)), {}});
         if (exit != kDone) return exit;
     }
-    Jobs<std::string, Result> jobs(
-        options.jobs, [&](const std::string& file) { return ParseFile(command, file, options); },
-        [&](Result& result) {
-            const int shown = PrintResult(result);
-            exit = WorseExit(exit, shown);
-            return shown == result.exit; // else nobody reads it any more
-        });
+    Jobs<std::string, Result> jobs(threads, work, [&](Result& result) {
+        const int shown = PrintResult(result);
+        exit = WorseExit(exit, shown);
+        return shown == result.exit; // else nobody reads it any more
+    });
     for (const std::string& file : files)
         if (!jobs.Give(file)) break;
     jobs.Finish();
     return exit;
+}
+
+} // namespace
+
+int ParseFiles(const std::string& command, const std::vector<std::string>& files, const FilesOptions& options) {
+    return ForAll(files, options.parse, options.jobs,
+                  [&](const std::string& file) { return ParseFile(command, file, options); });
+}
+
+int CheckFiles(const std::string& command, const std::vector<std::string>& files, const CheckOptions& options,
+               unsigned jobs, bool isColoured) {
+    return ForAll(files, options, jobs, [&](const std::string& file) -> Result {
+        try {
+            std::string text, note;
+            if (!ReadText(file, text, note)) return {kUsage, {}, note};
+            Result result = CheckText(command, file, text, options);
+            result.err = note + result.err;
+            if (isColoured) result.out = ColouredFindings(result.out);
+            return result;
+        } catch (const std::bad_alloc&) {
+            return {kRefused, {}, "orrery: out of memory\n"};
+        }
+    });
 }
 
 } // namespace orrery::tool

@@ -22,6 +22,10 @@ struct FilesOptions {
 // Each file ("-": standard input) as one reply of the command. The worst of their exits.
 int ParseFiles(const std::string& command, const std::vector<std::string>& files, const FilesOptions& options);
 
+// The findings of each file; `command` as CheckText has it.
+int CheckFiles(const std::string& command, const std::vector<std::string>& files, const CheckOptions& options,
+               unsigned jobs, bool isColoured);
+
 // Prints and tells; answers the exit, also when nobody reads what is printed any more.
 int PrintResult(const Result& result);
 // The exit of two things done: wrong arguments count more than what was refused, and that more than what was lost.

@@ -90,18 +90,19 @@ Packed PackRecords(const Command& command, const std::vector<std::byte>& records
 // ---- Filling ----
 
 // What a person who wrote the records should know.
-std::string Notes(const Table& table, const json::Value& value) {
+std::vector<explain::Finding> Notes(const Table& table, const json::Value& value) {
+    if (value.type() != json::Type::Array) return PassedOver(table, value);
+    std::vector<explain::Finding> notes;
+    for (std::uint32_t i = 0; i < value.size(); ++i)
+        std::ranges::move(PassedOver(table, value[i], "[" + std::to_string(i) + "]"), std::back_inserter(notes));
+    return notes;
+}
+
+std::string NoteLines(const std::vector<explain::Finding>& notes) {
     constexpr std::size_t kMost = 8;
-    const bool isList = value.type() == json::Type::Array;
-    std::vector<std::string> notes;
-    for (std::uint32_t i = 0; i < (isList ? value.size() : 1) && notes.size() <= kMost; ++i) {
-        const auto more =
-            isList ? PassedOver(table, value[i], "[" + std::to_string(i) + "]") : PassedOver(table, value);
-        notes.insert(notes.end(), more.begin(), more.end());
-    }
     std::string text;
     for (std::size_t i = 0; i < std::min(notes.size(), kMost); ++i)
-        text += "orrery: note: " + notes[i] + "\n";
+        text += "orrery: note: " + notes[i].path + " " + notes[i].message + "\n";
     if (notes.size() > kMost) text += "orrery: note: and more of the kind\n";
     return text;
 }
@@ -416,9 +417,16 @@ Result PackText(const Command& command, std::string_view json, const PackOptions
         const auto records = FillAll(*command.table, document.root, memory);
         const Packed packed = PackRecords(command, records, options.capacity);
         if (packed.outcome == Outcome::Done) {
-            Result result{kDone, packed.text, Notes(*command.table, document.root)};
+            Result result{kDone, packed.text, {}};
+            auto notes = Notes(*command.table, document.root);
+            if (options.json)
+                std::ranges::move(notes, std::back_inserter(unknown)); // each with its place, as all else
+            else
+                result.err = NoteLines(notes);
             const auto losses = Losses(command, document, records, std::move(unknown), isTold);
-            result.err += FindingLines(losses, options.file, document.text, options.json);
+            CheckOptions told;
+            if (options.json) told.format = Format::Lines;
+            result.err += FindingLines(losses, options.file, document.text, told);
             if (options.strict && !result.err.empty()) result.exit = kFound;
             if (options.request) result.out = Request(command, std::move(result.out), *options.request);
             return result;

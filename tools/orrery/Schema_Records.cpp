@@ -1,5 +1,6 @@
 // Records: their fields, where each stands in memory and in the text, and the rules of its way in and out.
 #include "orrery/Docs.h"
+#include "orrery/Samples.h"
 #include "orrery/Schema.h"
 #include "orrery/Words.h"
 
@@ -161,14 +162,14 @@ const char* CodecWord(const CustomCodec* codec) {
     return "";
 }
 
-void AddFunction(Node& node, const Field& field) {
+void AddFunction(Node& node, const Table& table, const Field& field) {
     if (field.kind != Kind::Custom && field.writtenAs != Kind::Custom) return;
     Node function = Node::Inline();
     function.Add("read", Node::Bool(field.custom->read != nullptr))
         .Add("write", Node::Bool(field.custom->write != nullptr));
     if (CodecWord(field.custom)[0] != '\0') function.Add("codec", Node::Text(CodecWord(field.custom)));
     node.Add("function", std::move(function));
-    if (field.custom->sample != nullptr) node.Add("sample", Node::Token(field.custom->sample));
+    if (const char* const sample = SampleOf(table, field)) node.Add("sample", Node::Token(sample));
 }
 
 // What a row says of the text. A row that stores nothing has no place.
@@ -186,7 +187,7 @@ void AddRow(Node& node, const Table& table, const Field& field) {
     AddList(node, table, field);
     AddReading(node, table, field);
     AddWriting(node, table, field);
-    AddFunction(node, field);
+    AddFunction(node, table, field);
     AddCodes(node, table.record, field);
 }
 

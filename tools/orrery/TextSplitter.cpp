@@ -105,15 +105,16 @@ bool TextSplitter::Begin(bool isEnd) {
 // Over what neither ends the text nor could: 64 bytes at a time.
 void TextSplitter::SkipPlain([[maybe_unused]] std::string_view left) {
 #if ORRERY_SSE2
-    while (!inText_ && depth_ > 0 && at_ >= byBytes_ && left.size() - at_ >= explain::TextBlock::kSize) {
-        const explain::TextBlock block(left.data() + at_);
+    using Block = explain::TextBlock<true>;
+    while (!inText_ && depth_ > 0 && at_ >= byBytes_ && left.size() - at_ >= Block::kSize) {
+        const Block block(left.data() + at_);
         if (!block.isPlain(depth_) || block.hasNewlines()) {
-            byBytes_ = at_ + explain::TextBlock::kSize;
+            byBytes_ = at_ + Block::kSize;
             return;
         }
-        depth_ += block.opens() - block.closes();
+        depth_ += block.opens - block.closes;
         at_ += block.size();
-        inText_ = block.size() < explain::TextBlock::kSize;
+        inText_ = block.size() < Block::kSize;
         at_ += inText_; // its quote
     }
 #endif

@@ -37,6 +37,11 @@ class Text:
         self.caller = False
 
 
+def writes_only(row):
+    """Whether nothing is read by the function of a row: its key is there for those who read what it writes."""
+    return row.get("function", {}).get("read") is False
+
+
 def shifted(place, offset):
     return place[:-1] + (place[-1] + offset,)
 
@@ -141,7 +146,7 @@ class Maker:
             else:
                 before = len(text.functions)
                 holder[parts[-1]] = self.field(row, form, place, text, path)
-                if len(text.functions) > before and row.get("function", {}).get("read") is not False:
+                if len(text.functions) > before:
                     text.removable.append((holder, parts[-1]))
         for row in later:
             value.update(self.field(row, form, place, text, path))
@@ -209,6 +214,8 @@ class Maker:
 
     def by_function(self, row, form, place, text, name):
         """A value for a function of a row's own: what it makes of it is told by the member's type, as a rule."""
+        if writes_only(row):
+            return row.get("sample", self.next())
         text.functions.append(name)
         likely = []
         value = row.get("sample", self.next())
@@ -363,6 +370,8 @@ class Maker:
         elif row.get("function", {}).get("codec") in ("firstNumber", "secondNumber") and isinstance(value, list):
             wanted = value[row["function"]["codec"] == "secondNumber"]
             text.after.append(Value(shifted(place, row["offset"]), row["type"], wanted, name))
+        elif writes_only(row):
+            pass  # what it writes, the others read
         elif row.get("function"):
             text.functions.append(name)
         elif natural in (int, bool) and type(value) in (int, bool) and "only" not in row and not row.get("dims"):
@@ -429,7 +438,8 @@ class Maker:
         kind, name = row["kind"], path + ("" if path.endswith("]") else row["name"])
         put = lambda where, form, value, what="": text.after.append(Value(where, form, value, name + what))
         if kind == "custom":
-            text.functions.append(name)
+            if not writes_only(row):
+                text.functions.append(name)
             return row.get("sample", self.next())
         if kind == "record":
             return self.record(self.form(row), at, text, False, member, name + ".")

@@ -1,0 +1,11 @@
+// What devices send for a row that a function reads.
+#pragma once
+
+#include "frame/record/Table.h"
+
+namespace orrery::tool {
+
+// A value in JSON that says something to the function; null where none is known.
+const char* SampleOf(const record::Table& table, const record::Field& field);
+
+} // namespace orrery::tool
