@@ -109,7 +109,11 @@ void Walk::List(const Site& site, int level, const Value& value) {
             }
             ++used;
             const Path inner = site.path.Member(member.key());
-            Element({site.table, field, inner}, member.value, member.key());
+            const Site own{site.table, field, inner};
+            if (member.value.isNull())
+                Add(ORRERY_FINDING_NULL, ORRERY_FINDING_NOTE, member.value, own, "null: an element without keys");
+            else
+                Element(own, member.value, member.key());
         }
         if (lost > 0) Dropped(site, value, room, lost, "room for");
         return;

@@ -72,6 +72,8 @@ TEST(FaultyReplies, ThatUsersCameWith) {
          "", "", "nobody reads what stands behind the document: \"{\\\"more\\\":1}\""},
         {"NTP", R"({"Port":@null})", ORRERY_FINDING_NULL, kNote, "params.table.Port", "CFG_NTP_INFO.nPort",
          "null: as if the key were absent"},
+        {"PicInPic", R"({"Split4":@null})", ORRERY_FINDING_NULL, kNote, "params.table.Split4",
+         "CFG_PICINPIC_INFO.pstuSplits", "null: an element without keys"},
         {"NTP", R"({@"Port":123,"Port":124})", ORRERY_FINDING_DUPLICATE_KEY, kLost, "params.table.Port", "",
          "the key stands again on line 1, and only its last value counts"},
         {"NTP", R"({"result":true,"error":@{"code":268632079,"message":"busy"},"params":{"table":{}}})",

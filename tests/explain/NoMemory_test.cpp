@@ -111,6 +111,18 @@ TEST(NoMemory, WhereFunctionsAreTried) {
               5u);
 }
 
+// A rule is read by its document, of which each try makes a new one: here with more than fits the stack.
+TEST(NoMemory, InsideATry) {
+    std::string list;
+    for (int i = 0; i < 2000; ++i)
+        list += "[1,2],";
+    list.back() = ']';
+    EXPECT_GT(Replies("VideoAnalyseRule", R"({"result":true,"params":{"table":[{"Type":"CrossLineDetection","Nmae":1,)"
+                                          R"("Config":{"DetectLine":[)"
+                                              + list + "}}]}}"),
+              5u);
+}
+
 TEST(NoMemory, ForADocumentThatIsLargerThanTheStack) {
     std::string list;
     for (int i = 0; i < 3000; ++i)

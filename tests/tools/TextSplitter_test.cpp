@@ -15,13 +15,17 @@ using Pieces = std::vector<std::pair<std::string, std::uint64_t>>;
 Pieces Split(const std::string& stream, std::size_t chunk = 1 << 20) {
     TextSplitter splitter;
     Pieces pieces;
+    const auto take = [&](const TextSplitter::Piece& piece) {
+        EXPECT_EQ(stream.substr(piece.offset, piece.text.size()), piece.text);
+        pieces.emplace_back(piece.text, piece.line); // copied: it stays until more is fed
+    };
     for (std::size_t at = 0; at < stream.size(); at += chunk) {
         splitter.Feed(std::string_view(stream).substr(at, chunk));
         while (const auto piece = splitter.Next())
-            pieces.emplace_back(piece->text, piece->line); // copied: it stays until more is fed
+            take(*piece);
     }
     while (const auto piece = splitter.Rest())
-        pieces.emplace_back(piece->text, piece->line);
+        take(*piece);
     return pieces;
 }
 

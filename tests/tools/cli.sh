@@ -237,6 +237,14 @@ input='{"result":true' run 1 check
 err_has 'line 1, column 15'
 input='{"Event":[{"Code":"AccessControl","Data":{"CardNo":7}}]}' run 3 check events -
 out_has 'Event[0].Data.CardNo'
+# Many texts of events in a file, each in its place.
+one='{"Event":[{"Code":"AccessControl","Data":{"CardNo":"7"}}]}'
+input="$one"$'\n'"$one $one"$'\n' run 0 check events
+no_out
+input=$one$'\n'$one'{"Event":[{"Code":"AccessControl","Data":{"CardNo":7}}]}'$'\n''{"Event":['$'\n'$one run 3 check events
+out_is '-:2:110: lost: Event[0].Data.CardNo (DEV_EVENT_ACCESSCONTROL_INFO.szCardNo): 7 where a text is read: the field stays empty [wrong-type]
+-:3:11: lost: expected a value: an object, a list, a text in quotes, a number, true, false or null; the text ends here [not-json]
+'
 input='{}' run 2 check /nonexistent/reply
 input='{"result":true,"params":{"table":{"Port":"1"}}}' run 0 parse NTP --warn
 err_has 'params.table.Port'

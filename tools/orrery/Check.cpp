@@ -3,6 +3,7 @@
 #include "orrery/Diagnose.h"
 #include "orrery/Output.h"
 #include "orrery/Terminal.h"
+#include "orrery/TextSplitter.h"
 
 #include "frame/JsonParser.h"
 
@@ -25,8 +26,11 @@ struct Told {
     std::string_view file;
     const CheckOptions& options;
     std::size_t before; // bytes that were put in front of the text, on its first line
-    std::string out;
+    std::string out{};
     std::exception_ptr failure{};
+    // Where the text begins, of many in a file.
+    std::uint32_t lines = 0, columns = 0;
+    std::uint64_t offset = 0;
 };
 
 constexpr const char* kGravity[] = {"", "note", "lost", "refused"};
@@ -97,6 +101,9 @@ std::int32_t Tell(const ORRERY_FINDING* finding, void* user) noexcept {
         ORRERY_FINDING own = *finding;
         own.nOffset -= std::min<std::uint64_t>(own.nOffset, told.before);
         if (own.nLine == 1) own.nColumn -= std::min(own.nColumn - 1, static_cast<std::uint32_t>(told.before));
+        if (own.nLine == 1) own.nColumn += told.columns;
+        own.nLine += told.lines;
+        own.nOffset += told.offset;
         told.out += ShownFinding(own, told.file, told.options);
         return 1;
     } catch (...) {
@@ -120,6 +127,27 @@ std::int32_t KeepFit(const ORRERY_FIT* fit, void* user) noexcept {
         fits.failure = std::current_exception();
         return 0;
     }
+}
+
+// Texts of events come many to a file, each with a place of its own. Answers less than 0 when there is no memory.
+std::int32_t ExplainAllEvents(std::string_view text, Told& told) {
+    TextSplitter splitter;
+    splitter.Feed(text);
+    std::int32_t count = 0;
+    const auto explain = [&](const TextSplitter::Piece& piece) {
+        const std::string_view before = text.substr(0, static_cast<std::size_t>(piece.offset));
+        told.lines = static_cast<std::uint32_t>(piece.line - 1);
+        told.columns = static_cast<std::uint32_t>(Columns(before.substr(before.rfind('\n') + 1)));
+        told.offset = piece.offset;
+        count = ORRERY_ExplainEvents(piece.text.data(), piece.text.size(), Tell, &told);
+        return count >= 0 && !told.failure;
+    };
+    bool isEmpty = true;
+    for (auto piece = splitter.Next(); piece || (piece = splitter.Rest()); piece = splitter.Next()) {
+        isEmpty = false;
+        if (!explain(*piece)) return count;
+    }
+    return isEmpty ? ORRERY_ExplainEvents(text.data(), text.size(), Tell, &told) : count;
 }
 
 std::string Keys(std::uint32_t count, const char* what) {
@@ -203,7 +231,7 @@ Result CheckText(std::string_view command, std::string_view file, std::string_vi
         }
         name = fits.best.front().first;
     }
-    Told told{file, options, 0, {}};
+    Told told{file, options, 0};
     std::string whole;
     if (const Command* const known = FindCommand(name); options.table && known != nullptr) {
         const Document bare(text);
@@ -212,7 +240,7 @@ Result CheckText(std::string_view command, std::string_view file, std::string_vi
         whole = WrapValue(*known, bare.text, told.before);
         text = whole;
     }
-    const std::int32_t count = name == kEvents ? ORRERY_ExplainEvents(text.data(), text.size(), Tell, &told)
+    const std::int32_t count = name == kEvents ? ExplainAllEvents(text, told)
                                                : ORRERY_ExplainReply(name.c_str(), text.data(), text.size(),
                                                                      options.records.value_or(0), Tell, &told);
     if (told.failure) std::rethrow_exception(told.failure);

@@ -23,7 +23,7 @@ struct CheckOptions {
     std::optional<std::uint32_t> records{};
 };
 
-// "FILE:LINE:COLUMN: lost: PATH (FIELD): what happens [kind]", a line a finding. `command` "events": a text of events;
+// "FILE:LINE:COLUMN: lost: PATH (FIELD): what happens [kind]", a line a finding. `command` "events": texts of events;
 // empty: the command that fits best, and why. kFound when there is a finding that is told.
 Result CheckText(std::string_view command, std::string_view file, std::string_view text,
                  const CheckOptions& options = {});

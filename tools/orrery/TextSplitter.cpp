@@ -67,12 +67,13 @@ void TextSplitter::Restart() {
 
 void TextSplitter::Feed(std::string_view bytes) {
     buffer_.erase(0, begin_);
+    fed_ += begin_;
     begin_ = 0;
     buffer_ += bytes;
 }
 
 TextSplitter::Piece TextSplitter::Cut(std::size_t end) {
-    Piece piece{std::string_view(buffer_).substr(begin_, end), line_};
+    Piece piece{std::string_view(buffer_).substr(begin_, end), line_, fed_ + begin_};
     for (std::size_t at = 0; (at = piece.text.find('\n', at)) != std::string_view::npos; ++at)
         ++line_; // a look for the next one is quick where there are few
     begin_ += end;

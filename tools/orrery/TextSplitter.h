@@ -14,6 +14,7 @@ class TextSplitter {
     struct Piece {
         std::string_view text;  // until more is fed
         std::uint64_t line = 1; // of the stream, at which it begins
+        std::uint64_t offset = 0;
     };
 
     void Feed(std::string_view bytes);
@@ -33,6 +34,7 @@ class TextSplitter {
     std::string buffer_;
     std::size_t begin_ = 0; // of what is left of it
     std::uint64_t line_ = 1;
+    std::uint64_t fed_ = 0; // bytes before the buffer
     // Of the text at the buffer's beginning: how far it was looked at, and what was open there.
     std::size_t at_ = 0;
     std::size_t byBytes_ = 0; // up to here byte after byte
