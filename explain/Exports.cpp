@@ -134,9 +134,10 @@ ORRERY_EXPORT int32_t ORRERY_FindFits(const char* text, size_t length, ORRERY_FI
         }
         const Fit events = FitOf({}, ExplainEvents(all, false));
         if (events.read > 0) fits.push_back(events);
-        // What a command reads counts for it, what it leaves against it, and what it reads wrong most of all.
+        // What a command reads counts for it, what it leaves against it. A key that it reads something wrong of tells
+        // neither way: the reply is likely faulty, or of another command.
         const auto score = [](const Fit& fit) {
-            return std::int64_t{fit.read} - std::int64_t{fit.left} - 2 * std::int64_t{fit.wrong};
+            return std::int64_t{fit.read} - std::int64_t{fit.left} - std::int64_t{fit.wrong};
         };
         std::stable_sort(fits.begin(), fits.end(), [&](const Fit& left, const Fit& right) {
             if (left.isRefused != right.isRefused) return right.isRefused;

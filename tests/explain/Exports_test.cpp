@@ -143,6 +143,17 @@ TEST(ExplainExports, TheFitsOfAReply) {
     EXPECT_EQ(one.names.size(), 1u);
 }
 
+TEST(ExplainExports, AKeyThatIsReadWrongTellsMoreThanOneThatNothingReads) {
+    const Fits fits = Fits::Of(R"({"result":true,"params":{"table":{"Port":25,"Enable":"yes"}}})");
+    ASSERT_FALSE(fits.all.empty());
+    EXPECT_EQ(fits.all[0].nRead, 2u);
+    EXPECT_EQ(fits.all[0].nLeft, 0u);
+    EXPECT_EQ(fits.all[0].nWrong, 1u);
+    ASSERT_TRUE(fits.Has("NTP"));
+    ASSERT_TRUE(fits.Has("UserLockAlarm")); // reads "Enable" alone
+    EXPECT_LT(fits.PlaceOf("NTP"), fits.PlaceOf("UserLockAlarm"));
+}
+
 TEST(ExplainExports, CommandsOfOneTableAreToldEach) {
     const Fits fits = Fits::Of(R"({"result":true,"params":{"table":{"Enable":true,"EventHandler":{}}}})");
     EXPECT_TRUE(fits.Has("ChassisIntrusion"));

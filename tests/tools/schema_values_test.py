@@ -206,13 +206,14 @@ COMPLETED = {
 # schema, so that the text that is sent may be none that it reads.
 UNCOMPARED = {
     "commands": {
-        "it has no member of its own, or one behind a null pointer": 739,  # it goes to members of other keys
-        "it reads a key that another member is told by": 327,
-        "its member stays the same: nothing tells what it takes": 54,
+        "it has no member of its own, or one behind a null pointer": 1,
+        "it reads a key that another member is told by": 18,
+        # Counts of lists, what only a request tells, and lists that are taken whole.
+        "its member stays the same: nothing tells what it takes": 13,
         "the text is refused without it": 5,
     },
     "events": {
-        "its member stays the same: nothing tells what it takes": 401,  # "Action", "Smoking": texts of the event's own
+        "its member stays the same: nothing tells what it takes": 3,
         "it reads a key that another member is told by": 3,
     },
 }
@@ -249,7 +250,7 @@ class Values(unittest.TestCase):
         trial = self.run_all("commands", "command", lambda each: not each["parse"])
         # Nearly all is decided by the schema.
         self.assertLess((trial.by_function + trial.shared) * 25, trial.looked)
-        self.expect_compared(trial, 928, UNCOMPARED["commands"])
+        self.expect_compared(trial, 946, UNCOMPARED["commands"])
 
     def test_second_keys(self):
         self.run_all("commands", "command", lambda each: not each["parse"], second=True)
@@ -264,7 +265,7 @@ class Values(unittest.TestCase):
     def test_events(self):
         # An event without a name is one that another turns into.
         trial = self.run_all("events", "event", lambda each: not each["name"])
-        self.expect_compared(trial, 202, UNCOMPARED["events"])
+        self.expect_compared(trial, 600, UNCOMPARED["events"])
         self.assertLess(sum(not each["name"] for each in self.schema["events"]), 3)
 
     def test_typed(self):

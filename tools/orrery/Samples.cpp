@@ -1,5 +1,6 @@
 #include "orrery/Samples.h"
 
+#include <iterator>
 #include <string_view>
 
 namespace orrery::tool {
@@ -21,6 +22,7 @@ constexpr Sample kSamples[] = {
     {"CFG_RULE_TRAFFICGATE_INFO", "Config/SpeedLimit", "[20, 60]"},
     {"CFG_RULE_TRAFFICJUNCTION_INFO", "Config/SpeedLimit", "[20, 60]"},
     {"CFG_RULE_TRAFFICSPEED_INFO", "Config/SpeedLimit", "[20, 60]"},
+    {"CFG_TRAFFICGLOBAL_INFO", "Calibration/PeriodOfValidity", R"(["2026-11-20 09:30:00", "2026-12-20 09:30:00"])"},
     {"DEV_EVENT_ACCESSCONTROL_INFO", "CardType", "1"},
     {"DEV_EVENT_CITIZENIDCARD_INFO", "Sex", "2"},
     {"DEV_EVENT_CITIZENPICTURECOMPARE_INFO", "Sex", "2"},
@@ -35,6 +37,7 @@ constexpr Sample kSamples[] = {
     {"DEV_EVENT_FACERECOGNITION_INFO", "Face/Mouth", "1"},
     {"DEV_EVENT_FACERECOGNITION_INFO", "Face/Race", "1"},
     {"DEV_EVENT_HUMANTRAIT_INFO", "DetectObject", "1"},
+    {"DEV_EVENT_PICINFO_INFO", "Type", R"("CrossLineDetection")"},
     {"DEV_EVENT_TRAFFICSNAPSHOT_INFO", "CarWayInfo", R"([{"SigInfo": [{}]}])"},
     {"DEV_EVENT_XRAYDETECTION_INFO", "Packet/Grade", "1"},
     {"EVENT_FACE_ATTRIBUTES", "Glass", "1"},
@@ -62,6 +65,10 @@ const char* SampleOf(const Table& table, const Field& field) {
     for (const Sample& sample : kSamples)
         if (sample.record == table.record && sample.key == field.key) return sample.json;
     return nullptr;
+}
+
+std::size_t SamplesToldHere() {
+    return std::size(kSamples);
 }
 
 } // namespace orrery::tool
