@@ -135,6 +135,7 @@ INSIDE
 
 stage_python() {
     needs mypy mypy
+    [ -x build/orrery ] || { echo "packages: no build/orrery for its schema (scripts/test.sh release)" >&2; exit 2; }
     rm -rf "$out/python"
     mkdir -p "$out/python"
     cp -r python/orrery python/tests "$out/python/"
