@@ -151,7 +151,8 @@ def parse_rules(text: Json, command: str = "VideoAnalyseRule") -> List[Rule]:
 
 
 def pack_rules(rules: List[Rule], command: str = "VideoAnalyseRule") -> str:
-    return _pack(command, bytes(_records.Analyserules(rule_buf=rules)))
+    record = _records.Analyserules(rule_buf=rules)  # which has what its pointer leads to: it stays for the call
+    return _pack(command, bytes(record))
 
 
 class Event(NamedTuple):

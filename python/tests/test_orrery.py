@@ -128,6 +128,13 @@ def test_rules_go_round() -> None:
         orrery.parse_rules(reply({"Port": 123}), "NTP")
 
 
+def test_many_rules_stay_in_memory_while_they_are_packed() -> None:
+    # So many bytes that they are returned to the system as soon as nobody has them.
+    rules = [orrery.Rule(2, records.RuleCrossline(rule_name="Fence %d" % i), i) for i in range(100)]
+    assert sum(rule.record.size_ for rule in rules) > 1 << 20
+    assert [rule["Name"] for rule in json.loads(orrery.pack_rules(rules))] == ["Fence %d" % i for i in range(100)]
+
+
 def test_a_record_of_rules_is_a_record_as_any() -> None:
     channel = orrery.parse("VideoAnalyseRule", reply([{"Type": "CrossLineDetection", "Name": "Fence", "Id": 3},
                                                       {"Type": "MoveDetection", "Name": "Yard"}]))
