@@ -35,7 +35,8 @@ void WriteArray(const Content& content, WriteCall& call) noexcept {
         --end;
     if (end == 0) return call.out.Null();
     call.out.BeginArray();
-    for (std::uint32_t i = 0; i < end; ++i) {
+    // A text that has no room is of no use: with tiny size words there may be tens of thousands of records.
+    for (std::uint32_t i = 0; i < end && call.out.fits(); ++i) {
         const std::byte* const record = records[i];
         if (record::IsWritten(content.table, record))
             record::WriteRecord(content.table, record, call);
