@@ -1,7 +1,10 @@
 #include "frame/record/Engine.h"
 #include "support/FrameCalls.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace orrery {
 namespace {
@@ -120,6 +123,35 @@ TEST(FamilyPack, ARowMayEndTheCall) {
     EXPECT_TRUE(w.isCleared());
     EXPECT_TRUE(Pack(kRefusing, kPack.KeepsText(), &refused, sizeof refused).isUntouched());
     EXPECT_EQ(Pack(kRefusing, kPack, kItems, sizeof(Item)).text(), kFirst + "\n");
+}
+
+int asked = 0;
+
+void CountAndWrite(const Field&, const std::byte* record, WriteCall& call) {
+    ++asked;
+    call.Key();
+    call.out.Int(MEMBER(record, Named, id));
+}
+constexpr CustomCodec kCounted{nullptr, CountAndWrite};
+
+TABLE(kCountedNames, Named,
+      {
+          FIELD(name, nullptr, MemberName),
+          FIELD(id, "Id", Custom(kCounted)),
+      });
+
+TEST(FamilyPack, RecordsBehindTheRoomAreNotWritten) {
+    std::vector<Named> many(900);
+    for (std::size_t i = 0; i < many.size(); ++i)
+        std::memcpy(many[i].name, std::to_string(100 + i).c_str(), 4);
+    for (const Form form : {Form::Array, Form::ByMember}) {
+        asked = 0;
+        const Written w = Pack(kCountedNames, kPack.As(form), many.data(), many.size() * sizeof(Named), 100);
+        EXPECT_EQ(w.outcome, Outcome::TextTooLong);
+        EXPECT_TRUE(w.isCleared());
+        EXPECT_GT(asked, 4); // a record takes at least `{ "Id" : 0 }, `
+        EXPECT_LT(asked, 12);
+    }
 }
 
 TEST(FamilyPack, UnderItsOwnKey) {
