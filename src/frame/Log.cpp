@@ -15,9 +15,11 @@ namespace {
 constinit orrery::RecursiveLock logLock;
 constinit std::atomic<LogSink*> installedSink = nullptr; // changed and called under the lock only
 
-// Runs `call` on the sink, if there is one, under the log lock. Recursive, because a sink may log in its turn.
+// Runs `call` on the sink, if there is one, under the log lock. Recursive, because a sink may log in its turn. Without
+// a sink there is nothing to guard: who installs one at the same moment hears of what comes after.
 template <class Call>
 void Forward(Call call) noexcept {
+    if (installedSink.load(std::memory_order_relaxed) == nullptr) return;
     const std::lock_guard<orrery::RecursiveLock> hold(logLock);
     if (LogSink* const sink = installedSink.load(std::memory_order_relaxed)) call(*sink);
 }

@@ -1,4 +1,4 @@
-// How the library's own code says why it refused something. Without a sink a line costs one uncontended lock.
+// How the library's own code says why it refused something. Without a sink a line costs a load.
 #pragma once
 
 #include <cstdint>
