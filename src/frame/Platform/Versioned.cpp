@@ -37,16 +37,27 @@ bool HasFunctions(const Table& table) noexcept {
     });
 }
 
+// Calls `test` with the place of the last byte of every text of the record itself, up to the first that fails.
+template <class Test>
+bool AllLastBytes(const Table& table, const Test& test) noexcept {
+    for (const Field& field : table) {
+        if (field.cell != Cell::Char || field.alias) continue;
+        for (std::uint32_t end = field.elementSize; end <= field.size; end += field.elementSize) {
+            if (!test(field.offset + end - 1)) return false;
+        }
+    }
+    return true;
+}
+
 // All fields at once. What stands behind a text's terminator comes along, where nobody who writes looks.
 void TakeWhole(const Table& table, const std::byte* caller, std::byte* local) noexcept {
     const auto word = record::Load<std::uint32_t>(local);
     std::memcpy(local, caller, table.size);
     record::Store(local, word);
-    for (const Field& field : table) {
-        if (field.cell != Cell::Char || field.alias) continue;
-        for (std::uint32_t end = field.elementSize; end <= field.size; end += field.elementSize)
-            local[field.offset + end - 1] = std::byte{0};
-    }
+    AllLastBytes(table, [local](std::uint32_t last) {
+        local[last] = std::byte{0};
+        return true;
+    });
 }
 
 } // namespace
@@ -88,11 +99,17 @@ void VersionedRecords::Return(const std::byte* local, std::byte* caller) const n
 }
 
 bool VersionedRecords::areOwn(const std::byte* first, std::uint32_t count) const noexcept {
-    if (how_ != Stride::SizeWord || stride_ != table_.size) return false;
-    for (std::uint32_t i = 0; i < count; ++i) {
-        if (record::Load<std::uint32_t>(first + std::size_t{i} * stride_) != stride_) return false;
-    }
-    return true;
+    if (how_ == Stride::Record || stride_ != table_.size) return false;
+    const auto all = [&](auto test) {
+        for (std::uint32_t i = 0; i < count; ++i) {
+            if (!test(first + std::size_t{i} * stride_)) return false;
+        }
+        return true;
+    };
+    if (!all([&](const std::byte* record) { return record::Load<std::uint32_t>(record) == stride_; })) return false;
+    return how_ != Stride::SizeWordByField || AllLastBytes(table_, [&](std::uint32_t last) {
+               return all([last](const std::byte* record) { return record[last] == std::byte{0}; });
+           });
 }
 
 void VersionedRecords::Take(const std::byte* caller, std::byte* local) const noexcept {

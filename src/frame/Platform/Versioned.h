@@ -28,7 +28,8 @@ class VersionedRecords {
     void Start(const std::byte* caller, std::byte* local) const noexcept;
     // Moves what both layouts have into the caller's record; its size word stays.
     void Return(const std::byte* local, std::byte* caller) const noexcept;
-    // Whether writing needs no local record: all records have this library's own layout, to the word.
+    // Whether writing needs no local record: all records have this library's own layout, to the word. Where they move
+    // field by field their texts must end as well, since that way cuts those that do not.
     bool areOwn(const std::byte* first, std::uint32_t count) const noexcept;
     // Makes the local record that writing goes through; each of the caller's then brings into it what both layouts
     // have.
