@@ -40,15 +40,24 @@ unsigned Suspects(__m128i bytes) noexcept {
     const __m128i any = _mm_or_si128(_mm_or_si128(quote, backslash), _mm_or_si128(slash, control));
     return static_cast<unsigned>(_mm_movemask_epi8(any));
 }
-// A bit for every byte that a text may end at or that may need an escape: all control characters up to the last one
-// that does are among them.
+// A bit for every byte that a text may end at or that may need an escape, and with `AsciiOnly` for every byte that is
+// no ASCII: all control characters up to the last one that is escaped are among them.
+template <bool AsciiOnly>
 unsigned Stops(__m128i bytes) noexcept {
     const __m128i quote = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"'));
     const __m128i backslash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'));
     const __m128i slash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('/'));
-    const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(13)), bytes);
+    // As signed numbers all bytes that are no ASCII lie below the control characters.
+    const __m128i control = AsciiOnly ? _mm_cmplt_epi8(bytes, _mm_set1_epi8(14))
+                                      : _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(13)), bytes);
     const __m128i any = _mm_or_si128(_mm_or_si128(quote, backslash), _mm_or_si128(slash, control));
     return static_cast<unsigned>(_mm_movemask_epi8(any));
+}
+// Copies sixteen bytes.
+__m128i CopyBlock(char* out, const char* text) noexcept {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
+    return bytes;
 }
 
 // Of less than sixteen bytes.
@@ -68,82 +77,96 @@ char* CopyFew(char* out, const char* text, std::size_t size) noexcept {
 }
 #endif
 
+// Where a text is being written.
+template <bool Terminated, bool AsciiOnly>
+struct Quoting {
+    char* at;
+    const char* p;
+
+    // The next byte, escaped if it must be; takes two. False when the text ends there or is not to have it.
+    [[gnu::always_inline]] bool PutByte() noexcept {
+        const char byte = *p;
+        if (Terminated && byte == '\0') return false;
+        if (AsciiOnly && static_cast<signed char>(byte) < 0) return false;
+        ++p;
+        if (const char letter = EscapeOf(byte)) [[likely]] {
+            at[0] = '\\';
+            at[1] = letter;
+            at += 2;
+        } else {
+            *at++ = byte;
+        }
+        return true;
+    }
+    // The end of what is written, once PutByte has answered false.
+    char* End() const noexcept {
+        if (!Terminated || *p != '\0') return nullptr;
+        return Quote();
+    }
+    char* Quote() const noexcept {
+        *at = '"';
+        return at + 1;
+    }
+    // What is left, less than sixteen bytes. Apart, so that the road of the longer ones needs few registers.
+    [[gnu::noinline]] static char* PutRest(char* at, const char* p, const char* end) noexcept {
+        Quoting to{at, p};
+#if ORRERY_SSE2
+        // Looked at behind a copy that ends in zeros, and copied no further than it goes.
+        char rest[32] = {};
+        const char* const last = CopyFew(rest, p, static_cast<std::size_t>(end - p) % 16);
+        to.p = rest;
+        while (to.p != last) {
+            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(to.p));
+            const auto good = static_cast<std::size_t>(std::countr_zero(Stops<AsciiOnly>(bytes)));
+            to.at = CopyFew(to.at, to.p, good);
+            to.p += good;
+            if (to.p == last) break;
+            if (!to.PutByte()) return to.End();
+        }
+#else
+        while (to.p != end) {
+            if (!to.PutByte()) return to.End();
+        }
+#endif
+        return to.Quote();
+    }
+};
+
 // PutText, with the text's size known or, else, to be found.
-template <bool Terminated>
-char* PutQuoted(char* at, const char* const text, std::size_t capacity, bool asciiOnly) noexcept {
+template <bool Terminated, bool AsciiOnly>
+char* PutQuoted(char* at, const char* const text, std::size_t capacity) noexcept {
     *at++ = '"';
-    const char* p = text;
+    Quoting<Terminated, AsciiOnly> to{at, text};
     const char* const end = text + capacity;
 #if ORRERY_SSE2
-    const unsigned high = asciiOnly ? 0xFFFF : 0;
-    char* const start = at;
     // What stands behind the terminator is copied along and overwritten later.
-    while (end - p >= 16) {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(at), bytes);
-        const unsigned stops = Stops(bytes) | (static_cast<unsigned>(_mm_movemask_epi8(bytes)) & high);
+    while (end - to.p >= 16) {
+        const unsigned stops = Stops<AsciiOnly>(CopyBlock(to.at, to.p));
         if (stops == 0) {
-            p += 16;
-            at += 16;
+            to.p += 16;
+            to.at += 16;
             // The last block ends where the capacity does and begins inside the one before, if nothing moved it.
-            const auto left = end - p;
-            if (left > 0 && left < 16 && at - start == p - text) {
-                p -= 16 - left;
-                at -= 16 - left;
+            const auto left = end - to.p;
+            if (left > 0 && left < 16 && to.at - at == to.p - text) {
+                to.p -= 16 - left;
+                to.at -= 16 - left;
             }
             continue;
         }
         const int good = std::countr_zero(stops);
-        p += good;
-        at += good;
-        const char letter = EscapeOf(*p);
-        if (Terminated && *p == '\0') {
-            *at = '"';
-            return at + 1;
-        }
-        if (static_cast<signed char>(*p) < 0) return nullptr;
-        *at = letter != 0 ? '\\' : *p;
-        at[1] = letter;
-        at += 1 + (letter != 0);
-        ++p;
+        to.p += good;
+        to.at += good;
+        if (!to.PutByte()) return to.End();
     }
+    if (to.p == end) return to.Quote();
 #endif
-#if ORRERY_SSE2
-    // What is left is looked at behind a copy that ends in zeros, and copied no further than it goes.
-    char rest[32] = {};
-    const char* next = rest;
-    const char* const last = CopyFew(rest, p, static_cast<std::size_t>(end - p) % 16);
-    while (next != last) {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(next));
-        const unsigned stops = Stops(bytes) | (static_cast<unsigned>(_mm_movemask_epi8(bytes)) & high);
-        const auto good = static_cast<std::size_t>(std::countr_zero(stops));
-        at = CopyFew(at, next, good);
-        next += good;
-        if (next == last || (Terminated && *next == '\0')) break;
-        if (static_cast<signed char>(*next) < 0) return nullptr;
-        const char letter = EscapeOf(*next);
-        *at = letter != 0 ? '\\' : *next;
-        at[1] = letter;
-        at += 1 + (letter != 0);
-        ++next;
-    }
-#else
-    for (; p != end && !(Terminated && *p == '\0'); ++p) {
-        if (asciiOnly && static_cast<signed char>(*p) < 0) return nullptr;
-        const char letter = EscapeOf(*p);
-        *at = letter != 0 ? '\\' : *p;
-        at[1] = letter;
-        at += 1 + (letter != 0);
-    }
-#endif
-    *at = '"';
-    return at + 1;
+    return to.PutRest(to.at, to.p, end);
 }
 
 } // namespace
 
 char* PutText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept {
-    return PutQuoted<true>(at, text, capacity, asciiOnly);
+    return asciiOnly ? PutQuoted<true, true>(at, text, capacity) : PutQuoted<true, false>(at, text, capacity);
 }
 
 void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {
@@ -179,7 +202,7 @@ void TextWriter::String(std::string_view text) noexcept {
     if (char* const at = Room(TextRoom(text.size()))) [[likely]] {
         char* const to = Separated(at);
         first_ = false;
-        next_ = PutQuoted<false>(to, text.data(), text.size(), false);
+        next_ = PutQuoted<false, false>(to, text.data(), text.size());
         return;
     }
     Separate();
@@ -189,7 +212,7 @@ void TextWriter::String(std::string_view text) noexcept {
 void TextWriter::Key(std::string_view key) noexcept {
     constexpr std::string_view kColon = " : ";
     if (char* const at = Room(TextRoom(key.size()) + kColon.size())) [[likely]] {
-        char* const end = PutQuoted<false>(Separated(at), key.data(), key.size(), false);
+        char* const end = PutQuoted<false, false>(Separated(at), key.data(), key.size());
         std::memcpy(end, kColon.data(), kColon.size());
         next_ = end + kColon.size();
     } else {
