@@ -16,17 +16,24 @@ constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out witho
 [[maybe_unused]] char* PutFour(char* at, std::uint32_t below10000) noexcept {
     return PutPair(PutPair(at, below10000 / 100), below10000 % 100);
 }
-// Eight digits at once: the number is halved into fours, pairs and single digits, each in a lane of its own.
-char* PutEight(char* at, std::uint32_t number) noexcept {
-    if constexpr (std::endian::native != std::endian::little)
-        return PutFour(PutFour(at, number / 10000), number % 10000);
+constexpr bool kIsLittle = std::endian::native == std::endian::little;
+
+// Eight digits at once, the first lowest: the number is halved into fours, pairs and single digits, each in a lane of
+// its own.
+std::uint64_t EightDigits(std::uint32_t number) noexcept {
     const std::uint64_t fours = number / 10000 | std::uint64_t{number % 10000} << 32;
     const std::uint64_t hundreds = (fours * 10486 >> 20) & 0x0000007F0000007F; // a hundredth of 2^20, and a little more
     const std::uint64_t pairs = hundreds | (fours - hundreds * 100) << 16;
     const std::uint64_t tens = (pairs * 103 >> 10) & 0x000F000F000F000F;
-    const std::uint64_t digits = (tens | (pairs - tens * 10) << 8) + 0x3030303030303030;
-    std::memcpy(at, &digits, 8);
-    return at + 8;
+    return (tens | (pairs - tens * 10) << 8) + 0x3030303030303030;
+}
+char* PutWord(char* at, std::uint64_t letters) noexcept {
+    std::memcpy(at, &letters, sizeof letters);
+    return at + sizeof letters;
+}
+char* PutEight(char* at, std::uint32_t number) noexcept {
+    if constexpr (!kIsLittle) return PutFour(PutFour(at, number / 10000), number % 10000);
+    return PutWord(at, EightDigits(number));
 }
 
 // Lays the digits out as "%#.16g" does for exponents from -4 to 15. Copies go in whole blocks: `digits` has as many
@@ -43,6 +50,19 @@ char* LayOut(const char* digits, int exponent, char* out) noexcept {
     out[whole] = '.';
     std::memcpy(out + whole + 1, digits + whole, kPrecision);
     return out + kPrecision + 1;
+}
+
+// The same for digits in words, the first lowest, and exponents below 7: nothing that was stored is loaded again.
+char* LayOutWords(std::uint64_t first, std::uint64_t last, int exponent, char* out) noexcept {
+    if (exponent < 0) {
+        PutWord(out, 0x3030303030302E30); // "0.000000"
+        return PutWord(PutWord(out + 1 - exponent, first), last);
+    }
+    const int whole = 8 * (exponent + 1); // bits in front of the point
+    const std::uint64_t inFront = (std::uint64_t{1} << whole) - 1;
+    char* const end = PutWord(PutWord(out + 1, first), last);
+    PutWord(out, (first & inFront) | std::uint64_t{'.'} << whole | (first & ~inFront) << 8);
+    return end;
 }
 
 #if defined(__SIZEOF_INT128__)
@@ -97,9 +117,11 @@ char* PutOrdinary(char* at, double magnitude) noexcept {
         digits = kPowers[kPrecision - 1];
         ++exponent;
     }
+    const auto first = static_cast<std::uint32_t>(digits / kPowers[8]);
+    const auto last = static_cast<std::uint32_t>(digits % kPowers[8]);
+    if (kIsLittle && exponent < 7) return LayOutWords(EightDigits(first), EightDigits(last), exponent, at);
     char text[2 * kPrecision];
-    PutEight(text, static_cast<std::uint32_t>(digits / kPowers[8]));
-    PutEight(text + 8, static_cast<std::uint32_t>(digits % kPowers[8]));
+    PutEight(PutEight(text, first), last);
     std::memset(text + kPrecision, '0', kPrecision);
     return LayOut(text, exponent, at);
 }
