@@ -25,6 +25,9 @@ class Pen {
     // Whether there is room for a separator and `size` bytes more.
     bool has(std::size_t size) const noexcept { return size + kSeparator <= static_cast<std::size_t>(end_ - at_); }
 
+    // How much room there is.
+    std::size_t room() const noexcept { return static_cast<std::size_t>(end_ - at_); }
+
     // What a padded key may take beyond its own bytes.
     static constexpr std::size_t kPadding = 32;
     // A key that is written already, as in `"Enable" : `, with `, ` in front of it and kPadding bytes behind it that
@@ -56,16 +59,20 @@ class Pen {
         separator_ = kSeparator;
         return true;
     }
-    // Opens an object as the value of the key just written; needs room for two bytes.
-    void BeginObject() noexcept {
-        std::memcpy(at_, "{ ", 2);
-        at_ += 2;
-        separator_ = 0;
+    // Opens an object or an array, as an element or as the value of a key; ends it. Each needs room for two bytes.
+    void BeginObject() noexcept { Begin("{ "); }
+    void EndObject() noexcept { End(" }"); }
+    void BeginArray() noexcept { Begin("[ "); }
+    void EndArray() noexcept { End(" ]"); }
+    // The element before once more, `size` bytes; needs room for them.
+    void Again(std::size_t size) noexcept {
+        std::memcpy(at_, ", ", kSeparator);
+        std::memcpy(at_ + kSeparator, at_ - size, size);
+        at_ += kSeparator + size;
     }
-    void EndObject() noexcept {
-        std::memcpy(at_, " }", 2);
-        at_ += 2;
-        separator_ = kSeparator;
+    // Length of the one element that was put since `before`.
+    std::size_t LengthOfElementSince(const Pen& before) const noexcept {
+        return static_cast<std::size_t>(at_ - before.at_) - before.separator_;
     }
     // Whether nothing was written since `other` stood here.
     bool isAt(const Pen& other) const noexcept { return at_ == other.at_; }
@@ -98,6 +105,19 @@ class Pen {
     }
 
   private:
+    void Begin(const char* bracket) noexcept {
+        std::memcpy(at_, ", ", kSeparator);
+        at_ += separator_;
+        std::memcpy(at_, bracket, 2);
+        at_ += 2;
+        separator_ = 0;
+    }
+    void End(const char* bracket) noexcept {
+        std::memcpy(at_, bracket, 2);
+        at_ += 2;
+        separator_ = kSeparator;
+    }
+
     static constexpr std::size_t kSeparator = TextWriter::kSeparator;
 
     char* at_;

@@ -280,8 +280,6 @@ void ReadPlainly(const Table& table, const Node& node, const Value& value, std::
         return;
     case Plainly::Function:
     case Plainly::No:
-    case Plainly::List:
-    case Plainly::Nothing:
         return;
     }
 }

@@ -25,8 +25,8 @@ struct PackedItems;
 
 namespace orrery::record {
 
-// Rows whose words say nothing of a direction go a short way in it: what it needs of them stands in the node, and the
-// row itself is not looked at.
+// Rows whose words say nothing of reading go a short way: what it needs of them stands in the node, and the row itself
+// is not looked at.
 enum class Plainly : std::uint8_t {
     No,
     Switch,   // a bool in a 32-bit member
@@ -39,8 +39,30 @@ enum class Plainly : std::uint8_t {
     Inner,    // a record through another table
     Element,  // one value of another codec
     Function, // the row's own function
-    List,     // elements, whatever their words; on writing only
-    Nothing,  // a row that is only read; on writing only
+};
+// The same of writing. A presence flag, or a member that the key is written by, stands in the node as well.
+enum class Way : std::uint8_t {
+    Row, // what the row says, whatever its words
+    // One value:
+    Switch,
+    SwitchAtOne, // true at exactly 1
+    Number,
+    Integer,
+    Fraction,
+    Local,
+    Raw,
+    Named,
+    // Others:
+    NumberUnless, // a Number that is left out at one value, which the row tells
+    Mask,         // a list of numbers from bits
+    Numbers,      // an array of 32-bit numbers, each a row of a record
+    Tuple,        // an array of values, each a row of a record
+    Object,       // a record whose writing is writing its keys
+    Inner,        // a record that its table may hold back, or that something stands for
+    Element,      // one value of another codec
+    Function,     // the row's own function
+    List,         // elements, whatever their words
+    Nothing,      // a row that is only read
 };
 // Longer keys stand in no node that is written the short way, so that one look at the room is enough for any.
 inline constexpr std::size_t kLongestPlainKey = 100;
@@ -56,23 +78,27 @@ struct Node {
     std::uint16_t firstChild = 0;
     std::uint16_t childCount = 0; // above 0: an object inside the object
     std::uint16_t childLastAbsent = 0;
-    bool needsAbsent = false; // looked at also when the key is absent
-    bool staysNull = false;   // an object inside the object that is written as null when it has no keys
     Plainly readPlainly = Plainly::No;
-    Plainly writePlainly = Plainly::No;
-    // Of the row, for the short way:
-    std::uint32_t offset = 0;
-    std::uint32_t elementSize = 0;
-    Slot flag;
+    Way way = Way::Row;
+    // Of the row, for the short ways:
     std::uint16_t reference = 0; // of its name table or table among the table's references
+    std::uint32_t offset = 0;
+    std::uint32_t elementSize = 0; // of a mask the size of all its words
+    Slot flag;
+    std::uint32_t gate = Slot::kNone; // what must be set for the key to be written
+    Cell gateCell = Cell::I32;
     Cell cell = Cell::I32;
     Kind kind = Kind::None;
+    bool needsAbsent : 1 = false; // looked at also when the key is absent
     // For reading from the text:
-    bool listed = false;  // an array that says nothing but its elements and their count
-    bool shared = false;  // the node behind it, or in front of it, has the same key
-    bool ordered = false; // what it stores depends on which of it and another node comes first
+    bool listed : 1 = false;  // an array that says nothing but its elements and their count
+    bool shared : 1 = false;  // the node behind it, or in front of it, has the same key
+    bool ordered : 1 = false; // what it stores depends on which of it and another node comes first
     // For writing:
-    bool unlessBare = false; // a record that is left out when it writes no keys
+    bool staysNull : 1 = false; // an object inside the object, or a mask, that is written as null when nothing is in it
+    bool unlessBare : 1 = false; // a record, or a mask, that is left out when nothing is in it
+
+    constexpr bool isGated() const { return gate != Slot::kNone; }
 };
 static_assert(sizeof(Node) == 48);
 
@@ -144,6 +170,7 @@ struct Table {
     bool inText = false;         // its object, or its tuple, is read member by member from the text
     bool anyOrder = false;       // keys may come in any order when it is read so
     bool partsAskRoot = false;   // some record inside it has keys that start at the document
+    bool isNumbers = false;      // its values, if it is a tuple, are 32-bit numbers
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
@@ -157,9 +184,11 @@ struct Table {
         return *static_cast<const NameTable*>(references[node.reference]);
     }
     const Table& tableOf(const Node& node) const { return *static_cast<const Table*>(references[node.reference]); }
+    // Whether it is let out, whatever it holds.
+    constexpr bool isAlwaysWritten() const { return !guarded && writes == nullptr; }
     // Whether writing it is writing its keys: nothing holds it back, and nothing stands for it or among them.
-    bool isPlainObject() const {
-        return shape == Shape::Object && self.count == 0 && amongKeys == nullptr && !guarded && writes == nullptr;
+    constexpr bool isPlainObject() const {
+        return shape == Shape::Object && self.count == 0 && amongKeys == nullptr && isAlwaysWritten();
     }
     const Field* begin() const { return rows; }
     const Field* end() const { return rows + rowCount; }
@@ -223,17 +252,17 @@ constexpr bool Before(std::string_view left, std::string_view right) {
     return leftParts < rightParts;
 }
 
-// How one value of a row without words goes, by its codec in either direction.
-constexpr Plainly PlainValue(const Field& row, Kind kind, Plainly other) {
+// How one value of a row without words is read.
+constexpr Plainly PlainValue(const Field& row) {
     if (row.rank > 0 || row.cell == Cell::Pointer || row.wholeMember) return Plainly::No;
     const bool isReal = row.cell == Cell::F32 || row.cell == Cell::F64;
-    switch (kind) {
+    switch (row.kind) {
     case Kind::Bool:
-        return row.cell == Cell::I32 ? Plainly::Switch : isReal ? other : Plainly::Integer;
+        return row.cell == Cell::I32 ? Plainly::Switch : isReal ? Plainly::Element : Plainly::Integer;
     case Kind::Int:
-        return row.cell == Cell::I32 ? Plainly::Number : isReal ? other : Plainly::Integer;
+        return row.cell == Cell::I32 ? Plainly::Number : isReal ? Plainly::Element : Plainly::Integer;
     case Kind::UInt:
-        return isReal ? other : Plainly::Integer;
+        return isReal ? Plainly::Element : Plainly::Integer;
     case Kind::Real:
         return Plainly::Fraction;
     case Kind::Text:
@@ -245,7 +274,7 @@ constexpr Plainly PlainValue(const Field& row, Kind kind, Plainly other) {
     case Kind::Record:
         return Plainly::Inner;
     default:
-        return other;
+        return Plainly::Element;
     }
 }
 // The name table or the table that a row's node refers to.
@@ -253,49 +282,101 @@ constexpr const void* ReferenceOf(const Field& row) {
     if (row.kind == Kind::Names) return row.names;
     return row.kind == Kind::Record ? static_cast<const void*>(row.table) : nullptr;
 }
-// A row goes the short way in a direction when its words leave that direction alone.
+// A row is read the short way when its words say nothing of reading.
 constexpr Plainly ReadPlainly(const Field& row) {
     ReadingWords words = row;
     words.always = false; // the node knows
     if (words != ReadingWords{} || static_cast<const ListWords&>(row) != ListWords{} || !row.readable)
         return Plainly::No;
-    return row.kind == Kind::Custom ? Plainly::Function : PlainValue(row, row.kind, Plainly::Element);
+    return row.kind == Kind::Custom ? Plainly::Function : PlainValue(row);
 }
-// A codec that always writes one value under the row's key.
-constexpr Plainly WritesElement(const Field& row) {
-    switch (row.kind) {
-    case Kind::Schedule:
-    case Kind::SectionList:
-        return row.wholeMember ? Plainly::Element : Plainly::No;
+// How a record inside another is written.
+constexpr Way WayOfRecord(const Table& table) {
+    if (table.isPlainObject()) return Way::Object;
+    if (table.shape == Shape::Object || !table.isAlwaysWritten()) return Way::Inner;
+    return table.isNumbers ? Way::Numbers : Way::Tuple;
+}
+// How a row is written that says nothing of writing but its codec, and that is no list.
+constexpr Way WayOfCodec(const Field& row) {
+    const bool isReal = row.cell == Cell::F32 || row.cell == Cell::F64;
+    const bool isOwn = row.kind == row.writtenAs; // else the node has another codec, and the row no other table
+    if (row.wholeMember) {
+        switch (row.writtenAs) {
+        case Kind::BitMask:
+        case Kind::BitMaskLoose:
+            return Way::Mask;
+        case Kind::Schedule:
+        case Kind::SectionList:
+            return Way::Element;
+        default:
+            return Way::Row;
+        }
+    }
+    switch (row.writtenAs) {
     case Kind::Bool:
+        if (row.cell == Cell::I32) return row.trueAtOne ? Way::SwitchAtOne : Way::Switch;
+        return isReal ? Way::Element : isOwn && !row.trueAtOne ? Way::Integer : Way::Row;
     case Kind::Int:
+        if (row.cell == Cell::I32) return Way::Number;
+        return isReal ? Way::Element : isOwn ? Way::Integer : Way::Row;
     case Kind::UInt:
+        return isReal ? Way::Element : isOwn ? Way::Integer : Way::Row;
+    case Kind::Real:
+        return isReal ? Way::Fraction : Way::Row;
+    case Kind::Text:
+        return Way::Local;
+    case Kind::RawText:
+        return Way::Raw;
+    case Kind::Names:
+        return isOwn ? Way::Named : Way::Row;
+    case Kind::Record:
+        return isOwn ? WayOfRecord(*row.table) : Way::Row;
     case Kind::FullText:
     case Kind::TimeSection:
     case Kind::HolidaySchedule:
     case Kind::NetTime:
     case Kind::NetTimeEx:
     case Kind::ClockTime:
-        return row.wholeMember ? Plainly::No : Plainly::Element;
+        return Way::Element;
+    case Kind::Size:
+    case Kind::Presence:
+    case Kind::MemberName:
+    case Kind::MemberCode:
+    case Kind::Date:
+    case Kind::UtcTime:
+        return Way::Nothing;
     default:
-        return Plainly::No;
+        return Way::Row;
     }
 }
-constexpr Plainly WritePlainly(const Field& row) {
-    if (!row.writable) return Plainly::Nothing;
-    const bool isList = (row.rank > 0 || row.cell == Cell::Pointer) && !row.wholeMember && !row.single;
-    if (!row.amongKeys && !row.linkage && !row.condition.exists() && row.when == nullptr) {
-        if (row.kind == Kind::Custom) return Plainly::Function;
-        if (isList) return Plainly::List;
-    }
+constexpr bool IsMask(const Field& row) {
+    return row.wholeMember && (row.writtenAs == Kind::BitMask || row.writtenAs == Kind::BitMaskLoose);
+}
+// What the key of a row is written by, when it is one member.
+constexpr Slot GateOf(const Field& row) {
+    return row.flag.exists() ? row.flag : row.condition;
+}
+constexpr Way WayOf(const Field& row) {
+    if (!row.writable) return Way::Nothing;
+    if (row.amongKeys || row.linkage || row.when != nullptr || (row.flag.exists() && row.condition.exists()))
+        return Way::Row;
+    if (row.kind == Kind::Custom) return Way::Function;
+    const bool isList = (row.rank > 0 || row.cell == Cell::Pointer) && !row.wholeMember;
+    if (isList) return row.single ? Way::Row : Way::List;
     WritingWords words = row;
-    words.keepsObject = false; // the node knows
-    words.unlessBare = false;  // as of this
-    if (words != WritingWords{} || static_cast<const ListWords&>(row) != ListWords{} || row.kind != row.writtenAs
-        || row.kind == Kind::Custom)
-        return Plainly::No;
-    if (row.wholeMember) return WritesElement(row);
-    return PlainValue(row, row.kind, WritesElement(row));
+    // The node knows of these.
+    words.condition = {};
+    words.keepsObject = false;
+    words.unlessBare = false;
+    if (row.writtenAs == Kind::Bool) words.trueAtOne = false;
+    if (IsMask(row)) words.empty = Empty::NoKey;
+    const bool isLeftOut = words.hasUnless;
+    words.hasUnless = false;
+    words.unless = 0;
+    if (words != WritingWords{} || static_cast<const ListWords&>(row) != ListWords{}) return Way::Row;
+    if (row.kind == Kind::Record && row.writtenAs != Kind::Record) return Way::Row; // its table may hold it back
+    const Way way = WayOfCodec(row);
+    return !isLeftOut ? way : way == Way::Number ? Way::NumberUnless : Way::Row;
 }
 
 // An array of which the words say nothing but how its count is told.
@@ -462,14 +543,17 @@ struct Tree {
 
     constexpr void SetRow(Node& node, const Field& row) {
         node.readPlainly = ReadPlainly(row);
-        node.writePlainly = node.keySize <= kLongestPlainKey ? WritePlainly(row) : Plainly::No;
+        node.way = node.keySize <= kLongestPlainKey ? WayOf(row) : Way::Row;
         node.offset = row.offset;
-        node.elementSize = row.elementSize;
+        node.elementSize = node.way == Way::Mask ? row.size : row.elementSize;
         node.flag = row.flag;
+        node.gate = GateOf(row).offset;
+        node.gateCell = GateOf(row).cell;
         node.cell = row.cell;
         node.kind = row.kind;
         node.listed = IsPlainList(row);
-        node.unlessBare = row.unlessBare;
+        node.staysNull = node.way == Way::Mask && row.empty == Empty::Null;
+        node.unlessBare = node.way == Way::Mask ? row.empty == Empty::NoKey : row.unlessBare;
     }
 
     // In the order of their places, so that neighbours become one run.
@@ -636,6 +720,10 @@ consteval TypedTable<typename Rows::R> MakeTable(const char* name) {
         if (hasPart && (row.table->fromRoot.count > 0 || row.table->partsAskRoot)) table.partsAskRoot = true;
         table.anyOrder = table.anyOrder && build::TakesAnyOrder(row);
     }
+    const auto* const self = table.nodes + table.self.first;
+    table.isNumbers = table.self.count > 0 && std::all_of(self, self + table.self.count, [](const Node& node) {
+                          return node.way == Way::Number && !node.isGated();
+                      });
     // Rows whose key is "" ask for the object as a whole, as do lists among its keys.
     table.inText = table.amongKeys == nullptr && table.members.count <= kMostInText;
     return table;

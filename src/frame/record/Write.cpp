@@ -9,10 +9,6 @@ namespace orrery::record {
 
 namespace {
 
-bool IsMaskEmpty(const Field& field, const std::byte* at) noexcept {
-    return *at == std::byte{0} && std::memcmp(at, at + 1, field.size - 1) == 0;
-}
-
 // An object is opened at once where its place is open; if `write` finds nothing to put in it, what stands there is
 // taken back, and that it was empty is the answer. Elsewhere it is opened with the first key inside it.
 template <class Write>
@@ -71,7 +67,7 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
     const std::byte* const at = record + field.offset;
     if (field.wholeMember) {
         if (field.empty != Empty::Array && field.kind != Kind::Schedule && field.kind != Kind::SectionList
-            && IsMaskEmpty(field, at)) {
+            && IsZero(at, field.size)) {
             if (field.empty == Empty::NoKey) return;
             call.Key();
             return call.out.Null();
@@ -123,18 +119,21 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
 
 void WriteNode(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept {
     const std::string_view key = table.quotedKeyOf(node);
-    switch (node.writePlainly) {
-    case Plainly::Nothing:
+    switch (node.way) {
+    case Way::Nothing:
         return;
-    case Plainly::Inner:
+    case Way::Numbers:
+    case Way::Tuple:
+    case Way::Object:
+    case Way::Inner:
         return WriteInner(table, node, record, call);
-    case Plainly::Element:
+    case Way::Element:
         call.Quoted(key);
         return WriteElement(table.rows[node.row], record + node.offset, call);
-    case Plainly::List:
+    case Way::List:
         call.quotedKey = key;
         return WriteList(table.rows[node.row], record, call);
-    case Plainly::Function: {
+    case Way::Function: {
         const Field& field = table.rows[node.row];
         if (field.custom->write == nullptr) return;
         call.quotedKey = key;

@@ -114,12 +114,10 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
         return call.out.EndArray();
     }
     const int inner = field.cell == Cell::Pointer ? field.rank : 1;
-    if (field.writtenAs == Kind::Record && !field.keyed && inner == field.rank && IsAlwaysWritten(*field.table)) {
+    if (field.writtenAs == Kind::Record && !field.keyed && inner == field.rank && field.table->isAlwaysWritten()) {
         call.Key();
         call.out.BeginArray();
-        const std::byte* at = elements.first;
-        for (std::uint32_t i = 0; i < elements.count; ++i, at += stride)
-            WriteRecord(*field.table, at, call);
+        WriteRecords(*field.table, elements.first, elements.count, stride, call);
         return call.out.EndArray();
     }
     std::uint32_t end = elements.count;

@@ -13,6 +13,9 @@ double LoadReal(const Field& field, const std::byte* at) noexcept;
 const Name* NameAt(const Field& field, const std::byte* at) noexcept;
 
 bool IsElementWritten(const Field& field, const std::byte* at) noexcept;
+// The numbers of the bits that are set in `size` bytes of words; nothing when there are none.
+bool IsZero(const std::byte* at, std::size_t size) noexcept;
+void WriteMask(const std::byte* at, std::size_t size, json::TextWriter& out) noexcept;
 // One element as a value. What has no text of its own is null in its place.
 void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noexcept;
 // The elements of a member from a level of its dimensions on.
@@ -31,32 +34,24 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
 
 // Whether a node is one value whose row says nothing of writing.
 inline bool IsScalar(const Node& node) noexcept {
-    return node.writePlainly >= Plainly::Switch && node.writePlainly <= Plainly::Named;
+    return node.way >= Way::Switch && node.way <= Way::Named;
 }
-// Whether the row's presence flag, if it has one, lets it out.
-inline bool IsFlagged(const Node& node, const std::byte* record) noexcept {
-    if (!node.flag.exists()) return true;
-    const std::byte* const flag = record + node.flag.offset;
-    switch (node.flag.cell) {
-    case Cell::I8:
-    case Cell::U8:
-        return *flag != std::byte{0};
-    case Cell::I32:
-    case Cell::U32:
-        return Load<std::uint32_t>(flag) != 0;
-    default:
-        return LoadInteger(node.flag.cell, flag) != 0;
-    }
+// Whether what the node's row is written by, if there is such a member, lets it out.
+inline bool IsLetOut(const Node& node, const std::byte* record) noexcept {
+    if (!node.isGated()) return true;
+    const std::byte* const gate = record + node.gate;
+    if (node.gateCell <= Cell::U8) [[likely]]
+        return *gate != std::byte{0};
+    return LoadInteger(node.gateCell, gate) != 0;
 }
 // What a row says, whatever its words; `call` has its key.
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept;
 // The array that a record stands as.
 void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept;
-// Whether a record is let out, whatever it holds.
-inline bool IsAlwaysWritten(const Table& table) noexcept {
-    return !table.guarded && table.writes == nullptr;
-}
-// Writes what a node says that is no scalar and is let out by its flag.
+// Records one behind the other as the elements of an array; their table lets all of them out.
+void WriteRecords(const Table& table, const std::byte* first, std::uint32_t count, std::uint32_t stride,
+                  WriteCall& call) noexcept;
+// Writes what a node says that is no scalar and is let out.
 void WriteNode(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept;
 
 } // namespace orrery::record

@@ -16,34 +16,6 @@ std::int64_t LoadWhole(const Field& field, const std::byte* at) noexcept {
     return number > -2147483649.0 && number < 4294967296.0 ? static_cast<std::int64_t>(number) : 0;
 }
 
-bool IsZero16(const std::byte* at) noexcept {
-    return (Load<std::uint64_t>(at) | Load<std::uint64_t>(at + 8)) == 0;
-}
-
-void WriteBitMask(const Field& field, const std::byte* at, WriteCall& call) noexcept {
-    call.out.BeginArray();
-    json::Pen pen(call.out);
-    const std::uint32_t words = field.dims[0];
-    for (std::uint32_t word = 0; word < words; ++word) {
-        // Most of a mask is zero.
-        while (word + 4 <= words && IsZero16(at + word * std::size_t{4}))
-            word += 4;
-        if (word == words) break;
-        for (auto bits = Load<std::uint32_t>(at + word * std::size_t{4}); bits != 0; bits &= bits - 1) {
-            const std::uint32_t number = word * 32 + static_cast<std::uint32_t>(std::countr_zero(bits));
-            if (pen.has(json::kIntegerRoom)) [[likely]] {
-                pen.Element([number](char* to) { return json::PutDigits(to, number); });
-                continue;
-            }
-            pen.Return(call.out);
-            call.out.UInt(number);
-            pen = json::Pen(call.out);
-        }
-    }
-    pen.Return(call.out);
-    call.out.EndArray();
-}
-
 void WriteSwitches(const Field& field, const std::byte* at, WriteCall& call) noexcept {
     call.out.BeginArray();
     for (std::uint32_t i = 0; i < field.dims[0]; ++i) {
@@ -53,6 +25,37 @@ void WriteSwitches(const Field& field, const std::byte* at, WriteCall& call) noe
 }
 
 } // namespace
+
+bool IsZero(const std::byte* at, std::size_t size) noexcept {
+    std::uint32_t any = 0;
+    for (std::size_t i = 0; i < size; i += sizeof any)
+        any |= Load<std::uint32_t>(at + i);
+    return any == 0;
+}
+
+void WriteMask(const std::byte* at, std::size_t size, json::TextWriter& out) noexcept {
+    out.BeginArray();
+    json::Pen pen(out);
+    constexpr std::size_t kWord = sizeof(std::uint32_t), kBlock = 32;
+    for (std::size_t i = 0; i < size; i += kWord) {
+        // Most of a mask is zero.
+        while (i + kBlock <= size && IsZero(at + i, kBlock))
+            i += kBlock;
+        if (i == size) break;
+        for (auto bits = Load<std::uint32_t>(at + i); bits != 0; bits &= bits - 1) {
+            const auto number = static_cast<std::uint32_t>(8 * i) + static_cast<std::uint32_t>(std::countr_zero(bits));
+            if (pen.has(json::kIntegerRoom)) [[likely]] {
+                pen.Element([number](char* to) { return json::PutDigits(to, number); });
+                continue;
+            }
+            pen.Return(out);
+            out.UInt(number);
+            pen = json::Pen(out);
+        }
+    }
+    pen.Return(out);
+    out.EndArray();
+}
 
 double LoadReal(const Field& field, const std::byte* at) noexcept {
     switch (field.cell) {
@@ -145,7 +148,7 @@ void WriteElement(const Field& field, const std::byte* at, WriteCall& call) noex
         break;
     case Kind::BitMask:
     case Kind::BitMaskLoose:
-        WriteBitMask(field, at, call);
+        WriteMask(at, field.size, out);
         break;
     case Kind::Switches:
         WriteSwitches(field, at, call);
