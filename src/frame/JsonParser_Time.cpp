@@ -109,54 +109,10 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
     out.String({text, static_cast<std::size_t>(end - text)});
 }
 
-// Of a section in quotes, and what a store of it takes beyond.
+// Of a section in quotes.
 constexpr std::size_t kSectionText = 21;
-constexpr std::size_t kSectionRoom = 24;
+constexpr std::size_t kSectionStep = kSectionText + 2; // to the same byte of the section behind it
 constexpr char kEmptySection[] = "\"0 00:00:00-00:00:00\"";
-
-// The counterpart of ReadUsualSection: a week has 42 of them or 70. Null when a field has more digits than usual.
-char* PutUsualSection(char* to, const void* section) noexcept {
-    const auto* const at = static_cast<const std::byte*>(section);
-#if ORRERY_SSE2
-    // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
-    const auto load = [at](std::size_t field) {
-        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + 4 * field));
-    };
-    const __m128i numbers = _mm_packs_epi32(load(0), load(3));
-    const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
-    const __m128i outside = _mm_subs_epu16(numbers, most);
-    if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return nullptr;
-    const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
-    const __m128i ones = _mm_sub_epi16(numbers, _mm_mullo_epi16(tens, _mm_set1_epi16(10)));
-    const __m128i digits = _mm_add_epi16(_mm_or_si128(tens, _mm_slli_epi16(ones, 8)), _mm_set1_epi16(0x3030));
-    // Two letters a number, the first lowest.
-    const auto put = [to, digits]<int Lane>(std::integral_constant<int, Lane>, std::size_t field) {
-        const auto pair = static_cast<std::uint16_t>(_mm_extract_epi16(digits, Lane));
-        std::memcpy(to + 3 * field, &pair, 2);
-    };
-    std::memcpy(to, kEmptySection, kSectionText);
-    to[1] = static_cast<char>(_mm_cvtsi128_si32(digits) >> 8 & 0xFF);
-    put(std::integral_constant<int, 1>{}, 1);
-    put(std::integral_constant<int, 2>{}, 2);
-    put(std::integral_constant<int, 3>{}, 3);
-    put(std::integral_constant<int, 5>{}, 4);
-    put(std::integral_constant<int, 6>{}, 5);
-    put(std::integral_constant<int, 7>{}, 6);
-#else
-    std::uint32_t fields[kSectionFields];
-    std::uint32_t outside = 0; // its highest bit is set when a field is
-    for (int i = 0; i < kSectionFields; ++i) {
-        std::memcpy(&fields[i], at + 4 * i, 4);
-        outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
-    }
-    if (outside >> 31 != 0) return nullptr;
-    std::memcpy(to, kEmptySection, kSectionText);
-    to[1] = static_cast<char>('0' + fields[0]);
-    for (int i = 1; i < kSectionFields; ++i)
-        json::PutPair(to + 3 * i, fields[i]);
-#endif
-    return to + kSectionText;
-}
 
 // The first and the last sixteen bytes of a section.
 struct SectionBytes {
@@ -180,46 +136,79 @@ struct SectionBytes {
     }
 };
 
+// The counterpart of ReadUsualSection: a week has 42 of them or 70. Null when a field has more digits than usual.
+char* PutUsualSection(char* to, const SectionBytes& section) noexcept {
+#if ORRERY_SSE2
+    // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
+    const __m128i numbers = _mm_packs_epi32(section.first, section.last);
+    const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
+    const __m128i outside = _mm_subs_epu16(numbers, most);
+    if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return nullptr;
+    // Two letters a number, the tens lower: 256 times what is behind the tens, and the tens.
+    const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
+    const __m128i pairs = _mm_sub_epi16(_mm_slli_epi16(numbers, 8), _mm_mullo_epi16(tens, _mm_set1_epi16(2559)));
+    const __m128i digits = _mm_add_epi16(pairs, _mm_set1_epi16(0x3030));
+    const auto put = [to, digits]<int Lane>(std::integral_constant<int, Lane>, std::size_t field) {
+        const auto pair = static_cast<std::uint16_t>(_mm_extract_epi16(digits, Lane));
+        std::memcpy(to + 3 * field, &pair, 2);
+    };
+    std::memcpy(to, kEmptySection, kSectionText);
+    to[1] = static_cast<char>(_mm_cvtsi128_si32(digits) >> 8 & 0xFF);
+    put(std::integral_constant<int, 1>{}, 1);
+    put(std::integral_constant<int, 2>{}, 2);
+    put(std::integral_constant<int, 3>{}, 3);
+    put(std::integral_constant<int, 5>{}, 4);
+    put(std::integral_constant<int, 6>{}, 5);
+    put(std::integral_constant<int, 7>{}, 6);
+#else
+    std::uint32_t fields[kSectionFields + 1]; // the second of the first clock twice
+    std::memcpy(fields, section.first, sizeof section.first);
+    std::memcpy(fields + 3, section.last, sizeof section.last);
+    std::uint32_t outside = 0; // its highest bit is set when a field is
+    for (int i = 0; i < kSectionFields; ++i)
+        outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
+    if (outside >> 31 != 0) return nullptr;
+    std::memcpy(to, kEmptySection, kSectionText);
+    to[1] = static_cast<char>('0' + fields[0]);
+    for (int i = 1; i < kSectionFields; ++i)
+        json::PutPair(to + 3 * i, fields[i]);
+#endif
+    return to + kSectionText;
+}
+
 // As many of the sections as are usual and find room; answers how many. The one before often comes again.
-int WriteUsualSections(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
+int PutUsualSections(json::Pen& place, const CFG_TIME_SECTION* sections, int count) noexcept {
+    json::Pen pen = place; // in registers
+    const std::size_t room = pen.room() / kSectionStep;
+    if (room < static_cast<std::size_t>(std::max(count, 0))) count = static_cast<int>(room);
     if (count <= 0) return 0;
-    constexpr std::size_t kBack = kSectionText + 2; // to the text of the section before
-    json::Pen pen(out);
-    int written = 0;
     SectionBytes before(sections);
-    for (; written < count && pen.has(kSectionRoom); ++written) {
+    int written = 0;
+    for (; written < count; ++written) {
         const SectionBytes bytes(sections + written);
         if (written > 0 && bytes == before) {
-            pen.Element([](char* to) { return json::CopyShort(to, to - kBack, kSectionText); });
+            pen.Element([](char* to) { return json::CopyShort(to, to - kSectionStep, kSectionText); });
             continue;
         }
         before = bytes;
-        if (!pen.TryElement([&](char* to) { return PutUsualSection(to, sections + written); })) break;
+        if (!pen.TryElement([&](char* to) { return PutUsualSection(to, bytes); })) break;
     }
-    pen.Return(out);
+    place = pen;
     return written;
 }
 
-// Elements of a list of which those that are equal to the one before repeat its text.
-class Repeated {
-  public:
-    explicit Repeated(json::TextWriter& out) noexcept : out_(out) {}
-
-    template <class Write>
-    void Put(const void* element, std::size_t size, Write write) noexcept {
-        if (before_ != nullptr && std::memcmp(before_, element, size) == 0 && out_.Again(length_)) return;
-        before_ = element;
-        constexpr std::size_t kSeparator = 2;
-        const std::size_t start = out_.length() + (json::Pen(out_).isFirst() ? 0 : kSeparator);
-        write();
-        length_ = out_.length() - start;
+// A day of usual sections; false, with the pen where it was, when it is none or finds no room.
+bool PutUsualDay(json::Pen& pen, const CFG_TIME_SECTION* day, int sections) noexcept {
+    if (sections < 1 || !pen.has(4)) return false;
+    const json::Pen before = pen;
+    pen.BeginArray();
+    if (PutUsualSections(pen, day, sections) == sections && pen.has(2)) {
+        pen.EndArray();
+        return true;
     }
-
-  private:
-    json::TextWriter& out_;
-    const void* before_ = nullptr;
-    std::size_t length_ = 0; // of the text of the element before
-};
+    pen = before;
+    return false;
+}
 
 // The least of a caller's bound and what the document has; the bound is at least 1 here.
 int Limit(int bound, std::uint32_t size) noexcept {
@@ -233,7 +222,10 @@ bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* sect
 }
 
 void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
-    if (section != nullptr && WriteUsualSections(out, section, 1) == 1) return;
+    if (section != nullptr) {
+        json::Pen pen(out);
+        if (PutUsualSections(pen, section, 1) == 1) return pen.Return(out);
+    }
     WriteFields(out, section, kSectionFields, kSectionSeparators, kSectionWidths);
 }
 
@@ -265,13 +257,26 @@ bool JsonParser::SetTimeSchedule(json::TextWriter& out, const CFG_TIME_SECTION* 
 }
 
 void JsonParser::SetTimeDays(json::TextWriter& out, const CFG_TIME_SECTION* days, int count, int columns) noexcept {
-    // Most days of a week are like the day before.
-    Repeated day(out);
     const auto size = static_cast<std::size_t>(columns) * sizeof *days;
-    for (int i = 0; i < count; ++i) {
-        const CFG_TIME_SECTION* const at = days + std::ptrdiff_t{i} * columns;
-        day.Put(at, size, [&] { SetTimeSectionList(out, at, columns); });
+    std::size_t length = 0; // of the text of the day before; 0: it is not to be repeated
+    json::Pen pen(out);
+    for (int i = 0; i < count; ++i, days += columns) {
+        // Most days of a week are like the day before.
+        if (length > 0 && pen.has(length) && std::memcmp(days - columns, days, size) == 0) {
+            pen.Again(length);
+            continue;
+        }
+        const json::Pen before = pen;
+        if (PutUsualDay(pen, days, columns)) {
+            length = pen.LengthOfElementSince(before);
+            continue;
+        }
+        pen.Return(out);
+        SetTimeSectionList(out, days, columns);
+        pen = json::Pen(out);
+        length = 0;
     }
+    pen.Return(out);
 }
 
 bool JsonParser::GetHolidaySchedule(const json::Value& value, CFG_TIME_SCHEDULE* schedule) noexcept {
@@ -308,11 +313,14 @@ bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* 
 
 bool JsonParser::SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
     if (sections == nullptr || count < 1) return false;
-    out.BeginArray();
-    for (int i = 0; i < count; ++i) {
-        i += WriteUsualSections(out, sections + i, count - i);
-        if (i < count) SetTimeSection(out, sections + i);
+    json::Pen pen(out);
+    if (PutUsualDay(pen, sections, count)) {
+        pen.Return(out);
+        return true;
     }
+    out.BeginArray();
+    for (int i = 0; i < count; ++i)
+        SetTimeSection(out, sections + i);
     out.EndArray();
     return true;
 }

@@ -106,14 +106,6 @@ class TextWriter {
         lost_ = place.lost;
         first_ = place.first;
     }
-    // The element before once more: the last `size` bytes of the text. False when that can't be, and nothing is
-    // written.
-    bool Again(std::size_t size) noexcept {
-        char* const at = lost_ == 0 ? Room(size) : nullptr;
-        if (at == nullptr) return false;
-        next_ = CopyShort(Separated(at), at - size, size);
-        return true;
-    }
 
     // A whole value, of any depth and without recursion. False when `arena`, which holds the writer's place on the way
     // down, is exhausted.

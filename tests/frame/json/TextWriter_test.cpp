@@ -1,4 +1,4 @@
-#include "frame/json/TextWriter.h"
+#include "frame/json/Pen.h"
 
 #include "support/FailingAllocator.h"
 #include "support/GuardedBuffer.h"
@@ -277,19 +277,26 @@ TEST(TextWriter, WritesNoByteBeyondItsRoomAndCountsOn) {
 }
 
 // Elements that are like the one before.
-TEST(TextWriter, RepeatsElementsWithinItsRoom) {
-    const auto write = [](TextWriter& writer) {
-        writer.BeginArray();
-        for (int i = 0; i < 3; ++i) {
-            if (i == 0 || !writer.Again(13)) writer.CleanString("08:30:00-17");
-        }
-        writer.EndArray();
-    };
+TEST(Pen, RepeatsElementsWithinItsRoom) {
+    const std::string element = "\"08:30:00-17\"";
     const std::string whole = "[ \"08:30:00-17\", \"08:30:00-17\", \"08:30:00-17\" ]";
     for (std::size_t capacity = 0; capacity <= whole.size() + 20; ++capacity) {
         const test::GuardedBuffer room(capacity);
         TextWriter writer(room.data(), capacity);
-        write(writer);
+        writer.BeginArray();
+        std::size_t length = 0;
+        for (int i = 0; i < 3; ++i) {
+            Pen pen(writer);
+            if (length > 0 && pen.has(length)) {
+                pen.Again(length);
+                pen.Return(writer);
+                continue;
+            }
+            writer.CleanString("08:30:00-17");
+            length = writer.fits() ? Pen(writer).LengthOfElementSince(pen) : 0;
+            if (length > 0) EXPECT_EQ(length, element.size());
+        }
+        writer.EndArray();
         EXPECT_EQ(writer.length(), whole.size());
         const std::size_t kept = std::min(capacity, whole.size());
         EXPECT_EQ(std::string_view(room.data(), kept), std::string_view(whole).substr(0, kept)) << capacity;
