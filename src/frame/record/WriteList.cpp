@@ -1,5 +1,5 @@
 // Lists of a record, and records that stand under their names.
-#include "frame/json/Pen.h"
+#include "frame/record/PutValues.h"
 #include "frame/record/WriteParts.h"
 
 #include <algorithm>
@@ -70,6 +70,26 @@ void WriteNumbers(const std::byte* at, std::uint32_t count, std::uint32_t stride
     out.EndArray();
 }
 
+// Puts names and texts, up to the first element that finds no room, is converted or has no text; answers how many.
+std::uint32_t PutWords(const Field& field, const Elements& elements, json::TextWriter& out, LocalText& text) noexcept {
+    const bool areNames = field.writtenAs == Kind::Names && field.atMost == Field::kNoLimit;
+    if (!areNames && field.writtenAs != Kind::Text && field.writtenAs != Kind::RawText) return 0;
+    const TextWay way(field.writtenAs == Kind::Text, text);
+    const std::size_t room = areNames ? kNameRoom : json::TextRoom(field.elementSize);
+    const auto put = [&](char* to, const std::byte* at) -> char* {
+        if (areNames) return PutNamed(to, *field.names, static_cast<std::int32_t>(LoadInteger(field.cell, at)));
+        if (!way.copies) return nullptr;
+        return json::PutText(to, reinterpret_cast<const char*>(at), field.elementSize, way.asciiOnly);
+    };
+    json::Pen pen(out);
+    std::uint32_t i = 0;
+    for (const std::byte* at = elements.first; i < elements.count && pen.has(room); ++i, at += field.elementSize) {
+        if (!pen.TryElement([&](char* to) { return put(to, at); })) break;
+    }
+    pen.Return(out);
+    return i;
+}
+
 } // namespace
 
 std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& records, std::size_t growth,
@@ -134,7 +154,10 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     call.Key();
     if (IsPlainNumber(field) && inner == field.rank) return WriteNumbers(elements.first, end, stride, call.out);
     call.out.BeginArray();
-    for (std::uint32_t i = 0; i < end; ++i) {
+    std::uint32_t i = 0;
+    if (field.rank == 1 && field.cell != Cell::Pointer)
+        i = PutWords(field, {elements.first, end}, call.out, call.parser.text());
+    for (; i < end; ++i) {
         const std::byte* const at = elements.first + std::size_t{i} * stride;
         if (inner == field.rank || field.cell == Cell::Pointer) {
             if (IsElementWritten(field, at))

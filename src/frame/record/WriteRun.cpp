@@ -151,7 +151,9 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
             break;
         }
         case Way::Mask:
-            if ((node->staysNull || node->unlessBare) && IsZero(at, node->elementSize)) {
+            // Most have a channel among the first.
+            if ((node->staysNull || node->unlessBare) && Load<std::uint32_t>(at) == 0
+                && IsZero(at, node->elementSize)) {
                 if (node->staysNull) putNull();
                 break;
             }

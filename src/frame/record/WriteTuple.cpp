@@ -8,11 +8,11 @@ namespace {
 
 using json::Pen;
 
-// Writes the scalars from `node` on as elements of an array, up to the first node that is none or finds no room, is
+// Puts the scalars from `node` on as elements of an array, up to the first node that is none or finds no room, is
 // converted or has no text, which it answers.
-const Node* WriteElements(const Table& table, const Node* node, const Node* end, const std::byte* record,
-                          WriteCall& call) noexcept {
-    Pen pen(call.out);
+const Node* PutElements(Pen& place, const Table& table, const Node* node, const Node* end, const std::byte* record,
+                        const WriteCall& call) noexcept {
+    Pen pen = place; // in registers
     for (; node != end && pen.has(kValueRoom); ++node) {
         const std::byte* const at = record + node->offset;
         switch (node->way) {
@@ -44,7 +44,7 @@ const Node* WriteElements(const Table& table, const Node* node, const Node* end,
         }
         break;
     }
-    pen.Return(call.out);
+    place = pen;
     return node;
 }
 
@@ -54,19 +54,28 @@ void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) no
     const Node* node = table.nodes + table.self.first;
     const Node* const end = node + table.self.count;
     const auto outerKey = call.quotedKey;
-    call.out.BeginArray();
+    Pen pen(call.out);
+    const auto byWriter = [&](auto write) {
+        pen.Return(call.out);
+        write();
+        pen = Pen(call.out);
+    };
+    pen.has(2) ? pen.BeginArray() : byWriter([&] { call.out.BeginArray(); });
     for (;;) {
-        node = WriteElements(table, node, end, record, call);
+        node = PutElements(pen, table, node, end, record, call);
         if (node == end) break;
-        const Field& field = table.rows[node->row];
-        const std::byte* const at = record + node->offset;
-        if (IsElementWritten(field, at))
-            WriteElement(field, at, call);
-        else
-            call.out.Null();
+        byWriter([&] {
+            const Field& field = table.rows[node->row];
+            const std::byte* const at = record + node->offset;
+            if (IsElementWritten(field, at))
+                WriteElement(field, at, call);
+            else
+                call.out.Null();
+        });
         ++node;
     }
-    call.out.EndArray();
+    pen.has(2) ? pen.EndArray() : byWriter([&] { call.out.EndArray(); });
+    pen.Return(call.out);
     call.quotedKey = outerKey;
 }
 

@@ -36,14 +36,10 @@ bool IsZero(const std::byte* at, std::size_t size) noexcept {
 void WriteMask(const std::byte* at, std::size_t size, json::TextWriter& out) noexcept {
     out.BeginArray();
     json::Pen pen(out);
-    constexpr std::size_t kWord = sizeof(std::uint32_t), kBlock = 32;
-    for (std::size_t i = 0; i < size; i += kWord) {
-        // Most of a mask is zero.
-        while (i + kBlock <= size && IsZero(at + i, kBlock))
-            i += kBlock;
-        if (i == size) break;
-        for (auto bits = Load<std::uint32_t>(at + i); bits != 0; bits &= bits - 1) {
-            const auto number = static_cast<std::uint32_t>(8 * i) + static_cast<std::uint32_t>(std::countr_zero(bits));
+    const auto put = [&](std::size_t place, std::uint32_t bits) {
+        for (; bits != 0; bits &= bits - 1) {
+            const auto number =
+                static_cast<std::uint32_t>(8 * place) + static_cast<std::uint32_t>(std::countr_zero(bits));
             if (pen.has(json::kIntegerRoom)) [[likely]] {
                 pen.Element([number](char* to) { return json::PutDigits(to, number); });
                 continue;
@@ -52,6 +48,15 @@ void WriteMask(const std::byte* at, std::size_t size, json::TextWriter& out) noe
             out.UInt(number);
             pen = json::Pen(out);
         }
+    };
+    constexpr std::size_t kWord = sizeof(std::uint32_t), kBlock = 4 * kWord;
+    for (std::size_t i = 0; i < size; i += kBlock) {
+        // Most of a mask is zero.
+        const std::size_t end = std::min(i + kBlock, size);
+        if (end - i == kBlock && (Load<std::uint64_t>(at + i) | Load<std::uint64_t>(at + i + kBlock / 2)) == 0)
+            continue;
+        for (std::size_t k = i; k < end; k += kWord)
+            put(k, Load<std::uint32_t>(at + k));
     }
     pen.Return(out);
     out.EndArray();
