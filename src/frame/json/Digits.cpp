@@ -52,6 +52,7 @@ char* LayOut(const char* digits, int exponent, char* out) noexcept {
     return out + kPrecision + 1;
 }
 
+#if defined(__SIZEOF_INT128__)
 // The same for digits in words, the first lowest, and exponents below 7: nothing that was stored is loaded again.
 char* LayOutWords(std::uint64_t first, std::uint64_t last, int exponent, char* out) noexcept {
     if (exponent < 0) {
@@ -65,7 +66,6 @@ char* LayOutWords(std::uint64_t first, std::uint64_t last, int exponent, char* o
     return end;
 }
 
-#if defined(__SIZEOF_INT128__)
 __extension__ using Wide = unsigned __int128;
 
 constexpr double kLeast = 0x1p-10; // what the powers suffice for
