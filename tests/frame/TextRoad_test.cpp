@@ -55,6 +55,33 @@ TABLE(kRenamed, Renamed,
           FIELD(level, "Lev", Int).ReadOnly().Alias(),
       });
 
+// Members of widths that few have.
+struct Narrow {
+    std::uint8_t small;
+    std::uint8_t flag;
+    std::int16_t wide;
+    std::uint16_t count;
+    std::int64_t large;
+    float ratio;
+    double scale;
+    std::uint8_t unsignedByte;
+    std::uint8_t hasSmall;
+    std::uint8_t reserved[6];
+};
+TABLE(kNarrow, Narrow,
+      {
+          FIELD(small, "Small", Int).SetsAndNeeds(AT(hasSmall)),
+          FIELD(flag, "Flag", Bool),
+          FIELD(wide, "Wide", Int),
+          FIELD(count, "Count", UInt),
+          FIELD(large, "Large", Int),
+          FIELD(ratio, "Ratio", Real),
+          FIELD(scale, "Scale", Real),
+          FIELD(unsignedByte, "Unsigned", UInt),
+          FIELD(hasSmall),
+          FIELD(reserved),
+      });
+
 constexpr ParseFrame kParse;
 
 template <class R, std::size_t N = 1>
@@ -87,6 +114,35 @@ TEST(TextRoad, ReadsKeysInOrder) {
     EXPECT_EQ(read->list[1], 5);
     EXPECT_STREQ(read->name, "Gate");
     EXPECT_EQ(read.length, sizeof(Input));
+}
+
+TEST(TextRoad, ReadsMembersOfAnyWidth) {
+    const Read<Narrow> read(kNarrow, kParse,
+                            Reply(R"({ "Count" : 65537, "Flag" : true, "Large" : -123456789, "Ratio" : 3, )"
+                                  R"("Scale" : -2, "Small" : 300, "Unsigned" : 7, "Wide" : -1 })"));
+    EXPECT_TRUE(read.tookText);
+    EXPECT_EQ(read->count, 1);
+    EXPECT_EQ(read->flag, 1);
+    EXPECT_EQ(read->large, -123456789);
+    EXPECT_EQ(read->ratio, 3.0f);
+    EXPECT_EQ(read->scale, -2.0);
+    EXPECT_EQ(read->small, 44);
+    EXPECT_EQ(read->hasSmall, 1);
+    EXPECT_EQ(read->unsignedByte, 7);
+    EXPECT_EQ(read->wide, -1);
+    // Values of other types become what they become anywhere.
+    const Read<Narrow> other(kNarrow, kParse,
+                             Reply(R"({"Count":-5,"Flag":false,"Large":4000000000,"Ratio":1.5,"Scale":"2",)"
+                                   R"("Small":2.9,"Unsigned":true,"Wide":null})"));
+    EXPECT_TRUE(other.tookText);
+    EXPECT_EQ(other->count, 0); // an unsigned number is not below 0
+    EXPECT_EQ(other->flag, 0);
+    EXPECT_EQ(other->large, 0); // none that 32 bits with a sign hold
+    EXPECT_EQ(other->ratio, 1.5f);
+    EXPECT_EQ(other->scale, 0.0);
+    EXPECT_EQ(other->small, 2);
+    EXPECT_EQ(other->unsignedByte, 1);
+    EXPECT_EQ(other->wide, 0);
 }
 
 TEST(TextRoad, TakesKeysInAnyOrderEscapedAndAmongComments) {

@@ -274,6 +274,14 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
     return p;
 }
 
+// The bool at `p`. The byte behind it; null for any other value.
+inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexcept {
+    isTrue = *p == 't';
+    const std::ptrdiff_t size = isTrue ? 4 : 5;
+    if (end - p < size || std::memcmp(p, isTrue ? "true" : "fals", 4) != 0 || p[size - 1] != 'e') return nullptr;
+    return p + size;
+}
+
 // The values that nearly all text is, without a look at what else they might be; null for any other.
 [[gnu::always_inline]] inline const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
     std::byte* const at = record_ + node.offset;
@@ -291,12 +299,35 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
         return p;
     }
     case Plainly::Switch: {
-        const bool isTrue = *p == 't';
-        const std::ptrdiff_t size = isTrue ? 4 : 5;
-        if (end - p < size || std::memcmp(p, isTrue ? "true" : "fals", 4) != 0 || p[size - 1] != 'e') return nullptr;
+        bool isTrue;
+        p = ReadBool(p, end, isTrue);
+        if (p == nullptr) return nullptr;
         raiseFlag();
         Store(at, std::int32_t{isTrue});
-        return p + size;
+        return p;
+    }
+    case Plainly::Integer: {
+        std::int32_t number;
+        if (node.kind == Kind::Bool) {
+            bool isTrue;
+            p = ReadBool(p, end, isTrue);
+            number = isTrue;
+        } else {
+            p = json::ReadShortInt(p, end, number);
+            if (p != nullptr && node.kind == Kind::UInt && number < 0) return nullptr;
+        }
+        if (p == nullptr) return nullptr;
+        raiseFlag();
+        StoreInteger(node.cell, at, number);
+        return p;
+    }
+    case Plainly::Fraction: {
+        std::int32_t number;
+        p = json::ReadShortInt(p, end, number);
+        if (p == nullptr) return nullptr;
+        raiseFlag();
+        StoreReal(node.cell, at, number);
+        return p;
     }
     case Plainly::Local:
     case Plainly::Raw:
