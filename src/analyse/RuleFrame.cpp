@@ -206,18 +206,23 @@ Outcome PlaceItems(Items& items, std::uint32_t counted, CFG_ANALYSERULES_INFO& r
     rules.nRuleCount = static_cast<std::int32_t>(counted);
     if (std::int64_t{counted} * kHeadSize + items.needed > rules.nRuleLen) return Outcome::BufferTooSmall;
     if (rules.pRuleBuf == nullptr) return counted == 0 ? Outcome::Done : Outcome::BadArguments;
-    // Each item is cleared just before it is read, while it is at hand, and what is behind the last one afterwards.
     auto* at = reinterpret_cast<std::byte*>(rules.pRuleBuf);
     const std::byte* const end = at + rules.nRuleLen;
+    // Each item is cleared just before it is read, while it is at hand, and what is behind the last one afterwards. A
+    // buffer that no cache holds is cleared at once: the C library then passes the cache, in a third of the time that
+    // items one by one take.
+    constexpr std::int32_t kMostAtHand = std::int32_t{24} << 20;
+    const bool isClear = rules.nRuleLen > kMostAtHand;
+    if (isClear) std::memset(at, 0, static_cast<std::size_t>(rules.nRuleLen));
     Outcome outcome = Outcome::Done;
     for (std::size_t i = 0; i < items.count && outcome == Outcome::Done; ++i) {
         const Item& item = items.all[i];
         const std::size_t size = kHeadSize + std::size_t{item.head.size};
-        std::memset(at, 0, size);
+        if (!isClear) std::memset(at, 0, size);
         if (!Place(item.head, *item.rule, at, call)) outcome = Outcome::BadItem;
         at += size;
     }
-    std::memset(at, 0, static_cast<std::size_t>(end - at));
+    if (!isClear) std::memset(at, 0, static_cast<std::size_t>(end - at));
     return outcome;
 }
 

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 
@@ -221,6 +222,21 @@ TEST(RuleFrame, CountsTheRulesBeforeItLooksAtThem) {
         EXPECT_NE(ReadRuleArray(document.root, buffer.rules, call), Outcome::Done) << text;
         EXPECT_EQ(buffer.rules.nRuleCount, 2) << text;
     }
+}
+
+// A buffer that no cache holds is cleared at once, any other rule by rule: what is in it is the same.
+TEST(RuleFrame, ClearsLargeBuffersToTheirEnd) {
+    const std::string text = test::ManyRules(2);
+    constexpr std::size_t kLarge = (std::size_t{24} << 20) + 1;
+    constexpr std::size_t kSmall = std::size_t{1} << 20;
+    RuleBuffer large(kLarge), small(kSmall);
+    ASSERT_TRUE(large.Parse(text));
+    ASSERT_TRUE(small.Parse(text));
+    EXPECT_EQ(std::memcmp(large.memory.data(), small.memory.data(), kSmall), 0);
+    const auto* const bytes = reinterpret_cast<const char*>(large.memory.data());
+    const std::size_t end = kHead + static_cast<std::size_t>(small.Head().nRuleSize);
+    ASSERT_LT(2 * end, kSmall);
+    EXPECT_EQ(std::count(bytes + kSmall, bytes + kLarge, 0), static_cast<std::ptrdiff_t>(kLarge - kSmall));
 }
 
 TEST(RuleFrame, LeavesABufferThatIsTooSmallAlone) {
