@@ -214,7 +214,6 @@ std::string_view MemberNameOf(const Table& table, const std::byte* record) noexc
 void WriteByName(const Table& table, const RecordList& records, WriteCall& call) noexcept {
     call.out.BeginObject();
     for (const NamedRecord& entry : SortedByName(table, records, kGrowthOfTexts, call.parser.text())) {
-        if (!call.out.fits()) break; // it is of no use
         call.out.Key(entry.name);
         WriteRecord(table, records[entry.index], call);
     }
