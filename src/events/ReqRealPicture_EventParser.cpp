@@ -60,7 +60,7 @@ void CReqRealPicture::parseAlarmEvent(const Value& events, Circumstances& around
     fields.wWidth = static_cast<std::uint16_t>(around.resolution);
     fields.wHeight = static_cast<std::uint16_t>(around.resolution >> 16);
     std::memcpy(fields.szRecordFile, around.source.szRecordFile, sizeof fields.szRecordFile);
-    const std::lock_guard<std::recursive_mutex> hold(csEvents); // once for all of them
+    const std::lock_guard<RecursiveLock> hold(csEvents); // once for all of them
     const auto all = events.elements();
     for (const Value& event : all.first(std::min<std::size_t>(all.size(), kMostEvents)))
         parseOne(event, around, common);
