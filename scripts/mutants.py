@@ -34,7 +34,7 @@ CODECS = {'Int': ['UInt', 'Bool'], 'UInt': ['Int'], 'Bool': ['Int'], 'Text': ['R
           'BitMask': ['BitMaskLoose'], 'BitMaskLoose': ['BitMask']}
 WORDS = ('Always|AnyShape|Exactly|AtLeast|Zeroed|Owned|Keyed|NullElement|RefusedElement|ReadIf|FirstBytes|Only|FromRoot|'
          'ReadOnly|WriteOnly|TrueAtOne|WriteUnless|WriteUnlessNegative|WriteAtMost|WriteIf|UntilEmpty|WriteIfLinked|'
-         'WriteEmpty|WriteSkipped|WriteUnlessBare|KeepsObject|WritesCapacity|Unknown|UnknownLeaves|OutsideWrites|'
+         'WriteEmpty|WriteSkipped|WriteUnlessBare|KeepsObject|WritesCapacity|ConvertedRoom|Unknown|UnknownLeaves|OutsideWrites|'
          'OutsideWritesNull|LastWins|Null|Clears|Length|Result|Takes|From|As|Fits|Strides|ReadsNulls|RootKeysFirst|'
          'AllMustFit|AnySize|NeedsText|ExactSize|KeepsText')
 WORD = re.compile(r'\.(?:%s)\((?:[^()]|\([^()]*\))*\)' % WORDS)

@@ -118,7 +118,8 @@ typedef struct CFG_HARD_DISK_TANK_INFO {
  * What lies behind the caller's own records stays as it was. A text that there is no memory for is told to the log. */
 typedef struct CFG_RAID_INFO {
     uint32_t dwSize;
-    char szName[64];                        /* the name of the member that the array stands under */
+    char szName[64];                        /* the name of the member that the array stands under; of its text in
+                                               UTF-8 the first 126 bytes are written */
     int32_t nLevel;                         /* "Level": 0, 1, 5, ... */
     int32_t nMemberCount;                   /* elements of "Members", which may be more than 32 */
     char szMembers[ORRERY_RAID_DISKS][260]; /* "Members": names of its disks, as far as there is room; none writes no

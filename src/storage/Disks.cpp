@@ -157,7 +157,7 @@ TABLE(kHardDiskTank, CFG_HARD_DISK_TANK_INFO,
 TABLE(kRaids, CFG_RAID_INFO,
       {
           FIELD(dwSize, nullptr, Size),
-          FIELD(szName, nullptr, MemberName),
+          FIELD(szName, nullptr, MemberName).ConvertedRoom(2 * sizeof(CFG_RAID_INFO::szName) - 1),
           FIELD(nLevel, "Level", Int),
           FIELD(nMemberCount),
           FIELD(szMembers, "Members", Text).CountUncapped(AT(nMemberCount)),

@@ -237,6 +237,12 @@ PART(kLock, Lock,
 #else
 #define ROW_nDays FIELD(nDays, "Days", Int).Count(AT(nFloor)).CountsWithoutArray()
 #endif
+#elif CASE == 36 // must not compile 36: converted_room_needs_a_name
+#ifdef GOOD
+#define ROW_szName FIELD(szName, nullptr, MemberName).ConvertedRoom(31)
+#else
+#define ROW_szName FIELD(szName, "Name", Text).ConvertedRoom(31)
+#endif
 #endif
 
 #ifndef ROW_szName

@@ -107,6 +107,7 @@ void AddWriting(Node& node, const Table& table, const Field& field) {
     flag("unlessBare", field.unlessBare);
     flag("keepsObject", field.keepsObject);
     flag("writesCapacity", field.fullCapacity);
+    if (field.convertedRoom != 0) node.Add("convertedRoom", Node::Number(field.convertedRoom));
 }
 
 // Lists, and who owns the room behind a pointer.

@@ -185,6 +185,8 @@ void ForEachWord(const Table& table, const Field& field, const Tell& tell) {
     say(field.unlessBare, "WriteUnlessBare", "not written without a key inside");
     say(field.keepsObject, "KeepsObject", "");
     say(field.fullCapacity, "WritesCapacity", "written to the end of the room, whatever the count");
+    say(field.convertedRoom != 0, Call("ConvertedRoom", std::to_string(field.convertedRoom)),
+        "the name is cut where its UTF-8 leaves this room");
     say(ownRead, "read(function)", "");
     say(ownWrite, "write(function)", "");
 }

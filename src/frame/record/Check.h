@@ -20,6 +20,7 @@ enum class Mistake : unsigned char {
     AllOrNoneNeedsACapacity,
     CountsWithoutArrayNeedsCountAndCapacity,
     WritesCapacityNeedsACapacity,
+    ConvertedRoomNeedsAName,
     AbsentNeedsANumber,
     WriteAtMostNeedsANumber,
     WriteUnlessNeedsASingleNumber,
@@ -121,6 +122,7 @@ constexpr Mistake MistakeOfWords(const Field& row) {
     if (row.counted && !(isList && isPointer && row.count.exists() && row.capacity.exists()))
         return Mistake::CountsWithoutArrayNeedsCountAndCapacity;
     if (row.fullCapacity && !row.capacity.exists()) return Mistake::WritesCapacityNeedsACapacity;
+    if (row.convertedRoom != 0 && row.kind != Kind::MemberName) return Mistake::ConvertedRoomNeedsAName;
     if (row.atMost != Field::kNoLimit && !IsNumberCell(row.cell)) return Mistake::WriteAtMostNeedsANumber;
     if ((row.hasUnless || row.notNegative) && !isSingleNumber) return Mistake::WriteUnlessNeedsASingleNumber;
     if (row.untilEmpty && (row.cell != Cell::Char || row.rank == 0)) return Mistake::UntilEmptyNeedsAListOfTexts;
@@ -253,6 +255,7 @@ ORRERY_MISTAKE(SingleNeedsAPointerToARecord, single_needs_a_pointer_to_a_record)
 ORRERY_MISTAKE(AllOrNoneNeedsACapacity, all_or_none_needs_a_capacity)
 ORRERY_MISTAKE(CountsWithoutArrayNeedsCountAndCapacity, counts_without_array_needs_count_and_capacity)
 ORRERY_MISTAKE(WritesCapacityNeedsACapacity, writes_capacity_needs_a_capacity)
+ORRERY_MISTAKE(ConvertedRoomNeedsAName, converted_room_needs_a_name)
 ORRERY_MISTAKE(AbsentNeedsANumber, absent_needs_a_number)
 ORRERY_MISTAKE(WriteAtMostNeedsANumber, write_at_most_needs_a_number)
 ORRERY_MISTAKE(WriteUnlessNeedsASingleNumber, write_unless_needs_a_single_number)

@@ -148,6 +148,7 @@ struct WritingWords {
     bool unlessBare = false;   // an object without keys is left out
     bool keepsObject = false;  // the object inside the record's own that holds the key is null when it has no keys
     bool fullCapacity = false; // a caller's array is written to the end of its room, whatever its count
+    std::uint16_t convertedRoom = 0; // of a name in UTF-8, its terminator included; 0: it grows by half at most
 
     constexpr bool operator==(const WritingWords&) const = default;
 };
@@ -277,6 +278,8 @@ struct Field : ReadingWords, WritingWords, ListWords {
     constexpr Field KeepsObject() const { return With(*this, &Field::keepsObject, true); }
     // As many elements are written as the caller's array has room for; the count is only what reading found.
     constexpr Field WritesCapacity() const { return With(*this, &Field::fullCapacity, true); }
+    // A name in UTF-8 has so many bytes of room, its terminator included, however short it is in the local encoding.
+    constexpr Field ConvertedRoom(std::uint16_t bytes) const { return With(*this, &Field::convertedRoom, bytes); }
     // The codes that a row's own functions deal in, so that tools can show their names.
     constexpr Field Coded(const NameTable& codes) const { return With(*this, &Field::names, &codes); }
     // A second key of a field that has a row of its own.

@@ -97,12 +97,14 @@ std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& 
     NamedRecord* const entries = text.arena().Array<NamedRecord>(records.count);
     if (entries == nullptr) return {};
     const bool isKept = records.take == nullptr; // else the next record takes the place of its name
+    const std::size_t ownRoom = table.memberName != nullptr ? table.memberName->convertedRoom : 0;
     std::uint32_t count = 0;
     for (std::uint32_t i = 0; i < records.count; ++i) {
         const std::byte* const at = records[i];
         if (!IsWrittenByName(table, at)) continue;
         const std::string_view name = MemberNameOf(table, at);
-        const std::string_view utf8 = ToUtf8(name, name.size() * growth / 2 + 1, text);
+        const std::size_t room = ownRoom != 0 ? ownRoom : name.size() * growth / 2 + 1;
+        const std::string_view utf8 = ToUtf8(name, room, text);
         entries[count++] = {isKept ? utf8 : Copied(utf8, text.arena()), i};
     }
     std::sort(entries, entries + count, [](const NamedRecord& left, const NamedRecord& right) {
