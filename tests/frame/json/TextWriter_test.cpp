@@ -294,7 +294,9 @@ TEST(Pen, RepeatsElementsWithinItsRoom) {
             }
             writer.CleanString("08:30:00-17");
             length = writer.fits() ? Pen(writer).LengthOfElementSince(pen) : 0;
-            if (length > 0) EXPECT_EQ(length, element.size());
+            if (length > 0) {
+                EXPECT_EQ(length, element.size());
+            }
         }
         writer.EndArray();
         EXPECT_EQ(writer.length(), whole.size());
