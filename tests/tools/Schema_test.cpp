@@ -135,7 +135,7 @@ void AllWordsAreAskedFor() {
     [[maybe_unused]] const auto [always, only, anyShape, exactly, zeroed, allOrNone, counted, nulls, refused,
                                  readCondition, firstBytes, atLeast, owned, toBytes, failure] = record::ReadingWords{};
     [[maybe_unused]] const auto [trueAtOne, hasUnless, unless, notNegative, atMost, condition, when, untilEmpty,
-                                 linkage, empty, skipped, unlessBare, keepsObject, fullCapacity] =
+                                 linkage, empty, skipped, unlessBare, keepsObject, fullCapacity, convertedRoom] =
         record::WritingWords{};
     [[maybe_unused]] const auto [count, countUncapped, capacity, lent, single, keyed, amongKeys] = record::ListWords{};
 }
@@ -185,6 +185,7 @@ TEST(Schema, TellsEachWordOfARow) {
     differs(number, "skipped", [](Field& row) { row.skipped = record::Skipped::Hole; });
     differs(number, "unlessBare", [](Field& row) { row.unlessBare = true; });
     differs(number, "keepsObject", [](Field& row) { row.keepsObject = true; });
+    differs(number, "convertedRoom", [](Field& row) { row.convertedRoom = 127; });
     differs(number, "fullCapacity", [](Field& row) { row.fullCapacity = true; });
     differs(number, "count", [&](Field& row) { row.count = slot; });
     differs(counted, "countUncapped", [](Field& row) { row.countUncapped = true; });
