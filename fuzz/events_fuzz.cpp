@@ -12,22 +12,12 @@
 
 namespace {
 
-struct Client {
-    std::uint64_t total = 0;
-    bool copies = false;
-};
-
 std::int32_t Walk(std::uint32_t type, const void* record, std::uint32_t size, void*, std::int32_t, void* user) {
     using namespace orrery;
-    auto& client = *static_cast<Client*>(user);
     const events::EventRow* const row = events::FindEvent(type);
-    if (row == nullptr || record == nullptr) std::abort();
-    const std::uint64_t sum = test::SumOfRecord(*row->table, static_cast<const std::byte*>(record));
-    client.total += sum;
-    if (!client.copies) return 0;
-    test::ReadCopy(type, record, size, [&](const std::byte* copy) {
-        if (test::SumOfRecord(*row->table, copy) != sum) std::abort();
-    });
+    if (row == nullptr) std::abort();
+    const auto sumOf = [row](const std::byte* at) { return test::SumOfRecord(*row->table, at); };
+    static_cast<test::EventReader*>(user)->Read(type, record, size, sumOf);
     return 0;
 }
 
@@ -41,8 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!source.empty()) std::memcpy(text.get(), source.data(), source.size());
     text[source.size()] = '\0';
 
-    static Client client;
-    client.copies = (choice.flags & 16) != 0;
+    static orrery::test::EventReader client;
+    client.keepsCopies = (choice.flags & 16) != 0;
     orrery::fuzz::Circumstances around(choice);
     if ((choice.flags & 8) == 0) {
         if (CLIENT_ParseAnalyzerEventData(text.get(), 0, Walk, &client) != 1) std::abort();

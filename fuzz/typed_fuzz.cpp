@@ -54,20 +54,9 @@ std::uint64_t SumOf(std::uint32_t type, const std::byte* record, std::uint32_t s
     return sum;
 }
 
-struct Client {
-    std::uint64_t total = 0;
-    bool copies = false;
-};
-
 std::int32_t Walk(std::uint32_t type, const void* record, std::uint32_t size, void*, std::int32_t, void* user) {
-    auto& client = *static_cast<Client*>(user);
-    if (record == nullptr) std::abort();
-    const std::uint64_t sum = SumOf(type, static_cast<const std::byte*>(record), size);
-    client.total += sum;
-    if (!client.copies) return 0;
-    test::ReadCopy(type, record, size, [&](const std::byte* copy) {
-        if (SumOf(type, copy, size) != sum) std::abort();
-    });
+    const auto sumOf = [=](const std::byte* at) { return SumOf(type, at, size); };
+    static_cast<test::EventReader*>(user)->Read(type, record, size, sumOf);
     return 0;
 }
 
@@ -81,8 +70,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!source.empty()) std::memcpy(text.get(), source.data(), source.size());
     text[source.size()] = '\0';
 
-    static Client client;
-    client.copies = (choice.flags & 16) != 0;
+    static test::EventReader client;
+    client.keepsCopies = (choice.flags & 16) != 0;
     fuzz::Circumstances around(choice);
     const std::int32_t result = CLIENT_ParseDataByCallback(text.get(), 0, Walk, &client);
     if (result != 0 && result != 1) std::abort();

@@ -74,4 +74,22 @@ void ReadCopy(std::uint32_t type, const void* record, std::uint32_t size, Read r
     read(static_cast<const std::byte*>(room));
 }
 
+// A client that reads all of each event, and where it keeps copies reads the same from them.
+struct EventReader {
+    std::uint64_t total = 0;
+    bool keepsCopies = false;
+
+    // `sumOf` answers the sum of a record of `size` bytes.
+    template <class SumOf>
+    void Read(std::uint32_t type, const void* record, std::uint32_t size, SumOf sumOf) {
+        if (record == nullptr) std::abort();
+        const std::uint64_t sum = sumOf(static_cast<const std::byte*>(record));
+        total += sum;
+        if (!keepsCopies) return;
+        ReadCopy(type, record, size, [&](const std::byte* copy) {
+            if (sumOf(copy) != sum) std::abort();
+        });
+    }
+};
+
 } // namespace orrery::test
