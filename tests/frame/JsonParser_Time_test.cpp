@@ -1,6 +1,7 @@
 #include "frame/JsonParserSupport.h"
 #include "support/GuardedBuffer.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdio>
 #include <cstring>
@@ -250,6 +251,32 @@ TEST(TimeSchedule, WritesDaysBehindOtherElements) {
                   out.EndArray();
               }),
               "[ null, " + day + ", " + day + ", " + day + " ]");
+}
+
+// Every pattern of four days of three kinds, the last of them with more digits than usual, in every room.
+TEST(TimeSchedule, WritesDaysThatRepeatInAnyOrder) {
+    const CFG_TIME_SECTION kinds[3][2] = {
+        {kWorkday, {}}, {kWorkday, {2, 9, 0, 0, 12, 0, 0}}, {{4095, 1, 2, 3, 4, 5, 6}, {}}};
+    const std::string texts[3] = {"[ \"1 08:00:00-17:30:00\", \"0 00:00:00-00:00:00\" ]",
+                                  "[ \"1 08:00:00-17:30:00\", \"2 09:00:00-12:00:00\" ]",
+                                  "[ \"4095 01:02:03-04:05:06\", \"0 00:00:00-00:00:00\" ]"};
+    for (int pattern = 0; pattern < 81; ++pattern) {
+        CFG_TIME_SECTION days[4][2];
+        std::string whole;
+        for (int day = 0, rest = pattern; day < 4; ++day, rest /= 3) {
+            std::memcpy(days[day], kinds[rest % 3], sizeof days[day]);
+            whole += (day == 0 ? "[ " : ", ") + texts[rest % 3];
+        }
+        whole += " ]";
+        for (std::size_t capacity = 0; capacity <= whole.size() + 80; ++capacity) {
+            const test::GuardedBuffer room(capacity);
+            json::TextWriter out(room.data(), capacity);
+            EXPECT_TRUE(JsonParser::SetTimeSchedule(out, &days[0][0], 4, 2));
+            ASSERT_EQ(out.length(), whole.size()) << pattern << " in " << capacity;
+            const std::size_t kept = std::min(capacity, whole.size());
+            ASSERT_EQ(room.view().substr(0, kept), whole.substr(0, kept)) << pattern << " in " << capacity;
+        }
+    }
 }
 
 TEST(TimeSchedule, WritesEveryCell) {

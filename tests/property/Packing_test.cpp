@@ -166,5 +166,70 @@ TEST(Packing, TextsOfEveryCapacity) {
     }
 }
 
+// Records of other kinds than a reply gives: lists with several elements, values at their limits, and bytes of any
+// kind, half of them zero, in which counts and texts have no end.
+std::vector<std::byte> RecordOfKind(const Command& command, CallerMemory& memory, unsigned kind) {
+    memory.Reset();
+    std::vector<std::byte> record(command.table->size);
+    memory.PrepareBuffer(command, record.data(), record.size());
+    if (kind < 3) {
+        if (!command.parses()) return record;
+        const Values values = kind == 1 ? Values::Limits : Values::Typical;
+        const std::string text = ReplyText(command, {.values = values, .seed = kind + 1, .most = 3, .records = 1});
+        RunParse(command, {text.c_str(), record.data(), command.table->size, nullptr});
+        return record;
+    }
+    std::mt19937_64 random(record.size() + kind);
+    for (std::byte& byte : record)
+        byte = random() % 2 == 0 ? std::byte{0} : static_cast<std::byte>(random() % 100);
+    record::SetSizeWords(*command.table, record.data());
+    if (HasPointers(*command.table)) memory.MakePointersSafe(*command.table, record.data());
+    return record;
+}
+
+// A member that finds much room is put in another way than one that finds little: wherever the room ends, what stands
+// in front of its end is the beginning of the whole text, and the length is told.
+TEST(Packing, TextsThatFindNoRoomAreTheWholeTextsBeginning) {
+    const SweepBudget budget(std::size_t{200} << 20);
+    for (const Command& command : DistinctCommands()) {
+        if (!command.packs() || command.pack == Command::Frame::Own) continue;
+        const record::Table& table = *command.table;
+        for (unsigned kind = 0; kind < 4; ++kind) {
+            CallerMemory memory;
+            const std::vector<std::byte> record = RecordOfKind(command, memory, kind);
+            const auto write = [&](json::TextWriter& out) {
+                StackArena<4096> arena;
+                LocalText local(arena);
+                JsonParser parser(local);
+                record::WriteCall call{parser, out, nullptr, false, {}};
+                record::WriteRecord(table, record.data(), call);
+            };
+            std::string whole(4096, '\0');
+            for (std::size_t length = 0; length == 0;) {
+                json::TextWriter ample(whole.data(), whole.size());
+                write(ample);
+                if (ample.fits()) length = ample.length();
+                whole.resize(ample.fits() ? length : 4 * whole.size());
+            }
+            const std::size_t most = whole.size() + 300;
+            const GuardedBuffer buffer(most + kFront);
+            const std::size_t rounds = budget.Rounds(16 * (most + record.size()), 12, most);
+            for (std::size_t i = 0; i <= rounds; ++i) {
+                const std::size_t capacity = i * most / rounds;
+                char* const text = buffer.data() + buffer.size() - capacity;
+                std::memset(text - kFront, static_cast<int>(kUntouched), kFront);
+                json::TextWriter out(text, capacity);
+                write(out);
+                ASSERT_EQ(out.length(), whole.size()) << command.name << ", kind " << kind << " " << capacity;
+                const std::size_t kept = std::min(capacity, whole.size());
+                ASSERT_EQ(std::string_view(text, kept), std::string_view(whole).substr(0, kept))
+                    << command.name << ", kind " << kind << " " << capacity;
+                ASSERT_EQ(std::string_view(text - kFront, kFront), std::string(kFront, static_cast<char>(kUntouched)))
+                    << command.name << ", kind " << kind << " " << capacity;
+            }
+        }
+    }
+}
+
 } // namespace
 } // namespace orrery

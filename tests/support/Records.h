@@ -2,8 +2,11 @@
 #pragma once
 
 #include "frame/record/Engine.h"
+#include "support/GuardedBuffer.h"
 #include "support/JsonText.h"
 
+#include <algorithm>
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 
@@ -64,6 +67,28 @@ inline std::string WriteBytes(const record::Table& table, const void* record) {
 template <class R>
 std::string Write(const record::TypedTable<R>& table, const R& record) {
     return WriteBytes(table, &record);
+}
+
+// However little room there is: what fits is written, nothing behind it is touched, and the length is told.
+inline void ExpectInEveryRoom(const record::Table& table, const void* record, const std::string& whole) {
+    // Behind a long key and a long value there may be this much before the next is put without a look at each byte.
+    constexpr std::size_t kAmple = 300;
+    for (std::size_t capacity = 0; capacity <= whole.size() + kAmple; ++capacity) {
+        const GuardedBuffer room(capacity);
+        json::TextWriter out(room.data(), capacity);
+        StackArena<64> arena;
+        LocalText text(arena);
+        JsonParser parser(text);
+        record::WriteCall call{parser, out, nullptr, false, {}};
+        record::WriteRecord(table, static_cast<const std::byte*>(record), call);
+        ASSERT_EQ(out.length(), whole.size()) << capacity << " bytes of room: " << room.view();
+        const std::size_t kept = std::min(capacity, whole.size());
+        ASSERT_EQ(room.view().substr(0, kept), whole.substr(0, kept)) << capacity << " bytes of room";
+    }
+}
+template <class R>
+void ExpectInEveryRoom(const record::TypedTable<R>& table, const R& record, const std::string& whole) {
+    ExpectInEveryRoom(table, static_cast<const void*>(&record), whole);
 }
 
 } // namespace orrery::test
