@@ -210,20 +210,9 @@ bool ClosesUp(const Field& field, const std::byte* record) {
 
 bool IsBothWays(const Field& field) {
     if (field.key == nullptr || !field.readable || !field.writable || field.fromRoot) return false;
-    switch (field.kind) {
-    case Kind::None:
-    case Kind::Size:
-    case Kind::Presence:
-    case Kind::MemberName:
-    case Kind::MemberCode:
-    case Kind::Date:
-    case Kind::UtcTime:
-        return false;
-    case Kind::Custom:
-        return field.custom->sample != nullptr && field.custom->read != nullptr && field.custom->write != nullptr;
-    default:
-        return true;
-    }
+    if (field.kind == Kind::None || record::WritesNoKey(field.kind)) return false;
+    return field.kind != Kind::Custom
+           || (field.custom->sample != nullptr && field.custom->read != nullptr && field.custom->write != nullptr);
 }
 
 // Whether what is written for one element reads as that element.

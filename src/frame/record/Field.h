@@ -58,6 +58,20 @@ enum class Kind : std::uint8_t {
     Supplied,        // not in the text: copied from what the call carries along
     Custom,          // functions of the row's own
 };
+// Kinds whose rows are only read, or stand in the text otherwise than under their key.
+constexpr bool WritesNoKey(Kind kind) {
+    switch (kind) {
+    case Kind::Size:
+    case Kind::Presence:
+    case Kind::MemberName:
+    case Kind::MemberCode:
+    case Kind::Date:
+    case Kind::UtcTime:
+        return true;
+    default:
+        return false;
+    }
+}
 
 // Only values of exactly this JSON type are read.
 enum class OnlyType : std::uint8_t {

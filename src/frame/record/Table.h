@@ -312,6 +312,7 @@ constexpr Way WayOfCodec(const Field& row) {
             return Way::Row;
         }
     }
+    if (WritesNoKey(row.writtenAs)) return Way::Nothing;
     switch (row.writtenAs) {
     case Kind::Bool:
         if (row.cell == Cell::I32) return row.trueAtOne ? Way::SwitchAtOne : Way::Switch;
@@ -338,13 +339,6 @@ constexpr Way WayOfCodec(const Field& row) {
     case Kind::NetTimeEx:
     case Kind::ClockTime:
         return Way::Element;
-    case Kind::Size:
-    case Kind::Presence:
-    case Kind::MemberName:
-    case Kind::MemberCode:
-    case Kind::Date:
-    case Kind::UtcTime:
-        return Way::Nothing;
     default:
         return Way::Row;
     }

@@ -83,17 +83,11 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         return WriteElement(field, one, call);
     }
     if (field.rank > 0 || field.cell == Cell::Pointer) return WriteList(field, record, call);
+    if (WritesNoKey(field.writtenAs)) return;
     // A double holds every 32-bit number exactly, and a fraction is neither 0 nor above it.
     if (field.hasUnless && LoadReal(field, at) == field.unless) return;
     if (field.notNegative && LoadReal(field, at) < 0) return;
     switch (field.writtenAs) {
-    case Kind::Size:
-    case Kind::Presence:
-    case Kind::MemberName:
-    case Kind::MemberCode:
-    case Kind::Date:
-    case Kind::UtcTime:
-        return;
     case Kind::Names:
         if (!IsElementWritten(field, at)) return;
         break;

@@ -239,6 +239,17 @@ TEST(WriteRun, ObjectsWithNothingInThem) {
 
 // ---- Tuples ----
 
+struct Guard {
+    std::uint32_t size;
+    std::int32_t number;
+};
+PART(kGuard, Guard,
+     {
+         FIELD(size, nullptr, Size),
+         FIELD(number, "Number", Int),
+     })
+    .Guarded();
+
 struct Mixture {
     std::int32_t any;
     std::int32_t one;
@@ -249,9 +260,11 @@ struct Mixture {
     double large;
     char text[6];
     char raw[2];
+    char longer[200];
     std::int32_t mode;
     std::int32_t noText;
     Point point;
+    Guard guard;
     CFG_TIME_SECTION section;
     std::int32_t last;
 };
@@ -271,9 +284,11 @@ PART(kMixture, Mixture,
          FIELD(large, "", Real),
          FIELD(text, "", Text),
          FIELD(raw, "", RawText),
+         FIELD(longer, "", RawText),
          FIELD(mode, "", Names(kModes)),
          FIELD(noText, "", Names(kPlaces)),
          FIELD(point, "", Record(kPoint)),
+         FIELD(guard, "", Record(kGuard)),
          FIELD(section, "", TimeSection),
          FIELD(last, "", Int),
      })
@@ -296,27 +311,37 @@ TABLE(kTuples, Tuples,
       });
 
 TEST(WriteRun, TuplesOfValuesOfEveryWay) {
-    const Mixture first{2,
-                        2,
-                        -70000,
-                        200,
-                        -1,
-                        0.5f,
-                        -1e20,
-                        {'a', 'b', 'c', 'd', 'e', 'f'},
-                        {'/', 'x'},
-                        2,
-                        0,
-                        {1, -2},
-                        {1, 2, 3, 4, 5, 6, 7},
-                        8};
-    const Mixture second{0, 1, 0, 0, 0, -0.0f, 0, "", "", 0, 4, {}, {100, 0, 0, 0, 0, 0, 0}, 9};
+    Mixture first{};
+    first.any = first.one = 2;
+    first.number = -70000;
+    first.small = 200;
+    first.flag = -1;
+    first.real = 0.5f;
+    first.large = -1e20;
+    std::memcpy(first.text, "abcdef", 6);
+    std::memcpy(first.raw, "/x", 2);
+    std::memset(first.longer, '/', sizeof first.longer);
+    first.mode = 2;
+    first.point = {1, -2};
+    first.guard = {sizeof(Guard), 3};
+    first.section = {1, 2, 3, 4, 5, 6, 7};
+    first.last = 8;
+    Mixture second{};
+    second.one = 1;
+    second.real = -0.0f;
+    second.noText = 4;
+    second.guard = {sizeof(Guard) + 1, 3};
+    second.section.dwMask = 100;
+    second.last = 9;
+    std::string slashes;
+    for (int i = 0; i < 200; ++i)
+        slashes += "\\/";
     const std::string firstText =
-        R"([ true, false, -70000, 200, true, 0.5000000000000000, -1.000000000000000e+20, "abcdef", "\/x", "Manual", )"
-        R"("in\/out", [ 1, -2 ], "1 02:03:04-05:06:07", 8 ])";
+        R"([ true, false, -70000, 200, true, 0.5000000000000000, -1.000000000000000e+20, "abcdef", "\/x", ")" + slashes
+        + R"(", "Manual", "in\/out", [ 1, -2 ], { "Number" : 3 }, "1 02:03:04-05:06:07", 8 ])";
     const std::string secondText =
-        R"([ false, true, 0, 0, false, -0.000000000000000, 0.000000000000000, "", "", "none", null, [ 0, 0 ], )"
-        R"("100 00:00:00-00:00:00", 9 ])";
+        R"([ false, true, 0, 0, false, -0.000000000000000, 0.000000000000000, "", "", "", "none", null, [ 0, 0 ], )"
+        R"(null, "100 00:00:00-00:00:00", 9 ])";
     ExpectInEveryRoom(kMixture, first, firstText);
     ExpectInEveryRoom(kMixture, second, secondText);
     const Tuples both{second, {{1, 2}, {-3, 2147483647}, {5, 6}}, 2, {first, second}, 2};
@@ -429,6 +454,19 @@ TEST_F(WriteRunIn, TextsThatNeedConversionAmongOthersThatDoNot) {
                       "{ \"Before\" : \"a\", \"List\" : [ \"b\", \"\xE9\x97\xA8\", \"c\\/\", \"\xE4\xB8\xAD\" ], "
                       "\"One\" : \"\xE4\xB8\xAD\\/\", \"Raw\" : \"\xD6\xD0\", \"Zone\" : \"d\" }");
     ExpectInEveryRoom(kTitleTuple, r, "[ \"a\", \"\xE4\xB8\xAD\\/\", \"\xD6\xD0\", \"d\" ]");
+}
+
+// Where ASCII is not at its place no text goes out as it stands, but for those that are never converted.
+TEST_F(WriteRunIn, TextsOfAnEncodingThatIsNoAscii) {
+    Compile("SHIFT_JIS", "ja_JP.SJIS");
+    const test::ProcessLocale locale("ja_JP.SJIS");
+    ASSERT_TRUE(locale.isThere());
+    // 83 5C is U+30BD, and the second of its bytes a backslash elsewhere.
+    const Titles r{"a", "\x83\x5C", {"b", "c", "\x83\x5C", "d"}, "\x83\x5C", "e"};
+    ExpectInEveryRoom(kTitles, r,
+                      "{ \"Before\" : \"a\", \"List\" : [ \"b\", \"c\", \"\xE3\x82\xBD\", \"d\" ], "
+                      "\"One\" : \"\xE3\x82\xBD\", \"Raw\" : \"\x83\\\\\", \"Zone\" : \"e\" }");
+    ExpectInEveryRoom(kTitleTuple, r, "[ \"a\", \"\xE3\x82\xBD\", \"\x83\\\\\", \"e\" ]");
 }
 
 } // namespace
