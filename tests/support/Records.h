@@ -72,8 +72,8 @@ std::string Write(const record::TypedTable<R>& table, const R& record) {
 // However little room there is: what fits is written, nothing behind it is touched, and the length is told.
 inline void ExpectInEveryRoom(const record::Table& table, const void* record, const std::string& whole) {
     // Behind a long key and a long value there may be this much before the next is put without a look at each byte.
-    constexpr std::size_t kAmple = 300;
-    for (std::size_t capacity = 0; capacity <= whole.size() + kAmple; ++capacity) {
+    constexpr std::size_t kLongest = 300;
+    for (std::size_t capacity = 0; capacity <= whole.size() + kLongest; ++capacity) {
         const GuardedBuffer room(capacity);
         json::TextWriter out(room.data(), capacity);
         StackArena<64> arena;
