@@ -16,7 +16,7 @@ namespace {
 // What a member keeps of a number.
 std::int64_t Cut(Cell cell, std::int64_t number) {
     if (cell == Cell::F32 || cell == Cell::F64) return number;
-    std::byte kept[sizeof number];
+    std::byte kept[sizeof number] = {};
     StoreInteger(cell, kept, number);
     return LoadInteger(cell, kept);
 }
