@@ -209,7 +209,9 @@ def sentences(row, model):
         said.append("all members of the record's object")
     if row["kind"] == "supplied":
         said.append(f"from {SUPPLIED[row['supplied']]}")
-    if "role" in row:
+    doc = row.get("doc", "")
+    told = row.get("role") == "count" and " in use" in doc and all(name in doc for name in row.get("of", []))
+    if "role" in row and not told:
         said.append(ROLES[row["role"]].format(of=", ".join(row.get("of", [])) or "others"))
     if "writtenAs" in row:
         said.append(
