@@ -87,6 +87,11 @@ std::string ManyEvents(Dice& dice) {
     return text + " ] }";
 }
 
+std::string ShortEvent(Dice& dice) {
+    return R"({ "Event" : [ { "Action" : "Start", "Index" : 1, )" + Filled(kKinds[dice.Below(std::size(kKinds))], dice)
+           + " ] }";
+}
+
 std::string Typed(Dice& dice) {
     std::string text = R"({ "ObjectList" : [ )";
     for (int i = 0; i < 32; ++i)
@@ -134,6 +139,9 @@ EventBench::EventBench(const char* itsName, Texts itsTexts, std::size_t eventsPe
 
 EventBench MakeJunctionBench(int variants) {
     return EventBench("events.junction", Made(Junction, variants), 1);
+}
+Texts MakeShortEventTexts(int variants) {
+    return Made(ShortEvent, variants);
 }
 EventBench MakeManyEventsBench(int variants) {
     return EventBench("events.128", Made(ManyEvents, variants), 128);

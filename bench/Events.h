@@ -51,6 +51,8 @@ struct EventBench {
 
 // One junction event with every key, about 4 KB.
 EventBench MakeJunctionBench(int variants);
+// One event of several kinds each, 200 to 400 bytes.
+Texts MakeShortEventTexts(int variants);
 // 128 events of several kinds.
 EventBench MakeManyEventsBench(int variants);
 // A typed text of eight rules and 32 objects.

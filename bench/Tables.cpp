@@ -1,6 +1,7 @@
 #include "bench/Tables.h"
 
 #include "bench/Calls.h"
+#include "bench/Companion.h"
 #include "bench/Events.h"
 #include "bench/Explains.h"
 #include "bench/Heap.h"
@@ -296,6 +297,7 @@ void PrintTables(bool quick, const std::string& only) {
         Members(table, bench);
     }
     PrintExplains(table, !only.empty());
+    PrintCompanion(table);
     HotLines(table, alarm, encode, rules, junction, manyEvents);
     Lengths(table);
     RuleCounts(table);

@@ -62,5 +62,36 @@ TEST(Output, BreaksLongRecordsButNotListsOfNumbers) {
     EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 1);
 }
 
+// The room behind the text, and what of it is looked at sixteen bytes at a time, ends at no special place.
+TEST(LineWriter, WritesPlainTextsOfRoomsOnlyWhereTheyTellAll) {
+    for (std::size_t room = 1; room < 70; ++room) {
+        for (std::size_t size = 0; size < room; ++size) {
+            std::string text(size, 'x');
+            text.resize(room);
+            const auto* const bytes = reinterpret_cast<const std::byte*>(text.data());
+            LineWriter line;
+            line.Append("<");
+            if (line.PlainText(bytes, room)) {
+                EXPECT_EQ(line.text(), "<\"" + text.substr(0, size) + "\"");
+            } else {
+                EXPECT_EQ(line.text(), "<");
+            }
+            for (const char c : {'"', '\\', '\n', '\x80', '\xff'}) {
+                if (size == 0) break;
+                std::string other = text;
+                other[size / 2] = c;
+                EXPECT_FALSE(line.PlainText(reinterpret_cast<const std::byte*>(other.data()), room));
+            }
+            if (size + 1 == room) continue;
+            std::string other = text;
+            other.back() = 'y';
+            EXPECT_FALSE(line.PlainText(reinterpret_cast<const std::byte*>(other.data()), room)) << room << ' ' << size;
+        }
+        const std::string full(room, 'x');
+        LineWriter line;
+        EXPECT_FALSE(line.PlainText(reinterpret_cast<const std::byte*>(full.data()), room));
+    }
+}
+
 } // namespace
 } // namespace orrery::tool

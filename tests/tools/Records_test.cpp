@@ -5,6 +5,8 @@
 #include "support/JsonText.h"
 #include "tools/SampleRecord.h"
 
+#include <array>
+#include <charconv>
 #include <cstring>
 #include <gmock/gmock.h>
 #include <limits>
@@ -280,6 +282,44 @@ TEST(Lines, AreTheTreesOfTheirRecords) {
                 ASSERT_EQ(line.Take(), PrintRecord(*table, record.data(), options).OneLine())
                     << table->record << ' ' << options.all << options.brief;
             }
+        }
+    }
+}
+
+// Reals of few digits are written by hand: as short as any, and the same number.
+TEST(RoundTrip, RealsArePrintedInAsFewDigitsAsTheyTake) {
+    std::vector<double> numbers = {0.5,
+                                   1.5,
+                                   42949.83,
+                                   1e6,
+                                   1000000.5,
+                                   0.1 + 0.2,
+                                   1.005,
+                                   2.0005,
+                                   123456789012.125,
+                                   999999999999.999,
+                                   9999999999999.99,
+                                   1e15,
+                                   4294967.295,
+                                   3.3,
+                                   1.0000000000000002,
+                                   100.1,
+                                   5e-324,
+                                   1.7976931348623157e308};
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 20000; ++i)
+        numbers.push_back(static_cast<double>(random() % (std::uint64_t{1} << (i % 50 + 1)))
+                          / (i % 3 == 0 ? 1024 : 1000));
+    Field field{};
+    field.cell = Cell::F64;
+    field.kind = record::Kind::Real;
+    for (double number : numbers) {
+        for (const double each : {number, -number}) {
+            std::array<char, 40> room;
+            const auto end = std::to_chars(room.data(), room.data() + room.size(), each).ptr;
+            const std::string expected(room.data(), end);
+            ASSERT_EQ(PrintCell(field, reinterpret_cast<const std::byte*>(&each)).OneLine(),
+                      expected == "-0" ? "-0.0" : expected);
         }
     }
 }

@@ -100,6 +100,62 @@ TEST(TextSplitter, GivesUpLongTextsThatAreCutOff) {
     }
 }
 
+// A line that nobody looked into is split again by who reads it: the texts and their places are the same.
+TEST(TextSplitter, LinesThatNobodyLookedIntoHoldTheSameTexts) {
+    const std::string lines[] = {R"({"a":1})",
+                                 R"({"a":1}{"b":[2]} {"c":"}"})",
+                                 R"({"a":1}})",
+                                 R"({"a":[1})",
+                                 R"({"a":"x})",
+                                 R"({"a":1},{"b":2})",
+                                 R"({"a":1} 17 {"b":2})",
+                                 "{\"a\":1} \t\r",
+                                 R"({"a":{"b":"\\\"}"}})",
+                                 R"({"a":1} ])",
+                                 R"([1] {"a":2})",
+                                 "{}",
+                                 "}",
+                                 R"({"a":)",
+                                 "",
+                                 R"({"a":{}}} {})",
+                                 R"({"\"})",
+                                 "{\"a\":\n{\"b\":{}}}"};
+    std::string stream;
+    for (const std::string& line : lines) // each before and behind each
+        for (const std::string& other : lines)
+            stream += line + "\n" + other + "\n";
+    const Pieces expected = Split(stream, 1);
+    for (const std::size_t chunk : {1u, 7u, 64u, 1u << 20}) {
+        TextSplitter splitter;
+        Pieces pieces;
+        std::size_t whole = 0;
+        const auto take = [&](bool isEnd) {
+            for (;;) {
+                const auto line = splitter.NextLine();
+                if (const auto piece = line ? line : isEnd ? splitter.Rest() : splitter.Next(); !piece) {
+                    return;
+                } else if (!line) {
+                    pieces.emplace_back(piece->text, piece->line);
+                    continue;
+                }
+                EXPECT_EQ(stream.substr(line->offset, line->text.size()), line->text);
+                ++whole;
+                TextSplitter again;
+                again.Feed(line->text);
+                while (const auto piece = again.Rest())
+                    pieces.emplace_back(piece->text, line->line + piece->line - 1);
+            }
+        };
+        for (std::size_t at = 0; at < stream.size(); at += chunk) {
+            splitter.Feed(std::string_view(stream).substr(at, chunk));
+            take(false);
+        }
+        take(true);
+        EXPECT_EQ(pieces, expected) << chunk;
+        EXPECT_EQ(whole > 100, chunk >= 64) << whole; // of so many bytes at a time a line is seldom whole
+    }
+}
+
 TEST(TextSplitter, HandsOutATextAsSoonAsItIsThere) {
     TextSplitter splitter;
     splitter.Feed("{\"a\":");

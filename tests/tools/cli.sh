@@ -274,6 +274,14 @@ err_has "$scratch/bad.jsonl, text at line 1: line 1, column 11"
 out_has "\"file\": \"$scratch/bad.jsonl\", \"line\": 2"
 input='{"Events":[]}' run 1 events
 err_has 'neither "Event" nor "EventList"'
+# Whole lines are read as one text each, unless they are several or have something behind.
+printf '%s\n' "$line" "$line$line" "$line}" "$line {}" '{"Event":[}' "$line" "$line" >"$scratch/lines.jsonl"
+for jobs in 1 2; do
+    run 1 events --jobs $jobs --fields line "$scratch/lines.jsonl"
+    lines=$(jq -r .line "$scratch/out" | tr '\n' ' ')
+    [ "$lines" = '1 2 2 3 4 6 7 ' ] || fail "events of the lines $lines"
+    for bad in 3 4 5; do err_has "$scratch/lines.jsonl, text at line $bad: "; done
+done
 # Each event comes as soon as its text is there, though the pipe stays open.
 mkfifo "$scratch/pipe"
 "$program" events <"$scratch/pipe" >"$scratch/out" 2>"$scratch/err" &

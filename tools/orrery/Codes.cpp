@@ -24,11 +24,14 @@ bool HasNames(const Field& field) {
 }
 
 std::string NameOfCode(const Field& field, std::int64_t code) {
+    if (field.names != nullptr) return std::string(NameOfCode(*field.names, code));
+    return code < INT32_MIN || code > INT32_MAX ? std::string() : SplitText(static_cast<std::int32_t>(code));
+}
+
+std::string_view NameOfCode(const NameTable& names, std::int64_t code) {
     if (code < INT32_MIN || code > INT32_MAX) return {};
-    const auto number = static_cast<std::int32_t>(code);
-    if (field.names == nullptr) return SplitText(number);
-    const Name* const row = field.names->RowOf(number);
-    return row != nullptr ? std::string(row->text) : std::string();
+    const Name* const row = names.RowOf(static_cast<std::int32_t>(code));
+    return row != nullptr ? row->text : std::string_view();
 }
 
 std::optional<std::int32_t> CodeOfName(const Field& field, std::string_view name) {

@@ -13,6 +13,7 @@ namespace orrery::tool {
 bool HasNames(const record::Field& field);
 // Empty when the code has none.
 std::string NameOfCode(const record::Field& field, std::int64_t code);
+std::string_view NameOfCode(const record::NameTable& names, std::int64_t code);
 // As the field itself compares names; unlike it, without a code for unknown ones.
 std::optional<std::int32_t> CodeOfName(const record::Field& field, std::string_view name);
 // All names, as far as they can be listed.

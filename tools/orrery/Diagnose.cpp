@@ -78,7 +78,12 @@ std::string ExplainNoValue(const Reply& reply, const Value& root) {
 } // namespace
 
 Document::Document(std::string_view itsText) : text(itsText.substr(0, itsText.find('\0'))) {
-    ok = json::Parse(text, arena, root, &error);
+    if (const char* const behind = json::ParseAt(text.data(), text.data() + text.size(), arena, root)) {
+        ok = true;
+        end = static_cast<std::size_t>(behind - text.data());
+    } else if (!arena.failed()) {
+        json::Parse(text, arena, root, &error);
+    }
 }
 
 std::string ExplainSyntax(const Document& document) {

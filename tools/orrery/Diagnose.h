@@ -19,6 +19,7 @@ struct Document {
     json::Value root;
     json::SyntaxError error;
     bool ok = false;
+    std::size_t end = 0; // of the document, where it is one: nobody reads what stands behind
 };
 
 // Line, column and what was expected there, with the line itself and a caret under the place. No newline at the end.

@@ -4,7 +4,6 @@
 #include "orrery/Suggest.h"
 
 #include "analyse/EventTypeRegistry.h"
-#include "events/EventMap.h"
 #include "frame/JsonParser.h"
 
 #include <algorithm>
@@ -49,8 +48,7 @@ class Survey {
     void Event(const Value& event, std::uint32_t index) {
         const Value& name = event["Code"];
         const Value& data = event["Data"];
-        const events::EventRow* const row =
-            events::FindEvent(static_cast<std::uint32_t>(RuleCodeFromName(name.asString())));
+        const events::EventRow* row = events::FindEvent(static_cast<std::uint32_t>(RuleCodeFromName(name.asString())));
         if (row == nullptr)
             return PassedOver(index, [&] { return name.isNull() ? "no \"Code\"" : UnknownEvent(name.asString()); });
         if (data.isNull() && !row->needsNoData) return PassedOver(index, [] { return "no \"Data\""; });
@@ -58,9 +56,9 @@ class Survey {
         const std::string_view action = event["Action"].asString();
         for (const std::string_view known : {"Pulse", "Start", "Stop"})
             if (EqualsFolded(action, known)) action_ = known;
-        if (row->rename != nullptr && events::FindEvent(row->rename(data)) == nullptr)
-            return PassedOver(index, [] { return "no event goes by what its \"Data\" names"; });
-        survey_.places.push_back({index, action_});
+        if (row->rename != nullptr) row = events::FindEvent(row->rename(data));
+        if (row == nullptr) return PassedOver(index, [] { return "no event goes by what its \"Data\" names"; });
+        survey_.places.push_back({index, action_, row});
     }
 
     template <class Why>

@@ -1,6 +1,7 @@
 // What stands in a text of events before it is decoded: which will be delivered, and why the others are not.
 #pragma once
 
+#include "events/EventMap.h"
 #include "frame/json/Value.h"
 
 #include <cstdint>
@@ -14,6 +15,7 @@ namespace orrery::tool {
 struct EventPlace {
     std::uint32_t index;
     std::string_view action;
+    const events::EventRow* row; // as which it is delivered
 };
 
 struct EventSurvey {

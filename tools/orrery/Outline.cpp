@@ -1,5 +1,7 @@
 #include "orrery/Outline.h"
 
+#include "orrery/Output.h"
+
 #include <bit>
 
 namespace orrery::tool {
@@ -24,6 +26,23 @@ bool IsStepClear(const std::byte* at) {
 }
 
 } // namespace
+
+void Outline::End(std::size_t recordSize) {
+    textSize = text.size();
+    text.append(LineWriter::kSlack, '\0');
+    size = recordSize;
+    std::size_t first = 0;
+    for (std::size_t from = 0; from < size; from += kPerLook) {
+        while (first < members.size() && members[first].offset + members[first].size <= from)
+            ++first;
+        at.push_back(static_cast<std::uint16_t>(first));
+    }
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        const Member& member = members[i];
+        if (!member.isAlike || !member.isPlainlyBlank || member.count.exists())
+            asks.push_back(static_cast<std::uint16_t>(i));
+    }
+}
 
 std::size_t FirstSet(const std::byte* record, std::size_t from, std::size_t size) {
     while (from + kStep <= size && IsStepClear(record + from))

@@ -1,6 +1,9 @@
 #include "orrery/Output.h"
 
+#include "orrery/Outline.h"
+
 #include <algorithm>
+#include <bit>
 #include <charconv>
 
 namespace orrery::tool {
@@ -203,14 +206,38 @@ void LineWriter::Grow(std::size_t more) {
 
 void LineWriter::Integer(std::int64_t number) {
     constexpr std::size_t kDigits = 20;
-    if (room_.size() - used_ < kDigits) Grow(kDigits);
-    char* const at = room_.data() + used_;
+    char* const at = Room(kDigits);
     if (number >= 0 && number <= 9) { // most are 0
         *at = static_cast<char>('0' + number);
         ++used_;
         return;
     }
     used_ = static_cast<std::size_t>(std::to_chars(at, at + kDigits, number).ptr - room_.data());
+}
+
+bool LineWriter::PlainText([[maybe_unused]] const std::byte* text, [[maybe_unused]] std::size_t room) {
+#if ORRERY_SSE2
+    constexpr std::size_t kStep = 16, kQuotes = 2;
+    char* at = Room(room + kStep + kQuotes);
+    *at++ = '"';
+    for (std::size_t done = 0; done + kStep <= room; done += kStep, at += kStep) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + done));
+        const auto is = [&](char wanted) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(wanted)); };
+        // Bytes beyond ASCII are below 0.
+        const __m128i other = _mm_or_si128(_mm_cmplt_epi8(bytes, _mm_set1_epi8(' ')), _mm_or_si128(is('"'), is('\\')));
+        const int found = _mm_movemask_epi8(other);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(at), bytes);
+        if (found == 0) continue;
+        const auto plain = static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(found)));
+        done += plain;
+        if (text[done] != std::byte{0} || !IsClear(text + done, room - done)) return false;
+        at += plain;
+        *at++ = '"';
+        used_ = static_cast<std::size_t>(at - room_.data());
+        return true;
+    }
+#endif
+    return false;
 }
 
 void LineWriter::Zeros(std::size_t count) {
@@ -227,8 +254,7 @@ void LineWriter::Zeros(std::size_t count) {
 
 void LineWriter::Text(std::string_view text) {
     constexpr std::size_t kQuotes = 2;
-    if (room_.size() - used_ < text.size() + kQuotes) Grow(text.size() + kQuotes);
-    char* at = room_.data() + used_;
+    char* at = Room(text.size() + kQuotes);
     *at++ = '"';
     for (const char c : text) { // most are short
         if (c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20) return Append(Quoted(text));

@@ -1,7 +1,9 @@
 // JSON for people: indented, but with what belongs together on one line. (What devices read, the library writes.)
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -90,8 +92,7 @@ class LineWriter {
     // The name of a member; it has nothing to escape.
     void Key(std::string_view key) {
         constexpr std::size_t kAround = 6; // `, "` and `": `
-        if (room_.size() - used_ < key.size() + kAround) Grow(key.size() + kAround);
-        char* at = room_.data() + used_;
+        char* at = Room(key.size() + kAround);
         if (!isFirst_) *at++ = ',';
         isFirst_ = false;
         *at++ = ' ';
@@ -109,15 +110,30 @@ class LineWriter {
         isFirst_ = false;
     }
     void Token(std::string_view token) { Append(token); }
+    // So many bytes behind what is spliced may be read.
+    static constexpr std::size_t kSlack = 64;
     // Members as they were written elsewhere, with what separates them.
     void Splice(std::string_view members) {
-        Append(members);
+        char* const at = Room(members.size() + kSlack);
         isFirst_ = false;
+        used_ += members.size();
+        // Most are short: what is copied too much is written over.
+        if (members.size() <= kSlack / 2)
+            std::memcpy(at, members.data(), kSlack / 2);
+        else if (members.size() <= kSlack)
+            std::memcpy(at, members.data(), kSlack);
+        else
+            std::memcpy(at, members.data(), members.size());
     }
+    // The same from behind its comma, which stands there only behind another member.
+    void SpliceMember(std::string_view member) { Splice(isFirst_ ? member.substr(1) : member); }
     void Integer(std::int64_t number);
     // Elements that are 0: most of a record's reserved words are.
     void Zeros(std::size_t count);
     void Text(std::string_view text);
+    // A text of plain ASCII with nothing to escape, in a room that is cleared behind it; false, and nothing is written,
+    // when it is none or when this can't be told at a glance.
+    bool PlainText(const std::byte* text, std::size_t room);
     // What was written behind a place is taken back.
     Mark Place() const { return {used_, isFirst_}; }
     void GoBack(const Mark& mark) {
@@ -127,8 +143,7 @@ class LineWriter {
     void End() { Put('\n'); }
 
     void Append(std::string_view text) {
-        if (room_.size() - used_ < text.size()) Grow(text.size());
-        text.copy(room_.data() + used_, text.size());
+        text.copy(Room(text.size()), text.size());
         used_ += text.size();
     }
     std::size_t size() const { return used_; }
@@ -141,8 +156,13 @@ class LineWriter {
   private:
     static bool IsArray(Brackets brackets) { return brackets == Brackets::Array || brackets == Brackets::InlineArray; }
     void Put(char c) {
-        if (room_.size() == used_) Grow(1);
-        room_[used_++] = c;
+        *Room(1) = c;
+        ++used_;
+    }
+    // Where so many bytes may be written.
+    char* Room(std::size_t more) {
+        if (room_.size() - used_ < more) Grow(more);
+        return room_.data() + used_;
     }
     void Grow(std::size_t more);
 

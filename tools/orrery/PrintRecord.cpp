@@ -105,8 +105,7 @@ class Printer {
     // These answer how many members or elements stand there.
     std::size_t Record(const Table& table, const std::byte* record) {
         if constexpr (std::is_same_v<Sink, LineWriter>) {
-            const Outline& outline = OutlineOf(table, options_.all);
-            return options_.brief ? Brief(outline, table, record) : Splice(outline, table, record);
+            return Lines(OutlineOf(table, options_.all), table, record);
         }
         sink_.Open(Brackets::Object);
         std::size_t count = 0;
@@ -176,12 +175,14 @@ class Printer {
         for (const Field& field : table) {
             if (field.alias || field.size == 0) continue;
             const auto place = [&] { return static_cast<std::uint32_t>(line.size()); };
-            const std::uint32_t begin = place();
+            const bool isFirst = outline.members.empty();
+            const std::uint32_t begin = place() - isFirst; // as if its bracket were a comma
             line.Key(field.name);
             const std::uint32_t value = place();
             printer.Content(table, field, clear.data());
             const bool isItems = field.cell == Cell::Pointer && ItemsBehind(table) != nullptr;
             const bool isDefault = field.hasDefault && field.defaultValue != 0;
+            const Outline::Way way = WayOf(field);
             outline.members.push_back({.field = &field,
                                        .name = field.name,
                                        .begin = begin,
@@ -190,40 +191,93 @@ class Printer {
                                        .offset = field.offset,
                                        .size = field.size,
                                        .count = all ? Slot{} : field.count,
+                                       .way = way,
                                        .isAlike = !isItems,
-                                       .isPlainlyBlank = field.kind != Kind::Size && !isDefault});
+                                       .isPlainlyBlank = field.kind != Kind::Size && !isDefault,
+                                       .inner = way == Outline::Way::Record ? &OutlineOf(*field.table, all) : nullptr});
         }
         line.Close(Brackets::Object);
         outline.text = line.Take();
+        outline.End(table.size);
         return outline;
     }
 
   private:
+    static Outline::Way WayOf(const Field& field) {
+        if (field.rank > 0) return Outline::Way::General;
+        switch (field.cell) {
+        case Cell::Record:
+            return Outline::Way::Record;
+        case Cell::Char:
+            return Outline::Way::Text;
+        case Cell::I8:
+        case Cell::U8:
+        case Cell::I16:
+        case Cell::U16:
+        case Cell::I32:
+        case Cell::U32:
+            if (!HasNames(field)) return Outline::Way::Number;
+            return field.names != nullptr ? Outline::Way::Code : Outline::Way::General;
+        default:
+            return Outline::Way::General;
+        }
+    }
+
+    std::size_t Lines(const Outline& outline, const Table& table, const std::byte* record) {
+        return options_.brief ? Brief(outline, table, record) : Splice(outline, table, record);
+    }
+
+    // A record between its members' prepared text.
     std::size_t Splice(const Outline& outline, const Table& table, const std::byte* record) {
         std::size_t done = 0; // of the outline's text
-        SetBytes set(record, table.size);
-        for (const Outline::Member& member : outline.members) {
+        outline.EachTold(record, [&](const Outline::Member& member, bool isSet) {
             const bool isInUse = member.count.exists() && LoadSlot(member.count, record) > 0;
-            if (member.isAlike && !isInUse && !set.AnyIn(member.offset, member.size)) continue;
+            if (member.isAlike && !isInUse && !isSet) return;
             sink_.Splice(outline.Part(done, member.value));
-            Content(table, *member.field, record);
+            Prepared(member, table, record);
             done = member.end;
-        }
-        sink_.Splice(outline.Part(done, outline.text.size()));
+        });
+        sink_.Splice(outline.Part(done, outline.textSize));
         return outline.members.size();
     }
 
     std::size_t Brief(const Outline& outline, const Table& table, const std::byte* record) {
         sink_.Open(Brackets::Object);
         std::size_t count = 0;
-        SetBytes set(record, table.size);
-        for (const Outline::Member& member : outline.members) {
-            const bool isBlank = member.isPlainlyBlank ? !set.AnyIn(member.offset, member.size)
-                                                       : IsBlank(*member.field, record + member.offset);
-            if (!isBlank) count += Member(table, *member.field, member.name, record);
-        }
+        outline.EachTold(record, [&](const Outline::Member& member, bool isSet) {
+            const bool isBlank = member.isPlainlyBlank ? !isSet : IsBlank(*member.field, record + member.offset);
+            if (isBlank) return;
+            const auto mark = sink_.Place();
+            sink_.SpliceMember(outline.Part(member.begin, member.value));
+            const bool isNested = member.way == Outline::Way::Record || IsNested(*member.field);
+            if (Prepared(member, table, record) > 0 || !isNested)
+                ++count;
+            else
+                sink_.GoBack(mark); // it tells nothing
+        });
         sink_.Close(Brackets::Object);
         return count;
+    }
+
+    std::size_t Prepared(const Outline::Member& member, const Table& table, const std::byte* record) {
+        const std::byte* const at = record + member.offset;
+        switch (member.way) {
+        case Outline::Way::Number:
+            sink_.Integer(LoadInteger(member.field->cell, at));
+            return 1;
+        case Outline::Way::Code: {
+            const std::int64_t code = LoadInteger(member.field->cell, at);
+            PutCode(code, NameOfCode(*member.field->names, code));
+            return 1;
+        }
+        case Outline::Way::Text:
+            if (!sink_.PlainText(at, member.size)) Text(at, member.size);
+            return 1;
+        case Outline::Way::Record:
+            return Lines(*member.inner, *member.field->table, at);
+        default:
+            return Content(table, *member.field, record);
+        }
     }
 
     std::size_t Content(const Table& table, const Field& field, const std::byte* record) {
@@ -236,10 +290,12 @@ class Printer {
     std::size_t Member(const Table& table, const Field& field, std::string_view name, const std::byte* record) {
         const auto mark = sink_.Place();
         sink_.Key(name);
-        const bool isNested = field.cell == Cell::Record || (field.cell != Cell::Pointer && field.rank > 0);
-        if (Content(table, field, record) > 0 || !options_.brief || !isNested) return 1;
+        if (Content(table, field, record) > 0 || !options_.brief || !IsNested(field)) return 1;
         sink_.GoBack(mark);
         return 0;
+    }
+    static bool IsNested(const Field& field) {
+        return field.cell == Cell::Record || (field.cell != Cell::Pointer && field.rank > 0);
     }
 
     std::size_t Level(const Field& field, int level, const std::byte* at, std::uint32_t count) {
@@ -287,6 +343,28 @@ class Printer {
         sink_.Text(text);
     }
 
+    // The same digits as the shortest that give the number, where there are at most three behind the point: all numbers
+    // of up to 15 digits differ. Empty for others.
+    static std::string_view OfFewDigits(double number, char* room) {
+        constexpr double kMost = 1e15;
+        constexpr std::int64_t kThousand = 1000;
+        const double scaled = std::abs(number) * kThousand;
+        if (scaled >= kMost) return {};
+        const auto thousandths = static_cast<std::int64_t>(scaled + 0.5);
+        std::int64_t behind = thousandths % kThousand;
+        if (thousandths < kThousand || behind == 0) return {};
+        if (static_cast<double>(thousandths) / kThousand != std::abs(number)) return {};
+        char* at = room;
+        if (number < 0) *at++ = '-';
+        at = std::to_chars(at, at + 20, thousandths / kThousand).ptr;
+        *at++ = '.';
+        for (std::int64_t digit = kThousand / 10; behind > 0; behind %= digit, digit /= 10)
+            *at++ = static_cast<char>('0' + behind / digit);
+        return {room, static_cast<std::size_t>(at - room)};
+    }
+    // A float has shorter ones.
+    static std::string_view OfFewDigits(float, char*) { return {}; }
+
     template <class Float>
     void Real(const std::byte* at) {
         const auto number = Load<Float>(at);
@@ -296,6 +374,7 @@ class Printer {
         const auto shortest = [&](auto value) {
             return std::string_view(room, static_cast<std::size_t>(std::to_chars(room, room + 64, value).ptr - room));
         };
+        if (const std::string_view few = OfFewDigits(number, room); !few.empty()) return sink_.Token(few);
         std::string_view token = shortest(number);
         if constexpr (sizeof(Float) < sizeof(double)) {
             double back = 0;
@@ -313,10 +392,13 @@ class Printer {
         const std::int64_t number = LoadInteger(field.cell, at);
         if (number > kLargestExact || number < -kLargestExact) return sink_.Text(std::to_string(number));
         if (!HasNames(field)) return sink_.Integer(number);
+        PutCode(number, NameOfCode(field, number));
+    }
+
+    void PutCode(std::int64_t code, std::string_view name) {
         sink_.Open(Brackets::Inline);
         sink_.Key("code");
-        sink_.Integer(number);
-        const std::string name = NameOfCode(field, number);
+        sink_.Integer(code);
         if (!name.empty()) {
             sink_.Key("name");
             sink_.Text(name);

@@ -63,6 +63,7 @@ std::vector<std::string> ColumnsOf(const EventOptions& options) {
 struct Shown {
     const EventOptions& options;
     std::span<const EventPlace> places; // of the events that will be delivered
+    bool isTyped;
     LineWriter& out;
     std::uint32_t count = 0;
     std::size_t next = 0; // of the places
@@ -83,24 +84,28 @@ bool Shown::Takes(const Item& item) const {
 
 void Shown::AddLine(const Item& item) {
     const PrintOptions print{options.all, options.brief};
-    out.Open(Brackets::Object);
-    const auto number = [&](std::string_view name, std::int64_t value) {
-        out.Key(name);
-        out.Integer(value);
-    };
-    const auto text = [&](std::string_view name, std::string_view value) {
-        out.Key(name);
-        out.Text(value);
-    };
-    number("code", item.code);
-    text("name", item.name);
-    number("size", item.size);
-    if (item.place != nullptr && !item.place->action.empty()) text("action", item.place->action);
-    if (item.place != nullptr) number("index", item.place->index);
-    if (!options.file.empty()) text("file", options.file);
-    if (!options.file.empty()) number("line", static_cast<std::int64_t>(options.line));
+    out.Append(R"({ "code": )");
+    out.Integer(item.code);
+    out.Append(R"(, "name": )");
+    out.Text(item.name);
+    out.Append(R"(, "size": )");
+    out.Integer(item.size);
+    if (item.place != nullptr && !item.place->action.empty()) {
+        out.Append(R"(, "action": )");
+        out.Text(item.place->action);
+    }
+    if (item.place != nullptr) {
+        out.Append(R"(, "index": )");
+        out.Integer(item.place->index);
+    }
+    if (!options.file.empty()) {
+        out.Append(R"(, "file": )");
+        out.Text(options.file);
+        out.Append(R"(, "line": )");
+        out.Integer(static_cast<std::int64_t>(options.line));
+    }
     if (options.fields.empty()) {
-        out.Key(item.isList ? "records" : "record");
+        out.Append(item.isList ? R"(, "records": )" : R"(, "record": )");
         if (item.isList)
             AppendRecords(out, *item.table, item.first, item.count, print);
         else
@@ -109,12 +114,12 @@ void Shown::AddLine(const Item& item) {
     for (const std::string& field : options.fields) {
         if (std::ranges::find(kAround, field) != std::end(kAround)) continue;
         const auto member = PrintMember(*item.table, item.first, field, print);
-        const std::string key = Quoted(Printable(field));
-        out.Key(std::string_view(key).substr(1, key.size() - 2));
+        out.Append(", ");
+        out.Append(Quoted(Printable(field)));
+        out.Append(": ");
         out.Token(member ? member->OneLine() : "null");
     }
-    out.Close(Brackets::Object);
-    out.End();
+    out.Append(" }\n");
 }
 
 void Shown::AddPretty(const Item& item) {
@@ -160,14 +165,15 @@ std::int32_t Show(std::uint32_t type, const void* record, std::uint32_t size, vo
     ++shown.count;
     try {
         const auto* const bytes = static_cast<const std::byte*>(record);
-        if (const events::TypedRow* const typed = events::FindTyped(type)) {
+        if (const events::TypedRow* const typed = shown.isTyped ? events::FindTyped(type) : nullptr) {
             shown.Add({type, typed->name, size, nullptr, typed->table, bytes, typed->isList,
                        typed->isList ? size / typed->table->size : 1});
             return 0;
         }
-        const events::EventRow& row = *events::FindEvent(type);
         const EventPlace* const place = shown.next < shown.places.size() ? &shown.places[shown.next] : nullptr;
         ++shown.next;
+        const bool isPlaced = place != nullptr && place->row->code == type;
+        const events::EventRow& row = isPlaced ? *place->row : *events::FindEvent(type);
         shown.Add({row.code, row.name, size, place, row.table, bytes});
     } catch (const std::bad_alloc&) {
         shown.ranOut = true;
@@ -211,31 +217,54 @@ std::string WithSource(const std::string& notes, const std::string& source) {
 
 } // namespace
 
+namespace {
+
+Result Refused(const EventOptions& options, const std::string& why) {
+    return {kRefused, {}, "orrery: " + SourceOf(options) + why + "\n"};
+}
+
+Result ShowDocument(const Document& document, const EventOptions& options, LineWriter& out) {
+    const Value& root = document.root;
+    const EventSurvey survey = SurveyEvents(root);
+    const bool isTyped = IsTyped(root);
+    Shown shown{options, survey.places, isTyped, out};
+    if (isTyped)
+        DeliverTyped(std::string(document.text).c_str(), Show, &shown);
+    else
+        DeliverEvents(root, document.text.size(), Show, &shown);
+    if (shown.ranOut) throw std::bad_alloc();
+    std::string notes;
+    if (isTyped) notes += WhyNoRules(root["VideoAnalyseRule"]);
+    if (survey.hasKey || !isTyped) notes += survey.notes;
+    if (!notes.empty()) notes = WithSource(notes, SourceOf(options));
+    return {isTyped || survey.isList ? kDone : kRefused, {}, std::move(notes)};
+}
+
+Result OutOfMemory() {
+    return {kRefused, {}, "orrery: out of memory\n"};
+}
+
+} // namespace
+
 Result ShowEvents(std::string_view text, const EventOptions& options, LineWriter& out) {
     try {
-        const auto refused = [&](const std::string& why) {
-            return Result{kRefused, {}, "orrery: " + SourceOf(options) + why + "\n"};
-        };
         const Document document(text);
         if (const std::string_view encoding = ForeignEncoding(text); !encoding.empty())
-            return refused(NotUtf8(encoding));
-        if (!document.ok) return refused(ExplainSyntax(document));
-        const Value& root = document.root;
-        const EventSurvey survey = SurveyEvents(root);
-        Shown shown{options, survey.places, out};
-        const bool isTyped = IsTyped(root);
-        if (isTyped)
-            DeliverTyped(std::string(document.text).c_str(), Show, &shown);
-        else
-            DeliverEvents(root, document.text.size(), Show, &shown);
-        if (shown.ranOut) throw std::bad_alloc();
-        std::string notes;
-        if (isTyped) notes += WhyNoRules(root["VideoAnalyseRule"]);
-        if (survey.hasKey || !isTyped) notes += survey.notes;
-        if (!notes.empty()) notes = WithSource(notes, SourceOf(options));
-        return {isTyped || survey.isList ? kDone : kRefused, {}, std::move(notes)};
+            return Refused(options, NotUtf8(encoding));
+        if (!document.ok) return Refused(options, ExplainSyntax(document));
+        return ShowDocument(document, options, out);
     } catch (const std::bad_alloc&) {
-        return {kRefused, {}, "orrery: out of memory\n"};
+        return OutOfMemory();
+    }
+}
+
+std::optional<Result> ShowEventsOf(std::string_view text, const EventOptions& options, LineWriter& out) {
+    try {
+        const Document document(text);
+        if (!document.ok || document.end != text.size()) return std::nullopt;
+        return ShowDocument(document, options, out);
+    } catch (const std::bad_alloc&) {
+        return OutOfMemory();
     }
 }
 

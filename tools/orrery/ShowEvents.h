@@ -6,6 +6,7 @@
 #include "orrery/Run.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,8 @@ struct EventOptions {
 Result ShowEvents(std::string_view text, const EventOptions& options = {});
 // The same for one text of many: what is printed goes to `out`, and no colours yet.
 Result ShowEvents(std::string_view text, const EventOptions& options, LineWriter& out);
+// The same where the text is one document and nothing else; nothing is printed and nothing told where it is not.
+std::optional<Result> ShowEventsOf(std::string_view text, const EventOptions& options, LineWriter& out);
 // Objects in colours, if they are asked for.
 bool IsColoured(const EventOptions& options);
 std::string Coloured(std::string out, const EventOptions& options);

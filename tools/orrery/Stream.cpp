@@ -29,12 +29,13 @@ struct Batch {
     struct Place {
         std::size_t end; // of a text among them
         std::uint64_t line;
+        bool isLine; // of which nobody knows yet whether it is one text
     };
     std::vector<Place> places{};
 
-    void Add(const TextSplitter::Piece& piece) {
+    void Add(const TextSplitter::Piece& piece, bool isLine) {
         texts += piece.text;
-        places.push_back({texts.size(), piece.line});
+        places.push_back({texts.size(), piece.line, isLine});
     }
 };
 
@@ -94,22 +95,24 @@ class Stream {
             if (done == 0 && !BeginsWell(name, bytes)) return true;
             done += bytes.size();
             splitter.Feed(bytes);
-            if (!GiveAll(name, [&] { return splitter.Next(); })) return false;
+            if (!GiveAll(name, splitter, false)) return false;
             const std::lock_guard lock(printing_);
             progress_->Reached(done);
         }
-        return GiveAll(name, [&] { return splitter.Rest(); });
+        return GiveAll(name, splitter, true);
     }
 
     // A few texts at a time: what is printed of them is still in the processor's caches when the system takes it.
-    template <class Next>
-    bool GiveAll(const std::string& name, const Next& next) {
+    bool GiveAll(const std::string& name, TextSplitter& splitter, bool isEnd) {
         Batch batch{name};
-        while (const auto piece = next()) {
-            batch.Add(*piece);
+        for (;;) {
+            std::optional<TextSplitter::Piece> piece = splitter.NextLine();
+            const bool isLine = piece.has_value();
+            if (!isLine) piece = isEnd ? splitter.Rest() : splitter.Next();
+            if (!piece) return batch.places.empty() || jobs_.Give(std::move(batch));
+            batch.Add(*piece, isLine);
             if (batch.texts.size() >= kTogether && !jobs_.Give(std::exchange(batch, {name}))) return false;
         }
-        return batch.places.empty() || jobs_.Give(std::move(batch));
     }
 
     // False for a file that holds no texts for devices.
@@ -142,6 +145,11 @@ class Stream {
         return std::exchange(spare_, {});
     }
 
+    static void Add(Shown& all, Result result) {
+        all.said.exit = std::max(all.said.exit, result.exit);
+        all.said.err += result.err;
+    }
+
     Shown ShowAll(const Batch& batch) {
         try {
             Shown all{batch.said, TakeSpare()};
@@ -149,12 +157,20 @@ class Stream {
             options.file = Printable(batch.file);
             std::size_t begin = 0;
             for (const Batch::Place& place : batch.places) {
-                options.line = place.line;
                 const std::string_view text = std::string_view(batch.texts).substr(begin, place.end - begin);
-                const Result result = ShowEvents(text, options, all.out);
-                all.said.exit = std::max(all.said.exit, result.exit);
-                all.said.err += result.err;
                 begin = place.end;
+                options.line = place.line;
+                if (!place.isLine) {
+                    Add(all, ShowEvents(text, options, all.out));
+                } else if (auto shown = ShowEventsOf(text, options, all.out)) {
+                    Add(all, std::move(*shown));
+                } else {
+                    TextSplitter splitter;
+                    splitter.Feed(text);
+                    while (const auto piece = splitter.Rest()) { // all of the one line
+                        Add(all, ShowEvents(piece->text, options, all.out));
+                    }
+                }
             }
             if (IsColoured(options)) all.said.out += Coloured(all.out.Take(), options);
             return all;

@@ -72,6 +72,20 @@ void TextSplitter::Feed(std::string_view bytes) {
     buffer_ += bytes;
 }
 
+std::optional<TextSplitter::Piece> TextSplitter::NextLine() {
+    if (!Begin(false) || !begun_ || at_ != 0) return std::nullopt;
+    const std::size_t end = buffer_.find('\n', begin_);
+    if (end == std::string::npos || end + 1 == buffer_.size() || buffer_[end + 1] != '{') return std::nullopt;
+    std::size_t last = end - 1;
+    while (IsBlank(buffer_[last])) // its bracket is none
+        --last;
+    if (buffer_[last] != '}') return std::nullopt;
+    const Piece piece{std::string_view(buffer_).substr(begin_, last + 1 - begin_), line_++, fed_ + begin_};
+    begin_ = end + 1;
+    Restart();
+    return piece;
+}
+
 TextSplitter::Piece TextSplitter::Cut(std::size_t end) {
     Piece piece{std::string_view(buffer_).substr(begin_, end), line_, fed_ + begin_};
     for (std::size_t at = 0; (at = piece.text.find('\n', at)) != std::string_view::npos; ++at)

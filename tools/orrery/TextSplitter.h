@@ -21,6 +21,9 @@ class TextSplitter {
     // The next text that is complete. A text that was cut off is given up where another one begins on a line of its
     // own.
     std::optional<Piece> Next() { return Take(false); }
+    // A whole line that begins and ends as texts do, and behind which another one begins: nobody has looked into it, so
+    // that it may hold several texts. Nothing where that is not so; then Next() tells.
+    std::optional<Piece> NextLine();
     // At the end of the stream: what is left, text after text, then nothing.
     std::optional<Piece> Rest() { return Take(true); }
 
