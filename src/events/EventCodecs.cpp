@@ -103,12 +103,11 @@ void ReadOwnedRecord(const Field& field, const Value& value, std::byte* record, 
 
 void ReadByKeys(const Field& field, const Value& value, std::byte* record, ReadCall&) {
     const std::uint32_t stride = field.elementSize;
-    for (std::uint16_t i = 0; i < field.names->count; ++i) {
-        const Name& name = field.names->rows[i];
-        const Value& number = value[name.text];
-        if (number.isNull() || static_cast<std::uint32_t>(name.code) >= field.dims[0]) continue;
-        StoreInteger(field.cell, record + field.offset + static_cast<std::uint32_t>(name.code) * stride,
-                     AnyIntegerOf(number));
+    for (const json::Member& member : value.members()) {
+        const Name* const name = member.value.isNull() ? nullptr : field.names->Find(member.key());
+        if (name == nullptr || static_cast<std::uint32_t>(name->code) >= field.dims[0]) continue;
+        StoreInteger(field.cell, record + field.offset + static_cast<std::uint32_t>(name->code) * stride,
+                     AnyIntegerOf(member.value));
     }
 }
 

@@ -58,8 +58,10 @@ struct OwnedRecord {
     constexpr explicit OwnedRecord(const TypedTable<R>& itsTable) : table(&itsTable) {}
 };
 
-// An object whose members are the elements: the table gives each key the index of its element.
+// An object whose members are the elements: the table gives each key the index of its element. Keys are compared as
+// they are, so the table must be exact.
 extern const CustomCodec kByKeys;
+void KeysMustBeExact(); // is no constant: a call of it does not compile
 struct ByKeys {
     static constexpr Kind kind = Kind::Custom;
     static constexpr bool wholeMember = true;
@@ -67,7 +69,9 @@ struct ByKeys {
     static constexpr bool accepts = std::rank_v<T> == 1 && kIsInteger<std::remove_extent_t<T>>;
     const CustomCodec* codec = &kByKeys;
     const NameTable* names;
-    constexpr explicit ByKeys(const NameTable& table) : names(&table) {}
+    consteval explicit ByKeys(const NameTable& table) : names(&table) {
+        if (table.compare != Compare::Exact || table.lastWins) KeysMustBeExact();
+    }
 };
 
 // A number that one of a list becomes: the place of the text's number, counted from `First`; 0 for a number not in it.

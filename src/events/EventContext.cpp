@@ -1,5 +1,7 @@
 #include "events/EventContext.h"
 
+#include "frame/json/MemberKeys.h"
+
 namespace orrery::events {
 
 using json::Value;
@@ -13,24 +15,16 @@ void ReadSourceDevice(const Field& field, const Value& value, std::byte* record,
 
 } // namespace
 
-// Few events name a group, and keys come sorted: one look over the beginnings of the keys tells.
+void GroupInto(EVENT_FILE_INFO& fileInfo, const Value& count, const Value& group, const Value& index) noexcept {
+    if (!count.isNull()) fileInfo.byCount = static_cast<std::uint8_t>(count.asInt());
+    if (!group.isNull()) fileInfo.nGroupID = AnyIntegerOf(group);
+    if (!index.isNull()) fileInfo.byIndex = static_cast<std::uint8_t>(index.asInt());
+}
+
 void ReadGroup(const Value& value, EVENT_FILE_INFO& fileInfo) noexcept {
-    constexpr std::uint64_t kCount = json::KeyPrefix("CountInGroup");
-    constexpr std::uint64_t kGroup = json::KeyPrefix("GroupID");
-    constexpr std::uint64_t kIndex = json::KeyPrefix("IndexInGroup");
-    for (const json::Member& member : value.members()) {
-        const std::uint64_t prefix = json::KeyPrefix(member);
-        if (prefix > kIndex) break;
-        const Value& found = member.value;
-        if ((prefix != kCount && prefix != kGroup && prefix != kIndex) || found.isNull()) continue;
-        const std::string_view key = member.key();
-        if (key == "CountInGroup")
-            fileInfo.byCount = static_cast<std::uint8_t>(found.asInt());
-        else if (key == "GroupID")
-            fileInfo.nGroupID = AnyIntegerOf(found);
-        else if (key == "IndexInGroup")
-            fileInfo.byIndex = static_cast<std::uint8_t>(found.asInt());
-    }
+    static constexpr json::MemberKeys kGroup("CountInGroup", "GroupID", "IndexInGroup");
+    const auto [count, group, index] = json::ValuesAt(value, kGroup);
+    GroupInto(fileInfo, *count, *group, *index);
 }
 
 constexpr CustomCodec kSourceDevice{ReadSourceDevice};

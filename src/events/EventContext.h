@@ -44,6 +44,9 @@ inline const EventCall& EventOf(const ReadCall& call) noexcept {
 
 // The group that a value names, key by key; what it does not name stays.
 void ReadGroup(const json::Value& value, EVENT_FILE_INFO& fileInfo) noexcept;
+// The same of its three values, which may be null.
+void GroupInto(EVENT_FILE_INFO& fileInfo, const json::Value& count, const json::Value& group,
+               const json::Value& index) noexcept;
 
 // The source device of a device that names its source: one that names none has no source device either.
 extern const CustomCodec kSourceDevice;

@@ -1,5 +1,7 @@
 #include "events/EventParts.h"
 
+#include "frame/json/MemberKeys.h"
+
 #include <algorithm>
 
 namespace orrery::events {
@@ -18,8 +20,11 @@ void ReadObjectAction(const Field& field, const Value& value, std::byte* record,
 
 // Milliseconds of every stamp go to the current one, so that the last stamp that has some prevails.
 void StampInto(const Value& value, std::byte* milliseconds) {
-    for (const char* const stamp : {"CurrentTimeStamp", "StartTimeStamp", "EndTimeStamp"}) {
-        const Value& found = value[stamp]["UTCMS"];
+    static constexpr json::MemberKeys kStamps("CurrentTimeStamp", "EndTimeStamp", "StartTimeStamp");
+    const auto [current, end, start] = json::ValuesAt(value, kStamps);
+    for (const Value* const stamp : {current, start, end}) {
+        if (stamp->isNull()) continue;
+        const Value& found = (*stamp)["UTCMS"];
         if (!found.isNull()) Store(milliseconds, found.asUInt());
     }
 }

@@ -1,6 +1,7 @@
 #include "events/VehicleParts.h"
 
 #include "events/EventLog.h"
+#include "frame/json/MemberKeys.h"
 
 #include <algorithm>
 #include <charconv>
@@ -97,6 +98,27 @@ std::uint32_t Decimal(std::string_view text) noexcept {
     return static_cast<std::uint32_t>(number);
 }
 
+// "2026-11-20 09:30:00", to the digit. False for any other text.
+bool ReadUsualTime(std::string_view text, std::uint32_t (&fields)[6]) noexcept {
+    constexpr std::string_view kForm = "0000-00-00 00:00:00";
+    if (text.size() != kForm.size()) return false;
+    std::uint32_t number = 0;
+    std::size_t field = 0;
+    for (std::size_t i = 0; i < kForm.size(); ++i) {
+        const char c = text[i];
+        if (kForm[i] == '0') {
+            if (c < '0' || c > '9') return false;
+            number = number * 10 + static_cast<std::uint32_t>(c - '0');
+        } else {
+            if (c != kForm[i]) return false;
+            fields[field++] = number;
+            number = 0;
+        }
+    }
+    fields[field] = number;
+    return true;
+}
+
 // What stands behind the last `mark`, which is cut off; the whole text when there is none.
 std::string_view TakeLast(std::string_view& text, char mark) noexcept {
     const std::size_t at = text.rfind(mark);
@@ -141,6 +163,7 @@ constexpr CustomCodec kSplitTime{ReadSplitTimeField};
 constexpr CustomCodec kCommInfoAndPaths{ReadCommInfoAndPaths};
 
 void ReadSplitTime(std::string_view text, std::uint32_t (&fields)[6]) noexcept {
+    if (ReadUsualTime(text, fields)) return;
     const std::size_t blank = text.rfind(' ');
     std::string_view date = text.substr(0, blank);
     std::string_view time = blank == std::string_view::npos ? std::string_view{} : text.substr(blank + 1);
@@ -202,21 +225,24 @@ bool SetObjectColor(std::uint32_t& color, std::string_view name, std::uint8_t& i
 void CarOverObjects(const Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& object, EVENT_OBJECT_INFO& vehicle,
                     EVENT_FILE_INFO& fileInfo) noexcept {
     if (car.isNull()) return;
-    if (!car["PlateNumber"].isNull()) {
+    static constexpr json::MemberKeys kKeys("CountInGroup", "GroupID", "IndexInGroup", "PlateColor", "PlateNumber",
+                                            "PlateType", "VehicleColor");
+    const auto [count, group, index, plateColor, plateNumber, plateType, vehicleColor] = json::ValuesAt(car, kKeys);
+    if (!plateNumber->isNull()) {
         constexpr std::size_t kMost = sizeof object.szText - 1;
         const std::string_view plate = texts.plateNumber.substr(0, kMost);
         std::memset(object.szText, 0, sizeof object.szText);
         std::memcpy(object.szText, plate.data(), plate.size());
     }
-    if (!car["PlateColor"].isNull()) SetObjectColor(object.rgbaMainColor, texts.plateColor, object.bColor);
-    if (const Value& type = car["PlateType"]; !type.isNull()) {
+    if (!plateColor->isNull()) SetObjectColor(object.rgbaMainColor, texts.plateColor, object.bColor);
+    if (!plateType->isNull()) {
         constexpr std::size_t kMost = 61;
-        const std::string_view text = type.asString().substr(0, kMost);
+        const std::string_view text = plateType->asString().substr(0, kMost);
         std::memset(object.szObjectSubType, 0, sizeof object.szObjectSubType);
         if (!text.empty()) std::memcpy(object.szObjectSubType, text.data(), text.size());
     }
-    if (!car["VehicleColor"].isNull()) SetObjectColor(vehicle.rgbaMainColor, texts.vehicleColor, vehicle.bColor);
-    ReadGroup(car, fileInfo);
+    if (!vehicleColor->isNull()) SetObjectColor(vehicle.rgbaMainColor, texts.vehicleColor, vehicle.bColor);
+    GroupInto(fileInfo, *count, *group, *index);
 }
 
 } // namespace orrery::events

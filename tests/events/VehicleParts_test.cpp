@@ -12,6 +12,7 @@
 #include "support/FailingAllocator.h"
 #include "support/LogLines.h"
 
+#include <array>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <map>
@@ -368,6 +369,28 @@ TEST(CommInfo, EveryKey) {
                               EXPECT_STREQ(tag.szPlateSN, "sn");
                               EXPECT_STREQ(info.szCountry, "NL");
                           }));
+}
+
+TEST(CommInfo, TimesOfAnyFormAreTakenFromTheirRightEnd) {
+    using Fields = std::array<std::uint32_t, 6>;
+    const auto fieldsOf = [](std::string_view text) {
+        std::uint32_t fields[6] = {9, 9, 9, 9, 9, 9};
+        events::ReadSplitTime(text, fields);
+        return std::to_array(fields);
+    };
+    EXPECT_EQ(fieldsOf("2026-11-20 09:30:05"), (Fields{2026, 11, 20, 9, 30, 5}));
+    EXPECT_EQ(fieldsOf("9999-99-99 99:99:99"), (Fields{9999, 99, 99, 99, 99, 99}));
+    // As long as the usual form, and another one.
+    EXPECT_EQ(fieldsOf("2026-11-20T09:30:05"), (Fields{2026, 11, 20, 0, 0, 0}));
+    EXPECT_EQ(fieldsOf("2026-11-20 09.30:05"), (Fields{2026, 11, 20, 0, 9, 5}));
+    EXPECT_EQ(fieldsOf("2026/11-20 09:30:05"), (Fields{0, 2026, 20, 9, 30, 5}));
+    EXPECT_EQ(fieldsOf("2026-11-20 09:30: 5"), (Fields{2026, 11, 20, 0, 0, 5}));
+    EXPECT_EQ(fieldsOf("2026-11-20 0a:30:b5"), (Fields{2026, 11, 20, 0, 30, 0}));
+    // Shorter and longer.
+    EXPECT_EQ(fieldsOf("2026-11-20 9:30:5"), (Fields{2026, 11, 20, 9, 30, 5}));
+    EXPECT_EQ(fieldsOf("2026-11-20 09:30:057"), (Fields{2026, 11, 20, 9, 30, 57}));
+    EXPECT_EQ(fieldsOf("2026-11-20 09:30"), (Fields{2026, 11, 20, 0, 9, 30}));
+    EXPECT_EQ(fieldsOf(""), (Fields{0, 0, 0, 0, 0, 0}));
 }
 
 TEST(CommInfo, ListsEndAtTheirRoom) {

@@ -13,9 +13,9 @@ struct MemberOrders {
     std::uint8_t places[kMost + 1][kMost]; // of the members in key order
 };
 
-// Sorts `count` members by key, of those with the same key the last one stays, and returns how many stayed. `same` are
-// the same members once more, which need not stay. Takes n log n comparisons whatever the order they came in, since
-// that is the sender's choice.
-std::uint32_t SortMembers(Member* members, Member* same, std::uint32_t count, MemberOrders& orders) noexcept;
+// Brings the `count` members that came into `sorted`, by key; of those with the same key the last one stays. Returns
+// how many stayed. What came need not stay. Takes n log n comparisons whatever the order they came in, since that is
+// the sender's choice.
+std::uint32_t SortMembers(Member* came, Member* sorted, std::uint32_t count, MemberOrders& orders) noexcept;
 
 } // namespace orrery::json

@@ -233,19 +233,16 @@ const char* Reader::Read(Value& root) noexcept {
             if (!sorted || !HandOver(bytes, start, limit)) {
                 entries = static_cast<std::byte*>(arena_.Allocate(bytes));
                 if (entries == nullptr) return nullptr;
-                MoveEntries(entries, start, bytes);
+                if (sorted) MoveEntries(entries, start, bytes);
             }
-            const std::byte* const from = start;
+            std::byte* const from = start;
             top = start - sizeof(Value);
             const Enclosing enclosing = *std::launder(reinterpret_cast<const Enclosing*>(top));
             start -= std::size_t{enclosing.distance} * sizeof(Value);
             if (object) {
                 auto count = static_cast<std::uint32_t>(bytes / sizeof(Member));
                 auto* const members = reinterpret_cast<Member*>(entries);
-                if (!sorted) {
-                    auto* const same = reinterpret_cast<Member*>(const_cast<std::byte*>(from));
-                    count = SortMembers(members, same, count, orders_);
-                }
+                if (!sorted) count = SortMembers(reinterpret_cast<Member*>(from), members, count, orders_);
                 Value::PutObject(top, members, count);
             } else {
                 Value::PutArray(top, reinterpret_cast<const Value*>(entries), bytes / sizeof(Value));

@@ -251,7 +251,8 @@ void ReadCustom(const Field& field, const Value& value, std::byte* record, ReadC
     if (field.custom->read != nullptr) field.custom->read(field, value, record, call);
 }
 
-void ReadPlainly(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
+[[gnu::always_inline]] inline void ReadPlainly(const Table& table, const Node& node, const Value& value,
+                                               std::byte* record, ReadCall& call) noexcept {
     if (node.flag.exists()) StoreInteger(node.flag.cell, record + node.flag.offset, 1);
     std::byte* const at = record + node.offset;
     switch (node.readPlainly) {
@@ -286,9 +287,8 @@ void ReadPlainly(const Table& table, const Node& node, const Value& value, std::
 
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept;
 
-} // namespace
-
-void ReadNode(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
+[[gnu::always_inline]] inline void ReadNodeHere(const Table& table, const Node& node, const Value& value,
+                                                std::byte* record, ReadCall& call) noexcept {
     if (value.isNull() && !node.needsAbsent) return;
     if (node.readPlainly == Plainly::Function)
         ReadCustom(table.rows[node.row], value, record, call);
@@ -300,8 +300,6 @@ void ReadNode(const Table& table, const Node& node, const Value& value, std::byt
         ReadField(table.rows[node.row], value, record, call);
 }
 
-namespace {
-
 // A merge of two sorted lists: the nodes of the object and the members that came. Several nodes may have one key.
 void ReadNodes(const Table& table, NodeRange range, const Value& object, std::byte* record, ReadCall& call) noexcept {
     const Node* node = table.nodes + range.first;
@@ -311,8 +309,10 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
         for (; node != end && node->prefix <= prefix; ++node) {
             const int order = node->prefix < prefix ? -1 : CompareTails(table, *node, member);
             if (order > 0) break;
-            if (order == 0 || node->needsAbsent)
-                ReadNode(table, *node, order == 0 ? member.value : json::kNull, record, call);
+            if (order == 0)
+                ReadNodeHere(table, *node, member.value, record, call);
+            else if (node->needsAbsent)
+                ReadNode(table, *node, json::kNull, record, call);
         }
         if (node == end) return;
     }
@@ -322,6 +322,10 @@ void ReadNodes(const Table& table, NodeRange range, const Value& object, std::by
 }
 
 } // namespace
+
+void ReadNode(const Table& table, const Node& node, const Value& value, std::byte* record, ReadCall& call) noexcept {
+    ReadNodeHere(table, node, value, record, call);
+}
 
 bool IsOfType(OnlyType only, const Value& value) noexcept {
     switch (only) {
