@@ -461,12 +461,13 @@ TEST_F(WriteRunIn, TextsOfAnEncodingThatIsNoAscii) {
     Compile("SHIFT_JIS", "ja_JP.SJIS");
     const test::ProcessLocale locale("ja_JP.SJIS");
     ASSERT_TRUE(locale.isThere());
-    // 83 5C is U+30BD, and the second of its bytes a backslash elsewhere.
-    const Titles r{"a", "\x83\x5C", {"b", "c", "\x83\x5C", "d"}, "\x83\x5C", "e"};
+    // It has a yen sign and a line above where ASCII has a backslash and a tilde, and 83 5C for U+30BD.
+    const Titles r{"b\\c", "\x83\x5C", {"b", "abc~", "\x83\x5C", "d\\e"}, "~\\", "f"};
     ExpectInEveryRoom(kTitles, r,
-                      "{ \"Before\" : \"a\", \"List\" : [ \"b\", \"c\", \"\xE3\x82\xBD\", \"d\" ], "
-                      "\"One\" : \"\xE3\x82\xBD\", \"Raw\" : \"\x83\\\\\", \"Zone\" : \"e\" }");
-    ExpectInEveryRoom(kTitleTuple, r, "[ \"a\", \"\xE3\x82\xBD\", \"\x83\\\\\", \"e\" ]");
+                      "{ \"Before\" : \"b\xC2\xA5\x63\", \"List\" : [ \"b\", \"abc\xE2\x80\xBE\", "
+                      "\"\xE3\x82\xBD\", \"d\xC2\xA5\x65\" ], \"One\" : \"\xE3\x82\xBD\", \"Raw\" : \"~\\\\\", "
+                      "\"Zone\" : \"f\" }");
+    ExpectInEveryRoom(kTitleTuple, r, "[ \"b\xC2\xA5\x63\", \"\xE3\x82\xBD\", \"~\\\\\", \"f\" ]");
 }
 
 } // namespace
