@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstring>
 #include <limits>
-#include <type_traits>
 
 namespace orrery {
 
@@ -109,10 +108,21 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
     out.String({text, static_cast<std::size_t>(end - text)});
 }
 
+// "09:30:00" in quotes. Null when a number has more digits.
+constexpr std::size_t kClockText = 10;
+char* PutUsualClock(char* to, const char* clock) noexcept {
+    std::uint32_t fields[3];
+    std::memcpy(fields, clock, sizeof fields);
+    if (fields[0] > 99 || fields[1] > 99 || fields[2] > 99) return nullptr;
+    std::memcpy(to, "\"00:00:00\"", kClockText);
+    for (std::size_t i = 0; i < 3; ++i)
+        json::PutPair(to + 1 + 3 * i, fields[i]);
+    return to + kClockText;
+}
+
 // Of a section in quotes.
 constexpr std::size_t kSectionText = 21;
 constexpr std::size_t kSectionStep = kSectionText + 2; // to the same byte of the section behind it
-constexpr char kEmptySection[] = "\"0 00:00:00-00:00:00\"";
 
 // The first and the last sixteen bytes of a section.
 struct SectionBytes {
@@ -144,22 +154,24 @@ char* PutUsualSection(char* to, const SectionBytes& section) noexcept {
     const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
     const __m128i outside = _mm_subs_epu16(numbers, most);
     if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return nullptr;
-    // Two letters a number, the tens lower: 256 times what is behind the tens, and the tens.
+    // Two digits a number: the tens lower, as they stand in the text, but for minutes, whose tens are higher.
     const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
-    const __m128i pairs = _mm_sub_epi16(_mm_slli_epi16(numbers, 8), _mm_mullo_epi16(tens, _mm_set1_epi16(2559)));
-    const __m128i digits = _mm_add_epi16(pairs, _mm_set1_epi16(0x3030));
-    const auto put = [to, digits]<int Lane>(std::integral_constant<int, Lane>, std::size_t field) {
-        const auto pair = static_cast<std::uint16_t>(_mm_extract_epi16(digits, Lane));
-        std::memcpy(to + 3 * field, &pair, 2);
-    };
-    std::memcpy(to, kEmptySection, kSectionText);
-    to[1] = static_cast<char>(_mm_cvtsi128_si32(digits) >> 8 & 0xFF);
-    put(std::integral_constant<int, 1>{}, 1);
-    put(std::integral_constant<int, 2>{}, 2);
-    put(std::integral_constant<int, 3>{}, 3);
-    put(std::integral_constant<int, 5>{}, 4);
-    put(std::integral_constant<int, 6>{}, 5);
-    put(std::integral_constant<int, 7>{}, 6);
+    const __m128i ofNumber = _mm_setr_epi16(256, 256, 1, 256, 256, 256, 1, 256);
+    const __m128i ofTens = _mm_setr_epi16(-2559, -2559, 246, -2559, -2559, -2559, 246, -2559);
+    const __m128i pairs = _mm_add_epi16(_mm_mullo_epi16(numbers, ofNumber), _mm_mullo_epi16(tens, ofTens));
+    // Each clock in eight letters: hours, minutes twice, of which the inner letters stay, and seconds.
+    constexpr int kSpread = _MM_SHUFFLE(3, 2, 2, 1);
+    const __m128i spread = _mm_shufflehi_epi16(_mm_shufflelo_epi16(pairs, kSpread), kSpread);
+    const __m128i kept = _mm_and_si128(spread, _mm_set1_epi64x(static_cast<long long>(0xFFFF00FFFF00FFFF)));
+    const __m128i clocks = _mm_add_epi8(kept, _mm_set1_epi64x(0x30303A30303A3030)); // zeros and colons
+    // The mask has no tens.
+    constexpr std::uint32_t kFirst = 0x203022; // `"0 `
+    const std::uint32_t first = kFirst + (static_cast<std::uint32_t>(_mm_cvtsi128_si32(pairs)) & 0xFFFF);
+    std::memcpy(to, &first, sizeof first);
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(to + 3), clocks);
+    to[11] = '-';
+    _mm_storeh_pd(reinterpret_cast<double*>(to + 12), _mm_castsi128_pd(clocks));
+    to[20] = '"';
 #else
     std::uint32_t fields[kSectionFields + 1]; // the second of the first clock twice
     std::memcpy(fields, section.first, sizeof section.first);
@@ -168,7 +180,7 @@ char* PutUsualSection(char* to, const SectionBytes& section) noexcept {
     for (int i = 0; i < kSectionFields; ++i)
         outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
     if (outside >> 31 != 0) return nullptr;
-    std::memcpy(to, kEmptySection, kSectionText);
+    std::memcpy(to, "\"0 00:00:00-00:00:00\"", kSectionText);
     to[1] = static_cast<char>('0' + fields[0]);
     for (int i = 1; i < kSectionFields; ++i)
         json::PutPair(to + 3 * i, fields[i]);
@@ -351,9 +363,12 @@ bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept
 }
 
 void JsonParser::SetClockTime(json::TextWriter& out, const NET_TIME* time) noexcept {
-    const auto* const bytes = reinterpret_cast<const char*>(time);
-    WriteFields(out, bytes == nullptr ? nullptr : bytes + offsetof(NET_TIME, dwHour), 3, kClockSeparators,
-                kClockWidths);
+    if (time == nullptr) return out.Null();
+    const char* const clock = reinterpret_cast<const char*>(time) + offsetof(NET_TIME, dwHour);
+    json::Pen pen(out);
+    if (pen.has(kClockText) && pen.TryElement([clock](char* to) { return PutUsualClock(to, clock); }))
+        return pen.Return(out);
+    WriteFields(out, clock, 3, kClockSeparators, kClockWidths);
 }
 
 bool JsonParser::GetDate(const json::Value& value, NET_TIME* time) noexcept {

@@ -239,6 +239,28 @@ TEST(TimeSection, WritesEveryNumberOfEveryField) {
     }
 }
 
+// Every number of every field, and what has more digits or a sign, in every room.
+TEST(ClockTime, WritesEveryNumberOfEveryField) {
+    for (const int number : {0, 1, 9, 10, 59, 98, 99, 100, 12345, -1, -12, INT_MIN}) {
+        for (int field = 0; field < 3; ++field) {
+            NET_TIME time{2026, 11, 22, 1, 23, 45};
+            int* const fields[3] = {&time.dwHour, &time.dwMinute, &time.dwSecond};
+            *fields[field] = number;
+            char digits[64];
+            std::snprintf(digits, sizeof digits, "\"%02d:%02d:%02d\"", time.dwHour, time.dwMinute, time.dwSecond);
+            const std::string whole = digits;
+            for (std::size_t capacity = 0; capacity <= whole.size() + 120; ++capacity) {
+                const test::GuardedBuffer room(capacity);
+                json::TextWriter out(room.data(), capacity);
+                JsonParser::SetClockTime(out, &time);
+                ASSERT_EQ(out.length(), whole.size()) << number << " in " << capacity;
+                const std::size_t kept = std::min(capacity, whole.size());
+                ASSERT_EQ(room.view().substr(0, kept), whole.substr(0, kept)) << number << " in " << capacity;
+            }
+        }
+    }
+}
+
 // Days that are like the one before stand there once more, wherever in an array they come.
 TEST(TimeSchedule, WritesDaysBehindOtherElements) {
     const CFG_TIME_SECTION days[4] = {kWorkday, {}, kWorkday, {}};
