@@ -141,7 +141,7 @@ char* PutQuoted(char* at, const char* const text, std::size_t capacity) noexcept
 #if ORRERY_SSE2
     // What stands behind the terminator is copied along and overwritten later.
     while (end - to.p >= 16) {
-        const unsigned stops = Stops<AsciiOnly>(CopyBlock(to.at, to.p));
+        unsigned stops = Stops<AsciiOnly>(CopyBlock(to.at, to.p));
         if (stops == 0) {
             to.p += 16;
             to.at += 16;
@@ -153,10 +153,16 @@ char* PutQuoted(char* at, const char* const text, std::size_t capacity) noexcept
             }
             continue;
         }
-        const int good = std::countr_zero(stops);
-        to.p += good;
-        to.at += good;
-        if (!to.PutByte()) return to.End();
+        for (;;) {
+            const int good = std::countr_zero(stops);
+            to.p += good;
+            to.at += good;
+            if (!to.PutByte()) return to.End();
+            // What is left of the block moves up, and where it stops next is known.
+            stops >>= good + 1;
+            if (stops == 0 || end - to.p < 16) break;
+            CopyBlock(to.at, to.p);
+        }
     }
     if (to.p == end) return to.Quote();
 #endif
