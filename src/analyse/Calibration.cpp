@@ -1,5 +1,7 @@
 #include "analyse/Calibration.h"
 
+#include "frame/json/Pen.h"
+
 #include <algorithm>
 
 namespace orrery {
@@ -31,8 +33,16 @@ void WriteClosedCorners(const Field& field, const std::byte* record, WriteCall& 
     if (count <= 0) return;
     call.Key();
     call.out.BeginArray();
-    for (std::int64_t i = 0; i < count; ++i)
-        WriteRecord(kCorner, record + field.offset + static_cast<std::size_t>(i) * sizeof(CFG_POLYGON), call);
+    const std::byte* corner = record + field.offset;
+    const std::byte* const end = corner + static_cast<std::size_t>(count) * sizeof(CFG_POLYGON);
+    json::Pen pen(call.out);
+    for (; corner != end && pen.has(json::Pen::kPairRoom); corner += sizeof(CFG_POLYGON)) {
+        const auto x = MEMBER(corner, CFG_POLYGON, nX), y = MEMBER(corner, CFG_POLYGON, nY);
+        pen.Element([=](char* to) { return json::Pen::PutPair(to, x, y); });
+    }
+    pen.Return(call.out);
+    for (; corner != end; corner += sizeof(CFG_POLYGON))
+        WriteRecord(kCorner, corner, call);
     call.out.EndArray();
 }
 

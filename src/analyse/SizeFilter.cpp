@@ -3,8 +3,6 @@
 #include "frame/json/Pen.h"
 #include "frame/record/Engine.h"
 
-#include <cstring>
-
 namespace orrery::sizefilter {
 
 namespace {
@@ -20,15 +18,8 @@ void WriteNumberPair(const Field& field, const std::byte* record, WriteCall& cal
     const std::byte* const at = record + field.offset;
     const std::int32_t first = Load<std::int32_t>(at), second = Load<std::int32_t>(at + 4);
     json::Pen pen(call.out);
-    if (pen.has(8 + 2 * json::kIntegerRoom)) [[likely]] {
-        pen.Element([=](char* to) {
-            std::memcpy(to, "[ ", 2);
-            to = json::PutDigits(to + 2, first);
-            std::memcpy(to, ", ", 2);
-            to = json::PutDigits(to + 2, second);
-            std::memcpy(to, " ]", 2);
-            return to + 2;
-        });
+    if (pen.has(json::Pen::kPairRoom)) [[likely]] {
+        pen.Element([=](char* to) { return json::Pen::PutPair(to, first, second); });
         return pen.Return(call.out);
     }
     call.out.BeginArray();

@@ -104,6 +104,17 @@ class Pen {
         return at + 4;
     }
 
+    // "[ 1, 2 ]"
+    static constexpr std::size_t kPairRoom = 6 + 2 * kIntegerRoom;
+    static char* PutPair(char* at, std::int32_t first, std::int32_t second) noexcept {
+        std::memcpy(at, "[ ", 2);
+        at = PutDigits(at + 2, first);
+        std::memcpy(at, ", ", 2);
+        at = PutDigits(at + 2, second);
+        std::memcpy(at, " ]", 2);
+        return at + 2;
+    }
+
   private:
     void Begin(const char* bracket) noexcept {
         std::memcpy(at_, ", ", kSeparator);

@@ -170,10 +170,21 @@ void WriteFields(const Table& table, const std::byte* record, WriteCall& call) n
 void WriteChosen(const Table& table, const std::byte* record, WriteCall& call, RowChoice chosen) noexcept {
     OpenObject inner{call.object, call.quotedKey, false};
     call.object = &inner;
+    // Neighbours at once.
+    NodeRange run{table.members.first, 0};
+    const auto writeRun = [&] {
+        if (run.count > 0) WriteNodes(table, run, record, call);
+    };
     for (std::uint16_t i = 0; i < table.members.count; ++i) {
         const auto node = static_cast<std::uint16_t>(table.members.first + i);
-        if (chosen.takes(table.rows[table.nodes[node].row], chosen.what)) WriteNodes(table, {node, 1}, record, call);
+        if (chosen.takes(table.rows[table.nodes[node].row], chosen.what)) {
+            ++run.count;
+            continue;
+        }
+        writeRun();
+        run = {static_cast<std::uint16_t>(node + 1), 0};
     }
+    writeRun();
     call.object = inner.parent;
     if (inner.opened) call.out.EndObject();
 }

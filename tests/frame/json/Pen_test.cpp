@@ -55,6 +55,18 @@ TEST(Pen, HasWhatTheWriterHasLessASeparator) {
     EXPECT_FALSE(Pen(nowhere).has(0));
 }
 
+TEST(Pen, PutsPairsOfNumbersInTheirRoom) {
+    for (const std::int32_t number : {0, -7, 1000, 2147483647, -2147483647 - 1}) {
+        const test::GuardedBuffer room(Pen::kPairRoom);
+        const char* const end = Pen::PutPair(room.data(), number, -5);
+        const std::string due = "[ " + std::to_string(number) + ", -5 ]";
+        EXPECT_EQ(std::string_view(room.data(), static_cast<std::size_t>(end - room.data())), due);
+        const char* const last = Pen::PutPair(room.data(), -2147483647, number);
+        EXPECT_EQ(std::string_view(room.data(), static_cast<std::size_t>(last - room.data())),
+                  "[ -2147483647, " + std::to_string(number) + " ]");
+    }
+}
+
 TEST(Pen, OpensAndClosesObjectsAsTheWriterDoes) {
     std::string buffer(64, '?');
     TextWriter out(buffer.data(), buffer.size());
