@@ -33,7 +33,7 @@ struct Elements {
     std::uint32_t count;
 };
 
-Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
+[[gnu::always_inline]] inline Elements ElementsOf(const Field& field, const std::byte* record) noexcept {
     const std::byte* first = record + field.offset;
     std::int64_t room = field.dims[0];
     if (field.cell == Cell::Pointer) {
@@ -119,7 +119,8 @@ std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& 
 
 void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {
     const Elements elements = ElementsOf(field, record);
-    const std::uint32_t stride = StrideOf(field, 0);
+    const bool isFlat = field.rank == 1 && field.cell != Cell::Pointer;
+    const std::uint32_t stride = isFlat ? field.elementSize : StrideOf(field, 0);
     const auto isWritten = [&](std::uint32_t i) {
         const std::byte* const at = elements.first + std::size_t{i} * stride;
         return field.keyed ? IsWrittenByName(*field.table, at) : IsElementWritten(field, at);
@@ -157,8 +158,7 @@ void WriteList(const Field& field, const std::byte* record, WriteCall& call) noe
     if (IsPlainNumber(field) && inner == field.rank) return WriteNumbers(elements.first, end, stride, call.out);
     call.out.BeginArray();
     std::uint32_t i = 0;
-    if (field.rank == 1 && field.cell != Cell::Pointer)
-        i = PutWords(field, {elements.first, end}, call.out, call.parser.text());
+    if (isFlat) i = PutWords(field, {elements.first, end}, call.out, call.parser.text());
     for (; i < end; ++i) {
         const std::byte* const at = elements.first + std::size_t{i} * stride;
         if (inner == field.rank || field.cell == Cell::Pointer) {
