@@ -151,11 +151,17 @@ void ReadCommInfoAndPaths(const Field& field, const Value& value, std::byte* rec
     FillPath(source.szVideoPath, sizeof source.szVideoPath, "New szVideoPath Failed", info.pszVideoPath, arena);
 }
 
+constexpr NameIndex kPlateColorIndex = IndexOver(kPlateColorRows);
+constexpr NameIndex kNonMotorColorIndex = IndexOver(kNonMotorColorRows);
+constexpr NameIndex kNonMotorTypeIndex = IndexOver(kNonMotorTypeRows);
+
 } // namespace
 
-constexpr NameTable kPlateColors = FoldedNames(kPlateColorRows).LastWins().UnknownLeaves();
-constexpr NameTable kNonMotorColors = FoldedNames(kNonMotorColorRows).LastWins().UnknownLeaves();
-constexpr NameTable kNonMotorTypes = FoldedNames(kNonMotorTypeRows).LastWins().UnknownLeaves();
+constexpr NameTable kPlateColors = NamesOver(kPlateColorRows, kFolded.LastWins().UnknownLeaves(), kPlateColorIndex);
+constexpr NameTable kNonMotorColors =
+    NamesOver(kNonMotorColorRows, kFolded.LastWins().UnknownLeaves(), kNonMotorColorIndex);
+constexpr NameTable kNonMotorTypes =
+    NamesOver(kNonMotorTypeRows, kFolded.LastWins().UnknownLeaves(), kNonMotorTypeIndex);
 
 constexpr CustomCodec kDrivingDirections{ReadDrivingDirections};
 constexpr CustomCodec kSeatStatus{ReadSeatStatus};

@@ -31,7 +31,10 @@ bool Fits(const Name& row, Compare compare, std::uint64_t prefix, std::string_vi
     if (row.prefix != prefix || row.text.size() != text.size()) return false;
     if (compare == Compare::Exact || row.compare == Compare::Exact)
         return Same(row.text.data(), text.data(), text.size());
-    return text.size() <= 8 || EqualsFolded(row.text, text);
+    if (text.size() <= 8) return true;
+    if (text.size() > 16) return EqualsFolded(row.text, text);
+    const std::size_t last = text.size() - 8; // overlaps what the prefix has told
+    return FoldedWord(row.text.data() + last) == FoldedWord(text.data() + last);
 }
 
 } // namespace

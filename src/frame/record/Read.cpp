@@ -72,9 +72,9 @@ void StartNamed(const Table& table, std::byte* at, ReadCall& call, std::string_v
 namespace {
 
 // A record, with the name under which it stands for those that keep it.
-bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& call,
-               std::string_view memberName) noexcept {
-    StartNamed(table, at, call, memberName);
+[[gnu::always_inline]] inline bool ReadNamed(const Table& table, const Value& value, std::byte* at, ReadCall& call,
+                                             std::string_view memberName) noexcept {
+    if (table.startsWhenRead || table.memberName != nullptr) StartNamed(table, at, call, memberName);
     return ReadFields(table, value, at, call);
 }
 
@@ -403,20 +403,20 @@ bool ReadFields(const Table& table, const Value& value, std::byte* record, ReadC
         const Value& first = value[0];
         return ReadFields(table, first.type() == json::Type::Array ? json::kNull : first, record, call);
     }
-    StartFields(table, record, call);
+    if (table.clearsFlags || table.suppliedCount > 0) StartFields(table, record, call);
     if (table.shape != Shape::Object) {
         const bool hasAll = value.type() == json::Type::Array && value.size() == table.self.count;
         if (table.shape == Shape::Tuple && !hasAll) return false;
         if (table.shape == Shape::LongTuple && value.size() < table.self.count) return false;
-        for (std::uint16_t i = 0; i < table.self.count; ++i) {
-            const Node& node = table.nodes[table.self.first + i];
-            if (node.readPlainly == Plainly::Number) {
-                Store(record + node.offset, value[i].asInt());
-                continue;
-            }
-            const Field& field = table.rows[node.row];
+        const auto elements = value.elements();
+        const Node* node = table.nodes + table.self.first;
+        for (std::uint16_t i = 0; i < table.self.count; ++i, ++node) {
             // A null among the numbers reads as 0, as every other element of the wrong type does.
-            ReadElement(field, value[i], record + field.offset, call, {});
+            const Value& element = i < elements.size() ? elements[i] : json::kNull;
+            if (node->readPlainly == Plainly::Number)
+                Store(record + node->offset, element.asInt());
+            else
+                ReadElement(table.rows[node->row], element, record + node->offset, call, {});
         }
     } else {
         for (std::uint16_t i = 0; i < table.self.count; ++i) {
