@@ -61,6 +61,7 @@ class Text {
     const Command* command_;
     std::string_view whole_;
     std::string_view text_; // as the library sees it
+    std::size_t end_ = 0;   // of its document
     std::uint32_t room_;
     bool tries_;
     std::uint32_t records_ = 1;
@@ -73,7 +74,7 @@ class Text {
 
 bool Text::Parse(bool isFatal) {
     json::SyntaxError error;
-    if (json::Parse(text_, document_.arena, document_.root, &error)) return true;
+    if (ParseDocument(text_, document_.arena, document_.root, end_, error)) return true;
     if (document_.arena.failed()) throw std::bad_alloc();
     const bool isEmpty = text_.find_first_not_of(" \t\r\n") == std::string_view::npos;
     Finding& finding =
@@ -405,20 +406,21 @@ void Text::Finish() {
     explanation_.read = walk_.read;
     explanation_.left = walk_.left;
     if (isJson) {
-        const Skimmed skimmed = Skim(text_);
-        const bool hasDuplicates = skimmed.members != CountMembers(document_.root, document_.arena);
+        const std::string_view read = text_.substr(0, end_);
+        // Of members with one key the document keeps one.
+        const bool hasDuplicates = CountKeys(read) != CountMembers(document_.root, document_.arena);
         const std::size_t behind = static_cast<std::size_t>(
-            json::SkipBlanksAndComments(text_.data() + skimmed.end, text_.data() + text_.size()) - text_.data());
+            json::SkipBlanksAndComments(text_.data() + end_, text_.data() + text_.size()) - text_.data());
         for (Finding& finding : findings)
             if (finding.at == &json::kNull) finding.at = &document_.root;
         if (!findings.empty() || hasDuplicates) {
-            FindPlaces(text_.substr(0, skimmed.end), document_.root, document_.arena, hasDuplicates, findings);
+            FindPlaces(read, document_.root, document_.arena, hasDuplicates, findings);
             const bool isTried =
                 std::any_of(findings.begin(), findings.end(), [](const Finding& each) { return each.isTried; });
             if (!tries_)
                 std::erase_if(findings, [](const Finding& each) { return each.isTried; });
             else if (isTried && !explanation_.isRefused)
-                DropWhatIsRead(command_, text_.substr(0, skimmed.end), document_.root, records_, findings);
+                DropWhatIsRead(command_, read, document_.root, records_, findings);
         }
         if (behind < text_.size()) {
             Finding& finding =

@@ -23,20 +23,27 @@ class Lines {
     explicit Lines(std::string_view text) : text_(text) {}
 
     void GoTo(std::size_t offset) {
-        for (; at_ < offset && at_ < text_.size(); ++at_) {
-            const char c = text_[at_];
-            if (c == '\n') {
-                ++line;
-                column = 1;
-            } else if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) {
-                ++column;
-            }
+        if (offset <= at_) return;
+        std::string_view passed = text_.substr(std::min(at_, text_.size()), offset - at_);
+        at_ += passed.size();
+        if (const std::size_t last = passed.rfind('\n'); last != std::string_view::npos) {
+            line += static_cast<std::uint32_t>(std::ranges::count(passed, '\n'));
+            column = 1;
+            passed.remove_prefix(last + 1);
         }
+        column += Characters(passed);
     }
     std::uint32_t line = 1;
     std::uint32_t column = 1;
 
   private:
+    static std::uint32_t Characters(std::string_view text) {
+        std::uint32_t count = 0;
+        for (const char c : text)
+            count += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+        return count;
+    }
+
     std::string_view text_;
     std::size_t at_ = 0;
 };

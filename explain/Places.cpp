@@ -8,85 +8,65 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <functional>
+#include <limits>
 
 namespace orrery::explain {
 
 using json::Type;
 using json::Value;
 
-namespace {
+bool ParseDocument(std::string_view text, Arena& arena, Value& root, std::size_t& end,
+                   json::SyntaxError& error) noexcept {
+    if (text.size() <= std::numeric_limits<std::uint32_t>::max()) {
+        arena.Expect(text.size());
+        if (const char* const behind = json::ParseAt(text.data(), text.data() + text.size(), arena, root)) {
+            end = static_cast<std::size_t>(behind - text.data());
+            return true;
+        }
+        if (arena.failed()) return false;
+    }
+    return json::Parse(text, arena, root, &error); // which tells why not
+}
 
-enum class Byte : unsigned char { Other, Quote, Opens, Closes, Colon, Slash };
-constexpr std::array<Byte, 256> kBytes = [] {
-    std::array<Byte, 256> bytes{};
-    bytes['"'] = Byte::Quote;
-    bytes['{'] = bytes['['] = Byte::Opens;
-    bytes['}'] = bytes[']'] = Byte::Closes;
-    bytes[':'] = Byte::Colon;
-    bytes['/'] = Byte::Slash;
-    return bytes;
-}();
-
-} // namespace
-
-Skimmed Skim(std::string_view text) noexcept {
-    const char* const begin = text.data();
-    const char* const end = begin + text.size();
-    const char* p = json::SkipBlanksAndComments(begin, end);
-    Skimmed skimmed;
-    std::size_t depth = 0;
+std::size_t CountKeys(std::string_view document) noexcept {
+    const char* const begin = document.data();
+    const char* const end = begin + document.size();
+    const char* p = begin;
+    std::size_t keys = 0;
     [[maybe_unused]] const char* byBytes = p; // up to here byte after byte
     while (p != end) {
 #if ORRERY_SSE2
         using Block = TextBlock<false>;
-        while (depth > 0 && p >= byBytes && static_cast<std::size_t>(end - p) >= Block::kSize) {
-            const Block block(p);
-            if (!block.isPlain(depth) || block.hasSlashes()) { // what may be a comment is looked at byte by byte
-                byBytes = p + Block::kSize;
+        while (p >= byBytes && p != end) {
+            const auto left = static_cast<std::size_t>(end - p);
+            std::array<char, Block::kSize> rest;
+            if (left < rest.size()) {
+                rest.fill(' ');
+                std::memcpy(rest.data(), p, left);
+            }
+            const Block block(left < rest.size() ? rest.data() : p);
+            if (block.hasEscapes() || block.hasSlashes()) { // what may be a comment is looked at byte by byte
+                byBytes = left < rest.size() ? end : p + rest.size();
                 break;
             }
-            depth += block.opens - block.closes;
-            skimmed.members += block.colons;
-            p += block.size();
-            if (block.size() < Block::kSize) p = BehindString(p + 1, end);
+            keys += block.colons;
+            p += std::min(left, block.size());
+            if (block.size() < Block::kSize && p != end) p = BehindString(p + 1, end);
         }
         if (p == end) break;
 #endif
-        switch (kBytes[static_cast<unsigned char>(*p)]) {
-        case Byte::Quote:
+        if (*p == '"') {
             p = BehindString(p + 1, end);
-            if (depth > 0) continue;
-            break;
-        case Byte::Opens:
-            ++depth;
-            ++p;
-            continue;
-        case Byte::Closes:
-            ++p;
-            if (--depth > 0) continue;
-            break;
-        case Byte::Colon:
-            ++skimmed.members;
-            ++p;
-            continue;
-        case Byte::Slash: {
+        } else if (*p == '/') {
             const char* const next = json::SkipBlanksAndComments(p, end);
             p = next == p ? p + 1 : next;
-            continue;
+        } else {
+            keys += *p++ == ':';
         }
-        case Byte::Other:
-            ++p;
-            if (depth > 0) continue;
-            // A document that is a number or a word.
-            while (p != end && !json::IsBlank(*p) && *p != ',' && kBytes[static_cast<unsigned char>(*p)] == Byte::Other)
-                ++p;
-            break;
-        }
-        break;
     }
-    skimmed.end = static_cast<std::size_t>(p - begin);
-    return skimmed;
+    return keys;
 }
 
 std::size_t CountMembers(const Value& root, Arena& arena) noexcept {

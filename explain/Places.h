@@ -5,15 +5,16 @@
 #include "explain/Finding.h"
 
 #include "frame/Arena.h"
+#include "frame/json/Reader.h"
 
 namespace orrery::explain {
 
-// A first look at a text that is known to be JSON: where its document ends, and how many members its objects have.
-struct Skimmed {
-    std::size_t end = 0;
-    std::size_t members = 0;
-};
-Skimmed Skim(std::string_view text) noexcept;
+// Reads the document at the front of a text, as json::Parse does; `end`: where it ends there.
+bool ParseDocument(std::string_view text, Arena& arena, json::Value& root, std::size_t& end,
+                   json::SyntaxError& error) noexcept;
+
+// How many members the objects of a document have in its text, which is known to be JSON and nothing else.
+std::size_t CountKeys(std::string_view document) noexcept;
 
 // Members of all objects of a document; duplicates are gone there.
 std::size_t CountMembers(const json::Value& root, Arena& arena) noexcept;

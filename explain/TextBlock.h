@@ -63,8 +63,9 @@ class TextBlock {
     // Outside of strings.
     std::size_t opens, closes, colons;
 
+    bool hasEscapes() const noexcept { return (escapes_ & known_) != 0; }
     // No escapes, and no end of what is open.
-    bool isPlain(std::size_t depth) const noexcept { return (escapes_ & known_) == 0 && closes < depth; }
+    bool isPlain(std::size_t depth) const noexcept { return !hasEscapes() && closes < depth; }
     bool hasSlashes() const noexcept { return slashes_ != 0; }
     // Inside of strings too.
     bool hasNewlines() const noexcept { return (newlines_ & known_) != 0; }

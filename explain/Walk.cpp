@@ -271,8 +271,8 @@ void Walk::Shared(const Table& table, const record::Node* first, const record::N
                   const Path& path) {
     const std::size_t before = findings_.size();
     const std::uint32_t leftBefore = left;
-    std::vector<std::vector<Finding>> readers;
-    bool hasFunction = false;
+    std::vector<std::vector<Finding>> readers; // those that leave something
+    bool hasFunction = false, isTaken = false; // whole, by one of them
     const Sharing outer = sharing_;
     sharing_ = {&value, &table, first, end};
     for (const record::Node* node = first; node != end; ++node) {
@@ -283,14 +283,16 @@ void Walk::Shared(const Table& table, const record::Node* first, const record::N
         std::vector<Finding> own(std::make_move_iterator(findings_.begin() + static_cast<std::ptrdiff_t>(before)),
                                  std::make_move_iterator(findings_.end()));
         findings_.resize(before);
-        if (own.empty() && node->childCount == 0 && field.kind == Kind::Custom)
+        if (!own.empty())
+            readers.push_back(std::move(own));
+        else if (node->childCount == 0 && field.kind == Kind::Custom)
             hasFunction = true;
         else
-            readers.push_back(std::move(own));
+            isTaken = true;
     }
     sharing_ = outer;
     left = leftBefore;
-    if (std::all_of(readers.begin(), readers.end(), [](const auto& own) { return own.empty(); })) return;
+    if (isTaken || readers.empty()) return;
     const std::string here = TextOf(path);
     for (std::size_t i = 0; i < readers.size(); ++i) {
         for (Finding& finding : readers[i]) {

@@ -89,6 +89,18 @@ TEST(ExplainExports, AFindingTellsItsSizeAndItsBytes) {
     EXPECT_EQ(ORRERY_ExplainReply("NTP", kThree.data(), kThree.size(), 0, check, nullptr), 3);
 }
 
+// Columns count characters, be they of several bytes, from the last line's end.
+TEST(ExplainExports, LinesAndColumnsAreThoseOfAnEditor) {
+    const std::string text = "{\"result\":true,\n\n\"params\":{\"table\":{\"\xc3\xa9\xe4\xb8\xad\":1,\"Port\":\"x\",\n"
+                             " \"\xf0\x9f\x98\x80\":\""
+                             + std::string(100, 'a') + "\",\"Zone\":3}}}";
+    const auto found = Explain("NTP", text);
+    ASSERT_EQ(found.size(), 4u);
+    const std::pair<std::uint32_t, std::uint32_t> expected[] = {{3, 20}, {3, 34}, {4, 2}, {4, 109}};
+    for (std::size_t i = 0; i < found.size(); ++i)
+        EXPECT_EQ(std::pair(found[i].line, found[i].column), expected[i]) << found[i];
+}
+
 TEST(ExplainExports, WhatStandsBehindANulIsFound) {
     const std::string clean = R"({"result":true,"params":{"table":{"Port":123}}})";
     EXPECT_TRUE(Explain("NTP", clean).empty());

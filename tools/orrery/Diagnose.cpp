@@ -4,6 +4,7 @@
 #include "orrery/Output.h"
 #include "orrery/Suggest.h"
 
+#include "explain/Places.h"
 #include "explain/Wanted.h"
 #include "frame/json/TextWriter.h"
 
@@ -78,12 +79,7 @@ std::string ExplainNoValue(const Reply& reply, const Value& root) {
 } // namespace
 
 Document::Document(std::string_view itsText) : text(itsText.substr(0, itsText.find('\0'))) {
-    if (const char* const behind = json::ParseAt(text.data(), text.data() + text.size(), arena, root)) {
-        ok = true;
-        end = static_cast<std::size_t>(behind - text.data());
-    } else if (!arena.failed()) {
-        json::Parse(text, arena, root, &error);
-    }
+    ok = explain::ParseDocument(text, arena, root, end, error);
 }
 
 std::string ExplainSyntax(const Document& document) {
