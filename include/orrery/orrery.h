@@ -5,8 +5,9 @@
  * Every function answers non-zero for success and 0 for failure, and says nothing more.
  *
  * Stack: a parse needs at most 40 KB of it, a pack 28 KB, events 56 KB up to their callback, which has what is left, a
- * typed text 72 KB: 96 KB hold events whose callback parses a configuration, 112 KB a typed text's. The C library takes
- * its own when it loads a converter of texts, at the first text under a locale that needs one. */
+ * typed text 72 KB: 96 KB hold events whose callback parses a configuration, 112 KB a typed text's. (On 64-bit Arm a
+ * typed text needs 80 KB.) The C library takes its own when it loads a converter of texts, at the first text under a
+ * locale that needs one. */
 #ifndef ORRERY_ORRERY_H
 #define ORRERY_ORRERY_H
 

@@ -26,6 +26,7 @@
 
 #include <pthread.h>
 #include <sys/mman.h>
+#include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define SANITIZED 1
@@ -46,23 +47,25 @@ using namespace test;
 constexpr std::size_t kParse = std::size_t{40} << 10;
 constexpr std::size_t kPack = std::size_t{28} << 10;
 constexpr std::size_t kEvents = std::size_t{56} << 10;
+#if defined(__aarch64__)
+constexpr std::size_t kTyped = std::size_t{80} << 10;
+#else
 constexpr std::size_t kTyped = std::size_t{72} << 10;
+#endif
 
 class SmallThread {
   public:
-    static constexpr std::size_t kSize = std::size_t{96} << 10;
-
     SmallThread() {
         memory_ = static_cast<unsigned char*>(
-            mmap(nullptr, kGuard + kSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+            mmap(nullptr, kGuard + size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
         if (memory_ == MAP_FAILED || mprotect(memory_, kGuard, PROT_NONE) != 0) std::abort();
         const std::function<void()> nothing = [] {};
-        std::memset(memory_ + kGuard, kPaint, kSize);
+        std::memset(memory_ + kGuard, kPaint, size_);
         ownUse_ = Depth(nothing);
     }
     SmallThread(const SmallThread&) = delete;
     SmallThread& operator=(const SmallThread&) = delete;
-    ~SmallThread() { munmap(memory_, kGuard + kSize); }
+    ~SmallThread() { munmap(memory_, kGuard + size_); }
 
     // The bytes of stack that the call has written, beyond those of a thread that does nothing.
     std::size_t Run(const std::function<void()>& call) {
@@ -77,7 +80,7 @@ class SmallThread {
     std::size_t Depth(const std::function<void()>& call) {
         pthread_attr_t attributes;
         pthread_attr_init(&attributes);
-        pthread_attr_setstack(&attributes, memory_ + kGuard, kSize);
+        if (pthread_attr_setstack(&attributes, memory_ + kGuard, size_) != 0) std::abort();
         pthread_t thread;
         const auto run = [](void* what) -> void* {
             (*static_cast<const std::function<void()>*>(what))();
@@ -86,12 +89,15 @@ class SmallThread {
         if (pthread_create(&thread, &attributes, run, const_cast<std::function<void()>*>(&call)) != 0) std::abort();
         pthread_join(thread, nullptr);
         pthread_attr_destroy(&attributes);
-        unsigned char* const end = memory_ + kGuard + kSize;
+        unsigned char* const end = memory_ + kGuard + size_;
         unsigned char* const deepest = std::find_if(memory_ + kGuard, end, [](unsigned char b) { return b != kPaint; });
         std::memset(deepest, kPaint, static_cast<std::size_t>(end - deepest));
         return static_cast<std::size_t>(end - deepest);
     }
 
+    // As much as is wanted, or the least that a thread has: 128 KB on Arm.
+    const std::size_t size_ =
+        std::max(std::size_t{96} << 10, static_cast<std::size_t>(std::max(sysconf(_SC_THREAD_STACK_MIN), 0L)));
     unsigned char* memory_;
     std::size_t ownUse_ = 0;
 };
