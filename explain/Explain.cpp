@@ -10,6 +10,7 @@
 #include "frame/PackedItems.h"
 #include "frame/ReplySteps.h"
 #include "frame/json/Scan.h"
+#include "media/Overlay.h"
 
 #include "orrery/analyse_rules.h"
 
@@ -51,6 +52,8 @@ class Text {
     void Finish();
     void Reply();
     void Value_(const ParseFrame& frame, Holds holds, const Value& value, const Path& path);
+    void Pictures(const Value& value, const Path& path);
+    void TooMany(const ParseFrame& frame, std::uint32_t count, const Value& value, const Path& path);
     void Rules();
     void Events();
     void Error();
@@ -164,25 +167,58 @@ void Text::Error() {
               "the device says: " + said);
 }
 
+void Text::TooMany(const ParseFrame& frame, std::uint32_t count, const Value& value, const Path& path) {
+    if (room_ == 0 || count <= room_) return;
+    Finding& finding = walk_.Add(
+        ORRERY_FINDING_ELEMENTS_DROPPED, frame.allMustFit ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, value, path,
+        std::to_string(count) + " records, and room for " + std::to_string(room_)
+            + (frame.allMustFit ? ": the call takes all or none" : ": the others are dropped"));
+    finding.lost = count - room_;
+    explanation_.isRefused = explanation_.isRefused || frame.allMustFit;
+}
+
+// A record of which one member lists further records. These list none.
+void Text::Pictures(const Value& value, const Path& path) {
+    constexpr std::string_view kKey = kFurtherPictures;
+    static constexpr std::array kBeside{kKey};
+    walk_.AlsoReads(kBeside);
+    walk_.Top(kPicInPic, value, path);
+    const Value& list = value[kFurtherPictures];
+    const Path listPath = path.Member(kKey);
+    if (!list.isNull() && list.type() != Type::Array)
+        walk_.Add(ORRERY_FINDING_WRONG_TYPE, ORRERY_FINDING_LOST, list, listPath,
+                  Shown(list) + " where a list of records is read: nothing of it is read");
+    const auto further = list.elements();
+    records_ = 1 + static_cast<std::uint32_t>(further.size());
+    TooMany(command_->parseFrame, records_, list, listPath);
+    for (std::uint32_t i = 0; i < further.size() && (room_ == 0 || i + 1 < room_); ++i) {
+        const Path inner = listPath.Element(i);
+        walk_.record = i + 1;
+        if (further[i].isNull()) {
+            walk_.Add(ORRERY_FINDING_NULL, ORRERY_FINDING_NOTE, further[i], inner, "null: a record without keys");
+            continue;
+        }
+        walk_.Top(kPicInPic, further[i], inner, {}, false);
+        if (const Value& unread = further[i][kFurtherPictures]; !unread.isNull())
+            walk_.Add(ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST, unread, inner.Member(kKey),
+                      "records inside a further record: nothing of them is read");
+    }
+}
+
 void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, const Path& path) {
     const record::Table& table = *command_->table;
-    const auto tooMany = [&](std::uint32_t count) {
-        Finding& finding = walk_.Add(
-            ORRERY_FINDING_ELEMENTS_DROPPED, frame.allMustFit ? ORRERY_FINDING_FATAL : ORRERY_FINDING_LOST, value, path,
-            std::to_string(count) + " records, and room for " + std::to_string(room_)
-                + (frame.allMustFit ? ": the call takes all or none" : ": the others are dropped"));
-        finding.lost = count - room_;
-        explanation_.isRefused = explanation_.isRefused || frame.allMustFit;
-    };
     walk_.SetAlways(command_->parse == Command::Frame::Own);
     switch (holds) {
     case Holds::OneRecord:
-        walk_.Top(table, value, path);
+        if (command_->ownParse == ParsePicInPic)
+            Pictures(value, path);
+        else
+            walk_.Top(table, value, path);
         break;
     case Holds::Elements: {
         const auto elements = value.elements();
         records_ = std::max<std::uint32_t>(1, value.size());
-        if (room_ != 0 && value.size() > room_) tooMany(value.size());
+        TooMany(frame, value.size(), value, path);
         for (std::uint32_t i = 0; i < elements.size() && (room_ == 0 || i < room_); ++i) {
             const Path inner = path.Element(i);
             walk_.record = i;
@@ -209,7 +245,7 @@ void Text::Value_(const ParseFrame& frame, Holds holds, const Value& value, cons
             walk_.Top(table, member.value, inner, member.key(), false);
         }
         records_ = std::max<std::uint32_t>(1, count);
-        if (room_ != 0 && count > room_) tooMany(count);
+        TooMany(frame, count, value, path);
         break;
     }
     case Holds::BlankRecord:

@@ -2,6 +2,7 @@
 
 #include "frame/record/Engine.h"
 
+#include <algorithm>
 #include <array>
 
 namespace orrery::explain {
@@ -100,6 +101,7 @@ void Walk::List(const Site& site, int level, const Value& value) {
         }
         std::uint32_t used = 0, lost = 0;
         for (const json::Member& member : value.members()) {
+            if (std::find(also_.begin(), also_.end(), member.key()) != also_.end()) continue;
             const bool isElement = field.amongKeys ? member.value.members().size() > 0
                                                    : !member.value.isNull() || field.nulls == Nulls::Named;
             if (!isElement) continue;

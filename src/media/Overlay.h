@@ -12,7 +12,8 @@ extern const record::TypedTable<CFG_WATERMARK_INFO> kWaterMark;
 extern const record::TypedTable<CFG_VIDEO_ENCODE_ROI_INFO> kVideoEncodeRoi;
 extern const record::TypedTable<CFG_PICINPIC_INFO> kPicInPic;
 
-// Pictures in the picture: members by name in arrays of the caller's, and records in "Extend" of the first.
+// Pictures in the picture: members by name in arrays of the caller's, and records in one member of the first.
+inline constexpr const char* kFurtherPictures = "Extend";
 Outcome ParsePicInPic(const ParseRequest& request) noexcept;
 Outcome PackPicInPic(const PackRequest& request) noexcept;
 

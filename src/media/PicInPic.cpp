@@ -48,7 +48,7 @@ PART(kSplit, CFG_PICINPIC_SPLIT,
      });
 
 constexpr std::uint32_t kRecord = sizeof(CFG_PICINPIC_INFO);
-constexpr std::string_view kExtend = "Extend";
+constexpr std::string_view kExtend = kFurtherPictures;
 
 template <class R>
 std::byte* At(R* first, std::uint32_t index) {

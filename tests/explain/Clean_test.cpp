@@ -57,6 +57,12 @@ TEST(CleanTexts, OfEveryCommandGiveNoFinding) {
     }
 }
 
+TEST(CleanTexts, OfPicturesInsideThePictureGiveNoFinding) {
+    const auto found = ExplainTable("PicInPic", R"({"Split1":[{"Enable":true,"DeviceID":"a"}],
+        "Extend":[{"Split9":[{"Enable":true,"Channel":3}]},{"Split4":[]}]})");
+    EXPECT_TRUE(found.empty()) << Told(found);
+}
+
 TEST(CleanTexts, OfEveryEventGiveNoFinding) {
     for (const events::EventRow& row : events::Events()) {
         if (row.name.empty() || row.rename != nullptr) continue;

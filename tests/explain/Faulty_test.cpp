@@ -108,6 +108,30 @@ TEST(FaultyReplies, ThatAreRefused) {
         ExpectTold(fault);
 }
 
+TEST(FaultyReplies, OfPicturesInsideThePicture) {
+    const Fault faults[] = {
+        {"PicInPic", R"({"Split1":[],"Extend":[{"Split9":[{@"Enabel":true}]}]})", ORRERY_FINDING_UNKNOWN_KEY, kLost,
+         "params.table.Extend[0].Split9[0].Enabel", "CFG_PICINPIC_TOP", "the nearest that is read is \"Enable\"", 0,
+         "Enable"},
+        {"PicInPic", R"({"Extend":[{"Extend":@[{"Split9":[]}]}]})", ORRERY_FINDING_WRONG_SHAPE, kLost,
+         "params.table.Extend[0].Extend", "", "records inside a further record: nothing of them is read"},
+        {"PicInPic", R"({"Extend":@{"Split9":[]}})", ORRERY_FINDING_WRONG_TYPE, kLost, "params.table.Extend", "",
+         "an object where a list of records is read: nothing of it is read"},
+        {"PicInPic", R"({"Extend":[{},@null]})", ORRERY_FINDING_NULL, kNote, "params.table.Extend[1]", "",
+         "null: a record without keys"},
+    };
+    for (const Fault& fault : faults)
+        ExpectTold(fault);
+    const std::string further =
+        R"({"result":true,"params":{"table":{"Split1":[],"Extend":[{"Split4":[]},{"Split9":[]}]}}})";
+    const auto dropped = Explain("PicInPic", further, 2);
+    ASSERT_EQ(dropped.size(), 1u);
+    EXPECT_EQ(dropped[0].kind, ORRERY_FINDING_ELEMENTS_DROPPED);
+    EXPECT_EQ(dropped[0].path, "params.table.Extend");
+    EXPECT_EQ(dropped[0].lost, 1u);
+    EXPECT_TRUE(Explain("PicInPic", further, 3).empty());
+}
+
 TEST(FaultyReplies, OfWhichAPartIsLost) {
     const Fault faults[] = {
         {"NTP", R"({"Enable":@"false"})", ORRERY_FINDING_WRONG_TYPE, kLost, "params.table.Enable",
