@@ -28,6 +28,16 @@ std::vector<Json::Value> LinesOf(const std::string& text) {
     return lines;
 }
 
+TEST(ShowEvents, NotesOfStandardInputTellTheirText) {
+    for (const unsigned line : {1U, 2U}) {
+        EventOptions options;
+        options.file = "-";
+        options.line = line;
+        EXPECT_THAT(ShowEvents(R"({"Events":[]})", options).err,
+                    StartsWith("orrery: -, text at line " + std::to_string(line) + ": "));
+    }
+}
+
 TEST(ShowEvents, PrintsALineAnEvent) {
     const Result result = ShowEvents(R"({"Event":[
         {"Code":"AccessControl","Index":2,"Data":{"CardNo":"4711","Type":"Exit","Method":15,"Object":{"Image":{"FilePath":"/face.jpg"}}}},

@@ -34,6 +34,22 @@ out_is "orrery $version
 "
 run 0 --help
 for command in parse pack check diff events template commands describe schema layout; do out_has "$command"; done
+# A word that no subcommand has.
+run 2 evnts "$reply"
+no_out
+err_has 'A subcommand is required, and "evnts" is none; did you mean events'
+run 2 --color never Pasre NTP
+err_has '"Pasre" is none; did you mean parse'
+run 2 zzzzzzzz
+err_has 'A subcommand is required, and "zzzzzzzz" is none'
+! grep -q 'did you mean' "$scratch/err" || fail "said: $(cat "$scratch/err")"
+run 2
+err_has 'A subcommand is required
+'
+run 2 --evnts
+! grep -q 'is none' "$scratch/err" || fail "said: $(cat "$scratch/err")"
+run 2 parse
+err_has 'COMMAND is required'
 run 0 commands
 out_has "alarm.getAlarmCaps"
 run 0 describe Alarm
@@ -230,6 +246,23 @@ err_has 'name a --format'
 run 2 check NTP "$scratch/bad1.json" "$scratch/none.json" "$scratch/bad2.json"
 [ "$(wc -l <"$scratch/out")" = 4 ] || fail "printed: $(cat "$scratch/out")"
 err_has 'none.json'
+err_has "can't read"
+# A first word that is neither a name nor a file is most likely a name: nothing is checked as another.
+run 2 check NPT "$scratch/bad1.json"
+no_out
+err_has 'orrery: "NPT" is neither a command nor a file; did you mean NTP'
+run 2 check evnts --table "$scratch/bad1.json"
+err_has '"evnts" is neither a command nor a file; did you mean events'
+run 2 check alarm.getAlarmCap
+err_has '; did you mean alarm.getAlarmCaps'
+# A path is no name, and what stands there is a file whatever it is called.
+run 2 check "$scratch/NPT" "$scratch/bad1.json"
+err_has "can't read $scratch/NPT"
+what="orrery check of a file NPT"
+cp "$scratch/bad1.json" "$scratch/NPT"
+whole=$(realpath "$program")
+(cd "$scratch" && "$whole" check NPT) >"$scratch/out" 2>"$scratch/err"
+err_has 'NPT: checked as'
 
 input='{"result":true,"params":{"table":{"TCPPort":37777,"SSLPort":443,"StreamPolicy":"None"}}}' run 0 check
 err_has 'checked as DVRIP: '
@@ -273,7 +306,15 @@ run 1 events "$scratch/one.jsonl" "$scratch/bad.jsonl"
 err_has "$scratch/bad.jsonl, text at line 1: line 1, column 11"
 out_has "\"file\": \"$scratch/bad.jsonl\", \"line\": 2"
 input='{"Events":[]}' run 1 events
+err_has 'orrery: -, text at line 1: '
 err_has 'neither "Event" nor "EventList"'
+# Each note tells of which text it is, the first one's too.
+input='{"Events":[]}'$'\n''{"Events":[]}{"Events":[]}' run 1 events
+[ "$(cut -d: -f1-2 "$scratch/err" | tr '\n' ' ')" = \
+    'orrery: -, text at line 1 orrery: -, text at line 2 orrery: -, text at line 2 ' ] ||
+    fail "said: $(cat "$scratch/err")"
+input='{"Event":['$'\n''{"Event":[' run 1 events
+[ "$(grep -c 'orrery: -, text at line [12]: line 1, column 11' "$scratch/err")" = 2 ] || fail "said: $(cat "$scratch/err")"
 # Whole lines are read as one text each, unless they are several or have something behind.
 printf '%s\n' "$line" "$line$line" "$line}" "$line {}" '{"Event":[}' "$line" "$line" >"$scratch/lines.jsonl"
 for jobs in 1 2; do

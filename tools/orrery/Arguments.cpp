@@ -49,6 +49,22 @@ Arguments::Arguments()
     AddHidden();
 }
 
+int Arguments::Exit(const CLI::ParseError& error) {
+    const std::vector<std::string> left = app_.remaining();
+    const bool isMisspelt = error.get_name() == "RequiredError" && app_.get_subcommands().empty() && !left.empty()
+                            && !left.front().starts_with('-');
+    if (!isMisspelt) return app_.exit(error) == 0 ? kDone : kUsage;
+    std::vector<std::string_view> names;
+    for (const CLI::App* const each :
+         app_.get_subcommands([](CLI::App* command) { return !command->get_group().empty(); }))
+        names.push_back(each->get_name());
+    const std::string& word = left.front();
+    app_.exit(CLI::RequiredError("A subcommand is required, and " + Printable(Quoted(word)) + " is none"
+                                     + DidYouMean(word, names),
+                                 CLI::ExitCodes::RequiredError));
+    return kUsage;
+}
+
 int Arguments::Run() {
     try {
         return run_();
@@ -181,6 +197,7 @@ int Arguments::RunCheck() {
         name_ = files_.front();
         files_.erase(files_.begin());
     }
+    if (name_.empty() && !files_.empty()) RefuseMisspelt(files_.front());
     if (files_.empty()) files_.emplace_back("-");
     check_.table = isTable_;
     if (isTable_ && (name_.empty() || name_ == "events")) {

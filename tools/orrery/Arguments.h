@@ -20,6 +20,8 @@ class Arguments {
     Arguments();
 
     CLI::App& app() { return app_; }
+    // Tells what is wrong with the words, or the help that they ask for; answers the exit status.
+    int Exit(const CLI::ParseError& error);
     // Does what was asked for; answers the exit status.
     int Run();
 

@@ -2,6 +2,8 @@
 
 #include "orrery/Diagnose.h"
 #include "orrery/Output.h"
+#include "orrery/Suggest.h"
+#include "orrery/System.h"
 #include "orrery/Terminal.h"
 #include "orrery/TextSplitter.h"
 
@@ -205,6 +207,16 @@ void RefuseUnknownMembers(const CheckOptions& options) {
 bool IsChecked(std::string_view command) {
     const Command* const found = FindCommand(command);
     return command == kEvents || (found != nullptr && found->parses());
+}
+
+void RefuseMisspelt(const std::string& word) {
+    if (word.empty() || word == "-" || word.find_first_of("/\\") != std::string::npos || !IsMissing(word)) return;
+    if (const Command* const known = FindCommand(word))
+        throw std::invalid_argument(ExplainParse(*known, Outcome::UnknownCommand, Document({}), 0));
+    std::vector<std::string_view> names{kEvents};
+    for (const Command& each : Commands())
+        if (each.parses()) names.push_back(each.name);
+    throw std::invalid_argument(Printable(Quoted(word)) + " is neither a command nor a file" + DidYouMean(word, names));
 }
 
 Result CheckText(std::string_view command, std::string_view file, std::string_view text, const CheckOptions& options) {

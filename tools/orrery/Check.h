@@ -39,5 +39,7 @@ void RefuseUnknownMembers(const CheckOptions& options);
 
 // Whether a first argument names something that a text can be checked for.
 bool IsChecked(std::string_view command);
+// Throws std::invalid_argument for a word that is no file and looks like a command: a path does not.
+void RefuseMisspelt(const std::string& word);
 
 } // namespace orrery::tool

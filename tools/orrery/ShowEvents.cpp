@@ -196,7 +196,7 @@ std::string WhyNoRules(const Value& rules) {
 
 // "FILE, text at line 7: ".
 std::string SourceOf(const EventOptions& options) {
-    if (options.file.empty() || (options.file == "-" && options.line == 1)) return {};
+    if (options.file.empty()) return {};
     return options.file + ", text at line " + std::to_string(options.line) + ": ";
 }
 std::string WithSource(const std::string& notes, const std::string& source) {

@@ -16,6 +16,9 @@ std::size_t TerminalColumns(int stream);
 // Bytes of the standard streams go through as they are: a file of replies is the same on every system.
 void LeaveBytesAsTheyAre();
 
+// Nothing has this name, as against a file that can't be read.
+bool IsMissing(const std::string& name);
+
 // A file, or the standard input ("-"), that is read as it comes. What went wrong stands in errno.
 class ByteSource {
   public:

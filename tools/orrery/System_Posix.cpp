@@ -20,6 +20,11 @@ std::size_t TerminalColumns(int stream) {
 
 void LeaveBytesAsTheyAre() {}
 
+bool IsMissing(const std::string& name) {
+    struct stat about {};
+    return stat(name.c_str(), &about) != 0 && errno == ENOENT;
+}
+
 ByteSource::ByteSource(const std::string& name)
     : isInput_(name == "-"), file_(isInput_ ? +kInput : open(name.c_str(), O_RDONLY | O_CLOEXEC)) {}
 

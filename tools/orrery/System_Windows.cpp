@@ -1,6 +1,7 @@
 #include "orrery/System.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include <fcntl.h>
 #include <io.h>
@@ -23,6 +24,11 @@ std::size_t TerminalColumns(int stream) {
 void LeaveBytesAsTheyAre() {
     for (const int stream : {kInput, kOutput, kErrors})
         _setmode(stream, _O_BINARY);
+}
+
+bool IsMissing(const std::string& name) {
+    struct _stat64 about {};
+    return _stat64(name.c_str(), &about) != 0 && errno == ENOENT;
 }
 
 ByteSource::ByteSource(const std::string& name)

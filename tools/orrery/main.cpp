@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
         try {
             arguments.app().parse(argc, argv);
         } catch (const CLI::ParseError& error) {
-            return arguments.app().exit(error) == 0 ? orrery::tool::kDone : orrery::tool::kUsage;
+            return arguments.Exit(error);
         }
         return arguments.Run();
     } catch (const std::exception& error) {
