@@ -22,7 +22,7 @@ void GroupInto(EVENT_FILE_INFO& fileInfo, const Value& count, const Value& group
 }
 
 void ReadGroup(const Value& value, EVENT_FILE_INFO& fileInfo) noexcept {
-    static constexpr json::MemberKeys kGroup("CountInGroup", "GroupID", "IndexInGroup");
+    static constexpr json::MemberKeys<3> kGroup("CountInGroup", "GroupID", "IndexInGroup");
     const auto [count, group, index] = json::ValuesAt(value, kGroup);
     GroupInto(fileInfo, *count, *group, *index);
 }

@@ -20,7 +20,7 @@ void ReadObjectAction(const Field& field, const Value& value, std::byte* record,
 
 // Milliseconds of every stamp go to the current one, so that the last stamp that has some prevails.
 void StampInto(const Value& value, std::byte* milliseconds) {
-    static constexpr json::MemberKeys kStamps("CurrentTimeStamp", "EndTimeStamp", "StartTimeStamp");
+    static constexpr json::MemberKeys<3> kStamps("CurrentTimeStamp", "EndTimeStamp", "StartTimeStamp");
     const auto [current, end, start] = json::ValuesAt(value, kStamps);
     for (const Value* const stamp : {current, start, end}) {
         if (stamp->isNull()) continue;

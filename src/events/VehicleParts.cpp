@@ -231,8 +231,8 @@ bool SetObjectColor(std::uint32_t& color, std::string_view name, std::uint8_t& i
 void CarOverObjects(const Value& car, const CarTexts& texts, EVENT_OBJECT_INFO& object, EVENT_OBJECT_INFO& vehicle,
                     EVENT_FILE_INFO& fileInfo) noexcept {
     if (car.isNull()) return;
-    static constexpr json::MemberKeys kKeys("CountInGroup", "GroupID", "IndexInGroup", "PlateColor", "PlateNumber",
-                                            "PlateType", "VehicleColor");
+    static constexpr json::MemberKeys<7> kKeys("CountInGroup", "GroupID", "IndexInGroup", "PlateColor", "PlateNumber",
+                                               "PlateType", "VehicleColor");
     const auto [count, group, index, plateColor, plateNumber, plateType, vehicleColor] = json::ValuesAt(car, kKeys);
     if (!plateNumber->isNull()) {
         constexpr std::size_t kMost = sizeof object.szText - 1;

@@ -9,7 +9,7 @@ namespace orrery::json {
 
 void KeysMustAscend(); // is no constant: a call of it does not compile
 
-// Keys in ascending order.
+// Keys in ascending order. How many is not deduced: g++ puts a constant of a deduced type where it can be written.
 template <std::size_t N>
 struct MemberKeys {
     std::array<std::string_view, N> texts;
@@ -17,14 +17,13 @@ struct MemberKeys {
 
     template <class... Texts>
     consteval explicit MemberKeys(Texts... theTexts) : texts{theTexts...}, prefixes{KeyPrefix(texts[0])} {
+        static_assert(sizeof...(Texts) == N);
         for (std::size_t i = 1; i < N; ++i) {
             if (texts[i - 1] >= texts[i]) KeysMustAscend();
             prefixes[i] = KeyPrefix(texts[i]);
         }
     }
 };
-template <class... Texts>
-MemberKeys(Texts...) -> MemberKeys<sizeof...(Texts)>;
 
 // The values at the keys, each null when it is not there, by one pass over the members.
 template <std::size_t N>

@@ -7,7 +7,7 @@
 namespace orrery::json {
 namespace {
 
-constexpr MemberKeys kKeys("", "Eightfor", "EightforA", "EightforB", "Short", "Shorter");
+constexpr MemberKeys<6> kKeys("", "Eightfor", "EightforA", "EightforB", "Short", "Shorter");
 
 std::array<int, 6> NumbersAt(std::string_view text) {
     const test::Document document(text);
