@@ -179,12 +179,11 @@ void Text::TooMany(const ParseFrame& frame, std::uint32_t count, const Value& va
 
 // A record of which one member lists further records. These list none.
 void Text::Pictures(const Value& value, const Path& path) {
-    constexpr std::string_view kKey = kFurtherPictures;
-    static constexpr std::array kBeside{kKey};
+    static constexpr std::array kBeside{kFurtherPictures};
     walk_.AlsoReads(kBeside);
     walk_.Top(kPicInPic, value, path);
     const Value& list = value[kFurtherPictures];
-    const Path listPath = path.Member(kKey);
+    const Path listPath = path.Member(kFurtherPictures);
     if (!list.isNull() && list.type() != Type::Array)
         walk_.Add(ORRERY_FINDING_WRONG_TYPE, ORRERY_FINDING_LOST, list, listPath,
                   Shown(list) + " where a list of records is read: nothing of it is read");
@@ -200,7 +199,7 @@ void Text::Pictures(const Value& value, const Path& path) {
         }
         walk_.Top(kPicInPic, further[i], inner, {}, false);
         if (const Value& unread = further[i][kFurtherPictures]; !unread.isNull())
-            walk_.Add(ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST, unread, inner.Member(kKey),
+            walk_.Add(ORRERY_FINDING_WRONG_SHAPE, ORRERY_FINDING_LOST, unread, inner.Member(kFurtherPictures),
                       "records inside a further record: nothing of them is read");
     }
 }

@@ -73,7 +73,7 @@ typedef int32_t (*ORRERY_FINDING_CALLBACK)(const ORRERY_FINDING* finding, void* 
  * stands behind a NUL is found too. `records` is how many records the caller's buffer holds; 0: as many as the reply
  * has. What stands behind pointers of the caller's is taken as large enough. Answers how many findings there are, those
  * that were not handed over included. Where there are none, it takes at most three times as long as the parse. What is
- * told is put into words, and its place looked up: short replies, of which each number is told, take up to nine times.
+ * told is put into words, and its place looked up: short replies, of which each number is told, take up to ten times.
  */
 int32_t ORRERY_ExplainReply(const char* command, const char* text, size_t length, uint32_t records,
                             ORRERY_FINDING_CALLBACK callback, void* user);

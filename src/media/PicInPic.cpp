@@ -48,7 +48,6 @@ PART(kSplit, CFG_PICINPIC_SPLIT,
      });
 
 constexpr std::uint32_t kRecord = sizeof(CFG_PICINPIC_INFO);
-constexpr std::string_view kExtend = kFurtherPictures;
 
 template <class R>
 std::byte* At(R* first, std::uint32_t index) {
@@ -62,7 +61,7 @@ void ReadSplits(const Value& value, std::byte* record, ReadCall& call) noexcept 
     std::uint32_t used = 0;
     for (const json::Member& member : value.members()) {
         if (info.pstuSplits == nullptr || visited++ == info.nMaxSplit) break;
-        if (member.key() == kExtend) continue;
+        if (member.key() == kFurtherPictures) continue;
         std::byte* const split = At(info.pstuSplits, used++);
         SET_MEMBER(split, CFG_PICINPIC_SPLIT, emSplitMode, JsonParser::GetOverlaySplit(member.key()));
         ReadFields(kSplit, member.value, split, call);
@@ -132,7 +131,7 @@ class Pictures {
         }
         call_.out.BeginObject();
         for (std::uint32_t i = 0; i < count; ++i) {
-            if (extends && kExtend < ways[i].name()) {
+            if (extends && kFurtherPictures < ways[i].name()) {
                 extends = false;
                 if (!WriteExtend()) return false;
             }
@@ -146,7 +145,7 @@ class Pictures {
 
   private:
     bool WriteExtend() noexcept {
-        call_.out.Key(kExtend);
+        call_.out.Key(kFurtherPictures);
         call_.out.BeginArray();
         for (std::uint32_t i = 1; i < count_; ++i) {
             if (!Write(i)) return false;
@@ -195,7 +194,7 @@ Outcome ParsePicInPic(const ParseRequest& request) noexcept {
         ReadSplits(table, buffer, call);
         used = 1;
         // An element that the caller gave no room for is left out.
-        for (const Value& extend : table[kExtend].elements()) {
+        for (const Value& extend : table[kFurtherPictures].elements()) {
             if (used == request.bufferSize / kRecord) break;
             ReadSplits(extend, buffer + std::size_t{used++} * kRecord, call);
         }
