@@ -57,15 +57,17 @@ class CommandIndex {
     }
     static constexpr std::uint32_t Hash(std::string_view name) {
         const std::string_view tail = name.size() < 8 ? name : name.substr(name.size() - 8);
-        return NameHash(record::FoldedPrefix(name), record::FoldedPrefix(tail), name.size());
+        return NameHash(orrery::Folded(record::LeadingBytes(name)), orrery::Folded(record::LeadingBytes(tail)),
+                        name.size());
     }
     // The same, eight bytes at a time.
     static std::uint32_t HashNow(std::string_view name) noexcept {
         if (name.size() < 8) {
-            const std::uint64_t word = FoldedShort(name.data(), name.size());
+            const std::uint64_t word = orrery::Folded(ShortWord(name.data(), name.size()));
             return NameHash(word, word, name.size());
         }
-        return NameHash(FoldedWord(name.data()), FoldedWord(name.data() + name.size() - 8), name.size());
+        const char* const last = name.data() + name.size() - 8;
+        return NameHash(orrery::Folded(Word(name.data())), orrery::Folded(Word(last)), name.size());
     }
 
     const Command* commands_;

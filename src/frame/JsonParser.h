@@ -129,7 +129,7 @@ class JsonParser {
 // Equal but for the case of the ASCII letters: how commands and most enumerated texts compare.
 bool EqualsFolded(std::string_view left, std::string_view right) noexcept;
 // Eight bytes with their ASCII capitals made small; bytes of 128 and above stay.
-inline std::uint64_t Folded(std::uint64_t word) noexcept {
+constexpr std::uint64_t Folded(std::uint64_t word) noexcept {
     constexpr std::uint64_t kEach = 0x0101010101010101u;
     const std::uint64_t low = word & (0x7F * kEach);
     const std::uint64_t fromA = low + (0x80 - 'A') * kEach;
@@ -137,15 +137,15 @@ inline std::uint64_t Folded(std::uint64_t word) noexcept {
     const std::uint64_t capital = fromA & ~pastZ & ~word & (0x80 * kEach);
     return word | capital >> 2;
 }
-// The eight bytes at `text` with their ASCII capitals made small, the first in the lowest byte.
-inline std::uint64_t FoldedWord(const char* text) noexcept {
+// The eight bytes at `text`, the first in the lowest byte.
+inline std::uint64_t Word(const char* text) noexcept {
     std::uint64_t word;
     std::memcpy(&word, text, sizeof word);
     if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
-    return Folded(word);
+    return word;
 }
 // The same of a text shorter than eight bytes, of which nothing behind it may be loaded: its two ends, which overlap.
-inline std::uint64_t FoldedShort(const char* text, std::size_t size) noexcept {
+inline std::uint64_t ShortWord(const char* text, std::size_t size) noexcept {
     if (size >= 4) {
         std::uint32_t low, high;
         std::memcpy(&low, text, 4);
@@ -154,11 +154,11 @@ inline std::uint64_t FoldedShort(const char* text, std::size_t size) noexcept {
             low = __builtin_bswap32(low);
             high = __builtin_bswap32(high);
         }
-        return Folded(std::uint64_t{low} | std::uint64_t{high} << 8 * (size - 4));
+        return std::uint64_t{low} | std::uint64_t{high} << 8 * (size - 4);
     }
     if (size == 0) return 0;
     const auto byte = [text](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(text[i])}; };
-    return Folded(byte(0) | byte(size / 2) << 8 * (size / 2) | byte(size - 1) << 8 * (size - 1));
+    return byte(0) | byte(size / 2) << 8 * (size / 2) | byte(size - 1) << 8 * (size - 1);
 }
 
 } // namespace orrery

@@ -14,12 +14,6 @@ int Bounded(std::size_t size) noexcept {
     return static_cast<int>(std::min<std::size_t>(size, INT_MAX / 2));
 }
 
-std::uint64_t Word(const char* text) noexcept {
-    std::uint64_t word;
-    std::memcpy(&word, text, sizeof word);
-    return word;
-}
-
 } // namespace
 
 bool JsonParser::GetJsonString(const json::Value& value, char* destination, std::size_t capacity,
@@ -101,7 +95,7 @@ bool EqualsFolded(std::string_view left, std::string_view right) noexcept {
     if (size != right.size()) return false;
     const char* const a = left.data();
     const char* const b = right.data();
-    if (size < 8) return FoldedShort(a, size) == FoldedShort(b, size);
+    if (size < 8) return Folded(ShortWord(a, size)) == Folded(ShortWord(b, size));
     const auto sameAt = [a, b](std::size_t at) noexcept {
         const std::uint64_t x = Word(a + at);
         const std::uint64_t y = Word(b + at);

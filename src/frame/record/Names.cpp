@@ -8,54 +8,47 @@ namespace orrery::record {
 
 namespace {
 
-template <class Word>
-bool SameEnds(const char* left, const char* right, std::size_t size) noexcept {
-    Word words[4];
-    std::memcpy(&words[0], left, sizeof(Word));
-    std::memcpy(&words[1], right, sizeof(Word));
-    std::memcpy(&words[2], left + size - sizeof(Word), sizeof(Word));
-    std::memcpy(&words[3], right + size - sizeof(Word), sizeof(Word));
-    return ((words[0] ^ words[1]) | (words[2] ^ words[3])) == 0;
+// Whether a text of at most sixteen bytes is a row's, case and all.
+bool IsShortSame(const Name& row, std::uint64_t leading, std::string_view text) noexcept {
+    const std::size_t size = text.size();
+    if (size > 16 || row.text.size() != size || row.leading != leading) return false;
+    return size <= 8 || Word(row.text.data() + size - 8) == Word(text.data() + size - 8); // overlaps what is told
 }
 
-// Of names, which are short as a rule.
-bool Same(const char* left, const char* right, std::size_t size) noexcept {
-    if (size > 16) return std::memcmp(left, right, size) == 0;
-    if (size >= 8) return SameEnds<std::uint64_t>(left, right, size);
-    if (size >= 4) return SameEnds<std::uint32_t>(left, right, size);
-    if (size >= 2) return SameEnds<std::uint16_t>(left, right, size);
-    return size == 0 || *left == *right;
+bool Fits(const Name& row, Compare compare, std::uint64_t leading, std::string_view text) noexcept {
+    if (compare == Compare::Exact || row.compare == Compare::Exact) return row.leading == leading && row.text == text;
+    return ((row.leading ^ leading) & ~NameHashes::kCase) == 0 && EqualsFolded(row.text, text);
 }
 
-bool Fits(const Name& row, Compare compare, std::uint64_t prefix, std::string_view text) noexcept {
-    if (row.prefix != prefix || row.text.size() != text.size()) return false;
-    if (compare == Compare::Exact || row.compare == Compare::Exact)
-        return Same(row.text.data(), text.data(), text.size());
-    if (text.size() <= 8) return true;
-    if (text.size() > 16) return EqualsFolded(row.text, text);
-    const std::size_t last = text.size() - 8; // overlaps what the prefix has told
-    return FoldedWord(row.text.data() + last) == FoldedWord(text.data() + last);
+[[gnu::noinline]] const Name* FindRow(const NameTable& table, std::uint64_t leading, std::string_view text) noexcept {
+    const Name* found = nullptr;
+    const auto take = [&](const Name& row) { // whether to go on
+        if (Fits(row, table.compare, leading, text)) found = &row;
+        return found == nullptr || table.lastWins;
+    };
+    if (table.index == nullptr) {
+        for (const Name* row = table.rows; row != table.rows + table.count && take(*row);)
+            ++row;
+        return found;
+    }
+    const std::size_t mask = table.indexSize - 1u;
+    std::size_t at = NameHashes::OfText(leading, text.size()) & mask;
+    while (table.index[at] != 0 && take(table.rows[table.index[at] - 1]))
+        at = (at + 1) & mask;
+    return found;
 }
 
 } // namespace
 
 const Name* NameTable::Find(std::string_view text) const noexcept {
-    const std::uint64_t prefix = text.size() < 8 ? FoldedShort(text.data(), text.size()) : FoldedWord(text.data());
-    const Name* found = nullptr;
-    if (index != nullptr) {
-        const std::size_t mask = indexSize - 1u;
-        for (std::size_t at = NameHashes::OfText(prefix, text.size()) & mask; index[at] != 0; at = (at + 1) & mask) {
-            const Name& row = rows[index[at] - 1];
-            if (!Fits(row, compare, prefix, text)) continue;
-            if (!lastWins) return &row;
-            found = &row;
-        }
-        return found;
+    const std::uint64_t leading = text.size() < 8 ? ShortWord(text.data(), text.size()) : Word(text.data());
+    if (index != nullptr && !lastWins) {
+        // Devices write most names just as the rows have them, and most rows stand first at their place.
+        const std::uint16_t first = index[NameHashes::OfText(leading, text.size()) & (indexSize - 1u)];
+        if (first != 0 && IsShortSame(rows[first - 1], leading, text)) [[likely]]
+            return &rows[first - 1];
     }
-    for (std::uint16_t i = 0; i < count && (found == nullptr || lastWins); ++i) {
-        if (Fits(rows[i], compare, prefix, text)) found = &rows[i];
-    }
-    return found;
+    return FindRow(*this, leading, text);
 }
 
 const Name* NameTable::RowOf(std::int32_t code) const noexcept {

@@ -14,14 +14,12 @@ namespace orrery::record {
 
 enum class Compare : std::uint8_t { Folded, Exact };
 
-// The first eight bytes of a text with ASCII capitals made small, zeros behind a shorter one: what a look-up compares.
-constexpr std::uint64_t FoldedPrefix(std::string_view text) {
-    std::uint64_t prefix = 0;
-    for (std::size_t i = 0; i < 8 && i < text.size(); ++i) {
-        const char c = text[i] >= 'A' && text[i] <= 'Z' ? static_cast<char>(text[i] + ('a' - 'A')) : text[i];
-        prefix |= std::uint64_t{static_cast<unsigned char>(c)} << 8 * i;
-    }
-    return prefix;
+// The first eight bytes of a text, the first one lowest, zeros behind a shorter one: what a look-up compares.
+constexpr std::uint64_t LeadingBytes(std::string_view text) {
+    std::uint64_t leading = 0;
+    for (std::size_t i = 0; i < 8 && i < text.size(); ++i)
+        leading |= std::uint64_t{static_cast<unsigned char>(text[i])} << 8 * i;
+    return leading;
 }
 
 // Whether a text goes out as it stands, and is no longer than names are.
@@ -39,18 +37,20 @@ struct Name {
     Compare compare; // Exact: case counts in this one text, whatever the table says
     bool clean;      // nothing in it is escaped when it is written, and it is no longer than kLongestPlainName
     std::string_view text;
-    std::uint64_t prefix; // FoldedPrefix(text)
+    std::uint64_t leading; // LeadingBytes(text)
 
     constexpr Name(std::int32_t itsCode, std::string_view itsText, Compare itsCompare = Compare::Folded)
         : code(itsCode), compare(itsCompare), clean(IsPlainName(itsText)), text(itsText),
-          prefix(FoldedPrefix(itsText)) {}
+          leading(LeadingBytes(itsText)) {}
 };
 
 // Where to look for a text or a code first: places of rows, from 1 on, in two tables of hashes; what is not at its
 // place comes right behind it, in the order of the rows.
 struct NameHashes {
-    static constexpr std::uint32_t OfText(std::uint64_t prefix, std::size_t size) {
-        return static_cast<std::uint32_t>((prefix + size * 0xD6E8FEB86659FD93u) * 0x9E3779B97F4A7C15u >> 40);
+    // What a capital and its small letter differ in. Other characters differ in it too: equal hashes tell nothing yet.
+    static constexpr std::uint64_t kCase = 0x2020202020202020u;
+    static constexpr std::uint32_t OfText(std::uint64_t leading, std::size_t size) {
+        return static_cast<std::uint32_t>(((leading | kCase) + size) * 0x9E3779B97F4A7C15u >> 40);
     }
     static constexpr std::uint32_t OfCode(std::int32_t code) {
         return static_cast<std::uint32_t>(code) * 0x9E3779B1u >> 12;
@@ -73,7 +73,7 @@ constexpr NameIndex<N> IndexOver(const Name (&rows)[N]) {
     static_assert(N < 0xFFFF);
     NameIndex<N> index;
     for (std::size_t i = 0; i < N; ++i) {
-        index.Put(0, NameHashes::OfText(rows[i].prefix, rows[i].text.size()), i);
+        index.Put(0, NameHashes::OfText(rows[i].leading, rows[i].text.size()), i);
         index.Put(index.kSize, NameHashes::OfCode(rows[i].code), i);
     }
     return index;
@@ -119,7 +119,7 @@ struct NameTable {
     enum class Outside : std::uint8_t { NoKey, Null, Text };
 
     const Name* rows = nullptr;
-    const std::uint16_t* index = nullptr; // a NameIndex; null: the rows are few and looked at one by one
+    const std::uint16_t* index = nullptr; // a NameIndex; null: the rows are looked at one by one
     const char* quoted = nullptr;         // QuotedNames, when it has them
     std::int32_t firstCode = 0;
     std::uint16_t count = 0;
@@ -169,9 +169,7 @@ constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy) {
 
 template <std::size_t N>
 constexpr NameTable NamesOver(const Name (&rows)[N], NameTable policy, const NameIndex<N>& index) {
-    constexpr std::size_t kFew = 3;
     policy = NamesOver(rows, policy);
-    if (N <= kFew) return policy;
     policy.index = index.places.data();
     policy.indexSize = NameIndex<N>::kSize;
     return policy;

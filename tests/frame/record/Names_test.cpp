@@ -68,6 +68,49 @@ TEST(Names, ManyRowsAreFoundByText) {
     EXPECT_EQ(kManyExact.CodeOf("abcdefgH"), -7);
 }
 
+// The row in front takes it, though another one is written just so.
+TEST(Names, TheFirstRowThatMatchesCounts) {
+    EXPECT_EQ(kMany.CodeOf("TrafficJunctioN"), 40);
+    EXPECT_EQ(kManyLast.CodeOf("TrafficJunction"), 10);
+}
+
+// Characters that differ as a capital from its small letter, and are no letters.
+NAMES(kSigns, kFolded.Unknown(-7),
+      {
+          {1, "[A]"},
+          {2, "a@bcdefgh"},
+          {3, "Sixteen letters@"},
+          {4, "More than sixteen letters^"},
+          {5, "More than sixteen LETTERS^"},
+      });
+
+TEST(Names, OnlyLettersHaveACase) {
+    EXPECT_EQ(kSigns.CodeOf("[a]"), 1);
+    EXPECT_EQ(kSigns.CodeOf("{A}"), -7);
+    EXPECT_EQ(kSigns.CodeOf("A@BCDEFGH"), 2);
+    EXPECT_EQ(kSigns.CodeOf("a`bcdefgh"), -7);
+    EXPECT_EQ(kSigns.CodeOf("SIXTEEN LETTERS@"), 3);
+    EXPECT_EQ(kSigns.CodeOf("Sixteen letters`"), -7);
+    EXPECT_EQ(kSigns.CodeOf(std::string_view("Sixteen\0letters@", 16)), -7);
+    EXPECT_EQ(kSigns.CodeOf("more than sixteen letters^"), 4);
+    EXPECT_EQ(kSigns.CodeOf("More than sixteen letters~"), -7);
+    EXPECT_EQ(With(kSigns, &NameTable::compare, Compare::Exact).CodeOf("More than sixteen LETTERS^"), 5);
+}
+
+// One row has a hash's place as well as many do.
+NAMES(kOne, kExact.Unknown(-7), {{3, "Only"}});
+NAMES(kPair, kFolded.Unknown(-7), {{3, "Even"}, {8, "EVEN"}});
+
+TEST(Names, FewRowsAreFoundToo) {
+    EXPECT_EQ(kOne.CodeOf("Only"), 3);
+    EXPECT_EQ(kOne.CodeOf("only"), -7);
+    EXPECT_EQ(kOne.CodeOf(""), -7);
+    EXPECT_EQ(kPair.CodeOf("EVEN"), 3);
+    EXPECT_EQ(kPair.LastWins().CodeOf("Even"), 8);
+    EXPECT_EQ(kPair.RowOf(8)->text, "EVEN");
+    EXPECT_EQ(kPair.RowOf(4), nullptr);
+}
+
 TEST(Names, ManyRowsAreFoundByCode) {
     EXPECT_EQ(kMany.RowOf(10)->text, "TrafficJunctioN");
     EXPECT_EQ(kMany.RowOf(40)->text, "TrafficJunction");
