@@ -42,10 +42,44 @@ inline const char* ReadScalar(const char* p, const char* end, Arena& arena, void
     }
 }
 
+// Up to seven digits, read eight bytes at once: how many digits follow one another is a guess that processors lose.
+struct FewDigits {
+    static constexpr std::size_t kRoom = 8; // bytes that are looked at
+
+    std::size_t count; // kRoom: there may be more
+    std::uint32_t number;
+};
+inline FewDigits ReadFewDigits(const char* p) noexcept {
+    constexpr std::uint64_t kEach = 0x0101010101010101u;
+    std::uint64_t bytes;
+    std::memcpy(&bytes, p, sizeof bytes);
+    if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
+    bytes ^= '0' * kEach; // the values of digits
+    const std::uint64_t others = ((bytes + (0x80 - 10) * kEach) | bytes) & (0x80 * kEach);
+    if (others == 0) return {FewDigits::kRoom, 0};
+    const auto count = static_cast<unsigned>(std::countr_zero(others)) / 8;
+    if (count == 0) return {0, 0};
+    bytes <<= 64 - 8 * count; // zeros in front make them eight
+    bytes = bytes * 10 + (bytes >> 8);
+    constexpr std::uint64_t kPair = 0x000000FF000000FFu;
+    bytes = (bytes & kPair) * (100 + (std::uint64_t{1000000} << 32))
+            + ((bytes >> 16) & kPair) * (1 + (std::uint64_t{10000} << 32));
+    return {count, static_cast<std::uint32_t>(bytes >> 32)};
+}
+
 // Reads the integer of up to nine digits at `p`. The byte behind it; null for any other value.
 inline const char* ReadShortInt(const char* p, const char* end, std::int32_t& number) noexcept {
     const bool negative = *p == '-';
     const char* const digits = p + (negative ? 1 : 0);
+    if (end - digits >= static_cast<std::ptrdiff_t>(FewDigits::kRoom)) [[likely]] {
+        const FewDigits few = ReadFewDigits(digits);
+        if (few.count < FewDigits::kRoom) [[likely]] {
+            if (few.count == 0 || kNumberByte[static_cast<unsigned char>(digits[few.count])]) return nullptr;
+            number = static_cast<std::int32_t>(few.number);
+            if (negative) number = -number;
+            return digits + few.count;
+        }
+    }
     std::int32_t magnitude = 0;
     for (p = digits; p != end; ++p) {
         const unsigned digit = static_cast<unsigned char>(*p) - unsigned{'0'};

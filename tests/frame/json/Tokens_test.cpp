@@ -60,6 +60,38 @@ TEST(Tokens, ShortIntegersAreThoseOfNineDigits) {
         EXPECT_EQ(read(other).first, -1) << other;
 }
 
+// However many digits there are, whatever stands behind them, and however near the text's end is.
+TEST(Tokens, ShortIntegersEndWhereTheirDigitsDo) {
+    std::mt19937 random(26);
+    for (std::size_t digits = 0; digits <= 11; ++digits) {
+        for (unsigned behind = 0; behind < 256; ++behind) {
+            for (const std::size_t more : {0, 1, 6, 7, 8, 20}) {
+                const bool isNegative = random() % 2 == 0;
+                std::string number(isNegative ? "-" : "");
+                for (std::size_t i = 0; i < digits; ++i)
+                    number += static_cast<char>('0' + random() % 10);
+                const auto byte = static_cast<char>(behind);
+                const bool goesOn = std::string_view("0123456789+-.eE").find(byte) != std::string_view::npos;
+                if ((byte >= '0' && byte <= '9') || (digits == 0 && byte == '-')) continue;
+                const test::GuardedBuffer text(number + byte + std::string(more, '7'));
+                std::int32_t value = 0;
+                const char* const p = ReadShortInt(text.data(), text.data() + text.size(), value);
+                if (digits == 0 || digits > 9 || goesOn) {
+                    ASSERT_EQ(p, nullptr) << text.view();
+                } else {
+                    ASSERT_EQ(p, text.data() + number.size()) << text.view();
+                    ASSERT_EQ(value, std::stol(number)) << text.view();
+                }
+            }
+        }
+        if (digits == 0) continue; // there is always something at the place of a value
+        const test::GuardedBuffer bare(std::string(digits, '4'));
+        std::int32_t value = 0;
+        const char* const p = ReadShortInt(bare.data(), bare.data() + digits, value);
+        ASSERT_EQ(p, digits <= 9 ? bare.data() + digits : nullptr) << digits;
+    }
+}
+
 // Pieces of JSON in any order: what is one and what is none, each behind an unreadable page's edge.
 TEST(Tokens, TakeWhatTheReaderTakes) {
     constexpr const char* kPieces[] = {
