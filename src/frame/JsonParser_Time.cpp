@@ -377,26 +377,32 @@ bool JsonParser::GetDate(const json::Value& value, NET_TIME* time) noexcept {
 
 namespace {
 
-// The calendar of a day counted from 0000-03-01, not before it but for 64-bit days. Years that begin in March have
-// their leap day last; 400 of them are always 146097 days.
-template <class Int>
-NET_TIME Calendar(Int days, Int second) noexcept {
-    const Int era = (days >= 0 ? days : days - 146096) / 146097;
-    const Int dayOfEra = days - era * 146097;
-    const Int yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const Int dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const Int fromMarch = (5 * dayOfYear + 2) / 153;
-    const Int month = fromMarch < 10 ? fromMarch + 3 : fromMarch - 9;
-    const auto year = static_cast<std::int64_t>(era * 400 + yearOfEra + (month <= 2));
+// Years that begin in March have their leap day last; 400 of them are always this many days.
+constexpr std::uint32_t kDaysOf400Years = 146097;
+
+// The calendar of a day and of a second in it. Days are counted from a first of March `firstYear`, which begins 400
+// years. What a division leaves stands in the lower half of a product that has the quotient in its upper one.
+NET_TIME Calendar(std::int64_t firstYear, std::uint32_t days, std::uint32_t second) noexcept {
+    const std::uint32_t quarters = 4 * days + 3;
+    const std::uint32_t century = quarters / kDaysOf400Years;
+    constexpr std::uint64_t kYear = 2939745; // 2^32 by the 1461 days of four years, rounded up
+    const std::uint64_t years = kYear * (quarters % kDaysOf400Years | 3);
+    const auto yearOfCentury = static_cast<std::uint32_t>(years >> 32);
+    const std::uint32_t dayOfYear = static_cast<std::uint32_t>(years) / static_cast<std::uint32_t>(kYear) / 4;
+    constexpr std::uint32_t kMonth = 2141;                    // 2^16 times five by the 153 days of five months
+    const std::uint32_t months = kMonth * dayOfYear + 197913; // from the third month on
+    const bool isNewYear = dayOfYear >= 306;                  // January and February
+    const std::int64_t year = firstYear + 100 * century + yearOfCentury + isNewYear;
     // The C library counts years from 1900 in 32 bits, the record from 0: both have to hold it.
     constexpr std::int64_t kFirstYear = std::int64_t{std::numeric_limits<std::int32_t>::min()} + 1900;
     if (year < kFirstYear || year > std::numeric_limits<std::int32_t>::max()) return {};
+    const std::uint32_t minute = second / 60;
     NET_TIME time;
     time.dwYear = static_cast<std::int32_t>(year);
-    time.dwMonth = static_cast<std::int32_t>(month);
-    time.dwDay = static_cast<std::int32_t>(dayOfYear - (153 * fromMarch + 2) / 5 + 1);
-    time.dwHour = static_cast<std::int32_t>(second / 3600);
-    time.dwMinute = static_cast<std::int32_t>(second / 60 % 60);
+    time.dwMonth = static_cast<std::int32_t>((months >> 16) - (isNewYear ? 12 : 0));
+    time.dwDay = static_cast<std::int32_t>((months & 0xFFFF) / kMonth + 1);
+    time.dwHour = static_cast<std::int32_t>(minute / 60);
+    time.dwMinute = static_cast<std::int32_t>(minute % 60);
     time.dwSecond = static_cast<std::int32_t>(second % 60);
     return time;
 }
@@ -409,13 +415,12 @@ void JsonParser::GetUtcTime(const json::Value& value, NET_TIME* time) noexcept {
 }
 
 NET_TIME JsonParser::UtcSecondsToNetTime(std::int64_t seconds) noexcept {
-    constexpr std::int64_t kDay = 86400;
-    constexpr std::int64_t kDaysTo1970 = 719468;
+    constexpr std::uint32_t kDay = 86400;
+    constexpr std::uint32_t kDaysTo1970 = 719468; // from 0000-03-01
     // Until 2106, which is all that devices send, half the width does, at half the time.
     if (seconds >= 0 && seconds <= std::numeric_limits<std::uint32_t>::max()) {
         const auto narrow = static_cast<std::uint32_t>(seconds);
-        constexpr std::uint32_t kNarrowDay = 86400;
-        return Calendar<std::uint32_t>(narrow / kNarrowDay + std::uint32_t{kDaysTo1970}, narrow % kNarrowDay);
+        return Calendar(0, narrow / kDay + kDaysTo1970, narrow % kDay);
     }
     std::int64_t days = seconds / kDay;
     std::int64_t second = seconds % kDay;
@@ -423,7 +428,10 @@ NET_TIME JsonParser::UtcSecondsToNetTime(std::int64_t seconds) noexcept {
         second += kDay;
         --days;
     }
-    return Calendar<std::int64_t>(days + kDaysTo1970, second);
+    days += kDaysTo1970;
+    const std::int64_t era = (days >= 0 ? days : days - (kDaysOf400Years - 1)) / kDaysOf400Years;
+    return Calendar(era * 400, static_cast<std::uint32_t>(days - era * kDaysOf400Years),
+                    static_cast<std::uint32_t>(second));
 }
 
 } // namespace orrery
