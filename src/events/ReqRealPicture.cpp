@@ -2,6 +2,7 @@
 
 #include "events/VehicleParts.h"
 #include "frame/Outside.h"
+#include "frame/json/MemberKeys.h"
 #include "frame/json/Reader.h"
 
 #include <algorithm>
@@ -76,9 +77,8 @@ std::int32_t CReqRealPicture::deserialize(const char* text, std::size_t) noexcep
     }
     bNotification = 1;
     Circumstances around{};
-    const Value& info = root["params"]["info"];
-    readInfo(info, around);
-    parseAlarmEvent(info["Events"], around);
+    const Value& list = readInfo(root["params"]["info"], around);
+    parseAlarmEvent(list, around);
     return 1;
 }
 
@@ -121,36 +121,40 @@ std::uint32_t FlagMask(const Value& flags) noexcept {
 
 } // namespace
 
-void CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcept {
-    if (const Value& transfer = info["Transfer"]; !transfer.isNull())
-        nTransferMode = static_cast<std::uint32_t>(kTransferModes.CodeOf(transfer.asString()).value_or(-1));
-    if (const Value& channel = info["Channel"]; !channel.isNull()) nChannel = channel.asInt();
+const Value& CReqRealPicture::readInfo(const Value& info, Circumstances& around) noexcept {
+    static constexpr json::MemberKeys<17> kKeys("Ack", "Channel", "CountInGroup", "Events", "FTPPath", "FilePath",
+                                                "Flags", "IndexInGroup", "PicID", "PictureType", "RecordFile", "Repeat",
+                                                "Resolution", "Tag", "Time", "Transfer", "VideoPath");
+    const auto [ack, channel, count, list, ftpPath, filePath, flags, index, ids, pictureType, recordFile, repeat,
+                resolution, tag, time, transfer, videoPath] = json::ValuesAt(info, kKeys);
+    if (!transfer->isNull())
+        nTransferMode = static_cast<std::uint32_t>(kTransferModes.CodeOf(transfer->asString()).value_or(-1));
+    if (!channel->isNull()) nChannel = channel->asInt();
     EVENT_FILE_INFO& file = around.fileInfo;
-    const Value& count = info["CountInGroup"];
-    file.byCount = count.isNull() ? 1 : static_cast<std::uint8_t>(count.asInt());
-    file.byIndex = static_cast<std::uint8_t>(info["IndexInGroup"].asInt());
-    file.byPictureType = static_cast<std::uint8_t>(info["PictureType"].asInt());
-    if (const Value& ack = info["Ack"]; !ack.isNull()) bAck = ack.asBool() ? 1 : 0;
-    if (const Value& ids = info["PicID"]; ids.elements().size() == 2) {
-        dwPicID[0] = ids[0u].asUInt();
-        dwPicID[1] = ids[1u].asUInt();
+    file.byCount = count->isNull() ? 1 : static_cast<std::uint8_t>(count->asInt());
+    file.byIndex = static_cast<std::uint8_t>(index->asInt());
+    file.byPictureType = static_cast<std::uint8_t>(pictureType->asInt());
+    if (!ack->isNull()) bAck = ack->asBool() ? 1 : 0;
+    if (ids->elements().size() == 2) {
+        dwPicID[0] = (*ids)[0u].asUInt();
+        dwPicID[1] = (*ids)[1u].asUInt();
     }
-    if (const Value& time = info["Time"]; !time.isNull()) {
+    if (!time->isNull()) {
         std::uint32_t fields[6];
-        events::ReadSplitTime(time.asString(), fields);
+        events::ReadSplitTime(time->asString(), fields);
         std::memcpy(static_cast<void*>(&file.stuFileTime), fields, sizeof fields);
     }
-    file.byFileTag = static_cast<std::uint8_t>(kFileTags.CodeOf(info["Tag"].asString()).value_or(0));
-    const Value& resolution = info["Resolution"];
-    around.resolution = static_cast<std::uint16_t>(resolution[0u].asInt())
-                        | static_cast<std::uint32_t>(static_cast<std::uint16_t>(resolution[1u].asInt())) << 16;
-    around.flagMask = FlagMask(info["Flags"]);
+    file.byFileTag = static_cast<std::uint8_t>(kFileTags.CodeOf(tag->asString()).value_or(0));
+    const auto half = [](const Value& side) { return std::uint32_t{static_cast<std::uint16_t>(side.asInt())}; };
+    around.resolution = half((*resolution)[0u]) | half((*resolution)[1u]) << 16;
+    around.flagMask = FlagMask(*flags);
     events::EventSourceInfo& source = around.source;
-    parser_.GetJsonString(info["FilePath"], source.szFilePath, sizeof source.szFilePath, true);
-    source.nRepeat = info["Repeat"].asInt();
-    parser_.GetJsonString(info["RecordFile"], source.szRecordFile, sizeof source.szRecordFile, true);
-    parser_.GetJsonString(info["FTPPath"], source.szFTPPath, sizeof source.szFTPPath, true);
-    parser_.GetJsonString(info["VideoPath"], source.szVideoPath, sizeof source.szVideoPath, true);
+    parser_.GetJsonString(*filePath, source.szFilePath, sizeof source.szFilePath, true);
+    source.nRepeat = repeat->asInt();
+    parser_.GetJsonString(*recordFile, source.szRecordFile, sizeof source.szRecordFile, true);
+    parser_.GetJsonString(*ftpPath, source.szFTPPath, sizeof source.szFTPPath, true);
+    parser_.GetJsonString(*videoPath, source.szVideoPath, sizeof source.szVideoPath, true);
+    return *list;
 }
 
 void CReqRealPicture::deliver(ORRERY_EVENT_CALLBACK callback, void* user) noexcept {

@@ -82,7 +82,7 @@ class CReqRealPicture final : public IPDU {
     bool parseDocument(const char* text, json::Value& root) noexcept;
     void boundEvents(std::size_t length) noexcept;
     void takeBare(const json::Value& root) noexcept;
-    void readInfo(const json::Value& info, Circumstances& around) noexcept;
+    const json::Value& readInfo(const json::Value& info, Circumstances& around) noexcept; // the list of its events
     // Decodes the events of an array, at most 128, into the list. The group of the file info goes on from event to
     // event.
     void parseAlarmEvent(const json::Value& events, Circumstances& around) noexcept;

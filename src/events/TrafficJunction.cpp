@@ -1,6 +1,7 @@
 // Traffic events: junctions, gates, signals and weights.
 #include "events/EventLog.h"
 #include "events/TrafficEvents.h"
+#include "frame/json/MemberKeys.h"
 
 #include <algorithm>
 
@@ -84,10 +85,10 @@ void CutAxles(const Value&, std::byte* record, ReadCall&) {
 
 void FinishGate(const Value& data, std::byte* record, ReadCall& call) {
     auto& event = *reinterpret_cast<DEV_EVENT_TRAFFICGATE_INFO*>(record);
-    if (const Value& times = data["SnapTimes"]; !times.isNull())
-        event.stuFileInfo.byCount = static_cast<std::uint8_t>(times.asInt());
-    const Value& car = data["TrafficCar"];
-    if (!car.isNull() && car["VehicleSize"].isNull()) {
+    static constexpr json::MemberKeys<2> kKeys("SnapTimes", "TrafficCar");
+    const auto [times, car] = json::ValuesAt(data, kKeys);
+    if (!times->isNull()) event.stuFileInfo.byCount = static_cast<std::uint8_t>(times->asInt());
+    if (!car->isNull() && (*car)["VehicleSize"].isNull()) {
         std::memcpy(event.stuTrafficCar.szVehicleSize, event.stuVehicle.szObjectSubType,
                     sizeof event.stuTrafficCar.szVehicleSize - 1);
     }
