@@ -64,7 +64,6 @@ same() { # same WHAT HERE THERE
 same_companion() { # same_companion NAME RUNNER...
     local name=$1 what where program
     shift
-    [ -x "$companion" ] || { echo "platforms: no $companion to compare with" >&2; exit 2; }
     echo '{"Event":[{"Code":"CrossLineDetection","Data":{"Name":"Fence"}},{"Code":"Nothing"}]}' >build/platforms/events.json
     for what in layout schema "parse Alarm examples/alarm-reply.json --pack" "events build/platforms/events.json" \
         "describe Alarm" "check NTP examples/alarm-reply.json" "check nowhere.json" "describe NTP --help" \
@@ -147,6 +146,35 @@ tests_of() { # tests_of NAME
     done
 }
 
+# What fails is told again at the end; what comes behind it runs all the same.
+failed=()
+passes() { # passes WHAT COMMAND...
+    local what=$1
+    shift
+    if "$@"; then
+        echo "platforms: $what passed"
+    else
+        echo "platforms: $what failed" >&2
+        failed+=("$what")
+    fi
+}
+
+# Emulated programs are slow: the tests are shared out among as many of them as there are cores.
+in_shards() { # in_shards FOLDER TEST_PROGRAM_AND_ARGUMENTS...
+    local folder=$1 shards shard running=() status=0
+    shift
+    shards=$(nproc)
+    for ((shard = 0; shard < shards; shard++)); do
+        GTEST_TOTAL_SHARDS=$shards GTEST_SHARD_INDEX=$shard "$@" >"$folder/shard$shard.txt" 2>&1 &
+        running+=($!)
+    done
+    for ((shard = 0; shard < shards; shard++)); do
+        wait "${running[shard]}" || status=1
+        cat "$folder/shard$shard.txt"
+    done
+    return $status
+}
+
 run_tests() { # run_tests NAME COMPILER RUNNER...
     local name=$1 compiler=$2 build=$out/$1 file source objects=()
     shift 2
@@ -184,8 +212,8 @@ run_tests() { # run_tests NAME COMPILER RUNNER...
     ninja -k 0 ${CMAKE_BUILD_PARALLEL_LEVEL:+"-j$CMAKE_BUILD_PARALLEL_LEVEL"} -C "$build" -f tests.ninja
     # Those of a code page want a process that was started for it.
     [ -z "$EXCEPT" ] || echo "platforms: $name: left out, for another C library reads them otherwise: ${EXCEPT//:/ }"
-    "$@" "$build/tests/orrery_tests$EXE" --gtest_brief=1 --gtest_filter="-CodePage.*:$EXCEPT"
-    echo "platforms: $name: the tests of $(wc -l <"$build/tests.txt") files passed"
+    passes "$name: the tests of $(wc -l <"$build/tests.txt") files" \
+        in_shards "$build/tests" "$@" "$build/tests/orrery_tests$EXE" --gtest_brief=1 --gtest_filter="-CodePage.*:$EXCEPT"
 }
 
 # Clients of the shared library, as they are built there; `texts` stays for same_texts.
@@ -264,14 +292,21 @@ stage_windows() {
         EXCEPT=AgainstTheCLibrary.SectionsReadAlike:AgainstTheCLibrary.DatesReadAlike:$bounds \
         run_tests windows x86_64-w64-mingw32-g++-posix env LC_ALL=hi_IN.UTF-8 "$wine"
     for page in 932:ja_JP 936:zh_CN 1252:de_DE; do
-        LC_ALL=${page#*:}.UTF-8 ORRERY_CODE_PAGE=${page%:*} \
+        passes "windows: texts in code page ${page%:*}" \
+            env "LC_ALL=${page#*:}.UTF-8" "ORRERY_CODE_PAGE=${page%:*}" \
             "$wine" "$out/windows/tests/orrery_tests.exe" --gtest_brief=1 --gtest_filter='CodePage.*'
-        echo "platforms: windows: texts in code page ${page%:*} passed"
     done
 }
 
+# Before a platform's library is built, which takes minutes.
+if [[ " ${stages[*]} " =~ \ (aarch64|windows)\  && ! -x $companion ]]; then
+    echo "platforms: no $companion to compare with; scripts/test.sh release builds it" >&2
+    exit 2
+fi
 for stage in "${stages[@]}"; do
     echo "=== $stage"
     "stage_$stage"
 done
+for what in "${failed[@]}"; do echo "platforms: $what failed" >&2; done
+[ ${#failed[@]} -eq 0 ] || exit 1
 echo "platforms: all of ${stages[*]} passed"
