@@ -49,6 +49,8 @@ class JsonParser {
 
     // "%d %02d:%02d:%02d-%02d:%02d:%02d". Fields matched before a mismatch stay written; false unless all seven are.
     static bool GetTimeSection(const json::Value& value, CFG_TIME_SECTION* section) noexcept;
+    // As many of the leading values as are sections in the form that nearly all devices write; how many.
+    static std::size_t GetUsualSections(std::span<const json::Value> values, CFG_TIME_SECTION* sections) noexcept;
     static void SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept;
     // A matrix, row-major with `columns` sections a row, "%d %d:%d:%d-%d:%d:%d"; the first bad cell ends it with false.
     static bool GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sections, int rows, int columns,

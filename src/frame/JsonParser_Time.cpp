@@ -35,31 +35,64 @@ void Store(void* record, const std::int32_t* fields, int count) noexcept {
     std::memcpy(record, fields, static_cast<std::size_t>(count) * sizeof *fields);
 }
 
-// Nearly every device writes sections with two digits a field and a flag of one, or of two.
-bool ReadUsualSection(std::string_view text, CFG_TIME_SECTION* section) noexcept {
-    if (text.size() != 19 && text.size() != 20) return false;
-    const std::size_t more = text.size() - 19;
-    const char* const t = text.data() + more;
-    std::uint64_t bad = 0;
-    const auto begin = scan::ReadClock(t + 2, bad);
-    const auto end = scan::ReadClock(t + 11, bad);
-    if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
-    if (more != 0 && !scan::IsDigit(text[0])) return false;
-    // Each straight into its place: gathered first, they would be copied by wider loads that wait for the stores.
-    auto* const at = reinterpret_cast<std::byte*>(section);
-    const auto put = [at](std::size_t field, std::int32_t number) { std::memcpy(at + 4 * field, &number, 4); };
-    put(0, t[0] - '0' + (more != 0 ? 10 * (text[0] - '0') : 0));
-    put(1, begin.hour);
-    put(2, begin.minute);
-    put(3, begin.second);
-    put(4, end.hour);
-    put(5, end.minute);
-    put(6, end.second);
-    return true;
-}
+// Nearly every device writes sections with two digits a field and a flag of one, or of two; and most of a day's and of
+// a week's sections are like the one before.
+class UsualSections {
+  public:
+    bool Read(std::string_view text, CFG_TIME_SECTION* section) noexcept {
+        if (text.size() != kSize && text.size() != kSize + 1) return false;
+        const std::size_t more = text.size() - kSize;
+        const char* const t = text.data() + more;
+        const Bytes bytes{Word(t), Word(t + 8), Word(t + kSize - 8)};
+        auto* const at = reinterpret_cast<std::byte*>(section);
+        if (more == 0 && section_ != nullptr && bytes_.Are(bytes)) {
+            Repeat(at);
+            return true;
+        }
+        std::uint64_t bad = 0;
+        const auto begin = scan::ReadClock(t + 2, bad);
+        const auto end = scan::ReadClock(t + 11, bad);
+        if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
+        if (more != 0 && !scan::IsDigit(text[0])) return false;
+        // Each straight into its place: gathered first, they would be copied by wider loads that wait for the stores.
+        const auto put = [at](std::size_t field, std::int32_t number) { std::memcpy(at + 4 * field, &number, 4); };
+        put(0, t[0] - '0' + (more != 0 ? 10 * (text[0] - '0') : 0));
+        put(1, begin.hour);
+        put(2, begin.minute);
+        put(3, begin.second);
+        put(4, end.hour);
+        put(5, end.minute);
+        put(6, end.second);
+        section_ = more == 0 ? at : nullptr;
+        bytes_ = bytes;
+        return true;
+    }
 
-bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SECTION* section) noexcept {
-    if (ReadUsualSection(text, section)) return true;
+  private:
+    static constexpr std::size_t kSize = 19; // "1 08:00:00-17:30:00"
+    struct Bytes {
+        std::uint64_t first, middle, last;
+
+        bool Are(const Bytes& other) const noexcept {
+            return ((first ^ other.first) | (middle ^ other.middle) | (last ^ other.last)) == 0;
+        }
+    };
+
+    void Repeat(std::byte* at) const noexcept {
+        for (const std::byte *from = section_, *const stop = from + sizeof(CFG_TIME_SECTION); from != stop; from += 4) {
+            std::memcpy(at, from, 4);
+            at += 4;
+            asm volatile("" ::: "memory"); // or they are put together to wider loads
+        }
+    }
+
+    const std::byte* section_ = nullptr; // that of the text before, while it can be repeated
+    Bytes bytes_;
+};
+
+bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SECTION* section,
+                 UsualSections& usual) noexcept {
+    if (usual.Read(text, section)) return true;
     std::int32_t fields[kSectionFields];
     Scanner scanner(text);
     const int count = scan::Fields(scanner, kSectionFields, kSectionSeparators, widths, fields);
@@ -230,7 +263,16 @@ int Limit(int bound, std::uint32_t size) noexcept {
 } // namespace
 
 bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* section) noexcept {
-    return section != nullptr && ReadSection(value.asString(), kSectionWidths, section);
+    UsualSections usual;
+    return section != nullptr && ReadSection(value.asString(), kSectionWidths, section, usual);
+}
+
+std::size_t JsonParser::GetUsualSections(std::span<const json::Value> values, CFG_TIME_SECTION* sections) noexcept {
+    UsualSections usual;
+    std::size_t count = 0;
+    while (count < values.size() && usual.Read(values[count].asString(), sections + count))
+        ++count;
+    return count;
 }
 
 void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
@@ -247,11 +289,12 @@ bool JsonParser::GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sec
     const auto days = value.elements().first(static_cast<std::size_t>(Limit(rows, value.size())));
     const auto count = static_cast<int>(days.size());
     if (rowsRead != nullptr) std::memcpy(rowsRead, &count, sizeof count);
+    UsualSections usual;
     for (const json::Value& day : days) {
         if (day.isArray() && day.size() != 0) {
             CFG_TIME_SECTION* section = sections;
             for (const json::Value& cell : day.elements().first(static_cast<std::size_t>(Limit(columns, day.size())))) {
-                if (!ReadSection(cell.asString(), kAnyWidths, section++)) return false;
+                if (!ReadSection(cell.asString(), kAnyWidths, section++, usual)) return false;
             }
         }
         sections += columns;
@@ -316,9 +359,10 @@ void JsonParser::SetHolidaySchedule(json::TextWriter& out, const CFG_TIME_SCHEDU
 
 bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* sections, int limit) noexcept {
     if (sections == nullptr || limit < 1) return false;
+    UsualSections usual;
     for (const json::Value& element : value.elements()) {
         if (limit-- == 0) break;
-        ReadSection(element.asString(), kAnyWidths, sections++);
+        ReadSection(element.asString(), kAnyWidths, sections++, usual);
     }
     return true;
 }

@@ -385,6 +385,46 @@ TEST(TimeSectionList, PassesOverWhatIsNoSection) {
     EXPECT_TRUE(JsonParser::GetTimeSectionList(ParsedText("[ [ \"bad\" ] ]").root(), sections, 6));
 }
 
+// Sections that are like the one before, but for a byte at any place, or not at all: each reads as it does alone.
+TEST(TimeSectionList, EachReadsAsItDoesAlone) {
+    const std::string usual = "1 08:00:00-17:30:00";
+    std::vector<std::string> texts = {usual,      usual,         "2" + usual, usual, "0 00:00:00-24:00:00",
+                                      "1 8:00:0", "1" + usual,   usual,       "",    std::string(19, '\0'),
+                                      usual,      "bad" + usual, usual};
+    for (std::size_t at = 0; at < usual.size(); ++at) {
+        for (const char other : {'0', '9', 'x', '\0', '\xFF'}) {
+            std::string text = usual;
+            text[at] = other;
+            texts.insert(texts.end(), {usual, text, text, usual});
+        }
+    }
+    texts.insert(texts.begin(), std::string(19, '\0'));
+    texts.insert(texts.begin(), std::string(19, '\xFF'));
+    std::vector<json::Value> values;
+    for (const std::string& text : texts)
+        values.push_back(StringValue(text));
+    const auto count = static_cast<std::uint32_t>(values.size());
+    std::vector<CFG_TIME_SECTION> together(count, Filled(kBefore)), alone(count, Filled(kBefore));
+    EXPECT_TRUE(JsonParser::GetTimeSectionList(json::Value::OfArray(values.data(), count), together.data(), INT_MAX));
+    for (std::uint32_t i = 0; i < count; ++i) {
+        EXPECT_TRUE(JsonParser::GetTimeSectionList(json::Value::OfArray(&values[i], 1), &alone[i], 1));
+        EXPECT_TRUE(together[i] == alone[i]) << i << ": " << texts[i];
+    }
+}
+
+TEST(TimeSectionList, ThoseOfTheUsualFormAreTheLeadingOnes) {
+    const ParsedText document("[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\", \"12 08:00:00-17:30:00\", "
+                              "\"1 8:00:00-17:30:00\", \"1 08:00:00-17:30:00\" ]");
+    CFG_TIME_SECTION sections[5];
+    for (CFG_TIME_SECTION& section : sections)
+        section = Filled(kBefore);
+    EXPECT_EQ(JsonParser::GetUsualSections(document.root().elements(), sections), 3u);
+    EXPECT_TRUE(sections[1] == kWorkday);
+    EXPECT_TRUE(sections[2] == (CFG_TIME_SECTION{12, 8, 0, 0, 17, 30, 0}));
+    EXPECT_TRUE(sections[3] == Filled(kBefore));
+    EXPECT_EQ(JsonParser::GetUsualSections({}, nullptr), 0u);
+}
+
 TEST(TimeSectionList, StopsAtItsLimit) {
     const ParsedText document("[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\" ]");
     CFG_TIME_SECTION sections[2] = {Filled(kBefore), Filled(kBefore)};

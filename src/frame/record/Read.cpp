@@ -196,7 +196,14 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
         // Its members have no place in a list, but each stands for an element that is not there.
         used = counted = std::min(value.size(), room.room);
     } else {
-        for (const Value& element : value.elements()) {
+        auto elements = value.elements();
+        if (innermost && field.kind == Kind::TimeSection && !call.refused) { // a day's, all but always read in one go
+            const auto slots = elements.first(std::min<std::size_t>(elements.size(), room.room));
+            const auto usual = JsonParser::GetUsualSections(slots, reinterpret_cast<CFG_TIME_SECTION*>(room.first));
+            used = counted = static_cast<std::uint32_t>(usual);
+            elements = elements.subspan(usual);
+        }
+        for (const Value& element : elements) {
             if (used == room.room || call.refused) break;
             if (element.isNull()) {
                 if (field.nulls == Nulls::Stop) break;
