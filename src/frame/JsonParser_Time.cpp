@@ -179,64 +179,86 @@ struct SectionBytes {
     }
 };
 
-// The counterpart of ReadUsualSection: a week has 42 of them or 70. Null when a field has more digits than usual.
-char* PutUsualSection(char* to, const SectionBytes& section) noexcept {
+// The text of a section in quotes, held in registers: what was just stored in pieces cannot be loaded at once before all
+// of it has reached the cache, and the section before often comes again.
+class SectionText {
+  public:
+    // The counterpart of ReadUsualSection: a week has 42 of them or 70. False when a field has more digits than usual.
+    bool Set(const SectionBytes& section) noexcept {
 #if ORRERY_SSE2
-    // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
-    const __m128i numbers = _mm_packs_epi32(section.first, section.last);
-    const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
-    const __m128i outside = _mm_subs_epu16(numbers, most);
-    if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return nullptr;
-    // Two digits a number: the tens lower, as they stand in the text, but for minutes, whose tens are higher.
-    const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
-    const __m128i ofNumber = _mm_setr_epi16(256, 256, 1, 256, 256, 256, 1, 256);
-    const __m128i ofTens = _mm_setr_epi16(-2559, -2559, 246, -2559, -2559, -2559, 246, -2559);
-    const __m128i pairs = _mm_add_epi16(_mm_mullo_epi16(numbers, ofNumber), _mm_mullo_epi16(tens, ofTens));
-    // Each clock in eight letters: hours, minutes twice, of which the inner letters stay, and seconds.
-    constexpr int kSpread = _MM_SHUFFLE(3, 2, 2, 1);
-    const __m128i spread = _mm_shufflehi_epi16(_mm_shufflelo_epi16(pairs, kSpread), kSpread);
-    const __m128i kept = _mm_and_si128(spread, _mm_set1_epi64x(static_cast<long long>(0xFFFF00FFFF00FFFF)));
-    const __m128i clocks = _mm_add_epi8(kept, _mm_set1_epi64x(0x30303A30303A3030)); // zeros and colons
-    // The mask has no tens.
-    constexpr std::uint32_t kFirst = 0x203022; // `"0 `
-    const std::uint32_t first = kFirst + (static_cast<std::uint32_t>(_mm_cvtsi128_si32(pairs)) & 0xFFFF);
-    std::memcpy(to, &first, sizeof first);
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(to + 3), clocks);
-    to[11] = '-';
-    _mm_storeh_pd(reinterpret_cast<double*>(to + 12), _mm_castsi128_pd(clocks));
-    to[20] = '"';
+        // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
+        const __m128i numbers = _mm_packs_epi32(section.first, section.last);
+        const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
+        const __m128i outside = _mm_subs_epu16(numbers, most);
+        if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return false;
+        // Two digits a number: the tens lower, as they stand in the text, but for minutes, whose tens are higher.
+        const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
+        const __m128i ofNumber = _mm_setr_epi16(256, 256, 1, 256, 256, 256, 1, 256);
+        const __m128i ofTens = _mm_setr_epi16(-2559, -2559, 246, -2559, -2559, -2559, 246, -2559);
+        const __m128i pairs = _mm_add_epi16(_mm_mullo_epi16(numbers, ofNumber), _mm_mullo_epi16(tens, ofTens));
+        // Each clock in eight letters: hours, minutes twice, of which the inner letters stay, and seconds.
+        constexpr int kSpread = _MM_SHUFFLE(3, 2, 2, 1);
+        const __m128i spread = _mm_shufflehi_epi16(_mm_shufflelo_epi16(pairs, kSpread), kSpread);
+        const __m128i kept = _mm_and_si128(spread, _mm_set1_epi64x(static_cast<long long>(0xFFFF00FFFF00FFFF)));
+        const __m128i clocks = _mm_add_epi8(kept, _mm_set1_epi64x(0x30303A30303A3030)); // zeros and colons
+        const auto begin = static_cast<std::uint64_t>(_mm_cvtsi128_si64(clocks));
+        const auto end = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(clocks, clocks)));
+        // The mask has no tens.
+        constexpr std::uint32_t kFirst = 0x203022; // `"0 `
+        const std::uint32_t first = kFirst + (static_cast<std::uint32_t>(_mm_cvtsi128_si32(pairs)) & 0xFFFF);
+        first_ = first | begin << 24;
+        second_ = begin >> 40 | std::uint64_t{'-'} << 24 | end << 32;
+        last_ = end >> 8 | std::uint64_t{'"'} << 56;
 #else
-    std::uint32_t fields[kSectionFields + 1]; // the second of the first clock twice
-    std::memcpy(fields, section.first, sizeof section.first);
-    std::memcpy(fields + 3, section.last, sizeof section.last);
-    std::uint32_t outside = 0; // its highest bit is set when a field is
-    for (int i = 0; i < kSectionFields; ++i)
-        outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
-    if (outside >> 31 != 0) return nullptr;
-    std::memcpy(to, "\"0 00:00:00-00:00:00\"", kSectionText);
-    to[1] = static_cast<char>('0' + fields[0]);
-    for (int i = 1; i < kSectionFields; ++i)
-        json::PutPair(to + 3 * i, fields[i]);
+        std::uint32_t fields[kSectionFields + 1]; // the second of the first clock twice
+        std::memcpy(fields, section.first, sizeof section.first);
+        std::memcpy(fields + 3, section.last, sizeof section.last);
+        std::uint32_t outside = 0; // its highest bit is set when a field is
+        for (int i = 0; i < kSectionFields; ++i)
+            outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
+        if (outside >> 31 != 0) return false;
+        std::memcpy(text_, "\"0 00:00:00-00:00:00\"", kSectionText);
+        text_[1] = static_cast<char>('0' + fields[0]);
+        for (int i = 1; i < kSectionFields; ++i)
+            json::PutPair(text_ + 3 * i, fields[i]);
 #endif
-    return to + kSectionText;
-}
+        return true;
+    }
+    char* Put(char* to) const noexcept {
+#if ORRERY_SSE2
+        std::memcpy(to, &first_, 8);
+        std::memcpy(to + 8, &second_, 8);
+        std::memcpy(to + kSectionText - 8, &last_, 8);
+#else
+        std::memcpy(to, text_, kSectionText);
+#endif
+        return to + kSectionText;
+    }
 
-// As many of the sections as are usual and find room; answers how many. The one before often comes again.
+  private:
+#if ORRERY_SSE2
+    std::uint64_t first_ = 0, second_ = 0, last_ = 0; // eight letters each, the first lowest; three stand in two
+#else
+    char text_[kSectionText];
+#endif
+};
+
+// As many of the sections as are usual and find room; answers how many.
 int PutUsualSections(json::Pen& place, const CFG_TIME_SECTION* sections, int count) noexcept {
     json::Pen pen = place; // in registers
-    const std::size_t room = pen.room() / kSectionStep;
-    if (room < static_cast<std::size_t>(std::max(count, 0))) count = static_cast<int>(room);
     if (count <= 0) return 0;
+    if (const auto wanted = static_cast<std::size_t>(count); pen.room() < wanted * kSectionStep) [[unlikely]]
+        count = static_cast<int>(pen.room() / kSectionStep);
     SectionBytes before(sections);
+    SectionText text;
     int written = 0;
     for (; written < count; ++written) {
         const SectionBytes bytes(sections + written);
-        if (written > 0 && bytes == before) {
-            pen.Element([](char* to) { return json::CopyShort(to, to - kSectionStep, kSectionText); });
-            continue;
+        if (written == 0 || !(bytes == before)) {
+            before = bytes;
+            if (!text.Set(bytes)) break;
         }
-        before = bytes;
-        if (!pen.TryElement([&](char* to) { return PutUsualSection(to, bytes); })) break;
+        pen.Element([&](char* to) { return text.Put(to); });
     }
     place = pen;
     return written;
