@@ -136,4 +136,75 @@ class Pen {
     std::size_t separator_; // what stands in front of the next element or member
 };
 
+// The same for code that calls itself, or is called, for one value or many: the place goes along in a register and each
+// call answers its end. Every member and every element has `, ` in front of it, the first one too; whoever opened the
+// object or the array puts its bracket over those two bytes afterwards. Places are kept over calls as offsets, because
+// a writer may move its text into a larger block.
+class Hand {
+  public:
+    static constexpr std::size_t kSeparator = 2;
+    static constexpr std::size_t kNotFirst = static_cast<std::size_t>(-1);
+
+    explicit Hand(TextWriter& out) noexcept : out_(out) {}
+
+    std::size_t OffsetOf(const char* at) const noexcept { return static_cast<std::size_t>(at - out_.begin_); }
+    char* PlaceOf(std::size_t offset) const noexcept { return out_.begin_ + offset; }
+    bool Has(const char* at, std::size_t size) const noexcept {
+        return size <= static_cast<std::size_t>(out_.end_ - at);
+    }
+    // Whoever stands in front of this place has room for more than `size` bytes. It is another one once the writer
+    // itself has written.
+    const char* LimitFor(std::size_t size) const noexcept {
+        return size <= static_cast<std::size_t>(out_.end_ - out_.begin_) ? out_.end_ - size : out_.begin_;
+    }
+
+    // Whether nothing stands in the object or the array that the writer is in.
+    bool isFirst() const noexcept { return out_.first_; }
+    bool HasBehind(std::size_t size) const noexcept { return Has(out_.next_, size); }
+    // Takes the place from the writer, which stands in an object or an array.
+    char* Take() const noexcept { return out_.next_ - (out_.first_ ? kSeparator : 0); }
+    // Hands the place back; at the offset `first` nothing stands inside `bracket` yet.
+    void Give(char* at, std::size_t first, const char* bracket) const noexcept {
+        out_.first_ = OffsetOf(at) == first;
+        out_.next_ = at;
+        if (!out_.first_) return;
+        std::memcpy(at, bracket, kSeparator);
+        out_.next_ += kSeparator;
+    }
+    // The same behind a key.
+    void GiveForValue(char* at) const noexcept {
+        out_.next_ = at;
+        out_.first_ = true;
+    }
+    char* Close(char* at, const char* bracket) const noexcept {
+        if (Has(at, kSeparator)) [[likely]] {
+            std::memcpy(at, bracket, kSeparator);
+            return at + kSeparator;
+        }
+        out_.next_ = at;
+        out_.Append(bracket, kSeparator);
+        return out_.next_;
+    }
+
+    // A key that is written already, as in `"Enable" : `, with `, ` in front of it and Pen::kPadding bytes behind it
+    // that may be read. `size` is its length without that; it takes as much more room as the padding of a pen's key.
+    static char* PutKey(char* at, const char* quoted, std::size_t size) noexcept {
+        const char* const from = quoted - kSeparator;
+        size += kSeparator;
+        std::memcpy(at, from, 16);
+        std::memcpy(at + 16, from + 16, 16);
+        for (std::size_t i = 32; i < size; i += 16)
+            [[unlikely]] std::memcpy(at + i, from + i, 16);
+        return at + size;
+    }
+    // What stands in front of a member or an element; answers where that goes.
+    static char* Separate(char* at) noexcept {
+        std::memcpy(at, ", ", kSeparator);
+        return at + kSeparator;
+    }
+
+  private:
+    TextWriter& out_;
+};
+
 } // namespace orrery::json

@@ -122,6 +122,7 @@ class TextWriter {
 
   private:
     friend class Pen;
+    friend class Hand;
     static constexpr std::size_t kSeparator = 2;
 
     void Append(const char* text, std::size_t size) noexcept {

@@ -5,12 +5,22 @@
 #include "frame/record/Engine.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace orrery::record {
 
 inline constexpr std::size_t kNameRoom = kLongestPlainName + 16; // quotes, and what a store goes beyond
 // What any value but a text takes at the most.
 inline constexpr std::size_t kValueRoom = std::max({json::kRealRoom, json::Pen::kPadding, kNameRoom});
+// What a key and any value but a text take at the most, with what stands in front of them; a key's padding lies within
+// the value's room.
+inline constexpr std::size_t kMemberRoom =
+    json::Hand::kSeparator + kLongestPlainKey + kQuotesAndColon + kValueRoom;
+static_assert(kKeyTextSlack >= json::Pen::kPadding);
+
+inline char* PutKey(char* at, const Table& table, const Node& node) noexcept {
+    return json::Hand::PutKey(at, table.keyTexts + node.quotedAt, node.keySize + kQuotesAndColon);
+}
 
 inline std::int64_t LoadScalar(const Node& node, const std::byte* at) noexcept {
     return LoadInteger(node.cell, at);
@@ -81,6 +91,33 @@ struct TextWay {
 inline char* PutText(char* to, const Node& node, const std::byte* at, const WriteCall& call) noexcept {
     const TextWay way(node.way == Way::Local, call.parser.text());
     return way.copies ? json::PutText(to, reinterpret_cast<const char*>(at), node.elementSize, way.asciiOnly) : nullptr;
+}
+
+// The numbers of the bits that are set in `size` bytes of 32-bit words.
+constexpr std::size_t MaskRoom(std::size_t size) {
+    return 8 * size * (json::Hand::kSeparator + json::kIntegerRoom) + 4;
+}
+inline char* PutMask(char* to, const std::byte* at, std::size_t size) noexcept {
+    std::memcpy(to, "[ ", 2);
+    char* next = to;
+    std::uint32_t number = 0;
+    const auto put = [&](auto bits) {
+        for (; bits != 0; bits &= bits - 1) {
+            std::memcpy(next, ", ", 2);
+            next = json::PutDigits(next + 2, number + static_cast<std::uint32_t>(std::countr_zero(bits)));
+        }
+    };
+    // Two words at once; most of a mask is zero.
+    for (; number / 8 + 8 <= size; number += 64) {
+        const std::byte* const words = at + number / 8;
+        if (const std::uint64_t bits = Load<std::uint32_t>(words) | std::uint64_t{Load<std::uint32_t>(words + 4)} << 32)
+            put(bits);
+    }
+    if (number / 8 < size) put(Load<std::uint32_t>(at + number / 8));
+    std::memcpy(to, "[ ", 2);
+    if (next == to) next += 2;
+    std::memcpy(next, " ]", 2);
+    return next + 2;
 }
 
 // A record that stands as an array of 32-bit numbers.

@@ -57,6 +57,12 @@ bool IsPlainNumber(const Field& field) noexcept {
     return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
 }
 
+// Texts and names of which each has its place.
+bool AreWords(const Field& field) noexcept {
+    if (field.writtenAs == Kind::Names) return field.atMost == Field::kNoLimit && field.skipped == Skipped::StaysNull;
+    return field.writtenAs == Kind::Text || field.writtenAs == Kind::RawText;
+}
+
 // An array of 32-bit numbers. Channels above all: the longest lists there are.
 void WriteNumbers(const std::byte* at, std::uint32_t count, std::uint32_t stride, json::TextWriter& out) noexcept {
     out.BeginArray();
@@ -115,6 +121,79 @@ std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& 
         if (i + 1 == count || entries[i].name != entries[i + 1].name) entries[unique++] = entries[i];
     }
     return {entries, unique};
+}
+
+char* PutList(const Table& table, const Node& node, const std::byte* record, WriteCall& call, char* at) noexcept {
+    const Field& field = table.rows[node.row];
+    const bool isPointer = field.cell == Cell::Pointer;
+    if (field.keyed || field.rank != (isPointer ? 0 : 1)) return nullptr;
+    const bool areRecords = field.writtenAs == Kind::Record;
+    const bool areNumbers = IsPlainNumber(field);
+    if (areRecords ? !field.table->isAlwaysWritten() : !areNumbers && (isPointer || !AreWords(field))) return nullptr;
+    const Elements elements = ElementsOf(field, record);
+    if (elements.count == 0) return field.empty == Empty::NoKey ? at : nullptr;
+
+    const json::Hand hand(call.out);
+    const char* limit = hand.LimitFor(kMemberRoom);
+    const std::byte* element = elements.first;
+    const std::uint32_t stride = isPointer ? StrideOf(field, 0) : field.elementSize;
+    std::uint32_t left = elements.count;
+    char* to = PutKey(at, table, node);
+    const std::size_t opened = hand.OffsetOf(to);
+    if (areNumbers) {
+        for (; left > 0 && to < limit; --left, element += stride)
+            to = json::PutDigits(json::Hand::Separate(to), Load<std::int32_t>(element));
+    } else if (!areRecords) {
+        const TextWay way(field.writtenAs == Kind::Text, call.parser.text());
+        const bool areNames = field.writtenAs == Kind::Names;
+        for (; left > 0 && to < limit; --left, element += stride) {
+            char* const word = json::Hand::Separate(to);
+            char* next = nullptr;
+            if (areNames)
+                next = PutNamed(word, *field.names, static_cast<std::int32_t>(LoadInteger(field.cell, element)));
+            else if (way.copies && hand.Has(word, json::TextRoom(field.elementSize)))
+                next = json::PutText(word, reinterpret_cast<const char*>(element), field.elementSize, way.asciiOnly);
+            if (next == nullptr) break;
+            to = next;
+        }
+    } else if (const Table& inner = *field.table; inner.isPlainObject()) {
+        for (; left > 0 && to < limit; --left, element += stride) {
+            char* const inside = json::Hand::Separate(to);
+            const std::size_t first = hand.OffsetOf(inside);
+            char* const end = PutNodes(inner, inner.members, element, call, inside, first);
+            to = hand.PlaceOf(first);
+            if (end == to) {
+                to = json::Pen::PutNull(to);
+            } else {
+                std::memcpy(to, "{ ", 2);
+                to = hand.Close(end, " }");
+            }
+            limit = hand.LimitFor(kMemberRoom);
+        }
+    } else if (inner.shape != Shape::Object) {
+        for (; left > 0 && to < limit; --left, element += stride) {
+            char* const value = json::Hand::Separate(to);
+            char* next = nullptr;
+            if (!inner.isNumbers)
+                next = PutTuple(inner, element, call, value);
+            else if (hand.Has(value, NumbersRoom(inner)))
+                next = PutNumbers(value, inner, element);
+            if (next == nullptr) break;
+            to = next;
+        }
+    }
+    if (left > 0) {
+        hand.Give(to, opened, "[ ");
+        for (; left > 0; --left, element += stride) {
+            if (IsElementWritten(field, element))
+                WriteElement(field, element, call);
+            else
+                call.out.Null();
+        }
+        to = hand.Take();
+    }
+    std::memcpy(hand.PlaceOf(opened), "[ ", 2);
+    return hand.Close(to, " ]");
 }
 
 void WriteList(const Field& field, const std::byte* record, WriteCall& call) noexcept {

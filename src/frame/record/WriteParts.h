@@ -46,6 +46,15 @@ inline bool IsLetOut(const Node& node, const std::byte* record) noexcept {
 }
 // What a row says, whatever its words; `call` has its key.
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept;
+// The members of an object from `at` on, where at the offset `first` none stands yet, as json::Hand has it. The object
+// that keys go to is open.
+char* PutNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call, char* at,
+               std::size_t first) noexcept;
+// The member of a list. Null for one that the writer has to write, with nothing written.
+char* PutList(const Table& table, const Node& node, const std::byte* record, WriteCall& call, char* at) noexcept;
+// A record that stands as an array of values. Null, with nothing written, when one of them finds no room, is converted or
+// is no scalar.
+char* PutTuple(const Table& table, const std::byte* record, const WriteCall& call, char* at) noexcept;
 // The array that a record stands as.
 void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept;
 // Records one behind the other as the elements of an array; their table lets all of them out.

@@ -7,11 +7,8 @@ namespace orrery::record {
 
 namespace {
 
+using json::Hand;
 using json::Pen;
-static_assert(kKeyTextSlack >= Pen::kPadding);
-
-// What a key and any value but a text take at the most; a key's padding lies within the value's room.
-constexpr std::size_t kRoom = kLongestPlainKey + kQuotesAndColon + kValueRoom;
 
 // The value of a scalar where there may be little room for it.
 void WriteScalar(const Table& table, const Node& node, const std::byte* at, WriteCall& call) noexcept {
@@ -54,155 +51,157 @@ void WriteScalar(const Table& table, const Node& node, const std::byte* at, Writ
     }
 }
 
-// Where the pen's owner goes on, once the writer itself has written. It takes the pen by value, so that it need not
-// leave its registers.
-[[gnu::noinline]] Pen Slowly(Pen pen, const Table& table, const Node& node, const std::byte* record,
-                             WriteCall& call) noexcept {
-    pen.Return(call.out);
+// A node by the writer itself, wherever that stands.
+void WriteAny(const Table& table, const Node& node, const std::byte* record, WriteCall& call) noexcept {
     if (IsScalar(node))
         WriteScalar(table, node, record + node.offset, call);
     else
         WriteNode(table, node, record, call);
-    return Pen(call.out);
+}
+
+// The same from a place on that is held in a register.
+[[gnu::noinline]] char* PutSlowly(const Table& table, const Node& node, const std::byte* record, WriteCall& call,
+                                  char* at, std::size_t first) noexcept {
+    const Hand hand(call.out);
+    hand.Give(at, first, "{ ");
+    WriteAny(table, node, record, call);
+    return hand.Take();
 }
 
 } // namespace
 
-void WriteNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call) noexcept {
+char* PutNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call, char* at,
+               std::size_t first) noexcept {
+    const Hand hand(call.out);
+    const char* limit = hand.LimitFor(kMemberRoom);
     const Node* node = table.nodes + range.first;
     const Node* const end = node + range.count;
-    for (; node != end && !call.object->opened; ++node) {
-        if (IsLetOut(*node, record)) Slowly(Pen(call.out), table, *node, record, call);
-    }
-    Pen pen(call.out);
+    const auto putSlowly = [&] {
+        at = PutSlowly(table, *node, record, call, at, first);
+        limit = hand.LimitFor(kMemberRoom);
+    };
+    // An object inside this one.
+    const auto putObject = [&](const Table& inner, NodeRange nodes, const std::byte* innerRecord, bool staysNull) {
+        char* const inside = PutKey(at, table, *node);
+        const std::size_t opened = hand.OffsetOf(inside);
+        char* const close = PutNodes(inner, nodes, innerRecord, call, inside, opened);
+        limit = hand.LimitFor(kMemberRoom);
+        char* const bracket = hand.PlaceOf(opened);
+        if (close != bracket) {
+            std::memcpy(bracket, "{ ", 2);
+            at = hand.Close(close, " }");
+        } else if (staysNull) {
+            at = Pen::PutNull(bracket);
+        } else {
+            at = bracket - (node->keySize + kQuotesAndColon + Hand::kSeparator);
+        }
+    };
     for (; node != end; ++node) {
         if (!IsLetOut(*node, record)) continue;
-        const std::byte* const at = record + node->offset;
-        if (!pen.has(kRoom)) [[unlikely]] {
-            pen = Slowly(pen, table, *node, record, call);
+        const std::byte* const value = record + node->offset;
+        if (at >= limit) [[unlikely]] {
+            putSlowly();
             continue;
         }
-        const auto putKey = [&] { pen.PaddedKey(table.keyTexts + node->quotedAt, node->keySize + kQuotesAndColon); };
-        const auto putNull = [&] {
-            putKey();
-            pen.Value([](char* to) { return Pen::PutNull(to); });
-        };
-        // The writer goes on, and then the pen again.
-        const auto byWriter = [&](auto write) {
-            pen.Return(call.out);
-            write();
-            pen = Pen(call.out);
-        };
-        const auto putObject = [&](const Table& inner, NodeRange nodes, const std::byte* innerRecord, bool staysNull) {
-            const Pen before = pen;
-            putKey();
-            pen.BeginObject();
-            const Pen inside = pen;
-            byWriter([&] { WriteNodes(inner, nodes, innerRecord, call); });
-            if (!pen.isAt(inside)) {
-                if (pen.has(2)) [[likely]]
-                    pen.EndObject();
-                else
-                    byWriter([&] { call.out.EndObject(); });
-                return;
-            }
-            pen = before;
-            if (staysNull) putNull();
-        };
         switch (node->way) {
         case Way::Switch:
-            putKey();
-            pen.Value([=](char* to) { return Pen::PutBool(to, Load<std::int32_t>(at) != 0); });
+            at = Pen::PutBool(PutKey(at, table, *node), Load<std::int32_t>(value) != 0);
             break;
         case Way::SwitchAtOne:
-            putKey();
-            pen.Value([=](char* to) { return Pen::PutBool(to, Load<std::int32_t>(at) == 1); });
+            at = Pen::PutBool(PutKey(at, table, *node), Load<std::int32_t>(value) == 1);
             break;
         case Way::NumberUnless:
-            if (Load<std::int32_t>(at) == table.rows[node->row].unless) break;
+            if (Load<std::int32_t>(value) == table.rows[node->row].unless) break;
             [[fallthrough]];
         case Way::Number:
-            putKey();
-            pen.Value([=](char* to) { return json::PutDigits(to, Load<std::int32_t>(at)); });
+            at = json::PutDigits(PutKey(at, table, *node), Load<std::int32_t>(value));
             break;
         case Way::Integer:
-            putKey();
-            pen.Value([=](char* to) { return PutInteger(to, *node, at); });
+            at = PutInteger(PutKey(at, table, *node), *node, value);
             break;
         case Way::Fraction:
-            putKey();
-            pen.Value([=](char* to) { return json::PutReal(to, LoadFraction(*node, at)); });
+            at = json::PutReal(PutKey(at, table, *node), LoadFraction(*node, value));
             break;
         case Way::Local:
-        case Way::Raw: {
-            const Pen before = pen;
-            if (pen.has(kRoom + json::TextRoom(node->elementSize))) [[likely]] {
-                putKey();
-                if (pen.TryValue([&](char* to) { return PutText(to, *node, at, call); })) break;
+        case Way::Raw:
+            if (static_cast<std::size_t>(limit - at) > json::TextRoom(node->elementSize)) [[likely]] {
+                if (char* const next = PutText(PutKey(at, table, *node), *node, value, call)) [[likely]] {
+                    at = next;
+                    break;
+                }
             }
-            pen = Slowly(before, table, *node, record, call);
+            putSlowly();
             break;
-        }
-        case Way::Named: {
-            const Pen before = pen;
-            putKey();
-            if (!pen.TryValue([&](char* to) { return PutNamed(to, table.namesOf(*node), CodeAt(*node, at)); }))
-                pen = Slowly(before, table, *node, record, call);
+        case Way::Named:
+            if (char* const next =
+                    PutNamed(PutKey(at, table, *node), table.namesOf(*node), CodeAt(*node, value))) [[likely]]
+                at = next;
+            else
+                putSlowly();
             break;
-        }
         case Way::Mask:
             // Most have a channel among the first.
-            if ((node->staysNull || node->unlessBare) && Load<std::uint32_t>(at) == 0
-                && IsZero(at, node->elementSize)) {
-                if (node->staysNull) putNull();
+            if ((node->staysNull || node->unlessBare) && Load<std::uint32_t>(value) == 0
+                && IsZero(value, node->elementSize)) {
+                if (node->staysNull) at = Pen::PutNull(PutKey(at, table, *node));
                 break;
             }
-            putKey();
-            byWriter([&] { WriteMask(at, node->elementSize, call.out); });
+            if (static_cast<std::size_t>(limit - at) > MaskRoom(node->elementSize)) [[likely]]
+                at = PutMask(PutKey(at, table, *node), value, node->elementSize);
+            else
+                putSlowly();
             break;
         case Way::Numbers: {
             const Table& inner = table.tableOf(*node);
-            putKey();
-            if (pen.has(NumbersRoom(inner))) [[likely]]
-                pen.Value([&](char* to) { return PutNumbers(to, inner, at); });
+            if (static_cast<std::size_t>(limit - at) > NumbersRoom(inner)) [[likely]]
+                at = PutNumbers(PutKey(at, table, *node), inner, value);
             else
-                byWriter([&] { WriteTuple(inner, at, call); });
+                putSlowly();
             break;
         }
         case Way::Tuple:
-            putKey();
-            byWriter([&] { WriteTuple(table.tableOf(*node), at, call); });
+            if (char* const next = PutTuple(table.tableOf(*node), value, call, PutKey(at, table, *node))) [[likely]]
+                at = next;
+            else
+                putSlowly();
             break;
         case Way::Object: {
             const Table& inner = table.tableOf(*node);
-            putObject(inner, inner.members, at, !node->unlessBare);
+            putObject(inner, inner.members, value, !node->unlessBare);
             break;
         }
-        case Way::Inner:
-            pen = Slowly(pen, table, *node, record, call);
-            break;
         case Way::Element:
-            putKey();
-            byWriter([&] { WriteElement(table.rows[node->row], at, call); });
+            hand.GiveForValue(PutKey(at, table, *node));
+            WriteElement(table.rows[node->row], value, call);
+            at = hand.Take();
+            limit = hand.LimitFor(kMemberRoom);
             break;
         case Way::Function: {
             const Field& field = table.rows[node->row];
             if (field.custom->write == nullptr) break;
             call.quotedKey = table.quotedKeyOf(*node);
-            byWriter([&] { field.custom->write(field, record, call); });
+            hand.Give(at, first, "{ ");
+            field.custom->write(field, record, call);
+            at = hand.Take();
+            limit = hand.LimitFor(kMemberRoom);
             break;
         }
         case Way::List:
-            call.quotedKey = table.quotedKeyOf(*node);
-            byWriter([&] { WriteList(table.rows[node->row], record, call); });
+            if (char* const next = PutList(table, *node, record, call, at)) [[likely]] {
+                at = next;
+                limit = hand.LimitFor(kMemberRoom);
+            } else {
+                putSlowly();
+            }
             break;
         case Way::Row:
-            if (node->childCount > 0) {
+            if (node->childCount > 0)
                 putObject(table, {node->firstChild, node->childCount}, record, node->staysNull);
-                break;
-            }
-            call.quotedKey = table.quotedKeyOf(*node);
-            byWriter([&] { WriteField(table.rows[node->row], record, call); });
+            else
+                putSlowly();
+            break;
+        case Way::Inner:
+            putSlowly();
             break;
         case Way::Nothing:
             break;
@@ -211,7 +210,25 @@ void WriteNodes(const Table& table, NodeRange range, const std::byte* record, Wr
             __builtin_unreachable();
         }
     }
-    pen.Return(call.out);
+    return at;
+}
+
+void WriteNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call) noexcept {
+    const Hand hand(call.out);
+    const std::uint16_t end = range.first + range.count;
+    for (; range.first != end; ++range.first) {
+        if (call.object->opened && hand.HasBehind(kMemberRoom)) break;
+        const Node& node = table.nodes[range.first];
+        if (IsLetOut(node, record)) WriteAny(table, node, record, call);
+    }
+    range.count = end - range.first;
+    if (range.count == 0) return;
+    const bool isFirst = hand.isFirst();
+    char* const start = hand.Take();
+    const std::size_t first = isFirst ? hand.OffsetOf(start) : Hand::kNotFirst;
+    char* const at = PutNodes(table, range, record, call, start, first);
+    if (isFirst) std::memcpy(hand.PlaceOf(first), "{ ", 2);
+    hand.Give(at, first, "{ ");
 }
 
 void WriteRecords(const Table& table, const std::byte* first, std::uint32_t count, std::uint32_t stride,
