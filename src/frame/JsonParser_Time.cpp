@@ -179,8 +179,8 @@ struct SectionBytes {
     }
 };
 
-// The text of a section in quotes, held in registers: what was just stored in pieces cannot be loaded at once before all
-// of it has reached the cache, and the section before often comes again.
+// The text of a section in quotes with `, ` in front of it, held in registers: what was just stored in pieces cannot be
+// loaded at once before all of it has reached the cache, and the section before often comes again.
 class SectionText {
   public:
     // The counterpart of ReadUsualSection: a week has 42 of them or 70. False when a field has more digits than usual.
@@ -204,10 +204,10 @@ class SectionText {
         const auto begin = static_cast<std::uint64_t>(_mm_cvtsi128_si64(clocks));
         const auto end = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(clocks, clocks)));
         // The mask has no tens.
-        constexpr std::uint32_t kFirst = 0x203022; // `"0 `
-        const std::uint32_t first = kFirst + (static_cast<std::uint32_t>(_mm_cvtsi128_si32(pairs)) & 0xFFFF);
-        first_ = first | begin << 24;
-        second_ = begin >> 40 | std::uint64_t{'-'} << 24 | end << 32;
+        constexpr std::uint64_t kFirst = 0x203022202C; // `, "0 `
+        const auto mask = static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_cvtsi128_si32(pairs)) & 0xFFFF);
+        first_ = (kFirst + (mask << 16)) | begin << 40;
+        second_ = begin >> 24 | std::uint64_t{'-'} << 40 | end << 48;
         last_ = end >> 8 | std::uint64_t{'"'} << 56;
 #else
         std::uint32_t fields[kSectionFields + 1]; // the second of the first clock twice
@@ -217,10 +217,10 @@ class SectionText {
         for (int i = 0; i < kSectionFields; ++i)
             outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
         if (outside >> 31 != 0) return false;
-        std::memcpy(text_, "\"0 00:00:00-00:00:00\"", kSectionText);
-        text_[1] = static_cast<char>('0' + fields[0]);
+        std::memcpy(text_, ", \"0 00:00:00-00:00:00\"", kSectionStep);
+        text_[3] = static_cast<char>('0' + fields[0]);
         for (int i = 1; i < kSectionFields; ++i)
-            json::PutPair(text_ + 3 * i, fields[i]);
+            json::PutPair(text_ + 2 + 3 * i, fields[i]);
 #endif
         return true;
     }
@@ -228,53 +228,41 @@ class SectionText {
 #if ORRERY_SSE2
         std::memcpy(to, &first_, 8);
         std::memcpy(to + 8, &second_, 8);
-        std::memcpy(to + kSectionText - 8, &last_, 8);
+        std::memcpy(to + kSectionStep - 8, &last_, 8);
 #else
-        std::memcpy(to, text_, kSectionText);
+        std::memcpy(to, text_, kSectionStep);
 #endif
-        return to + kSectionText;
+        return to + kSectionStep;
     }
 
   private:
 #if ORRERY_SSE2
-    std::uint64_t first_ = 0, second_ = 0, last_ = 0; // eight letters each, the first lowest; three stand in two
+    std::uint64_t first_ = 0, second_ = 0, last_ = 0; // eight letters each, the first lowest; one stands in two
 #else
-    char text_[kSectionText];
+    char text_[kSectionStep];
 #endif
 };
 
-// As many of the sections as are usual and find room; answers how many.
-int PutUsualSections(json::Pen& place, const CFG_TIME_SECTION* sections, int count) noexcept {
-    json::Pen pen = place; // in registers
-    if (count <= 0) return 0;
-    if (const auto wanted = static_cast<std::size_t>(count); pen.room() < wanted * kSectionStep) [[unlikely]]
-        count = static_cast<int>(pen.room() / kSectionStep);
-    SectionBytes before(sections);
-    SectionText text;
-    int written = 0;
-    for (; written < count; ++written) {
-        const SectionBytes bytes(sections + written);
-        if (written == 0 || !(bytes == before)) {
-            before = bytes;
-            if (!text.Set(bytes)) break;
-        }
-        pen.Element([&](char* to) { return text.Put(to); });
-    }
-    place = pen;
-    return written;
+// A day of usual sections, which finds DayRoom; null when it is none.
+constexpr std::size_t DayRoom(int sections) {
+    return static_cast<std::size_t>(sections) * kSectionStep + 2;
 }
-
-// A day of usual sections; false, with the pen where it was, when it is none or finds no room.
-bool PutUsualDay(json::Pen& pen, const CFG_TIME_SECTION* day, int sections) noexcept {
-    if (sections < 1 || !pen.has(4)) return false;
-    const json::Pen before = pen;
-    pen.BeginArray();
-    if (PutUsualSections(pen, day, sections) == sections && pen.has(2)) {
-        pen.EndArray();
-        return true;
+[[gnu::always_inline]] inline char* PutUsualDay(char* to, const CFG_TIME_SECTION* day, int sections) noexcept {
+    SectionBytes before(day);
+    SectionText text;
+    if (!text.Set(before)) return nullptr;
+    char* next = text.Put(to);
+    for (int i = 1; i < sections; ++i) {
+        const SectionBytes bytes(day + i);
+        if (!(bytes == before)) {
+            before = bytes;
+            if (!text.Set(bytes)) return nullptr;
+        }
+        next = text.Put(next);
     }
-    pen = before;
-    return false;
+    std::memcpy(to, "[ ", 2);
+    std::memcpy(next, " ]", 2);
+    return next + 2;
 }
 
 // The least of a caller's bound and what the document has; the bound is at least 1 here.
@@ -299,8 +287,14 @@ std::size_t JsonParser::GetUsualSections(std::span<const json::Value> values, CF
 
 void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
     if (section != nullptr) {
+        SectionText text;
         json::Pen pen(out);
-        if (PutUsualSections(pen, section, 1) == 1) return pen.Return(out);
+        if (pen.has(kSectionText) && text.Set(SectionBytes(section))) {
+            char whole[kSectionStep];
+            text.Put(whole);
+            pen.Element([&whole](char* to) { return json::CopyShort(to, whole + 2, kSectionText); });
+            return pen.Return(out);
+        }
     }
     WriteFields(out, section, kSectionFields, kSectionSeparators, kSectionWidths);
 }
@@ -344,7 +338,7 @@ void JsonParser::SetTimeDays(json::TextWriter& out, const CFG_TIME_SECTION* days
             continue;
         }
         const json::Pen before = pen;
-        if (PutUsualDay(pen, days, columns)) {
+        if (pen.has(DayRoom(columns)) && pen.TryElement([=](char* to) { return PutUsualDay(to, days, columns); })) {
             length = pen.LengthOfElementSince(before);
             continue;
         }
@@ -392,7 +386,7 @@ bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* 
 bool JsonParser::SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
     if (sections == nullptr || count < 1) return false;
     json::Pen pen(out);
-    if (PutUsualDay(pen, sections, count)) {
+    if (pen.has(DayRoom(count)) && pen.TryElement([=](char* to) { return PutUsualDay(to, sections, count); })) {
         pen.Return(out);
         return true;
     }

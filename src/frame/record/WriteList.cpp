@@ -57,12 +57,6 @@ bool IsPlainNumber(const Field& field) noexcept {
     return field.writtenAs == Kind::Int && field.cell == Cell::I32 && field.atMost == Field::kNoLimit;
 }
 
-// Texts and names of which each has its place.
-bool AreWords(const Field& field) noexcept {
-    if (field.writtenAs == Kind::Names) return field.atMost == Field::kNoLimit && field.skipped == Skipped::StaysNull;
-    return field.writtenAs == Kind::Text || field.writtenAs == Kind::RawText;
-}
-
 // An array of 32-bit numbers. Channels above all: the longest lists there are.
 void WriteNumbers(const std::byte* at, std::uint32_t count, std::uint32_t stride, json::TextWriter& out) noexcept {
     out.BeginArray();
@@ -113,9 +107,12 @@ std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& 
         const std::string_view utf8 = ToUtf8(name, room, text);
         entries[count++] = {isKept ? utf8 : Copied(utf8, text.arena()), i};
     }
-    std::sort(entries, entries + count, [](const NamedRecord& left, const NamedRecord& right) {
-        return left.name != right.name ? left.name < right.name : left.index < right.index;
-    });
+    const auto isBefore = [](const NamedRecord& left, const NamedRecord& right) {
+        const int order = left.name.compare(right.name);
+        return order != 0 ? order < 0 : left.index < right.index;
+    };
+    // Records that came from a text as a rule stand as they did there.
+    if (!std::is_sorted(entries, entries + count, isBefore)) std::sort(entries, entries + count, isBefore);
     std::uint32_t unique = 0;
     for (std::uint32_t i = 0; i < count; ++i) {
         if (i + 1 == count || entries[i].name != entries[i + 1].name) entries[unique++] = entries[i];
@@ -126,12 +123,15 @@ std::span<const NamedRecord> SortedByName(const Table& table, const RecordList& 
 char* PutList(const Table& table, const Node& node, const std::byte* record, WriteCall& call, char* at) noexcept {
     const Field& field = table.rows[node.row];
     const bool isPointer = field.cell == Cell::Pointer;
-    if (field.keyed || field.rank != (isPointer ? 0 : 1)) return nullptr;
-    const bool areRecords = field.writtenAs == Kind::Record;
-    const bool areNumbers = IsPlainNumber(field);
-    if (areRecords ? !field.table->isAlwaysWritten() : !areNumbers && (isPointer || !AreWords(field))) return nullptr;
+    if (field.keyed || field.skipped != Skipped::StaysNull || field.rank != (isPointer ? 0 : 1)) return nullptr;
     const Elements elements = ElementsOf(field, record);
-    if (elements.count == 0) return field.empty == Empty::NoKey ? at : nullptr;
+    if (elements.count == 0) {
+        if (field.empty == Empty::NoKey) return at;
+        char* const to = PutKey(at, table, node);
+        if (field.empty == Empty::Null) return json::Pen::PutNull(to);
+        std::memcpy(to, "[  ]", 4);
+        return to + 4;
+    }
 
     const json::Hand hand(call.out);
     const char* limit = hand.LimitFor(kMemberRoom);
@@ -140,47 +140,62 @@ char* PutList(const Table& table, const Node& node, const std::byte* record, Wri
     std::uint32_t left = elements.count;
     char* to = PutKey(at, table, node);
     const std::size_t opened = hand.OffsetOf(to);
-    if (areNumbers) {
-        for (; left > 0 && to < limit; --left, element += stride)
-            to = json::PutDigits(json::Hand::Separate(to), Load<std::int32_t>(element));
-    } else if (!areRecords) {
-        const TextWay way(field.writtenAs == Kind::Text, call.parser.text());
-        const bool areNames = field.writtenAs == Kind::Names;
+    // `put` answers the end of an element, or null for one that the writer has to write.
+    const auto putEach = [&](auto put) {
         for (; left > 0 && to < limit; --left, element += stride) {
-            char* const word = json::Hand::Separate(to);
-            char* next = nullptr;
-            if (areNames)
-                next = PutNamed(word, *field.names, static_cast<std::int32_t>(LoadInteger(field.cell, element)));
-            else if (way.copies && hand.Has(word, json::TextRoom(field.elementSize)))
-                next = json::PutText(word, reinterpret_cast<const char*>(element), field.elementSize, way.asciiOnly);
+            char* const next = put(json::Hand::Separate(to));
             if (next == nullptr) break;
             to = next;
         }
-    } else if (const Table& inner = *field.table; inner.isPlainObject()) {
-        for (; left > 0 && to < limit; --left, element += stride) {
-            char* const inside = json::Hand::Separate(to);
-            const std::size_t first = hand.OffsetOf(inside);
-            char* const end = PutNodes(inner, inner.members, element, call, inside, first);
-            to = hand.PlaceOf(first);
-            if (end == to) {
-                to = json::Pen::PutNull(to);
-            } else {
-                std::memcpy(to, "{ ", 2);
-                to = hand.Close(end, " }");
-            }
-            limit = hand.LimitFor(kMemberRoom);
+    };
+    switch (field.writtenAs) {
+    case Kind::Int:
+        if (IsPlainNumber(field))
+            putEach([&](char* value) { return json::PutDigits(value, Load<std::int32_t>(element)); });
+        break;
+    case Kind::UInt:
+        if (field.cell < Cell::F32)
+            putEach([&](char* value) {
+                const auto number = std::min(LoadInteger(field.cell, element), field.atMost);
+                return json::PutDigits(value, static_cast<std::uint32_t>(number));
+            });
+        break;
+    case Kind::Names:
+        if (field.atMost != Field::kNoLimit) break;
+        putEach([&](char* value) {
+            return PutNamed(value, *field.names, static_cast<std::int32_t>(LoadInteger(field.cell, element)));
+        });
+        break;
+    case Kind::Text:
+    case Kind::RawText:
+        if (const TextWay way(field.writtenAs == Kind::Text, call.parser.text()); way.copies && !isPointer) {
+            putEach([&](char* value) -> char* {
+                if (!hand.Has(value, json::TextRoom(field.elementSize))) return nullptr;
+                return json::PutText(value, reinterpret_cast<const char*>(element), field.elementSize, way.asciiOnly);
+            });
         }
-    } else if (inner.shape != Shape::Object) {
-        for (; left > 0 && to < limit; --left, element += stride) {
-            char* const value = json::Hand::Separate(to);
-            char* next = nullptr;
-            if (!inner.isNumbers)
-                next = PutTuple(inner, element, call, value);
-            else if (hand.Has(value, NumbersRoom(inner)))
-                next = PutNumbers(value, inner, element);
-            if (next == nullptr) break;
-            to = next;
+        break;
+    case Kind::Record:
+        if (const Table& inner = *field.table; inner.isPlainObject()) {
+            putEach([&](char* value) {
+                const std::size_t first = hand.OffsetOf(value);
+                char* const end = PutNodes(inner, inner.members, element, call, value, first);
+                limit = hand.LimitFor(kMemberRoom);
+                char* const bracket = hand.PlaceOf(first);
+                if (end == bracket) return json::Pen::PutNull(bracket);
+                std::memcpy(bracket, "{ ", 2);
+                return hand.Close(end, " }");
+            });
+        } else if (inner.shape != Shape::Object) {
+            putEach([&](char* value) -> char* {
+                if (!IsWritten(inner, element)) return json::Pen::PutNull(value);
+                if (!inner.isNumbers) return PutTuple(inner, element, call, value);
+                return hand.Has(value, NumbersRoom(inner)) ? PutNumbers(value, inner, element) : nullptr;
+            });
         }
+        break;
+    default:
+        break;
     }
     if (left > 0) {
         hand.Give(to, opened, "[ ");
