@@ -3,6 +3,7 @@
 #include "frame/json/Pen.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace orrery {
 
@@ -33,22 +34,31 @@ void WriteClosedCorners(const Field& field, const std::byte* record, WriteCall& 
     if (count <= 0) return;
     call.Key();
     call.out.BeginArray();
+    for (std::int64_t i = 0; i < count; ++i)
+        WriteRecord(kCorner, record + field.offset + i * std::int64_t{sizeof(CFG_POLYGON)}, call);
+    call.out.EndArray();
+}
+
+constexpr std::size_t kCornersRoom = ORRERY_RULE_POINTS * (json::Hand::kSeparator + json::Pen::kPairRoom) + 4;
+char* PutClosedCorners(const Field& field, const std::byte* record, char* to) {
+    const std::int64_t count = std::min<std::int64_t>(LoadSlot(field.count, record), ORRERY_RULE_POINTS);
+    if (count <= 0) return nullptr;
     const std::byte* corner = record + field.offset;
     const std::byte* const end = corner + static_cast<std::size_t>(count) * sizeof(CFG_POLYGON);
-    json::Pen pen(call.out);
-    for (; corner != end && pen.has(json::Pen::kPairRoom); corner += sizeof(CFG_POLYGON)) {
+    char* next = to;
+    for (; corner != end; corner += sizeof(CFG_POLYGON)) {
         const auto x = MEMBER(corner, CFG_POLYGON, nX), y = MEMBER(corner, CFG_POLYGON, nY);
-        pen.Element([=](char* to) { return json::Pen::PutPair(to, x, y); });
+        next = json::Pen::PutPair(json::Hand::Separate(next), x, y);
     }
-    pen.Return(call.out);
-    for (; corner != end; corner += sizeof(CFG_POLYGON))
-        WriteRecord(kCorner, corner, call);
-    call.out.EndArray();
+    std::memcpy(to, "[ ", 2);
+    std::memcpy(next, " ]", 2);
+    return next + 2;
 }
 
 } // namespace
 
-constexpr CustomCodec kClosedCorners{ReadClosedCorners, WriteClosedCorners, "[[1,2],[3,4]]"};
+constexpr CustomCodec kClosedCorners{ReadClosedCorners, WriteClosedCorners, "[[1,2],[3,4]]", PutClosedCorners,
+                                     kCornersRoom};
 
 // ---- Types of areas ----
 

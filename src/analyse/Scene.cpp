@@ -1,6 +1,6 @@
 #include "analyse/Scene.h"
 
-#include "frame/json/Digits.h"
+#include "frame/json/Pen.h"
 
 #include <algorithm>
 #include <array>
@@ -34,6 +34,19 @@ void WriteClockTimes(const Field& field, const std::byte* record, WriteCall& cal
         JsonParser::SetClockTime(call.out, &time);
     }
     call.out.EndArray();
+}
+
+constexpr std::size_t kMostClocks = 4;
+char* PutClockTimes(const Field& field, const std::byte* record, char* to) {
+    if (field.dims[0] > kMostClocks) return nullptr;
+    char* next = to;
+    for (std::size_t i = 0; i < field.dims[0]; ++i) {
+        next = JsonParser::PutClockTime(json::Hand::Separate(next), record + field.offset + i * sizeof(CFG_CLOCK_TIME));
+        if (next == nullptr) return nullptr;
+    }
+    std::memcpy(to, "[ ", 2);
+    std::memcpy(next, " ]", 2);
+    return next + 2;
 }
 
 // ---- Details ----
@@ -205,7 +218,8 @@ void WriteNumberedScenes(const Field& field, const std::byte* record, WriteCall&
 
 } // namespace
 
-constexpr CustomCodec kClockTimes{ReadClockTimes, WriteClockTimes, R"(["07:10:20","18:30:40"])"};
+constexpr CustomCodec kClockTimes{ReadClockTimes, WriteClockTimes, R"(["07:10:20","18:30:40"])", PutClockTimes,
+                                  kMostClocks*(json::Hand::kSeparator + JsonParser::kClockText) + 4};
 constexpr CustomCodec kDetailOfScene{nullptr, WriteDetailOfScene};
 constexpr CustomCodec kReadOfType{};
 constexpr CustomCodec kDetailOfGlobal{nullptr, WriteDetailOfGlobal};

@@ -14,22 +14,21 @@ void ReadNumberPair(const Field& field, const json::Value& value, std::byte* rec
 }
 
 void WriteNumberPair(const Field& field, const std::byte* record, WriteCall& call) {
-    call.Key();
     const std::byte* const at = record + field.offset;
-    const std::int32_t first = Load<std::int32_t>(at), second = Load<std::int32_t>(at + 4);
-    json::Pen pen(call.out);
-    if (pen.has(json::Pen::kPairRoom)) [[likely]] {
-        pen.Element([=](char* to) { return json::Pen::PutPair(to, first, second); });
-        return pen.Return(call.out);
-    }
+    call.Key();
     call.out.BeginArray();
-    call.out.Int(first);
-    call.out.Int(second);
+    call.out.Int(Load<std::int32_t>(at));
+    call.out.Int(Load<std::int32_t>(at + 4));
     call.out.EndArray();
+}
+
+char* PutNumberPair(const Field& field, const std::byte* record, char* to) {
+    const std::byte* const at = record + field.offset;
+    return json::Pen::PutPair(to, Load<std::int32_t>(at), Load<std::int32_t>(at + 4));
 }
 
 } // namespace
 
-constexpr CustomCodec kNumberPair{ReadNumberPair, WriteNumberPair, "[1,2]"};
+constexpr CustomCodec kNumberPair{ReadNumberPair, WriteNumberPair, "[1,2]", PutNumberPair, json::Pen::kPairRoom};
 
 } // namespace orrery::sizefilter

@@ -73,6 +73,10 @@ class JsonParser {
     static void SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) noexcept;
     static bool GetClockTime(const json::Value& value, NET_TIME* time) noexcept; // "%02d:%02d:%02d", the date stays
     static void SetClockTime(json::TextWriter& out, const NET_TIME* time) noexcept;
+    // The same of the hour, the minute and the second that stand one behind the other; takes kClockText bytes. Null
+    // when one of them has more than two digits.
+    static constexpr std::size_t kClockText = 10;
+    static char* PutClockTime(char* at, const void* clock) noexcept;
     static bool GetDate(const json::Value& value, NET_TIME* time) noexcept; // "%04d-%02d-%02d", the time stays
     // Seconds since 1970 in UTC; all fields 0 when the record, or the C library's own calendar, cannot hold the year.
     static NET_TIME UtcSecondsToNetTime(std::int64_t seconds) noexcept;

@@ -141,18 +141,6 @@ void WriteFields(json::TextWriter& out, const void* record, int count, const cha
     out.String({text, static_cast<std::size_t>(end - text)});
 }
 
-// "09:30:00" in quotes. Null when a number has more digits.
-constexpr std::size_t kClockText = 10;
-char* PutUsualClock(char* to, const char* clock) noexcept {
-    std::uint32_t fields[3];
-    std::memcpy(fields, clock, sizeof fields);
-    if (fields[0] > 99 || fields[1] > 99 || fields[2] > 99) return nullptr;
-    std::memcpy(to, "\"00:00:00\"", kClockText);
-    for (std::size_t i = 0; i < 3; ++i)
-        json::PutPair(to + 1 + 3 * i, fields[i]);
-    return to + kClockText;
-}
-
 // Of a section in quotes.
 constexpr std::size_t kSectionText = 21;
 constexpr std::size_t kSectionStep = kSectionText + 2; // to the same byte of the section behind it
@@ -426,9 +414,22 @@ void JsonParser::SetClockTime(json::TextWriter& out, const NET_TIME* time) noexc
     if (time == nullptr) return out.Null();
     const char* const clock = reinterpret_cast<const char*>(time) + offsetof(NET_TIME, dwHour);
     json::Pen pen(out);
-    if (pen.has(kClockText) && pen.TryElement([clock](char* to) { return PutUsualClock(to, clock); }))
+    if (pen.has(kClockText) && pen.TryElement([clock](char* to) { return PutClockTime(to, clock); }))
         return pen.Return(out);
     WriteFields(out, clock, 3, kClockSeparators, kClockWidths);
+}
+
+char* JsonParser::PutClockTime(char* at, const void* clock) noexcept {
+    std::uint32_t hour, minute, second;
+    std::memcpy(&hour, clock, 4);
+    std::memcpy(&minute, static_cast<const char*>(clock) + 4, 4);
+    std::memcpy(&second, static_cast<const char*>(clock) + 8, 4);
+    if (hour > 99 || minute > 99 || second > 99) return nullptr;
+    std::memcpy(at, "\"00:00:00\"", kClockText);
+    json::PutPair(at + 1, hour);
+    json::PutPair(at + 4, minute);
+    json::PutPair(at + 7, second);
+    return at + kClockText;
 }
 
 bool JsonParser::GetDate(const json::Value& value, NET_TIME* time) noexcept {

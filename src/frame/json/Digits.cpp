@@ -1,5 +1,7 @@
 #include "frame/json/Digits.h"
 
+#include "frame/json/Scan.h"
+
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -27,6 +29,31 @@ std::uint64_t EightDigits(std::uint32_t number) noexcept {
     const std::uint64_t tens = (pairs * 103 >> 10) & 0x000F000F000F000F;
     return (tens | (pairs - tens * 10) << 8) + 0x3030303030303030;
 }
+// The same of two numbers.
+struct SixteenDigits {
+    std::uint64_t first, last;
+
+    SixteenDigits(std::uint32_t one, std::uint32_t other) noexcept {
+#if ORRERY_SSE2
+        const __m128i numbers = _mm_set_epi32(0, static_cast<int>(other), 0, static_cast<int>(one));
+        const __m128i tenThousandth = _mm_set1_epi32(static_cast<int>(0xD1B71759)); // of 2^45, and a little more
+        const __m128i high = _mm_srli_epi64(_mm_mul_epu32(numbers, tenThousandth), 45);
+        const __m128i low = _mm_sub_epi32(numbers, _mm_mul_epu32(high, _mm_set1_epi32(10000)));
+        const __m128i fours = _mm_or_si128(high, _mm_slli_epi64(low, 32));
+        const __m128i hundreds = _mm_srli_epi16(_mm_mulhi_epu16(fours, _mm_set1_epi16(5243)), 3); // a hundredth of 2^19
+        const __m128i below = _mm_sub_epi16(fours, _mm_mullo_epi16(hundreds, _mm_set1_epi16(100)));
+        const __m128i pairs = _mm_or_si128(hundreds, _mm_slli_epi32(below, 16));
+        const __m128i tens = _mm_mulhi_epu16(pairs, _mm_set1_epi16(6554)); // a tenth of 2^16
+        const __m128i ones = _mm_sub_epi16(pairs, _mm_mullo_epi16(tens, _mm_set1_epi16(10)));
+        const __m128i letters = _mm_add_epi8(_mm_or_si128(tens, _mm_slli_epi16(ones, 8)), _mm_set1_epi8('0'));
+        first = static_cast<std::uint64_t>(_mm_cvtsi128_si64(letters));
+        last = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(letters, letters)));
+#else
+        first = EightDigits(one);
+        last = EightDigits(other);
+#endif
+    }
+};
 char* PutWord(char* at, std::uint64_t letters) noexcept {
     std::memcpy(at, &letters, sizeof letters);
     return at + sizeof letters;
@@ -119,7 +146,10 @@ char* PutOrdinary(char* at, double magnitude) noexcept {
     }
     const auto first = static_cast<std::uint32_t>(digits / kPowers[8]);
     const auto last = static_cast<std::uint32_t>(digits % kPowers[8]);
-    if (kIsLittle && exponent < 7) return LayOutWords(EightDigits(first), EightDigits(last), exponent, at);
+    if (kIsLittle && exponent < 7) {
+        const SixteenDigits words(first, last);
+        return LayOutWords(words.first, words.last, exponent, at);
+    }
     char text[2 * kPrecision];
     PutEight(PutEight(text, first), last);
     std::memset(text + kPrecision, '0', kPrecision);

@@ -152,11 +152,9 @@ class Hand {
     bool Has(const char* at, std::size_t size) const noexcept {
         return size <= static_cast<std::size_t>(out_.end_ - at);
     }
-    // Whoever stands in front of this place has room for more than `size` bytes. It is another one once the writer
-    // itself has written.
-    const char* LimitFor(std::size_t size) const noexcept {
-        return size <= static_cast<std::size_t>(out_.end_ - out_.begin_) ? out_.end_ - size : out_.begin_;
-    }
+    // Whoever stands in front of this place has room for more than `size` bytes, of which the writer had as many once.
+    // It is another place once the writer itself has written.
+    const char* LimitFor(std::size_t size) const noexcept { return out_.end_ - size; }
 
     // Whether nothing stands in the object or the array that the writer is in.
     bool isFirst() const noexcept { return out_.first_; }

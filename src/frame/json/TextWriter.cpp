@@ -11,22 +11,27 @@ namespace orrery::json {
 
 namespace {
 
-// The letter behind the backslash for a byte that must be escaped, 0 for all others.
-constexpr std::array<char, 256> kEscapes = [] {
-    std::array<char, 256> table{};
-    table['"'] = '"';
-    table['\\'] = '\\';
-    table['/'] = '/';
-    table[8] = 'b';
-    table[9] = 't';
-    table[10] = 'n';
-    table[12] = 'f';
-    table[13] = 'r';
+// What stands for a byte that must be escaped: the backslash and its letter. Zeros for all others.
+using Escape = std::array<char, 2>;
+constexpr std::array<Escape, 256> kEscapes = [] {
+    std::array<Escape, 256> table{};
+    const auto set = [&table](unsigned char byte, char letter) { table[byte] = {'\\', letter}; };
+    set('"', '"');
+    set('\\', '\\');
+    set('/', '/');
+    set(8, 'b');
+    set(9, 't');
+    set(10, 'n');
+    set(12, 'f');
+    set(13, 'r');
     return table;
 }();
 
+std::uint16_t EscapeWordOf(char byte) noexcept {
+    return std::bit_cast<std::uint16_t>(kEscapes[static_cast<unsigned char>(byte)]);
+}
 char EscapeOf(char byte) noexcept {
-    return kEscapes[static_cast<unsigned char>(byte)];
+    return kEscapes[static_cast<unsigned char>(byte)][1];
 }
 
 #if ORRERY_SSE2
@@ -86,16 +91,15 @@ struct Quoting {
     // The next byte, escaped if it must be; takes two. False when the text ends there or is not to have it.
     [[gnu::always_inline]] bool PutByte() noexcept {
         const char byte = *p;
-        if (Terminated && byte == '\0') return false;
-        if (AsciiOnly && static_cast<signed char>(byte) < 0) return false;
-        ++p;
-        if (const char letter = EscapeOf(byte)) [[likely]] {
-            at[0] = '\\';
-            at[1] = letter;
+        if (const std::uint16_t escape = EscapeWordOf(byte); escape != 0) [[likely]] {
+            std::memcpy(at, &escape, 2);
             at += 2;
         } else {
+            if (Terminated && byte == '\0') return false;
+            if (AsciiOnly && static_cast<signed char>(byte) < 0) return false;
             *at++ = byte;
         }
+        ++p;
         return true;
     }
     // The end of what is written, once PutByte has answered false.
@@ -154,12 +158,12 @@ char* PutQuoted(char* at, const char* const text, std::size_t capacity) noexcept
             continue;
         }
         for (;;) {
-            const int good = std::countr_zero(stops);
+            const auto good = static_cast<unsigned>(std::countr_zero(stops));
             to.p += good;
             to.at += good;
             if (!to.PutByte()) return to.End();
             // What is left of the block moves up, and where it stops next is known.
-            stops >>= good + 1;
+            stops = stops >> good >> 1;
             if (stops == 0 || end - to.p < 16) break;
             CopyBlock(to.at, to.p);
         }
@@ -171,8 +175,11 @@ char* PutQuoted(char* at, const char* const text, std::size_t capacity) noexcept
 
 } // namespace
 
-char* PutText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept {
-    return asciiOnly ? PutQuoted<true, true>(at, text, capacity) : PutQuoted<true, false>(at, text, capacity);
+char* PutText(char* at, const char* text, std::size_t capacity) noexcept {
+    return PutQuoted<true, false>(at, text, capacity);
+}
+char* PutAscii(char* at, const char* text, std::size_t capacity) noexcept {
+    return PutQuoted<true, true>(at, text, capacity);
 }
 
 void TextWriter::AppendPart(const char* text, std::size_t size) noexcept {

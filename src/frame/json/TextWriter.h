@@ -34,11 +34,15 @@ inline char* CopyShort(char* out, const char* text, std::size_t size) noexcept {
 }
 
 // Writes a string up to its terminator or to its capacity, in quotes and escaped; `at` has room for TextRoom(capacity)
-// bytes. Null when, with `asciiOnly`, something in it is no ASCII; what stands at `at` then is of no use.
+// bytes. PutAscii answers null when something in it is no ASCII; what stands at `at` then is of no use.
 constexpr std::size_t TextRoom(std::size_t capacity) {
     return 2 * capacity + 2;
 }
-char* PutText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept;
+char* PutText(char* at, const char* text, std::size_t capacity) noexcept;
+char* PutAscii(char* at, const char* text, std::size_t capacity) noexcept;
+inline char* PutText(char* at, const char* text, std::size_t capacity, bool asciiOnly) noexcept {
+    return asciiOnly ? PutAscii(at, text, capacity) : PutText(at, text, capacity);
+}
 
 class TextWriter {
   public:

@@ -122,6 +122,10 @@ struct CustomCodec {
     // A JSON value as devices send it that comes back the same when it is written; null when nothing comes back.
     // Whoever fills records from tables alone, tests above all, has nothing else to go by.
     const char* sample = nullptr;
+    // What `write` writes, for values that are short: put at `at`, where it finds `room` bytes and its key stands in
+    // front of it. Null, and nothing of it counts, for what is left to `write`.
+    char* (*put)(const Field& field, const std::byte* record, char* at) = nullptr;
+    std::size_t room = 0;
 };
 
 // The words of a row, by what they speak of: a direction takes the short way past a row that says nothing of it.

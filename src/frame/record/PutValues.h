@@ -14,8 +14,7 @@ inline constexpr std::size_t kNameRoom = kLongestPlainName + 16; // quotes, and 
 inline constexpr std::size_t kValueRoom = std::max({json::kRealRoom, json::Pen::kPadding, kNameRoom});
 // What a key and any value but a text take at the most, with what stands in front of them; a key's padding lies within
 // the value's room.
-inline constexpr std::size_t kMemberRoom =
-    json::Hand::kSeparator + kLongestPlainKey + kQuotesAndColon + kValueRoom;
+inline constexpr std::size_t kMemberRoom = json::Hand::kSeparator + kLongestPlainKey + kQuotesAndColon + kValueRoom;
 static_assert(kKeyTextSlack >= json::Pen::kPadding);
 
 inline char* PutKey(char* at, const Table& table, const Node& node) noexcept {

@@ -52,8 +52,8 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
                std::size_t first) noexcept;
 // The member of a list. Null for one that the writer has to write, with nothing written.
 char* PutList(const Table& table, const Node& node, const std::byte* record, WriteCall& call, char* at) noexcept;
-// A record that stands as an array of values. Null, with nothing written, when one of them finds no room, is converted or
-// is no scalar.
+// A record that stands as an array of values. Null, with nothing written, when one of them finds no room, is converted
+// or is no scalar.
 char* PutTuple(const Table& table, const std::byte* record, const WriteCall& call, char* at) noexcept;
 // The array that a record stands as.
 void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept;

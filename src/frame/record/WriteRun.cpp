@@ -80,6 +80,8 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
         at = PutSlowly(table, *node, record, call, at, first);
         limit = hand.LimitFor(kMemberRoom);
     };
+    // Whether a value finds room for so many bytes behind its key; at a place in front of the limit.
+    const auto has = [&](std::size_t size) { return size < static_cast<std::size_t>(limit - at); };
     // An object inside this one.
     const auto putObject = [&](const Table& inner, NodeRange nodes, const std::byte* innerRecord, bool staysNull) {
         char* const inside = PutKey(at, table, *node);
@@ -123,18 +125,27 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
             at = json::PutReal(PutKey(at, table, *node), LoadFraction(*node, value));
             break;
         case Way::Local:
-        case Way::Raw:
-            if (static_cast<std::size_t>(limit - at) > json::TextRoom(node->elementSize)) [[likely]] {
-                if (char* const next = PutText(PutKey(at, table, *node), *node, value, call)) [[likely]] {
-                    at = next;
-                    break;
+            if (const LocalText& texts = call.parser.text(); !texts.isCopy()) {
+                if (texts.isCopyOfAscii() && has(json::TextRoom(node->elementSize))) {
+                    const auto* const text = reinterpret_cast<const char*>(value);
+                    if (char* const next = json::PutAscii(PutKey(at, table, *node), text, node->elementSize)) {
+                        at = next;
+                        break;
+                    }
                 }
+                putSlowly();
+                break;
             }
-            putSlowly();
+            [[fallthrough]];
+        case Way::Raw:
+            if (has(json::TextRoom(node->elementSize))) [[likely]]
+                at = json::PutText(PutKey(at, table, *node), reinterpret_cast<const char*>(value), node->elementSize);
+            else
+                putSlowly();
             break;
         case Way::Named:
-            if (char* const next =
-                    PutNamed(PutKey(at, table, *node), table.namesOf(*node), CodeAt(*node, value))) [[likely]]
+            if (char* const next = PutNamed(PutKey(at, table, *node), table.namesOf(*node), CodeAt(*node, value)))
+                [[likely]]
                 at = next;
             else
                 putSlowly();
@@ -146,14 +157,14 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
                 if (node->staysNull) at = Pen::PutNull(PutKey(at, table, *node));
                 break;
             }
-            if (static_cast<std::size_t>(limit - at) > MaskRoom(node->elementSize)) [[likely]]
+            if (has(MaskRoom(node->elementSize))) [[likely]]
                 at = PutMask(PutKey(at, table, *node), value, node->elementSize);
             else
                 putSlowly();
             break;
         case Way::Numbers: {
             const Table& inner = table.tableOf(*node);
-            if (static_cast<std::size_t>(limit - at) > NumbersRoom(inner)) [[likely]]
+            if (has(NumbersRoom(inner))) [[likely]]
                 at = PutNumbers(PutKey(at, table, *node), inner, value);
             else
                 putSlowly();
@@ -178,6 +189,12 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
             break;
         case Way::Function: {
             const Field& field = table.rows[node->row];
+            if (field.custom->put != nullptr && has(field.custom->room)) {
+                if (char* const next = field.custom->put(field, record, PutKey(at, table, *node))) {
+                    at = next;
+                    break;
+                }
+            }
             if (field.custom->write == nullptr) break;
             call.quotedKey = table.quotedKeyOf(*node);
             hand.Give(at, first, "{ ");
