@@ -116,14 +116,19 @@ static_assert(kMostNumbered == ORRERY_NUMBERED_SCENES && kMostNumbered == ORRERY
 class NumberedName {
   public:
     NumberedName(std::string_view stem, std::uint32_t number) noexcept {
-        std::memcpy(text_, stem.data(), stem.size());
-        size_ = static_cast<std::size_t>(json::PutDigits(text_ + stem.size(), number) - text_);
+        text_[0] = '"';
+        char* const digits = json::CopyShort(text_ + 1, stem.data(), stem.size());
+        char* const end = json::PutDigits(digits, number);
+        size_ = static_cast<std::size_t>(end - text_) - 1;
+        std::memcpy(end, "\" : ", 4);
     }
-    operator std::string_view() const noexcept { return {text_, size_}; }
+    operator std::string_view() const noexcept { return {text_ + 1, size_}; }
+    // As it stands in front of a value.
+    std::string_view quoted() const noexcept { return {text_, size_ + kQuotesAndColon}; }
 
   private:
     static constexpr std::size_t kLongestStem = 16;
-    char text_[kLongestStem + json::kIntegerRoom];
+    char text_[kLongestStem + json::kIntegerRoom + kQuotesAndColon];
     std::size_t size_;
 };
 
@@ -131,7 +136,7 @@ class NumberedName {
 template <class WriteOne>
 void WriteNumbered(std::string_view stem, std::uint32_t count, WriteCall& call, const WriteOne& writeOne) {
     const auto write = [&](std::uint32_t number) {
-        call.Member(NumberedName(stem, number));
+        call.Quoted(NumberedName(stem, number).quoted());
         writeOne(number - 1);
     };
     for (std::uint32_t first = 1; first < 10 && first <= count; ++first) {

@@ -72,7 +72,7 @@ std::string Write(const record::TypedTable<R>& table, const R& record) {
 // However little room there is: what fits is written, nothing behind it is touched, and the length is told.
 inline void ExpectInEveryRoom(const record::Table& table, const void* record, const std::string& whole) {
     // Behind a long key and a long value there may be this much before the next is put without a look at each byte.
-    constexpr std::size_t kLongest = 300;
+    constexpr std::size_t kLongest = 800;
     for (std::size_t capacity = 0; capacity <= whole.size() + kLongest; ++capacity) {
         const GuardedBuffer room(capacity);
         json::TextWriter out(room.data(), capacity);
@@ -84,6 +84,12 @@ inline void ExpectInEveryRoom(const record::Table& table, const void* record, co
         ASSERT_EQ(out.length(), whole.size()) << capacity << " bytes of room: " << room.view();
         const std::size_t kept = std::min(capacity, whole.size());
         ASSERT_EQ(room.view().substr(0, kept), whole.substr(0, kept)) << capacity << " bytes of room";
+
+        // The same into room that grows when it is used up.
+        json::TextWriter growing(room.data(), capacity, arena, whole.size() + kLongest);
+        record::WriteCall again{parser, growing, nullptr, false, {}};
+        record::WriteRecord(table, static_cast<const std::byte*>(record), again);
+        ASSERT_EQ(std::string_view(growing.text(), growing.length()), whole) << capacity << " bytes of room at first";
     }
 }
 template <class R>

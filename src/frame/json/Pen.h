@@ -1,4 +1,4 @@
-// A text writer's place, held in registers by code that appends much: a whole member goes out with one look at the
+// A text writer's place, held in registers by code that appends much: a whole element goes out with one look at the
 // room, and nothing is stored in the writer between.
 //
 //     Pen pen(out);
@@ -20,28 +20,12 @@ class Pen {
         out.first_ = separator_ == 0;
     }
 
-    // Whether nothing stands in front of the next element.
-    bool isFirst() const noexcept { return separator_ == 0; }
     // Whether there is room for a separator and `size` bytes more.
     bool has(std::size_t size) const noexcept { return size + kSeparator <= static_cast<std::size_t>(end_ - at_); }
 
     // How much room there is.
     std::size_t room() const noexcept { return static_cast<std::size_t>(end_ - at_); }
 
-    // What a padded key may take beyond its own bytes.
-    static constexpr std::size_t kPadding = 32;
-    // A key that is written already, as in `"Enable" : `, with `, ` in front of it and kPadding bytes behind it that
-    // may be read. It takes kPadding more than its length of the room, of which the excess gets overwritten.
-    void PaddedKey(const char* quoted, std::size_t size) noexcept {
-        const char* const from = quoted - separator_;
-        size += separator_;
-        std::memcpy(at_, from, 16);
-        std::memcpy(at_ + 16, from + 16, 16);
-        for (std::size_t i = 32; i < size; i += 16)
-            [[unlikely]] std::memcpy(at_ + i, from + i, 16);
-        at_ += size;
-        separator_ = 0;
-    }
     // An element, or the value of a key: `put` writes it where it gets told and answers its end.
     template <class Put>
     void Element(Put put) noexcept {
@@ -59,11 +43,6 @@ class Pen {
         separator_ = kSeparator;
         return true;
     }
-    // Opens an object or an array, as an element or as the value of a key; ends it. Each needs room for two bytes.
-    void BeginObject() noexcept { Begin("{ "); }
-    void EndObject() noexcept { End(" }"); }
-    void BeginArray() noexcept { Begin("[ "); }
-    void EndArray() noexcept { End(" ]"); }
     // The element before once more, `size` bytes; needs room for them.
     void Again(std::size_t size) noexcept {
         std::memcpy(at_, ", ", kSeparator);
@@ -74,24 +53,6 @@ class Pen {
     std::size_t LengthOfElementSince(const Pen& before) const noexcept {
         return static_cast<std::size_t>(at_ - before.at_) - before.separator_;
     }
-    // Whether nothing was written since `other` stood here.
-    bool isAt(const Pen& other) const noexcept { return at_ == other.at_; }
-    // The value of the key just written.
-    template <class Put>
-    void Value(Put put) noexcept {
-        at_ = put(at_);
-        separator_ = kSeparator;
-    }
-    // The same; nothing is written when `put` answers null.
-    template <class Put>
-    bool TryValue(Put put) noexcept {
-        char* const end = put(at_);
-        if (end == nullptr) return false;
-        at_ = end;
-        separator_ = kSeparator;
-        return true;
-    }
-
     // Takes eight bytes, of which the last get overwritten.
     static char* PutBool(char* at, bool flag) noexcept {
         static constexpr char kWords[2][8] = {"false", "true"};
@@ -116,19 +77,6 @@ class Pen {
     }
 
   private:
-    void Begin(const char* bracket) noexcept {
-        std::memcpy(at_, ", ", kSeparator);
-        at_ += separator_;
-        std::memcpy(at_, bracket, 2);
-        at_ += 2;
-        separator_ = 0;
-    }
-    void End(const char* bracket) noexcept {
-        std::memcpy(at_, bracket, 2);
-        at_ += 2;
-        separator_ = kSeparator;
-    }
-
     static constexpr std::size_t kSeparator = TextWriter::kSeparator;
 
     char* at_;
@@ -169,7 +117,13 @@ class Hand {
         std::memcpy(at, bracket, kSeparator);
         out_.next_ += kSeparator;
     }
-    // The same behind a key.
+    // Takes the place for an element, or for the value of a key; ends it.
+    char* TakeForValue() const noexcept { return out_.first_ ? out_.next_ : Separate(out_.next_); }
+    void GiveBehindValue(char* at) const noexcept {
+        out_.next_ = at;
+        out_.first_ = false;
+    }
+    // Hands the place back behind a key.
     void GiveForValue(char* at) const noexcept {
         out_.next_ = at;
         out_.first_ = true;
@@ -184,8 +138,10 @@ class Hand {
         return out_.next_;
     }
 
-    // A key that is written already, as in `"Enable" : `, with `, ` in front of it and Pen::kPadding bytes behind it
-    // that may be read. `size` is its length without that; it takes as much more room as the padding of a pen's key.
+    // What a key may take beyond its own bytes.
+    static constexpr std::size_t kPadding = 32;
+    // A key that is written already, as in `"Enable" : `, with `, ` in front of it and kPadding bytes behind it that
+    // may be read. `size` is its length without these.
     static char* PutKey(char* at, const char* quoted, std::size_t size) noexcept {
         const char* const from = quoted - kSeparator;
         size += kSeparator;

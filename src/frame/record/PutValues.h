@@ -11,11 +11,11 @@ namespace orrery::record {
 
 inline constexpr std::size_t kNameRoom = kLongestPlainName + 16; // quotes, and what a store goes beyond
 // What any value but a text takes at the most.
-inline constexpr std::size_t kValueRoom = std::max({json::kRealRoom, json::Pen::kPadding, kNameRoom});
+inline constexpr std::size_t kValueRoom = std::max({json::kRealRoom, json::Hand::kPadding, kNameRoom});
 // What a key and any value but a text take at the most, with what stands in front of them; a key's padding lies within
 // the value's room.
 inline constexpr std::size_t kMemberRoom = json::Hand::kSeparator + kLongestPlainKey + kQuotesAndColon + kValueRoom;
-static_assert(kKeyTextSlack >= json::Pen::kPadding);
+static_assert(kKeyTextSlack >= json::Hand::kPadding);
 
 inline char* PutKey(char* at, const Table& table, const Node& node) noexcept {
     return json::Hand::PutKey(at, table.keyTexts + node.quotedAt, node.keySize + kQuotesAndColon);
@@ -94,7 +94,8 @@ inline char* PutText(char* to, const Node& node, const std::byte* at, const Writ
 
 // The numbers of the bits that are set in `size` bytes of 32-bit words.
 constexpr std::size_t MaskRoom(std::size_t size) {
-    return 8 * size * (json::Hand::kSeparator + json::kIntegerRoom) + 4;
+    const std::size_t digits = 8 * size <= 1000 ? 3 : json::kIntegerRoom;
+    return 8 * size * (json::Hand::kSeparator + digits) + 8;
 }
 inline char* PutMask(char* to, const std::byte* at, std::size_t size) noexcept {
     std::memcpy(to, "[ ", 2);

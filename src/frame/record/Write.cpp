@@ -1,5 +1,6 @@
 // Rows, records and the objects that they stand in.
 #include "frame/record/Chosen.h"
+#include "frame/record/PutValues.h"
 #include "frame/record/WriteParts.h"
 
 #include <algorithm>
@@ -192,6 +193,18 @@ void WriteChosen(const Table& table, const std::byte* record, WriteCall& call, R
 void WriteRecord(const Table& table, const std::byte* record, WriteCall& call) noexcept {
     if (table.shape != Shape::Object) return WriteTuple(table, record, call);
     const auto outerKey = call.quotedKey;
+    if (const json::Hand hand(call.out); table.isPlainObject() && hand.HasBehind(kMemberRoom)) [[likely]] {
+        OpenObject* const outer = call.object;
+        OpenObject inner{outer, {}, true};
+        call.object = &inner;
+        char* const at = hand.TakeForValue();
+        const std::size_t place = hand.OffsetOf(at);
+        char* const end = PutObject(table, table.members, record, call, at);
+        hand.GiveBehindValue(end != nullptr ? end : json::Pen::PutNull(hand.PlaceOf(place)));
+        call.object = outer;
+        call.quotedKey = outerKey;
+        return;
+    }
     if (table.self.count == 0) {
         if (!WriteObject({}, call, [&] { WriteFields(table, record, call); })) call.out.Null();
         call.quotedKey = outerKey;

@@ -178,13 +178,10 @@ char* PutList(const Table& table, const Node& node, const std::byte* record, Wri
     case Kind::Record:
         if (const Table& inner = *field.table; inner.isPlainObject()) {
             putEach([&](char* value) {
-                const std::size_t first = hand.OffsetOf(value);
-                char* const end = PutNodes(inner, inner.members, element, call, value, first);
+                const std::size_t place = hand.OffsetOf(value);
+                char* const end = PutObject(inner, inner.members, element, call, value);
                 limit = hand.LimitFor(kMemberRoom);
-                char* const bracket = hand.PlaceOf(first);
-                if (end == bracket) return json::Pen::PutNull(bracket);
-                std::memcpy(bracket, "{ ", 2);
-                return hand.Close(end, " }");
+                return end != nullptr ? end : json::Pen::PutNull(hand.PlaceOf(place));
             });
         } else if (inner.shape != Shape::Object) {
             putEach([&](char* value) -> char* {

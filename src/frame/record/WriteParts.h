@@ -1,6 +1,7 @@
 // What the parts of the writing engine know of each other: rows, runs of rows, lists and single values.
 #pragma once
 
+#include "frame/json/Pen.h"
 #include "frame/record/Engine.h"
 
 namespace orrery::record {
@@ -50,6 +51,17 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
 // that keys go to is open.
 char* PutNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call, char* at,
                std::size_t first) noexcept;
+// The object of such members as a value. Null when there is none, and nothing stands there.
+inline char* PutObject(const Table& table, NodeRange range, const std::byte* record, WriteCall& call,
+                       char* at) noexcept {
+    const json::Hand hand(call.out);
+    const std::size_t first = hand.OffsetOf(at);
+    char* const end = PutNodes(table, range, record, call, at, first);
+    char* const bracket = hand.PlaceOf(first);
+    if (end == bracket) return nullptr;
+    std::memcpy(bracket, "{ ", 2);
+    return hand.Close(end, " }");
+}
 // The member of a list. Null for one that the writer has to write, with nothing written.
 char* PutList(const Table& table, const Node& node, const std::byte* record, WriteCall& call, char* at) noexcept;
 // A record that stands as an array of values. Null, with nothing written, when one of them finds no room, is converted

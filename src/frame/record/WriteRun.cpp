@@ -84,19 +84,11 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
     const auto has = [&](std::size_t size) { return size < static_cast<std::size_t>(limit - at); };
     // An object inside this one.
     const auto putObject = [&](const Table& inner, NodeRange nodes, const std::byte* innerRecord, bool staysNull) {
-        char* const inside = PutKey(at, table, *node);
-        const std::size_t opened = hand.OffsetOf(inside);
-        char* const close = PutNodes(inner, nodes, innerRecord, call, inside, opened);
+        const std::size_t place = hand.OffsetOf(at);
+        char* const next = PutObject(inner, nodes, innerRecord, call, PutKey(at, table, *node));
         limit = hand.LimitFor(kMemberRoom);
-        char* const bracket = hand.PlaceOf(opened);
-        if (close != bracket) {
-            std::memcpy(bracket, "{ ", 2);
-            at = hand.Close(close, " }");
-        } else if (staysNull) {
-            at = Pen::PutNull(bracket);
-        } else {
-            at = bracket - (node->keySize + kQuotesAndColon + Hand::kSeparator);
-        }
+        at = next != nullptr ? next : hand.PlaceOf(place);
+        if (next == nullptr && staysNull) at = Pen::PutNull(PutKey(at, table, *node));
     };
     for (; node != end; ++node) {
         if (!IsLetOut(*node, record)) continue;
@@ -260,23 +252,8 @@ void WriteRecords(const Table& table, const std::byte* first, std::uint32_t coun
     // An element that is an object takes its keys, also where the list itself is what an object yet to be opened holds.
     OpenObject element{call.object, {}, true};
     call.object = &element;
-    const bool areObjects = table.isPlainObject();
-    for (; count > 0; --count, first += stride) {
-        if (!areObjects) {
-            WriteRecord(table, first, call);
-            continue;
-        }
-        const json::TextWriter::Place before = out.place();
-        out.BeginObject();
-        const std::size_t start = out.length();
-        WriteNodes(table, table.members, first, call);
-        if (out.length() != start) {
-            out.EndObject();
-        } else {
-            out.TakeBack(before);
-            out.Null();
-        }
-    }
+    for (; count > 0; --count, first += stride)
+        WriteRecord(table, first, call);
     call.object = element.parent;
 }
 

@@ -4,52 +4,6 @@
 
 namespace orrery::record {
 
-namespace {
-
-using json::Pen;
-
-// Puts the scalars from `node` on as elements of an array, up to the first node that is none or finds no room, is
-// converted or has no text, which it answers.
-const Node* PutElements(Pen& place, const Table& table, const Node* node, const Node* end, const std::byte* record,
-                        const WriteCall& call) noexcept {
-    Pen pen = place; // in registers
-    for (; node != end && pen.has(kValueRoom); ++node) {
-        const std::byte* const at = record + node->offset;
-        switch (node->way) {
-        case Way::Switch:
-        case Way::SwitchAtOne:
-            pen.Element([=](char* to) { return Pen::PutBool(to, LoadSwitch(*node, at)); });
-            continue;
-        case Way::Number:
-            pen.Element([=](char* to) { return json::PutDigits(to, Load<std::int32_t>(at)); });
-            continue;
-        case Way::Integer:
-            pen.Element([=](char* to) { return PutInteger(to, *node, at); });
-            continue;
-        case Way::Fraction:
-            pen.Element([=](char* to) { return json::PutReal(to, LoadFraction(*node, at)); });
-            continue;
-        case Way::Local:
-        case Way::Raw:
-            if (pen.has(json::TextRoom(node->elementSize))
-                && pen.TryElement([&](char* to) { return PutText(to, *node, at, call); }))
-                continue;
-            break;
-        case Way::Named:
-            if (pen.TryElement([&](char* to) { return PutNamed(to, table.namesOf(*node), CodeAt(*node, at)); }))
-                continue;
-            break;
-        default:
-            break;
-        }
-        break;
-    }
-    place = pen;
-    return node;
-}
-
-} // namespace
-
 char* PutTuple(const Table& table, const std::byte* record, const WriteCall& call, char* at) noexcept {
     const json::Hand hand(call.out);
     const char* const limit = hand.LimitFor(kMemberRoom);
@@ -63,7 +17,7 @@ char* PutTuple(const Table& table, const std::byte* record, const WriteCall& cal
         switch (node->way) {
         case Way::Switch:
         case Way::SwitchAtOne:
-            next = Pen::PutBool(to, LoadSwitch(*node, value));
+            next = json::Pen::PutBool(to, LoadSwitch(*node, value));
             break;
         case Way::Number:
             next = json::PutDigits(to, Load<std::int32_t>(value));
@@ -93,31 +47,20 @@ char* PutTuple(const Table& table, const std::byte* record, const WriteCall& cal
 }
 
 void WriteTuple(const Table& table, const std::byte* record, WriteCall& call) noexcept {
-    const Node* node = table.nodes + table.self.first;
-    const Node* const end = node + table.self.count;
-    const auto outerKey = call.quotedKey;
-    Pen pen(call.out);
-    const auto byWriter = [&](auto write) {
-        pen.Return(call.out);
-        write();
-        pen = Pen(call.out);
-    };
-    pen.has(2) ? pen.BeginArray() : byWriter([&] { call.out.BeginArray(); });
-    for (;;) {
-        node = PutElements(pen, table, node, end, record, call);
-        if (node == end) break;
-        byWriter([&] {
-            const Field& field = table.rows[node->row];
-            const std::byte* const at = record + node->offset;
-            if (IsElementWritten(field, at))
-                WriteElement(field, at, call);
-            else
-                call.out.Null();
-        });
-        ++node;
+    if (const json::Hand hand(call.out); hand.HasBehind(kMemberRoom)) {
+        if (char* const end = PutTuple(table, record, call, hand.TakeForValue())) return hand.GiveBehindValue(end);
     }
-    pen.has(2) ? pen.EndArray() : byWriter([&] { call.out.EndArray(); });
-    pen.Return(call.out);
+    const auto outerKey = call.quotedKey;
+    call.out.BeginArray();
+    for (std::uint32_t i = 0; i < table.self.count; ++i) {
+        const Field& field = table.rows[table.nodes[table.self.first + i].row];
+        const std::byte* const at = record + field.offset;
+        if (IsElementWritten(field, at))
+            WriteElement(field, at, call);
+        else
+            call.out.Null();
+    }
+    call.out.EndArray();
     call.quotedKey = outerKey;
 }
 

@@ -12,38 +12,26 @@
 namespace orrery::json {
 namespace {
 
-// Two keys as a table keeps them: a separator in front of each, something to be read behind the last.
-constexpr char kKeys[] = ", \"Enable\" : , \"AKeyOfMoreThanThirtyTwoLettersInAll\" : 01234567890123456789012345678901";
-constexpr std::size_t kLongSize = sizeof("\"AKeyOfMoreThanThirtyTwoLettersInAll\" : ") - 1;
-
-TEST(Pen, WritesMembersAndElementsWhereTheWriterStands) {
+TEST(Pen, WritesElementsWhereTheWriterStands) {
     std::string buffer(256, '?');
     TextWriter out(buffer.data(), buffer.size());
     out.BeginObject();
-    Pen pen(out);
-    EXPECT_TRUE(pen.isFirst());
-    pen.PaddedKey(kKeys + 2, 11);
-    pen.Value([](char* at) { return Pen::PutBool(at, true); });
-    EXPECT_FALSE(pen.isFirst());
-    pen.PaddedKey(kKeys + 2, 11);
-    pen.Value([](char* at) { return Pen::PutBool(at, false); });
-    pen.PaddedKey(kKeys + 15, kLongSize);
-    EXPECT_FALSE(pen.TryValue([](char* at) { return PutText(at, "a\xC3", 3, true); }));
-    EXPECT_TRUE(pen.TryValue([](char* at) { return PutText(at, "a/b", 4, true); }));
-    pen.Return(out);
     out.Key("List");
     out.BeginArray();
-    Pen inner(out);
-    inner.Element([](char* at) { return PutDigits(at, 7); });
-    EXPECT_FALSE(inner.TryElement([](char*) { return static_cast<char*>(nullptr); }));
-    inner.Element([](char* at) { return PutReal(at, 0.5); });
-    inner.Return(out);
+    Pen pen(out);
+    pen.Element([](char* at) { return PutDigits(at, 7); });
+    EXPECT_FALSE(pen.TryElement([](char* at) { return PutText(at, "a\xC3", 3, true); }));
+    EXPECT_TRUE(pen.TryElement([](char* at) { return PutText(at, "a/b", 4, true); }));
+    pen.Element([](char* at) { return PutReal(at, 0.5); });
+    pen.Element([](char* at) { return Pen::PutBool(at, true); });
+    pen.Element([](char* at) { return Pen::PutBool(at, false); });
+    pen.Element([](char* at) { return Pen::PutNull(at); });
+    pen.Return(out);
     out.Int(9);
     out.EndArray();
     out.EndObject();
     EXPECT_EQ(std::string_view(buffer.data(), out.length()),
-              "{ \"Enable\" : true, \"Enable\" : false, \"AKeyOfMoreThanThirtyTwoLettersInAll\" : \"a\\/b\", "
-              "\"List\" : [ 7, 0.5000000000000000, 9 ] }");
+              "{ \"List\" : [ 7, \"a\\/b\", 0.5000000000000000, true, false, null, 9 ] }");
 }
 
 TEST(Pen, HasWhatTheWriterHasLessASeparator) {
@@ -67,26 +55,70 @@ TEST(Pen, PutsPairsOfNumbersInTheirRoom) {
     }
 }
 
-TEST(Pen, OpensAndClosesObjectsAsTheWriterDoes) {
+// Two keys as a table keeps them: a separator in front of each, something to be read behind the last.
+constexpr char kKeys[] = ", \"Enable\" : , \"AKeyOfMoreThanThirtyTwoLettersInAll\" : 01234567890123456789012345678901";
+constexpr std::size_t kLongSize = sizeof("\"AKeyOfMoreThanThirtyTwoLettersInAll\" : ") - 1;
+
+TEST(Hand, PutsMembersUnderABracketThatComesLast) {
+    std::string buffer(256, '?');
+    TextWriter out(buffer.data(), buffer.size());
+    out.BeginObject();
+    const Hand hand(out);
+    EXPECT_TRUE(hand.isFirst());
+    char* at = hand.Take();
+    EXPECT_EQ(at, buffer.data()); // over the bracket
+    const std::size_t first = hand.OffsetOf(at);
+    at = Pen::PutBool(Hand::PutKey(at, kKeys + 2, 11), true);
+    at = Hand::PutKey(at, kKeys + 15, kLongSize);
+    hand.GiveForValue(at);
+    out.Int(5);
+    at = hand.Take();
+    // The writer goes on as a member's, and the hand again.
+    hand.Give(at, first, "{ ");
+    EXPECT_FALSE(hand.isFirst());
+    out.Key("K");
+    out.Null();
+    at = hand.Take();
+    std::memcpy(hand.PlaceOf(first), "{ ", 2);
+    at = hand.Close(at, " }");
+    hand.GiveBehindValue(at);
+    EXPECT_EQ(std::string_view(buffer.data(), out.length()),
+              "{ \"Enable\" : true, \"AKeyOfMoreThanThirtyTwoLettersInAll\" : 5, \"K\" : null }");
+}
+
+TEST(Hand, HandsBackAnObjectThatIsBareAsTheWriterOpenedIt) {
     std::string buffer(64, '?');
     TextWriter out(buffer.data(), buffer.size());
     out.BeginArray();
-    Pen pen(out);
-    pen.Element([](char* at) { return Pen::PutNull(at); });
-    pen.Return(out);
-    out.BeginObject();
-    pen = Pen(out);
-    pen.PaddedKey(kKeys + 2, 11);
-    const Pen start = pen;
-    pen.BeginObject();
-    EXPECT_TRUE(pen.isFirst());
-    EXPECT_FALSE(pen.isAt(start));
-    pen.EndObject();
-    EXPECT_FALSE(pen.isFirst());
-    pen.EndObject();
-    pen.Return(out);
+    out.Null();
+    const Hand hand(out);
+    char* const at = hand.TakeForValue(); // behind a separator of its own
+    const std::size_t first = hand.OffsetOf(at);
+    hand.Give(at, first, "{ ");
+    EXPECT_TRUE(hand.isFirst());
+    EXPECT_EQ(hand.Take(), at);
+    out.Key("K");
+    out.UInt(1);
+    EXPECT_EQ(hand.PlaceOf(first), at);
+    hand.GiveBehindValue(hand.Close(hand.Take(), " }"));
     out.EndArray();
-    EXPECT_EQ(std::string_view(buffer.data(), out.length()), "[ null, { \"Enable\" : {  } } ]");
+    EXPECT_EQ(std::string_view(buffer.data(), out.length()), "[ null, { \"K\" : 1 } ]");
+}
+
+TEST(Hand, ClosesThroughTheWriterWhereThereIsNoRoom) {
+    char room[9];
+    TextWriter out(room, sizeof room);
+    const Hand hand(out);
+    EXPECT_TRUE(hand.HasBehind(9));
+    EXPECT_FALSE(hand.HasBehind(10));
+    EXPECT_EQ(hand.LimitFor(4), room + 5);
+    char* const at = hand.TakeForValue();
+    std::memcpy(at, "[ 1234567", 8);
+    EXPECT_TRUE(hand.Has(at + 8, 1));
+    EXPECT_FALSE(hand.Has(at + 8, 2));
+    EXPECT_EQ(hand.Close(at + 8, " ]"), room + 9); // one byte of two
+    EXPECT_EQ(std::string_view(room, 9), "[ 123456 ");
+    EXPECT_EQ(out.length(), 10u);
 }
 
 // Both ways out of a text: as escapes written one by one, and as the whole-text functions write them.
