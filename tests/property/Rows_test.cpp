@@ -2,6 +2,7 @@
 #include "frame/JsonParser.h"
 #include "frame/record/Engine.h"
 #include "support/CommandCalls.h"
+#include "support/GuardedBuffer.h"
 #include "support/JsonText.h"
 #include "support/Specimens.h"
 #include "support/SweepBudget.h"
@@ -10,7 +11,9 @@
 #include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
+#include <random>
 #include <set>
+#include <span>
 
 namespace orrery {
 namespace {
@@ -132,6 +135,48 @@ void CheckTexts(const Table& table, const std::byte* record, const std::string& 
             }
         }
     }
+}
+
+// A row's function that puts a short value in place writes what the one for any room writes, and no byte more than it
+// asks room for.
+TEST(Rows, ValuesThatArePutInPlaceAreThoseThatAreWritten) {
+    std::mt19937 random(11);
+    std::size_t rows = 0, left = 0;
+    for (const Table* table : AllTables()) {
+        for (const Field& field : *table) {
+            if (field.kind != Kind::Custom || field.custom->put == nullptr) continue;
+            ++rows;
+            ASSERT_NE(field.custom->write, nullptr) << table->record << "." << field.name;
+            const GuardedBuffer room(field.custom->room);
+            std::vector<std::byte> bytes(table->size);
+            for (unsigned round = 0; round < 200; ++round) {
+                for (std::byte& byte : std::span(bytes).subspan(field.offset, field.size)) {
+                    const auto drawn = static_cast<std::byte>(random());
+                    byte = round % 4 == 0 ? drawn : drawn & (random() % 4 == 0 ? std::byte{3} : std::byte{0});
+                }
+                if (field.count.exists()) {
+                    const auto most = static_cast<std::uint32_t>(field.dims[0]) + 2;
+                    record::StoreSlot(field.count, bytes.data(), static_cast<std::int64_t>(random() % most) - 1);
+                }
+                std::string text(8192, '\0');
+                json::TextWriter out(text.data(), text.size());
+                StackArena<4096> arena;
+                LocalText local(arena);
+                JsonParser parser(local);
+                record::OpenObject object;
+                record::WriteCall call{parser, out, &object, false, R"("K" : )"};
+                field.custom->write(field, bytes.data(), call);
+                text.resize(out.length());
+                const char* const end = field.custom->put(field, bytes.data(), room.data());
+                left += end == nullptr;
+                if (end == nullptr) continue;
+                ASSERT_EQ(R"({ "K" : )" + std::string(room.data(), static_cast<std::size_t>(end - room.data())), text)
+                    << table->record << "." << field.name << " " << round;
+            }
+        }
+    }
+    EXPECT_GE(rows, 9u);
+    EXPECT_GT(left, 0u); // no value at all, or numbers of more digits
 }
 
 TEST(Rows, TextsEndInsideTheirFields) {
