@@ -169,10 +169,11 @@ void ReadNumbered(const NumberedArray& array, const Value& global, std::byte* re
     std::int32_t found = room;
     for (std::int32_t i = 0; i < room; ++i) {
         const Value& value = global[NumberedName(array.stem, static_cast<std::uint32_t>(i + 1))];
+        std::byte* const at = first + static_cast<std::size_t>(i) * array.table.size;
         if (value.isNull())
             found = std::min(found, i);
-        else
-            ReadRecord(array.table, value, first + static_cast<std::size_t>(i) * array.table.size, call);
+        else if (call.Keep(at, array.table.size))
+            ReadRecord(array.table, value, at, call);
     }
     Store(record + array.count, found);
 }

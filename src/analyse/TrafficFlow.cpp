@@ -88,6 +88,7 @@ void ReadExtraLanes(const Field& field, const json::Value& value, std::byte* rec
     const std::int64_t behind = static_cast<std::int64_t>(lanes.size()) - ORRERY_FLOW_LANES;
     const auto count = static_cast<std::size_t>(std::clamp<std::int64_t>(behind, 0, room));
     for (std::size_t i = 0; i < count; ++i) {
+        if (!call.Keep(first + i * kLaneSize, kLaneSize)) return;
         std::memset(first + i * kLaneSize, 0, kLaneSize);
         ReadRecord(kFlowLane, lanes[ORRERY_FLOW_LANES + i], first + i * kLaneSize, call);
     }

@@ -30,12 +30,23 @@ class ReplyRecords {
   public:
     ReplyRecords(const record::Table& table, const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride,
                  record::ReadCall& call) noexcept
-        : table_(table), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
+        : table_(table), frame_(frame), first_(static_cast<std::byte*>(request.buffer)), stride_(stride),
           room_(request.bufferSize / stride), clears_(frame.clearing == Clearing::Read),
           isInPlace_(VersionedRecords::AreReadInPlace(table, frame.stride, stride)),
           isVersioned_(frame.stride != Stride::Record && !isInPlace_), versioned_(table, frame.stride, stride),
           call_(call) {
+        staying_.end = stride;
         if (isVersioned_) local_ = call.parser.text().arena().Array<std::byte>(table.size);
+    }
+
+    // Also records that move field by field are read where they stand, if they can be.
+    void ReadFieldsInPlace() noexcept {
+        if (!isVersioned_) return;
+        const auto staying = VersionedRecords::ReadInPlaceByField(table_, frame_.stride, stride_);
+        if (!staying) return;
+        staying_ = *staying;
+        isInPlace_ = true;
+        isVersioned_ = false;
     }
 
     bool isFull() const noexcept { return used_ == room_; }
@@ -86,7 +97,12 @@ class ReplyRecords {
     template <class Read>
     void ReadInPlace(std::byte* at, Read read) noexcept {
         const auto word = record::Load<std::uint32_t>(at);
-        std::memset(at, 0, stride_);
+        std::byte kept[StayingBytes::kMostRuns][StayingBytes::kMostBytes];
+        for (std::uint32_t i = 0; i < staying_.count; ++i)
+            std::memcpy(kept[i], at + staying_.runs[i].at, staying_.runs[i].size);
+        std::memset(at, 0, staying_.end);
+        for (std::uint32_t i = 0; i < staying_.count; ++i)
+            std::memcpy(at + staying_.runs[i].at, kept[i], staying_.runs[i].size);
         read(); // which sets the size words among the defaults
         record::Store(at, word);
     }
@@ -102,6 +118,7 @@ class ReplyRecords {
     }
 
     const record::Table& table_;
+    const ParseFrame& frame_;
     std::byte* first_;
     std::uint32_t stride_;
     std::uint32_t room_;
@@ -110,6 +127,7 @@ class ReplyRecords {
     bool clears_;
     bool isInPlace_;
     bool isVersioned_; // through the local record
+    StayingBytes staying_;
     VersionedRecords versioned_;
     std::byte* local_ = nullptr;
     record::ReadCall& call_;

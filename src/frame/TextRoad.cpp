@@ -17,11 +17,16 @@ namespace {
 // A record that the caller gets back as it was when the road ends is copied first: beyond this size that takes longer
 // than the document of a reply that fills it.
 constexpr std::uint32_t kMostKept = 8 << 10;
+// Of all records of a call, and of what their pointers lead to.
+constexpr std::size_t MostKept(std::size_t textSize) {
+    return (std::size_t{64} << 10) + 16 * textSize;
+}
+// Of each two bytes of text, where texts fill a part of their fields.
+constexpr std::size_t kUsuallyKept = 2;
 
 const char* WhyByDocument(const record::Table& table, bool isCleared) noexcept {
     if (!record::IsInText(table)) return "the table asks for its object as a whole";
     if (table.partsAskRoot) return "a part of the record has keys that start at the document";
-    if (table.hasPointers && !isCleared) return "what the caller's pointers lead to cannot be put back";
     if (table.size > kMostKept && !isCleared) return "the caller's record is too large to keep a copy of";
     return nullptr;
 }
@@ -50,45 +55,43 @@ ValuePath PathOf(const ParseFrame& frame) noexcept {
 
 // ---- The record as it was ------------------------------------------------------------------------------------------
 
-// Puts records back that were read before the road ended.
+// Puts records back that were read before the road ended, and what their pointers lead to. Pointers of records that
+// were cleared lead nowhere.
 class Undo {
   public:
-    Undo(const ParseRequest& request, std::uint32_t stride, bool isCleared, Arena& arena) noexcept
-        : first_(static_cast<std::byte*>(request.buffer)), stride_(stride), isCleared_(isCleared), arena_(arena) {}
+    Undo(const ParseRequest& request, std::uint32_t stride, bool isCleared, ReadCall& call,
+         std::size_t textSize) noexcept
+        : first_(static_cast<std::byte*>(request.buffer)), stride_(stride), isCleared_(isCleared),
+          keeper_(call.parser.text().arena(), MostKept(textSize)) {
+        if (isCleared) return;
+        call.keeper = &keeper_;
+        call.parser.text().arena().Expect(kUsuallyKept * textSize);
+    }
+    Undo(const Undo&) = delete;
+    Undo& operator=(const Undo&) = delete;
 
-    // Before the record at `at`, the next one, is touched. False when there is no memory to keep it.
+    // Before the record at `at`, the next one, is touched. False when it cannot be kept.
     bool Keep(std::byte* at) noexcept {
         const auto end = static_cast<std::size_t>(at - first_) + stride_;
         if (end <= touched_) return true;
-        if (!isCleared_) {
-            auto* const copy = static_cast<std::byte*>(arena_.Allocate(sizeof(Kept) + stride_));
-            if (copy == nullptr) return false;
-            std::memcpy(copy + sizeof(Kept), at, stride_);
-            last_ = new (copy) Kept{last_, at};
-        }
+        if (!isCleared_ && !keeper_.Keep(at, stride_)) return false;
         touched_ = end;
         return true;
     }
     void PutBack() noexcept {
-        if (isCleared_) {
+        if (isCleared_)
             std::memset(first_, 0, touched_);
-            return;
-        }
-        for (const Kept* kept = last_; kept != nullptr; kept = kept->before)
-            std::memcpy(kept->at, kept + 1, stride_);
+        else
+            keeper_.PutBack();
     }
+    // Whether something could not be kept, and the call has to end.
+    bool failed() const noexcept { return keeper_.failed(); }
 
   private:
-    struct Kept {
-        Kept* before;
-        std::byte* at;
-    };
-
     std::byte* const first_;
     const std::uint32_t stride_;
     const bool isCleared_;
-    Arena& arena_;
-    Kept* last_ = nullptr;
+    record::Keeper keeper_;
     std::size_t touched_ = 0;
 };
 
@@ -136,15 +139,17 @@ class FamilyReply {
   public:
     FamilyReply(const record::Table& table, const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride,
                 std::string_view source) noexcept
-        : table_(table), frame_(frame), request_(request), undo_(request, stride, IsCleared(frame), document_.arena),
+        : table_(table), frame_(frame), request_(request),
+          undo_(request, stride, IsCleared(frame), call_, source.size()),
           records_(table, frame, request, stride, call_), text_{call_, source.data() + source.size()}, source_(source) {
+        records_.ReadFieldsInPlace();
     }
 
     std::optional<Outcome> Read() noexcept {
         ReplyWalk walk(source_, PathOf(frame_), document_);
         const bool walked = walk.Run([this](const char* p) { return ReadValue(p); },
                                      [this](std::string_view key) { return AsksRootFor(table_, key); });
-        const bool isGood = walked && !document_.arena.failed() && !call_.overflowed
+        const bool isGood = walked && !document_.arena.failed() && !undo_.failed() && !call_.overflowed
                             && ResultPasses(frame_.result, document_.root["result"])
                             && (frame_.result != ResultTest::Verdict
                                 || ResultPasses(ResultTest::FalseRefuses, document_.root["result"]));
@@ -280,7 +285,7 @@ bool ParseGenericText(const record::Table& table, const GenericFrame& frame, con
     Document document;
     ReadCall call{document.parser, document.root};
     TextCall text{call, source.data() + source.size()};
-    Undo undo(request, table.size, frame.zeroBuffer, document.arena);
+    Undo undo(request, table.size, frame.zeroBuffer, call, source.size());
     auto* next = static_cast<std::byte*>(request.buffer);
     const std::byte* const end = next + request.bufferSize / table.size * std::size_t{table.size};
     const auto readOne = [&](const char* p) -> const char* {
@@ -301,7 +306,8 @@ bool ParseGenericText(const record::Table& table, const GenericFrame& frame, con
             });
         },
         [&](std::string_view key) { return AsksRootFor(table, key); });
-    if (!walked || document.arena.failed() || !ResultPasses(ResultTest::MustBeTrue, document.root["result"])) {
+    if (!walked || document.arena.failed() || undo.failed()
+        || !ResultPasses(ResultTest::MustBeTrue, document.root["result"])) {
         undo.PutBack();
         return false;
     }

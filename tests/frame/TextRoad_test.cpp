@@ -2,11 +2,14 @@
 #include "frame/TextRoad.h"
 
 #include "frame/record/Table.h"
+#include "support/FailingAllocator.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace orrery {
 namespace {
@@ -225,6 +228,268 @@ TEST(TextRoad, RecordsByNameComeInTheOrderOfTheirNames) {
     // One behind the last that there is room for still has its place in the order.
     const Read<Door, 1> full(kDoor, frame, Reply(R"({"B":{"Level":2},"A":{"Level":1}})"));
     EXPECT_STREQ(full.records[0].name, "A");
+}
+
+// Fields of few bytes and of many, with texts of all lengths around those that go a short way.
+struct Labels {
+    char tiny[15];
+    char small[16];
+    char odd[31];
+    char usual[32];
+    char more[33];
+    char large[64];
+    char largest[100];
+    char guard;
+};
+TABLE(kLabels, Labels,
+      {
+          FIELD(tiny, "A", Text),
+          FIELD(small, "B", RawText),
+          FIELD(odd, "C", Text),
+          FIELD(usual, "D", RawText),
+          FIELD(more, "E", Text),
+          FIELD(large, "F", Text),
+          FIELD(largest, "G", RawText),
+          FIELD(guard),
+      });
+
+TEST(TextRoad, PutsTextsOfAnyLengthIntoFieldsOfAnySize) {
+    const std::string letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    std::string all = letters + letters;
+    for (std::size_t size = 0; size <= 110; ++size) {
+        std::string value;
+        for (const char key : std::string("ABCDEFG"))
+            value += (value.empty() ? "{\"" : ", \"") + std::string(1, key) + "\" : \"" + all.substr(0, size) + "\"";
+        const Read<Labels> read(kLabels, kParse.Clears(Clearing::Kept), Reply(value + "}"));
+        EXPECT_TRUE(read.tookText);
+        const auto expect = [&](const char* field, std::size_t capacity) {
+            std::string expected = all.substr(0, std::min(size, capacity - 1));
+            expected.resize(capacity, '\0');
+            EXPECT_EQ(std::string(field, capacity), expected) << size;
+        };
+        expect(read->tiny, sizeof read->tiny);
+        expect(read->small, sizeof read->small);
+        expect(read->odd, sizeof read->odd);
+        expect(read->usual, sizeof read->usual);
+        expect(read->more, sizeof read->more);
+        expect(read->large, sizeof read->large);
+        expect(read->largest, sizeof read->largest);
+        EXPECT_EQ(read->guard, 0x11);
+    }
+}
+
+// ---- What the caller's pointers lead to --------------------------------------------------------------------------
+
+struct Port {
+    std::int32_t number;
+    char label[12];
+};
+TABLE(kPort, Port,
+      {
+          FIELD(number, "Number", Int),
+          FIELD(label, "Label", Text),
+      });
+
+struct Rack {
+    std::uint32_t size;
+    std::int32_t height;
+    char name[16];
+    Port* ports;
+    std::int32_t room;
+    std::int32_t count;
+    std::int32_t tail;
+    char note[8]; // and four bytes that belong to no field
+};
+TABLE(kRack, Rack,
+      {
+          FIELD(size, nullptr, Size),
+          FIELD(height, "Height", Int).Absent(5),
+          FIELD(name, nullptr, MemberName),
+          FIELD(ports, "Ports", Record(kPort)).Capacity(AT(room)).Count(AT(count)),
+          FIELD(room),
+          FIELD(count),
+          FIELD(tail, "Tail", Int),
+          FIELD(note, "Zone", Text),
+      });
+constexpr ParseFrame kRackFrame = kParse.Clears(Clearing::Kept);
+
+// A caller's rack with three ports, of which the call may use two.
+struct Racks {
+    Port ports[3];
+    Rack rack;
+    Outcome outcome;
+    ReadRoad road;
+
+    explicit Racks(const std::string& text, const ParseFrame& frame = kRackFrame, bool documentOnly = false)
+        : road{documentOnly} {
+        std::memset(ports, 0x22, sizeof ports);
+        std::memset(static_cast<void*>(&rack), 0x11, sizeof rack);
+        rack.size = sizeof rack;
+        rack.ports = ports;
+        rack.room = 2;
+        std::uint32_t length = 0;
+        outcome = ParseFamily(kRack, frame, {text.c_str(), &rack, sizeof rack, &length, &road});
+    }
+    bool isUntouched() const {
+        const Racks other("");
+        return std::memcmp(ports, other.ports, sizeof ports) == 0 && rack.height == 0x11111111
+               && rack.count == 0x11111111 && rack.tail == 0x11111111;
+    }
+};
+
+TEST(TextRoad, ReadsWhatPointersLeadTo) {
+    const Racks read(Reply(R"({"Height":2,"Ports":[{"Label":"a","Number":1},{"Number":3},{"Number":4}],"Tail":6})"));
+    EXPECT_EQ(read.outcome, Outcome::Done);
+    EXPECT_TRUE(read.road.tookText);
+    EXPECT_EQ(read.rack.height, 2);
+    EXPECT_EQ(read.rack.count, 2);
+    EXPECT_EQ(read.rack.tail, 6);
+    EXPECT_EQ(read.ports[0].number, 1);
+    EXPECT_STREQ(read.ports[0].label, "a");
+    EXPECT_EQ(read.ports[1].number, 3);
+    EXPECT_EQ(read.ports[1].label[0], 0x22); // what the text does not tell stays
+    EXPECT_EQ(read.ports[2].number, 0x22222222);
+    const Racks null(Reply(R"({"Ports":[null,7]})"));
+    EXPECT_TRUE(null.road.tookText);
+    EXPECT_EQ(null.rack.count, 2);
+    EXPECT_EQ(null.ports[1].number, 0x22222222);
+}
+
+TEST(TextRoad, PutsBackWhatPointersLeadTo) {
+    const std::string ports = R"("Ports":[{"Label":"a","Number":1},{"Label":"b","Number":2}])";
+    for (const std::string& text : {Reply("{" + ports + "},"), Reply("{" + ports + ",\"Tail\":@}"), Reply("{" + ports),
+                                    R"({"params":{"table":{)" + ports + R"(}},"result":false})",
+                                    Reply(R"({"Ports":[{"Label":"a"},{"Number":1x}]})")}) {
+        const Racks failed(text);
+        EXPECT_NE(failed.outcome, Outcome::Done) << text;
+        EXPECT_TRUE(failed.isUntouched()) << text;
+    }
+    // Of a key that comes twice the last stands, and of the first nothing is left.
+    const Racks twice(Reply(R"({"Ports":[{"Label":"a"},{"Label":"b"}],"Ports":[{"Number":5}]})"));
+    EXPECT_FALSE(twice.road.tookText);
+    EXPECT_EQ(twice.rack.count, 1);
+    EXPECT_EQ(twice.ports[0].number, 5);
+    EXPECT_EQ(twice.ports[0].label[0], 0x22);
+    EXPECT_EQ(twice.ports[1].label[0], 0x22);
+    // What comes behind its place in key order is read by way of a document.
+    const Racks mixed(Reply(R"({"Tail":6,"Ports":[{"Label":"a"}],"Height":1})"));
+    EXPECT_FALSE(mixed.road.tookText);
+    EXPECT_EQ(mixed.rack.height, 1);
+    EXPECT_EQ(mixed.rack.tail, 6);
+    EXPECT_STREQ(mixed.ports[0].label, "a");
+}
+
+struct Bay {
+    std::int32_t number;
+    std::byte own[252]; // of the caller's
+};
+TABLE(kBay, Bay,
+      {
+          FIELD(number, "Number", Int),
+          FIELD(own),
+      });
+struct Hall {
+    Bay* bays;
+    std::int32_t room;
+    std::int32_t count;
+};
+TABLE(kHall, Hall,
+      {
+          FIELD(bays, "Bays", Record(kBay)).Capacity(AT(room)).Count(AT(count)),
+          FIELD(room),
+          FIELD(count),
+      });
+
+struct Halls {
+    std::vector<Bay> bays;
+    Hall hall;
+    ReadRoad road;
+
+    explicit Halls(int room) : bays(static_cast<std::size_t>(room)) {
+        std::memset(static_cast<void*>(bays.data()), 0x33, bays.size() * sizeof(Bay));
+        hall = {bays.data(), room, 77};
+    }
+    Outcome Read(const std::string& text) {
+        std::uint32_t length = 0;
+        return ParseFamily(kHall, kRackFrame, {text.c_str(), &hall, sizeof hall, &length, &road});
+    }
+    // Whether the first `count` bays, and no others, were read.
+    bool Has(int count) const {
+        for (int i = 0; i < hall.room; ++i) {
+            const Bay& bay = bays[static_cast<std::size_t>(i)];
+            if (bay.number != (i < count ? 5 : 0x33333333) || bay.own[251] != std::byte{0x33}) return false;
+        }
+        return true;
+    }
+};
+
+std::string Bays(int count) {
+    std::string list;
+    for (int i = 0; i < count; ++i)
+        list += i == 0 ? R"({"Number":5})" : R"(,{"Number":5})";
+    return "{\"Bays\":[" + list + "]}";
+}
+
+// What a call keeps is bounded by its text: here a bay is twenty times as large as its own.
+TEST(TextRoad, KeepsNotMuchMoreThanTheTextIsLong) {
+    for (const bool isLong : {false, true}) {
+        const int count = isLong ? 5000 : 100;
+        Halls halls(count + 1);
+        EXPECT_EQ(halls.Read(Reply(Bays(count))), Outcome::Done);
+        EXPECT_EQ(halls.road.tookText, !isLong);
+        EXPECT_EQ(halls.hall.count, count);
+        EXPECT_TRUE(halls.Has(count));
+    }
+}
+
+TEST(TextRoad, PutsBackWhatPointersLeadToWhenMemoryRunsOut) {
+    constexpr int kCount = 200; // more than the stack keeps
+    const std::string good = Reply(Bays(kCount)), bad = good.substr(0, good.size() - 1);
+    std::size_t failures = 0;
+    for (std::size_t n = 1; n <= 6; ++n) {
+        for (const bool onlyOne : {true, false}) {
+            for (const std::string* const text : {&good, &bad}) {
+                Halls halls(kCount + 1);
+                test::HeapWatch heap;
+                onlyOne ? heap.FailOnly(n) : heap.FailFrom(n);
+                const Outcome outcome = halls.Read(*text);
+                failures += heap.failures();
+                heap.FailNone();
+                EXPECT_TRUE(outcome != Outcome::Done || text == &good);
+                EXPECT_TRUE(halls.Has(outcome == Outcome::Done ? kCount : 0)) << n;
+                EXPECT_EQ(halls.hall.count, outcome == Outcome::Done ? kCount : 77) << n;
+                EXPECT_EQ(heap.liveBlocks(), 0);
+            }
+        }
+    }
+    EXPECT_GT(failures, 4u);
+}
+
+// Records that move field by field are read where they stand, as through a local one, which the document's road takes.
+TEST(TextRoad, ReadsRecordsByFieldWhereTheyStand) {
+    const ParseFrame frame =
+        kParse.Takes(Take::ByMember).Strides(Stride::SizeWordByField).Length(ReplyLength::PerRecord);
+    for (const char* const value :
+         {R"({"One":{"Ports":[{"Label":"a","Number":1}],"Tail":7,"Zone":"ab"}})",
+          R"({"One\u0000Two":{"Zone":"a\u0000b"}})", R"({"A\\B":{"Height":9,"Zone":"muchtoolong"}})", R"({"One":5})",
+          R"({"One":{"Ports":[{}]},"One":{"Tail":1}})"}) {
+        const Racks text(Reply(value), frame);
+        const Racks document(Reply(value), frame, true);
+        EXPECT_EQ(text.outcome, Outcome::Done) << value;
+        EXPECT_EQ(document.outcome, Outcome::Done) << value;
+        Rack expected = document.rack;
+        expected.ports = const_cast<Port*>(text.ports);
+        EXPECT_EQ(std::memcmp(&text.rack, &expected, sizeof expected), 0) << value;
+        EXPECT_EQ(std::memcmp(text.ports, document.ports, sizeof text.ports), 0) << value;
+    }
+    const Racks read(Reply(R"({"One\u0000Two":{"Zone":"a\u0000b"}})"), frame);
+    EXPECT_TRUE(read.road.tookText);
+    EXPECT_EQ(read.rack.size, sizeof(Rack));
+    EXPECT_EQ(read.rack.height, 5);
+    EXPECT_EQ(read.rack.room, 2);
+    EXPECT_EQ(read.rack.name[4], '\0');
+    EXPECT_EQ(read.rack.note[2], '\0');
+    EXPECT_EQ(read.rack.tail, 0);
 }
 
 } // namespace

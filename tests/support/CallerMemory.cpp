@@ -18,6 +18,19 @@ bool HasPointers(const Table& table) {
     });
 }
 
+std::vector<std::byte> CallerMemory::Contents() const {
+    std::vector<std::byte> contents;
+    for (std::size_t i = 0; i < used_; ++i)
+        contents.insert(contents.end(), blocks_[i].get(), blocks_[i].get() + sizes_[i]);
+    return contents;
+}
+
+void CallerMemory::PutContents(const std::vector<std::byte>& contents) {
+    const std::byte* from = contents.data();
+    for (std::size_t i = 0; i < used_; from += sizes_[i++])
+        std::memcpy(blocks_[i].get(), from, sizes_[i]);
+}
+
 std::byte* CallerMemory::Bytes(std::size_t size) {
     if (used_ == blocks_.size()) {
         blocks_.push_back(std::make_unique<std::byte[]>(size));

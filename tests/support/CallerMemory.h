@@ -22,6 +22,10 @@ class CallerMemory {
 
     void Reset() { used_ = 0; }
 
+    // All bytes that have been handed out since, and what a caller had in them.
+    std::vector<std::byte> Contents() const;
+    void PutContents(const std::vector<std::byte>& contents);
+
     // Points every pointer of the record to memory of its own and sets its capacity, or its count where it has no
     // capacity, to what is there. All other bytes stay, but for the type, the stride and the count of items.
     void MakePointersSafe(const record::Table& table, std::byte* record) { MakePointersSafe(table, record, {0, 1}); }

@@ -33,7 +33,8 @@ void ForEachInput(const Table& table, std::uint32_t at, const Input& input) noex
 bool HasFunctions(const Table& table) noexcept {
     if (table.afterRead != nullptr || table.startsWhenRead || table.amongKeys != nullptr) return true;
     return std::ranges::any_of(table, [](const Field& field) {
-        return field.kind == record::Kind::Custom || (field.cell == Cell::Record && HasFunctions(*field.table));
+        const bool hasPart = field.cell == Cell::Record || field.kind == record::Kind::Record;
+        return field.kind == record::Kind::Custom || (hasPart && HasFunctions(*field.table));
     });
 }
 
@@ -77,6 +78,25 @@ bool VersionedRecords::AreReadInPlace(const Table& table, Stride how, std::uint3
     constexpr std::uint32_t kLarge = 4096; // below it a second record costs less than a look at all rows
     return how == Stride::SizeWord && stride == table.size && stride >= kLarge && table.hasDefaults
            && !table.hasPointers && !HasFunctions(table);
+}
+
+std::optional<StayingBytes> VersionedRecords::ReadInPlaceByField(const Table& table, Stride how,
+                                                                 std::uint32_t stride) noexcept {
+    const bool isOwn = how == Stride::SizeWordByField && stride == table.size && table.hasDefaults;
+    if (!isOwn || HasFunctions(table)) return std::nullopt;
+    StayingBytes staying;
+    for (const Field& field : table) {
+        if (field.alias || field.size == 0) continue;
+        // Bytes between fields are the caller's, and so is the last byte of a text that may have no end.
+        if (field.offset != staying.end || field.kind == record::Kind::FullText) return std::nullopt;
+        staying.end += field.size;
+    }
+    bool fits = true;
+    ForEachInput(table, 0, [&](std::uint32_t at, std::uint32_t size) {
+        fits = fits && staying.count < StayingBytes::kMostRuns && size <= StayingBytes::kMostBytes;
+        if (fits) staying.runs[staying.count++] = {at, size};
+    });
+    return fits ? std::optional(staying) : std::nullopt;
 }
 
 void VersionedRecords::Prepare(std::byte* local) const noexcept {

@@ -6,12 +6,25 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace orrery {
 
 // The caller's size word, which is the stride of all records of a buffer; 0 when no record can be that large. Where
 // records move as blocks a word below its own size is told to the log and gives 0 too.
 std::uint32_t StrideByWord(Stride how, const std::byte* first, std::uint32_t bufferSize) noexcept;
+
+// What of a caller's record stays as it is when it is read where it stands: its pointers and their room.
+struct StayingBytes {
+    static constexpr std::uint32_t kMostRuns = 8;
+    static constexpr std::uint32_t kMostBytes = 8; // of a run
+    struct Run {
+        std::uint32_t at, size;
+    };
+    Run runs[kMostRuns] = {};
+    std::uint32_t count = 0;
+    std::uint32_t end = 0; // behind the last field
+};
 
 class VersionedRecords {
   public:
@@ -22,6 +35,11 @@ class VersionedRecords {
     // one: they are large, have this library's own layout and no pointers of the caller's, and no row's function can
     // end the call and leave one as it was.
     static bool AreReadInPlace(const record::Table& table, Stride how, std::uint32_t stride) noexcept;
+
+    // The same of records that move field by field, whose texts are ended as that way ends them. None when they are not
+    // read where they stand.
+    static std::optional<StayingBytes> ReadInPlaceByField(const record::Table& table, Stride how,
+                                                          std::uint32_t stride) noexcept;
 
     // Makes the local record as reading finds it: clear, with its size words, and with the pointers of the caller's
     // record and the room behind them. What else the caller's record holds never shows through.

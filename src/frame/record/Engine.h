@@ -4,6 +4,7 @@
 #include "frame/JsonParser.h"
 #include "frame/json/TextWriter.h"
 #include "frame/json/Value.h"
+#include "frame/record/Keeper.h"
 #include "frame/record/Table.h"
 
 #include <cstring>
@@ -20,6 +21,10 @@ struct ReadCall {
     std::uint32_t index = 0;       // of the caller's record that is being read
     const void* context = nullptr; // what Supplied fields are copied from, of the type that their rows name
     void (*noMemory)(const Field& field) noexcept = nullptr; // told of an owned block that there was no memory for
+    Keeper* keeper = nullptr; // of what the call touches, when it may have to be put back
+
+    // Before anything behind a pointer of the caller's is touched; false when it must not be.
+    bool Keep(std::byte* at, std::size_t size) const noexcept { return keeper == nullptr || keeper->Keep(at, size); }
 };
 
 // An object on the way out. It is opened by its first key, so that an object without keys leaves no trace.

@@ -5,15 +5,7 @@
 
 namespace orrery::record {
 
-namespace {
-
 using json::Value;
-
-// Where the elements of a list are: inside the record, or behind the record's pointer.
-struct Elements {
-    std::byte* first;
-    std::uint32_t room;
-};
 
 Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSize) noexcept {
     if (field.cell != Cell::Pointer) {
@@ -26,6 +18,16 @@ Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSiz
     if (first == nullptr || room <= 0) return {nullptr, 0};
     return {first, static_cast<std::uint32_t>(std::min<std::int64_t>(room, UINT32_MAX))};
 }
+
+bool StartPointed(const Field& field, std::byte* at, ReadCall& call) noexcept {
+    const Table& table = *field.table;
+    if (!field.owned && !call.Keep(at, table.size)) return false;
+    if (field.zeroed) std::memset(at, 0, table.size);
+    if (table.hasDefaults && (field.zeroed || field.owned)) SetDefaults(table, at);
+    return true;
+}
+
+namespace {
 
 void ReadBitMask(const Field& field, const Value& value, std::byte* at) noexcept {
     const std::int32_t bits = static_cast<std::int32_t>(field.dims[0]) * 32;
@@ -176,10 +178,7 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
             if (element.isArray()) ReadList(field, level + 1, element, {at, field.dims[level + 1]}, call);
             return true;
         }
-        if (field.cell == Cell::Pointer) {
-            if (field.zeroed) std::memset(at, 0, stride);
-            if (field.table->hasDefaults && (field.zeroed || field.owned)) SetDefaults(*field.table, at);
-        }
+        if (field.cell == Cell::Pointer && !StartPointed(field, at, call)) return true;
         if (field.amongKeys && field.table->hasDefaults) SetDefaults(*field.table, at);
         return ReadElement(field, element, at, call, memberName);
     };
@@ -366,7 +365,7 @@ void ReadField(const Field& field, const Value& value, std::byte* record, ReadCa
         ReadElement(field, value, record + field.offset, call, {});
     } else if (field.single) {
         std::byte* const at = SingleOf(field, record);
-        if (at == nullptr) return;
+        if (at == nullptr || !call.Keep(at, field.table->size)) return;
         StoreSlot(field.flag, record, 1);
         ReadElement(field, value, at, call, {});
         StoreSlot(field.count, record, 1);

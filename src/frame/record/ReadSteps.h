@@ -9,6 +9,14 @@ namespace orrery::record {
 void StartNamed(const Table& table, std::byte* at, ReadCall& call, std::string_view memberName) noexcept;
 // Flags that start anew, and what the call carries along.
 void StartFields(const Table& table, std::byte* record, ReadCall& call) noexcept;
+// Where the elements of a list are: inside the record, or behind the record's pointer.
+struct Elements {
+    std::byte* first;
+    std::uint32_t room;
+};
+Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSize) noexcept;
+// What an element behind a pointer starts with. False when it must not be touched.
+bool StartPointed(const Field& field, std::byte* at, ReadCall& call) noexcept;
 // The value at a node's key; null when there is none.
 void ReadNode(const Table& table, const Node& node, const json::Value& value, std::byte* record,
               ReadCall& call) noexcept;

@@ -5,6 +5,8 @@
 #include "frame/record/ReadSteps.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 
 namespace orrery::record {
 
@@ -88,19 +90,20 @@ struct Counts {
     std::uint32_t size = 0; // elements that came
 };
 
-const char* ReadElements(const Field& field, int level, const char* p, std::byte* at, TextCall& text,
+const char* ReadElements(const Field& field, int level, const char* p, const Elements& room, TextCall& text,
                          Counts& counts) noexcept {
-    const bool innermost = level + 1 == field.rank;
+    const bool isPointed = field.cell == Cell::Pointer;
+    const bool innermost = isPointed || level + 1 == field.rank;
     const std::uint32_t stride = StrideOf(field, level);
-    const std::uint32_t room = field.dims[level];
     const bool areNumbers = innermost && field.kind == Kind::Int && field.cell == Cell::I32;
     json::Step step = json::FirstEntry(p, text.end, ']');
     while (step.more) {
         p = step.at;
-        if (counts.used < room && !text.call.refused) {
-            std::byte* const slot = at + std::size_t{counts.used++} * stride;
+        if (counts.used < room.room && !text.call.refused) {
+            std::byte* const slot = room.first + std::size_t{counts.used++} * stride;
             const bool isContainer = *p == '{' || *p == '[';
             std::int32_t number;
+            if (isPointed && !StartPointed(field, slot, text.call)) return nullptr;
             if (innermost && isContainer && field.kind == Kind::Record) {
                 p = ReadNamedText(*field.table, p, slot, text, {});
             } else if (const char* after; areNumbers && (after = json::ReadShortInt(p, text.end, number)) != nullptr) {
@@ -113,7 +116,7 @@ const char* ReadElements(const Field& field, int level, const char* p, std::byte
                 ReadElement(field, value, slot, text.call, {});
             } else if (*p == '[') {
                 Counts inside;
-                p = ReadElements(field, level + 1, p, slot, text, inside);
+                p = ReadElements(field, level + 1, p, {slot, field.dims[level + 1]}, text, inside);
             } else {
                 p = json::SkipValue(p, text.end, text.arena());
             }
@@ -128,9 +131,11 @@ const char* ReadElements(const Field& field, int level, const char* p, std::byte
 }
 
 const char* ReadListText(const Field& field, const char* p, std::byte* record, TextCall& text) noexcept {
+    const bool isPointed = field.cell == Cell::Pointer;
+    const Elements room = isPointed ? ElementsOf(field, record, 0) : Elements{record + field.offset, field.dims[0]};
     StoreSlot(field.flag, record, 1);
     Counts counts;
-    p = ReadElements(field, 0, p, record + field.offset, text, counts);
+    p = ReadElements(field, 0, p, room, text, counts);
     if (p != nullptr) StoreSlot(field.count, record, field.countUncapped ? counts.size : counts.used);
     return p;
 }
@@ -274,6 +279,51 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
     return p;
 }
 
+#if ORRERY_SSE2
+// The first bytes of a text, as many as most have.
+struct TextHead {
+    static constexpr std::size_t kSize = 32;
+    __m128i low, high;
+
+    explicit TextHead(const char* p) noexcept : low(Load(p)), high(Load(p + 16)) {}
+    // The first quote or backslash; kSize when there is none.
+    std::size_t Stop() const noexcept {
+        const auto hits = [](__m128i bytes) {
+            const __m128i both =
+                _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\')));
+            return static_cast<std::uint32_t>(_mm_movemask_epi8(both));
+        };
+        return static_cast<std::size_t>(std::countr_zero(hits(low) | hits(high) << 16));
+    }
+    // Puts `size` bytes of them, fewer than all, into a field and clears what they leave of it. False, and nothing
+    // done, when the field is too short.
+    bool Put(char* to, std::size_t size, std::size_t capacity) const noexcept {
+        alignas(64) static constexpr std::array<std::uint8_t, 2 * kSize> kMask = [] {
+            std::array<std::uint8_t, 2 * kSize> mask{};
+            std::fill_n(mask.begin(), kSize, std::uint8_t{0xFF});
+            return mask;
+        }();
+        if (capacity < (size < 16 ? 16u : kSize)) return false;
+        const auto* const mask = reinterpret_cast<const char*>(kMask.data() + kSize - size);
+        const auto store = [to](std::size_t at, __m128i bytes) {
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(to + at), bytes);
+        };
+        if (capacity > 2 * kSize) {
+            std::memset(to + kSize, 0, capacity - kSize);
+        } else { // what follows may overlap it
+            if (capacity >= kSize) store(capacity - kSize, _mm_setzero_si128());
+            store(capacity - 16, _mm_setzero_si128());
+        }
+        store(0, _mm_and_si128(low, Load(mask)));
+        if (capacity >= kSize) store(16, _mm_and_si128(high, Load(mask + 16)));
+        return true;
+    }
+
+  private:
+    static __m128i Load(const char* at) noexcept { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
+};
+#endif
+
 // The bool at `p`. The byte behind it; null for any other value.
 inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexcept {
     isTrue = *p == 't';
@@ -333,6 +383,21 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
     case Plainly::Raw:
     case Plainly::Named: {
         if (*p != '"') return nullptr;
+        auto* const field = reinterpret_cast<char*>(at);
+        const auto isCopied = [&](std::string_view content) {
+            return node.readPlainly == Plainly::Raw || text_.call.parser.text().isCopyOf(content);
+        };
+#if ORRERY_SSE2
+        if (end - p > static_cast<std::ptrdiff_t>(TextHead::kSize)) {
+            const TextHead head(p + 1);
+            const std::size_t size = head.Stop();
+            if (size < TextHead::kSize && node.readPlainly != Plainly::Named && p[1 + size] == '"'
+                && isCopied({p + 1, size}) && head.Put(field, size, node.elementSize)) {
+                raiseFlag();
+                return p + size + 2;
+            }
+        }
+#endif
         const char* const stop = json::FindQuoteOrBackslash(p + 1, end);
         if (stop == end || *stop != '"') return nullptr;
         const std::string_view content(p + 1, static_cast<std::size_t>(stop - p - 1));
@@ -340,7 +405,7 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
         if (node.readPlainly == Plainly::Named) {
             if (const auto code = table_.namesOf(node).CodeOf(content)) StoreInteger(node.cell, at, *code);
         } else {
-            text_.call.parser.GetJsonString(Value::OfString(content), reinterpret_cast<char*>(at), node.elementSize,
+            text_.call.parser.GetJsonString(Value::OfString(content), field, node.elementSize,
                                             node.readPlainly == Plainly::Local);
         }
         return stop + 1;

@@ -126,16 +126,20 @@ constexpr Way WayOf(const Field& row) {
     return !isLeftOut ? way : way == Way::Number ? Way::NumberUnless : Way::Row;
 }
 
-// An array of which the words say nothing but how its count is told.
+// An array of which the words say nothing but where its elements are and how their count is told.
 constexpr bool IsPlainList(const Field& row) {
+    const bool isPointed = row.cell == Cell::Pointer;
     ReadingWords words = row;
     words.always = false;
+    words.anyShape = false; // of values that are no array
+    if (isPointed) words.zeroed = false;
     ListWords list = row;
     list.count = {};
     list.countUncapped = false;
-    if (words != ReadingWords{} || list != ListWords{} || !row.readable) return false;
-    if (row.rank == 0 || row.cell == Cell::Pointer || row.wholeMember) return false;
-    return row.kind != Kind::None && row.kind != Kind::Custom && row.kind != Kind::Supplied;
+    if (isPointed) list.capacity = {};
+    if (words != ReadingWords{} || list != ListWords{} || !row.readable || row.wholeMember) return false;
+    if (isPointed) return row.kind == Kind::Record && row.capacity.exists();
+    return row.rank > 0 && row.kind != Kind::None && row.kind != Kind::Custom && row.kind != Kind::Supplied;
 }
 
 } // namespace orrery::record::build
