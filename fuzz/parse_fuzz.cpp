@@ -72,9 +72,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // The buffer as it was, for the other road; of large ones now and then.
     constexpr std::size_t kSmall = std::size_t{32} << 10;
-    const bool isCompared = !test::HasPointers(*command.table) && (room <= kSmall || sizeChoice / 4 % 16 == 3);
+    const bool isCompared = room + memory.size() <= kSmall || sizeChoice / 4 % 16 == 3;
     std::vector<std::byte> before(isCompared ? room : 0);
     if (isCompared) std::memcpy(before.data(), buffer.get(), room);
+    // And what its pointers lead to.
+    std::vector<std::byte> pointed;
+    if (isCompared) pointed = memory.Contents();
 
     fuzz::Circumstances around(choice);
     std::uint32_t length = 0;
@@ -86,12 +89,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!around.Calm()) std::abort();
     // By way of a document the answer is the same, unless memory ran out on one of the roads.
     if (!before.empty()) {
+        const std::vector<std::byte> after = memory.Contents();
+        memory.PutContents(pointed);
         ReadRoad road{true};
         std::uint32_t told = 0;
         const Outcome judged =
             RunParse(command, {reinterpret_cast<const char*>(text.get()), before.data(),
                                static_cast<std::uint32_t>(room), flavour == 1 ? nullptr : &told, &road});
-        const bool isSame = judged == outcome && told == length && std::memcmp(buffer.get(), before.data(), room) == 0;
+        const bool isSame = judged == outcome && told == length && std::memcmp(buffer.get(), before.data(), room) == 0
+                            && memory.Contents() == after;
         if (!isSame && !memoryFailed) std::abort();
         if (!around.Calm()) std::abort();
     }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 
 namespace orrery::test {
 
@@ -23,6 +24,10 @@ std::vector<std::byte> CallerMemory::Contents() const {
     for (std::size_t i = 0; i < used_; ++i)
         contents.insert(contents.end(), blocks_[i].get(), blocks_[i].get() + sizes_[i]);
     return contents;
+}
+
+std::size_t CallerMemory::size() const {
+    return std::accumulate(sizes_.begin(), sizes_.begin() + static_cast<std::ptrdiff_t>(used_), std::size_t{0});
 }
 
 void CallerMemory::PutContents(const std::vector<std::byte>& contents) {

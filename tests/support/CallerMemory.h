@@ -24,6 +24,7 @@ class CallerMemory {
 
     // All bytes that have been handed out since, and what a caller had in them.
     std::vector<std::byte> Contents() const;
+    std::size_t size() const;
     void PutContents(const std::vector<std::byte>& contents);
 
     // Points every pointer of the record to memory of its own and sets its capacity, or its count where it has no
