@@ -4,6 +4,7 @@
 #pragma once
 
 #include "frame/json/Digits.h"
+#include "frame/json/Pen.h"
 
 #include <bit>
 #include <charconv>
@@ -149,6 +150,36 @@ inline char* PrintFields(char* out, int count, const char* separators, const uns
         out = Print(out, fields[i], widths[i]);
     }
     return out;
+}
+
+inline constexpr int kMostFields = 7;          // of the longest of these texts
+inline constexpr std::size_t kFieldsRoom = 96; // seven numbers of 11 characters and what separates them
+
+// As many fields as were read into the first words of `record`, which may lie at any address.
+inline void StoreFields(void* record, const std::int32_t* fields, int count) noexcept {
+    std::memcpy(record, fields, static_cast<std::size_t>(count) * sizeof *fields);
+}
+
+// Those words of a record as a text; null without one.
+inline void WriteFields(json::TextWriter& out, const void* record, int count, const char* separators,
+                        const unsigned char* widths) noexcept {
+    if (record == nullptr) return out.Null();
+    std::int32_t fields[kMostFields];
+    std::memcpy(fields, record, static_cast<std::size_t>(count) * sizeof *fields);
+    json::Pen pen(out);
+    if (pen.has(kFieldsRoom + 2)) [[likely]] {
+        // No field has anything to escape.
+        pen.Element([&](char* to) {
+            *to = '"';
+            char* const end = PrintFields(to + 1, count, separators, widths, fields);
+            *end = '"';
+            return end + 1;
+        });
+        return pen.Return(out);
+    }
+    char text[kFieldsRoom];
+    const char* const end = PrintFields(text, count, separators, widths, fields);
+    out.String({text, static_cast<std::size_t>(end - text)});
 }
 
 } // namespace orrery::scan

@@ -1,9 +1,8 @@
-// Periods of a day and calendar texts.
+// Calendar texts.
 #include "frame/JsonParser.h"
 #include "frame/JsonParser_Scan.h"
 #include "frame/json/Pen.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <limits>
@@ -14,95 +13,14 @@ namespace {
 
 using scan::Scanner;
 
-constexpr int kSectionFields = 7;
-constexpr char kSectionSeparators[] = " ::-::";
-constexpr unsigned char kSectionWidths[kSectionFields] = {0, 2, 2, 2, 2, 2, 2};
-constexpr unsigned char kAnyWidths[kSectionFields] = {};
-
 constexpr char kDateTimeSeparators[] = "-- ::.";
 constexpr unsigned char kDateTimeWidths[] = {4, 2, 2, 2, 2, 2, 0};
 constexpr char kClockSeparators[] = "::";
 constexpr unsigned char kClockWidths[] = {2, 2, 2};
 
-// Records are reached by offset: a member of a record at an odd address must not be named.
-constexpr std::size_t kScheduleHoliday = offsetof(CFG_TIME_SCHEDULE, bEnableHoliday);
-constexpr std::size_t kScheduleSections = offsetof(CFG_TIME_SCHEDULE, stuTimeSection);
-
-constexpr std::size_t kTextRoom = 96; // seven numbers of 11 characters and what separates them
-
-// As many fields as were read into the first words of `record`, which may lie at any address.
-void Store(void* record, const std::int32_t* fields, int count) noexcept {
-    std::memcpy(record, fields, static_cast<std::size_t>(count) * sizeof *fields);
-}
-
-// Nearly every device writes sections with two digits a field and a flag of one, or of two; and most of a day's and of
-// a week's sections are like the one before.
-class UsualSections {
-  public:
-    bool Read(std::string_view text, CFG_TIME_SECTION* section) noexcept {
-        if (text.size() != kSize && text.size() != kSize + 1) return false;
-        const std::size_t more = text.size() - kSize;
-        const char* const t = text.data() + more;
-        const Bytes bytes{Word(t), Word(t + 8), Word(t + kSize - 8)};
-        auto* const at = reinterpret_cast<std::byte*>(section);
-        if (more == 0 && section_ != nullptr && bytes_.Are(bytes)) {
-            Repeat(at);
-            return true;
-        }
-        std::uint64_t bad = 0;
-        const auto begin = scan::ReadClock(t + 2, bad);
-        const auto end = scan::ReadClock(t + 11, bad);
-        if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
-        if (more != 0 && !scan::IsDigit(text[0])) return false;
-        // Each straight into its place: gathered first, they would be copied by wider loads that wait for the stores.
-        const auto put = [at](std::size_t field, std::int32_t number) { std::memcpy(at + 4 * field, &number, 4); };
-        put(0, t[0] - '0' + (more != 0 ? 10 * (text[0] - '0') : 0));
-        put(1, begin.hour);
-        put(2, begin.minute);
-        put(3, begin.second);
-        put(4, end.hour);
-        put(5, end.minute);
-        put(6, end.second);
-        section_ = more == 0 ? at : nullptr;
-        bytes_ = bytes;
-        return true;
-    }
-
-  private:
-    static constexpr std::size_t kSize = 19; // "1 08:00:00-17:30:00"
-    struct Bytes {
-        std::uint64_t first, middle, last;
-
-        bool Are(const Bytes& other) const noexcept {
-            return ((first ^ other.first) | (middle ^ other.middle) | (last ^ other.last)) == 0;
-        }
-    };
-
-    void Repeat(std::byte* at) const noexcept {
-        for (const std::byte *from = section_, *const stop = from + sizeof(CFG_TIME_SECTION); from != stop; from += 4) {
-            std::memcpy(at, from, 4);
-            at += 4;
-            asm volatile("" ::: "memory"); // or they are put together to wider loads
-        }
-    }
-
-    const std::byte* section_ = nullptr; // that of the text before, while it can be repeated
-    Bytes bytes_;
-};
-
-bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SECTION* section,
-                 UsualSections& usual) noexcept {
-    if (usual.Read(text, section)) return true;
-    std::int32_t fields[kSectionFields];
-    Scanner scanner(text);
-    const int count = scan::Fields(scanner, kSectionFields, kSectionSeparators, widths, fields);
-    if (count != 0) Store(section, fields, count);
-    return count == kSectionFields;
-}
-
 // The first `want` of "2026-11-20 09:30:00.250" into the first words of `record`.
 bool ReadDateTime(std::string_view text, int want, void* record) noexcept {
-    std::int32_t fields[kSectionFields];
+    std::int32_t fields[scan::kMostFields];
     int count = 0;
     if (text.size() >= 19 && want >= 6 && scan::HasShape(text.data(), "0000-00-00 00:00:00")) {
         const char* const t = text.data();
@@ -116,281 +34,18 @@ bool ReadDateTime(std::string_view text, int want, void* record) noexcept {
         Scanner scanner(text);
         count = scan::Fields(scanner, want, kDateTimeSeparators, kDateTimeWidths, fields);
     }
-    if (count != 0) Store(record, fields, count);
+    if (count != 0) scan::StoreFields(record, fields, count);
     return count == want;
 }
 
-void WriteFields(json::TextWriter& out, const void* record, int count, const char* separators,
-                 const unsigned char* widths) noexcept {
-    if (record == nullptr) return out.Null();
-    std::int32_t fields[kSectionFields];
-    std::memcpy(fields, record, static_cast<std::size_t>(count) * sizeof *fields);
-    json::Pen pen(out);
-    if (pen.has(kTextRoom + 2)) [[likely]] {
-        // No field has anything to escape.
-        pen.Element([&](char* to) {
-            *to = '"';
-            char* const end = scan::PrintFields(to + 1, count, separators, widths, fields);
-            *end = '"';
-            return end + 1;
-        });
-        return pen.Return(out);
-    }
-    char text[kTextRoom];
-    const char* const end = scan::PrintFields(text, count, separators, widths, fields);
-    out.String({text, static_cast<std::size_t>(end - text)});
-}
-
-// Of a section in quotes.
-constexpr std::size_t kSectionText = 21;
-constexpr std::size_t kSectionStep = kSectionText + 2; // to the same byte of the section behind it
-
-// The first and the last sixteen bytes of a section.
-struct SectionBytes {
-#if ORRERY_SSE2
-    __m128i first, last;
-#else
-    std::uint64_t first[2], last[2];
-#endif
-    explicit SectionBytes(const void* section) noexcept {
-        std::memcpy(&first, section, sizeof first);
-        std::memcpy(&last, static_cast<const std::byte*>(section) + sizeof(CFG_TIME_SECTION) - sizeof last,
-                    sizeof last);
-    }
-    bool operator==(const SectionBytes& other) const noexcept {
-#if ORRERY_SSE2
-        const __m128i same = _mm_and_si128(_mm_cmpeq_epi8(first, other.first), _mm_cmpeq_epi8(last, other.last));
-        return _mm_movemask_epi8(same) == 0xFFFF;
-#else
-        return std::memcmp(this, &other, sizeof *this) == 0;
-#endif
-    }
-};
-
-// The text of a section in quotes with `, ` in front of it, held in registers: what was just stored in pieces cannot be
-// loaded at once before all of it has reached the cache, and the section before often comes again.
-class SectionText {
-  public:
-    // The counterpart of ReadUsualSection: a week has 42 of them or 70. False when a field has more digits than usual.
-    bool Set(const SectionBytes& section) noexcept {
-#if ORRERY_SSE2
-        // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
-        const __m128i numbers = _mm_packs_epi32(section.first, section.last);
-        const __m128i most = _mm_setr_epi16(9, 99, 99, 99, 99, 99, 99, 99);
-        const __m128i outside = _mm_subs_epu16(numbers, most);
-        if (_mm_movemask_epi8(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) return false;
-        // Two digits a number: the tens lower, as they stand in the text, but for minutes, whose tens are higher.
-        const __m128i tens = _mm_mulhi_epi16(numbers, _mm_set1_epi16(6554)); // a tenth of 65536, and a little more
-        const __m128i ofNumber = _mm_setr_epi16(256, 256, 1, 256, 256, 256, 1, 256);
-        const __m128i ofTens = _mm_setr_epi16(-2559, -2559, 246, -2559, -2559, -2559, 246, -2559);
-        const __m128i pairs = _mm_add_epi16(_mm_mullo_epi16(numbers, ofNumber), _mm_mullo_epi16(tens, ofTens));
-        // Each clock in eight letters: hours, minutes twice, of which the inner letters stay, and seconds.
-        constexpr int kSpread = _MM_SHUFFLE(3, 2, 2, 1);
-        const __m128i spread = _mm_shufflehi_epi16(_mm_shufflelo_epi16(pairs, kSpread), kSpread);
-        const __m128i kept = _mm_and_si128(spread, _mm_set1_epi64x(static_cast<long long>(0xFFFF00FFFF00FFFF)));
-        const __m128i clocks = _mm_add_epi8(kept, _mm_set1_epi64x(0x30303A30303A3030)); // zeros and colons
-        const auto begin = static_cast<std::uint64_t>(_mm_cvtsi128_si64(clocks));
-        const auto end = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(clocks, clocks)));
-        // The mask has no tens.
-        constexpr std::uint64_t kFirst = 0x203022202C; // `, "0 `
-        const auto mask = static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_cvtsi128_si32(pairs)) & 0xFFFF);
-        first_ = (kFirst + (mask << 16)) | begin << 40;
-        second_ = begin >> 24 | std::uint64_t{'-'} << 40 | end << 48;
-        last_ = end >> 8 | std::uint64_t{'"'} << 56;
-#else
-        std::uint32_t fields[kSectionFields + 1]; // the second of the first clock twice
-        std::memcpy(fields, section.first, sizeof section.first);
-        std::memcpy(fields + 3, section.last, sizeof section.last);
-        std::uint32_t outside = 0; // its highest bit is set when a field is
-        for (int i = 0; i < kSectionFields; ++i)
-            outside |= fields[i] | ((i == 0 ? 9u : 99u) - fields[i]);
-        if (outside >> 31 != 0) return false;
-        std::memcpy(text_, ", \"0 00:00:00-00:00:00\"", kSectionStep);
-        text_[3] = static_cast<char>('0' + fields[0]);
-        for (int i = 1; i < kSectionFields; ++i)
-            json::PutPair(text_ + 2 + 3 * i, fields[i]);
-#endif
-        return true;
-    }
-    char* Put(char* to) const noexcept {
-#if ORRERY_SSE2
-        std::memcpy(to, &first_, 8);
-        std::memcpy(to + 8, &second_, 8);
-        std::memcpy(to + kSectionStep - 8, &last_, 8);
-#else
-        std::memcpy(to, text_, kSectionStep);
-#endif
-        return to + kSectionStep;
-    }
-
-  private:
-#if ORRERY_SSE2
-    std::uint64_t first_ = 0, second_ = 0, last_ = 0; // eight letters each, the first lowest; one stands in two
-#else
-    char text_[kSectionStep];
-#endif
-};
-
-// A day of usual sections, which finds DayRoom; null when it is none.
-constexpr std::size_t DayRoom(int sections) {
-    return static_cast<std::size_t>(sections) * kSectionStep + 2;
-}
-[[gnu::always_inline]] inline char* PutUsualDay(char* to, const CFG_TIME_SECTION* day, int sections) noexcept {
-    SectionBytes before(day);
-    SectionText text;
-    if (!text.Set(before)) return nullptr;
-    char* next = text.Put(to);
-    for (int i = 1; i < sections; ++i) {
-        const SectionBytes bytes(day + i);
-        if (!(bytes == before)) {
-            before = bytes;
-            if (!text.Set(bytes)) return nullptr;
-        }
-        next = text.Put(next);
-    }
-    std::memcpy(to, "[ ", 2);
-    std::memcpy(next, " ]", 2);
-    return next + 2;
-}
-
-// The least of a caller's bound and what the document has; the bound is at least 1 here.
-int Limit(int bound, std::uint32_t size) noexcept {
-    return static_cast<int>(std::min(static_cast<std::uint32_t>(bound), size));
-}
-
 } // namespace
-
-bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* section) noexcept {
-    UsualSections usual;
-    return section != nullptr && ReadSection(value.asString(), kSectionWidths, section, usual);
-}
-
-std::size_t JsonParser::GetUsualSections(std::span<const json::Value> values, CFG_TIME_SECTION* sections) noexcept {
-    UsualSections usual;
-    std::size_t count = 0;
-    while (count < values.size() && usual.Read(values[count].asString(), sections + count))
-        ++count;
-    return count;
-}
-
-void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
-    if (section != nullptr) {
-        SectionText text;
-        json::Pen pen(out);
-        if (pen.has(kSectionText) && text.Set(SectionBytes(section))) {
-            char whole[kSectionStep];
-            text.Put(whole);
-            pen.Element([&whole](char* to) { return json::CopyShort(to, whole + 2, kSectionText); });
-            return pen.Return(out);
-        }
-    }
-    WriteFields(out, section, kSectionFields, kSectionSeparators, kSectionWidths);
-}
-
-bool JsonParser::GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sections, int rows, int columns,
-                                 int* rowsRead) noexcept {
-    if (sections == nullptr || rows < 1 || columns < 1 || !value.isArray() || value.size() == 0) return false;
-    const auto days = value.elements().first(static_cast<std::size_t>(Limit(rows, value.size())));
-    const auto count = static_cast<int>(days.size());
-    if (rowsRead != nullptr) std::memcpy(rowsRead, &count, sizeof count);
-    UsualSections usual;
-    for (const json::Value& day : days) {
-        if (day.isArray() && day.size() != 0) {
-            CFG_TIME_SECTION* section = sections;
-            for (const json::Value& cell : day.elements().first(static_cast<std::size_t>(Limit(columns, day.size())))) {
-                if (!ReadSection(cell.asString(), kAnyWidths, section++, usual)) return false;
-            }
-        }
-        sections += columns;
-    }
-    return true;
-}
-
-bool JsonParser::SetTimeSchedule(json::TextWriter& out, const CFG_TIME_SECTION* sections, int rows,
-                                 int columns) noexcept {
-    if (sections == nullptr || rows < 1 || columns < 1) return false;
-    out.BeginArray();
-    SetTimeDays(out, sections, rows, columns);
-    out.EndArray();
-    return true;
-}
-
-void JsonParser::SetTimeDays(json::TextWriter& out, const CFG_TIME_SECTION* days, int count, int columns) noexcept {
-    const auto size = static_cast<std::size_t>(columns) * sizeof *days;
-    std::size_t length = 0; // of the text of the day before; 0: it is not to be repeated
-    json::Pen pen(out);
-    for (int i = 0; i < count; ++i, days += columns) {
-        // Most days of a week are like the day before.
-        if (length > 0 && pen.has(length) && std::memcmp(days - columns, days, size) == 0) {
-            pen.Again(length);
-            continue;
-        }
-        const json::Pen before = pen;
-        if (pen.has(DayRoom(columns)) && pen.TryElement([=](char* to) { return PutUsualDay(to, days, columns); })) {
-            length = pen.LengthOfElementSince(before);
-            continue;
-        }
-        pen.Return(out);
-        SetTimeSectionList(out, days, columns);
-        pen = json::Pen(out);
-        length = 0;
-    }
-    pen.Return(out);
-}
-
-bool JsonParser::GetHolidaySchedule(const json::Value& value, CFG_TIME_SCHEDULE* schedule) noexcept {
-    if (schedule == nullptr) return false;
-    auto* const bytes = reinterpret_cast<char*>(schedule);
-    std::memset(bytes, 0, sizeof *schedule);
-    auto* const sections = reinterpret_cast<CFG_TIME_SECTION*>(bytes + kScheduleSections);
-    int rows = 0;
-    if (!GetTimeSchedule(value, sections, ORRERY_SCHEDULE_DAYS, ORRERY_DAY_SECTIONS, &rows)) return false;
-    if (rows < ORRERY_WEEK_DAYS) return false;
-    const std::int32_t holiday = rows == ORRERY_SCHEDULE_DAYS;
-    std::memcpy(bytes + kScheduleHoliday, &holiday, sizeof holiday);
-    return true;
-}
-
-void JsonParser::SetHolidaySchedule(json::TextWriter& out, const CFG_TIME_SCHEDULE* schedule) noexcept {
-    if (schedule == nullptr) return out.Null();
-    const auto* const bytes = reinterpret_cast<const char*>(schedule);
-    std::int32_t holiday;
-    std::memcpy(&holiday, bytes + kScheduleHoliday, sizeof holiday);
-    const int rows = holiday != 0 ? ORRERY_SCHEDULE_DAYS : ORRERY_WEEK_DAYS;
-    const auto* const sections = reinterpret_cast<const CFG_TIME_SECTION*>(bytes + kScheduleSections);
-    SetTimeSchedule(out, sections, rows, ORRERY_DAY_SECTIONS);
-}
-
-bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* sections, int limit) noexcept {
-    if (sections == nullptr || limit < 1) return false;
-    UsualSections usual;
-    for (const json::Value& element : value.elements()) {
-        if (limit-- == 0) break;
-        ReadSection(element.asString(), kAnyWidths, sections++, usual);
-    }
-    return true;
-}
-
-bool JsonParser::SetTimeSectionList(json::TextWriter& out, const CFG_TIME_SECTION* sections, int count) noexcept {
-    if (sections == nullptr || count < 1) return false;
-    json::Pen pen(out);
-    if (pen.has(DayRoom(count)) && pen.TryElement([=](char* to) { return PutUsualDay(to, sections, count); })) {
-        pen.Return(out);
-        return true;
-    }
-    out.BeginArray();
-    for (int i = 0; i < count; ++i)
-        SetTimeSection(out, sections + i);
-    out.EndArray();
-    return true;
-}
 
 bool JsonParser::GetNetTime(const json::Value& value, NET_TIME* time) noexcept {
     return time != nullptr && ReadDateTime(value.asString(), 6, time);
 }
 
 void JsonParser::SetNetTime(json::TextWriter& out, const NET_TIME* time) noexcept {
-    WriteFields(out, time, 6, kDateTimeSeparators, kDateTimeWidths);
+    scan::WriteFields(out, time, 6, kDateTimeSeparators, kDateTimeWidths);
 }
 
 bool JsonParser::GetNetTimeEx(const json::Value& value, NET_TIME_EX* time) noexcept {
@@ -398,7 +53,7 @@ bool JsonParser::GetNetTimeEx(const json::Value& value, NET_TIME_EX* time) noexc
 }
 
 void JsonParser::SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) noexcept {
-    WriteFields(out, time, 7, kDateTimeSeparators, kDateTimeWidths);
+    scan::WriteFields(out, time, 7, kDateTimeSeparators, kDateTimeWidths);
 }
 
 bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept {
@@ -406,7 +61,7 @@ bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept
     std::int32_t fields[3];
     Scanner scanner(value.asString());
     const int count = scan::Fields(scanner, 3, kClockSeparators, kClockWidths, fields);
-    if (count != 0) Store(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, count);
+    if (count != 0) scan::StoreFields(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, count);
     return count == 3;
 }
 
@@ -416,7 +71,7 @@ void JsonParser::SetClockTime(json::TextWriter& out, const NET_TIME* time) noexc
     json::Pen pen(out);
     if (pen.has(kClockText) && pen.TryElement([clock](char* to) { return PutClockTime(to, clock); }))
         return pen.Return(out);
-    WriteFields(out, clock, 3, kClockSeparators, kClockWidths);
+    scan::WriteFields(out, clock, 3, kClockSeparators, kClockWidths);
 }
 
 char* JsonParser::PutClockTime(char* at, const void* clock) noexcept {

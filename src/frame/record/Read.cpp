@@ -196,7 +196,9 @@ std::int64_t ReadList(const Field& field, int level, const Value& value, Element
         used = counted = std::min(value.size(), room.room);
     } else {
         auto elements = value.elements();
-        if (innermost && field.kind == Kind::TimeSection && !call.refused) { // a day's, all but always read in one go
+        // A day's sections are all but always read in one go.
+        const bool areSections = innermost && field.kind == Kind::TimeSection && field.cell != Cell::Pointer;
+        if (areSections && !call.refused) {
             const auto slots = elements.first(std::min<std::size_t>(elements.size(), room.room));
             const auto usual = JsonParser::GetUsualSections(slots, reinterpret_cast<CFG_TIME_SECTION*>(room.first));
             used = counted = static_cast<std::uint32_t>(usual);
