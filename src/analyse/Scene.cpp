@@ -115,28 +115,38 @@ static_assert(kMostNumbered == ORRERY_NUMBERED_SCENES && kMostNumbered == ORRERY
 
 class NumberedName {
   public:
-    NumberedName(std::string_view stem, std::uint32_t number) noexcept {
-        text_[0] = '"';
-        char* const digits = json::CopyShort(text_ + 1, stem.data(), stem.size());
-        char* const end = json::PutDigits(digits, number);
-        size_ = static_cast<std::size_t>(end - text_) - 1;
-        std::memcpy(end, "\" : ", 4);
+    static constexpr std::size_t kRoom = 16 + json::kIntegerRoom; // the longest stem and its number
+
+    NumberedName(std::string_view stem, std::uint32_t number) noexcept
+        : size_(static_cast<std::size_t>(Put(text_, stem, number) - text_)) {}
+    operator std::string_view() const noexcept { return {text_, size_}; }
+
+    static char* Put(char* at, std::string_view stem, std::uint32_t number) noexcept {
+        return json::PutDigits(json::CopyShort(at, stem.data(), stem.size()), number);
     }
-    operator std::string_view() const noexcept { return {text_ + 1, size_}; }
-    // As it stands in front of a value.
-    std::string_view quoted() const noexcept { return {text_, size_ + kQuotesAndColon}; }
 
   private:
-    static constexpr std::size_t kLongestStem = 16;
-    char text_[kLongestStem + json::kIntegerRoom + kQuotesAndColon];
+    char text_[kRoom];
     std::size_t size_;
 };
+
+void WriteNumberedKey(std::string_view stem, std::uint32_t number, WriteCall& call) {
+    call.OpenObjects();
+    const json::Hand hand(call.out);
+    if (!hand.HasBehind(json::Hand::kSeparator + NumberedName::kRoom + kQuotesAndColon))
+        return call.out.Key(NumberedName(stem, number));
+    char* at = hand.TakeForValue();
+    *at = '"';
+    at = NumberedName::Put(at + 1, stem, number);
+    std::memcpy(at, "\" : ", 4);
+    hand.GiveForValue(at + 4);
+}
 
 // Members "Stem1" up to "Stem32" in the order of their names: 1, 10 to 19, 2, 20 and so on.
 template <class WriteOne>
 void WriteNumbered(std::string_view stem, std::uint32_t count, WriteCall& call, const WriteOne& writeOne) {
     const auto write = [&](std::uint32_t number) {
-        call.Quoted(NumberedName(stem, number).quoted());
+        WriteNumberedKey(stem, number, call);
         writeOne(number - 1);
     };
     for (std::uint32_t first = 1; first < 10 && first <= count; ++first) {

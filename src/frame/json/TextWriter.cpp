@@ -65,6 +65,26 @@ __m128i CopyBlock(char* out, const char* text) noexcept {
     return bytes;
 }
 
+// Less than sixteen bytes, with zeros behind them; in registers, where nothing waits for what was just stored.
+__m128i LoadFew(const char* text, std::size_t size) noexcept {
+    std::uint64_t low = 0, high = 0;
+    if (size >= 8) {
+        std::memcpy(&low, text, 8);
+        std::memcpy(&high, text + size - 8, 8);
+        const std::size_t half = 4 * (16 - size);
+        high = high >> half >> half;
+    } else if (size >= 4) {
+        std::uint32_t first, last;
+        std::memcpy(&first, text, 4);
+        std::memcpy(&last, text + size - 4, 4);
+        low = first | std::uint64_t{last} << 8 * (size - 4);
+    } else {
+        for (std::size_t i = 0; i < size; ++i)
+            low |= std::uint64_t{static_cast<unsigned char>(text[i])} << 8 * i;
+    }
+    return _mm_set_epi64x(static_cast<long long>(high), static_cast<long long>(low));
+}
+
 // Of less than sixteen bytes.
 char* CopyFew(char* out, const char* text, std::size_t size) noexcept {
     if (size >= 8) {
@@ -115,17 +135,16 @@ struct Quoting {
     [[gnu::noinline]] static char* PutRest(char* at, const char* p, const char* end) noexcept {
         Quoting to{at, p};
 #if ORRERY_SSE2
-        // Looked at behind a copy that ends in zeros, and copied no further than it goes.
-        char rest[32] = {};
-        const char* const last = CopyFew(rest, p, static_cast<std::size_t>(end - p) % 16);
-        to.p = rest;
-        while (to.p != last) {
-            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(to.p));
-            const auto good = static_cast<std::size_t>(std::countr_zero(Stops<AsciiOnly>(bytes)));
+        auto left = static_cast<unsigned>(end - p);
+        // A stop behind the last byte as well.
+        for (unsigned stops = Stops<AsciiOnly>(LoadFew(p, left)) | 1u << left;; --left) {
+            const unsigned good = std::min(static_cast<unsigned>(std::countr_zero(stops)), left);
             to.at = CopyFew(to.at, to.p, good);
             to.p += good;
-            if (to.p == last) break;
+            left -= good;
+            if (left == 0) break;
             if (!to.PutByte()) return to.End();
+            stops = stops >> good >> 1;
         }
 #else
         while (to.p != end) {

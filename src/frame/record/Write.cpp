@@ -97,7 +97,7 @@ void WriteField(const Field& field, const std::byte* record, WriteCall& call) no
         const auto text = JsonParser::SplitModeText(Load<std::int32_t>(at), room);
         if (text.empty()) return;
         call.Key();
-        return call.out.String(text);
+        return call.out.CleanString(text);
     }
     case Kind::Record:
         if (field.unlessBare) return WriteUnlessBare(*field.table, call.quotedKey, at, call);

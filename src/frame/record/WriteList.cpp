@@ -41,7 +41,11 @@ struct Elements {
         room = LoadSlot(field.capacity, record);
         if (first == nullptr) room = 0;
     }
-    std::int64_t count = field.count.exists() && !field.fullCapacity ? LoadSlot(field.count, record) : room;
+    std::int64_t count = room;
+    if (field.count.exists() && !field.fullCapacity) {
+        const bool isUsual = field.count.cell == Cell::I32;
+        count = isUsual ? Load<std::int32_t>(record + field.count.offset) : LoadSlot(field.count, record);
+    }
     // A count beyond the room ends at the room, whoever wrote it.
     count = std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(room, 0));
     if (field.untilEmpty) {

@@ -49,10 +49,10 @@ inline bool IsLetOut(const Node& node, const std::byte* record) noexcept {
 void WriteField(const Field& field, const std::byte* record, WriteCall& call) noexcept;
 // The members of an object from `at` on, where at the offset `first` none stands yet, as json::Hand has it. The object
 // that keys go to is open.
-char* PutNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call, char* at,
+char* PutNodes(const Table& table, const NodeRange& range, const std::byte* record, WriteCall& call, char* at,
                std::size_t first) noexcept;
 // The object of such members as a value. Null when there is none, and nothing stands there.
-inline char* PutObject(const Table& table, NodeRange range, const std::byte* record, WriteCall& call,
+inline char* PutObject(const Table& table, const NodeRange& range, const std::byte* record, WriteCall& call,
                        char* at) noexcept {
     const json::Hand hand(call.out);
     const std::size_t first = hand.OffsetOf(at);

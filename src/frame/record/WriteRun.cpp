@@ -70,7 +70,7 @@ void WriteAny(const Table& table, const Node& node, const std::byte* record, Wri
 
 } // namespace
 
-char* PutNodes(const Table& table, NodeRange range, const std::byte* record, WriteCall& call, char* at,
+char* PutNodes(const Table& table, const NodeRange& range, const std::byte* record, WriteCall& call, char* at,
                std::size_t first) noexcept {
     const Hand hand(call.out);
     const char* limit = hand.LimitFor(kMemberRoom);
@@ -83,7 +83,8 @@ char* PutNodes(const Table& table, NodeRange range, const std::byte* record, Wri
     // Whether a value finds room for so many bytes behind its key; at a place in front of the limit.
     const auto has = [&](std::size_t size) { return size < static_cast<std::size_t>(limit - at); };
     // An object inside this one.
-    const auto putObject = [&](const Table& inner, NodeRange nodes, const std::byte* innerRecord, bool staysNull) {
+    const auto putObject = [&](const Table& inner, const NodeRange& nodes, const std::byte* innerRecord,
+                               bool staysNull) {
         const std::size_t place = hand.OffsetOf(at);
         char* const next = PutObject(inner, nodes, innerRecord, call, PutKey(at, table, *node));
         limit = hand.LimitFor(kMemberRoom);
