@@ -262,8 +262,9 @@ void ReadGlobalOfTypes(const Value& global, std::byte* record, ReadCall& call) {
     if (global.isNull()) return; // the caller's record stays as it was
     ReadNumbered(kPeriodArray, global, record, call);
     const GlobalTypes types(record);
+    const Value& detail = global["Scene"]["Detail"];
     for (const std::string_view type : types.all())
-        ReadSceneDetail(type, global["Scene"]["Detail"], record + offsetof(Global, stuDetail), call);
+        ReadSceneDetail(type, detail, record + offsetof(Global, stuDetail), call);
     ReadAreaTypes(global["CalibrateArea"], record + offsetof(Global, stuCalibrateAreas));
     ReadNumbered(kAreasArray, global, record, call);
     ReadNumberedScenes(global, record, call);

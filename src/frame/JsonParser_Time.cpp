@@ -58,8 +58,20 @@ void JsonParser::SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) no
 
 bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept {
     if (time == nullptr) return false;
+    const std::string_view text = value.asString();
     std::int32_t fields[3];
-    Scanner scanner(value.asString());
+    if (text.size() >= 8) {
+        std::uint64_t bad = 0;
+        const auto clock = scan::ReadClock(text.data(), bad);
+        if ((bad & scan::kHighBits) == 0) {
+            fields[0] = clock.hour;
+            fields[1] = clock.minute;
+            fields[2] = clock.second;
+            Store(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, 3);
+            return true;
+        }
+    }
+    Scanner scanner(text);
     const int count = scan::Fields(scanner, 3, kClockSeparators, kClockWidths, fields);
     if (count != 0) scan::StoreFields(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, count);
     return count == 3;
