@@ -67,7 +67,7 @@ bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept
             fields[0] = clock.hour;
             fields[1] = clock.minute;
             fields[2] = clock.second;
-            Store(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, 3);
+            scan::StoreFields(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, 3);
             return true;
         }
     }
