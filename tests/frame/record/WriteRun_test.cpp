@@ -89,6 +89,39 @@ PART(kLevel, Level,
          FIELD(level, "Level", Int).WriteUnless(0),
      });
 
+// Objects in objects, under keys of which two take more room than a member is sure of.
+struct Nested {
+    Level level;
+};
+constexpr char kLongKey[] =
+    "AKeyThatIsNearlyAsLongAsAnyThatIsWrittenInARunTogetherWithItsNeighboursOfWhichTwoNeedMuchRoom";
+PART(kNested, Nested, {FIELD(level, kLongKey, Record(kLevel)).WriteUnlessBare()});
+struct Nest {
+    Nested nested;
+};
+PART(kNest, Nest, {FIELD(nested, kLongKey, Record(kNested)).WriteUnlessBare()});
+struct Nests {
+    std::int32_t before;
+    Nest left;
+    Nest stays;
+    std::int32_t behind;
+};
+TABLE(kNests, Nests,
+      {
+          FIELD(before, "A", Int),
+          FIELD(left, "B", Record(kNest)).WriteUnlessBare(),
+          FIELD(stays, "C", Record(kNest)),
+          FIELD(behind, "D", Int),
+      });
+
+TEST(WriteRun, ObjectsThatTurnOutBareLeaveNoTraceWhereverTheRoomEnds) {
+    const std::string key(kLongKey);
+    ExpectInEveryRoom(kNests, Nests{1, {}, {}, 2}, R"({ "A" : 1, "C" : null, "D" : 2 })");
+    const std::string nested = "{ \"" + key + "\" : { \"" + key + R"(" : { "Level" : 5 } } })";
+    ExpectInEveryRoom(kNests, Nests{1, {{{5}}}, {{{5}}}, 2},
+                      R"({ "A" : 1, "B" : )" + nested + R"(, "C" : )" + nested + R"(, "D" : 2 })");
+}
+
 NAMES(kModes, kExact.OutsideWrites("none"),
       {
           {1, "Automatic"},
