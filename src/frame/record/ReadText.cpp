@@ -384,15 +384,14 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
     case Plainly::Named: {
         if (*p != '"') return nullptr;
         auto* const field = reinterpret_cast<char*>(at);
-        const auto isCopied = [&](std::string_view content) {
-            return node.readPlainly == Plainly::Raw || text_.call.parser.text().isCopyOf(content);
-        };
 #if ORRERY_SSE2
-        if (end - p > static_cast<std::ptrdiff_t>(TextHead::kSize)) {
+        if (node.readPlainly != Plainly::Named && end - p > static_cast<std::ptrdiff_t>(TextHead::kSize)) {
             const TextHead head(p + 1);
             const std::size_t size = head.Stop();
-            if (size < TextHead::kSize && node.readPlainly != Plainly::Named && p[1 + size] == '"'
-                && isCopied({p + 1, size}) && head.Put(field, size, node.elementSize)) {
+            const auto isCopied = [&] {
+                return node.readPlainly == Plainly::Raw || text_.call.parser.text().isCopyOf({p + 1, size});
+            };
+            if (size < TextHead::kSize && p[1 + size] == '"' && isCopied() && head.Put(field, size, node.elementSize)) {
                 raiseFlag();
                 return p + size + 2;
             }
