@@ -86,6 +86,11 @@ int main(int argc, char** argv) {
             argv[kept++] = argv[i];
     }
     argc = kept;
+    if (table && argc > 1) {
+        std::fprintf(stderr, "orrery_bench: '%s' is nothing that --table takes; it takes --quick and --only=PART\n",
+                     argv[1]);
+        return 2;
+    }
 
     if (!SelfTest()) {
         std::fprintf(stderr, "the ways under comparison do not do the same; no figures\n");
