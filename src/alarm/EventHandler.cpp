@@ -46,24 +46,23 @@ void WriteDoorActions(const Field& field, const std::byte* record, WriteCall& ca
 }
 
 constexpr std::uint32_t kMostDoors = 32;
-constexpr std::size_t kDoorRoom = 24 + kNameRoom;
+constexpr std::string_view kDoorOpened = R"({ "Operation" : )";
+constexpr std::string_view kDoorClosed = " }";
+constexpr std::size_t kDoorRoom = json::Hand::kSeparator + kDoorOpened.size() + kNameRoom + kDoorClosed.size();
 char* PutDoorActions(const Field& field, const std::byte* record, char* to) {
-    static constexpr std::string_view kOpened = R"({ "Operation" : )";
     const auto count = std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, field.dims[0]);
     if (count == 0 || count > kMostDoors) return nullptr;
     char* next = to;
     for (std::int64_t door = 0; door < count; ++door) {
         const auto action = Load<std::int32_t>(record + field.offset + door * std::int64_t{sizeof(std::int32_t)});
         char* const opened = json::Hand::Separate(next);
-        std::memcpy(opened, kOpened.data(), kOpened.size());
-        next = PutNamed(opened + kOpened.size(), kDoorActions, action);
+        std::memcpy(opened, kDoorOpened.data(), kDoorOpened.size());
+        next = PutNamed(opened + kDoorOpened.size(), kDoorActions, action);
         if (next == nullptr) return nullptr;
-        std::memcpy(next, " }", 2);
-        next += 2;
+        std::memcpy(next, kDoorClosed.data(), kDoorClosed.size());
+        next += kDoorClosed.size();
     }
-    std::memcpy(to, "[ ", 2);
-    std::memcpy(next, " ]", 2);
-    return next + 2;
+    return json::Hand::PutBrackets(to, next);
 }
 
 // ---- The week over the schedule: seven rows from the one, a holiday row from the other ----
@@ -117,7 +116,7 @@ void WriteCountedKeys(const Field& field, const std::byte* record, WriteCall& ca
 
 constexpr CustomCodec kDoorActionList{ReadDoorActions, WriteDoorActions,
                                       R"([{"Operation":"Open"},{"Operation":"CloseAlways"}])", PutDoorActions,
-                                      kMostDoors* kDoorRoom};
+                                      kMostDoors* kDoorRoom + json::Hand::kSeparator};
 constexpr CustomCodec kWeekOverSchedule{nullptr, WriteWeek};
 constexpr CustomCodec kRuleWeekOverSchedule{nullptr, WriteRuleWeek};
 constexpr CustomCodec kCountedKeys{ReadCountedKeys, WriteCountedKeys};

@@ -50,9 +50,7 @@ char* PutClosedCorners(const Field& field, const std::byte* record, char* to) {
         const auto x = MEMBER(corner, CFG_POLYGON, nX), y = MEMBER(corner, CFG_POLYGON, nY);
         next = json::Pen::PutPair(json::Hand::Separate(next), x, y);
     }
-    std::memcpy(to, "[ ", 2);
-    std::memcpy(next, " ]", 2);
-    return next + 2;
+    return json::Hand::PutBrackets(to, next);
 }
 
 } // namespace

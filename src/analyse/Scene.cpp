@@ -44,9 +44,7 @@ char* PutClockTimes(const Field& field, const std::byte* record, char* to) {
         next = JsonParser::PutClockTime(json::Hand::Separate(next), record + field.offset + i * sizeof(CFG_CLOCK_TIME));
         if (next == nullptr) return nullptr;
     }
-    std::memcpy(to, "[ ", 2);
-    std::memcpy(next, " ]", 2);
-    return next + 2;
+    return json::Hand::PutBrackets(to, next);
 }
 
 // ---- Details ----

@@ -13,8 +13,7 @@ namespace {
 
 using scan::Scanner;
 
-constexpr int kSectionFields = 7;
-static_assert(kSectionFields == scan::kMostFields);
+constexpr int kSectionFields = scan::kMostFields;
 constexpr char kSectionSeparators[] = " ::-::";
 constexpr unsigned char kSectionWidths[kSectionFields] = {0, 2, 2, 2, 2, 2, 2};
 constexpr unsigned char kAnyWidths[kSectionFields] = {};
@@ -195,9 +194,7 @@ constexpr std::size_t DayRoom(int sections) {
         }
         next = text.Put(next);
     }
-    std::memcpy(to, "[ ", 2);
-    std::memcpy(next, " ]", 2);
-    return next + 2;
+    return json::Hand::PutBrackets(to, next);
 }
 
 // The least of a caller's bound and what the document has; the bound is at least 1 here.

@@ -90,7 +90,7 @@ class Pen {
 // a writer may move its text into a larger block.
 class Hand {
   public:
-    static constexpr std::size_t kSeparator = 2;
+    static constexpr std::size_t kSeparator = TextWriter::kSeparator;
     static constexpr std::size_t kNotFirst = static_cast<std::size_t>(-1);
 
     explicit Hand(TextWriter& out) noexcept : out_(out) {}
@@ -155,6 +155,14 @@ class Hand {
     static char* Separate(char* at) noexcept {
         std::memcpy(at, ", ", kSeparator);
         return at + kSeparator;
+    }
+
+    // Makes an array of the elements between the two places, of which the first has `, ` in front of it; takes two
+    // bytes more.
+    static char* PutBrackets(char* first, char* next) noexcept {
+        std::memcpy(first, "[ ", kSeparator);
+        std::memcpy(next, " ]", kSeparator);
+        return next + kSeparator;
     }
 
   private:

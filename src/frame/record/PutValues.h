@@ -98,13 +98,12 @@ constexpr std::size_t MaskRoom(std::size_t size) {
     return 8 * size * (json::Hand::kSeparator + digits) + 8;
 }
 inline char* PutMask(char* to, const std::byte* at, std::size_t size) noexcept {
-    std::memcpy(to, "[ ", 2);
     char* next = to;
     std::uint32_t number = 0;
     const auto put = [&](auto bits) {
         for (; bits != 0; bits &= bits - 1) {
-            std::memcpy(next, ", ", 2);
-            next = json::PutDigits(next + 2, number + static_cast<std::uint32_t>(std::countr_zero(bits)));
+            const auto bit = static_cast<std::uint32_t>(std::countr_zero(bits));
+            next = json::PutDigits(json::Hand::Separate(next), number + bit);
         }
     };
     // Two words at once; most of a mask is zero.
@@ -114,10 +113,7 @@ inline char* PutMask(char* to, const std::byte* at, std::size_t size) noexcept {
             put(bits);
     }
     if (number / 8 < size) put(Load<std::uint32_t>(at + number / 8));
-    std::memcpy(to, "[ ", 2);
-    if (next == to) next += 2;
-    std::memcpy(next, " ]", 2);
-    return next + 2;
+    return json::Hand::PutBrackets(to, next != to ? next : to + json::Hand::kSeparator);
 }
 
 // A record that stands as an array of 32-bit numbers.
