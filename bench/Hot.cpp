@@ -81,7 +81,7 @@ void HotLines(const Table& table, AlarmBench& alarm, EncodeBench& encode, RuleBe
         const Ratio whole = table.Compare(alarm.texts.size(), parse, [&](std::size_t i) { return alarm.Clear(i); });
         const Ratio bare = table.Compare(alarm.texts.size(), parse, alarmTexts.call());
         const double ours = whole.ours - whole.theirs;
-        Table::Print(name, {bare.theirs / ours, ours, bare.theirs}, 1 / 3.0);
+        Table::Print(name, {bare.theirs / ours, ours, bare.theirs}, 1 / 2.0);
     }
 }
 

@@ -51,6 +51,15 @@ class JsonParser {
     static bool GetTimeSection(const json::Value& value, CFG_TIME_SECTION* section) noexcept;
     // As many of the leading values as are sections in the form that nearly all devices write; how many.
     static std::size_t GetUsualSections(std::span<const json::Value> values, CFG_TIME_SECTION* sections) noexcept;
+    // The same of a list of days straight from the text, from its bracket at `p` on, which is in front of `end`; what
+    // there is no place for is passed over. The byte behind it; null as soon as anything else comes, and what was in
+    // front of that is read.
+    struct UsualDays {
+        std::uint32_t count = 0; // that came
+        bool areFull = true;     // each had as many sections as there are columns, or more
+    };
+    static const char* ReadUsualDays(const char* p, const char* end, Arena& arena, CFG_TIME_SECTION* sections,
+                                     std::uint32_t rows, std::uint32_t columns, UsualDays& days) noexcept;
     static void SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept;
     // A matrix, row-major with `columns` sections a row, "%d %d:%d:%d-%d:%d:%d"; the first bad cell ends it with false.
     static bool GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sections, int rows, int columns,

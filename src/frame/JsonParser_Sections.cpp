@@ -2,6 +2,7 @@
 #include "frame/JsonParser.h"
 #include "frame/JsonParser_Scan.h"
 #include "frame/json/Pen.h"
+#include "frame/json/Tokens.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -22,69 +23,62 @@ constexpr unsigned char kAnyWidths[kSectionFields] = {};
 constexpr std::size_t kScheduleHoliday = offsetof(CFG_TIME_SCHEDULE, bEnableHoliday);
 constexpr std::size_t kScheduleSections = offsetof(CFG_TIME_SCHEDULE, stuTimeSection);
 
-// Nearly every device writes sections with two digits a field and a flag of one, or of two; and most of a day's and of
-// a week's sections are like the one before.
-class UsualSections {
-  public:
-    bool Read(std::string_view text, CFG_TIME_SECTION* section) noexcept {
-        if (text.size() != kSize && text.size() != kSize + 1) return false;
-        const std::size_t more = text.size() - kSize;
-        const char* const t = text.data() + more;
-        const Bytes bytes{Word(t), Word(t + 8), Word(t + kSize - 8)};
-        auto* const at = reinterpret_cast<std::byte*>(section);
-        if (more == 0 && section_ != nullptr && bytes_.Are(bytes)) {
-            Repeat(at);
-            return true;
-        }
-        std::uint64_t bad = 0;
-        const auto begin = scan::ReadClock(t + 2, bad);
-        const auto end = scan::ReadClock(t + 11, bad);
-        if ((bad & scan::kHighBits) != 0 || !scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-') return false;
-        if (more != 0 && !scan::IsDigit(text[0])) return false;
-        // Each straight into its place: gathered first, they would be copied by wider loads that wait for the stores.
-        const auto put = [at](std::size_t field, std::int32_t number) { std::memcpy(at + 4 * field, &number, 4); };
-        put(0, t[0] - '0' + (more != 0 ? 10 * (text[0] - '0') : 0));
-        put(1, begin.hour);
-        put(2, begin.minute);
-        put(3, begin.second);
-        put(4, end.hour);
-        put(5, end.minute);
-        put(6, end.second);
-        section_ = more == 0 ? at : nullptr;
-        bytes_ = bytes;
-        return true;
-    }
+// Nearly every device writes sections so: "1 08:00:00-17:30:00", with a flag of one digit, or of two.
+constexpr std::size_t kUsualSize = 19;
+inline bool ReadUsual(const char* text, std::size_t size, CFG_TIME_SECTION* section) noexcept {
+    if (size != kUsualSize && size != kUsualSize + 1) return false;
+    const bool isLong = size != kUsualSize;
+    const char* const t = text + (isLong ? 1 : 0);
+    const char* const begin = t + 2;
+    const char* const end = t + 11;
+    if (!scan::IsDigit(t[0]) || t[1] != ' ' || t[10] != '-' || (isLong && !scan::IsDigit(text[0]))) return false;
+    const int mask = t[0] - '0' + (isLong ? 10 * (text[0] - '0') : 0);
+    auto* const at = reinterpret_cast<std::byte*>(section);
+#if ORRERY_SSE2
+    const auto load = [](const char* from) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(from)); };
+    const auto both = [](std::uint64_t clock) { return _mm_set1_epi64x(static_cast<long long>(clock)); };
+    // Of both clocks, letters from the lowest up: what is left of a digit is its value, of a colon nothing.
+    const __m128i digits = _mm_xor_si128(_mm_unpacklo_epi64(load(begin), load(end)), both(0x30303A30303A3030));
+    const __m128i beyond = _mm_subs_epu8(digits, both(0x0909000909000909));
+    if (_mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) != 0xFFFF) return false;
+    const __m128i tenfold = _mm_add_epi8(_mm_slli_epi64(digits, 3), _mm_slli_epi64(digits, 1));
+    const __m128i pairs = _mm_add_epi8(tenfold, _mm_srli_epi64(digits, 8)); // of each letter and the next
+    // Hours, minutes, nothing and seconds of each, then nothing in front of them.
+    const __m128i numbers = _mm_or_si128(_mm_and_si128(pairs, both(0x00FF0000000000FF)),
+                                         _mm_and_si128(_mm_srli_epi64(pairs, 8), both(0x0000000000FF0000)));
+    constexpr int kInOrder = _MM_SHUFFLE(3, 1, 0, 2);
+    const __m128i inOrder = _mm_shufflehi_epi16(_mm_shufflelo_epi16(numbers, kInOrder), kInOrder);
+    const __m128i whole = _mm_insert_epi16(inOrder, mask, 0);
+    // The second overlaps the last number of the first.
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(at + 12), _mm_unpackhi_epi16(whole, _mm_setzero_si128()));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(at), _mm_unpacklo_epi16(whole, _mm_setzero_si128()));
+#else
+    std::uint64_t bad = 0;
+    const auto first = scan::ReadClock(begin, bad);
+    const auto last = scan::ReadClock(end, bad);
+    if ((bad & scan::kHighBits) != 0) return false;
+    const std::int32_t fields[kSectionFields] = {mask,      first.hour,  first.minute, first.second,
+                                                 last.hour, last.minute, last.second};
+    scan::StoreFields(at, fields, kSectionFields);
+#endif
+    return true;
+}
 
-  private:
-    static constexpr std::size_t kSize = 19; // "1 08:00:00-17:30:00"
-    struct Bytes {
-        std::uint64_t first, middle, last;
-
-        bool Are(const Bytes& other) const noexcept {
-            return ((first ^ other.first) | (middle ^ other.middle) | (last ^ other.last)) == 0;
-        }
-    };
-
-    void Repeat(std::byte* at) const noexcept {
-        for (const std::byte *from = section_, *const stop = from + sizeof(CFG_TIME_SECTION); from != stop; from += 4) {
-            std::memcpy(at, from, 4);
-            at += 4;
-            asm volatile("" ::: "memory"); // or they are put together to wider loads
-        }
-    }
-
-    const std::byte* section_ = nullptr; // that of the text before, while it can be repeated
-    Bytes bytes_;
-};
-
-bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SECTION* section,
-                 UsualSections& usual) noexcept {
-    if (usual.Read(text, section)) return true;
+bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SECTION* section) noexcept {
+    if (ReadUsual(text.data(), text.size(), section)) return true;
     std::int32_t fields[kSectionFields];
     Scanner scanner(text);
     const int count = scan::Fields(scanner, kSectionFields, kSectionSeparators, widths, fields);
     if (count != 0) scan::StoreFields(section, fields, count);
     return count == kSectionFields;
+}
+
+// The usual section in quotes at `p`: the byte behind it, or null.
+inline const char* ReadUsualText(const char* p, const char* end, CFG_TIME_SECTION* section) noexcept {
+    constexpr std::ptrdiff_t kQuoted = kUsualSize + 2;
+    if (end - p <= kQuoted || *p != '"') return nullptr; // one of two digits may be longer by one
+    const std::size_t size = kUsualSize + (p[kQuoted - 1] == '"' ? 0 : 1);
+    return p[size + 1] == '"' && ReadUsual(p + 1, size, section) ? p + size + 2 : nullptr;
 }
 
 // Of a section in quotes.
@@ -117,7 +111,7 @@ struct SectionBytes {
 // loaded at once before all of it has reached the cache, and the section before often comes again.
 class SectionText {
   public:
-    // The counterpart of UsualSections: a week has 42 of them or 70. False when a field has more digits than usual.
+    // The counterpart of ReadUsual: a week has 42 of them or 70. False when a field has more digits than usual.
     bool Set(const SectionBytes& section) noexcept {
 #if ORRERY_SSE2
         // Eight numbers, the second of both clocks twice: those of the first clock, then those of the other.
@@ -205,16 +199,43 @@ int Limit(int bound, std::uint32_t size) noexcept {
 } // namespace
 
 bool JsonParser::GetTimeSection(const json::Value& value, CFG_TIME_SECTION* section) noexcept {
-    UsualSections usual;
-    return section != nullptr && ReadSection(value.asString(), kSectionWidths, section, usual);
+    return section != nullptr && ReadSection(value.asString(), kSectionWidths, section);
 }
 
 std::size_t JsonParser::GetUsualSections(std::span<const json::Value> values, CFG_TIME_SECTION* sections) noexcept {
-    UsualSections usual;
     std::size_t count = 0;
-    while (count < values.size() && usual.Read(values[count].asString(), sections + count))
-        ++count;
+    for (; count < values.size(); ++count) {
+        const std::string_view text = values[count].asString();
+        if (!ReadUsual(text.data(), text.size(), sections + count)) break;
+    }
     return count;
+}
+
+const char* JsonParser::ReadUsualDays(const char* p, const char* end, Arena& arena, CFG_TIME_SECTION* sections,
+                                      std::uint32_t rows, std::uint32_t columns, UsualDays& days) noexcept {
+    days = {};
+    json::Step step = json::FirstEntry(p, end, ']');
+    if (!step.more) return nullptr;
+    for (; step.more; step = json::NextEntry(p, end, ']')) {
+        p = step.at;
+        if (days.count++ >= rows) {
+            p = json::SkipValue(p, end, arena);
+        } else {
+            if (*p != '[') return nullptr;
+            json::Step cell = json::FirstEntry(p, end, ']');
+            std::uint32_t used = 0;
+            for (; cell.more; cell = json::NextEntry(p, end, ']')) {
+                p = used == columns ? json::SkipValue(cell.at, end, arena)
+                                    : ReadUsualText(cell.at, end, sections + used++);
+                if (p == nullptr) return nullptr;
+            }
+            days.areFull = days.areFull && used == columns;
+            sections += columns;
+            p = cell.at;
+        }
+        if (p == nullptr) return nullptr;
+    }
+    return step.at;
 }
 
 void JsonParser::SetTimeSection(json::TextWriter& out, const CFG_TIME_SECTION* section) noexcept {
@@ -237,12 +258,11 @@ bool JsonParser::GetTimeSchedule(const json::Value& value, CFG_TIME_SECTION* sec
     const auto days = value.elements().first(static_cast<std::size_t>(Limit(rows, value.size())));
     const auto count = static_cast<int>(days.size());
     if (rowsRead != nullptr) std::memcpy(rowsRead, &count, sizeof count);
-    UsualSections usual;
     for (const json::Value& day : days) {
         if (day.isArray() && day.size() != 0) {
             CFG_TIME_SECTION* section = sections;
             for (const json::Value& cell : day.elements().first(static_cast<std::size_t>(Limit(columns, day.size())))) {
-                if (!ReadSection(cell.asString(), kAnyWidths, section++, usual)) return false;
+                if (!ReadSection(cell.asString(), kAnyWidths, section++)) return false;
             }
         }
         sections += columns;
@@ -307,10 +327,9 @@ void JsonParser::SetHolidaySchedule(json::TextWriter& out, const CFG_TIME_SCHEDU
 
 bool JsonParser::GetTimeSectionList(const json::Value& value, CFG_TIME_SECTION* sections, int limit) noexcept {
     if (sections == nullptr || limit < 1) return false;
-    UsualSections usual;
     for (const json::Value& element : value.elements()) {
         if (limit-- == 0) break;
-        ReadSection(element.asString(), kAnyWidths, sections++, usual);
+        ReadSection(element.asString(), kAnyWidths, sections++);
     }
     return true;
 }

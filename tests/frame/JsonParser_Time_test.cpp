@@ -425,6 +425,40 @@ TEST(TimeSectionList, ThoseOfTheUsualFormAreTheLeadingOnes) {
     EXPECT_EQ(JsonParser::GetUsualSections({}, nullptr), 0u);
 }
 
+TEST(TimeSectionList, DaysOfTheTextAreReadUpToWhatIsNotUsual) {
+    CFG_TIME_SECTION sections[2][2];
+    JsonParser::UsualDays days;
+    const auto read = [&](const std::string& array) {
+        for (auto& row : sections) {
+            for (CFG_TIME_SECTION& section : row)
+                section = Filled(kBefore);
+        }
+        const std::string text = array + ", more of the text";
+        StackArena<256> arena;
+        const char* const p =
+            JsonParser::ReadUsualDays(text.data(), text.data() + text.size(), arena, &sections[0][0], 2, 2, days);
+        return p == nullptr ? -1 : static_cast<int>(p - text.data()) - static_cast<int>(array.size());
+    };
+    EXPECT_EQ(read(Matrix(2, 2)), 0);
+    EXPECT_EQ(days.count, 2u);
+    EXPECT_TRUE(days.areFull);
+    EXPECT_TRUE(sections[1][1] == kWorkday);
+    EXPECT_EQ(read(Matrix(3, 3, "\"12 08:00:00-17:30:00\"")), 0);
+    EXPECT_EQ(days.count, 3u);
+    EXPECT_TRUE(days.areFull);
+    EXPECT_TRUE(sections[1][1] == (CFG_TIME_SECTION{12, 8, 0, 0, 17, 30, 0}));
+    EXPECT_EQ(read("[ [ \"1 08:00:00-17:30:00\" ], [ ] ]"), 0);
+    EXPECT_EQ(days.count, 2u);
+    EXPECT_FALSE(days.areFull);
+    EXPECT_TRUE(sections[0][0] == kWorkday);
+    EXPECT_TRUE(sections[0][1] == Filled(kBefore));
+    EXPECT_EQ(read("[ [ \"1 08:00:00-17:30:00\", 5 ] ]"), -1);
+    EXPECT_TRUE(sections[0][0] == kWorkday);
+    EXPECT_EQ(read("[]"), -1);
+    EXPECT_EQ(read("[ null ]"), -1);
+    EXPECT_EQ(read("[ [ \"1 08:00:00-17:30:00\" ]"), -1);
+}
+
 TEST(TimeSectionList, StopsAtItsLimit) {
     const ParsedText document("[ \"1 08:00:00-17:30:00\", \"1 08:00:00-17:30:00\" ]");
     CFG_TIME_SECTION sections[2] = {Filled(kBefore), Filled(kBefore)};

@@ -253,6 +253,63 @@ TABLE(kLabels, Labels,
           FIELD(guard),
       });
 
+// Tuples and masks of every kind of element, by both roads.
+struct Shapes {
+    CFG_POINT point;
+    CFG_RECT box;
+    CFG_COLOR loose;
+    std::uint32_t mask[2];
+    std::uint32_t looseMask[1];
+    std::uint8_t hasMask;
+    std::uint8_t reserved[3];
+};
+TABLE(kShapes, Shapes,
+      {
+          FIELD(point, "Point", Record(kPoint)),
+          FIELD(box, "Box", Record(kRect)),
+          FIELD(loose, "Colour", Record(kColor)),
+          FIELD(mask, "Mask", BitMask).SetsAndNeeds(AT(hasMask)),
+          FIELD(looseMask, "Loose", BitMaskLoose).AnyShape(),
+          FIELD(hasMask),
+          FIELD(reserved),
+      });
+
+TEST(TextRoad, ReadsNumbersOfTuplesAndMasksAsADocumentHasThem) {
+    std::string all = "[ ";
+    for (int i = 0; i < 70; ++i)
+        all += std::to_string(i % 7 * 9) + ", "; // more than the mask has bits
+    const std::string many = all + "5 ]";
+    for (const std::string& list :
+         {std::string("[ 1, 2 ]"), std::string("[ 1, 2, 3, 4 ]"), std::string("[1,2]"),
+          std::string("[ 63, 64, 31, 32 ]"), std::string("[ -1, -31, -32, 0 ]"), std::string("[ 1.9, \"2\" ]"),
+          std::string("[ true, null ]"), std::string("[ null, 3, [ 4 ], { \"a\" : 5 } ]"),
+          std::string("[ 2147483647, 4294967295 ]"), std::string("[ 12345678, 123456789, 1234567890, 99999999999 ]"),
+          std::string("[]"), std::string("[ 1, 2, ]"), std::string("[ 1 2 ]"), std::string("{}"), std::string("null"),
+          std::string("5"), many, many + "]"}) {
+        for (const char* const key : {"Box", "Colour", "Loose", "Mask", "Point"}) {
+            const std::string text = Reply("{ \"" + std::string(key) + "\" : " + list + " }");
+            Shapes byText, byDocument;
+            std::memset(static_cast<void*>(&byText), 0x22, sizeof byText);
+            std::memset(static_cast<void*>(&byDocument), 0x22, sizeof byDocument);
+            ReadRoad documentOnly{.documentOnly = true};
+            const auto parse = [&](Shapes& shapes, ReadRoad* road) {
+                return ParseFamily(kShapes, kParse, {text.c_str(), &shapes, sizeof shapes, nullptr, road});
+            };
+            EXPECT_EQ(parse(byText, nullptr), parse(byDocument, &documentOnly)) << text;
+            EXPECT_EQ(std::memcmp(&byText, &byDocument, sizeof byText), 0) << text;
+        }
+    }
+    const Read<Shapes> read(kShapes, kParse,
+                            Reply(R"({ "Box" : [ 1, 20, 300, 8191 ], "Mask" : [ 0, 33, 5 ], "Point" : [ 7, 8 ] })"), 0);
+    EXPECT_TRUE(read.tookText);
+    EXPECT_EQ(read->box.nRight, 300);
+    EXPECT_EQ(read->box.nBottom, 8191);
+    EXPECT_EQ(read->point.nY, 8);
+    EXPECT_EQ(read->mask[0], 0x21u);
+    EXPECT_EQ(read->mask[1], 2u);
+    EXPECT_EQ(read->hasMask, 1);
+}
+
 TEST(TextRoad, PutsTextsOfAnyLengthIntoFieldsOfAnySize) {
     const std::string letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
     std::string all = letters + letters;

@@ -49,6 +49,15 @@ struct FewDigits {
     std::size_t count; // kRoom: there may be more
     std::uint32_t number;
 };
+// The number of the values of `count` digits, 1 to 7, the first lowest; what is above them does not count.
+constexpr std::uint32_t NumberOfDigits(std::uint64_t bytes, unsigned count) noexcept {
+    bytes <<= 64 - 8 * count; // zeros in front make them eight
+    bytes = bytes * 10 + (bytes >> 8);
+    constexpr std::uint64_t kPair = 0x000000FF000000FFu;
+    bytes = (bytes & kPair) * (100 + (std::uint64_t{1000000} << 32))
+            + ((bytes >> 16) & kPair) * (1 + (std::uint64_t{10000} << 32));
+    return static_cast<std::uint32_t>(bytes >> 32);
+}
 inline FewDigits ReadFewDigits(const char* p) noexcept {
     constexpr std::uint64_t kEach = 0x0101010101010101u;
     std::uint64_t bytes;
@@ -59,12 +68,7 @@ inline FewDigits ReadFewDigits(const char* p) noexcept {
     if (others == 0) return {FewDigits::kRoom, 0};
     const auto count = static_cast<unsigned>(std::countr_zero(others)) / 8;
     if (count == 0) return {0, 0};
-    bytes <<= 64 - 8 * count; // zeros in front make them eight
-    bytes = bytes * 10 + (bytes >> 8);
-    constexpr std::uint64_t kPair = 0x000000FF000000FFu;
-    bytes = (bytes & kPair) * (100 + (std::uint64_t{1000000} << 32))
-            + ((bytes >> 16) & kPair) * (1 + (std::uint64_t{10000} << 32));
-    return {count, static_cast<std::uint32_t>(bytes >> 32)};
+    return {count, NumberOfDigits(bytes, count)};
 }
 
 // Reads the integer of up to nine digits at `p`. The byte behind it; null for any other value.
@@ -92,6 +96,62 @@ inline const char* ReadShortInt(const char* p, const char* end, std::int32_t& nu
     }
     number = negative ? -magnitude : magnitude;
     return p == digits ? nullptr : p;
+}
+
+// Reads the array of exactly `count` numbers, at least one, at `p` when all of it stands in the next kFewNumbersText
+// bytes and is written as most are: no signs, up to seven digits each, blanks where any are. One look finds all
+// numbers, where otherwise each had to wait for the end of the one before. The byte behind it; null for anything else,
+// which may be such an array none the less.
+inline constexpr std::ptrdiff_t kFewNumbersText = 32;
+inline const char* ReadFewNumbers(const char* p, const char* end, std::uint32_t count, std::int32_t* numbers) noexcept {
+#if ORRERY_SSE2
+    if (end - p < kFewNumbersText + static_cast<std::ptrdiff_t>(FewDigits::kRoom)) return nullptr;
+    const auto load = [p](int at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + at)); };
+    const __m128i low = load(0), high = load(16);
+    const auto both = [](__m128i first, __m128i second) {
+        return static_cast<std::uint32_t>(_mm_movemask_epi8(first))
+               | static_cast<std::uint32_t>(_mm_movemask_epi8(second)) << 16;
+    };
+    const auto each = [&](char byte) {
+        const __m128i all = _mm_set1_epi8(byte);
+        return both(_mm_cmpeq_epi8(low, all), _mm_cmpeq_epi8(high, all));
+    };
+    const auto isDigit = [](__m128i bytes) {
+        const __m128i value = _mm_sub_epi8(bytes, _mm_set1_epi8('0'));
+        return _mm_cmpeq_epi8(_mm_min_epu8(value, _mm_set1_epi8(9)), value);
+    };
+    const std::uint32_t closes = each(']');
+    if (closes == 0) return nullptr;
+    const auto close = static_cast<unsigned>(std::countr_zero(closes));
+    const std::uint32_t inside = ((std::uint32_t{1} << close) - 1) & ~std::uint32_t{1};
+    const std::uint32_t digits = both(isDigit(low), isDigit(high)) & inside;
+    std::uint32_t commas = each(',') & inside;
+    if ((digits | commas | (each(' ') & inside)) != inside) return nullptr;
+    std::uint32_t starts = digits & ~(digits << 1);
+    std::uint32_t ends = ~digits & (digits << 1);
+    const auto take = [](std::uint32_t& bits) {
+        const auto first = static_cast<unsigned>(std::countr_zero(bits));
+        bits &= bits - 1;
+        return first;
+    };
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (starts == 0) return nullptr;
+        const unsigned start = take(starts), behind = take(ends);
+        if (behind - start >= FewDigits::kRoom) return nullptr;
+        if (i + 1 != count) {
+            if (commas == 0 || starts == 0) return nullptr;
+            const unsigned comma = take(commas);
+            if (comma < behind || comma > static_cast<unsigned>(std::countr_zero(starts))) return nullptr;
+        }
+        std::uint64_t bytes;
+        std::memcpy(&bytes, p + start, sizeof bytes);
+        numbers[i] = static_cast<std::int32_t>(NumberOfDigits(bytes ^ '0' * 0x0101010101010101u, behind - start));
+    }
+    return (starts | commas) == 0 ? p + close + 1 : nullptr;
+#else
+    static_cast<void>(p), static_cast<void>(end), static_cast<void>(count), static_cast<void>(numbers);
+    return nullptr;
+#endif
 }
 
 // A place in an open container: in front of its next entry, behind its end, or nowhere in what is no JSON.

@@ -79,6 +79,8 @@ struct Node {
     bool needsAbsent : 1 = false; // looked at also when the key is absent
     // For reading from the text:
     bool listed : 1 = false;  // an array that says nothing but its elements and their count
+    bool week : 1 = false;    // days of sections, a list or one value, of which the words say no more
+    bool mask : 1 = false;    // bits, of which the words say no more
     bool shared : 1 = false;  // the node behind it, or in front of it, has the same key
     bool ordered : 1 = false; // what it stores depends on which of it and another node comes first
     // For writing:

@@ -30,15 +30,9 @@ bool StartPointed(const Field& field, std::byte* at, ReadCall& call) noexcept {
 namespace {
 
 void ReadBitMask(const Field& field, const Value& value, std::byte* at) noexcept {
-    const std::int32_t bits = static_cast<std::int32_t>(field.dims[0]) * 32;
-    const auto elements = value.elements();
-    const auto count = std::min<std::size_t>(elements.size(), static_cast<std::size_t>(bits));
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::int32_t number = elements[i].asInt();
-        if (number >= bits || number < (field.kind == Kind::BitMaskLoose ? -31 : 0)) continue;
-        std::byte* const word = at + static_cast<std::size_t>(number / 32) * 4; // -31 to -1 divide to word 0
-        Store(word, Load<std::uint32_t>(word) | std::uint32_t{1} << (static_cast<std::uint32_t>(number) & 31));
-    }
+    const std::size_t bits = std::size_t{field.dims[0]} * 32;
+    for (const Value& element : value.elements().first(std::min<std::size_t>(value.elements().size(), bits)))
+        SetBit(field, at, element.asInt());
 }
 
 void ReadSwitches(const Field& field, const Value& value, std::byte* at) noexcept {

@@ -17,6 +17,13 @@ struct Elements {
 Elements ElementsOf(const Field& field, std::byte* record, std::uint32_t listSize) noexcept;
 // What an element behind a pointer starts with. False when it must not be touched.
 bool StartPointed(const Field& field, std::byte* at, ReadCall& call) noexcept;
+// One number of a mask at `at`; what the mask has no bit for is passed over.
+inline void SetBit(const Field& field, std::byte* at, std::int32_t number) noexcept {
+    const std::int32_t bits = static_cast<std::int32_t>(field.dims[0]) * 32;
+    if (number >= bits || number < (field.kind == Kind::BitMaskLoose ? -31 : 0)) return;
+    std::byte* const word = at + static_cast<std::size_t>(number / 32) * 4; // -31 to -1 divide to word 0
+    Store(word, Load<std::uint32_t>(word) | std::uint32_t{1} << (static_cast<std::uint32_t>(number) & 31));
+}
 // The value at a node's key; null when there is none.
 void ReadNode(const Table& table, const Node& node, const json::Value& value, std::byte* record,
               ReadCall& call) noexcept;

@@ -3,10 +3,12 @@
 #include "frame/json/Reader.h"
 #include "frame/json/Tokens.h"
 #include "frame/record/ReadSteps.h"
+#include "frame/record/ReadWeek.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <new>
 
 namespace orrery::record {
 
@@ -48,12 +50,15 @@ const char* ReadAny(const char* p, Value& value, const TextCall& text) noexcept 
 bool Stands(const char* keyText, std::size_t size, const char* p, const char* end) noexcept {
 #if ORRERY_SSE2
     static_assert(kKeyTextSlack >= 16);
-    if (size <= 16 && end - p >= 16) [[likely]] {
-        const __m128i ours = _mm_loadu_si128(reinterpret_cast<const __m128i*>(keyText));
-        const __m128i theirs = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-        const auto same = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(ours, theirs)));
-        return (~same & ((1u << size) - 1)) == 0;
-    }
+    const auto differs = [=](std::size_t at) {
+        const __m128i ours = _mm_loadu_si128(reinterpret_cast<const __m128i*>(keyText + at));
+        const __m128i theirs = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + at));
+        return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(ours, theirs))) ^ 0xFFFF;
+    };
+    if (size <= 16 && end - p >= 16) [[likely]]
+        return (differs(0) & ((1u << size) - 1)) == 0;
+    if (size <= static_cast<std::size_t>(end - p) && size <= 32 && size > 16)
+        return (differs(0) | differs(size - 16)) == 0;
 #endif
     return static_cast<std::size_t>(end - p) >= size && std::memcmp(keyText, p, size) == 0;
 }
@@ -138,6 +143,22 @@ const char* ReadListText(const Field& field, const char* p, std::byte* record, T
     p = ReadElements(field, 0, p, room, text, counts);
     if (p != nullptr) StoreSlot(field.count, record, field.countUncapped ? counts.size : counts.used);
     return p;
+}
+
+// A mask, bit after bit. Null for anything but so many short numbers as it has bits: some of them may be set, which
+// will be set again.
+const char* ReadMaskText(const Field& field, const char* p, std::byte* record, const TextCall& text) noexcept {
+    std::uint32_t left = field.dims[0] * 32;
+    json::Step step = json::FirstEntry(p, text.end, ']');
+    while (step.more) {
+        std::int32_t number;
+        p = json::ReadShortInt(step.at, text.end, number);
+        if (p == nullptr || left-- == 0) return nullptr;
+        SetBit(field, record + field.offset, number);
+        step = json::NextEntry(p, text.end, ']');
+    }
+    StoreSlot(field.flag, record, 1);
+    return step.at;
 }
 
 // ---- Objects -------------------------------------------------------------------------------------------------------
@@ -247,35 +268,48 @@ const Node* Members::Find(std::string_view key, const char* object, const char* 
     return node;
 }
 
-// Several nodes with one key. All but one may only want to know that it is there; otherwise the value is a document for
-// all of them.
+// Several nodes with one key. All but one may only want to know that it is there, or be written alone; or all may take
+// a week. Otherwise the value is a document for all of them.
 const char* Members::ReadShared(const Node* node, const char* p) noexcept {
     const std::string_view key = table_.keyOf(*node);
     const auto isPresence = [](const Node& one) {
         return one.kind == Kind::Presence && one.readPlainly == Plainly::Element && one.childCount == 0;
     };
+    const auto isWritten = [this](const Node& one) {
+        return one.readPlainly == Plainly::Function && table_.rows[one.row].custom->read == nullptr;
+    };
     const Node* last = node;
     int others = 0;
-    for (; last != end_ && last->shared && table_.keyOf(*last) == key; ++last)
+    bool areWeeks = *p == '[';
+    for (; last != end_ && last->shared && table_.keyOf(*last) == key; ++last) {
+        if (!See(*last)) return nullptr;
+        if (isWritten(*last)) continue;
         others += !isPresence(*last);
+        areWeeks = areWeeks && last->week;
+    }
+    next_ = last;
     if (others == 1 && (*p == '{' || *p == '[')) {
         const char* after = nullptr;
-        for (; next_ != last; ++next_) {
-            if (!See(*next_)) return nullptr;
-            if (isPresence(*next_))
-                ReadNode(table_, *next_, Value::OfBool(true), record_, text_.call);
-            else if ((after = ReadAt(*next_, p)) == nullptr) // a container
+        for (; node != last; ++node) {
+            if (isPresence(*node))
+                ReadNode(table_, *node, Value::OfBool(true), record_, text_.call);
+            else if (!isWritten(*node) && (after = ReadAt(*node, p)) == nullptr) // a container
                 return nullptr;
         }
         return after;
     }
+    if (areWeeks) {
+        Week week;
+        const Node* one = node;
+        while (one != last && (isWritten(*one) || ReadWeek(table_, *one, p, record_, text_, week)))
+            ++one;
+        if (one == last) return week.after;
+    }
     Value value;
     p = ReadAny(p, value, text_);
     if (p == nullptr) return nullptr;
-    for (; next_ != end_ && next_->shared && table_.keyOf(*next_) == key; ++next_) {
-        if (!See(*next_)) return nullptr;
-        ReadNode(table_, *next_, value, record_, text_.call);
-    }
+    for (; node != last; ++node)
+        ReadNode(table_, *node, value, record_, text_.call);
     return p;
 }
 
@@ -421,6 +455,10 @@ const char* Members::ReadAt(const Node& node, const char* p) noexcept {
             return Members(table_, inside, record_, text_).Read(p);
         }
     } else if (*p == '[') {
+        if (Week week; node.week && ReadWeek(table_, node, p, record_, text_, week)) return week.after;
+        if (node.mask) {
+            if (const char* const after = ReadMaskText(table_.rows[node.row], p, record_, text_)) return after;
+        }
         if (node.listed) return ReadListText(table_.rows[node.row], p, record_, text_);
     } else {
         Value value;
@@ -495,29 +533,42 @@ const char* ReadNumbers(const Table& table, const char* p, std::byte* record, co
     std::int32_t numbers[kMostInTuple];
     const Node* const nodes = table.nodes + table.self.first;
     const std::uint32_t wanted = table.self.count;
-    std::uint32_t count = 0;
-    json::Step step = json::FirstEntry(p, text.end, ']');
-    while (step.more) {
-        if (count == wanted || nodes[count].readPlainly != Plainly::Number) return nullptr;
-        p = json::ReadShortInt(step.at, text.end, numbers[count++]);
-        if (p == nullptr) return nullptr;
-        step = json::NextEntry(p, text.end, ']');
+    for (std::uint32_t i = 0; i < wanted; ++i) {
+        if (nodes[i].readPlainly != Plainly::Number) return nullptr;
     }
-    if (step.at == nullptr || count != wanted) return nullptr;
+    const char* after = json::ReadFewNumbers(p, text.end, wanted, numbers);
+    if (after == nullptr) {
+        std::uint32_t count = 0;
+        json::Step step = json::FirstEntry(p, text.end, ']');
+        while (step.more) {
+            if (count == wanted) return nullptr;
+            p = json::ReadShortInt(step.at, text.end, numbers[count++]);
+            if (p == nullptr) return nullptr;
+            step = json::NextEntry(p, text.end, ']');
+        }
+        if (step.at == nullptr || count != wanted) return nullptr;
+        after = step.at;
+    }
     for (std::uint32_t i = 0; i < wanted; ++i)
         Store(record + nodes[i].offset, numbers[i]);
-    return step.at;
+    return after;
 }
 
 // The elements are few, and their number has to be known before the first is read.
 const char* ReadTuple(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
     if (const char* const after = ReadNumbers(table, p, record, text)) return after;
-    Value values[kMostInTuple];
+    alignas(Value) std::byte room[kMostInTuple * sizeof(Value)]; // left uninitialised on purpose
+    auto* const values = reinterpret_cast<Value*>(room);
     const std::uint32_t wanted = table.self.count;
     std::uint32_t count = 0;
     json::Step step = json::FirstEntry(p, text.end, ']');
     while (step.more) {
-        p = count < wanted ? ReadAny(step.at, values[count], text) : json::SkipValue(step.at, text.end, text.arena());
+        if (count >= wanted)
+            p = json::SkipValue(step.at, text.end, text.arena());
+        else if (*step.at == '{' || *step.at == '[')
+            p = json::ParseAt(step.at, text.end, text.arena(), *new (values + count) Value);
+        else
+            p = json::ReadScalar(step.at, text.end, text.arena(), values + count);
         if (p == nullptr) return nullptr;
         ++count;
         step = json::NextEntry(p, text.end, ']');
@@ -525,6 +576,8 @@ const char* ReadTuple(const Table& table, const char* p, std::byte* record, Text
     if (step.at == nullptr || (table.shape == Shape::Tuple && count != wanted)
         || (table.shape == Shape::LongTuple && count < wanted))
         return step.at;
+    for (; count < wanted; ++count)
+        Value::PutNull(values + count);
     for (std::uint32_t i = 0; i < wanted; ++i) {
         const Node& node = table.nodes[table.self.first + i];
         if (node.readPlainly == Plainly::Number)

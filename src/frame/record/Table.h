@@ -209,6 +209,8 @@ struct Tree {
         node.cell = row.cell;
         node.kind = row.kind;
         node.listed = IsPlainList(row);
+        node.week = IsPlainWeek(row);
+        node.mask = IsPlainMask(row);
         node.staysNull = node.way == Way::Mask && row.empty == Empty::Null;
         node.unlessBare = node.way == Way::Mask ? row.empty == Empty::NoKey : row.unlessBare;
     }

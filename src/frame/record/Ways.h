@@ -141,5 +141,20 @@ constexpr bool IsPlainList(const Field& row) {
     if (isPointed) return row.kind == Kind::Record && row.capacity.exists();
     return row.rank > 0 && row.kind != Kind::None && row.kind != Kind::Custom && row.kind != Kind::Supplied;
 }
+// The same of an array that the codec takes whole.
+constexpr bool IsPlainWhole(const Field& row) {
+    ReadingWords words = row;
+    words.always = false;
+    words.anyShape = false;
+    return words == ReadingWords{} && static_cast<const ListWords&>(row) == ListWords{} && row.readable;
+}
+// The days of a week, which hold sections.
+constexpr bool IsPlainWeek(const Field& row) {
+    if (row.kind == Kind::TimeSection) return IsPlainList(row) && row.rank == 2 && row.cell != Cell::Pointer;
+    return IsPlainWhole(row) && (row.kind == Kind::Schedule || (row.kind == Kind::HolidaySchedule && row.rank == 0));
+}
+constexpr bool IsPlainMask(const Field& row) {
+    return IsPlainWhole(row) && (row.kind == Kind::BitMask || row.kind == Kind::BitMaskLoose);
+}
 
 } // namespace orrery::record::build

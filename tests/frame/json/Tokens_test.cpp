@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace orrery::json {
 namespace {
@@ -45,6 +46,42 @@ TEST(Tokens, DepthEndsTheWayNotTheProgram) {
     EXPECT_EQ(Judged(nested(kSkipDepth)), 2 * kSkipDepth + 1);
     EXPECT_EQ(Judged(nested(kSkipDepth + 1)), -1);
     EXPECT_EQ(Judged(nested(1000000)), -1);
+}
+
+// As many numbers as wanted of an array; the slow way where the quick one does not see to it.
+TEST(Tokens, FewNumbersAreThoseOfTheArrayOrNothing) {
+    const auto read = [](const std::string& array, std::uint32_t count) {
+        const std::string text = array + std::string(64, ' ');
+        std::vector<std::int32_t> numbers(16, -5);
+        const char* const p = ReadFewNumbers(text.data(), text.data() + text.size(), count, numbers.data());
+        if (p == nullptr) return std::vector<std::int32_t>{};
+        EXPECT_EQ(p - text.data(), static_cast<std::ptrdiff_t>(array.size())) << array;
+        EXPECT_EQ(numbers[count], -5) << array;
+        numbers.resize(count);
+        return numbers;
+    };
+    using Numbers = std::vector<std::int32_t>;
+    if (ORRERY_SSE2) {
+        EXPECT_EQ(read("[ 12, 345 ]", 2), (Numbers{12, 345}));
+        EXPECT_EQ(read("[1,2,3,4]", 4), (Numbers{1, 2, 3, 4}));
+        EXPECT_EQ(read("[  0 ,  8191,7   ]", 3), (Numbers{0, 8191, 7}));
+        EXPECT_EQ(read("[ 9999999, 1000000, 7654321 ]", 3), (Numbers{9999999, 1000000, 7654321}));
+        EXPECT_EQ(read("[ 007 ]", 1), (Numbers{7}));
+        EXPECT_EQ(read("[1,2,3,4,5,6,7,8,9,1,2,3,4,5,6]", 15), (Numbers{1, 2, 3, 4, 5, 6, 7, 8, 9, 1, 2, 3, 4, 5, 6}));
+    }
+    for (const char* const other : {"[ 1, 2, 3 ]",   "[ 1 ]",           "[]",
+                                    "[ ]",           "[ , 1, 2 ]",      "[ 1, 2, ]",
+                                    "[ 1,, 2 ]",     "[ 1 2 ]",         "[ 1 2, ]",
+                                    "[ ,1 2 ]",      "[ -1, 2 ]",       "[ 1.5, 2 ]",
+                                    "[ 1, 2e1 ]",    "[ 12345678, 1 ]", "[ 1, \"2\" ]",
+                                    "[ 1, null ]",   "[ [ 1, 2 ] ]",    "[ 1, 2 }",
+                                    "[ 1, /**/ 2 ]", "[ 1,\n2 ]",       "[ 1,                            2 ]"})
+        EXPECT_EQ(read(other, 2), Numbers{}) << other;
+    // Nothing behind the text is looked at.
+    const test::GuardedBuffer guarded(std::string_view("[ 1, 2 ]                "));
+    std::int32_t numbers[2] = {-5, -5};
+    EXPECT_EQ(ReadFewNumbers(guarded.data(), guarded.data() + guarded.size(), 2, numbers), nullptr);
+    EXPECT_EQ(numbers[0], -5);
 }
 
 TEST(Tokens, ShortIntegersAreThoseOfNineDigits) {
