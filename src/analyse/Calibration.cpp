@@ -1,6 +1,7 @@
 #include "analyse/Calibration.h"
 
 #include "frame/json/Pen.h"
+#include "frame/json/Tokens.h"
 
 #include <algorithm>
 #include <cstring>
@@ -53,21 +54,44 @@ char* PutClosedCorners(const Field& field, const std::byte* record, char* to) {
     return json::Hand::PutBrackets(to, next);
 }
 
+const char* ReadClosedCornersText(const Field& field, const char* p, const char* end, std::byte* record) {
+    if (*p != '[') return nullptr;
+    std::byte* corner = record + field.offset;
+    std::int32_t count = 0;
+    json::Step step = json::FirstEntry(p, end, ']');
+    for (; step.more; ++count, corner += sizeof(CFG_POLYGON)) {
+        std::int32_t x, y;
+        if (count == ORRERY_RULE_POINTS || (p = json::ReadShortPair(step.at, end, x, y)) == nullptr) return nullptr;
+        SET_MEMBER(corner, CFG_POLYGON, nX, x);
+        SET_MEMBER(corner, CFG_POLYGON, nY, y);
+        step = json::NextEntry(p, end, ']');
+    }
+    if (step.at != nullptr) StoreSlot(field.count, record, count);
+    return step.at;
+}
+
 } // namespace
 
-constexpr CustomCodec kClosedCorners{ReadClosedCorners, WriteClosedCorners, "[[1,2],[3,4]]", PutClosedCorners,
-                                     kCornersRoom};
+constexpr CustomCodec kClosedCorners{ReadClosedCorners, WriteClosedCorners, "[[1,2],[3,4]]",
+                                     PutClosedCorners,  kCornersRoom,       ReadClosedCornersText};
 
 // ---- Types of areas ----
 
-void ReadAreaTypes(const json::Value& list, std::byte* areas) noexcept {
-    const auto elements = list.elements();
-    const auto read = elements.first(std::min<std::size_t>(elements.size(), ORRERY_CALIBRATE_AREAS));
-    if (std::all_of(read.begin(), read.end(), [](const json::Value& area) { return area["Type"].isNull(); })) return;
-    for (std::uint32_t i = 0; i < kCalibrateTypes.count && i < read.size(); ++i) {
-        if (!EqualsFolded(read[i]["Type"].asString(), kCalibrateTypes.rows[i].text)) continue;
+void AreaTypes::Store(std::byte* areas) const noexcept {
+    if (std::all_of(all, all + count, [](const json::Value* type) { return type->isNull(); })) return;
+    for (std::uint32_t i = 0; i < kCalibrateTypes.count && i < count; ++i) {
+        if (!EqualsFolded(all[i]->asString(), kCalibrateTypes.rows[i].text)) continue;
         SET_MEMBER(areas + i * sizeof(CFG_CALIBRATE_AREA), CFG_CALIBRATE_AREA, nType, kCalibrateTypes.rows[i].code);
     }
+}
+
+void ReadAreaTypes(const json::Value& list, std::byte* areas) noexcept {
+    AreaTypes types;
+    for (const json::Value& area : list.elements()) {
+        if (types.count == ORRERY_CALIBRATE_AREAS) break;
+        types.Set(types.count, area["Type"]);
+    }
+    types.Store(areas);
 }
 
 void ReadAreasInfoTypes(const json::Value& list, std::byte* info, ReadCall&) {

@@ -66,7 +66,19 @@ PART(kCalibrateArea, CFG_CALIBRATE_AREA,
          FIELD(nType, "Type", Names(kCalibrateTypes)).WriteOnly(),
      });
 
-// The types of areas that have been read from the list: each type is known in the place of its code alone.
+// The types of a list's areas: each type is known in the place of its code alone.
+struct AreaTypes {
+    const json::Value* all[ORRERY_CALIBRATE_AREAS];
+    std::uint32_t count = 0; // of the areas up to the last that has a type
+
+    void Set(std::size_t area, const json::Value& type) noexcept {
+        while (count <= area)
+            all[count++] = &json::kNull;
+        all[area] = &type;
+    }
+    // Into areas that have been read.
+    void Store(std::byte* areas) const noexcept;
+};
 void ReadAreaTypes(const json::Value& list, std::byte* areas) noexcept;
 
 // A list of areas that is the value itself.

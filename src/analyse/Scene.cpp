@@ -1,10 +1,13 @@
 #include "analyse/Scene.h"
 
 #include "frame/json/Pen.h"
+#include "frame/json/Tokens.h"
+#include "frame/record/ReadText.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 namespace orrery::scenes {
 
@@ -34,6 +37,21 @@ void WriteClockTimes(const Field& field, const std::byte* record, WriteCall& cal
         JsonParser::SetClockTime(call.out, &time);
     }
     call.out.EndArray();
+}
+
+const char* ReadClockTimesText(const Field& field, const char* p, const char* end, std::byte* record) {
+    if (*p != '[') return nullptr;
+    json::Step step = json::FirstEntry(p, end, ']');
+    for (std::size_t i = 0; step.more; ++i) {
+        constexpr std::ptrdiff_t kQuoted = JsonParser::kClockText;
+        p = step.at;
+        if (i == field.dims[0] || end - p < kQuoted || p[0] != '"' || p[kQuoted - 1] != '"') return nullptr;
+        std::int32_t clock[3];
+        if (!JsonParser::GetUsualClock(p + 1, clock)) return nullptr;
+        std::memcpy(record + field.offset + i * sizeof(CFG_CLOCK_TIME), clock, sizeof clock);
+        step = json::NextEntry(p + kQuoted, end, ']');
+    }
+    return step.at;
 }
 
 constexpr std::size_t kMostClocks = 4;
@@ -162,26 +180,27 @@ struct NumberedArray {
     std::size_t room;
     std::size_t count;
 };
-constexpr NumberedArray kPeriodArray{"TimePeriod", kTimePeriod, offsetof(CFG_ANALYSEGLOBAL_INFO, pTimePeriods),
+constexpr std::string_view kSceneStem = "Scene", kPeriodStem = "TimePeriod", kAreasStem = "CalibrateArea";
+constexpr NumberedArray kPeriodArray{kPeriodStem, kTimePeriod, offsetof(CFG_ANALYSEGLOBAL_INFO, pTimePeriods),
                                      offsetof(CFG_ANALYSEGLOBAL_INFO, nTimePeriodMax),
                                      offsetof(CFG_ANALYSEGLOBAL_INFO, nTimePeriodNum)};
-constexpr NumberedArray kAreasArray{"CalibrateArea", kCalibrateAreas, offsetof(CFG_ANALYSEGLOBAL_INFO, pCalibrates),
+constexpr NumberedArray kAreasArray{kAreasStem, kCalibrateAreas, offsetof(CFG_ANALYSEGLOBAL_INFO, pCalibrates),
                                     offsetof(CFG_ANALYSEGLOBAL_INFO, nCalibrateMax),
                                     offsetof(CFG_ANALYSEGLOBAL_INFO, nCalibrateNum)};
 
 // The entries in front of the first number that is missing are in use.
-void ReadNumbered(const NumberedArray& array, const Value& global, std::byte* record, ReadCall& call) noexcept {
+template <class Object>
+void ReadNumbered(const NumberedArray& array, const Object& global, std::byte* record, ReadCall& call) noexcept {
     const auto room = std::min<std::int32_t>(Load<std::int32_t>(record + array.room), kMostNumbered);
     auto* const first = Load<std::byte*>(record + array.first);
     if (room <= 0 || first == nullptr) return;
     std::int32_t found = room;
     for (std::int32_t i = 0; i < room; ++i) {
-        const Value& value = global[NumberedName(array.stem, static_cast<std::uint32_t>(i + 1))];
-        std::byte* const at = first + static_cast<std::size_t>(i) * array.table.size;
-        if (value.isNull())
+        const auto number = static_cast<std::uint32_t>(i + 1);
+        if (global.Numbered(array.stem, number).isNull())
             found = std::min(found, i);
-        else if (call.Keep(at, array.table.size))
-            ReadRecord(array.table, value, at, call);
+        else
+            global.Read(array, number, first + static_cast<std::size_t>(i) * array.table.size, call);
     }
     Store(record + array.count, found);
 }
@@ -196,13 +215,13 @@ std::uint32_t WrittenOf(const Field& field, const std::byte* record) noexcept {
 
 void WriteNumberedPeriods(const Field& field, const std::byte* record, WriteCall& call) {
     const auto* const first = Load<const std::byte*>(record + field.offset);
-    WriteNumbered("TimePeriod", WrittenOf(field, record), call,
+    WriteNumbered(kPeriodStem, WrittenOf(field, record), call,
                   [&](std::size_t i) { WriteRecord(kTimePeriod, first + i * sizeof(CFG_TIME_PERIOD_INFO), call); });
 }
 
 void WriteNumberedAreas(const Field& field, const std::byte* record, WriteCall& call) {
     const auto* const first = Load<const std::byte*>(record + field.offset);
-    WriteNumbered("CalibrateArea", WrittenOf(field, record), call, [&](std::size_t i) {
+    WriteNumbered(kAreasStem, WrittenOf(field, record), call, [&](std::size_t i) {
         const std::byte* const areas = first + i * sizeof(CFG_CALIBRATE_AREAS_INFO);
         // Devices tell a number without areas from one that is missing by this text.
         if (MEMBER(areas, CFG_CALIBRATE_AREAS_INFO, nAreaNum) <= 0) return call.out.String("null");
@@ -210,11 +229,12 @@ void WriteNumberedAreas(const Field& field, const std::byte* record, WriteCall& 
     });
 }
 
-void ReadNumberedScenes(const Value& global, std::byte* record, ReadCall& call) noexcept {
+template <class Object>
+void ReadNumberedScenes(const Object& global, std::byte* record, ReadCall& call) noexcept {
     std::byte* const first = record + offsetof(CFG_ANALYSEGLOBAL_INFO, stuScenes);
     std::int32_t count = 0;
     for (std::uint32_t i = 0; i + 1 < kMostNumbered; ++i) {
-        const Value& scene = global[NumberedName("Scene", i + 1)];
+        const Value& scene = global.Numbered(kSceneStem, i + 1);
         if (scene.isNull()) break;
         if (!scene.isObject()) continue;
         ReadRecord(kAnalyseScene, scene, first + i * sizeof(CFG_ANALYSE_SCENE_INFO), call);
@@ -225,15 +245,19 @@ void ReadNumberedScenes(const Value& global, std::byte* record, ReadCall& call) 
 
 void WriteNumberedScenes(const Field& field, const std::byte* record, WriteCall& call) {
     const std::int64_t count = std::clamp<std::int64_t>(LoadSlot(field.count, record), 0, kMostNumbered);
-    WriteNumbered("Scene", static_cast<std::uint32_t>(count), call, [&](std::size_t i) {
+    WriteNumbered(kSceneStem, static_cast<std::uint32_t>(count), call, [&](std::size_t i) {
         WriteRecord(kAnalyseScene, record + field.offset + i * sizeof(CFG_ANALYSE_SCENE_INFO), call);
     });
 }
 
 } // namespace
 
-constexpr CustomCodec kClockTimes{ReadClockTimes, WriteClockTimes, R"(["07:10:20","18:30:40"])", PutClockTimes,
-                                  kMostClocks*(json::Hand::kSeparator + JsonParser::kClockText) + 4};
+constexpr CustomCodec kClockTimes{ReadClockTimes,
+                                  WriteClockTimes,
+                                  R"(["07:10:20","18:30:40"])",
+                                  PutClockTimes,
+                                  kMostClocks*(json::Hand::kSeparator + JsonParser::kClockText) + 4,
+                                  ReadClockTimesText};
 constexpr CustomCodec kDetailOfScene{nullptr, WriteDetailOfScene};
 constexpr CustomCodec kReadOfType{};
 constexpr CustomCodec kDetailOfGlobal{nullptr, WriteDetailOfGlobal};
@@ -255,17 +279,176 @@ void ReadSceneOfType(const Value& scene, std::byte* record, ReadCall& call) {
     ReadRecord(kSceneSubDetail, detail, record + offsetof(Scene, stuSubDetail), call);
 }
 
-void ReadGlobalOfTypes(const Value& global, std::byte* record, ReadCall& call) {
+namespace {
+
+// What is asked of a channel's object, once its rows have been read: of the object itself,
+struct WholeGlobal {
+    const Value& object;
+
+    const Value& Detail() const noexcept { return object["Scene"]["Detail"]; }
+    const Value& Numbered(std::string_view stem, std::uint32_t number) const noexcept {
+        return object[NumberedName(stem, number)];
+    }
+    void Read(const NumberedArray& array, std::uint32_t number, std::byte* at, ReadCall& call) const noexcept {
+        if (call.Keep(at, array.table.size)) ReadRecord(array.table, Numbered(array.stem, number), at, call);
+    }
+    void StoreAreaTypes(std::byte* areas) const noexcept { ReadAreaTypes(object["CalibrateArea"], areas); }
+};
+
+// and of what was kept of its text. Entries of the caller's arrays have been read by then.
+struct KeptGlobal : Asides {
+    static constexpr std::size_t kStems = 3;
+    struct Key {
+        std::size_t stem = kStems; // none
+        std::uint32_t number = 0;
+    };
+
+    explicit KeptGlobal(const Asides& asides) noexcept
+        : Asides(asides), areas(record + offsetof(CFG_ANALYSEGLOBAL_INFO, stuCalibrateAreas)) {}
+
+    const Value* detail = nullptr;
+    const Value* numbered[kStems][kMostNumbered] = {}; // those that came
+    std::byte* areas;                                  // whose types are being read
+    AreaTypes types;
+
+    static std::size_t StemOf(std::string_view stem) noexcept { return stem[0] == 'S' ? 0 : stem[0] == 'T' ? 1 : 2; }
+    const Value& Detail() const noexcept { return detail == nullptr ? json::kNull : *detail; }
+    const Value& Numbered(std::string_view stem, std::uint32_t number) const noexcept {
+        const Value* const value = numbered[StemOf(stem)][number - 1];
+        return value == nullptr ? json::kNull : *value;
+    }
+    void Read(const NumberedArray&, std::uint32_t, std::byte*, ReadCall&) const noexcept {}
+    void StoreAreaTypes(std::byte* at) const noexcept { types.Store(at); }
+
+    static Key KeyOf(std::string_view key) noexcept {
+        static constexpr std::string_view kTexts[kStems] = {kSceneStem, kPeriodStem, kAreasStem};
+        const std::size_t stem = StemOf(key);
+        const std::string_view text = kTexts[stem];
+        if (!key.starts_with(text)) return {};
+        const std::string_view digits = key.substr(text.size());
+        if (digits.empty() || digits.size() > 2 || digits[0] == '0') return {};
+        std::uint32_t number = 0;
+        for (const char digit : digits) {
+            if (digit < '0' || digit > '9') return {};
+            number = number * 10 + static_cast<std::uint32_t>(digit - '0');
+        }
+        return number > kMostNumbered ? Key{} : Key{stem, number};
+    }
+};
+
+const Value kAny = Value::OfBool(true);
+
+const Value* KeepDocument(const char*& p, TextCall& text) noexcept {
+    auto* const value = text.arena().Array<Value>(1);
+    if (value == nullptr)
+        p = nullptr;
+    else
+        p = ReadAside(p, *new (value) Value, text);
+    return value;
+}
+
+// The list of areas behind a number, each of which is kept when it comes.
+const char* ReadAreas(KeptGlobal& global, const char* p, std::byte* info, TextCall& text) noexcept {
+    using Info = CFG_CALIBRATE_AREAS_INFO;
+    if (!text.call.Keep(info + offsetof(Info, nAreaNum), sizeof(Info::nAreaNum))) return nullptr;
+    std::byte* const around = std::exchange(global.areas, info + offsetof(Info, stuAreas));
+    const AreaTypes typesAround = std::exchange(global.types, {});
+    std::int32_t count = 0;
+    json::Step step = json::FirstEntry(p, text.end, ']');
+    while (step.more) {
+        if (count < ORRERY_CALIBRATE_AREAS) {
+            std::byte* const area = global.areas + count++ * std::int64_t{sizeof(CFG_CALIBRATE_AREA)};
+            if (!text.call.Keep(area, sizeof(CFG_CALIBRATE_AREA))) return nullptr;
+            p = ReadRecordText(kCalibrateArea, step.at, area, text);
+        } else {
+            p = json::SkipValue(step.at, text.end, text.arena());
+        }
+        if (p == nullptr) return nullptr;
+        step = json::NextEntry(p, text.end, ']');
+    }
+    SET_MEMBER(info, Info, nAreaNum, count);
+    global.types.Store(global.areas);
+    global.types = typesAround;
+    global.areas = around;
+    return step.at;
+}
+
+// An entry of a caller's array: read at once, as long as its key comes once.
+const char* ReadEntry(KeptGlobal& global, const NumberedArray& array, std::uint32_t number, const char* p,
+                      TextCall& text) noexcept {
+    auto* const first = Load<std::byte*>(global.record + array.first);
+    const bool hasRoom =
+        first != nullptr && static_cast<std::int64_t>(number) <= Load<std::int32_t>(global.record + array.room);
+    const bool areAreas = &array == &kAreasArray;
+    if (!hasRoom || *p == 'n' || (areAreas && *p != '[')) return json::SkipValue(p, text.end, text.arena());
+    std::byte* const at = first + (number - 1) * std::size_t{array.table.size};
+    const bool keepsRows = std::exchange(text.keepsRows, false);
+    if (areAreas)
+        p = ReadAreas(global, p, at, text);
+    else
+        p = text.call.Keep(at, array.table.size) ? ReadRecordText(array.table, p, at, text) : nullptr;
+    text.keepsRows = keepsRows;
+    return p;
+}
+
+const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextCall& text) noexcept {
+    auto& global = static_cast<KeptGlobal&>(asides);
+    const Field* const row = unread.row;
+    if (&unread.table == &kCalibrateArea && row != nullptr && row->offset == offsetof(CFG_CALIBRATE_AREA, nType)) {
+        const Value* const type = KeepDocument(p, text);
+        if (p == nullptr) return nullptr;
+        const auto area = static_cast<std::size_t>(unread.record - global.areas) / sizeof(CFG_CALIBRATE_AREA);
+        global.types.Set(area, *type);
+        return p;
+    }
+    if (&unread.table != &kAnalyseGlobal) return json::SkipValue(p, text.end, text.arena());
+    if (row != nullptr && row->offset == offsetof(CFG_ANALYSEGLOBAL_INFO, stuDetail)) {
+        if (*p == '{') {
+            global.detail = KeepDocument(p, text);
+            return p;
+        }
+        // It has no keys, but says that there is a detail.
+        global.detail = *p == 'n' ? nullptr : &kAny;
+        return json::SkipValue(p, text.end, text.arena());
+    }
+    const auto [stem, number] = KeptGlobal::KeyOf(unread.key);
+    if (stem == KeptGlobal::kStems) return json::SkipValue(p, text.end, text.arena());
+    const Value*& value = global.numbered[stem][number - 1];
+    if (value != nullptr) return nullptr;
+    if (stem == KeptGlobal::StemOf(kSceneStem)) {
+        value = KeepDocument(p, text);
+        return p;
+    }
+    value = *p == 'n' ? &json::kNull : &kAny;
+    return ReadEntry(global, stem == KeptGlobal::StemOf(kPeriodStem) ? kPeriodArray : kAreasArray, number, p, text);
+}
+
+template <class Object>
+void FinishGlobal(const Object& global, std::byte* record, ReadCall& call) noexcept {
     using Global = CFG_ANALYSEGLOBAL_INFO;
-    if (global.isNull()) return; // the caller's record stays as it was
     ReadNumbered(kPeriodArray, global, record, call);
     const GlobalTypes types(record);
-    const Value& detail = global["Scene"]["Detail"];
+    const Value& detail = global.Detail();
     for (const std::string_view type : types.all())
         ReadSceneDetail(type, detail, record + offsetof(Global, stuDetail), call);
-    ReadAreaTypes(global["CalibrateArea"], record + offsetof(Global, stuCalibrateAreas));
+    global.StoreAreaTypes(record + offsetof(Global, stuCalibrateAreas));
     ReadNumbered(kAreasArray, global, record, call);
     ReadNumberedScenes(global, record, call);
+}
+
+void FinishKept(Asides& asides, ReadCall& call) noexcept {
+    FinishGlobal(static_cast<const KeptGlobal&>(asides), asides.record, call);
+}
+
+} // namespace
+
+Asides* KeepOfGlobal(std::byte* record, Arena& arena) {
+    void* const room = arena.Allocate(sizeof(KeptGlobal));
+    return room == nullptr ? nullptr : new (room) KeptGlobal({record, KeepAside, FinishKept});
+}
+
+void ReadGlobalOfTypes(const Value& global, std::byte* record, ReadCall& call) {
+    if (!global.isNull()) FinishGlobal(WholeGlobal{global}, record, call); // else the caller's record stays as it was
 }
 
 } // namespace orrery::scenes

@@ -80,6 +80,7 @@ extern const CustomCodec kNumberedScenes;
 extern const CustomCodec kNumberedPeriods;
 extern const CustomCodec kNumberedAreas;
 void ReadGlobalOfTypes(const json::Value& global, std::byte* record, ReadCall& call);
+Asides* KeepOfGlobal(std::byte* record, Arena& arena);
 
 PART(kAnalyseGlobal, CFG_ANALYSEGLOBAL_INFO,
      {
@@ -122,7 +123,8 @@ PART(kAnalyseGlobal, CFG_ANALYSEGLOBAL_INFO,
          FIELD(nLongitude, "TimePeriod/Longitude", Int),
          FIELD(nLatitude, "TimePeriod/Latitude", Int),
      })
-    .AfterRead(ReadGlobalOfTypes);
+    .AfterRead(ReadGlobalOfTypes)
+    .KeepsAside(KeepOfGlobal);
 
 } // namespace scenes
 

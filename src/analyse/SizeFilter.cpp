@@ -1,6 +1,7 @@
 #include "analyse/SizeFilter.h"
 
 #include "frame/json/Pen.h"
+#include "frame/json/Tokens.h"
 #include "frame/record/Engine.h"
 
 namespace orrery::sizefilter {
@@ -27,8 +28,18 @@ char* PutNumberPair(const Field& field, const std::byte* record, char* to) {
     return json::Pen::PutPair(to, Load<std::int32_t>(at), Load<std::int32_t>(at + 4));
 }
 
+const char* ReadNumberPairText(const Field& field, const char* p, const char* end, std::byte* record) {
+    std::int32_t x, y;
+    p = json::ReadShortPair(p, end, x, y);
+    if (p == nullptr) return nullptr;
+    Store(record + field.offset, x);
+    Store(record + field.offset + 4, y);
+    return p;
+}
+
 } // namespace
 
-constexpr CustomCodec kNumberPair{ReadNumberPair, WriteNumberPair, "[1,2]", PutNumberPair, json::Pen::kPairRoom};
+constexpr CustomCodec kNumberPair{ReadNumberPair, WriteNumberPair,      "[1,2]",
+                                  PutNumberPair,  json::Pen::kPairRoom, ReadNumberPairText};
 
 } // namespace orrery::sizefilter

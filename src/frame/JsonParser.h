@@ -81,6 +81,8 @@ class JsonParser {
     static bool GetNetTimeEx(const json::Value& value, NET_TIME_EX* time) noexcept; // ... and ".%d"
     static void SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) noexcept;
     static bool GetClockTime(const json::Value& value, NET_TIME* time) noexcept; // "%02d:%02d:%02d", the date stays
+    // The same of eight bytes in that form, two digits each; false for all others.
+    static bool GetUsualClock(const char* text, std::int32_t (&fields)[3]) noexcept;
     static void SetClockTime(json::TextWriter& out, const NET_TIME* time) noexcept;
     // The same of the hour, the minute and the second that stand one behind the other; takes kClockText bytes. Null
     // when one of them has more than two digits.

@@ -56,17 +56,21 @@ void JsonParser::SetNetTimeEx(json::TextWriter& out, const NET_TIME_EX* time) no
     scan::WriteFields(out, time, 7, kDateTimeSeparators, kDateTimeWidths);
 }
 
+bool JsonParser::GetUsualClock(const char* text, std::int32_t (&fields)[3]) noexcept {
+    std::uint64_t bad = 0;
+    const auto clock = scan::ReadClock(text, bad);
+    fields[0] = clock.hour;
+    fields[1] = clock.minute;
+    fields[2] = clock.second;
+    return (bad & scan::kHighBits) == 0;
+}
+
 bool JsonParser::GetClockTime(const json::Value& value, NET_TIME* time) noexcept {
     if (time == nullptr) return false;
     const std::string_view text = value.asString();
     std::int32_t fields[3];
     if (text.size() >= 8) {
-        std::uint64_t bad = 0;
-        const auto clock = scan::ReadClock(text.data(), bad);
-        if ((bad & scan::kHighBits) == 0) {
-            fields[0] = clock.hour;
-            fields[1] = clock.minute;
-            fields[2] = clock.second;
+        if (GetUsualClock(text.data(), fields)) {
             scan::StoreFields(reinterpret_cast<char*>(time) + offsetof(NET_TIME, dwHour), fields, 3);
             return true;
         }

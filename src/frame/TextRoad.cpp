@@ -24,10 +24,12 @@ constexpr std::size_t MostKept(std::size_t textSize) {
 // Of each two bytes of text, where texts fill a part of their fields.
 constexpr std::size_t kUsuallyKept = 2;
 
-const char* WhyByDocument(const record::Table& table, bool isCleared) noexcept {
-    if (!record::IsInText(table)) return "the table asks for its object as a whole";
+// `movesRecords`: records are touched otherwise than by reading them.
+const char* WhyByDocument(const record::Table& table, bool isCleared, bool movesRecords) noexcept {
+    if (!record::IsInText(table) && !record::HasAsides(table)) return "the table asks for its object as a whole";
     if (table.partsAskRoot) return "a part of the record has keys that start at the document";
-    if (table.size > kMostKept && !isCleared) return "the caller's record is too large to keep a copy of";
+    if (table.size > kMostKept && !isCleared && (movesRecords || !record::IsKeptByRow(table)))
+        return "the caller's record is too large to keep a copy of";
     return nullptr;
 }
 
@@ -59,10 +61,10 @@ ValuePath PathOf(const ParseFrame& frame) noexcept {
 // were cleared lead nowhere.
 class Undo {
   public:
-    Undo(const ParseRequest& request, std::uint32_t stride, bool isCleared, ReadCall& call,
+    Undo(const record::Table& table, const ParseRequest& request, std::uint32_t stride, bool isCleared, ReadCall& call,
          std::size_t textSize) noexcept
         : first_(static_cast<std::byte*>(request.buffer)), stride_(stride), isCleared_(isCleared),
-          keeper_(call.parser.text().arena(), MostKept(textSize)) {
+          isByRow_(!isCleared && table.size > kMostKept), keeper_(call.parser.text().arena(), MostKept(textSize)) {
         if (isCleared) return;
         call.keeper = &keeper_;
         call.parser.text().arena().Expect(kUsuallyKept * textSize);
@@ -70,11 +72,12 @@ class Undo {
     Undo(const Undo&) = delete;
     Undo& operator=(const Undo&) = delete;
 
-    // Before the record at `at`, the next one, is touched. False when it cannot be kept.
+    // Before the record at `at`, the next one, is touched. False when it cannot be kept. Reading keeps the rows of
+    // large ones.
     bool Keep(std::byte* at) noexcept {
         const auto end = static_cast<std::size_t>(at - first_) + stride_;
         if (end <= touched_) return true;
-        if (!isCleared_ && !keeper_.Keep(at, stride_)) return false;
+        if (!isCleared_ && !isByRow_ && !keeper_.Keep(at, stride_)) return false;
         touched_ = end;
         return true;
     }
@@ -84,6 +87,8 @@ class Undo {
         else
             keeper_.PutBack();
     }
+    // Whether reading has to keep the rows that it touches.
+    bool isByRow() const noexcept { return isByRow_; }
     // Whether something could not be kept, and the call has to end.
     bool failed() const noexcept { return keeper_.failed(); }
 
@@ -91,6 +96,7 @@ class Undo {
     std::byte* const first_;
     const std::uint32_t stride_;
     const bool isCleared_;
+    const bool isByRow_;
     record::Keeper keeper_;
     std::size_t touched_ = 0;
 };
@@ -140,19 +146,24 @@ class FamilyReply {
     FamilyReply(const record::Table& table, const ParseFrame& frame, const ParseRequest& request, std::uint32_t stride,
                 std::string_view source) noexcept
         : table_(table), frame_(frame), request_(request),
-          undo_(request, stride, IsCleared(frame), call_, source.size()),
+          undo_(table, request, stride, IsCleared(frame), call_, source.size()),
           records_(table, frame, request, stride, call_), text_{call_, source.data() + source.size()}, source_(source) {
         records_.ReadFieldsInPlace();
+        text_.keepsRows = undo_.isByRow();
     }
 
     std::optional<Outcome> Read() noexcept {
         ReplyWalk walk(source_, PathOf(frame_), document_);
         const bool walked = walk.Run([this](const char* p) { return ReadValue(p); },
                                      [this](std::string_view key) { return AsksRootFor(table_, key); });
-        const bool isGood = walked && !document_.arena.failed() && !undo_.failed() && !call_.overflowed
-                            && ResultPasses(frame_.result, document_.root["result"])
-                            && (frame_.result != ResultTest::Verdict
-                                || ResultPasses(ResultTest::FalseRefuses, document_.root["result"]));
+        bool isGood = walked && !document_.arena.failed() && !undo_.failed() && !call_.overflowed
+                      && ResultPasses(frame_.result, document_.root["result"])
+                      && (frame_.result != ResultTest::Verdict
+                          || ResultPasses(ResultTest::FalseRefuses, document_.root["result"]));
+        if (isGood && text_.waiting != nullptr) {
+            record::FinishAsides(text_);
+            isGood = !document_.arena.failed() && !call_.overflowed;
+        }
         if (!isGood) {
             undo_.PutBack();
             return std::nullopt;
@@ -259,12 +270,14 @@ const char* WhyByDocument(const record::Table& table, const ParseFrame& frame) n
     if (frame.takesBy != nullptr && !frame.looksBeside) return "its shape is settled by what is in it";
     if (frame.take > Take::ManyOrNone && frame.take != Take::ByMember && frame.take != Take::ByMemberOrNone)
         return "the record is a list or a text";
-    return WhyByDocument(table, IsCleared(frame));
+    const bool movesRecords =
+        frame.parsed != nullptr || frame.stride != Stride::Record || frame.clearing == Clearing::Read;
+    return WhyByDocument(table, IsCleared(frame), movesRecords);
 }
 
 const char* WhyByDocument(const record::Table& table, const GenericFrame& frame) noexcept {
     if (frame.dimension != 0) return "a record is a list itself";
-    return WhyByDocument(table, frame.zeroBuffer);
+    return WhyByDocument(table, frame.zeroBuffer, false);
 }
 
 std::optional<Outcome> ParseFamilyText(const record::Table& table, const ParseFrame& frame, const ParseRequest& request,
@@ -285,7 +298,8 @@ bool ParseGenericText(const record::Table& table, const GenericFrame& frame, con
     Document document;
     ReadCall call{document.parser, document.root};
     TextCall text{call, source.data() + source.size()};
-    Undo undo(request, table.size, frame.zeroBuffer, call, source.size());
+    Undo undo(table, request, table.size, frame.zeroBuffer, call, source.size());
+    text.keepsRows = undo.isByRow();
     auto* next = static_cast<std::byte*>(request.buffer);
     const std::byte* const end = next + request.bufferSize / table.size * std::size_t{table.size};
     const auto readOne = [&](const char* p) -> const char* {
@@ -306,8 +320,13 @@ bool ParseGenericText(const record::Table& table, const GenericFrame& frame, con
             });
         },
         [&](std::string_view key) { return AsksRootFor(table, key); });
-    if (!walked || document.arena.failed() || undo.failed()
-        || !ResultPasses(ResultTest::MustBeTrue, document.root["result"])) {
+    bool isGood = walked && !document.arena.failed() && !undo.failed()
+                  && ResultPasses(ResultTest::MustBeTrue, document.root["result"]);
+    if (isGood && text.waiting != nullptr) {
+        record::FinishAsides(text);
+        isGood = !document.arena.failed();
+    }
+    if (!isGood) {
         undo.PutBack();
         return false;
     }

@@ -6,6 +6,8 @@
 #include "frame/json/StringDecoder.h"
 #include "frame/json/Value.h"
 
+#include <cfloat>
+
 namespace orrery::json {
 
 // Reads the string, number, bool or null at `p`, which is in front of `end`, and puts it at `at`. The byte behind it;
@@ -154,6 +156,11 @@ inline const char* ReadFewNumbers(const char* p, const char* end, std::uint32_t 
 #endif
 }
 
+// Whether the byte stands for itself between two tokens: neither a blank nor the start of a comment.
+inline bool IsPlainByte(char byte) noexcept {
+    return static_cast<unsigned char>(byte) > ' ' && byte != '/';
+}
+
 // A place in an open container: in front of its next entry, behind its end, or nowhere in what is no JSON.
 struct Step {
     const char* at;
@@ -163,6 +170,11 @@ struct Step {
 // Behind an entry at `p`: the next one's first byte, or the byte behind the container's `close`. Null and no more for
 // anything else.
 inline Step NextEntry(const char* p, const char* end, char close) noexcept {
+    // As nearly all devices write, by compares: a place that a guess tells is known before the bytes are.
+    if (end - p > 2) [[likely]] {
+        if (*p == ',' && p[1] == ' ' && IsPlainByte(p[2])) return {p + 2, true};
+        if (*p == ' ' && p[1] == close) return {p + 2, false};
+    }
     for (;;) {
         if (p == end) return {nullptr, false};
         if (*p == ',') break;
@@ -180,13 +192,79 @@ inline Step NextEntry(const char* p, const char* end, char close) noexcept {
 }
 // Behind the opening bracket at `p`, as above.
 inline Step FirstEntry(const char* p, const char* end, char close) noexcept {
+    if (end - p > 2 && p[1] == ' ' && IsPlainByte(p[2])) [[likely]]
+        return p[2] == close ? Step{p + 3, false} : Step{p + 2, true};
     p = SkipBlanks(p + 1, end);
     if (p == end) return {nullptr, false};
     return *p == close ? Step{p + 1, false} : Step{p, true};
 }
 
+// Reads the array of two integers at `p`, of up to seven digits each and with a blank at most beside each. The byte
+// behind it; null for any other value.
+inline const char* ReadShortPair(const char* p, const char* end, std::int32_t& x, std::int32_t& y) noexcept {
+    constexpr std::ptrdiff_t kMost = 2 * (1 + 1 + 1 + FewDigits::kRoom) + 2;
+    if (end - p < kMost || *p != '[') return nullptr;
+    const auto readOne = [&p](std::int32_t& number, char close) {
+        ++p;
+        if (*p == ' ') [[likely]]
+            ++p;
+        const bool isNegative = *p == '-';
+        if (isNegative) [[unlikely]]
+            ++p;
+        std::int32_t magnitude = *p - '0';
+        const auto isDigit = [](char byte) { return static_cast<unsigned char>(byte - '0') < 10; };
+        if (isDigit(*p) && !isDigit(p[1])) {
+            ++p;
+        } else {
+            const FewDigits few = ReadFewDigits(p);
+            if (few.count - 1 >= FewDigits::kRoom - 1) return false;
+            magnitude = static_cast<std::int32_t>(few.number);
+            p += few.count;
+        }
+        number = isNegative ? -magnitude : magnitude;
+        if (*p == close) return true;
+        return *p == ' ' && *++p == close;
+    };
+    return readOne(x, ',') && readOne(y, ']') ? p + 1 : nullptr;
+}
+
+// Reads the number at `p` that has a few digits, a point and a few more. The byte behind it; null for any other value.
+// So few are exact in a double, and so is the power of ten: one division rounds right.
+inline const char* ReadShortDecimal(const char* p, const char* end, double& number) noexcept {
+#if FLT_EVAL_METHOD == 0
+    static constexpr double kPowers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+    constexpr std::ptrdiff_t kWhole = 6, kPart = 6;
+    if (end - p < kWhole + kPart + 4) return nullptr;
+    const bool isNegative = *p == '-';
+    if (isNegative) [[unlikely]]
+        ++p;
+    const auto digitOf = [](char byte) { return static_cast<unsigned char>(byte) - unsigned{'0'}; };
+    const char* const begin = p;
+    std::int64_t digits = 0;
+    for (unsigned digit; (digit = digitOf(*p)) < 10; ++p) {
+        if (p - begin == kWhole) return nullptr;
+        digits = digits * 10 + digit;
+    }
+    if (p == begin || *p != '.') return nullptr;
+    const char* const part = ++p;
+    for (unsigned digit; (digit = digitOf(*p)) < 10; ++p) {
+        if (p - part == kPart) return nullptr;
+        digits = digits * 10 + digit;
+    }
+    if (p == part || kNumberByte[static_cast<unsigned char>(*p)]) return nullptr;
+    const double magnitude = static_cast<double>(digits) / kPowers[p - part];
+    number = isNegative ? -magnitude : magnitude;
+    return p;
+#else
+    static_cast<void>(p), static_cast<void>(end), static_cast<void>(number);
+    return nullptr;
+#endif
+}
+
 // Behind a key's closing quote: the value's first byte; null when no colon and value follow.
 inline const char* ValueBehindKey(const char* p, const char* end) noexcept {
+    if (end - p > 3 && std::memcmp(p, " : ", 3) == 0 && IsPlainByte(p[3])) [[likely]]
+        return p + 3;
     if (p != end && *p == ' ') ++p;
     if (p == end || *p != ':') [[unlikely]] {
         p = SkipBlanksAndComments(p, end);

@@ -126,6 +126,9 @@ struct CustomCodec {
     // front of it. Null, and nothing of it counts, for what is left to `write`.
     char* (*put)(const Field& field, const std::byte* record, char* at) = nullptr;
     std::size_t room = 0;
+    // What `read` reads, from the text itself: of the values that nearly all devices send, at `p` and in front of
+    // `end`. The byte behind the value; null for what is left to `read`, which stores over what was stored.
+    const char* (*readText)(const Field& field, const char* p, const char* end, std::byte* record) = nullptr;
 };
 
 // The words of a row, by what they speak of: a direction takes the short way past a row that says nothing of it.

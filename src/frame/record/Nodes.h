@@ -7,8 +7,9 @@
 #include <string_view>
 
 namespace orrery {
+class Arena;
 struct PackedItems;
-}
+} // namespace orrery
 
 namespace orrery::record {
 
@@ -53,6 +54,8 @@ enum class Way : std::uint8_t {
 };
 // Longer keys stand in no node that is written the short way, so that one look at the room is enough for any.
 inline constexpr std::size_t kLongestPlainKey = 100;
+
+struct Asides;
 
 // One key of the object that a record stands in: a field, or an object inside the object with keys of its own. The
 // nodes of an object are in key order, so that reading is one merge of two sorted lists and writing comes out sorted.
@@ -163,6 +166,8 @@ struct Table {
     bool (*writes)(const std::byte* record) = nullptr;
     void (*afterRead)(const json::Value& value, std::byte* record, ReadCall& call) = nullptr;
 
+    Asides* (*asides)(std::byte* record, Arena& arena) = nullptr; // what else of its object is kept for afterRead
+
     const PackedItems* items = nullptr; // what stands behind a descriptor's pointer to bytes; for tools and tests
 
     std::string_view keyOf(const Node& node) const { return {keyTexts + node.quotedAt + 1, node.keySize}; }
@@ -204,6 +209,11 @@ struct TypedTable : Table {
     // Runs once the rows have been read, for what depends on several of them.
     constexpr TypedTable AfterRead(void (*function)(const json::Value&, std::byte*, ReadCall&)) const {
         return With(With(*this, &TypedTable::afterRead, function), &TypedTable::inText, false);
+    }
+    // Behind AfterRead: what that function asks of the object is kept while the text is read (ReadText.h), so that no
+    // document is made of it. Rows' own functions of such a table touch their own members, flags and counts alone.
+    constexpr TypedTable KeepsAside(Asides* (*make)(std::byte* record, Arena& arena)) const {
+        return With(*this, &TypedTable::asides, make);
     }
 };
 

@@ -9,6 +9,7 @@
 #include <array>
 #include <bit>
 #include <new>
+#include <utility>
 
 namespace orrery::record {
 
@@ -91,12 +92,19 @@ const char* ReadNamedText(const Table& table, const char* p, std::byte* at, Text
 // ---- Lists ---------------------------------------------------------------------------------------------------------
 
 struct Counts {
-    std::uint32_t used = 0; // elements that have a slot
-    std::uint32_t size = 0; // elements that came
+    std::uint32_t used = 0;  // elements that have a slot
+    std::uint32_t size = 0;  // elements that came
+    std::uint32_t holes = 0; // slots that do not count
 };
 
+// Of larger members the elements are kept one by one, as they come.
+constexpr std::uint32_t kKeptWhole = 2 << 10;
+bool IsKeptByElement(const Field& field) noexcept {
+    return field.kind == Kind::Record && field.cell != Cell::Pointer && field.size > kKeptWhole;
+}
+
 const char* ReadElements(const Field& field, int level, const char* p, const Elements& room, TextCall& text,
-                         Counts& counts) noexcept {
+                         Counts& counts, bool keepsEach) noexcept {
     const bool isPointed = field.cell == Cell::Pointer;
     const bool innermost = isPointed || level + 1 == field.rank;
     const std::uint32_t stride = StrideOf(field, level);
@@ -107,8 +115,10 @@ const char* ReadElements(const Field& field, int level, const char* p, const Ele
         if (counts.used < room.room && !text.call.refused) {
             std::byte* const slot = room.first + std::size_t{counts.used++} * stride;
             const bool isContainer = *p == '{' || *p == '[';
+            if (*p == 'n') counts.holes += field.nulls == Nulls::LeaveHole;
             std::int32_t number;
             if (isPointed && !StartPointed(field, slot, text.call)) return nullptr;
+            if (keepsEach && innermost && !text.call.Keep(slot, stride)) return nullptr;
             if (innermost && isContainer && field.kind == Kind::Record) {
                 p = ReadNamedText(*field.table, p, slot, text, {});
             } else if (const char* after; areNumbers && (after = json::ReadShortInt(p, text.end, number)) != nullptr) {
@@ -121,7 +131,7 @@ const char* ReadElements(const Field& field, int level, const char* p, const Ele
                 ReadElement(field, value, slot, text.call, {});
             } else if (*p == '[') {
                 Counts inside;
-                p = ReadElements(field, level + 1, p, {slot, field.dims[level + 1]}, text, inside);
+                p = ReadElements(field, level + 1, p, {slot, field.dims[level + 1]}, text, inside, keepsEach);
             } else {
                 p = json::SkipValue(p, text.end, text.arena());
             }
@@ -140,8 +150,10 @@ const char* ReadListText(const Field& field, const char* p, std::byte* record, T
     const Elements room = isPointed ? ElementsOf(field, record, 0) : Elements{record + field.offset, field.dims[0]};
     StoreSlot(field.flag, record, 1);
     Counts counts;
-    p = ReadElements(field, 0, p, room, text, counts);
-    if (p != nullptr) StoreSlot(field.count, record, field.countUncapped ? counts.size : counts.used);
+    const bool keepsRows = std::exchange(text.keepsRows, false);
+    p = ReadElements(field, 0, p, room, text, counts, keepsRows && IsKeptByElement(field));
+    text.keepsRows = keepsRows;
+    if (p != nullptr) StoreSlot(field.count, record, field.countUncapped ? counts.size : counts.used - counts.holes);
     return p;
 }
 
@@ -170,7 +182,7 @@ class Members {
     Members(const Table& table, NodeRange range, std::byte* record, TextCall& text) noexcept
         : table_(table), first_(table.nodes + range.first), end_(first_ + range.count), next_(first_),
           lastAbsent_(table.nodes + range.lastAbsent), record_(record), text_(text),
-          tracks_(table.anyOrder && lastAbsent_ > first_) {}
+          tracks_(table.anyOrder && lastAbsent_ > first_), watches_(tracks_ || text.keepsRows) {}
 
     const char* Read(const char* p) noexcept;
 
@@ -186,9 +198,11 @@ class Members {
     const char* ReadUsual(const Node& node, const char* p) noexcept;
     const char* ReadWhole(const Node& node, const char* p) noexcept;
     const char* ReadShared(const Node* node, const char* p) noexcept;
-    // False for a node that was seen before, or comes behind one that should have come first. Keys in order need no
-    // memory of it.
+    // False for a node that was seen before, or comes behind one that should have come first, or whose row could not be
+    // kept. Keys in order need no memory of it.
     bool See(const Node& node) noexcept {
+        if (!watches_) return true;
+        if (text_.keepsRows && !KeepRow(node)) return false;
         if (!tracks_) return true;
         const auto place = static_cast<std::size_t>(&node - first_);
         std::uint64_t& word = seen_[place / 64];
@@ -205,7 +219,12 @@ class Members {
         const auto place = static_cast<std::size_t>(&node - first_);
         return (seen_[place / 64] >> place % 64 & 1) != 0;
     }
-    void ReadAbsent(const Node& node) noexcept { ReadNode(table_, node, json::kNull, record_, text_.call); }
+    void ReadAbsent(const Node& node) noexcept {
+        if (text_.keepsRows && !KeepRow(node)) return; // the call ends
+        ReadNode(table_, node, json::kNull, record_, text_.call);
+    }
+    bool KeepRow(const Node& node) noexcept;
+    const char* TakeUnread(const Field* row, std::string_view key, const char* p) noexcept;
 
     const Table& table_;
     const Node* const first_;
@@ -217,8 +236,32 @@ class Members {
     TextCall& text_;
     std::uint64_t seen_[kMostInText / 64] = {};
     bool tracks_;          // seen_ is kept: keys have come out of order, or absent ones are read at the end
+    bool watches_;         // something is done about each member in front of reading it
     bool refuses_ = false; // a key came that the table takes in order only
 };
+
+bool IsUnread(const Field& row) noexcept {
+    return !row.readable || (row.kind == Kind::Custom && row.custom->read == nullptr);
+}
+
+// Keeps what reading a row touches, but for the elements that are kept one by one.
+[[gnu::noinline]] bool Members::KeepRow(const Node& node) noexcept {
+    if (node.childCount > 0) return true; // its rows are
+    const Field& row = table_.rows[node.row];
+    if (IsUnread(row)) return true;
+    const auto keep = [this](const Slot& slot) {
+        return !slot.exists() || text_.call.Keep(record_ + slot.offset, build::SizeOf(slot.cell));
+    };
+    if (!keep(row.flag) || !keep(row.count)) return false;
+    return (node.listed && IsKeptByElement(row)) || text_.call.Keep(record_ + row.offset, row.size);
+}
+
+// A value that no row reads goes to whoever asks for it. `row` is null for a key of no row.
+const char* Members::TakeUnread(const Field* row, std::string_view key, const char* p) noexcept {
+    const bool isAsked = text_.asides != nullptr && (row != nullptr || first_ == table_.nodes + table_.members.first);
+    if (isAsked) return text_.asides->take(*text_.asides, {table_, row, key, record_}, p, text_);
+    return json::SkipValue(p, text_.end, text_.arena());
+}
 
 const Node* Members::FindBefore(const Node* end, std::string_view key) const noexcept {
     const std::uint64_t prefix = json::KeyPrefix(key);
@@ -229,7 +272,7 @@ const Node* Members::FindBefore(const Node* end, std::string_view key) const noe
 
 // Sees all members of the object at `object` up to the one at `at`, which were read in order.
 bool Members::Track(const char* object, const char* at) noexcept {
-    tracks_ = true;
+    tracks_ = watches_ = true;
     json::Step step = json::FirstEntry(object, text_.end, '}');
     while (step.at != at) {
         Value key;
@@ -406,9 +449,15 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
         return p;
     }
     case Plainly::Fraction: {
-        std::int32_t number;
-        p = json::ReadShortInt(p, end, number);
-        if (p == nullptr) return nullptr;
+        std::int32_t whole;
+        double number;
+        if (const char* const after = json::ReadShortDecimal(p, end, number); after != nullptr) {
+            p = after;
+        } else if ((p = json::ReadShortInt(p, end, whole)) != nullptr) {
+            number = whole;
+        } else {
+            return nullptr;
+        }
         raiseFlag();
         StoreReal(node.cell, at, number);
         return p;
@@ -443,12 +492,18 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
         }
         return stop + 1;
     }
+    case Plainly::Function: {
+        const Field& row = table_.rows[node.row];
+        return row.custom->readText == nullptr ? nullptr : row.custom->readText(row, p, end, record_);
+    }
     default:
         return nullptr;
     }
 }
 
 const char* Members::ReadAt(const Node& node, const char* p) noexcept {
+    if (text_.asides != nullptr && node.childCount == 0 && IsUnread(table_.rows[node.row])) [[unlikely]]
+        return TakeUnread(&table_.rows[node.row], table_.keyOf(node), p);
     if (*p == '{') {
         if (node.childCount > 0) {
             const NodeRange inside{node.firstChild, node.childCount, node.childLastAbsent};
@@ -468,7 +523,10 @@ const char* Members::ReadAt(const Node& node, const char* p) noexcept {
     }
     if (node.readPlainly == Plainly::Inner) {
         if (node.flag.exists()) StoreInteger(node.flag.cell, record_ + node.flag.offset, 1);
-        return ReadNamedText(table_.tableOf(node), p, record_ + node.offset, text_, {});
+        const bool keepsRows = std::exchange(text_.keepsRows, false);
+        p = ReadNamedText(table_.tableOf(node), p, record_ + node.offset, text_, {});
+        text_.keepsRows = keepsRows;
+        return p;
     }
     return ReadWhole(node, p);
 }
@@ -490,6 +548,7 @@ const char* Members::Read(const char* p) noexcept {
     while (step.more) {
         p = step.at;
         const Node* node = next_;
+        std::string_view other; // the key of no node
         const std::size_t quoted = node == end_ ? 0 : node->keySize + std::size_t{2};
         if (quoted != 0 && Stands(table_.keyTexts + node->quotedAt, quoted, p, end)) [[likely]] {
             p += quoted;
@@ -498,14 +557,15 @@ const char* Members::Read(const char* p) noexcept {
             Value key;
             p = json::ReadScalar(p, end, text_.arena(), &key);
             if (p == nullptr) return nullptr;
-            node = Find(key.asString(), object, step.at);
+            other = key.asString();
+            node = Find(other, object, step.at);
             if (refuses_) return nullptr;
         }
         p = json::ValueBehindKey(p, end);
         if (p == nullptr) return nullptr;
         do {
             if (node == nullptr) {
-                p = json::SkipValue(p, end, text_.arena());
+                p = TakeUnread(nullptr, other, p);
             } else if (node->shared) {
                 p = ReadShared(node, p);
             } else {
@@ -588,9 +648,27 @@ const char* ReadTuple(const Table& table, const char* p, std::byte* record, Text
     return step.at;
 }
 
+// What afterRead touches is not kept row by row: it waits for the reply to turn out good.
+const char* ReadWithAsides(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+    Asides* const asides = table.asides(record, text.arena());
+    if (asides == nullptr) return nullptr;
+    StartFields(table, record, text.call);
+    Asides* const around = std::exchange(text.asides, asides);
+    p = Members(table, table.members, record, text).Read(p);
+    text.asides = around;
+    if (p == nullptr) return nullptr;
+    if (text.keepsRows)
+        asides->next = std::exchange(text.waiting, asides);
+    else
+        asides->finish(*asides, text.call);
+    return p;
+}
+
 const char* ReadFieldsText(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
     const bool hasShape = *p == (table.shape == Shape::Object ? '{' : '[');
     if (!hasShape || table.guarded || !IsInText(table)) {
+        if (hasShape && HasAsides(table)) return ReadWithAsides(table, p, record, text);
+        if (text.keepsRows) return nullptr;
         Value value;
         p = ReadAny(p, value, text);
         if (p != nullptr) ReadFields(table, value, record, text.call);
@@ -610,6 +688,21 @@ const char* ReadNamedText(const Table& table, const char* p, std::byte* at, Text
 }
 
 } // namespace
+
+void FinishAsides(TextCall& text) noexcept {
+    text.call.keeper = nullptr;
+    Asides* first = nullptr;
+    while (text.waiting != nullptr) {
+        Asides* const asides = std::exchange(text.waiting, text.waiting->next);
+        asides->next = std::exchange(first, asides);
+    }
+    for (; first != nullptr; first = first->next)
+        first->finish(*first, text.call);
+}
+
+const char* ReadAside(const char* p, Value& value, TextCall& text) noexcept {
+    return ReadAny(p, value, text);
+}
 
 const char* ReadRecordText(const Table& table, const char* p, std::byte* record, TextCall& text,
                            std::string_view memberName) noexcept {

@@ -10,12 +10,52 @@
 
 namespace orrery::record {
 
+struct Asides;
+
 struct TextCall {
     ReadCall& call;
     const char* end; // of the text
 
+    Asides* asides = nullptr;  // of the object that is being read, or of one around it
+    Asides* waiting = nullptr; // those that are finished when the reply has turned out good, the last one first
+    bool keepsRows = false;    // the record is too large to be kept as a whole: row by row
+
     Arena& arena() const noexcept { return call.parser.text().arena(); }
 };
+
+// The value of a key that no row reads.
+struct Unread {
+    const Table& table;
+    const Field* row;     // that has the key; null for a key of the table's own object that no row has
+    std::string_view key; // of no row
+    std::byte* record;
+};
+
+// What a table's afterRead asks of its object, while that is read from the text. It lies in the call's arena.
+struct Asides {
+    std::byte* record;
+    // Takes or skips a value of the object, or of objects inside it. The byte behind it; null when there is no way on.
+    const char* (*take)(Asides& asides, const Unread& unread, const char* p, TextCall& text) noexcept;
+    // Does what afterRead does.
+    void (*finish)(Asides& asides, ReadCall& call) noexcept;
+    Asides* next = nullptr;
+};
+
+// Whether objects of this table are read from the text with the help of what is kept aside.
+constexpr bool HasAsides(const Table& table) {
+    return table.asides != nullptr && table.shape == Shape::Object && table.self.count == 0 && table.fromRoot.count == 0
+           && table.amongKeys == nullptr && !table.guarded && table.members.count <= kMostInText;
+}
+// Whether what reading such an object touches can be kept row by row.
+constexpr bool IsKeptByRow(const Table& table) {
+    return HasAsides(table) && !table.hasDefaults && !table.clearsFlags && table.suppliedCount == 0
+           && table.memberName == nullptr;
+}
+// Finishes all that wait for the reply to turn out good.
+void FinishAsides(TextCall& text) noexcept;
+
+// The value at `p`, whatever it is, as a document. The byte behind it; null when it is no JSON.
+const char* ReadAside(const char* p, json::Value& value, TextCall& text) noexcept;
 
 // Whether objects, or tuples, of this table are read from the text. Others become documents one by one.
 constexpr bool IsInText(const Table& table) {

@@ -39,9 +39,9 @@ constexpr const void* ReferenceOf(const Field& row) {
 constexpr Plainly ReadPlainly(const Field& row) {
     ReadingWords words = row;
     words.always = false; // the node knows
-    if (words != ReadingWords{} || static_cast<const ListWords&>(row) != ListWords{} || !row.readable)
-        return Plainly::No;
-    return row.kind == Kind::Custom ? Plainly::Function : PlainValue(row);
+    if (words != ReadingWords{} || !row.readable) return Plainly::No;
+    if (row.kind == Kind::Custom) return Plainly::Function; // which knows of its list
+    return static_cast<const ListWords&>(row) != ListWords{} ? Plainly::No : PlainValue(row);
 }
 // How a record inside another is written.
 constexpr Way WayOfRecord(const Table& table) {
@@ -133,6 +133,7 @@ constexpr bool IsPlainList(const Field& row) {
     words.always = false;
     words.anyShape = false; // of values that are no array
     if (isPointed) words.zeroed = false;
+    if (words.nulls == Nulls::LeaveHole) words.nulls = Nulls::Count;
     ListWords list = row;
     list.count = {};
     list.countUncapped = false;
