@@ -217,11 +217,4 @@ struct TypedTable : Table {
     }
 };
 
-// Rows over a table look into it. One that is only declared, as those of other families are, is refused right here: as
-// a PART it stands whole in a header.
-template <class R>
-consteval Nested<R> Record(const TypedTable<R>& table) {
-    return {table.size == sizeof(R) ? &table : nullptr};
-}
-
 } // namespace orrery::record

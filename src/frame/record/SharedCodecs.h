@@ -1,7 +1,7 @@
 // Codecs that several families need and that are functions of their own, as words for their rows.
 #pragma once
 
-#include "frame/record/Field.h"
+#include "frame/record/Rows.h"
 
 namespace orrery::record {
 

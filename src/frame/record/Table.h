@@ -12,6 +12,7 @@
 #pragma once
 
 #include "frame/record/Check.h"
+#include "frame/record/Rows.h"
 #include "frame/record/Ways.h"
 
 #include <algorithm>
