@@ -6,13 +6,14 @@
 
 #include "orrery/event_codes.h"
 
-#include <algorithm>
+#include <array>
+#include <limits>
 
 namespace orrery::events {
 
 namespace {
 
-// Ascending by code, so that a look-up is a binary search.
+// Ascending by code.
 constexpr EventRow kEvents[] = {
     Event(ORRERY_EVENT_CROSS_LINE_DETECTION, "CrossLineDetection", kCrossLineDetection).Renamed(CrossLineCode),
     Event(ORRERY_EVENT_CROSS_REGION_DETECTION, "CrossRegionDetection", kCrossRegionDetection),
@@ -182,6 +183,17 @@ constexpr bool Ascend(std::span<const EventRow> rows) {
 }
 static_assert(Ascend(kEvents));
 
+// Each code's place among the rows, counted from 1: a look-up is one load. 0 for a code that has none.
+constexpr std::size_t kCodes = std::size_t{kEvents[std::size(kEvents) - 1].code} + 1;
+using Place = std::uint8_t;
+static_assert(std::size(kEvents) <= std::numeric_limits<Place>::max());
+constexpr auto kPlaces = [] {
+    std::array<Place, kCodes> places{};
+    for (std::size_t i = 0; i < std::size(kEvents); ++i)
+        places[kEvents[i].code] = static_cast<Place>(i + 1);
+    return places;
+}();
+
 } // namespace
 
 std::span<const EventRow> Events() noexcept {
@@ -189,10 +201,8 @@ std::span<const EventRow> Events() noexcept {
 }
 
 const EventRow* FindEvent(std::uint32_t code) noexcept {
-    const auto* const found =
-        std::lower_bound(std::begin(kEvents), std::end(kEvents), code,
-                         [](const EventRow& row, std::uint32_t wanted) { return row.code < wanted; });
-    return found != std::end(kEvents) && found->code == code ? found : nullptr;
+    const Place place = code < kCodes ? kPlaces[code] : Place{0};
+    return place != 0 ? &kEvents[place - 1] : nullptr;
 }
 
 } // namespace orrery::events

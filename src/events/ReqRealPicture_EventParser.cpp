@@ -106,7 +106,8 @@ void CReqRealPicture::parseOne(const Value& event, Circumstances& around, EventC
     events::ReadGroup(data, around.fileInfo);
     fields.stuFileInfo = around.fileInfo;
     if (row->reading != nullptr) ORRERY_EVENT_DETAIL("%s", row->reading);
-    if (row->readingCar != nullptr && !data["TrafficCar"].isNull()) ORRERY_EVENT_DETAIL("%s", row->readingCar);
+    if (LogHasSink() && row->readingCar != nullptr && !data["TrafficCar"].isNull())
+        ORRERY_EVENT_DETAIL("%s", row->readingCar);
     record::ReadCall call{parser_, event};
     call.noMemory = LogMissingBlock;
     call.context = &common;

@@ -611,7 +611,8 @@ TEST(EventMap, RowsAreFoundByTheirCodes) {
         EXPECT_EQ(events::FindEvent(row.code), &row);
         EXPECT_EQ(row.recordSize, row.table->size);
     }
-    for (std::uint32_t code : {0u, 1u, 17u, 18u, 20u, 28u, 269u, 10000u, 0xFFFFFFFFu})
+    const std::uint32_t behind = events::Events().back().code + 1;
+    for (std::uint32_t code : {0u, 1u, 17u, 18u, 20u, 28u, 269u, behind, 10000u, 0xFFFFFFFFu})
         EXPECT_EQ(events::FindEvent(code), nullptr) << code;
 }
 
