@@ -1,6 +1,5 @@
 #include "frame/json/Number.h"
 
-#include <cfloat>
 #include <charconv>
 #include <limits>
 
@@ -40,31 +39,6 @@ bool IsHuge(const char* p, const char* end) noexcept {
     return place + (negative ? -exponent : exponent) > 0;
 }
 
-#if FLT_EVAL_METHOD == 0
-// Digits, a point, digits: up to 15 of them are exact in a double, and so is the power of ten, so that one division
-// rounds right. That is nearly every real a device sends. Null when the token is of another form.
-const char* ReadShortDecimal(const char* token, const char* end, void* at) noexcept {
-    static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    constexpr std::ptrdiff_t kDigits = 15;
-    const char* p = token;
-    const bool negative = *p == '-';
-    if (negative) ++p;
-    const char* const begin = p;
-    std::uint64_t digits = 0;
-    while (p != end && IsDigit(*p) && p - begin <= kDigits)
-        digits = digits * 10 + static_cast<unsigned>(*p++ - '0');
-    if (p == begin || p == end || *p != '.') return nullptr;
-    const char* const point = p++;
-    while (p != end && IsDigit(*p) && p - begin <= kDigits + 1)
-        digits = digits * 10 + static_cast<unsigned>(*p++ - '0');
-    if (p - begin > kDigits + 1 || (p != end && kNumberByte[static_cast<unsigned char>(*p)])) return nullptr;
-    const double magnitude = static_cast<double>(digits) / kPowers[p - point - 1];
-    Value::PutReal(at, negative ? -magnitude : magnitude);
-    return p;
-}
-#endif
-
 } // namespace
 
 const char* NumberTokenEnd(const char* token, const char* end) noexcept {
@@ -74,11 +48,12 @@ const char* NumberTokenEnd(const char* token, const char* end) noexcept {
 }
 
 const char* ReadReal(const char* token, const char* end, void* at) noexcept {
-#if FLT_EVAL_METHOD == 0
-    if (const char* const after = ReadShortDecimal(token, end, at)) return after;
-#endif
-    const char* const tokenEnd = NumberTokenEnd(token, end);
     double number = 0.0;
+    if (const char* const after = ReadShortDecimal(token, end, number)) {
+        Value::PutReal(at, number);
+        return after;
+    }
+    const char* const tokenEnd = NumberTokenEnd(token, end);
     const auto [stop, failure] = std::from_chars(token, tokenEnd, number);
     if (failure == std::errc::invalid_argument) return nullptr;
     if (failure == std::errc::result_out_of_range) {

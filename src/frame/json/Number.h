@@ -4,6 +4,7 @@
 #include "frame/json/Value.h"
 
 #include <array>
+#include <cfloat>
 
 namespace orrery::json {
 
@@ -14,6 +15,40 @@ inline constexpr std::array<bool, 256> kNumberByte = [] {
         table[static_cast<unsigned char>(byte)] = true;
     return table;
 }();
+
+#if FLT_EVAL_METHOD == 0
+inline constexpr bool kHasShortDecimals = true;
+#else
+inline constexpr bool kHasShortDecimals = false; // sums and quotients of doubles are rounded later
+#endif
+// Digits, a point, digits: up to 15 of them are exact in a double, and so is the power of ten, so that one division
+// rounds right. That is nearly every real a device sends. Null when the token is of another form.
+inline const char* ReadShortDecimal(const char* token, const char* end, double& number) noexcept {
+    if constexpr (!kHasShortDecimals) return nullptr;
+    static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::ptrdiff_t kDigits = 15;
+    const char* p = token;
+    const bool negative = *p == '-';
+    if (negative) [[unlikely]]
+        ++p;
+    const char* const begin = p;
+    std::uint64_t digits = 0;
+    for (unsigned digit; p != end && (digit = static_cast<unsigned char>(*p) - unsigned{'0'}) < 10; ++p) {
+        if (p - begin > kDigits) return nullptr;
+        digits = digits * 10 + digit;
+    }
+    if (p == begin || p == end || *p != '.') return nullptr;
+    const char* const point = p++;
+    for (unsigned digit; p != end && (digit = static_cast<unsigned char>(*p) - unsigned{'0'}) < 10; ++p) {
+        if (p - begin > kDigits) return nullptr;
+        digits = digits * 10 + digit;
+    }
+    if (p != end && kNumberByte[static_cast<unsigned char>(*p)]) return nullptr;
+    const double magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) / kPowers[p - point - 1];
+    number = negative ? -magnitude : magnitude;
+    return p;
+}
 
 // Reads the token from `token` on as a real and puts it at `at`; the part in front that makes a number counts. Null
 // when none does, otherwise the token's end.

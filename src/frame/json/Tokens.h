@@ -6,8 +6,6 @@
 #include "frame/json/StringDecoder.h"
 #include "frame/json/Value.h"
 
-#include <cfloat>
-
 namespace orrery::json {
 
 // Reads the string, number, bool or null at `p`, which is in front of `end`, and puts it at `at`. The byte behind it;
@@ -228,42 +226,9 @@ inline const char* ReadShortPair(const char* p, const char* end, std::int32_t& x
     return readOne(x, ',') && readOne(y, ']') ? p + 1 : nullptr;
 }
 
-// Reads the number at `p` that has a few digits, a point and a few more. The byte behind it; null for any other value.
-// So few are exact in a double, and so is the power of ten: one division rounds right.
-inline const char* ReadShortDecimal(const char* p, const char* end, double& number) noexcept {
-#if FLT_EVAL_METHOD == 0
-    static constexpr double kPowers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
-    constexpr std::ptrdiff_t kWhole = 6, kPart = 6;
-    if (end - p < kWhole + kPart + 4) return nullptr;
-    const bool isNegative = *p == '-';
-    if (isNegative) [[unlikely]]
-        ++p;
-    const auto digitOf = [](char byte) { return static_cast<unsigned char>(byte) - unsigned{'0'}; };
-    const char* const begin = p;
-    std::int64_t digits = 0;
-    for (unsigned digit; (digit = digitOf(*p)) < 10; ++p) {
-        if (p - begin == kWhole) return nullptr;
-        digits = digits * 10 + digit;
-    }
-    if (p == begin || *p != '.') return nullptr;
-    const char* const part = ++p;
-    for (unsigned digit; (digit = digitOf(*p)) < 10; ++p) {
-        if (p - part == kPart) return nullptr;
-        digits = digits * 10 + digit;
-    }
-    if (p == part || kNumberByte[static_cast<unsigned char>(*p)]) return nullptr;
-    const double magnitude = static_cast<double>(digits) / kPowers[p - part];
-    number = isNegative ? -magnitude : magnitude;
-    return p;
-#else
-    static_cast<void>(p), static_cast<void>(end), static_cast<void>(number);
-    return nullptr;
-#endif
-}
-
 // Behind a key's closing quote: the value's first byte; null when no colon and value follow.
 inline const char* ValueBehindKey(const char* p, const char* end) noexcept {
-    if (end - p > 3 && std::memcmp(p, " : ", 3) == 0 && IsPlainByte(p[3])) [[likely]]
+    if (end - p > 3 && *p == ' ' && p[1] == ':' && p[2] == ' ' && IsPlainByte(p[3])) [[likely]]
         return p + 3;
     if (p != end && *p == ' ') ++p;
     if (p == end || *p != ':') [[unlikely]] {

@@ -244,16 +244,12 @@ bool IsUnread(const Field& row) noexcept {
     return !row.readable || (row.kind == Kind::Custom && row.custom->read == nullptr);
 }
 
-// Keeps what reading a row touches, but for the elements that are kept one by one.
-[[gnu::noinline]] bool Members::KeepRow(const Node& node) noexcept {
+// Keeps what reading a row touches, but for what KeepSmallRows has kept and for elements that are kept one by one.
+bool Members::KeepRow(const Node& node) noexcept {
     if (node.childCount > 0) return true; // its rows are
     const Field& row = table_.rows[node.row];
-    if (IsUnread(row)) return true;
-    const auto keep = [this](const Slot& slot) {
-        return !slot.exists() || text_.call.Keep(record_ + slot.offset, build::SizeOf(slot.cell));
-    };
-    if (!keep(row.flag) || !keep(row.count)) return false;
-    return (node.listed && IsKeptByElement(row)) || text_.call.Keep(record_ + row.offset, row.size);
+    if (row.size <= kKeptWhole || IsUnread(row) || (node.listed && IsKeptByElement(row))) return true;
+    return text_.call.Keep(record_ + row.offset, row.size);
 }
 
 // A value that no row reads goes to whoever asks for it. `row` is null for a key of no row.
@@ -648,10 +644,28 @@ const char* ReadTuple(const Table& table, const char* p, std::byte* record, Text
     return step.at;
 }
 
+// Keeps all rows but large ones, neighbours at once; flags and counts are rows of their own.
+bool KeepSmallRows(const Table& table, std::byte* record, const ReadCall& call) noexcept {
+    std::byte* run = record;
+    std::byte* end = record;
+    for (const Field& row : table) {
+        std::byte* const at = record + row.offset;
+        if (row.size <= kKeptWhole && at == end) {
+            end += row.size;
+            continue;
+        }
+        if (run != end && !call.Keep(run, static_cast<std::size_t>(end - run))) return false;
+        run = at;
+        end = at + row.size;
+        if (row.size > kKeptWhole) run = end;
+    }
+    return run == end || call.Keep(run, static_cast<std::size_t>(end - run));
+}
+
 // What afterRead touches is not kept row by row: it waits for the reply to turn out good.
 const char* ReadWithAsides(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
     Asides* const asides = table.asides(record, text.arena());
-    if (asides == nullptr) return nullptr;
+    if (asides == nullptr || (text.keepsRows && !KeepSmallRows(table, record, text.call))) return nullptr;
     StartFields(table, record, text.call);
     Asides* const around = std::exchange(text.asides, asides);
     p = Members(table, table.members, record, text).Read(p);
@@ -674,7 +688,7 @@ const char* ReadFieldsText(const Table& table, const char* p, std::byte* record,
         if (p != nullptr) ReadFields(table, value, record, text.call);
         return p;
     }
-    StartFields(table, record, text.call);
+    if (table.clearsFlags || table.suppliedCount > 0) StartFields(table, record, text.call);
     p = table.shape == Shape::Object ? Members(table, table.members, record, text).Read(p)
                                      : ReadTuple(table, p, record, text);
     if (p != nullptr && table.fromRoot.count > 0) ReadRootFields(table, record, text.call);
@@ -683,7 +697,7 @@ const char* ReadFieldsText(const Table& table, const char* p, std::byte* record,
 
 const char* ReadNamedText(const Table& table, const char* p, std::byte* at, TextCall& text,
                           std::string_view memberName) noexcept {
-    StartNamed(table, at, text.call, memberName);
+    if (table.startsWhenRead || table.memberName != nullptr) StartNamed(table, at, text.call, memberName);
     return ReadFieldsText(table, p, at, text);
 }
 
