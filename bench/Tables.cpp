@@ -10,19 +10,14 @@
 #include "bench/Pairs.h"
 #include "bench/Readers.h"
 #include "bench/Rules.h"
+#include "bench/Threads.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <thread>
 
 namespace orrery::bench {
 
 namespace {
-
-double WallSeconds() {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
 
 void Readers(const Table& table, const std::string& size, ReaderBench& bench, double rapidjson, double jsoncpp) {
     const std::size_t variants = bench.texts.size();
@@ -150,32 +145,6 @@ void RuleCounts(const Table& table) {
             table, "flat.VideoAnalyseRule.pack." + count, few.records(), 8, rules,
             [&](std::size_t i) { return few.Pack(i); }, [&](std::size_t i) { return many.Pack(i); });
     }
-}
-
-// As many calls on two threads as each does alone, to what one does alone in the same time: 2 is perfect.
-template <class Make, class Call>
-void Threads(const Table& table, const std::string& name, Make make, Call call) {
-    if (!table.Wants(name)) return;
-    constexpr double kBar = 1.95;
-    auto one = make(), two = make();
-    const auto run = [&](auto& bench, std::size_t count) {
-        auto bound = [&](std::size_t i) { return call(bench, i); };
-        return Run(bound, bench.records.size(), 0, count);
-    };
-    const auto count = static_cast<std::size_t>(std::max(1.0, 10 * table.time() / run(one, 20)));
-    std::vector<double> ratios, alone, together;
-    for (std::size_t pair = 0; pair < table.pairs() / 4 + 1; ++pair) {
-        double start = WallSeconds();
-        run(one, count);
-        alone.push_back((WallSeconds() - start) / static_cast<double>(count));
-        start = WallSeconds();
-        std::thread other([&] { run(two, count); });
-        run(one, count);
-        other.join();
-        together.push_back((WallSeconds() - start) / static_cast<double>(count));
-        ratios.push_back(2 * alone.back() / together.back());
-    }
-    Table::Print(name, {Median(ratios), Median(together), Median(alone)}, kBar);
 }
 
 void HeapLine(const std::string& name, const HeapUse& use, bool mustBeNone) {
@@ -306,10 +275,10 @@ void PrintTables(bool quick, const std::string& only) {
     const auto makeEncode = [] { return MakeEncodeBench(3); };
     const auto parse = [](auto& bench, std::size_t i) { return bench.Parse(i); };
     const auto pack = [](auto& bench, std::size_t i) { return bench.Pack(i); };
-    Threads(table, "threads.2_to_1.Alarm.parse", makeAlarm, parse);
-    Threads(table, "threads.2_to_1.Alarm.pack", makeAlarm, pack);
-    Threads(table, "threads.2_to_1.Encode.parse", makeEncode, parse);
-    Threads(table, "threads.2_to_1.Encode.pack", makeEncode, pack);
+    ThreadsLine(table, "threads.2_to_1.Alarm.parse", makeAlarm, parse);
+    ThreadsLine(table, "threads.2_to_1.Alarm.pack", makeAlarm, pack);
+    ThreadsLine(table, "threads.2_to_1.Encode.parse", makeEncode, parse);
+    ThreadsLine(table, "threads.2_to_1.Encode.pack", makeEncode, pack);
 }
 
 } // namespace orrery::bench
