@@ -13,7 +13,13 @@ namespace {
 // `digits` of a real are its 16 significant ones, of which the first stands in front of the decimal point when the
 // decimal exponent is 0.
 constexpr int kPrecision = 16;
-constexpr double kWholeLimit = 1e9; // whole numbers below it are laid out without a search for their digits
+constexpr double kWholeLimit = 1e9; // numbers of whole sixteenths below it are laid out without a search for digits
+constexpr char kSixteenths[16][4] = {
+    {'0', '0', '0', '0'}, {'0', '6', '2', '5'}, {'1', '2', '5', '0'}, {'1', '8', '7', '5'},
+    {'2', '5', '0', '0'}, {'3', '1', '2', '5'}, {'3', '7', '5', '0'}, {'4', '3', '7', '5'},
+    {'5', '0', '0', '0'}, {'5', '6', '2', '5'}, {'6', '2', '5', '0'}, {'6', '8', '7', '5'},
+    {'7', '5', '0', '0'}, {'8', '1', '2', '5'}, {'8', '7', '5', '0'}, {'9', '3', '7', '5'},
+};
 
 [[maybe_unused]] char* PutFour(char* at, std::uint32_t below10000) noexcept {
     return PutPair(PutPair(at, below10000 / 100), below10000 % 100);
@@ -167,12 +173,19 @@ char* PutLongDigits(char* at, std::uint32_t number) noexcept {
 char* PutReal(char* at, double number) noexcept {
     const double magnitude = std::fabs(number);
     if (std::signbit(number)) *at++ = '-';
-    // Sizes and coordinates are whole numbers as a rule: zeros fill up their digits.
-    if (magnitude < kWholeLimit && magnitude == static_cast<double>(static_cast<std::uint32_t>(magnitude))) {
-        char* const point = PutDigits(at, static_cast<std::uint32_t>(magnitude));
-        *point = '.';
-        std::memset(point + 1, '0', kPrecision);
-        return at + kPrecision + 1;
+    // Sizes and coordinates are whole numbers as a rule, and lengths have halves or quarters: zeros fill up their
+    // digits.
+    if (magnitude < kWholeLimit) {
+        const auto whole = static_cast<std::uint32_t>(magnitude);
+        const double sixteenths = (magnitude - whole) * 16;
+        const auto part = static_cast<std::uint32_t>(sixteenths);
+        if (part == sixteenths && (whole != 0 || part == 0)) {
+            char* const point = PutDigits(at, whole);
+            *point = '.';
+            std::memset(point + 1, '0', kPrecision);
+            std::memcpy(point + 1, kSixteenths[part], sizeof kSixteenths[part]);
+            return at + kPrecision + 1;
+        }
     }
 #if defined(__SIZEOF_INT128__)
     if (magnitude >= kLeast && magnitude < kBelow) return PutOrdinary(at, magnitude);

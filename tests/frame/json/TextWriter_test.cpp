@@ -154,6 +154,20 @@ TEST(TextWriter, WritesRealsAsPrintfDoesForEverydayNumbersAndRoundingEdges) {
     ExpectAsPrintf(std::numeric_limits<double>::max());
 }
 
+// Quarters and their like are laid out without a search for their digits, up to a limit.
+TEST(TextWriter, WritesBinaryFractionsAsPrintfDoes) {
+    for (const double whole :
+         {0.0, 1.0, 2.0, 9.0, 10.0, 99.0, 12345.0, 999999999.0, 1000000000.0, 4294967295.0, 1e15}) {
+        for (int part = 0; part < 64; ++part) {
+            ExpectAsPrintf(whole + part / 32.0);
+            ExpectAsPrintf(-whole - part / 32.0);
+        }
+    }
+    EXPECT_EQ(WrittenReal(48.25), "48.25000000000000");
+    EXPECT_EQ(WrittenReal(999999999.9375), "999999999.9375000");
+    EXPECT_EQ(WrittenReal(0.0625), "0.06250000000000000");
+}
+
 // Switches the whole program to a locale that writes 1,5; made on the spot where the machine has none.
 class CommaLocale {
   public:
