@@ -405,6 +405,11 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
     return p + size;
 }
 
+// Apart from what nearly all numbers are.
+[[gnu::noinline]] const char* ReadDecimal(const char* p, const char* end, double& number) noexcept {
+    return json::ReadShortDecimal(p, end, number);
+}
+
 // The values that nearly all text is, without a look at what else they might be; null for any other.
 [[gnu::always_inline]] inline const char* Members::ReadUsual(const Node& node, const char* p) noexcept {
     std::byte* const at = record_ + node.offset;
@@ -447,7 +452,7 @@ inline const char* ReadBool(const char* p, const char* end, bool& isTrue) noexce
     case Plainly::Fraction: {
         std::int32_t whole;
         double number;
-        if (const char* const after = json::ReadShortDecimal(p, end, number); after != nullptr) {
+        if (const char* const after = ReadDecimal(p, end, number); after != nullptr) {
             p = after;
         } else if ((p = json::ReadShortInt(p, end, whole)) != nullptr) {
             number = whole;
