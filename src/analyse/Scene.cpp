@@ -237,7 +237,7 @@ void ReadNumberedScenes(const Object& global, std::byte* record, ReadCall& call)
         const Value& scene = global.Numbered(kSceneStem, i + 1);
         if (scene.isNull()) break;
         if (!scene.isObject()) continue;
-        ReadRecord(kAnalyseScene, scene, first + i * sizeof(CFG_ANALYSE_SCENE_INFO), call);
+        global.ReadScene(scene, first + i * sizeof(CFG_ANALYSE_SCENE_INFO), call);
         ++count;
     }
     SET_MEMBER(record, CFG_ANALYSEGLOBAL_INFO, nSceneNum, count);
@@ -292,8 +292,14 @@ struct WholeGlobal {
     void Read(const NumberedArray& array, std::uint32_t number, std::byte* at, ReadCall& call) const noexcept {
         if (call.Keep(at, array.table.size)) ReadRecord(array.table, Numbered(array.stem, number), at, call);
     }
+    void ReadScene(const Value& scene, std::byte* at, ReadCall& call) const noexcept {
+        ReadRecord(kAnalyseScene, scene, at, call);
+    }
     void StoreAreaTypes(std::byte* areas) const noexcept { ReadAreaTypes(object["CalibrateArea"], areas); }
 };
+
+const Value kAny = Value::OfBool(true);
+const Value kReadScene = Value::OfObject(nullptr, 0);
 
 // and of what was kept of its text. Entries of the caller's arrays have been read by then.
 struct KeptGlobal : Asides {
@@ -310,6 +316,8 @@ struct KeptGlobal : Asides {
     const Value* numbered[kStems][kMostNumbered] = {}; // those that came
     std::byte* areas;                                  // whose types are being read
     AreaTypes types;
+    std::uint32_t scenesInRow = 0; // that came, from the first on
+    bool sceneHasDetail = false;   // the one that is being read
 
     static std::size_t StemOf(std::string_view stem) noexcept { return stem[0] == 'S' ? 0 : stem[0] == 'T' ? 1 : 2; }
     const Value& Detail() const noexcept { return detail == nullptr ? json::kNull : *detail; }
@@ -318,6 +326,9 @@ struct KeptGlobal : Asides {
         return value == nullptr ? json::kNull : *value;
     }
     void Read(const NumberedArray&, std::uint32_t, std::byte*, ReadCall&) const noexcept {}
+    void ReadScene(const Value& scene, std::byte* at, ReadCall& call) const noexcept {
+        if (&scene != &kReadScene) ReadRecord(kAnalyseScene, scene, at, call);
+    }
     void StoreAreaTypes(std::byte* at) const noexcept { types.Store(at); }
 
     static Key KeyOf(std::string_view key) noexcept {
@@ -335,8 +346,6 @@ struct KeptGlobal : Asides {
         return number > kMostNumbered ? Key{} : Key{stem, number};
     }
 };
-
-const Value kAny = Value::OfBool(true);
 
 const Value* KeepDocument(const char*& p, TextCall& text) noexcept {
     auto* const value = text.arena().Array<Value>(1);
@@ -391,6 +400,22 @@ const char* ReadEntry(KeptGlobal& global, const NumberedArray& array, std::uint3
     return p;
 }
 
+// A scene behind those in front of it, which no number is missing of, is read at once. Where it has a detail, its types
+// settle what that is: it waits as a document, as scenes out of order do.
+static_assert(!kAnalyseScene.hasDefaults && !kAnalyseScene.clearsFlags && kAnalyseScene.suppliedCount == 0);
+const Value* KeepScene(KeptGlobal& global, std::uint32_t number, const char*& p, TextCall& text) noexcept {
+    const bool isNext = number == global.scenesInRow + 1;
+    if (isNext && *p != 'n') ++global.scenesInRow;
+    if (!isNext || *p != '{' || number == kMostNumbered) return KeepDocument(p, text);
+    std::byte* const scenes = global.record + offsetof(CFG_ANALYSEGLOBAL_INFO, stuScenes);
+    global.sceneHasDetail = false;
+    const char* const behind =
+        ReadMembersText(kAnalyseScene, p, scenes + (number - 1) * sizeof(CFG_ANALYSE_SCENE_INFO), text);
+    if (behind != nullptr && global.sceneHasDetail) return KeepDocument(p, text);
+    p = behind;
+    return &kReadScene;
+}
+
 const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextCall& text) noexcept {
     auto& global = static_cast<KeptGlobal&>(asides);
     const Field* const row = unread.row;
@@ -400,6 +425,10 @@ const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextC
         const auto area = static_cast<std::size_t>(unread.record - global.areas) / sizeof(CFG_CALIBRATE_AREA);
         global.types.Set(area, *type);
         return p;
+    }
+    if (&unread.table == &kAnalyseScene && row != nullptr) {
+        global.sceneHasDetail = *p != 'n';
+        return json::SkipValue(p, text.end, text.arena());
     }
     if (&unread.table != &kAnalyseGlobal) return json::SkipValue(p, text.end, text.arena());
     if (row != nullptr && row->offset == offsetof(CFG_ANALYSEGLOBAL_INFO, stuDetail)) {
@@ -416,7 +445,7 @@ const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextC
     const Value*& value = global.numbered[stem][number - 1];
     if (value != nullptr) return nullptr;
     if (stem == KeptGlobal::StemOf(kSceneStem)) {
-        value = KeepDocument(p, text);
+        value = KeepScene(global, number, p, text);
         return p;
     }
     value = *p == 'n' ? &json::kNull : &kAny;

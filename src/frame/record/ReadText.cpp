@@ -327,6 +327,8 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
         areWeeks = areWeeks && last->week;
     }
     next_ = last;
+    if (others == 0 && text_.asides != nullptr && isWritten(*node)) // and so are the others
+        return TakeUnread(&table_.rows[node->row], key, p);
     if (others == 1 && (*p == '{' || *p == '[')) {
         const char* after = nullptr;
         for (; node != last; ++node) {
@@ -616,7 +618,7 @@ const char* ReadNumbers(const Table& table, const char* p, std::byte* record, co
 }
 
 // The elements are few, and their number has to be known before the first is read.
-const char* ReadTuple(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+[[gnu::noinline]] const char* ReadTuple(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
     if (const char* const after = ReadNumbers(table, p, record, text)) return after;
     alignas(Value) std::byte room[kMostInTuple * sizeof(Value)]; // left uninitialised on purpose
     auto* const values = reinterpret_cast<Value*>(room);
@@ -668,7 +670,8 @@ bool KeepSmallRows(const Table& table, std::byte* record, const ReadCall& call) 
 }
 
 // What afterRead touches is not kept row by row: it waits for the reply to turn out good.
-const char* ReadWithAsides(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+[[gnu::noinline]] const char* ReadWithAsides(const Table& table, const char* p, std::byte* record,
+                                             TextCall& text) noexcept {
     Asides* const asides = table.asides(record, text.arena());
     if (asides == nullptr || (text.keepsRows && !KeepSmallRows(table, record, text.call))) return nullptr;
     StartFields(table, record, text.call);
@@ -717,6 +720,11 @@ void FinishAsides(TextCall& text) noexcept {
     }
     for (; first != nullptr; first = first->next)
         first->finish(*first, text.call);
+}
+
+const char* ReadMembersText(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
+    if (text.keepsRows && !KeepSmallRows(table, record, text.call)) return nullptr;
+    return Members(table, table.members, record, text).Read(p);
 }
 
 const char* ReadAside(const char* p, Value& value, TextCall& text) noexcept {

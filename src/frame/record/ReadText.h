@@ -54,6 +54,10 @@ constexpr bool IsKeptByRow(const Table& table) {
 // Finishes all that wait for the reply to turn out good.
 void FinishAsides(TextCall& text) noexcept;
 
+// The rows alone of the object at `p`, kept where the record around it is; what its table's afterRead does is left to
+// whoever asks. Of tables that start at zero.
+const char* ReadMembersText(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept;
+
 // The value at `p`, whatever it is, as a document. The byte behind it; null when it is no JSON.
 const char* ReadAside(const char* p, json::Value& value, TextCall& text) noexcept;
 
