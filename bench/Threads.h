@@ -57,10 +57,11 @@ inline bool Overlap(const Turn& a, const Turn& b) {
 }
 
 // `first` and `second` do their work once: the sum of what each gets done beside the other to what it does alone; 2 is
-// perfect. Each has memory of its own, so each has its own time alone. The threads wait for each other and warm up
-// before the clock is read: how long the system takes to start a thread, which is as much as a hundred short calls, is
-// not about the calls. A sample in which another program took one of the processors, or in which the two had but one
-// between them, tells of that and is taken again, so long as that makes sense; `isGood` tells whether enough were good.
+// perfect. Each has its own time alone, in its own memory and, mostly, on its own processor. The threads wait for each
+// other and warm up before the clock is read: how long the system takes to start a thread, which is as much as a
+// hundred short calls, is not about the calls. A sample in which another program took one of the processors, or in
+// which the two had but one between them, tells of that and is taken again, so long as that makes sense; `isGood` tells
+// whether enough were good.
 struct Together {
     double ratio = 0;
     double alone = 0; // seconds of the first
@@ -79,20 +80,24 @@ Together RunTogether(std::size_t samples, First first, Second second) {
     while (good.ratios.size() < samples && (all.ratios.size() < 3 || WallSeconds() - start < kMostSeconds)) {
         first();
         const Turn firstAlone = TakeTurn(first);
-        second();
-        const Turn secondAlone = TakeTurn(second);
         std::atomic<int> ready = 0;
         const auto meet = [&ready] {
             ++ready;
             while (ready.load() < 2) {
             }
         };
-        Turn secondBeside;
+        Turn secondAlone, secondBeside;
+        std::atomic<bool> isAlone = true;
         std::thread other([&] {
+            second();
+            secondAlone = TakeTurn(second);
+            isAlone = false;
+            isAlone.notify_one();
             second();
             meet();
             secondBeside = TakeTurn(second);
         });
+        isAlone.wait(true); // asleep
         first();
         meet();
         const Turn firstBeside = TakeTurn(first);
