@@ -6,6 +6,8 @@
 #include "frame/json/StringDecoder.h"
 #include "frame/json/Value.h"
 
+#include <iterator>
+
 namespace orrery::json {
 
 // Reads the string, number, bool or null at `p`, which is in front of `end`, and puts it at `at`. The byte behind it;
@@ -42,14 +44,14 @@ inline const char* ReadScalar(const char* p, const char* end, Arena& arena, void
     }
 }
 
-// Up to seven digits, read eight bytes at once: how many digits follow one another is a guess that processors lose.
+// Up to eight digits, read eight bytes at once: how many digits follow one another is a guess that processors lose.
 struct FewDigits {
     static constexpr std::size_t kRoom = 8; // bytes that are looked at
 
-    std::size_t count; // kRoom: there may be more
+    std::size_t count; // kRoom: there may be more behind them
     std::uint32_t number;
 };
-// The number of the values of `count` digits, 1 to 7, the first lowest; what is above them does not count.
+// The number of the values of `count` digits, 1 to 8, the first lowest; what is above them does not count.
 constexpr std::uint32_t NumberOfDigits(std::uint64_t bytes, unsigned count) noexcept {
     bytes <<= 64 - 8 * count; // zeros in front make them eight
     bytes = bytes * 10 + (bytes >> 8);
@@ -65,23 +67,38 @@ inline FewDigits ReadFewDigits(const char* p) noexcept {
     if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
     bytes ^= '0' * kEach; // the values of digits
     const std::uint64_t others = ((bytes + (0x80 - 10) * kEach) | bytes) & (0x80 * kEach);
-    if (others == 0) return {FewDigits::kRoom, 0};
+    if (others == 0) return {FewDigits::kRoom, NumberOfDigits(bytes, FewDigits::kRoom)};
     const auto count = static_cast<unsigned>(std::countr_zero(others)) / 8;
     if (count == 0) return {0, 0};
     return {count, NumberOfDigits(bytes, count)};
 }
 
-// Reads the integer of up to nine digits at `p`. The byte behind it; null for any other value.
+// Reads the integer of up to nine digits at `p`, or of ten where a document has it as an int and more text follows. The
+// byte behind it; null for any other value.
 inline const char* ReadShortInt(const char* p, const char* end, std::int32_t& number) noexcept {
     const bool negative = *p == '-';
     const char* const digits = p + (negative ? 1 : 0);
-    if (end - digits >= static_cast<std::ptrdiff_t>(FewDigits::kRoom)) [[likely]] {
+    constexpr std::size_t kRoom = FewDigits::kRoom;
+    const auto room = static_cast<std::size_t>(end - digits);
+    const auto ends = [](const char* at) { return !kNumberByte[static_cast<unsigned char>(*at)]; };
+    if (room >= kRoom) [[likely]] {
         const FewDigits few = ReadFewDigits(digits);
-        if (few.count < FewDigits::kRoom) [[likely]] {
-            if (few.count == 0 || kNumberByte[static_cast<unsigned char>(digits[few.count])]) return nullptr;
+        if (few.count < kRoom) [[likely]] {
+            if (few.count == 0 || !ends(digits + few.count)) return nullptr;
             number = static_cast<std::int32_t>(few.number);
             if (negative) number = -number;
             return digits + few.count;
+        }
+        if (room >= 2 * kRoom) [[likely]] {
+            constexpr std::uint32_t kPowers[] = {1, 10, 100};
+            const FewDigits more = ReadFewDigits(digits + kRoom);
+            const char* const after = digits + kRoom + more.count;
+            if (more.count >= std::size(kPowers) || !ends(after)) return nullptr;
+            const std::uint64_t magnitude = std::uint64_t{few.number} * kPowers[more.count] + more.number;
+            if (magnitude / 10 >= kFirstDigitsOfReals) return nullptr;
+            number = static_cast<std::int32_t>(magnitude);
+            if (negative) number = -number;
+            return after;
         }
     }
     std::int32_t magnitude = 0;

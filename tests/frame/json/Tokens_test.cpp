@@ -84,7 +84,7 @@ TEST(Tokens, FewNumbersAreThoseOfTheArrayOrNothing) {
     EXPECT_EQ(numbers[0], -5);
 }
 
-TEST(Tokens, ShortIntegersAreThoseOfNineDigits) {
+TEST(Tokens, ShortIntegersAreThoseOfNineDigitsAndMostOfTen) {
     const auto read = [](std::string_view text) {
         std::int32_t number = -5;
         const char* const p = ReadShortInt(text.data(), text.data() + text.size(), number);
@@ -93,6 +93,14 @@ TEST(Tokens, ShortIntegersAreThoseOfNineDigits) {
     EXPECT_EQ(read("999999999,"), (std::pair<std::ptrdiff_t, std::int32_t>{9, 999999999}));
     EXPECT_EQ(read("-999999999"), (std::pair<std::ptrdiff_t, std::int32_t>{10, -999999999}));
     EXPECT_EQ(read("-0}"), (std::pair<std::ptrdiff_t, std::int32_t>{2, 0}));
+    const std::string behind(6, ' '); // sixteen bytes are looked at where they are
+    EXPECT_EQ(read("12345678" + behind + "  ").second, 12345678);
+    EXPECT_EQ(read("1000000000" + behind), (std::pair<std::ptrdiff_t, std::int32_t>{10, 1000000000}));
+    EXPECT_EQ(read("-2147483639" + behind), (std::pair<std::ptrdiff_t, std::int32_t>{11, -2147483639}));
+    EXPECT_EQ(read("0000000012" + behind), (std::pair<std::ptrdiff_t, std::int32_t>{10, 12}));
+    for (const char* const other : {"2147483640", "2147483647", "-2147483640", "4294967295", "9999999999",
+                                    "00000000012", "1000000000.", "123456789e", "12345678-"})
+        EXPECT_EQ(read(other + behind).first, -1) << other;
     for (const char* const other : {"1000000000", "1.5", "1e3", "-", "-x", "\"1\"", "true", "1-"})
         EXPECT_EQ(read(other).first, -1) << other;
 }
@@ -113,7 +121,8 @@ TEST(Tokens, ShortIntegersEndWhereTheirDigitsDo) {
                 const test::GuardedBuffer text(number + byte + std::string(more, '7'));
                 std::int32_t value = 0;
                 const char* const p = ReadShortInt(text.data(), text.data() + text.size(), value);
-                if (digits == 0 || digits > 9 || goesOn) {
+                const bool isTen = digits == 10 && 1 + more >= 6 && std::labs(std::stol(number)) < 2147483640;
+                if (digits == 0 || (digits > 9 && !isTen) || goesOn) {
                     ASSERT_EQ(p, nullptr) << text.view();
                 } else {
                     ASSERT_EQ(p, text.data() + number.size()) << text.view();
