@@ -298,9 +298,6 @@ struct WholeGlobal {
     void StoreAreaTypes(std::byte* areas) const noexcept { ReadAreaTypes(object["CalibrateArea"], areas); }
 };
 
-const Value kAny = Value::OfBool(true);
-const Value kReadScene = Value::OfObject(nullptr, 0);
-
 // and of what was kept of its text. Entries of the caller's arrays have been read by then.
 struct KeptGlobal : Asides {
     static constexpr std::size_t kStems = 3;
@@ -312,6 +309,8 @@ struct KeptGlobal : Asides {
     explicit KeptGlobal(const Asides& asides) noexcept
         : Asides(asides), areas(record + offsetof(CFG_ANALYSEGLOBAL_INFO, stuCalibrateAreas)) {}
 
+    const Value any = Value::OfBool(true);               // stands for one that was read already
+    const Value readScene = Value::OfObject(nullptr, 0); // and for a scene
     const Value* detail = nullptr;
     const Value* numbered[kStems][kMostNumbered] = {}; // those that came
     std::byte* areas;                                  // whose types are being read
@@ -327,7 +326,7 @@ struct KeptGlobal : Asides {
     }
     void Read(const NumberedArray&, std::uint32_t, std::byte*, ReadCall&) const noexcept {}
     void ReadScene(const Value& scene, std::byte* at, ReadCall& call) const noexcept {
-        if (&scene != &kReadScene) ReadRecord(kAnalyseScene, scene, at, call);
+        if (&scene != &readScene) ReadRecord(kAnalyseScene, scene, at, call);
     }
     void StoreAreaTypes(std::byte* at) const noexcept { types.Store(at); }
 
@@ -413,7 +412,7 @@ const Value* KeepScene(KeptGlobal& global, std::uint32_t number, const char*& p,
         ReadMembersText(kAnalyseScene, p, scenes + (number - 1) * sizeof(CFG_ANALYSE_SCENE_INFO), text);
     if (behind != nullptr && global.sceneHasDetail) return KeepDocument(p, text);
     p = behind;
-    return &kReadScene;
+    return &global.readScene;
 }
 
 const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextCall& text) noexcept {
@@ -423,6 +422,7 @@ const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextC
         const Value* const type = KeepDocument(p, text);
         if (p == nullptr) return nullptr;
         const auto area = static_cast<std::size_t>(unread.record - global.areas) / sizeof(CFG_CALIBRATE_AREA);
+        if (area >= ORRERY_CALIBRATE_AREAS) return nullptr; // no area of this list
         global.types.Set(area, *type);
         return p;
     }
@@ -437,7 +437,7 @@ const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextC
             return p;
         }
         // It has no keys, but says that there is a detail.
-        global.detail = *p == 'n' ? nullptr : &kAny;
+        global.detail = *p == 'n' ? nullptr : &global.any;
         return json::SkipValue(p, text.end, text.arena());
     }
     const auto [stem, number] = KeptGlobal::KeyOf(unread.key);
@@ -448,7 +448,7 @@ const char* KeepAside(Asides& asides, const Unread& unread, const char* p, TextC
         value = KeepScene(global, number, p, text);
         return p;
     }
-    value = *p == 'n' ? &json::kNull : &kAny;
+    value = *p == 'n' ? &json::kNull : &global.any;
     return ReadEntry(global, stem == KeptGlobal::StemOf(kPeriodStem) ? kPeriodArray : kAreasArray, number, p, text);
 }
 

@@ -339,7 +339,7 @@ const char* Members::ReadShared(const Node* node, const char* p) noexcept {
         }
         return after;
     }
-    if (areWeeks) {
+    if (areWeeks && others > 0) {
         Week week;
         const Node* one = node;
         while (one != last && (isWritten(*one) || ReadWeek(table_, *one, p, record_, text_, week)))
