@@ -399,6 +399,8 @@ const char* ReadEntry(KeptGlobal& global, const NumberedArray& array, std::uint3
     return p;
 }
 
+constexpr KeptRuns kGlobalRuns(kAnalyseGlobal), kSceneRuns(kAnalyseScene);
+
 // A scene behind those in front of it, which no number is missing of, is read at once. Where it has a detail, its types
 // settle what that is: it waits as a document, as scenes out of order do.
 static_assert(!kAnalyseScene.hasDefaults && !kAnalyseScene.clearsFlags && kAnalyseScene.suppliedCount == 0);
@@ -409,7 +411,7 @@ const Value* KeepScene(KeptGlobal& global, std::uint32_t number, const char*& p,
     std::byte* const scenes = global.record + offsetof(CFG_ANALYSEGLOBAL_INFO, stuScenes);
     global.sceneHasDetail = false;
     const char* const behind =
-        ReadMembersText(kAnalyseScene, p, scenes + (number - 1) * sizeof(CFG_ANALYSE_SCENE_INFO), text);
+        ReadMembersText(kAnalyseScene, kSceneRuns, p, scenes + (number - 1) * sizeof(CFG_ANALYSE_SCENE_INFO), text);
     if (behind != nullptr && global.sceneHasDetail) return KeepDocument(p, text);
     p = behind;
     return &global.readScene;
@@ -473,7 +475,7 @@ void FinishKept(Asides& asides, ReadCall& call) noexcept {
 
 Asides* KeepOfGlobal(std::byte* record, Arena& arena) {
     void* const room = arena.Allocate(sizeof(KeptGlobal));
-    return room == nullptr ? nullptr : new (room) KeptGlobal({record, KeepAside, FinishKept});
+    return room == nullptr ? nullptr : new (room) KeptGlobal({record, KeepAside, FinishKept, &kGlobalRuns});
 }
 
 void ReadGlobalOfTypes(const Value& global, std::byte* record, ReadCall& call) {

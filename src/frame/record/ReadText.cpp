@@ -156,29 +156,11 @@ const char* ReadNumbers(const Table& table, const char* p, std::byte* record, co
     return step.at;
 }
 
-// Keeps all rows but large ones, neighbours at once; flags and counts are rows of their own.
-bool KeepSmallRows(const Table& table, std::byte* record, const ReadCall& call) noexcept {
-    std::byte* run = record;
-    std::byte* end = record;
-    for (const Field& row : table) {
-        std::byte* const at = record + row.offset;
-        if (row.size <= kKeptWhole && at == end) {
-            end += row.size;
-            continue;
-        }
-        if (run != end && !call.Keep(run, static_cast<std::size_t>(end - run))) return false;
-        run = at;
-        end = at + row.size;
-        if (row.size > kKeptWhole) run = end;
-    }
-    return run == end || call.Keep(run, static_cast<std::size_t>(end - run));
-}
-
 // What afterRead touches is not kept row by row: it waits for the reply to turn out good.
 [[gnu::noinline]] const char* ReadWithAsides(const Table& table, const char* p, std::byte* record,
                                              TextCall& text) noexcept {
     Asides* const asides = table.asides(record, text.arena());
-    if (asides == nullptr || (text.keepsRows && !KeepSmallRows(table, record, text.call))) return nullptr;
+    if (asides == nullptr || (text.keepsRows && !asides->runs->Keep(record, text.call))) return nullptr;
     StartFields(table, record, text.call);
     Asides* const around = std::exchange(text.asides, asides);
     p = Members(table, table.members, record, text).Read(p);
@@ -227,8 +209,9 @@ void FinishAsides(TextCall& text) noexcept {
         first->finish(*first, text.call);
 }
 
-const char* ReadMembersText(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept {
-    if (text.keepsRows && !KeepSmallRows(table, record, text.call)) return nullptr;
+const char* ReadMembersText(const Table& table, const KeptRuns& runs, const char* p, std::byte* record,
+                            TextCall& text) noexcept {
+    if (text.keepsRows && !runs.Keep(record, text.call)) return nullptr;
     return Members(table, table.members, record, text).Read(p);
 }
 

@@ -31,6 +31,38 @@ struct Unread {
     std::byte* record;
 };
 
+// Of larger members the elements are kept one by one, as they come.
+inline constexpr std::uint32_t kKeptWhole = 2 << 10;
+
+// What of a record is kept at once: all rows but large ones, flags and counts among them.
+class KeptRuns {
+  public:
+    struct Run {
+        std::uint32_t offset, size;
+    };
+
+    consteval explicit KeptRuns(const Table& table) {
+        std::uint32_t end = 0;
+        for (std::uint16_t i = 0; i < table.rowCount; ++i) {
+            const Field& row = table.rows[i];
+            if (row.size > kKeptWhole || row.size == 0) continue;
+            if (count_ == 0 || row.offset != end) runs_[count_++] = {row.offset, 0}; // too many do not compile
+            runs_[count_ - 1].size += row.size;
+            end = row.offset + row.size;
+        }
+    }
+    bool Keep(std::byte* record, const ReadCall& call) const noexcept {
+        for (std::uint16_t i = 0; i < count_; ++i) {
+            if (!call.Keep(record + runs_[i].offset, runs_[i].size)) return false;
+        }
+        return true;
+    }
+
+  private:
+    Run runs_[16]{};
+    std::uint16_t count_ = 0;
+};
+
 // What a table's afterRead asks of its object, while that is read from the text. It lies in the call's arena.
 struct Asides {
     std::byte* record;
@@ -38,6 +70,7 @@ struct Asides {
     const char* (*take)(Asides& asides, const Unread& unread, const char* p, TextCall& text) noexcept;
     // Does what afterRead does.
     void (*finish)(Asides& asides, ReadCall& call) noexcept;
+    const KeptRuns* runs; // of the table
     Asides* next = nullptr;
 };
 
@@ -56,7 +89,8 @@ void FinishAsides(TextCall& text) noexcept;
 
 // The rows alone of the object at `p`, kept where the record around it is; what its table's afterRead does is left to
 // whoever asks. Of tables that start at zero.
-const char* ReadMembersText(const Table& table, const char* p, std::byte* record, TextCall& text) noexcept;
+const char* ReadMembersText(const Table& table, const KeptRuns& runs, const char* p, std::byte* record,
+                            TextCall& text) noexcept;
 
 // The value at `p`, whatever it is, as a document. The byte behind it; null when it is no JSON.
 const char* ReadAside(const char* p, json::Value& value, TextCall& text) noexcept;

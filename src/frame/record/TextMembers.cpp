@@ -17,7 +17,7 @@ bool IsUnread(const Field& row) noexcept {
 
 } // namespace
 
-// Keeps what reading a row touches, but for what KeepSmallRows has kept and for elements that are kept one by one.
+// Keeps what reading a row touches, but for what is kept in runs and for elements that are kept one by one.
 bool Members::KeepRow(const Node& node) noexcept {
     if (node.childCount > 0) return true; // its rows are
     const Field& row = table_.rows[node.row];

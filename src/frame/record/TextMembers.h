@@ -6,8 +6,7 @@
 
 namespace orrery::record {
 
-// Of larger members the elements are kept one by one, as they come.
-inline constexpr std::uint32_t kKeptWhole = 2 << 10;
+// Whether the elements of a list are kept one by one, as they come.
 inline bool IsKeptByElement(const Field& field) noexcept {
     return field.kind == Kind::Record && field.cell != Cell::Pointer && field.size > kKeptWhole;
 }
