@@ -93,13 +93,15 @@ std::size_t CountMembers(const Value& root, Arena& arena) noexcept {
     if (!enter(root)) return 0;
     while (!open.empty()) {
         Rest& rest = open.top();
-        if (rest.next == rest.end) {
+        const Value* at = rest.next;
+        while (at != rest.end && at->type() < Type::Array)
+            at += rest.step;
+        if (at == rest.end) {
             open.Pop();
             continue;
         }
-        const Value& value = *rest.next;
-        rest.next += rest.step;
-        if (value.type() >= Type::Array && !enter(value)) return 0;
+        rest.next = at + rest.step;
+        if (!enter(*at)) return 0;
     }
     return members;
 }

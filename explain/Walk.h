@@ -81,6 +81,8 @@ class Walk {
               bool isTried = false);
     void Time(const Site& site, const json::Value& value);
     void Section(const Site& site, const json::Value& value, bool anyWidth);
+    // How many of the leading values are periods that there is nothing to tell of: nearly all are.
+    static std::size_t PlainSections(std::span<const json::Value> values);
     void Schedule(const Site& site, const json::Value& value, std::uint32_t rows, std::uint32_t columns);
     void Numbers(const Site& site, const json::Value& value);
     void Custom(const Site& site, const json::Value& value);

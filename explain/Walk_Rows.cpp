@@ -130,8 +130,14 @@ void Walk::List(const Site& site, int level, const Value& value) {
                 + (room == 1 ? " is" : " are") + " read: none is read");
         return;
     }
+    auto elements = value.elements();
     std::uint32_t used = 0, at = 0;
-    for (const Value& element : value.elements()) {
+    if (innermost && field.kind == Kind::TimeSection) {
+        used = at =
+            static_cast<std::uint32_t>(PlainSections(elements.first(std::min<std::size_t>(elements.size(), room))));
+        elements = elements.subspan(at);
+    }
+    for (const Value& element : elements) {
         if (used == room) {
             std::uint32_t lost = value.size() - at;
             // Nulls that would be passed over lose nothing.

@@ -168,10 +168,16 @@ struct Clock {
     std::int32_t hour, minute, second;
     // 24:00:00 is how devices write the end of a day.
     bool isOfDay() const {
-        if (hour == 24) return minute == 0 && second == 0;
-        return hour >= 0 && hour < 24 && minute >= 0 && minute < 60 && second >= 0 && second < 60;
+        const auto below = [](std::int32_t number, unsigned most) { return static_cast<unsigned>(number) < most; };
+        const bool isBefore = below(hour, 24) && below(minute, 60) && below(second, 60);
+        return isBefore || (hour == 24 && minute == 0 && second == 0);
     }
 };
+bool IsOfDay(const CFG_TIME_SECTION& section) {
+    const Clock begin{section.nBeginHour, section.nBeginMin, section.nBeginSec};
+    const Clock end{section.nEndHour, section.nEndMin, section.nEndSec};
+    return begin.isOfDay() && end.isOfDay();
+}
 
 } // namespace
 
@@ -194,11 +200,21 @@ void Walk::Section(const Site& site, const Value& value, bool anyWidth) {
             Quoted(value.asString()) + " is no period like \"1 08:00:00-17:30:00\"");
         return;
     }
-    const Clock begin{section.nBeginHour, section.nBeginMin, section.nBeginSec};
-    const Clock end{section.nEndHour, section.nEndMin, section.nEndSec};
-    if (begin.isOfDay() && end.isOfDay()) return;
+    if (IsOfDay(section)) return;
     Add(ORRERY_FINDING_BAD_TIME, ORRERY_FINDING_NOTE, value, site,
         Quoted(value.asString()) + " is no time of a day; it is stored as it stands");
+}
+
+std::size_t Walk::PlainSections(std::span<const Value> values) {
+    CFG_TIME_SECTION sections[ORRERY_DAY_SECTIONS];
+    std::size_t plain = 0;
+    for (;;) {
+        const auto few = values.subspan(plain, std::min(values.size() - plain, std::size(sections)));
+        const std::size_t usual = JsonParser::GetUsualSections(few, sections);
+        const auto* const odd = std::find_if_not(sections, sections + usual, IsOfDay);
+        plain += static_cast<std::size_t>(odd - sections);
+        if (odd != sections + std::size(sections)) return plain;
+    }
 }
 
 void Walk::Schedule(const Site& site, const Value& value, std::uint32_t rows, std::uint32_t columns) {
@@ -222,8 +238,10 @@ void Walk::Schedule(const Site& site, const Value& value, std::uint32_t rows, st
             WrongType(sections, own, "a list of periods", "the day stays empty");
             continue;
         }
-        std::uint32_t at = 0;
-        for (const Value& section : sections.elements()) {
+        const auto periods = sections.elements();
+        const std::size_t plain = PlainSections(periods.first(std::min<std::size_t>(periods.size(), columns)));
+        auto at = static_cast<std::uint32_t>(plain);
+        for (const Value& section : periods.subspan(plain)) {
             if (at == columns) {
                 Dropped(own, sections, columns, sections.size() - columns, "room for");
                 break;

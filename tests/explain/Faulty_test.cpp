@@ -83,6 +83,40 @@ TEST(FaultyReplies, ThatUsersCameWith) {
         ExpectTold(fault);
 }
 
+// Most of a week's periods are as they should be.
+TEST(FaultyReplies, WithOnePeriodAmongGoodOnes) {
+    const Fault faults[] = {
+        {"Alarm",
+         R"({"EventHandler":{"TimeSection":[["1 00:00:00-24:00:00","0 08:00:00-17:30:00",@"1 08:00:00-24:00:01"]]}})",
+         ORRERY_FINDING_BAD_TIME, kNote, "params.table.EventHandler.TimeSection[0][2]",
+         "CFG_EVENT_HANDLER_INFO.stuTimeSectionEx", "is no time of a day"},
+        {"Alarm",
+         R"({"EventHandler":{"TimeSection":[["1 00:00:00-23:59:59"],["1 00:00:00-23:59:59",@"1 08:00","1 25:0:0-9:0:0"]]}})",
+         ORRERY_FINDING_BAD_TIME, kLost, "params.table.EventHandler.TimeSection[1][1]",
+         "CFG_EVENT_HANDLER_INFO.stuTimeSectionEx", "the schedule ends here"},
+        {"Alarm",
+         R"({"EventHandler":{"TimeSection":[@["1 00:00:00-01:00:00","1 00:00:00-01:00:00","1 00:00:00-01:00:00",)"
+         R"("1 00:00:00-01:00:00","1 00:00:00-01:00:00","1 00:00:00-01:00:00","1 00:00:00-01:00:00"]]}})",
+         ORRERY_FINDING_ELEMENTS_DROPPED, kLost, "params.table.EventHandler.TimeSection[0]",
+         "CFG_EVENT_HANDLER_INFO.stuTimeSectionEx", "7 elements, room for 6: 1 is dropped", 1},
+        {"AccessTimeSchedule", R"({"TimeSchedule":[["1 00:00:00-24:00:00",@"1 24:00:00-60:00:00"]]})",
+         ORRERY_FINDING_BAD_TIME, kNote, "params.table.TimeSchedule[0][1]",
+         "CFG_ACCESS_TIME_SCHEDULE_INFO.stuTimeSection", "is no time of a day"},
+        {"AccessTimeSchedule",
+         R"({"TimeSchedule":[[],@["1 00:00:00-01:00:00","1 00:00:00-01:00:00","1 00:00:00-01:00:00",)"
+         R"("1 00:00:00-01:00:00","1 00:00:00-01:00:00"]]})",
+         ORRERY_FINDING_ELEMENTS_DROPPED, kLost, "params.table.TimeSchedule[1]",
+         "CFG_ACCESS_TIME_SCHEDULE_INFO.stuTimeSection", "5 elements, room for 4: 1 is dropped", 1},
+        {"MonitorWall",
+         R"([{"PowerSchedule":["1 00:00:00-01:00:00","1 00:00:00-01:00:00","1 00:00:00-01:00:00",)"
+         R"("1 00:00:00-01:00:00","1 00:00:00-01:00:00","1 00:00:00-01:00:00",@"1 00:60:00-01:00:00"]}])",
+         ORRERY_FINDING_BAD_TIME, kNote, "params.table[0].PowerSchedule[6]", "CFG_MONITOR_WALL_INFO.stuPowerSchedule",
+         "is no time of a day"},
+    };
+    for (const Fault& fault : faults)
+        ExpectTold(fault);
+}
+
 TEST(FaultyReplies, ThatAreRefused) {
     const Fault faults[] = {
         {"NTP", R"({"result":true,"params":{"table":{"Port":@x}}})", ORRERY_FINDING_NOT_JSON, kFatal, "", "",
