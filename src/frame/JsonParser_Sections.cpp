@@ -73,16 +73,16 @@ bool ReadSection(std::string_view text, const unsigned char* widths, CFG_TIME_SE
     return count == kSectionFields;
 }
 
+// Of a section in quotes.
+constexpr std::size_t kSectionText = kUsualSize + 2;
 // The usual section in quotes at `p`: the byte behind it, or null.
 inline const char* ReadUsualText(const char* p, const char* end, CFG_TIME_SECTION* section) noexcept {
-    constexpr std::ptrdiff_t kQuoted = kUsualSize + 2;
-    if (end - p <= kQuoted || *p != '"') return nullptr; // one of two digits may be longer by one
-    const std::size_t size = kUsualSize + (p[kQuoted - 1] == '"' ? 0 : 1);
+    if (end - p <= static_cast<std::ptrdiff_t>(kSectionText) || *p != '"')
+        return nullptr; // one of two digits may be longer by one
+    const std::size_t size = kUsualSize + (p[kSectionText - 1] == '"' ? 0 : 1);
     return p[size + 1] == '"' && ReadUsual(p + 1, size, section) ? p + size + 2 : nullptr;
 }
 
-// Of a section in quotes.
-constexpr std::size_t kSectionText = 21;
 constexpr std::size_t kSectionStep = kSectionText + 2; // to the same byte of the section behind it
 
 // The first and the last sixteen bytes of a section.

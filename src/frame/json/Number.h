@@ -55,14 +55,14 @@ inline const char* ReadShortDecimal(const char* token, const char* end, double& 
 const char* ReadReal(const char* token, const char* end, void* at) noexcept;
 const char* NumberTokenEnd(const char* token, const char* end) noexcept;
 
-// Negative integers that begin so are reals already: they are held back one decimal digit early.
+// Negative integers that begin so are reals already: integers are held back one decimal digit early, so that the
+// largest few of 32 bits are none.
 inline constexpr std::uint32_t kFirstDigitsOfReals = 214748364;
 
 // Reads the token that starts with the digit or the minus at `token` and puts what it says at `at`: an int or a uint
 // when it is a plain integer of 32 bits, otherwise a real. Null when it is no number, otherwise the token's end.
 inline const char* ReadNumber(const char* token, const char* end, void* at) noexcept {
     const bool negative = *token == '-';
-    // Integers are held back one decimal digit early, so the largest few of 32 bits are reals already.
     const std::uint32_t threshold = negative ? kFirstDigitsOfReals : 429496729U;
     const char* const digits = token + (negative ? 1 : 0);
     const char* p = digits;

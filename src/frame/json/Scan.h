@@ -51,6 +51,11 @@ inline const char* FindNonBlank(const char* p, const char* end) noexcept {
     return p;
 }
 
+// Whether the byte stands for itself between two tokens: neither a blank nor the start of a comment.
+inline bool IsPlainByte(char byte) noexcept {
+    return static_cast<unsigned char>(byte) > ' ' && byte != '/';
+}
+
 // The first byte past white space and comments, or `end`. A comment that never ends is left standing: its slash is no
 // token, so whoever meets it reports the syntax error.
 const char* SkipBlanksAndComments(const char* p, const char* end) noexcept;
@@ -58,7 +63,7 @@ const char* SkipBlanksAndComments(const char* p, const char* end) noexcept;
 // The same, for the usual text: one blank between two tokens or none.
 inline const char* SkipBlanks(const char* p, const char* end) noexcept {
     if (p != end && *p == ' ') ++p;
-    if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]] {
+    if (p != end && IsPlainByte(*p)) [[likely]] {
         return p;
     }
     return SkipBlanksAndComments(p, end);

@@ -44,6 +44,8 @@ inline const char* ReadScalar(const char* p, const char* end, Arena& arena, void
     }
 }
 
+inline constexpr std::uint64_t kEachByte = 0x0101010101010101u; // times a byte: eight of it
+
 // Up to eight digits, read eight bytes at once: how many digits follow one another is a guess that processors lose.
 struct FewDigits {
     static constexpr std::size_t kRoom = 8; // bytes that are looked at
@@ -61,12 +63,11 @@ constexpr std::uint32_t NumberOfDigits(std::uint64_t bytes, unsigned count) noex
     return static_cast<std::uint32_t>(bytes >> 32);
 }
 inline FewDigits ReadFewDigits(const char* p) noexcept {
-    constexpr std::uint64_t kEach = 0x0101010101010101u;
     std::uint64_t bytes;
     std::memcpy(&bytes, p, sizeof bytes);
     if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
-    bytes ^= '0' * kEach; // the values of digits
-    const std::uint64_t others = ((bytes + (0x80 - 10) * kEach) | bytes) & (0x80 * kEach);
+    bytes ^= '0' * kEachByte; // the values of digits
+    const std::uint64_t others = ((bytes + (0x80 - 10) * kEachByte) | bytes) & (0x80 * kEachByte);
     if (others == 0) return {FewDigits::kRoom, NumberOfDigits(bytes, FewDigits::kRoom)};
     const auto count = static_cast<unsigned>(std::countr_zero(others)) / 8;
     if (count == 0) return {0, 0};
@@ -162,18 +163,13 @@ inline const char* ReadFewNumbers(const char* p, const char* end, std::uint32_t 
         }
         std::uint64_t bytes;
         std::memcpy(&bytes, p + start, sizeof bytes);
-        numbers[i] = static_cast<std::int32_t>(NumberOfDigits(bytes ^ '0' * 0x0101010101010101u, behind - start));
+        numbers[i] = static_cast<std::int32_t>(NumberOfDigits(bytes ^ '0' * kEachByte, behind - start));
     }
     return (starts | commas) == 0 ? p + close + 1 : nullptr;
 #else
     static_cast<void>(p), static_cast<void>(end), static_cast<void>(count), static_cast<void>(numbers);
     return nullptr;
 #endif
-}
-
-// Whether the byte stands for itself between two tokens: neither a blank nor the start of a comment.
-inline bool IsPlainByte(char byte) noexcept {
-    return static_cast<unsigned char>(byte) > ' ' && byte != '/';
 }
 
 // A place in an open container: in front of its next entry, behind its end, or nowhere in what is no JSON.
@@ -198,11 +194,7 @@ inline Step NextEntry(const char* p, const char* end, char close) noexcept {
         if (next == p) return {nullptr, false};
         p = next;
     }
-    ++p;
-    if (p != end && *p == ' ') ++p;
-    if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]]
-        return {p, true};
-    p = SkipBlanksAndComments(p, end);
+    p = SkipBlanks(p + 1, end);
     return p == end ? Step{nullptr, false} : Step{p, true};
 }
 // Behind the opening bracket at `p`, as above.
@@ -252,11 +244,7 @@ inline const char* ValueBehindKey(const char* p, const char* end) noexcept {
         p = SkipBlanksAndComments(p, end);
         if (p == end || *p != ':') return nullptr;
     }
-    ++p;
-    if (p != end && *p == ' ') ++p;
-    if (p != end && static_cast<unsigned char>(*p) > ' ' && *p != '/') [[likely]]
-        return p;
-    p = SkipBlanksAndComments(p, end);
+    p = SkipBlanks(p + 1, end);
     return p == end ? nullptr : p;
 }
 

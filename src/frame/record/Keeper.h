@@ -23,7 +23,7 @@ class Keeper {
         }
         left_ -= size;
         last_ = new (copy) Kept{last_, at, size};
-        CopyOf(last_ + 1, at, size);
+        std::memcpy(last_ + 1, at, size);
         return true;
     }
     // Everything that was kept is again as it was; the latest first, since places may overlap.
@@ -34,14 +34,6 @@ class Keeper {
     bool failed() const noexcept { return failed_; }
 
   private:
-    // Most are words.
-    static void CopyOf(void* to, const std::byte* at, std::size_t size) noexcept {
-        if (size == 4)
-            std::memcpy(to, at, 4);
-        else
-            std::memcpy(to, at, size);
-    }
-
     struct Kept {
         Kept* before;
         std::byte* at;

@@ -77,7 +77,7 @@ inline const char* ValueOfNext(const Table& table, const Node& node, const char*
     if (end - p <= static_cast<std::ptrdiff_t>(size) || std::memcmp(ours, p, size) != 0) return nullptr;
 #endif
     p += size;
-    return static_cast<unsigned char>(*p) > ' ' && *p != '/' ? p : nullptr;
+    return json::IsPlainByte(*p) ? p : nullptr;
 }
 
 #if ORRERY_SSE2
